@@ -1,0 +1,52 @@
+# One floor of the house: a library that sees the headers of the floors it is given and no others.
+# Headers are included as "floor/Header.h"; each floor's headers stand behind a folder of links of
+# their own, so that including from a floor that was not given does not compile.
+
+# What every target of the house is compiled with: warnings are errors; arithmetic is done as it is
+# written, in the precision that is written (no fused multiply-add, no reordering).
+add_library(prisnost INTERFACE)
+target_compile_options(prisnost INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -ffp-contract=off -fno-fast-math)
+# GCC 12 sees overlapping copies in the library's own string concatenation, where there are none.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(prisnost INTERFACE -Wno-restrict)
+endif()
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "i[3-6]86")
+    target_compile_options(prisnost INTERFACE -msse2 -mfpmath=sse)
+endif()
+if(RYSOVNA_SANITIZE)
+    target_compile_options(prisnost INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+        -fno-omit-frame-pointer)
+    target_link_options(prisnost INTERFACE -fsanitize=address,undefined)
+endif()
+
+# patro(NAME [SLOZKA folder] [VIDI floors...] [KNIHOVNY libraries...])
+function(patro jmeno)
+    cmake_parse_arguments(P "" "SLOZKA" "VIDI;KNIHOVNY" ${ARGN})
+    if(NOT P_SLOZKA)
+        set(P_SLOZKA ${jmeno})
+    endif()
+    set(koren ${CMAKE_SOURCE_DIR}/src/${P_SLOZKA})
+    file(GLOB zdroje CONFIGURE_DEPENDS ${koren}/*.cpp)
+    file(GLOB hlavicky CONFIGURE_DEPENDS ${koren}/*.h)
+    set(okno ${CMAKE_BINARY_DIR}/hlavicky/${jmeno}/${P_SLOZKA})
+    file(REMOVE_RECURSE ${okno})
+    file(MAKE_DIRECTORY ${okno})
+    foreach(h ${hlavicky})
+        get_filename_component(soubor ${h} NAME)
+        file(CREATE_LINK ${h} ${okno}/${soubor} SYMBOLIC)
+    endforeach()
+    if(zdroje)
+        add_library(${jmeno} STATIC ${zdroje})
+        set(druh PUBLIC)
+        target_link_libraries(${jmeno} PRIVATE prisnost)
+    else()
+        add_library(${jmeno} INTERFACE)
+        set(druh INTERFACE)
+    endif()
+    target_include_directories(${jmeno} ${druh} ${CMAKE_BINARY_DIR}/hlavicky/${jmeno})
+    target_link_libraries(${jmeno} ${druh} ${P_VIDI})
+    if(zdroje)
+        target_link_libraries(${jmeno} PRIVATE ${P_KNIHOVNY})
+    endif()
+endfunction()

@@ -1,0 +1,13 @@
+#include "base/Chyba.h"
+
+#include <cstring>
+
+namespace rysovna {
+
+void Selhani(std::string_view co, std::source_location kde) {
+    const char* soubor = kde.file_name();
+    if (const char* lomitko = std::strrchr(soubor, '/')) soubor = lomitko + 1;
+    throw BehovaChyba(std::string(co), std::string(soubor) + ":" + std::to_string(kde.line()));
+}
+
+}  // namespace rysovna

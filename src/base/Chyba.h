@@ -1,0 +1,31 @@
+#pragma once
+
+#include <source_location>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace rysovna {
+
+/// A run-time fault: a table overrun, a number out of its type, a file that went missing, a
+/// division by zero. The one exception of the program. The checked primitives throw it and nobody
+/// but main catches it: a message box, the screen mode restored, exit status 1.
+class BehovaChyba : public std::runtime_error {
+public:
+    /// co: what went wrong, in Czech, as the user reads it. kde: the place, "file:line" of a data
+    /// file or of the code.
+    BehovaChyba(const std::string& co, std::string kde)
+        : std::runtime_error(co + " (" + kde + ")"), kde_(std::move(kde)) {}
+
+    /// The place alone.
+    [[nodiscard]] const std::string& Kde() const { return kde_; }
+
+private:
+    std::string kde_;
+};
+
+/// Throws a fault whose place is the caller's line of code.
+[[noreturn]] void Selhani(std::string_view co,
+                          std::source_location kde = std::source_location::current());
+
+}  // namespace rysovna

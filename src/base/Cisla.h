@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <source_location>
+#include <string>
+#include <string_view>
+
+namespace rysovna {
+
+/// Rounds to the nearest whole number, ties to the even neighbour (0.5 to 0, 1.5 to 2): the rule
+/// by which a floating-point value becomes a pixel. A result that does not fit 32 bits, or a
+/// value that is not a number, is a run-time fault.
+int Zaokrouhli(double x, std::source_location kde = std::source_location::current());
+
+/// The next lower whole number. Faults as Zaokrouhli.
+int Podlaha(double x, std::source_location kde = std::source_location::current());
+
+/// An unsigned byte, ties to even. A value below 0 or above 255 is a run-time fault.
+std::uint8_t Bajt(double x, std::source_location kde = std::source_location::current());
+
+/// The lenient conversion of text to a number: leading blanks are skipped, then a sign, digits and
+/// a decimal point count as long as they last; what is no number is 0. "12,5" is 12, "" is 0.
+double Cislo(std::string_view text);
+
+/// A whole number as the system writes numbers: a blank in place of the sign of one that is not
+/// negative. 0 is " 0", -3 is "-3".
+std::string TextCisla(int cislo);
+
+/// A whole number without any blank: 0 is "0".
+std::string TextBezMezery(int cislo);
+
+/// The format "#0": a whole number, halves away from zero (2.5 is "3", -2.5 is "-3").
+std::string FormatCele(double x);
+
+/// The format "#.00000": five decimals, no digit before the point where the value is below 1
+/// (0 is ".00000"). Angles are the same when they print the same under it.
+std::string FormatPetMist(double x);
+
+/// Two digits with a leading zero, as in the names of a task's files: 1 is "01".
+std::string DveCislice(int cislo);
+
+}  // namespace rysovna
