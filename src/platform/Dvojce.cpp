@@ -1,0 +1,181 @@
+#include <cairo.h>
+#include <cmath>
+
+#include "platform/Pisma.h"
+#include "platform/Seznam.h"
+
+namespace rysovna {
+
+namespace {
+
+/// Paints items of a display list over a bitmap at a scale. Strokes go through Cairo, everything
+/// else is done on the pixels.
+class Prehravac {
+public:
+    Prehravac(Bitmapa& cil, double s) : cil_(cil), s_(s) {}
+    ~Prehravac() {
+        if (cairo_ == nullptr) return;
+        cairo_destroy(cairo_);
+        cairo_surface_destroy(plocha_);
+    }
+    Prehravac(const Prehravac&) = delete;
+    Prehravac& operator=(const Prehravac&) = delete;
+
+    void operator()(const PolozkaUsecky& u) {
+        const double sirka = SirkaPera(u.Pero);
+        Tah(u.Barva, sirka);
+        const bool svisla = u.X1 == u.X2;
+        const bool vodorovna = u.Y1 == u.Y2;
+        cairo_set_line_cap(cairo_,
+                           svisla || vodorovna ? CAIRO_LINE_CAP_SQUARE : CAIRO_LINE_CAP_ROUND);
+        const double x1 = svisla ? NaMrizku(u.X1, sirka) : Stred(u.X1);
+        const double x2 = svisla ? x1 : Stred(u.X2);
+        const double y1 = vodorovna ? NaMrizku(u.Y1, sirka) : Stred(u.Y1);
+        const double y2 = vodorovna ? y1 : Stred(u.Y2);
+        cairo_move_to(cairo_, x1, y1);
+        cairo_line_to(cairo_, x2, y2);
+        cairo_stroke(cairo_);
+    }
+
+    void operator()(const PolozkaKruznice& k) {
+        if (k.R < 0) return;
+        Tah(k.Barva, SirkaPera(k.Pero));
+        cairo_new_path(cairo_);
+        const double r = static_cast<double>(k.R) + (k.Pero == 0 || k.R == 0 ? 0.5 : 0);
+        cairo_arc(cairo_, Stred(k.X), Stred(k.Y), r * s_, 0, 2 * 3.14159265358979323846);
+        if (k.Pero == 0 || k.R == 0) {
+            cairo_fill(cairo_);
+        } else {
+            cairo_stroke(cairo_);
+        }
+    }
+
+    void operator()(const PolozkaTextu& t) {
+        Dokonci();
+        KresliText(cil_.Pohled(), cil_.Pohled().Meze(), static_cast<double>(t.X) * s_,
+                   static_cast<double>(t.Y) * s_, s_, t.Font, t.Text, t.Barva, Hladkost::Seda);
+    }
+
+    void operator()(const PolozkaVyplne& v) {
+        Dokonci();
+        cil_.Pohled().Vypln(Zvetsi(v.Kam, s_), v.Barva);
+    }
+
+    void operator()(const PolozkaObrazku& o) {
+        Dokonci();
+        if (o.Co.Prazdny()) return;
+        const Obdelnik& vyrez = o.Co.Vyrez();
+        Prenes(cil_.Pohled(), Zvetsi({o.X, o.Y, vyrez.Width, vyrez.Height}, s_),
+               cil_.Pohled().Meze(), o.Co.Data()->VeVelikosti(s_), Zvetsi(vyrez.Left, s_),
+               Zvetsi(vyrez.Top, s_), Prenos::Kopie);
+    }
+
+    void operator()(const PolozkaKopie& k) {
+        Dokonci();
+        Bitmapa docasna;
+        Prenes(cil_.Pohled(), Zvetsi(k.Kam, s_), cil_.Pohled().Meze(),
+               Vykresli(k.Zdroj, s_, docasna), Zvetsi(k.ZX, s_), Zvetsi(k.ZY, s_), k.Jak, k.Klic);
+    }
+
+    void operator()(const PolozkaPixelu& p) {
+        Dokonci();
+        const Obdelnik kam = Zvetsi(p.Kam, s_);
+        if (JePrazdny(kam)) return;
+        // One bit, or the key: no new colours may come in at the edges.
+        const bool ostre = p.Jak != Prenos::Kopie;
+        const Bitmapa vetsi =
+            ostre ? Zopakuj(*p.Co, kam) : Preskaluj(*p.Co, kam.Width, kam.Height, true);
+        Prenes(cil_.Pohled(), kam, cil_.Pohled().Meze(), vetsi, 0, 0, p.Jak, p.Klic);
+    }
+
+    void operator()(const PolozkaObraceni& o) {
+        Dokonci();
+        cil_.Pohled().Obrat(Zvetsi(o.Kde, s_));
+    }
+
+private:
+    static Bitmapa Zopakuj(const Bitmapa& zdroj, const Obdelnik& kam) {
+        Bitmapa cil(kam.Width, kam.Height, 0);
+        for (int y = 0; y < cil.Vyska; ++y) {
+            const Pixel* z = zdroj.Radka(y * zdroj.Vyska / cil.Vyska);
+            for (int x = 0; x < cil.Sirka; ++x)
+                cil.Pohled().Radka(y)[x] = z[x * zdroj.Sirka / cil.Sirka];
+        }
+        return cil;
+    }
+
+    /// The middle of a design pixel.
+    [[nodiscard]] double Stred(float x) const { return (static_cast<double>(x) + 0.5) * s_; }
+
+    /// Whole pixels, so that upright and level strokes have hard edges.
+    [[nodiscard]] double SirkaPera(int pero) const {
+        return std::max(1.0, std::round(std::max(pero, 1) * s_));
+    }
+
+    /// The middle of a stroke of this width whose edges lie between pixels.
+    [[nodiscard]] double NaMrizku(float x, double sirka) const {
+        return std::round(Stred(x) - sirka / 2) + sirka / 2;
+    }
+
+    void Tah(Pixel barva, double sirka) {
+        if (cairo_ == nullptr) {
+            plocha_ = cairo_image_surface_create_for_data(
+                reinterpret_cast<unsigned char*>(cil_.Body.data()), CAIRO_FORMAT_RGB24, cil_.Sirka,
+                cil_.Vyska, cil_.Sirka * static_cast<int>(sizeof(Pixel)));
+            cairo_ = cairo_create(plocha_);
+        }
+        if (!maluje_) cairo_surface_mark_dirty(plocha_);
+        maluje_ = true;
+        const auto kanal = [barva](unsigned posun) { return ((barva >> posun) & 0xFFu) / 255.0; };
+        cairo_set_source_rgb(cairo_, kanal(16), kanal(8), kanal(0));
+        cairo_set_line_width(cairo_, sirka);
+    }
+
+    void Dokonci() {
+        if (maluje_) cairo_surface_flush(plocha_);
+        maluje_ = false;
+    }
+
+    Bitmapa& cil_;
+    double s_;
+    cairo_surface_t* plocha_ = nullptr;
+    cairo_t* cairo_ = nullptr;
+    bool maluje_ = false;
+};
+
+Bitmapa Zaklad(const Seznam& seznam, double s) {
+    Bitmapa b(Zvetsi(seznam.Sirka, s), Zvetsi(seznam.Vyska, s), seznam.Pozadi);
+    if (!seznam.Podklad.Prazdny()) Prehravac(b, s)(PolozkaObrazku{seznam.Podklad, 0, 0});
+    return b;
+}
+
+void Prehraj(const Seznam& seznam, std::size_t od, std::size_t po, double s, Bitmapa& b) {
+    if (b.Prazdna()) return;
+    Prehravac prehravac(b, s);
+    for (std::size_t i = od; i < po; ++i) std::visit(prehravac, seznam.Polozky[i]);
+    // What Cairo leaves in the unused byte is not ours to rely on.
+    for (Pixel& p : b.Body) p |= 0xFF000000u;
+}
+
+}  // namespace
+
+const Bitmapa& Vykresli(const Okamzik& okamzik, double s, Bitmapa& docasna) {
+    Seznam& seznam = *okamzik.Kde;
+    const bool platne = seznam.Meritko == s;
+    if (platne && seznam.Vykresleno > okamzik.Pocet) {
+        docasna = Zaklad(seznam, s);
+        Prehraj(seznam, 0, okamzik.Pocet, s, docasna);
+        return docasna;
+    }
+    if (!platne) {
+        seznam.Dvojce = Zaklad(seznam, s);
+        seznam.Meritko = s;
+        seznam.Vykresleno = 0;
+    }
+    if (seznam.Vykresleno < okamzik.Pocet)
+        Prehraj(seznam, seznam.Vykresleno, okamzik.Pocet, s, seznam.Dvojce);
+    seznam.Vykresleno = okamzik.Pocet;
+    return seznam.Dvojce;
+}
+
+}  // namespace rysovna

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Ovladace.h"
+
+namespace rysovna {
+
+/// A screen: a record of its own with its objects, and the calls by which events reach it. One
+/// class per screen derives from it. Made and destroyed by Obrazovky alone.
+///
+/// A wait inside a handler lets further events through, and one of them may unload the very form
+/// whose handler waits. Unloading hides at once; the form is destroyed when no handler of it is
+/// running. After a wait, a handler asks Zavreny() and touches nothing shared if it says yes.
+class Form : public std::enable_shared_from_this<Form> {
+public:
+    virtual ~Form() = default;
+
+    /// Name of the screen, "SelectForm": tests find it by this.
+    [[nodiscard]] virtual std::string_view Jmeno() const = 0;
+
+    std::string Caption;
+    int Left = 0, Top = 0, Width = 640, Height = 480;  ///< design pixels
+    bool Maximised = false;
+    Barva BackColor = CERNA;
+    Obrazek Picture;
+
+    [[nodiscard]] bool Viditelny() const { return viditelny_; }
+    [[nodiscard]] bool Zavreny() const { return zavreny_; }
+
+    /// The objects in the order of painting: later ones cover earlier ones.
+    [[nodiscard]] const std::vector<Ovladac*>& Ovladace() const { return ovladace_; }
+    /// By name and index (0 for one that stands alone); null if there is none.
+    [[nodiscard]] Ovladac* Najdi(std::string_view jmeno, int index = 0) const;
+    void DoPopredi(Ovladac& o);
+    /// Gives a text box the keyboard.
+    void SetFocus(TextBox& t) { zamereni_ = &t; }
+    [[nodiscard]] TextBox* Zamereni() const { return zamereni_; }
+    void ZrusZamereni() { zamereni_ = nullptr; }
+
+    // Events. o is the object; null is the form itself. A subclass takes those that it wants.
+    virtual void Load() {}
+    virtual void Unload() {}
+    virtual void Activate() {}
+    /// Just before a painter paints the form: for what is laid out anew only when it is seen.
+    virtual void Paint() {}
+    virtual void MouseDown(Ovladac* /*o*/, const Mys& /*m*/) {}
+    virtual void MouseMove(Ovladac* /*o*/, const Mys& /*m*/) {}
+    virtual void MouseUp(Ovladac* /*o*/, const Mys& /*m*/) {}
+    /// The left button went down and up over the same object.
+    virtual void Click(Ovladac* /*o*/) {}
+    /// Comes with the second press of a double click, between its MouseDown and MouseUp, and takes
+    /// nothing away: each of the two presses gives MouseDown, MouseUp and Click of its own. So a
+    /// screen that counts presses has no use for it.
+    virtual void DblClick(Ovladac* /*o*/) {}
+    /// The person edited the text. What the program itself writes into a text box gives no event.
+    virtual void Change(TextBox& /*t*/) {}
+    virtual void TimerTick(Timer& /*t*/) {}
+    /// A key that no text box took: "Return", "Escape", ... True if the form used it.
+    virtual bool Klavesa(std::string_view /*klavesa*/) { return false; }
+    /// The window is being closed from outside. The shell's root screen asks its exit question.
+    virtual void QueryUnload() {}
+
+protected:
+    /// Enters an object into the form at its place, as the design lays it out.
+    void Pridej(Ovladac& o, std::string_view jmeno, Obdelnik misto, Ovladac* rodic = nullptr);
+    /// Enters an array: row 1 (or prvniIndex) is its first member. All get the same place: the
+    /// load handler spreads them.
+    template <class T, std::size_t N>
+    void PridejPole(std::array<T, N>& pole, std::string_view jmeno, Obdelnik misto,
+                    Ovladac* rodic = nullptr, int prvniIndex = 1) {
+        for (std::size_t i = 0; i < N; ++i) {
+            Pridej(pole[i], jmeno, misto, rodic);
+            pole[i].Index = static_cast<int>(i) + prvniIndex;
+        }
+    }
+    /// Whether an object is a member of the array; gives its index by .Index.
+    template <class T, std::size_t N>
+    [[nodiscard]] static bool Je(const std::array<T, N>& pole, const Ovladac* o) {
+        for (const T& prvek : pole) {
+            if (&prvek == o) return true;
+        }
+        return false;
+    }
+
+private:
+    friend class Obrazovky;
+    std::vector<Ovladac*> ovladace_;
+    TextBox* zamereni_ = nullptr;
+    bool viditelny_ = false;
+    bool zavreny_ = false;
+};
+
+}  // namespace rysovna

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace rysovna {
+
+class Obrazovky;
+
+/// A screen mode: width and height in pixels, bits per pixel.
+struct RezimObrazovky {
+    int Sirka = 0, Vyska = 0, Barvy = 0;
+    friend bool operator==(const RezimObrazovky&, const RezimObrazovky&) = default;
+};
+
+/// Local date and time of day, as the log prints them.
+struct DatumACas {
+    int Rok = 2000, Mesic = 1, Den = 1, Hodina = 0, Minuta = 0;
+};
+
+/// Buttons and icon of a message box, and its answers.
+enum class Styl : int { Ok = 0, Stop = 16, OtazkaAnoNe = 36 };
+enum class Odpoved : int { Ok = 1, Ano = 6, Ne = 7 };
+
+/// All that the program wants from a machine. There are two full hosts: the window and the
+/// headless one. The program asks no clock, no screen and no sound device but through here.
+class Host {
+public:
+    Host();
+    virtual ~Host();
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+
+    /// Milliseconds since some start. The headless clock moves only when the program waits.
+    [[nodiscard]] virtual std::uint32_t TickCount() = 0;
+    /// Handles what is pending (input, timers), paints what changed, then waits for the next thing
+    /// to happen, at most the given milliseconds. 0 never waits.
+    virtual void DoEvents(std::uint32_t nejvyseMs) = 0;
+    /// Waits with no event let through: the pace of an animation.
+    virtual void Spi(std::uint32_t ms) = 0;
+    /// Paints what changed, at once, with no event let through.
+    virtual void Prekresli() = 0;
+
+    /// A modal message box in the window, in the program's own style.
+    virtual Odpoved MsgBox(const std::string& text, const std::string& titul, Styl styl) = 0;
+    /// Starts a sound and returns at once; the sound that was playing ends. A missing device is
+    /// no fault. cesta: with backslashes, as the program spells paths.
+    virtual void SndPlaySound(std::string_view cesta) = 0;
+
+    /// The mode of the screen; switching it (0: done, anything else: could not be).
+    [[nodiscard]] virtual RezimObrazovky GetDeviceCaps() = 0;
+    virtual int ChangeDisplaySettings(const RezimObrazovky& rezim) = 0;
+    /// Twips per pixel: 15 at every display scale, so the design geometry never changes.
+    [[nodiscard]] virtual int TwipsPerPixel() const { return 15; }
+    /// The folder that holds Rysovna.ini, with a final separator or without.
+    [[nodiscard]] virtual std::string WindowsDirectory() = 0;
+
+    /// A seed for the generator of examples.
+    [[nodiscard]] virtual std::uint32_t Seminko() = 0;
+    [[nodiscard]] virtual DatumACas Nyni() = 0;
+
+    [[nodiscard]] virtual std::string SchrankaText() = 0;
+    virtual void DoSchranky(const std::string& text) = 0;
+    /// The person wants typed text (a text box has the focus) or no longer.
+    virtual void PsaniTextu(bool ano, int x, int y) = 0;
+
+    /// The screens that stand on this machine.
+    [[nodiscard]] Obrazovky& Okna() { return *okna_; }
+
+private:
+    std::unique_ptr<Obrazovky> okna_;
+};
+
+/// The host of this process, set once by main (by each test for its own). Asking without one is a
+/// fault.
+[[nodiscard]] Host& Stroj();
+
+/// Makes a host the process's host for the life of this object.
+class HostNaDobu {
+public:
+    explicit HostNaDobu(Host& host);
+    ~HostNaDobu();
+    HostNaDobu(const HostNaDobu&) = delete;
+    HostNaDobu& operator=(const HostNaDobu&) = delete;
+
+private:
+    Host* drivejsi_;
+};
+
+/// A path of the system's own spelling (backslashes, any case) as a real one. Parts that exist
+/// under another case are taken as they are on the disk.
+[[nodiscard]] std::filesystem::path NativniCesta(std::string_view cesta);
+
+}  // namespace rysovna

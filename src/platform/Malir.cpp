@@ -1,0 +1,216 @@
+#include "platform/Malir.h"
+
+#include <algorithm>
+#include <cairo.h>
+#include <cmath>
+#include <optional>
+
+#include "base/Chyba.h"
+#include "platform/MalirObjektu.h"
+#include "platform/Obrazovky.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr int NAVRH_SIRKA = 640, NAVRH_VYSKA = 480;
+constexpr Obdelnik NAVRH{0, 0, NAVRH_SIRKA, NAVRH_VYSKA};
+/// More dirty rectangles than this are painted as one.
+constexpr std::size_t NEJVIC_OBDELNIKU = 8;
+
+/// A form or object as it was painted.
+struct Zaznam {
+    const Form* Formular = nullptr;  ///< of a form's ground; null of an object
+    Umisteny Objekt;
+    std::uint64_t Otisk = 0;
+
+    [[nodiscard]] bool Stejny(const Zaznam& z) const {
+        return Formular == z.Formular && Objekt.Co == z.Objekt.Co;
+    }
+};
+
+/// All that is to be painted, the lowest first.
+class Soupis {
+public:
+    Soupis(const Obrazovky& okna, bool kurzor) : psane_(okna.Psane()), kurzor_(kurzor) {
+        const auto& formy = okna.Viditelne();
+        // What stands below a form of full size cannot be seen.
+        std::size_t prvni = formy.size();
+        while (prvni > 0) {
+            --prvni;
+            if (Pokryva(Misto(*formy[prvni]), NAVRH)) break;
+        }
+        for (std::size_t i = prvni; i < formy.size(); ++i) {
+            const Form& f = *formy[i];
+            const Obdelnik misto = Misto(f);
+            Zaznam z;
+            z.Formular = &f;
+            z.Objekt.Kde = misto;
+            z.Objekt.Videt = Prunik(misto, NAVRH);
+            z.Otisk = OtiskFormu(f);
+            Radky.push_back(z);
+            Deti(f, nullptr, {misto.Left, misto.Top}, z.Objekt.Videt);
+        }
+    }
+
+    std::vector<Zaznam> Radky;
+
+private:
+    static Obdelnik Misto(const Form& f) {
+        return {f.Maximised ? 0 : f.Left, f.Maximised ? 0 : f.Top, f.Width, f.Height};
+    }
+
+    void Deti(const Form& f, const Ovladac* rodic, Bod roh, const Obdelnik& videt) {
+        for (const Ovladac* o : f.Ovladace()) {
+            if (o->Rodic != rodic || !o->Visible || o->Druh == Ovladac::Typ::Timer) continue;
+            Zaznam z;
+            z.Objekt.Co = o;
+            z.Objekt.Kde = DosahTvaru(*o);
+            z.Objekt.Kde.Left += roh.X;
+            z.Objekt.Kde.Top += roh.Y;
+            z.Objekt.Videt = Prunik(z.Objekt.Kde, videt);
+            if (JePrazdny(z.Objekt.Videt)) continue;
+            z.Objekt.Zamereny = o == psane_;
+            z.Otisk = OtiskObjektu(z.Objekt, kurzor_);
+            Radky.push_back(z);
+            if (o->Druh == Ovladac::Typ::PictureBox)
+                Deti(f, o, {z.Objekt.Kde.Left, z.Objekt.Kde.Top}, z.Objekt.Videt);
+        }
+    }
+
+    const TextBox* psane_;
+    bool kurzor_;
+};
+
+/// The design rectangles in which the two differ. Both run in the order of painting; what stands
+/// in one alone, or lies elsewhere in the order, is dirty.
+std::vector<Obdelnik> Rozdily(const std::vector<Zaznam>& drive, const std::vector<Zaznam>& nyni) {
+    std::vector<Obdelnik> spinave;
+    const auto pridej = [&](const Zaznam& z) { spinave.push_back(z.Objekt.Videt); };
+    std::size_t i = 0;
+    for (const Zaznam& n : nyni) {
+        // Looks ahead for the record of last time; what is skipped is gone, or comes later.
+        std::size_t j = i;
+        while (j < drive.size() && !drive[j].Stejny(n)) ++j;
+        if (j == drive.size()) {
+            pridej(n);
+            continue;
+        }
+        for (; i < j; ++i) pridej(drive[i]);
+        if (drive[i].Otisk != n.Otisk || !(drive[i].Objekt == n.Objekt)) {
+            pridej(drive[i]);
+            pridej(n);
+        }
+        ++i;
+    }
+    for (; i < drive.size(); ++i) pridej(drive[i]);
+    return spinave;
+}
+
+/// Rectangles that touch are joined, until there are few.
+void Spoj(std::vector<Obdelnik>& obdelniky) {
+    std::erase_if(obdelniky, [](const Obdelnik& o) { return JePrazdny(o); });
+    bool zmena = true;
+    while (zmena) {
+        zmena = false;
+        for (std::size_t i = 0; i < obdelniky.size() && !zmena; ++i) {
+            for (std::size_t j = i + 1; j < obdelniky.size() && !zmena; ++j) {
+                if (JePrazdny(Prunik(obdelniky[i], obdelniky[j]))) continue;
+                obdelniky[i] = Obal(obdelniky[i], obdelniky[j]);
+                obdelniky.erase(obdelniky.begin() + static_cast<std::ptrdiff_t>(j));
+                zmena = true;
+            }
+        }
+    }
+    if (obdelniky.size() <= NEJVIC_OBDELNIKU) return;
+    Obdelnik vse;
+    for (const Obdelnik& o : obdelniky) vse = Obal(vse, o);
+    obdelniky = {vse};
+}
+
+}  // namespace
+
+struct Malir::Vnitrek {
+    bool Vse = true;
+    int Sirka = 0, Vyska = 0;
+    std::uint64_t Verze = 0;
+    std::vector<Zaznam> Radky;
+};
+
+Umisteni Umisteni::Vejdi(int sirka, int vyska) {
+    Umisteni u;
+    u.S = std::max(std::min(static_cast<double>(sirka) / NAVRH_SIRKA,
+                            static_cast<double>(vyska) / NAVRH_VYSKA),
+                   0.1);
+    u.X = (sirka - Zvetsi(NAVRH_SIRKA, u.S)) / 2;
+    u.Y = (vyska - Zvetsi(NAVRH_VYSKA, u.S)) / 2;
+    return u;
+}
+
+Malir::Malir() : vnitrek_(std::make_unique<Vnitrek>()) {}
+
+Malir::~Malir() = default;
+
+void Malir::Znovu() {
+    vnitrek_->Vse = true;
+}
+
+std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, std::uint32_t ted) {
+    Vnitrek& v = *vnitrek_;
+    const Umisteni umisteni = Umisteni::Vejdi(cil.Sirka, cil.Vyska);
+    const bool kurzor = (ted - okna.PosledniPsani()) / BLIKANI % 2 == 0;
+    Soupis soupis(okna, kurzor);
+
+    Kresba k;
+    k.Cil = {cil.Body, cil.Sirka, cil.Vyska, cil.Krok};
+    k.S = umisteni.S;
+    k.X0 = umisteni.X;
+    k.Y0 = umisteni.Y;
+    k.Kurzor = kurzor;
+
+    std::vector<Obdelnik> spinave;
+    // A screen that came or went may stand at the address of an old one: no comparing then.
+    const bool vse =
+        v.Vse || v.Sirka != cil.Sirka || v.Vyska != cil.Vyska || v.Verze != okna.Verze();
+    if (vse) {
+        const bool okraje = v.Vse || v.Sirka != cil.Sirka || v.Vyska != cil.Vyska;
+        if (okraje) {
+            k.Cil.Vypln(k.Cil.Meze(), DoPixelu(CERNA));
+            spinave = {k.Cil.Meze()};
+        } else {
+            spinave = {k.NaCil(NAVRH)};
+            k.Cil.Vypln(spinave[0], DoPixelu(CERNA));
+        }
+    } else {
+        spinave = Rozdily(v.Radky, soupis.Radky);
+        Spoj(spinave);
+        for (Obdelnik& o : spinave) o = Prunik(k.NaCil(o), k.NaCil(NAVRH));
+        std::erase_if(spinave, [](const Obdelnik& o) { return JePrazdny(o); });
+    }
+    for (const Obdelnik& o : spinave) {
+        k.Orez = Prunik(o, k.NaCil(NAVRH));
+        for (const Zaznam& z : soupis.Radky) {
+            if (z.Formular != nullptr) {
+                NamalujForm(k, *z.Formular, z.Objekt.Kde);
+            } else {
+                NamalujObjekt(k, z.Objekt);
+            }
+        }
+    }
+    v = {false, cil.Sirka, cil.Vyska, okna.Verze(), std::move(soupis.Radky)};
+    return spinave;
+}
+
+void UlozSnimek(const Obrazovky& okna, std::uint32_t ted, const std::string& soubor,
+                double meritko) {
+    Bitmapa b(Zvetsi(NAVRH_SIRKA, meritko), Zvetsi(NAVRH_VYSKA, meritko), 0);
+    Malir().Namaluj({b.Body.data(), b.Sirka, b.Vyska, b.Sirka}, okna, ted);
+    cairo_surface_t* png = cairo_image_surface_create_for_data(
+        reinterpret_cast<unsigned char*>(b.Body.data()), CAIRO_FORMAT_RGB24, b.Sirka, b.Vyska,
+        b.Sirka * static_cast<int>(sizeof(Pixel)));
+    const cairo_status_t stav = cairo_surface_write_to_png(png, soubor.c_str());
+    cairo_surface_destroy(png);
+    if (stav != CAIRO_STATUS_SUCCESS) throw BehovaChyba("Nelze zapsat snímek", soubor);
+}
+
+}  // namespace rysovna

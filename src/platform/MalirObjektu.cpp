@@ -1,0 +1,329 @@
+#include "platform/MalirObjektu.h"
+
+#include <algorithm>
+#include <cairo.h>
+#include <cmath>
+
+#include "platform/Pisma.h"
+#include "platform/PsaniTextu.h"
+#include "platform/SurfaceVnitrek.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr Pixel VYBER = DoPixelu(Rgb(36, 60, 120));
+constexpr Pixel OBRYS = DoPixelu(Rgb(120, 128, 148));
+constexpr Pixel OBRYS_ZAMERENY = DoPixelu(Rgb(36, 60, 120));
+
+/// FNV-1a over whatever makes a look.
+class Otisk {
+public:
+    void Pridej(const void* data, std::size_t n) {
+        const auto* b = static_cast<const unsigned char*>(data);
+        for (std::size_t i = 0; i < n; ++i) otisk_ = (otisk_ ^ b[i]) * 1099511628211ULL;
+    }
+    template <class T>
+    requires std::is_arithmetic_v<T> || std::is_pointer_v<T> || std::is_enum_v<T>
+    void Pridej(T x) { Pridej(&x, sizeof x); }
+    void Pridej(const std::string& s) {
+        Pridej(s.size());
+        Pridej(s.data(), s.size());
+    }
+    void Pridej(const Pismo& p) {
+        Pridej(p.Nazev);
+        Pridej(p.Velikost);
+        Pridej(p.Kurziva);
+        Pridej(p.Tucne);
+    }
+    void Pridej(const Obrazek& o) {
+        Pridej(o.Data().get());
+        Pridej(o.Vyrez().Left);
+        Pridej(o.Vyrez().Width);
+    }
+    [[nodiscard]] std::uint64_t Hodnota() const { return otisk_; }
+
+private:
+    std::uint64_t otisk_ = 14695981039346656037ULL;
+};
+
+void NamalujObrazek(const Kresba& k, const Obdelnik& kde, const Obrazek& obrazek) {
+    if (obrazek.Prazdny()) return;
+    const Obdelnik& vyrez = obrazek.Vyrez();
+    DataObrazku& data = *obrazek.Data();
+    const Obdelnik kam = k.NaCil({kde.Left, kde.Top, vyrez.Width, vyrez.Height});
+    Prenes(k.Cil, kam, Prunik(k.Orez, k.NaCil(kde)), data.VeVelikosti(k.S), Zvetsi(vyrez.Left, k.S),
+           Zvetsi(vyrez.Top, k.S), data.MaKlic ? Prenos::BezKlice : Prenos::Kopie);
+}
+
+void Ram(const Kresba& k, const Obdelnik& kde, Pixel barva) {
+    const Obdelnik r = k.NaCil(kde);
+    const int t = std::max(1, static_cast<int>(std::lround(k.S)));
+    const auto pruh = [&](const Obdelnik& o) { k.Cil.Vypln(Prunik(o, k.Orez), barva); };
+    pruh({r.Left, r.Top, r.Width, t});
+    pruh({r.Left, r.Top + r.Height - t, r.Width, t});
+    pruh({r.Left, r.Top, t, r.Height});
+    pruh({r.Left + r.Width - t, r.Top, t, r.Height});
+}
+
+void Namaluj(const Kresba& k, const Obdelnik& kde, const PictureBox& p) {
+    if (const Surface* plocha = p.PlochaNeboNic()) {
+        const Surface::Vnitrek& v = plocha->Uvnitr();
+        Bitmapa docasna;
+        const Bitmapa& obraz = k.S == 1 ? v.Logicka : Vykresli(v.Obsah, k.S, docasna);
+        Prenes(k.Cil, k.NaCil(kde), k.Orez, obraz, 0, 0,
+               v.MaKlic ? Prenos::BezKlice : Prenos::Kopie);
+    } else {
+        if (!p.Pruhledny && !(p.Picture.Width() >= p.Width && p.Picture.Height() >= p.Height))
+            k.Cil.Vypln(Prunik(k.NaCil(kde), k.Orez), DoPixelu(p.BackColor));
+        NamalujObrazek(k, kde, p.Picture);
+    }
+    if (p.Ramecek) Ram(k, kde, OBRYS);
+}
+
+void Radek(const Kresba& k, double x, double y, const Pismo& pismo, const std::string& text,
+           Pixel barva, const Obdelnik& orez) {
+    KresliText(k.Cil, Prunik(k.Orez, orez), k.X0 + x * k.S, k.Y0 + y * k.S, k.S, pismo, text, barva,
+               Hladkost::Seda);
+}
+
+void Namaluj(const Kresba& k, const Obdelnik& kde, const Label& l) {
+    const Obdelnik misto = k.NaCil(kde);
+    if (l.BackColor != BEZ_BARVY) k.Cil.Vypln(Prunik(misto, k.Orez), DoPixelu(l.BackColor));
+    if (l.Caption.empty()) return;
+    int y = kde.Top;
+    for (const std::string& radek :
+         RozdelNaRadky(l.Font, l.Caption, l.WordWrap ? std::max(l.Width, 1) : 0)) {
+        const double volno = l.Alignment == 0 ? 0 : kde.Width - PresnaSirka(l.Font, radek);
+        Radek(k, kde.Left + (l.Alignment == 2 ? volno / 2 : volno), y, l.Font, radek,
+              DoPixelu(l.ForeColor), misto);
+        y += VyskaRadku(l.Font);
+    }
+}
+
+void NamalujRadkyTextu(const Kresba& k, const Obdelnik& kde, const TextBox& t) {
+    const Obdelnik misto = k.NaCil(kde);
+    int y = kde.Top + OKRAJ_TEXTU;
+    for (const std::string& radek :
+         RozdelNaRadky(t.Font, t.Text, std::max(t.Width - 2 * OKRAJ_TEXTU, 1))) {
+        Radek(k, kde.Left + OKRAJ_TEXTU, y, t.Font, radek, DoPixelu(CERNA), misto);
+        y += VyskaRadku(t.Font);
+    }
+}
+
+void Namaluj(const Kresba& k, const Obdelnik& kde, const TextBox& t, bool zamereny) {
+    k.Cil.Vypln(Prunik(k.NaCil(kde), k.Orez), DoPixelu(t.BackColor));
+    Ram(k, kde, zamereny ? OBRYS_ZAMERENY : OBRYS);
+    if (t.MultiLine) {
+        NamalujRadkyTextu(k, kde, t);
+        return;
+    }
+    const Obdelnik vnitrek{kde.Left + 2, kde.Top + 1, kde.Width - 4, kde.Height - 2};
+    const Obdelnik orez = k.NaCil(vnitrek);
+    const double x = kde.Left + OKRAJ_TEXTU - t.Posun;
+    const double y = kde.Top + (kde.Height - VyskaRadku(t.Font)) / 2.0;
+    Radek(k, x, y, t.Font, t.Text, DoPixelu(CERNA), orez);
+    if (!zamereny) return;
+
+    const std::vector<double> zacatky = Zacatky(t.Font, t.Text);
+    const auto misto = [&](int i) {
+        const int konec = static_cast<int>(zacatky.size()) - 1;
+        return x + zacatky[static_cast<std::size_t>(std::clamp(i, 0, konec))];
+    };
+    const int vyska = VyskaRadku(t.Font);
+    const auto svisle = [&](double x1, double x2) {
+        const int a = k.X0 + static_cast<int>(std::lround(x1 * k.S));
+        const int b = k.X0 + static_cast<int>(std::lround(x2 * k.S));
+        const Obdelnik r = k.NaCil({0, static_cast<int>(y), 1, vyska});
+        return Obdelnik{a, r.Top, b - a, r.Height};
+    };
+    if (t.SelStart != t.SelAnchor) {
+        const Obdelnik vyber = Prunik(svisle(misto(std::min(t.SelStart, t.SelAnchor)),
+                                             misto(std::max(t.SelStart, t.SelAnchor))),
+                                      orez);
+        k.Cil.Vypln(Prunik(vyber, k.Orez), VYBER);
+        Radek(k, x, y, t.Font, t.Text, DoPixelu(BILA), vyber);
+    }
+    if (k.Kurzor) {
+        Obdelnik kurzor = svisle(misto(t.SelStart), misto(t.SelStart));
+        kurzor.Width = std::max(1, static_cast<int>(std::lround(k.S)));
+        k.Cil.Vypln(Prunik(Prunik(kurzor, orez), k.Orez), DoPixelu(CERNA));
+    }
+}
+
+/// Strokes over what stands below: lines and circles lie in no bitmap.
+class Tah {
+public:
+    Tah(const Kresba& k, Barva barva, int sirka) {
+        plocha_ = cairo_image_surface_create_for_data(reinterpret_cast<unsigned char*>(k.Cil.Body),
+                                                      CAIRO_FORMAT_RGB24, k.Cil.Sirka, k.Cil.Vyska,
+                                                      k.Cil.Krok * static_cast<int>(sizeof(Pixel)));
+        cairo_ = cairo_create(plocha_);
+        cairo_rectangle(cairo_, k.Orez.Left, k.Orez.Top, k.Orez.Width, k.Orez.Height);
+        cairo_clip(cairo_);
+        const Pixel p = DoPixelu(barva);
+        const auto kanal = [p](unsigned posun) { return ((p >> posun) & 0xFFu) / 255.0; };
+        cairo_set_source_rgb(cairo_, kanal(16), kanal(8), kanal(0));
+        cairo_set_line_width(cairo_, std::max(1.0, std::round(std::max(sirka, 1) * k.S)));
+        cairo_set_line_cap(cairo_, CAIRO_LINE_CAP_ROUND);
+    }
+    ~Tah() {
+        cairo_stroke(cairo_);
+        cairo_destroy(cairo_);
+        cairo_surface_destroy(plocha_);
+    }
+    Tah(const Tah&) = delete;
+    Tah& operator=(const Tah&) = delete;
+    [[nodiscard]] cairo_t* Kde() const { return cairo_; }
+
+private:
+    cairo_surface_t* plocha_;
+    cairo_t* cairo_;
+};
+
+void Namaluj(const Kresba& k, Bod posun, const LineShape& l) {
+    const auto x = [&](int n) { return k.X0 + (posun.X + n + 0.5) * k.S; };
+    const auto y = [&](int n) { return k.Y0 + (posun.Y + n + 0.5) * k.S; };
+    const Tah tah(k, l.BorderColor, l.BorderWidth);
+    cairo_move_to(tah.Kde(), x(l.X1), y(l.Y1));
+    cairo_line_to(tah.Kde(), x(l.X2), y(l.Y2));
+}
+
+void Namaluj(const Kresba& k, Bod posun, const CircleShape& c) {
+    const double r = std::min(c.Width, c.Height) / 2.0;
+    if (r <= 0) return;
+    const Tah tah(k, c.BorderColor, c.BorderWidth);
+    cairo_arc(tah.Kde(), k.X0 + (posun.X + c.Left + c.Width / 2.0 + 0.5) * k.S,
+              k.Y0 + (posun.Y + c.Top + c.Height / 2.0 + 0.5) * k.S, r * k.S, 0,
+              2 * 3.14159265358979323846);
+}
+
+}  // namespace
+
+Obdelnik DosahTvaru(const Ovladac& o) {
+    Obdelnik dosah{o.Left, o.Top, o.Width, o.Height};
+    int pero = 0;
+    if (o.Druh == Ovladac::Typ::Line) {
+        const auto& l = static_cast<const LineShape&>(o);
+        dosah = {std::min(l.X1, l.X2), std::min(l.Y1, l.Y2), std::abs(l.X2 - l.X1),
+                 std::abs(l.Y2 - l.Y1)};
+        pero = l.BorderWidth;
+    } else if (o.Druh == Ovladac::Typ::Circle) {
+        pero = static_cast<const CircleShape&>(o).BorderWidth;
+    } else {
+        return dosah;
+    }
+    const int okraj = std::max(pero, 1) + 1;
+    return {dosah.Left - okraj, dosah.Top - okraj, dosah.Width + 2 * okraj + 1,
+            dosah.Height + 2 * okraj + 1};
+}
+
+void NamalujForm(const Kresba& k, const Form& form, const Obdelnik& kde) {
+    if (form.Picture.Width() < form.Width || form.Picture.Height() < form.Height)
+        k.Cil.Vypln(Prunik(k.NaCil(kde), k.Orez), DoPixelu(form.BackColor));
+    NamalujObrazek(k, kde, form.Picture);
+}
+
+void NamalujObjekt(const Kresba& k, const Umisteny& u) {
+    Kresba orezana = k;
+    orezana.Orez = Prunik(k.Orez, k.NaCil(u.Videt));
+    if (JePrazdny(orezana.Orez)) return;
+    // Shapes have places of their own within the parent's; u.Kde gives where that begins.
+    const Obdelnik dosah = DosahTvaru(*u.Co);
+    const Bod posun{u.Kde.Left - dosah.Left, u.Kde.Top - dosah.Top};
+    switch (u.Co->Druh) {
+        case Ovladac::Typ::PictureBox:
+            Namaluj(orezana, u.Kde, static_cast<const PictureBox&>(*u.Co));
+            break;
+        case Ovladac::Typ::Image:
+            NamalujObrazek(orezana, u.Kde, static_cast<const Image&>(*u.Co).Picture);
+            break;
+        case Ovladac::Typ::Label:
+            Namaluj(orezana, u.Kde, static_cast<const Label&>(*u.Co));
+            break;
+        case Ovladac::Typ::TextBox:
+            Namaluj(orezana, u.Kde, static_cast<const TextBox&>(*u.Co), u.Zamereny);
+            break;
+        case Ovladac::Typ::Line:
+            Namaluj(orezana, posun, static_cast<const LineShape&>(*u.Co));
+            break;
+        case Ovladac::Typ::Circle:
+            Namaluj(orezana, posun, static_cast<const CircleShape&>(*u.Co));
+            break;
+        case Ovladac::Typ::Timer:
+        case Ovladac::Typ::PictureClip:
+            break;
+    }
+}
+
+std::uint64_t OtiskFormu(const Form& form) {
+    Otisk o;
+    o.Pridej(form.BackColor);
+    o.Pridej(form.Picture);
+    return o.Hodnota();
+}
+
+std::uint64_t OtiskObjektu(const Umisteny& u, bool kurzor) {
+    Otisk o;
+    switch (u.Co->Druh) {
+        case Ovladac::Typ::PictureBox: {
+            const auto& p = static_cast<const PictureBox&>(*u.Co);
+            if (p.MaPlochu()) {
+                o.Pridej(p.PlochaNeboNic()->Verze());
+            } else {
+                o.Pridej(p.Picture);
+                o.Pridej(p.Pruhledny);
+                o.Pridej(p.BackColor);
+            }
+            o.Pridej(p.Ramecek);
+            break;
+        }
+        case Ovladac::Typ::Image:
+            o.Pridej(static_cast<const Image&>(*u.Co).Picture);
+            break;
+        case Ovladac::Typ::Label: {
+            const auto& l = static_cast<const Label&>(*u.Co);
+            o.Pridej(l.Caption);
+            o.Pridej(l.Font);
+            o.Pridej(l.ForeColor);
+            o.Pridej(l.BackColor);
+            o.Pridej(l.WordWrap);
+            o.Pridej(l.Alignment);
+            break;
+        }
+        case Ovladac::Typ::TextBox: {
+            const auto& t = static_cast<const TextBox&>(*u.Co);
+            o.Pridej(t.Text);
+            o.Pridej(t.Font);
+            o.Pridej(t.BackColor);
+            o.Pridej(t.MultiLine);
+            o.Pridej(t.Posun);
+            o.Pridej(u.Zamereny);
+            if (u.Zamereny) {
+                o.Pridej(t.SelStart);
+                o.Pridej(t.SelAnchor);
+                o.Pridej(kurzor);
+            }
+            break;
+        }
+        case Ovladac::Typ::Line: {
+            const auto& l = static_cast<const LineShape&>(*u.Co);
+            o.Pridej((l.X1 <= l.X2) == (l.Y1 <= l.Y2));
+            o.Pridej(l.BorderColor);
+            o.Pridej(l.BorderWidth);
+            break;
+        }
+        case Ovladac::Typ::Circle: {
+            const auto& c = static_cast<const CircleShape&>(*u.Co);
+            o.Pridej(c.BorderColor);
+            o.Pridej(c.BorderWidth);
+            break;
+        }
+        case Ovladac::Typ::Timer:
+        case Ovladac::Typ::PictureClip:
+            break;
+    }
+    return o.Hodnota();
+}
+
+}  // namespace rysovna

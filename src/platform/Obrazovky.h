@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "platform/Form.h"
+
+namespace rysovna {
+
+/// The screens of the program on one window, and the dispatcher of events. A host feeds it with
+/// input in design pixels (0 to 640, 0 to 480); it finds the object under the pointer and calls
+/// the form. A press captures the pointer until the release, so that a drag that leaves its
+/// object goes on.
+class Obrazovky {
+public:
+    Obrazovky();
+    ~Obrazovky();
+    Obrazovky(const Obrazovky&) = delete;
+    Obrazovky& operator=(const Obrazovky&) = delete;
+
+    /// Makes a screen and runs its load handler.
+    template <class F, class... A>
+    std::shared_ptr<F> Nacti(A&&... a) {
+        auto form = std::make_shared<F>(std::forward<A>(a)...);
+        Zaved(form);
+        return form;
+    }
+    void Zaved(const std::shared_ptr<Form>& form);
+    /// Shows and brings to the front; the form gets Activate when it comes to the front.
+    void Show(Form& form);
+    void Hide(Form& form);
+    /// Hides at once, runs Unload, forgets. The object lives on while a handler of it runs.
+    void Unload(Form& form);
+    /// Unloads everything: the end of the process or of a test.
+    void UnloadVse();
+
+    /// The loaded form of this name; null if there is none.
+    [[nodiscard]] std::shared_ptr<Form> Najdi(std::string_view jmeno) const;
+    /// The form in front; null if none is visible.
+    [[nodiscard]] std::shared_ptr<Form> Vpredu() const;
+    /// Visible forms from the back to the front.
+    [[nodiscard]] const std::vector<std::shared_ptr<Form>>& Viditelne() const;
+
+    /// A form that stands in front of all and alone gets events until it unloads (message box). It
+    /// must be loaded; this shows it. The timers of other forms stand still meanwhile. When it
+    /// goes, nobody gets Activate.
+    void NastavModalni(const std::shared_ptr<Form>& form);
+    [[nodiscard]] bool JeModalni() const;
+
+    // Input, design pixels.
+    void MysDolu(double x, double y, int tlacitko, int shift);
+    void MysPohyb(double x, double y, int drzena, int shift);
+    void MysNahoru(double x, double y, int tlacitko, int shift);
+    /// The text box that typed text would go to; null if none has the focus or it cannot be seen.
+    [[nodiscard]] TextBox* Psane() const;
+    /// Tick count of the last typing or caret move: the caret does not blink at once.
+    [[nodiscard]] std::uint32_t PosledniPsani() const;
+    /// The object at a place of the form in front, design pixels; null where the form itself (or
+    /// nothing) would get the event.
+    [[nodiscard]] Ovladac* NaMiste(double x, double y) const;
+
+    /// Typed text, UTF-8.
+    void Text(std::string_view utf8);
+    /// A key by its name: "Left", "Right", "Up", "Down", "Home", "End", "BackSpace", "Delete",
+    /// "Return", "Escape", "Tab", "Space", or a letter with ctrl ("a", "c", "v", "x"). shift: 1
+    /// Shift, 2 Ctrl. What a key types comes as Text besides.
+    void Klavesa(std::string_view jmeno, int shift);
+    /// The window's own close button.
+    void ZadostOZavreni();
+    /// A press beside the design area, or the return from another application.
+    void Navrat();
+    /// Fires the timers that are due.
+    void Casovace(std::uint32_t ted);
+    /// When the next timer is due; false if none runs.
+    [[nodiscard]] bool PristiCasovac(std::uint32_t ted, std::uint32_t& zaMs) const;
+
+    /// What main and the start-up set: the process is to end.
+    void Konec() { konec_ = true; }
+    [[nodiscard]] bool JeKonec() const { return konec_; }
+    /// Grows whenever a form was shown, hidden or moved in the order, or unloaded.
+    [[nodiscard]] std::uint64_t Verze() const { return verze_; }
+
+private:
+    struct Vnitrek;
+    std::unique_ptr<Vnitrek> vnitrek_;
+    bool konec_ = false;
+    std::uint64_t verze_ = 0;
+};
+
+}  // namespace rysovna

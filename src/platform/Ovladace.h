@@ -1,0 +1,131 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "base/Bod.h"
+#include "base/Plane.h"
+#include "platform/Obrazek.h"
+#include "platform/Surface.h"
+
+namespace rysovna {
+
+/// The state of the mouse at an event. X, Y: pixels of the control (of the form) that gets it.
+struct Mys {
+    int Button = 1;  ///< 1 left, 2 right, 4 middle; of a move, the sum of those held
+    int Shift = 0;
+    float X = 0, Y = 0;
+};
+
+/// A screen object: a plain record that a painter paints and a dispatcher of events reads. Nothing
+/// is told of a change: the painter compares. Places are pixels of the parent.
+struct Ovladac {
+    enum class Typ { PictureBox, Image, Label, TextBox, Line, Circle, Timer, PictureClip };
+
+    explicit Ovladac(Typ typ) : Druh(typ) {}
+    virtual ~Ovladac() = default;
+
+    const Typ Druh;
+    std::string Name;          ///< as the design names it; members of an array share it
+    int Index = 0;             ///< index in its array, from 1 (from 0 in lblZadani); 0 alone
+    Ovladac* Rodic = nullptr;  ///< the picture box that it stands in; the form if null
+    int Left = 0, Top = 0, Width = 0, Height = 0;
+    bool Visible = true;
+    bool Enabled = true;  ///< a press on a disabled object goes to the form
+    std::string Tag;
+    Pismo Font;
+
+    [[nodiscard]] bool MaPismo() const {
+        return Druh == Typ::Label || Druh == Typ::TextBox || Druh == Typ::PictureBox;
+    }
+
+protected:
+    Ovladac(const Ovladac&) = default;
+    Ovladac& operator=(const Ovladac&) = delete;
+};
+
+/// A picture box: a picture, a surface to draw on, a container of other objects. Pixels of the key
+/// colour PURPUROVA, in its picture or on its surface, are see-through on the screen.
+struct PictureBox : Ovladac {
+    PictureBox() : Ovladac(Typ::PictureBox) {}
+    Obrazek Picture;
+    Barva BackColor = BILA;
+    bool Pruhledny =
+        false;             ///< paints no ground of its own where it has neither surface nor picture
+    bool Ramecek = false;  ///< a thin frame, as lists and panels have
+
+    /// The surface, made at the first call with the box's size (made anew when the size changed)
+    /// over the picture as its ground. A box that never draws has none.
+    Surface& Plocha();
+    [[nodiscard]] bool MaPlochu() const { return plocha_ != nullptr; }
+    [[nodiscard]] const Surface* PlochaNeboNic() const { return plocha_.get(); }
+
+private:
+    std::unique_ptr<Surface> plocha_;
+    Obrazek podklad_;
+};
+
+/// A picture without a surface, shown at its own size, cut to the object's. The key colour is
+/// see-through.
+struct Image : Ovladac {
+    Image() : Ovladac(Typ::Image) {}
+    Obrazek Picture;
+};
+
+struct Label : Ovladac {
+    Label() : Ovladac(Typ::Label) {}
+    std::string Caption;
+    Barva ForeColor = CERNA;
+    Barva BackColor = BEZ_BARVY;  ///< BEZ_BARVY: see-through
+    bool WordWrap = true;         ///< breaks lines at blanks to the width
+    /// 0 left, 1 right, 2 centred
+    int Alignment = 0;
+    /// Sets Width to the caption's width (a label with a single row).
+    void PodleTextu();
+};
+
+/// A line of text to edit: caret, selection, clipboard. Positions count characters.
+struct TextBox : Ovladac {
+    TextBox() : Ovladac(Typ::TextBox) {}
+    std::string Text;
+    Barva BackColor = BILA;
+    bool MultiLine = false;  ///< shown in rows, with no editing
+    int MaxLength = 0;       ///< characters; 0 is no limit
+    int SelStart = 0;        ///< the caret's end of the selection
+    int SelAnchor = 0;       ///< the other end
+    int Posun = 0;           ///< how far the text is scrolled, px
+};
+
+/// Rubber bands: shapes that the painter lays over a plane without drawing into it.
+struct LineShape : Ovladac {
+    LineShape() : Ovladac(Typ::Line) { Visible = false; }
+    int X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;
+    int BorderWidth = 1;
+    Barva BorderColor = CERNA;
+};
+
+/// A circle inscribed in its rectangle.
+struct CircleShape : Ovladac {
+    CircleShape() : Ovladac(Typ::Circle) { Visible = false; }
+    int BorderWidth = 1;
+    Barva BorderColor = CERNA;
+};
+
+/// Fires its form's TimerTick every Interval milliseconds while Enabled.
+struct Timer : Ovladac {
+    Timer() : Ovladac(Typ::Timer) { Enabled = false; }
+    std::uint32_t Interval = 1000;
+    std::uint32_t Pristi = 0;  ///< tick count of the next firing
+    bool Bezi = false;         ///< Pristi holds
+};
+
+/// A strip of pictures in one row.
+struct PictureClip : Ovladac {
+    PictureClip() : Ovladac(Typ::PictureClip) { Visible = false; }
+    Obrazek Picture;
+    int Cols = 1;
+    [[nodiscard]] Obrazek GraphicCell(int i) const { return Picture.Bunka(i, Cols); }
+};
+
+}  // namespace rysovna

@@ -1,0 +1,307 @@
+#include "platform/Pisma.h"
+
+#include <array>
+#include <cmath>
+#include <ft2build.h>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include FT_FREETYPE_H
+#include FT_OUTLINE_H
+
+#include "base/Chyba.h"
+#include "base/Text.h"
+#include "platform/Host.h"
+#include "platform/Surface.h"
+
+namespace rysovna {
+
+namespace {
+
+/// The files in the order of italic (1) and bold (2), then the one that fills in.
+constexpr std::array<std::string_view, 5> SOUBORY = {
+    "LiberationSans-Regular.ttf", "LiberationSans-Italic.ttf", "LiberationSans-Bold.ttf",
+    "LiberationSans-BoldItalic.ttf", "DejaVuSans.ttf"};
+constexpr int NAHRADNI = 4;
+
+/// What the letters of the typeface "Symbol" show.
+constexpr struct {
+    char32_t Pismeno, Znak;
+} SYMBOLY[] = {{U'a', U'α'}, {U'b', U'β'}, {U'g', U'γ'}, {U'd', U'δ'},
+               {U'e', U'ε'}, {U'w', U'ω'}, {U'^', U'⊥'}};
+
+/// Quarters of a pixel at which an antialiased glyph may begin.
+constexpr int CTVRTINY = 4;
+/// Below this scale antialiased glyphs are fitted to the rows of pixels, or they look washed out.
+constexpr double MALE_MERITKO = 1.5;
+/// Glyphs kept; a window that is drawn through many sizes would pile them up.
+constexpr std::size_t NEJVIC_GLYFU = 4000;
+
+struct Glyf {
+    int Vlevo = 0, Nahore = 0, Sirka = 0, Vyska = 0;
+    std::vector<std::uint8_t> Kryti;
+};
+
+enum class Rezim : unsigned { Logicky, Maly, Velky };
+
+class Knihovna {
+public:
+    Knihovna() {
+        if (FT_Init_FreeType(&ft_) != 0) Selhani("Nelze použít písma");
+    }
+    ~Knihovna() {
+        ZavriPisma();
+        FT_Done_FreeType(ft_);
+    }
+    Knihovna(const Knihovna&) = delete;
+    Knihovna& operator=(const Knihovna&) = delete;
+
+    void NastavSlozku(std::string_view slozka) {
+        if (slozka_ && *slozka_ == slozka) return;
+        ZavriPisma();
+        slozka_ = slozka;
+    }
+
+    [[nodiscard]] bool MaVse() {
+        if (!slozka_) return false;
+        for (int i = 0; i < static_cast<int>(SOUBORY.size()); ++i) {
+            if (Otevri(i) == nullptr) return false;
+        }
+        return true;
+    }
+
+    FT_Face Rez(int i) {
+        FT_Face rez = Otevri(i);
+        if (rez == nullptr) throw BehovaChyba("Nelze otevřít písmo", Cesta(i).string());
+        return rez;
+    }
+
+    /// Which file shows the character.
+    int Kde(int rez, char32_t znak) {
+        if (FT_Get_Char_Index(Rez(rez), znak) != 0) return rez;
+        return FT_Get_Char_Index(Rez(NAHRADNI), znak) != 0 ? NAHRADNI : rez;
+    }
+
+    /// Unrounded advance, parts of the type size.
+    double Posuv(int rez, char32_t znak) {
+        const std::uint64_t klic = (std::uint64_t{static_cast<unsigned>(rez)} << 32) | znak;
+        const auto nalezeny = posuvy_.find(klic);
+        if (nalezeny != posuvy_.end()) return nalezeny->second;
+        FT_Face f = Rez(Kde(rez, znak));
+        double posuv = 0;
+        if (FT_Load_Glyph(f, FT_Get_Char_Index(f, znak), FT_LOAD_NO_SCALE) == 0)
+            posuv = static_cast<double>(f->glyph->advance.x) / f->units_per_EM;
+        posuvy_[klic] = posuv;
+        return posuv;
+    }
+
+    /// velikost: type size, 1/64 px; ctvrtina: where within its pixel the glyph begins.
+    const Glyf& DejGlyf(int rez, char32_t znak, int velikost, Rezim rezim, int ctvrtina) {
+        const std::uint64_t klic =
+            (std::uint64_t{znak} << 40) | (std::uint64_t{static_cast<unsigned>(velikost)} << 16) |
+            (std::uint64_t{static_cast<unsigned>(rez)} << 8) |
+            (std::uint64_t{static_cast<unsigned>(rezim)} << 4) | static_cast<unsigned>(ctvrtina);
+        const auto nalezeny = glyfy_.find(klic);
+        if (nalezeny != glyfy_.end()) return nalezeny->second;
+        if (glyfy_.size() >= NEJVIC_GLYFU) glyfy_.clear();
+        return glyfy_[klic] = Vytvor(Rez(Kde(rez, znak)), znak, velikost, rezim, ctvrtina);
+    }
+
+private:
+    [[nodiscard]] std::filesystem::path Cesta(int i) const {
+        if (!slozka_) return "?";
+        return NativniCesta(*slozka_ + "\\" + std::string(SOUBORY[static_cast<std::size_t>(i)]));
+    }
+
+    FT_Face Otevri(int i) {
+        FT_Face& rez = rezy_[static_cast<std::size_t>(i)];
+        if (rez == nullptr && slozka_ && FT_New_Face(ft_, Cesta(i).c_str(), 0, &rez) != 0)
+            rez = nullptr;
+        return rez;
+    }
+
+    void ZavriPisma() {
+        for (FT_Face& rez : rezy_) {
+            if (rez != nullptr) FT_Done_Face(rez);
+            rez = nullptr;
+        }
+        glyfy_.clear();
+        posuvy_.clear();
+    }
+
+    static Glyf Vytvor(FT_Face f, char32_t znak, int velikost, Rezim rezim, int ctvrtina) {
+        constexpr std::array<long, 3> NACTENI = {FT_LOAD_TARGET_MONO, FT_LOAD_TARGET_LIGHT,
+                                                 FT_LOAD_NO_HINTING};
+        Glyf g;
+        if (FT_Set_Char_Size(f, velikost, velikost, 72, 72) != 0) return g;
+        const FT_UInt cislo = FT_Get_Char_Index(f, znak);
+        const auto nacteni =
+            static_cast<FT_Int32>(NACTENI[static_cast<std::size_t>(rezim)] | FT_LOAD_NO_BITMAP);
+        if (FT_Load_Glyph(f, cislo, nacteni) != 0) return g;
+        if (ctvrtina != 0) FT_Outline_Translate(&f->glyph->outline, ctvrtina * 64 / CTVRTINY, 0);
+        const bool mono = rezim == Rezim::Logicky;
+        if (FT_Render_Glyph(f->glyph, mono ? FT_RENDER_MODE_MONO : FT_RENDER_MODE_NORMAL) != 0)
+            return g;
+        const FT_Bitmap& b = f->glyph->bitmap;
+        g = {f->glyph->bitmap_left,
+             f->glyph->bitmap_top,
+             static_cast<int>(b.width),
+             static_cast<int>(b.rows),
+             {}};
+        g.Kryti.reserve(std::size_t{b.width} * b.rows);
+        for (unsigned y = 0; y < b.rows; ++y) {
+            const unsigned char* radka = b.buffer + static_cast<std::ptrdiff_t>(y) * b.pitch;
+            for (unsigned x = 0; x < b.width; ++x) {
+                g.Kryti.push_back(!mono                                      ? radka[x]
+                                  : (radka[x / 8] & (0x80u >> (x % 8))) != 0 ? std::uint8_t{255}
+                                                                             : std::uint8_t{0});
+            }
+        }
+        return g;
+    }
+
+    FT_Library ft_ = nullptr;
+    std::optional<std::string> slozka_;
+    std::array<FT_Face, SOUBORY.size()> rezy_{};
+    std::unordered_map<std::uint64_t, double> posuvy_;
+    std::unordered_map<std::uint64_t, Glyf> glyfy_;
+};
+
+Knihovna& Pisma() {
+    static Knihovna knihovna;
+    return knihovna;
+}
+
+int CisloRezu(const Pismo& p) {
+    return (p.Kurziva ? 1 : 0) + (p.Tucne ? 2 : 0);
+}
+
+/// Type size, design pixels.
+double Velikost(const Pismo& p) {
+    return static_cast<double>(p.Velikost) * 96 / 72;
+}
+
+int Horni(const Pismo& p) {
+    FT_Face f = Pisma().Rez(0);
+    return static_cast<int>(std::lround(Velikost(p) * f->ascender / f->units_per_EM));
+}
+
+std::u32string ZnakyPisma(const Pismo& p, std::string_view text) {
+    std::u32string znaky = DoZnaku(text);
+    if (p.Nazev == Pismo::Rez::Symbol) {
+        for (char32_t& z : znaky) {
+            for (const auto& s : SYMBOLY) {
+                if (s.Pismeno == z) {
+                    z = s.Znak;
+                    break;
+                }
+            }
+        }
+    }
+    return znaky;
+}
+
+void Otiskni(const Vyhled& cil, const Obdelnik& orez, int x, int y, const Glyf& g, Pixel barva) {
+    const Obdelnik o = Prunik(Prunik({x, y, g.Sirka, g.Vyska}, orez), cil.Meze());
+    for (int py = o.Top; py < o.Top + o.Height; ++py) {
+        Pixel* c = cil.Radka(py);
+        const std::uint8_t* k = g.Kryti.data() + static_cast<std::ptrdiff_t>(py - y) * g.Sirka;
+        for (int px = o.Left; px < o.Left + o.Width; ++px) {
+            const unsigned kryti = k[px - x];
+            if (kryti == 255) {
+                c[px] = barva;
+            } else if (kryti != 0) {
+                c[px] = Smichej(c[px], barva, kryti);
+            }
+        }
+    }
+}
+
+}  // namespace
+
+void KresliText(const Vyhled& cil, const Obdelnik& orez, double x, double y, double s,
+                const Pismo& pismo, std::string_view text, Pixel barva, Hladkost hladkost) {
+    const Rezim rezim = hladkost == Hladkost::Logicka ? Rezim::Logicky
+                        : s < MALE_MERITKO            ? Rezim::Maly
+                                                      : Rezim::Velky;
+    const double velikost = Velikost(pismo) * s;
+    const int rez = CisloRezu(pismo);
+    const auto ucari = static_cast<int>(std::floor(y + Horni(pismo) * s + 0.5));
+    for (const char32_t znak : ZnakyPisma(pismo, text)) {
+        double zacatek = std::floor(x + 0.5);
+        int ctvrtina = 0;
+        if (rezim != Rezim::Logicky) {
+            const double naCtvrtiny = std::floor(x * CTVRTINY + 0.5) / CTVRTINY;
+            zacatek = std::floor(naCtvrtiny);
+            ctvrtina = static_cast<int>((naCtvrtiny - zacatek) * CTVRTINY);
+        }
+        const Glyf& g = Pisma().DejGlyf(rez, znak, static_cast<int>(std::lround(velikost * 64)),
+                                        rezim, ctvrtina);
+        Otiskni(cil, orez, static_cast<int>(zacatek) + g.Vlevo, ucari - g.Nahore, g, barva);
+        x += Pisma().Posuv(rez, znak) * velikost;
+    }
+}
+
+double PresnaSirka(const Pismo& pismo, std::string_view text) {
+    double sirka = 0;
+    for (const char32_t znak : ZnakyPisma(pismo, text))
+        sirka += Pisma().Posuv(CisloRezu(pismo), znak);
+    return sirka * Velikost(pismo);
+}
+
+std::vector<double> Zacatky(const Pismo& pismo, std::string_view text) {
+    std::vector<double> zacatky{0};
+    for (const char32_t znak : ZnakyPisma(pismo, text))
+        zacatky.push_back(zacatky.back() + Pisma().Posuv(CisloRezu(pismo), znak) * Velikost(pismo));
+    return zacatky;
+}
+
+std::vector<std::string> RozdelNaRadky(const Pismo& pismo, std::string_view text, int sirka) {
+    std::vector<std::string> radky;
+    const std::u32string znaky = DoZnaku(text);
+    const std::vector<double> x = Zacatky(pismo, text);
+    std::size_t zacatek = 0;
+    std::size_t mezera = std::u32string::npos;
+    const auto zalom = [&](std::size_t konec, std::size_t dalsi) {
+        radky.push_back(ZeZnaku(std::u32string_view(znaky).substr(zacatek, konec - zacatek)));
+        zacatek = dalsi;
+        mezera = std::u32string::npos;
+    };
+    for (std::size_t i = 0; i < znaky.size(); ++i) {
+        if (znaky[i] == U'\r') continue;
+        if (znaky[i] == U'\n') {
+            zalom(i > zacatek && znaky[i - 1] == U'\r' ? i - 1 : i, i + 1);
+        } else if (znaky[i] == U' ') {
+            mezera = i;
+        } else if (sirka > 0 && x[i + 1] - x[zacatek] > sirka && i > zacatek) {
+            if (mezera != std::u32string::npos) {
+                zalom(mezera, mezera + 1);
+            } else {
+                zalom(i, i);
+            }
+        }
+    }
+    zalom(znaky.size(), znaky.size());
+    return radky;
+}
+
+int SirkaTextu(const Pismo& pismo, std::string_view text) {
+    return static_cast<int>(std::ceil(PresnaSirka(pismo, text)));
+}
+
+int VyskaRadku(const Pismo& pismo) {
+    FT_Face f = Pisma().Rez(0);
+    return Horni(pismo) +
+           static_cast<int>(std::lround(Velikost(pismo) * -f->descender / f->units_per_EM));
+}
+
+void NastavSlozkuPisem(std::string_view slozka) {
+    Pisma().NastavSlozku(slozka);
+}
+
+bool MamePisma() {
+    return Pisma().MaVse();
+}
+
+}  // namespace rysovna

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Bitmapa.h"
+
+namespace rysovna {
+
+/// How glyphs are made.
+enum class Hladkost {
+    Logicka,  ///< black or nothing, hinted to the pixel grid: the logical bitmap
+    Seda      ///< antialiased: twins, labels, text boxes
+};
+
+/// Prints a row of UTF-8 text. x, y: top left corner of the row, pixels of the target; s: how many
+/// of them a design pixel takes. Glyphs advance by their unrounded widths times s, so that a text
+/// takes the same place at every size.
+void KresliText(const Vyhled& cil, const Obdelnik& orez, double x, double y, double s,
+                const Pismo& pismo, std::string_view text, Pixel barva, Hladkost hladkost);
+
+/// Unrounded width, design pixels.
+[[nodiscard]] double PresnaSirka(const Pismo& pismo, std::string_view text);
+/// Where each character begins and, last, where the text ends, design pixels: one value more than
+/// there are characters.
+[[nodiscard]] std::vector<double> Zacatky(const Pismo& pismo, std::string_view text);
+/// The text broken into rows: at line feeds and, if sirka is above 0, at the blanks where a row
+/// would get wider (a word that is too long alone is broken within).
+[[nodiscard]] std::vector<std::string> RozdelNaRadky(const Pismo& pismo, std::string_view text,
+                                                     int sirka);
+
+}  // namespace rysovna

@@ -1,0 +1,150 @@
+#include "platform/PsaniTextu.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/Text.h"
+#include "platform/Host.h"
+#include "platform/Pisma.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr int SHIFT = 1;
+constexpr int CTRL = 2;
+
+std::size_t Z(int i) {
+    return static_cast<std::size_t>(i);
+}
+
+}  // namespace
+
+PsaniTextu::PsaniTextu(TextBox& t) : t_(t) {
+    // The program may have written another text under the caret.
+    t_.SelStart = std::clamp(t_.SelStart, 0, Delka());
+    t_.SelAnchor = std::clamp(t_.SelAnchor, 0, Delka());
+}
+
+int PsaniTextu::Delka() const {
+    return PocetZnaku(t_.Text);
+}
+
+bool PsaniTextu::Nahrad(const std::u32string& novy) {
+    std::u32string znaky = DoZnaku(t_.Text);
+    const int od = std::min(t_.SelStart, t_.SelAnchor);
+    const int po = std::max(t_.SelStart, t_.SelAnchor);
+    std::u32string vejde = novy;
+    if (t_.MaxLength > 0) {
+        const int zbyva = t_.MaxLength - (static_cast<int>(znaky.size()) - (po - od));
+        vejde.resize(std::min(vejde.size(), Z(std::max(zbyva, 0))));
+    }
+    if (vejde.empty() && (od == po || !novy.empty())) return false;
+    znaky.replace(Z(od), Z(po - od), vejde);
+    t_.Text = ZeZnaku(znaky);
+    Posad(od + static_cast<int>(vejde.size()), false);
+    return true;
+}
+
+bool PsaniTextu::Napis(std::string_view utf8) {
+    std::u32string znaky = DoZnaku(utf8);
+    std::erase_if(znaky, [](char32_t z) { return z < U' ' || (z >= 0x7F && z < 0xA0); });
+    return !znaky.empty() && Nahrad(znaky);
+}
+
+bool PsaniTextu::Smaz(int kam) {
+    if (t_.SelStart == t_.SelAnchor) t_.SelAnchor = std::clamp(kam, 0, Delka());
+    return Nahrad({});
+}
+
+void PsaniTextu::Posad(int kam, bool vybirat) {
+    t_.SelStart = std::clamp(kam, 0, Delka());
+    if (!vybirat) t_.SelAnchor = t_.SelStart;
+    Ukaz();
+}
+
+int PsaniTextu::Slovo(int od, int smer) const {
+    const std::u32string znaky = DoZnaku(t_.Text);
+    const int konec = static_cast<int>(znaky.size());
+    const auto mezera = [&](int i) { return znaky[Z(i)] == U' '; };
+    int i = od;
+    if (smer < 0) {
+        while (i > 0 && mezera(i - 1)) --i;
+        while (i > 0 && !mezera(i - 1)) --i;
+    } else {
+        while (i < konec && !mezera(i)) ++i;
+        while (i < konec && mezera(i)) ++i;
+    }
+    return i;
+}
+
+bool PsaniTextu::Klavesa(std::string_view jmeno, int shift, bool& vzal) {
+    const bool vybirat = (shift & SHIFT) != 0;
+    const bool ctrl = (shift & CTRL) != 0;
+    const int od = std::min(t_.SelStart, t_.SelAnchor);
+    const int po = std::max(t_.SelStart, t_.SelAnchor);
+    const bool vyber = od != po;
+    vzal = true;
+    if (jmeno == "Left") {
+        Posad(ctrl ? Slovo(t_.SelStart, -1) : vyber && !vybirat ? od : t_.SelStart - 1, vybirat);
+    } else if (jmeno == "Right") {
+        Posad(ctrl ? Slovo(t_.SelStart, 1) : vyber && !vybirat ? po : t_.SelStart + 1, vybirat);
+    } else if (jmeno == "Home") {
+        Posad(0, vybirat);
+    } else if (jmeno == "End") {
+        Posad(Delka(), vybirat);
+    } else if (jmeno == "BackSpace") {
+        return Smaz(ctrl ? Slovo(t_.SelStart, -1) : t_.SelStart - 1);
+    } else if (jmeno == "Delete") {
+        return Smaz(ctrl ? Slovo(t_.SelStart, 1) : t_.SelStart + 1);
+    } else if (ctrl && jmeno == "a") {
+        t_.SelAnchor = 0;
+        Posad(Delka(), true);
+    } else if (ctrl && (jmeno == "c" || jmeno == "x")) {
+        if (!vyber) return false;
+        Stroj().DoSchranky(ZeZnaku(DoZnaku(t_.Text).substr(Z(od), Z(po - od))));
+        return jmeno == "x" && Nahrad({});
+    } else if (ctrl && jmeno == "v") {
+        return Napis(Stroj().SchrankaText());
+    } else {
+        vzal = false;
+    }
+    return false;
+}
+
+void PsaniTextu::Stisk(double x, bool vybirat) {
+    const std::vector<double> zacatky = Zacatky(t_.Font, t_.Text);
+    const double naTextu = x - OKRAJ_TEXTU + t_.Posun;
+    int kam = 0;
+    for (std::size_t i = 0; i + 1 < zacatky.size(); ++i) {
+        if (naTextu >= (zacatky[i] + zacatky[i + 1]) / 2) kam = static_cast<int>(i) + 1;
+    }
+    Posad(kam, vybirat);
+}
+
+void PsaniTextu::VyberSlovo() {
+    const std::u32string znaky = DoZnaku(t_.Text);
+    const int konec = static_cast<int>(znaky.size());
+    if (konec == 0) return;
+    const int stred = std::min(t_.SelStart, konec - 1);
+    const bool mezera = znaky[Z(stred)] == U' ';
+    int od = stred;
+    int po = stred;
+    while (od > 0 && (znaky[Z(od - 1)] == U' ') == mezera) --od;
+    while (po < konec && (znaky[Z(po)] == U' ') == mezera) ++po;
+    t_.SelAnchor = od;
+    Posad(po, true);
+}
+
+/// Scrolls so that the caret is seen, and no further than the text reaches.
+void PsaniTextu::Ukaz() {
+    const std::vector<double> zacatky = Zacatky(t_.Font, t_.Text);
+    const int misto = std::max(t_.Width - 2 * OKRAJ_TEXTU - 1, 1);
+    const auto kurzor = static_cast<int>(std::ceil(zacatky[Z(t_.SelStart)]));
+    const auto delka = static_cast<int>(std::ceil(zacatky.back()));
+    t_.Posun = std::min(t_.Posun, std::max(delka - misto, 0));
+    t_.Posun = std::clamp(t_.Posun, kurzor - misto, kurzor);
+    t_.Posun = std::max(t_.Posun, 0);
+}
+
+}  // namespace rysovna

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/Bitmapa.h"
+#include "platform/ObrazekData.h"
+
+namespace rysovna {
+
+struct Seznam;
+
+/// A display list as it was at one moment: its first Pocet items. Lists only grow, and whoever
+/// wants to add to one of which others hold more takes a copy, so a moment once held never changes.
+struct Okamzik {
+    std::shared_ptr<Seznam> Kde;
+    std::size_t Pocet = 0;
+};
+
+// The operations of a display list, design pixels.
+struct PolozkaUsecky {
+    float X1, Y1, X2, Y2;
+    int Pero;
+    Pixel Barva;
+};
+struct PolozkaKruznice {
+    float X, Y, R;
+    int Pero;  ///< 0: a filled disc
+    Pixel Barva;
+};
+struct PolozkaTextu {
+    float X, Y;
+    Pismo Font;
+    std::string Text;
+    Pixel Barva;
+};
+struct PolozkaVyplne {
+    Obdelnik Kam;
+    Pixel Barva;
+};
+struct PolozkaObrazku {
+    Obrazek Co;
+    int X, Y;
+};
+/// A copy of another surface as it was then.
+struct PolozkaKopie {
+    Obdelnik Kam;
+    Okamzik Zdroj;
+    int ZX, ZY;
+    Prenos Jak;
+    Pixel Klic;
+};
+/// A copy of pixels, where what they were drawn with is not known any more.
+struct PolozkaPixelu {
+    Obdelnik Kam;
+    std::shared_ptr<const Bitmapa> Co;
+    Prenos Jak;
+    Pixel Klic;
+};
+struct PolozkaObraceni {
+    Obdelnik Kde;
+};
+using Polozka = std::variant<PolozkaUsecky, PolozkaKruznice, PolozkaTextu, PolozkaVyplne,
+                             PolozkaObrazku, PolozkaKopie, PolozkaPixelu, PolozkaObraceni>;
+
+/// What was drawn on a surface since it was last empty, and the display bitmap that was made of it.
+struct Seznam {
+    int Sirka = 0, Vyska = 0;
+    Pixel Pozadi = DoPixelu(BILA);
+    Obrazek Podklad;
+    std::vector<Polozka> Polozky;
+    /// How deep copies of copies go below this list.
+    int Hloubka = 0;
+
+    // The display bitmap: the first Vykresleno items at scale Meritko.
+    Bitmapa Dvojce;
+    double Meritko = 0;
+    std::size_t Vykresleno = 0;
+};
+
+/// The rectangle that an item can change, design pixels, and whether it paints all of it over.
+struct Dosah {
+    Obdelnik Kde;
+    bool Kryje = false;
+};
+[[nodiscard]] Dosah DosahPolozky(const Polozka& p, const Seznam& s);
+
+/// The picture at scale s, width and height rounded. Paints only what was added since the last time
+/// at this scale. The bitmap stays with the list; a moment that lies behind what is painted already
+/// goes to docasna.
+[[nodiscard]] const Bitmapa& Vykresli(const Okamzik& okamzik, double s, Bitmapa& docasna);
+
+}  // namespace rysovna

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
+
+namespace rysovna {
+
+/// The machine without a machine: a virtual clock that moves only while the program waits or pumps,
+/// events from a script, message boxes answered by the script, sounds and screen modes recorded.
+/// Every run of a script is the same. Input goes to Okna() directly, or through Naplanuj at a time.
+class HeadlessHost final : public Host {
+public:
+    /// A message box that was shown, and what was answered.
+    struct Zprava {
+        std::string Text, Titul;
+        Styl Druh = Styl::Ok;
+        Odpoved Odpovezeno = Odpoved::Ok;
+        friend bool operator==(const Zprava&, const Zprava&) = default;
+    };
+    /// A sound that was started, as the program spelt its path.
+    struct Zvuk {
+        std::uint32_t Cas = 0;
+        std::string Cesta;
+    };
+
+    HeadlessHost();
+    ~HeadlessHost() override;
+
+    [[nodiscard]] std::uint32_t TickCount() override { return cas_; }
+    /// Delivers what the script has due, fires timers, then moves the clock to the next thing to
+    /// happen, at most by nejvyseMs, and delivers that. With nothing to deliver the clock moves by
+    /// the whole nejvyseMs. 0 moves it by one millisecond, so that a busy wait comes to its end.
+    void DoEvents(std::uint32_t nejvyseMs) override;
+    /// Moves the clock; the script's events that fall due wait for the next DoEvents.
+    void Spi(std::uint32_t ms) override { cas_ += ms; }
+    /// Paints nothing: counts, and calls PriPrekresleni.
+    void Prekresli() override;
+    Odpoved MsgBox(const std::string& text, const std::string& titul, Styl styl) override;
+    void SndPlaySound(std::string_view cesta) override;
+    [[nodiscard]] RezimObrazovky GetDeviceCaps() override { return Rezim; }
+    /// Records the mode; when VysledekRezimu is 0 it becomes the present one.
+    int ChangeDisplaySettings(const RezimObrazovky& rezim) override;
+    [[nodiscard]] std::string WindowsDirectory() override { return SlozkaSystemu; }
+    [[nodiscard]] std::uint32_t Seminko() override { return SeminkoHry; }
+    [[nodiscard]] DatumACas Nyni() override { return Cas; }
+    [[nodiscard]] std::string SchrankaText() override { return Schranka; }
+    void DoSchranky(const std::string& text) override { Schranka = text; }
+    void PsaniTextu(bool /*ano*/, int /*x*/, int /*y*/) override {}
+
+    // The script.
+
+    /// Does something (mostly an input call of Okna()) when the clock has reached cas (tick count)
+    /// and the program lets events through. Same time: in the order of planning.
+    void Naplanuj(std::uint32_t cas, std::function<void()> co);
+    /// The same, ms from now.
+    void NaplanujZa(std::uint32_t ms, std::function<void()> co) {
+        Naplanuj(cas_ + ms, std::move(co));
+    }
+    /// How many planned things are still to come.
+    [[nodiscard]] std::size_t Naplanovano() const { return scenar_.size(); }
+    /// The answer to the next message box that has none yet. With no answer waiting an Ok box gets
+    /// Ok, a question gets Ne.
+    void PridejOdpoved(Odpoved odpoved) { odpovedi_.push_back(odpoved); }
+    /// Presses and releases the left button at a place of the design area.
+    void Stiskni(double x, double y);
+    /// Writes the window's present picture, 640 * meritko by 480 * meritko pixels, as a PNG.
+    void Snimek(const std::string& soubor, double meritko = 1);
+
+    std::vector<Zprava> Zpravy;           ///< shown so far
+    std::vector<Zvuk> Zvuky;              ///< started so far
+    std::vector<RezimObrazovky> Rezimy;   ///< asked for so far
+    int VysledekRezimu = 0;               ///< what a switch of the mode answers
+    RezimObrazovky Rezim{1024, 768, 32};  ///< present mode
+    std::string SlozkaSystemu;
+    std::uint32_t SeminkoHry = 1;
+    DatumACas Cas;
+    std::string Schranka;
+    /// Message boxes are run as the window runs them: a form that the script must answer by keys
+    /// or presses. A box that no planned event ever answers is a fault.
+    bool SkutecneZpravy = false;
+    std::uint64_t Prekresleni = 0;         ///< how many times Prekresli was called
+    std::function<void()> PriPrekresleni;  ///< to look at the frames of an animation
+
+private:
+    void Dorucit();
+
+    std::uint32_t cas_ = 0;
+    std::uint32_t modalne_ = 0;  ///< how long a modal form has stood with nothing planned, ms
+    std::multimap<std::uint32_t, std::function<void()>> scenar_;
+    std::deque<Odpoved> odpovedi_;
+};
+
+}  // namespace rysovna

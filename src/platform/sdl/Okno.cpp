@@ -1,0 +1,214 @@
+#include "platform/sdl/Okno.h"
+
+#include <SDL.h>
+#include <SDL_syswm.h>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/Obrazovky.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr int NAVRH_SIRKA = 640, NAVRH_VYSKA = 480;
+constexpr const char* NAZEV = "Rysovna 1";
+
+/// The monitor that the pointer is on.
+int MonitorSMysi() {
+    int x = 0;
+    int y = 0;
+    SDL_GetGlobalMouseState(&x, &y);
+    const SDL_Point mys{x, y};
+    for (int i = 0; i < SDL_GetNumVideoDisplays(); ++i) {
+        SDL_Rect meze;
+        if (SDL_GetDisplayBounds(i, &meze) == 0 && SDL_PointInRect(&mys, &meze)) return i;
+    }
+    return 0;
+}
+
+Obdelnik CelyMonitor(int monitor) {
+    SDL_Rect r{0, 0, NAVRH_SIRKA, NAVRH_VYSKA};
+    SDL_GetDisplayBounds(monitor, &r);
+    return {r.x, r.y, r.w, r.h};
+}
+
+/// The largest whole multiple of the design size that the monitor has room for, in its middle.
+Obdelnik MistoOkna(int monitor) {
+    SDL_Rect r{0, 0, NAVRH_SIRKA, NAVRH_VYSKA};
+    if (SDL_GetDisplayUsableBounds(monitor, &r) != 0) SDL_GetDisplayBounds(monitor, &r);
+    const int n = std::max(std::min(r.w / NAVRH_SIRKA, r.h / NAVRH_VYSKA), 1);
+    const int w = n * NAVRH_SIRKA;
+    const int h = n * NAVRH_VYSKA;
+    return {r.x + std::max((r.w - w) / 2, 0), r.y + std::max((r.h - h) / 2, 0), w, h};
+}
+
+}  // namespace
+
+Okno::~Okno() {
+    Zavri();
+}
+
+void Okno::Zavri() {
+    if (okno_ != nullptr) SDL_DestroyWindow(okno_);
+    okno_ = nullptr;
+    ukazane_ = false;
+    malir_->Znovu();
+}
+
+/// Under X without a window manager nobody would answer the wish for full screen.
+bool Okno::MaSpravceOken() const {
+    SDL_SysWMinfo info;
+    SDL_VERSION(&info.version);
+    if (SDL_GetWindowWMInfo(okno_, &info) != SDL_TRUE) return true;
+#ifdef SDL_VIDEO_DRIVER_X11
+    if (info.subsystem == SDL_SYSWM_X11) {
+        Display* d = info.info.x11.display;
+        // Looked up where the video driver has it loaded already, so that nothing is linked.
+        void* knihovna = SDL_LoadObject("libX11.so.6");
+        if (knihovna == nullptr) return true;
+        const auto atom =
+            reinterpret_cast<decltype(&XInternAtom)>(SDL_LoadFunction(knihovna, "XInternAtom"));
+        const auto vlastnost = reinterpret_cast<decltype(&XGetWindowProperty)>(
+            SDL_LoadFunction(knihovna, "XGetWindowProperty"));
+        const auto uvolni = reinterpret_cast<decltype(&XFree)>(SDL_LoadFunction(knihovna, "XFree"));
+        const auto koren = reinterpret_cast<decltype(&XDefaultRootWindow)>(
+            SDL_LoadFunction(knihovna, "XDefaultRootWindow"));
+        bool ma = true;
+        if (atom != nullptr && vlastnost != nullptr && uvolni != nullptr && koren != nullptr) {
+            Atom druh = 0;
+            int format = 0;
+            unsigned long pocet = 0;
+            unsigned long zbytek = 0;
+            unsigned char* data = nullptr;
+            vlastnost(d, koren(d), atom(d, "_NET_SUPPORTING_WM_CHECK", False), 0, 1, False,
+                      AnyPropertyType, &druh, &format, &pocet, &zbytek, &data);
+            ma = pocet > 0;
+            if (data != nullptr) uvolni(data);
+        }
+        SDL_UnloadObject(knihovna);
+        return ma;
+    }
+#endif
+    return true;
+}
+
+bool Okno::Otevri(bool celaObrazovka) {
+    const int monitor = MonitorSMysi();
+    if (okno_ != nullptr) {
+        if (celaObrazovka != cela_) PrepniCelouObrazovku();
+        return true;
+    }
+    const Obdelnik kde = celaObrazovka ? CelyMonitor(monitor) : MistoOkna(monitor);
+    const Uint32 vzhled = SDL_WINDOW_HIDDEN | SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI |
+                          (celaObrazovka ? Uint32{SDL_WINDOW_BORDERLESS} : 0U);
+    okno_ = SDL_CreateWindow(NAZEV, kde.Left, kde.Top, kde.Width, kde.Height, vzhled);
+    if (okno_ == nullptr) return false;
+    SDL_SetWindowMinimumSize(okno_, NAVRH_SIRKA, NAVRH_VYSKA);
+    cela_ = celaObrazovka;
+    if (cela_ && MaSpravceOken()) SDL_SetWindowFullscreen(okno_, SDL_WINDOW_FULLSCREEN_DESKTOP);
+    malir_->Znovu();
+    return true;
+}
+
+void Okno::Umisti(const Obdelnik& kde) {
+    SDL_SetWindowSize(okno_, kde.Width, kde.Height);
+    SDL_SetWindowPosition(okno_, kde.Left, kde.Top);
+}
+
+void Okno::PrepniCelouObrazovku() {
+    if (okno_ == nullptr) return;
+    const int monitor = std::max(SDL_GetWindowDisplayIndex(okno_), 0);
+    cela_ = !cela_;
+    if (MaSpravceOken()) {
+        if (cela_) {
+            SDL_SetWindowFullscreen(okno_, SDL_WINDOW_FULLSCREEN_DESKTOP);
+        } else {
+            SDL_SetWindowFullscreen(okno_, 0);
+            SDL_SetWindowBordered(okno_, SDL_TRUE);
+            Umisti(MistoOkna(monitor));
+        }
+    } else {
+        SDL_SetWindowBordered(okno_, cela_ ? SDL_FALSE : SDL_TRUE);
+        Umisti(cela_ ? CelyMonitor(monitor) : MistoOkna(monitor));
+    }
+    malir_->Znovu();
+}
+
+void Okno::Odkryto() {
+    znovuUkazat_ = true;
+}
+
+void Okno::Rozmer() {
+    malir_->Znovu();
+}
+
+SDL_Surface* Okno::Plocha() {
+    return okno_ == nullptr ? nullptr : SDL_GetWindowSurface(okno_);
+}
+
+void Okno::Prekresli(const Obrazovky& okna, std::uint32_t ted) {
+    // Nothing to show yet: an empty window would only flash.
+    if (okno_ == nullptr || (!ukazane_ && okna.Viditelne().empty())) return;
+    SDL_Surface* plocha = Plocha();
+    if (plocha == nullptr) return;
+    const bool primo = plocha->format->BytesPerPixel == 4 && plocha->format->Rmask == 0xFF0000u &&
+                       plocha->format->Gmask == 0xFF00u && plocha->format->Bmask == 0xFFu &&
+                       !SDL_MUSTLOCK(plocha);
+    Platno platno{static_cast<std::uint32_t*>(plocha->pixels), plocha->w, plocha->h,
+                  plocha->pitch / 4};
+    if (!primo) {
+        const auto potreba =
+            static_cast<std::size_t>(plocha->w) * static_cast<std::size_t>(plocha->h);
+        if (vlastni_.size() != potreba) {
+            vlastni_.assign(potreba, 0);
+            malir_->Znovu();
+        }
+        platno = {vlastni_.data(), plocha->w, plocha->h, plocha->w};
+    }
+    sirkaPlochy_ = plocha->w;
+    vyskaPlochy_ = plocha->h;
+    umisteni_ = Umisteni::Vejdi(plocha->w, plocha->h);
+    const std::vector<Obdelnik> spinave = malir_->Namaluj(platno, okna, ted);
+    std::vector<SDL_Rect> ukazat;
+    ukazat.reserve(spinave.size());
+    for (const Obdelnik& o : spinave) ukazat.push_back({o.Left, o.Top, o.Width, o.Height});
+    if (!primo && !ukazat.empty()) {
+        SDL_Surface* nase = SDL_CreateRGBSurfaceWithFormatFrom(
+            vlastni_.data(), plocha->w, plocha->h, 32, plocha->w * 4, SDL_PIXELFORMAT_RGB888);
+        for (SDL_Rect r : ukazat) SDL_BlitSurface(nase, &r, plocha, &r);
+        SDL_FreeSurface(nase);
+    }
+    if (!ukazane_) {
+        SDL_ShowWindow(okno_);
+        ukazane_ = true;
+        znovuUkazat_ = true;
+    }
+    if (znovuUkazat_) {
+        znovuUkazat_ = false;
+        SDL_UpdateWindowSurface(okno_);
+    } else if (!ukazat.empty()) {
+        SDL_UpdateWindowSurfaceRects(okno_, ukazat.data(), static_cast<int>(ukazat.size()));
+    }
+}
+
+bool Okno::NaNavrh(int x, int y, double& nx, double& ny) const {
+    int w = 0;
+    int h = 0;
+    if (okno_ != nullptr) SDL_GetWindowSize(okno_, &w, &h);
+    if (w < 1 || h < 1) return false;
+    nx = std::floor(umisteni_.NavrhX((x + 0.5) * sirkaPlochy_ / w));
+    ny = std::floor(umisteni_.NavrhY((y + 0.5) * vyskaPlochy_ / h));
+    return nx >= 0 && ny >= 0 && nx < NAVRH_SIRKA && ny < NAVRH_VYSKA;
+}
+
+Obdelnik Okno::NaOkno(const Obdelnik& o) const {
+    Obdelnik r = o;
+    r.Left = umisteni_.X + static_cast<int>(std::lround(o.Left * umisteni_.S));
+    r.Top = umisteni_.Y + static_cast<int>(std::lround(o.Top * umisteni_.S));
+    r.Width = static_cast<int>(std::lround(o.Width * umisteni_.S));
+    r.Height = static_cast<int>(std::lround(o.Height * umisteni_.S));
+    return r;
+}
+
+}  // namespace rysovna

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/Malir.h"
+
+struct SDL_Window;
+struct SDL_Surface;
+
+namespace rysovna {
+
+/// The window itself: opening, sizes, full screen, and putting the painter's pixels on it.
+class Okno {
+public:
+    Okno() = default;
+    ~Okno();
+    Okno(const Okno&) = delete;
+    Okno& operator=(const Okno&) = delete;
+
+    /// Opens the window if it is not open yet, over the whole monitor with the pointer or as an
+    /// ordinary window of the largest whole multiple of the design size that fits. False if none
+    /// can be opened.
+    bool Otevri(bool celaObrazovka);
+    /// Puts it away for good.
+    void Zavri();
+    [[nodiscard]] bool Otevrene() const { return okno_ != nullptr; }
+    void PrepniCelouObrazovku();
+
+    /// Paints what changed and shows it.
+    void Prekresli(const Obrazovky& okna, std::uint32_t ted);
+    /// Shows all again: the system lost what was shown.
+    void Odkryto();
+    /// The size changed.
+    void Rozmer();
+
+    /// The design pixel, whole numbers, at a place of the window; false beside the design area.
+    bool NaNavrh(int x, int y, double& nx, double& ny) const;
+    /// A design rectangle in units of the window, for the place of an input method.
+    [[nodiscard]] Obdelnik NaOkno(const Obdelnik& o) const;
+
+private:
+    [[nodiscard]] bool MaSpravceOken() const;
+    void Umisti(const Obdelnik& kde);
+    SDL_Surface* Plocha();
+
+    SDL_Window* okno_ = nullptr;
+    bool cela_ = false;
+    bool ukazane_ = false;
+    bool znovuUkazat_ = false;
+    int sirkaPlochy_ = 0, vyskaPlochy_ = 0;  ///< pixels last painted
+    Umisteni umisteni_;
+    /// Pixels of our own, where the window's have another format.
+    std::vector<std::uint32_t> vlastni_;
+    std::unique_ptr<Malir> malir_ = std::make_unique<Malir>();
+};
+
+}  // namespace rysovna

@@ -1,0 +1,378 @@
+#include "platform/sdl/SdlHost.h"
+
+#include <SDL.h>
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <ctime>
+#include <iostream>
+#include <optional>
+
+#include "base/Chyba.h"
+#include "platform/Obrazovky.h"
+#include "platform/Surface.h"
+#include "platform/ZpravaForm.h"
+#include "platform/sdl/Okno.h"
+#include "platform/sdl/Zvuk.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr int SHIFT = 1, CTRL = 2, ALT = 4;
+constexpr RezimObrazovky REZIM_PROGRAMU{640, 480, 16};
+constexpr const char* SOUBOR_NASTAVENI = "\\Rysovna.ini";
+
+/// Keys that have a name for the screens, whatever is held with them.
+constexpr struct {
+    SDL_Keycode Kod;
+    const char* Jmeno;
+} KLAVESY[] = {
+    {SDLK_LEFT, "Left"},     {SDLK_RIGHT, "Right"},         {SDLK_UP, "Up"},
+    {SDLK_DOWN, "Down"},     {SDLK_HOME, "Home"},           {SDLK_END, "End"},
+    {SDLK_TAB, "Tab"},       {SDLK_BACKSPACE, "BackSpace"}, {SDLK_DELETE, "Delete"},
+    {SDLK_RETURN, "Return"}, {SDLK_KP_ENTER, "Return"},     {SDLK_ESCAPE, "Escape"},
+    {SDLK_SPACE, "Space"},
+};
+
+/// Key and modifiers of an editing command, as the letter with ctrl that means the same.
+constexpr struct {
+    SDL_Keycode Kod;
+    int Drzeno;
+    const char* Jmeno;
+} POVELY[] = {
+    {SDLK_a, CTRL, "a"},       {SDLK_c, CTRL, "c"},      {SDLK_v, CTRL, "v"},
+    {SDLK_x, CTRL, "x"},       {SDLK_INSERT, CTRL, "c"}, {SDLK_INSERT, SHIFT, "v"},
+    {SDLK_DELETE, SHIFT, "x"},
+};
+
+/// Buttons by SDL's number and as the screens count them.
+constexpr struct {
+    int Sdl, Nase;
+} TLACITKA[] = {{SDL_BUTTON_LEFT, 1}, {SDL_BUTTON_RIGHT, 2}, {SDL_BUTTON_MIDDLE, 4}};
+
+int Tlacitko(int sdl) {
+    for (const auto& t : TLACITKA) {
+        if (t.Sdl == sdl) return t.Nase;
+    }
+    return 0;
+}
+
+int Drzena(Uint32 stav) {
+    int drzena = 0;
+    for (const auto& t : TLACITKA) {
+        if ((stav & static_cast<Uint32>(SDL_BUTTON(t.Sdl))) != 0) drzena |= t.Nase;
+    }
+    return drzena;
+}
+
+int Modifikatory(int mod) {
+    return ((mod & KMOD_SHIFT) != 0 ? SHIFT : 0) | ((mod & KMOD_CTRL) != 0 ? CTRL : 0) |
+           ((mod & KMOD_ALT) != 0 ? ALT : 0);
+}
+
+bool MaNastaveni(const std::string& slozka) {
+    std::error_code chyba;
+    return !slozka.empty() &&
+           std::filesystem::is_regular_file(NativniCesta(slozka + SOUBOR_NASTAVENI), chyba);
+}
+
+std::string Promenna(const char* jmeno) {
+    const char* hodnota = std::getenv(jmeno);
+    return hodnota == nullptr ? std::string() : std::string(hodnota);
+}
+
+void NastavSdl() {
+    // The software surface opens in half the time of the accelerated one and needs less memory.
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
+    SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
+    SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    SDL_SetHint(SDL_HINT_APP_NAME, "Rysovna 1");
+#ifdef SDL_HINT_IME_SHOW_UI
+    SDL_SetHint(SDL_HINT_IME_SHOW_UI, "1");
+#endif
+#ifdef SDL_HINT_WINDOWS_DPI_AWARENESS
+    SDL_SetHint(SDL_HINT_WINDOWS_DPI_AWARENESS, "permonitorv2");
+#endif
+}
+
+/// The system's own message box, for when ours cannot be drawn.
+Odpoved SystemovaZprava(const std::string& text, const std::string& titul, Styl styl) {
+    constexpr SDL_MessageBoxButtonData ANO{SDL_MESSAGEBOX_BUTTON_RETURNKEY_DEFAULT,
+                                           static_cast<int>(Odpoved::Ano), "Ano"};
+    constexpr SDL_MessageBoxButtonData NE{SDL_MESSAGEBOX_BUTTON_ESCAPEKEY_DEFAULT,
+                                          static_cast<int>(Odpoved::Ne), "Ne"};
+    constexpr SDL_MessageBoxButtonData OK{
+        SDL_MESSAGEBOX_BUTTON_RETURNKEY_DEFAULT | SDL_MESSAGEBOX_BUTTON_ESCAPEKEY_DEFAULT,
+        static_cast<int>(Odpoved::Ok), "OK"};
+    const bool otazka = styl == Styl::OtazkaAnoNe;
+    const SDL_MessageBoxButtonData anoNe[] = {ANO, NE};
+    SDL_MessageBoxData data{};
+    data.flags = styl == Styl::Stop ? SDL_MESSAGEBOX_ERROR : SDL_MESSAGEBOX_INFORMATION;
+    data.title = titul.c_str();
+    data.message = text.c_str();
+    data.numbuttons = otazka ? 2 : 1;
+    data.buttons = otazka ? anoNe : &OK;
+    int stisknute = 0;
+    if (SDL_ShowMessageBox(&data, &stisknute) != 0) std::cerr << titul << ": " << text << '\n';
+    if (!otazka) return Odpoved::Ok;
+    return stisknute == static_cast<int>(Odpoved::Ano) ? Odpoved::Ano : Odpoved::Ne;
+}
+
+}  // namespace
+
+struct SdlHost::Vnitrek {
+    SdlHost& Host_;
+    Okno Okno_;
+    Zvuk Zvuk_;
+    std::optional<bool> Pise;
+    bool MelZamereni = false;
+
+    void Zpracuj();
+    void Zpracuj(const SDL_Event& e);
+    void Klavesa(const SDL_KeyboardEvent& k);
+    void Stisk(const SDL_MouseButtonEvent& b);
+    void Pohyb(const SDL_MouseMotionEvent& m);
+    void Okenni(const SDL_WindowEvent& w);
+    void SrovnejPsani();
+};
+
+SdlHost::SdlHost() {
+    if (!MaDisplej()) Selhani("Není k dispozici obrazovka");
+    vnitrek_.reset(new Vnitrek{*this, {}, {}, {}, false});
+}
+
+SdlHost::~SdlHost() {
+    vnitrek_.reset();
+    SDL_Quit();
+}
+
+bool SdlHost::MaDisplej() {
+#if !defined(_WIN32) && !defined(__APPLE__)
+    // Asked first: without a display the library falls back to one that nobody sees.
+    if (Promenna("DISPLAY").empty() && Promenna("WAYLAND_DISPLAY").empty()) return false;
+#endif
+    NastavSdl();
+    if (SDL_WasInit(SDL_INIT_VIDEO) == 0 && SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return false;
+    const char* ovladac = SDL_GetCurrentVideoDriver();
+    const std::string jmeno = ovladac == nullptr ? "" : ovladac;
+    return !jmeno.empty() && jmeno != "offscreen" && jmeno != "dummy";
+}
+
+std::uint32_t SdlHost::TickCount() {
+    return SDL_GetTicks();
+}
+
+void SdlHost::DoEvents(std::uint32_t nejvyseMs) {
+    vnitrek_->Zpracuj();
+    Okna().Casovace(TickCount());
+    vnitrek_->SrovnejPsani();
+    Prekresli();
+    if (nejvyseMs == 0 || Okna().JeKonec()) return;
+
+    const std::uint32_t ted = TickCount();
+    std::uint32_t cekat = nejvyseMs;
+    std::uint32_t casovac = 0;
+    if (Okna().PristiCasovac(ted, casovac)) cekat = std::min(cekat, casovac);
+    if (Okna().Psane() != nullptr)
+        cekat = std::min(cekat, BLIKANI - (ted - Okna().PosledniPsani()) % BLIKANI);
+    if (cekat > 0 && SDL_WaitEventTimeout(nullptr, static_cast<int>(cekat)) != 0)
+        vnitrek_->Zpracuj();
+    Okna().Casovace(TickCount());
+    Prekresli();
+}
+
+void SdlHost::Spi(std::uint32_t ms) {
+    SDL_Delay(ms);
+}
+
+void SdlHost::Prekresli() {
+    vnitrek_->Okno_.Prekresli(Okna(), TickCount());
+}
+
+Odpoved SdlHost::MsgBox(const std::string& text, const std::string& titul, Styl styl) {
+    if (!MamePisma() || (!vnitrek_->Okno_.Otevrene() && !vnitrek_->Okno_.Otevri(false)))
+        return SystemovaZprava(text, titul, styl);
+    return UkazZpravu(*this, text, titul, styl);
+}
+
+void SdlHost::SndPlaySound(std::string_view cesta) {
+    vnitrek_->Zvuk_.Zahraj(NativniCesta(cesta));
+}
+
+RezimObrazovky SdlHost::GetDeviceCaps() {
+    SDL_DisplayMode rezim{};
+    if (SDL_GetDesktopDisplayMode(0, &rezim) != 0) return {};
+    return {rezim.w, rezim.h, static_cast<int>(SDL_BITSPERPIXEL(rezim.format))};
+}
+
+int SdlHost::ChangeDisplaySettings(const RezimObrazovky& rezim) {
+    if (rezim == REZIM_PROGRAMU) return vnitrek_->Okno_.Otevri(true) ? 0 : -1;
+    vnitrek_->Okno_.Zavri();
+    return 0;
+}
+
+std::string SdlHost::WindowsDirectory() {
+    char* zaklad = SDL_GetBasePath();
+    const std::string vlastni = zaklad == nullptr ? std::string() : std::string(zaklad);
+    SDL_free(zaklad);
+    if (MaNastaveni(vlastni)) return vlastni;
+    std::string uzivatelska = Promenna("XDG_CONFIG_HOME");
+    if (uzivatelska.empty()) uzivatelska = Promenna("HOME") + "/.config";
+    uzivatelska += "/rysovna";
+    return MaNastaveni(uzivatelska) ? uzivatelska : "/etc/rysovna";
+}
+
+std::uint32_t SdlHost::Seminko() {
+    const auto ted = std::chrono::system_clock::now().time_since_epoch();
+    return static_cast<std::uint32_t>(
+        std::chrono::duration_cast<std::chrono::microseconds>(ted).count());
+}
+
+DatumACas SdlHost::Nyni() {
+    const std::time_t ted = std::time(nullptr);
+    const std::tm* t = std::localtime(&ted);
+    if (t == nullptr) return {};
+    return {t->tm_year + 1900, t->tm_mon + 1, t->tm_mday, t->tm_hour, t->tm_min};
+}
+
+std::string SdlHost::SchrankaText() {
+    char* text = SDL_GetClipboardText();
+    const std::string kopie = text == nullptr ? std::string() : std::string(text);
+    SDL_free(text);
+    return kopie;
+}
+
+void SdlHost::DoSchranky(const std::string& text) {
+    SDL_SetClipboardText(text.c_str());
+}
+
+void SdlHost::PsaniTextu(bool ano, int x, int y) {
+    if (!ano) {
+        SDL_StopTextInput();
+        return;
+    }
+    constexpr int SIRKA_PSANI = 100, VYSKA_PSANI = 20;
+    const Obdelnik o = vnitrek_->Okno_.NaOkno({x, y, SIRKA_PSANI, VYSKA_PSANI});
+    const SDL_Rect misto{o.Left, o.Top, o.Width, o.Height};
+    SDL_SetTextInputRect(&misto);
+    SDL_StartTextInput();
+}
+
+/// Typed text is wanted while a text box has the focus; key combinations work without it.
+void SdlHost::Vnitrek::SrovnejPsani() {
+    const TextBox* t = Host_.Okna().Psane();
+    if (Pise == (t != nullptr)) return;
+    Pise = t != nullptr;
+    int x = 0;
+    int y = 0;
+    for (const Ovladac* o = t; o != nullptr; o = o->Rodic) {
+        x += o->Left;
+        y += o->Top;
+    }
+    Host_.PsaniTextu(*Pise, x, y);
+}
+
+void SdlHost::Vnitrek::Zpracuj() {
+    SDL_Event e;
+    while (SDL_PollEvent(&e) != 0) {
+        if (e.type == SDL_MOUSEMOTION) {
+            // Of a row of moves the last one is enough.
+            SDL_Event dalsi;
+            if (SDL_PeepEvents(&dalsi, 1, SDL_PEEKEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT) > 0 &&
+                dalsi.type == SDL_MOUSEMOTION && dalsi.motion.state == e.motion.state)
+                continue;
+        }
+        Zpracuj(e);
+    }
+}
+
+void SdlHost::Vnitrek::Zpracuj(const SDL_Event& e) {
+    switch (e.type) {
+        case SDL_QUIT:
+            Host_.Okna().ZadostOZavreni();
+            break;
+        case SDL_KEYDOWN:
+            Klavesa(e.key);
+            break;
+        case SDL_TEXTINPUT:
+            Host_.Okna().Text(e.text.text);
+            break;
+        case SDL_MOUSEBUTTONDOWN:
+        case SDL_MOUSEBUTTONUP:
+            Stisk(e.button);
+            break;
+        case SDL_MOUSEMOTION:
+            Pohyb(e.motion);
+            break;
+        case SDL_WINDOWEVENT:
+            Okenni(e.window);
+            break;
+        default:
+            break;
+    }
+}
+
+void SdlHost::Vnitrek::Klavesa(const SDL_KeyboardEvent& k) {
+    const SDL_Keycode kod = k.keysym.sym;
+    const int drzeno = Modifikatory(k.keysym.mod);
+    const bool enter = kod == SDLK_RETURN || kod == SDLK_KP_ENTER;
+    if (kod == SDLK_F11 || (enter && drzeno == ALT)) {
+        if (k.repeat == 0) Okno_.PrepniCelouObrazovku();
+        return;
+    }
+    for (const auto& p : POVELY) {
+        if (p.Kod != kod || p.Drzeno != drzeno) continue;
+        Host_.Okna().Klavesa(p.Jmeno, CTRL);
+        return;
+    }
+    for (const auto& p : KLAVESY) {
+        if (p.Kod != kod) continue;
+        Host_.Okna().Klavesa(p.Jmeno, drzeno & (SHIFT | CTRL));
+        return;
+    }
+}
+
+void SdlHost::Vnitrek::Stisk(const SDL_MouseButtonEvent& b) {
+    const int tlacitko = Tlacitko(b.button);
+    if (tlacitko == 0) return;
+    double x = 0;
+    double y = 0;
+    const bool uvnitr = Okno_.NaNavrh(b.x, b.y, x, y);
+    const int shift = Modifikatory(SDL_GetModState()) & (SHIFT | CTRL);
+    if (b.type == SDL_MOUSEBUTTONUP) {
+        Host_.Okna().MysNahoru(x, y, tlacitko, shift);
+    } else if (uvnitr) {
+        Host_.Okna().MysDolu(x, y, tlacitko, shift);
+    } else {
+        Host_.Okna().Navrat();
+    }
+}
+
+void SdlHost::Vnitrek::Pohyb(const SDL_MouseMotionEvent& m) {
+    double x = 0;
+    double y = 0;
+    Okno_.NaNavrh(m.x, m.y, x, y);
+    Host_.Okna().MysPohyb(x, y, Drzena(m.state), Modifikatory(SDL_GetModState()) & (SHIFT | CTRL));
+}
+
+void SdlHost::Vnitrek::Okenni(const SDL_WindowEvent& w) {
+    switch (w.event) {
+        case SDL_WINDOWEVENT_EXPOSED:
+            Okno_.Odkryto();
+            break;
+        case SDL_WINDOWEVENT_SIZE_CHANGED:
+            Okno_.Rozmer();
+            break;
+        case SDL_WINDOWEVENT_FOCUS_GAINED:
+            if (MelZamereni) Host_.Okna().Navrat();
+            MelZamereni = true;
+            break;
+        default:
+            break;
+    }
+}
+
+}  // namespace rysovna

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/Host.h"
+
+namespace rysovna {
+
+/// The window "Rysovna 1" on a real display. It opens at the first switch of the screen mode (full
+/// screen, on the monitor with the pointer) or at the first message box (an ordinary window). The
+/// design area keeps its aspect ratio, black beside it. Alt+Enter and F11 switch between full
+/// screen and a window; the close button asks the program's own question.
+class SdlHost final : public Host {
+public:
+    /// A display that cannot be opened is a run-time fault: ask MaDisplej() first.
+    SdlHost();
+    ~SdlHost() override;
+
+    /// Whether this process has a display to open a window on.
+    [[nodiscard]] static bool MaDisplej();
+
+    [[nodiscard]] std::uint32_t TickCount() override;
+    void DoEvents(std::uint32_t nejvyseMs) override;
+    void Spi(std::uint32_t ms) override;
+    void Prekresli() override;
+    Odpoved MsgBox(const std::string& text, const std::string& titul, Styl styl) override;
+    void SndPlaySound(std::string_view cesta) override;
+    [[nodiscard]] RezimObrazovky GetDeviceCaps() override;
+    /// 640 by 480 fills the screen; any other mode puts the window away. 0 unless no window can
+    /// be opened.
+    int ChangeDisplaySettings(const RezimObrazovky& rezim) override;
+    /// The executable's folder if it holds Rysovna.ini (any case), else the user's configuration
+    /// folder (rysovna below $XDG_CONFIG_HOME or ~/.config) if it holds one, else /etc/rysovna.
+    [[nodiscard]] std::string WindowsDirectory() override;
+    [[nodiscard]] std::uint32_t Seminko() override;
+    [[nodiscard]] DatumACas Nyni() override;
+    [[nodiscard]] std::string SchrankaText() override;
+    void DoSchranky(const std::string& text) override;
+    void PsaniTextu(bool ano, int x, int y) override;
+
+private:
+    struct Vnitrek;
+    std::unique_ptr<Vnitrek> vnitrek_;
+};
+
+}  // namespace rysovna
