@@ -1,0 +1,128 @@
+#include <benchmark/benchmark.h>
+#include <string>
+
+#include "engine/Kresleni.h"
+#include "engine/PametovaPlocha.h"
+#include "engine/Sluzby.h"
+#include "engine/Tabulky.h"
+#include "podpora/Konstrukce.h"
+#include "podpora/Mereni.h"
+#include "podpora/ProsteHledani.h"
+#include "podpora/ZaznamPlane.h"
+
+using namespace rysovna;
+using namespace rysovna::testy;
+
+namespace {
+
+constexpr int SIRKA = 12;
+constexpr int DOSAH = 10;
+constexpr Bod MISTO{190, 160};
+
+/// Planes for the label search, each with the point where it begins.
+struct Pripad {
+    PametovaPlocha plocha{SIRKA_PLOCHY, VYSKA_PLOCHY};
+    Bod bod = MISTO;
+};
+
+Pripad Prazdna() {
+    return {};
+}
+
+/// A finished triangle; the label of B, at the crossing of a side and two circles.
+Pripad Hotova() {
+    Pripad p;
+    SmazKonstrukci();
+    NakresliTrojuhelnik(p.plocha);
+    p.bod = {240 - 3, 250 + 10};
+    return p;
+}
+
+/// Every box fails, and only at its last pixel.
+Pripad Nejhorsi() {
+    Pripad p;
+    for (int i = -DOSAH; i <= DOSAH; ++i) {
+        for (int j = -DOSAH; j <= DOSAH; ++j) {
+            p.plocha.PSet(MISTO.X + i + SIRKA, MISTO.Y + j + VYSKA_POPISU, CERNA);
+        }
+    }
+    return p;
+}
+
+/// The first box fails at its first pixel and the second is free: the plain scan reads next to
+/// nothing.
+Pripad DruhaVolna() {
+    Pripad p;
+    p.plocha.PSet(MISTO.X - DOSAH - 1, MISTO.Y - DOSAH - 1, CERNA);
+    return p;
+}
+
+/// Nothing is white: every box fails at its first pixel.
+Pripad Cerna() {
+    Pripad p;
+    for (int y = 0; y < VYSKA_PLOCHY; ++y) {
+        for (int x = 0; x < SIRKA_PLOCHY; ++x) p.plocha.PSet(x, y, CERNA);
+    }
+    return p;
+}
+
+/// Time of the label search with the counter proste_ku_VolneMisto: how many times longer the plain
+/// scan takes on the same plane.
+void HledaniMista(benchmark::State& state, Pripad (*vyrob)()) {
+    Pripad p = vyrob();
+    Plane& plane = p.plocha;
+    const auto rychle = [&] {
+        Bod bod = p.bod;
+        VolneMisto(plane, bod, SIRKA, DOSAH);
+        benchmark::DoNotOptimize(bod);
+    };
+    const auto proste = [&] {
+        Bod bod = p.bod;
+        ProsteHledani(plane, bod, SIRKA, DOSAH);
+        benchmark::DoNotOptimize(bod);
+    };
+    const double pomer = PomerCasu(proste, rychle);
+    for (auto _ : state) rychle();
+    state.counters["proste_ku_VolneMisto"] = pomer;
+}
+BENCHMARK_CAPTURE(HledaniMista, prazdna, &Prazdna);
+BENCHMARK_CAPTURE(HledaniMista, hotova, &Hotova);
+BENCHMARK_CAPTURE(HledaniMista, nejhorsi, &Nejhorsi);
+BENCHMARK_CAPTURE(HledaniMista, druha_volna, &DruhaVolna);
+BENCHMARK_CAPTURE(HledaniMista, cerna, &Cerna);
+
+/// Redraw of 100 objects of all kinds, with the counter ku_samotnym_caram: how many times longer
+/// it takes than the same clearing, lines, circles, texts and copies with no label search.
+void Prekresleni(benchmark::State& state) {
+    PametovaPlocha hiden(SIRKA_PLOCHY, VYSKA_PLOCHY), pic(SIRKA_PLOCHY, VYSKA_PLOCHY);
+    SmazKonstrukci();
+    NakresliNahodne(pic, 100, 1);
+    ZaznamPlane zaznam(SIRKA_PLOCHY, VYSKA_PLOCHY);
+    PrekresliVse(zaznam, pic);
+
+    const auto vse = [&] { PrekresliVse(hiden, pic); };
+    const auto samotne = [&] {
+        Plane& plane = hiden;
+        plane.Cls();
+        for (const auto& c : zaznam.carky) {
+            plane.DrawWidth = c.pero;
+            plane.Line(c.x1, c.y1, c.x2, c.y2);
+        }
+        for (const auto& k : zaznam.kruhy) plane.Circle(k.x, k.y, k.r);
+        for (const auto& n : zaznam.napisy) {
+            plane.CurrentX = n.x;
+            plane.CurrentY = n.y;
+            plane.Print(n.text);
+        }
+        for (int i = 0; i < 3; ++i) {
+            pic.BitBlt(0, 0, hiden.Width(), hiden.Height(), hiden, 0, 0, Rop::SrcCopy);
+        }
+    };
+    const double pomer = PomerCasu(vse, samotne);
+    for (auto _ : state) vse();
+    state.counters["ku_samotnym_caram"] = pomer;
+    state.counters["utvaru"] = PocetUtvaru;
+}
+BENCHMARK(Prekresleni)->Unit(benchmark::kMicrosecond);
+
+}  // namespace

@@ -1,0 +1,393 @@
+#include "engine/Kresleni.h"
+
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <string>
+
+#include "base/Chyba.h"
+#include "base/Cisla.h"
+#include "engine/Resitele.h"
+#include "engine/Sluzby.h"
+#include "engine/Tabulky.h"
+
+namespace rysovna {
+
+namespace {
+
+/// How wide a label is and how far it may be moved, px.
+struct Popisek {
+    int sirka, dosah;
+};
+constexpr Popisek POPIS_BODU{15, 8};
+constexpr Popisek POPIS_USECKY{12, 10};
+constexpr Popisek POPIS_PRIMKY{8, 5};  ///< of a ray, line, parallel and perpendicular
+constexpr Popisek POPIS_KRUZNICE{12, 8};
+
+/// How the cross of a mark is turned. Of its two arms one runs along the object and one across.
+enum class Kriz { Vodorovny, Svisly, Tangens, Kotangens };
+
+/// Reach of a cross's arm to each side along its longer axis, px. An exactly axis-parallel object
+/// has longer ones than a slanted one: the pupil can see the difference.
+constexpr double RAMENO_ROVNE = 5;
+constexpr double RAMENO_SIKME = 4;
+
+enum class Meze { Rovno, PodHorni, DoHorni };
+
+/// One row: which directions belong to it, how their marks lean, where their labels go.
+struct Sektor {
+    Meze meze;         ///< the direction equals od; or is above od and below (at most) horni
+    double od, horni;  ///< radians, compared as singles
+    Kriz kriz;
+    int vpred;  ///< 1 when the arm along the object points forward, -1 when backward
+    Bod popis;  ///< offset of the label from the point, px
+};
+
+/// In order: the first row that holds decides.
+constexpr std::array<Sektor, 13> SEKTORY{{
+    {Meze::Rovno, 0, 0, Kriz::Vodorovny, 1, {-3, 10}},
+    {Meze::Rovno, DVE_PI, DVE_PI, Kriz::Vodorovny, 1, {-3, 10}},
+    {Meze::DoHorni, 0, PI / 4, Kriz::Tangens, 1, {0, 10}},
+    {Meze::PodHorni, PI / 4, PI / 2, Kriz::Kotangens, 1, {10, 0}},
+    {Meze::Rovno, PI / 2, PI / 2, Kriz::Svisly, 1, {10, -3}},
+    {Meze::DoHorni, PI / 2, TRI_PI / 4, Kriz::Kotangens, 1, {-13, 0}},
+    {Meze::PodHorni, TRI_PI / 4, PI, Kriz::Tangens, -1, {-12, 5}},
+    {Meze::Rovno, PI, PI, Kriz::Vodorovny, -1, {-3, 10}},
+    {Meze::DoHorni, PI, PET_PI / 4, Kriz::Tangens, -1, {0, 10}},
+    {Meze::PodHorni, PET_PI / 4, TRI_PI / 2, Kriz::Kotangens, -1, {10, 0}},
+    {Meze::Rovno, TRI_PI / 2, TRI_PI / 2, Kriz::Svisly, -1, {10, -3}},
+    {Meze::DoHorni, TRI_PI / 2, SEDM_PI / 4, Kriz::Kotangens, -1, {-15, 0}},
+    {Meze::PodHorni, SEDM_PI / 4, DVE_PI, Kriz::Tangens, 1, {-5, 5}},
+}};
+
+bool Patri(const Sektor& sektor, float smer) {
+    if (sektor.meze == Meze::Rovno) return RovneUhly(smer, sektor.od);
+    const auto horni = static_cast<float>(sektor.horni);
+    return smer > static_cast<float>(sektor.od) &&
+           (sektor.meze == Meze::DoHorni ? smer <= horni : smer < horni);
+}
+
+const Sektor& NajdiSektor(float smer) {
+    for (const Sektor& sektor : SEKTORY) {
+        if (Patri(sektor, smer)) return sektor;
+    }
+    Selhani("Směr mimo plný úhel");
+}
+
+/// From the middle of a cross to the end of an arm, px. The other end is opposite.
+struct Rameno {
+    double X, Y;
+};
+
+struct Ramena {
+    Rameno pricne, podelne;  ///< podelne points forward along the object
+};
+
+Ramena RamenaKrize(const Sektor& sektor, float smer) {
+    const double t = std::tan(static_cast<double>(smer));
+    Ramena ramena{};
+    switch (sektor.kriz) {
+        case Kriz::Vodorovny:
+            ramena = {{0, RAMENO_ROVNE}, {RAMENO_ROVNE, 0}};
+            break;
+        case Kriz::Svisly:
+            ramena = {{RAMENO_ROVNE, 0}, {0, -RAMENO_ROVNE}};
+            break;
+        case Kriz::Tangens:
+            ramena = {{RAMENO_SIKME * t, RAMENO_SIKME}, {RAMENO_SIKME, -RAMENO_SIKME * t}};
+            break;
+        case Kriz::Kotangens:
+            ramena = {{RAMENO_SIKME, RAMENO_SIKME / t}, {RAMENO_SIKME / t, -RAMENO_SIKME}};
+            break;
+    }
+    ramena.podelne.X *= sektor.vpred;
+    ramena.podelne.Y *= sektor.vpred;
+    return ramena;
+}
+
+/// A line between two places near a point, given from it in px.
+void Carka(Plane& plane, Bod bod, Rameno od, Rameno k) {
+    plane.Line(static_cast<float>(bod.X + od.X), static_cast<float>(bod.Y + od.Y),
+               static_cast<float>(bod.X + k.X), static_cast<float>(bod.Y + k.Y));
+}
+
+Rameno Opacne(Rameno r) {
+    return {-r.X, -r.Y};
+}
+
+/// A whole arm, to both sides of the point.
+void CeleRameno(Plane& plane, Bod bod, Rameno rameno) {
+    Carka(plane, bod, Opacne(rameno), rameno);
+}
+
+void Vypis(Plane& plane, Bod bod, Bod posun, Popisek popisek, std::string_view text) {
+    Bod misto{bod.X + posun.X, bod.Y + posun.Y};
+    VolneMisto(plane, misto, popisek.sirka, popisek.dosah);
+    plane.CurrentX = static_cast<float>(misto.X);
+    plane.CurrentY = static_cast<float>(misto.Y);
+    plane.Print(text);
+}
+
+/// The snap row to write: a new one, or the last.
+Trojice& RadekTrojice(int NovaTrojice) {
+    const int i = NovaTrojice == ANO ? PocetTrojic + 1 : PocetTrojic;
+    Trojice& radek = Trojice_tab[i];
+    PocetTrojic = i;
+    return radek;
+}
+
+/// Snap points of a straight object from its stored points and names.
+Trojice& ZapisKonce(const Utvar& utvar, int NovaTrojice) {
+    Trojice& trojice = RadekTrojice(NovaTrojice);
+    trojice.X1 = utvar.X1;
+    trojice.Y1 = utvar.Y1;
+    trojice.Jmeno1 = utvar.Jmeno1;
+    trojice.X2 = utvar.X2;
+    trojice.Y2 = utvar.Y2;
+    trojice.Jmeno2 = utvar.Jmeno2;
+    return trojice;
+}
+
+void ZapisStred(const Utvar& utvar, int NovaTrojice) {
+    Trojice& trojice = RadekTrojice(NovaTrojice);
+    trojice.X1 = utvar.X1;
+    trojice.Y1 = utvar.Y1;
+    trojice.Jmeno1 = utvar.Jmeno1;
+}
+
+/// The name of the line through two points, and the name of the midpoint between them.
+struct JmenoStredu {
+    std::string_view prvni, druhy, stred;
+};
+constexpr JmenoStredu JMENA_STREDU[] = {{"A", "B", "Sc"}, {"A", "C", "Sb"}, {"B", "C", "Sa"}};
+
+// The margin box, px from the plane's edges: where the second point of a ray or line is put, so
+// that there is room for its label.
+constexpr int OKRAJ_X = 15;
+constexpr int OKRAJ_NAHORE = 10;
+constexpr int OKRAJ_DOLE = 20;
+
+/// Y, or with the axes exchanged X, of the line through two points at the given coordinate.
+double NaPrimceV(double a1, double b1, double a2, double b2, double a) {
+    return (b2 - b1) * (a - a1) / (a2 - a1) + b1;
+}
+
+/// The second point moved along the object to the margin box. It stays where it was when the
+/// moved one would not lie ahead of the start: no drag at all, or a start beyond the box. An
+/// object level with the start above or below the box is moved into it upright.
+Bod NaOkraj(const Plane& plane, Bod od, Bod k) {
+    const int vpravo = plane.Width() - OKRAJ_X;
+    const int dole = plane.Height() - OKRAJ_DOLE;
+    Bod bod = k;
+    if (k.X != od.X) {
+        bod.X = k.X > od.X ? vpravo : OKRAJ_X;
+        bod.Y = Zaokrouhli(NaPrimceV(od.X, od.Y, k.X, k.Y, bod.X));
+    } else if (k.Y != od.Y) {
+        bod.Y = k.Y < od.Y ? OKRAJ_NAHORE : dole;
+    }
+    const auto doVysky = [&bod, od](int y) {
+        if (bod.Y != od.Y) bod.X = Zaokrouhli(NaPrimceV(od.Y, od.X, bod.Y, bod.X, y));
+        bod.Y = y;
+    };
+    if (bod.Y < OKRAJ_NAHORE) doVysky(OKRAJ_NAHORE);
+    if (bod.Y > dole) doVysky(dole);
+    const double vpred = (static_cast<double>(bod.X) - od.X) * (static_cast<double>(k.X) - od.X) +
+                         (static_cast<double>(bod.Y) - od.Y) * (static_cast<double>(k.Y) - od.Y);
+    return vpred > 0 ? bod : k;
+}
+
+/// What ray, line, parallel and perpendicular have in common: direction from the points as given,
+/// then the second point at the margin when the object is new, then the record.
+Utvar& UlozPrimy(const Plane& plane, std::string_view druh, int index, Bod od, Bod k,
+                 int NovaTrojice) {
+    Utvar& utvar = Utvary[index];
+    utvar.Smer = Smer(od, k, utvar.Smer);
+    if (NovaTrojice == ANO) k = NaOkraj(plane, od, k);
+    utvar.X1 = od.X;
+    utvar.Y1 = od.Y;
+    utvar.X2 = k.X;
+    utvar.Y2 = k.Y;
+    utvar.Druh = druh;
+    return utvar;
+}
+
+/// Where the object's line has the given x, px.
+float VyskaV(const Utvar& u, int x) {
+    const double smernice = (static_cast<double>(u.Y2) - u.Y1) / (static_cast<double>(u.X2) - u.X1);
+    return static_cast<float>(smernice * (static_cast<double>(x) - u.X1) + u.Y1);
+}
+
+/// The line across the whole plane, its label and its snap row.
+void CaraPresPlochu(Plane& plane, const Utvar& utvar, int NovaTrojice) {
+    const auto x1 = static_cast<float>(utvar.X1);
+    const auto W = static_cast<float>(plane.Width());
+    const auto H = static_cast<float>(plane.Height());
+    if (utvar.X1 != utvar.X2) {
+        plane.Line(0, VyskaV(utvar, 0), W, VyskaV(utvar, plane.Width()));
+    } else {
+        plane.Line(x1, 0, x1, H);
+    }
+    Vypis(plane, {utvar.X2, utvar.Y2}, NajdiSektor(utvar.Smer).popis, POPIS_PRIMKY, utvar.Jmeno1);
+    ZapisKonce(utvar, NovaTrojice);
+}
+
+/// The direction of the line that carries the given two-letter name, by the last snap row whose
+/// first two names are its letters; 0 when there is none.
+float SmerPodleJmena(std::string_view naPrimce) {
+    const std::string_view pismeno1 = naPrimce.substr(0, 1);
+    const std::string_view pismeno2 =
+        naPrimce.size() > 1 ? naPrimce.substr(1, 1) : std::string_view{};
+    Bod A, B;
+    for (int i = 1; i <= PocetTrojic; ++i) {
+        const Trojice& t = Trojice_tab[i];
+        if (pismeno1 == t.Jmeno1 && pismeno2 == t.Jmeno2) {
+            A = {t.X1, t.Y1};
+            B = {t.X2, t.Y2};
+        } else if (pismeno2 == t.Jmeno1 && pismeno1 == t.Jmeno2) {
+            A = {t.X2, t.Y2};
+            B = {t.X1, t.Y1};
+        }
+    }
+    return Smer(A, B, 0);
+}
+
+// The label of a circle is tried every 15 degrees from the first angle to the last, from the
+// bottom of the circle towards its right side; 13 px up from the circle.
+struct UsekUhlu {
+    int prvni, posledni;
+};
+constexpr UsekUhlu UHLY_POPISU_KRUZNICE[] = {{11, 6}, {11, 18}};
+constexpr int KROK_UHLU = 15;
+constexpr int VYSKA_NAD_KRUZNICI = 13;
+
+Bod MistoPopisuKruznice(const Plane& plane, Bod stred, double r) {
+    Bod bod;
+    for (const UsekUhlu& usek : UHLY_POPISU_KRUZNICE) {
+        const int krok = usek.prvni > usek.posledni ? -1 : 1;
+        for (int i = usek.prvni; i != usek.posledni + krok; i += krok) {
+            const double uhel = i * KROK_UHLU / (STUPNU_PULOTACKY / PI);
+            bod = {Zaokrouhli(r * std::sin(uhel) + stred.X),
+                   Zaokrouhli(r * std::cos(uhel) + stred.Y) - VYSKA_NAD_KRUZNICI};
+            if (bod.X > 0 && bod.X < plane.Width() && bod.Y > 0 && bod.Y < plane.Height()) {
+                return bod;
+            }
+        }
+    }
+    return bod;
+}
+
+}  // namespace
+
+void KresliBod(Plane& plane, std::string_view druh, std::string_view jmeno1, int index, int X1,
+               int Y1, std::string_view popis1, std::string_view naPrimce, int NovaTrojice) {
+    Utvar& utvar = Utvary[index];
+    utvar.X1 = X1;
+    utvar.Y1 = Y1;
+    utvar.Jmeno1 = jmeno1;
+    utvar.Popis1 = popis1;
+    utvar.Druh = druh;
+    utvar.NaPrimce = naPrimce;
+
+    const float smer = SmerPodleJmena(utvar.NaPrimce);
+    const Sektor& sektor = NajdiSektor(smer);
+    const Ramena ramena = RamenaKrize(sektor, smer);
+    const Bod bod{X1, Y1};
+    plane.DrawWidth = 1;
+    CeleRameno(plane, bod, ramena.pricne);
+    CeleRameno(plane, bod, ramena.podelne);
+    Vypis(plane, bod, sektor.popis, POPIS_BODU, utvar.Popis1);
+    ZapisStred(utvar, NovaTrojice);
+}
+
+void KresliUsecku(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,
+                  float delka, std::string_view popis1, std::string_view popis2, int znacky,
+                  int kresliCaru, int NovaTrojice) {
+    const Bod prvni{X1, Y1};
+    const Bod druhy{X2, Y2};
+    Utvar& utvar = Utvary[index];
+    utvar.X1 = X1;
+    utvar.Y1 = Y1;
+    utvar.X2 = X2;
+    utvar.Y2 = Y2;
+    utvar.Popis1 = popis1;
+    utvar.Popis2 = popis2;
+    utvar.Znacky = static_cast<std::int16_t>(znacky);
+    utvar.Delka = delka;
+    utvar.Druh = druh;
+    for (const JmenoStredu& j : JMENA_STREDU) {
+        if (utvar.Jmeno1 == j.prvni && utvar.Jmeno2 == j.druhy) utvar.Jmeno3 = j.stred;
+    }
+    utvar.X3 = Zaokrouhli((static_cast<double>(X2) - X1) / 2 + X1);
+    utvar.Y3 = Zaokrouhli((static_cast<double>(Y2) - Y1) / 2 + Y1);
+    utvar.Smer = Smer(prvni, druhy, utvar.Smer);
+
+    const Sektor& sektor = NajdiSektor(utvar.Smer);
+    if (kresliCaru == ANO) {
+        plane.Line(static_cast<float>(X1), static_cast<float>(Y1), static_cast<float>(X2),
+                   static_cast<float>(Y2));
+        if (znacky == ANO) {
+            const Ramena ramena = RamenaKrize(sektor, utvar.Smer);
+            Carka(plane, prvni, Opacne(ramena.podelne), {0, 0});
+            Carka(plane, druhy, {0, 0}, ramena.podelne);
+            CeleRameno(plane, prvni, ramena.pricne);
+            CeleRameno(plane, druhy, ramena.pricne);
+        }
+    }
+    Vypis(plane, prvni, sektor.popis, POPIS_USECKY, utvar.Popis1);
+    Vypis(plane, druhy, sektor.popis, POPIS_USECKY, utvar.Popis2);
+
+    Trojice& trojice = ZapisKonce(utvar, NovaTrojice);
+    trojice.X3 = utvar.X3;
+    trojice.Y3 = utvar.Y3;
+    trojice.Jmeno3 = utvar.Jmeno3;
+}
+
+void KresliPoloprimku(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2,
+                      int Y2, std::string_view popis2, int NovaTrojice) {
+    Utvar& utvar = UlozPrimy(plane, druh, index, {X1, Y1}, {X2, Y2}, NovaTrojice);
+    utvar.Popis2 = popis2;
+
+    const auto x1 = static_cast<float>(utvar.X1);
+    const auto y1 = static_cast<float>(utvar.Y1);
+    if (utvar.X2 == utvar.X1) {
+        plane.Line(x1, y1, x1, utvar.Y2 < utvar.Y1 ? 0 : static_cast<float>(plane.Height()));
+    } else {
+        const int kraj = utvar.X2 > utvar.X1 ? plane.Width() : 0;
+        plane.Line(x1, y1, static_cast<float>(kraj), VyskaV(utvar, kraj));
+    }
+    const Sektor& sektor = NajdiSektor(utvar.Smer);
+    const Bod druhy{utvar.X2, utvar.Y2};
+    CeleRameno(plane, druhy, RamenaKrize(sektor, utvar.Smer).pricne);
+    Vypis(plane, druhy, sektor.popis, POPIS_PRIMKY, utvar.Popis2);
+    ZapisKonce(utvar, NovaTrojice);
+}
+
+void KresliPrimku(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,
+                  float delka, int NovaTrojice) {
+    Utvar& utvar = UlozPrimy(plane, druh, index, {X1, Y1}, {X2, Y2}, NovaTrojice);
+    utvar.Delka = delka;
+    CaraPresPlochu(plane, utvar, NovaTrojice);
+}
+
+void KresliKolmici(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,
+                   int NovaTrojice) {
+    CaraPresPlochu(plane, UlozPrimy(plane, druh, index, {X1, Y1}, {X2, Y2}, NovaTrojice),
+                   NovaTrojice);
+}
+
+void KresliKruznici(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2,
+                    int NovaTrojice) {
+    Utvar& utvar = Utvary[index];
+    utvar.X1 = X1;
+    utvar.Y1 = Y1;
+    utvar.X2 = X2;
+    utvar.Polomer = std::abs(static_cast<float>(static_cast<double>(X1) - X2));
+    utvar.Druh = druh;
+
+    plane.Circle(static_cast<float>(X1), static_cast<float>(Y1), utvar.Polomer);
+    Vypis(plane, MistoPopisuKruznice(plane, {X1, Y1}, utvar.Polomer), {0, 0}, POPIS_KRUZNICE,
+          utvar.Jmeno1);
+    ZapisStred(utvar, NovaTrojice);
+}
+
+}  // namespace rysovna

@@ -1,0 +1,149 @@
+#include "engine/PametovaPlocha.h"
+
+#include <algorithm>
+
+#include "base/Cisla.h"
+#include "base/Rastr.h"
+#include "base/Text.h"
+
+namespace rysovna {
+
+namespace {
+
+/// A rectangle cut to another one.
+Obdelnik Prunik(const Obdelnik& a, const Obdelnik& b) {
+    const int left = std::max(a.Left, b.Left);
+    const int top = std::max(a.Top, b.Top);
+    const int right = std::min(a.Left + a.Width, b.Left + b.Width);
+    const int bottom = std::min(a.Top + a.Height, b.Top + b.Height);
+    return {left, top, std::max(right - left, 0), std::max(bottom - top, 0)};
+}
+
+Barva Smichej(Barva cil, Barva zdroj, Rop rop) {
+    switch (rop) {
+        case Rop::SrcCopy:
+            return zdroj;
+        case Rop::SrcAnd:
+            return cil & zdroj;
+        case Rop::SrcPaint:
+            return cil | zdroj;
+    }
+    return cil;
+}
+
+}  // namespace
+
+PametovaPlocha::PametovaPlocha(int w, int h, bool jednobitova)
+    : w_(std::max(w, 0)),
+      h_(std::max(h, 0)),
+      jednobitova_(jednobitova),
+      body_(static_cast<std::size_t>(w_) * static_cast<std::size_t>(h_),
+            jednobitova ? CERNA : BILA) {}
+
+void PametovaPlocha::PSet(int x, int y, Barva barva) {
+    if (!Meze().Obsahuje(x, y)) return;
+    body_[Misto(x, y)] = jednobitova_ && barva != CERNA ? BILA : barva;
+}
+
+void PametovaPlocha::Line(float x1, float y1, float x2, float y2) {
+    RastrUsecka(x1, y1, x2, y2, DrawWidth, Meze(), [this](int x, int y) { PSet(x, y, ForeColor); });
+}
+
+void PametovaPlocha::Circle(float x, float y, float r) {
+    RastrKruznice(x, y, r, DrawWidth, Meze(), [this](int px, int py) { PSet(px, py, ForeColor); });
+}
+
+void PametovaPlocha::Print(std::string_view text) {
+    Obdelnik znak{Zaokrouhli(CurrentX), Zaokrouhli(CurrentY), SIRKA_ZNAKU, VYSKA_ZNAKU};
+    for (const char32_t kod : DoZnaku(text)) {
+        if (kod != U' ') {
+            const Obdelnik cast = Prunik(znak, Meze());
+            for (int y = cast.Top; y < cast.Top + cast.Height; ++y) {
+                for (int x = cast.Left; x < cast.Left + cast.Width; ++x) PSet(x, y, ForeColor);
+            }
+        }
+        znak.Left += SIRKA_ZNAKU;
+    }
+}
+
+void PametovaPlocha::Cls() {
+    std::ranges::fill(body_, jednobitova_ && BackColor != CERNA ? BILA : BackColor);
+    CurrentX = CurrentY = 0;
+}
+
+Barva PametovaPlocha::Point(int x, int y) const {
+    if (x < 0 || y < 0 || x >= w_ || y >= h_) return BEZ_BARVY;
+    return body_[Misto(x, y)];
+}
+
+void PametovaPlocha::Sloupec(int x, int y, std::span<std::uint8_t> cile) const {
+    const int n = static_cast<int>(cile.size());
+    const int uvnitrOd = x < 0 || x >= w_ ? n : std::clamp(-y, 0, n);
+    const int uvnitrDo = x < 0 || x >= w_ ? n : std::clamp(h_ - y, uvnitrOd, n);
+    std::uint8_t* cil = cile.data();
+    std::fill_n(cil, uvnitrOd, std::uint8_t{1});
+    if (uvnitrOd < uvnitrDo) {
+        const Barva* bod = &body_[Misto(x, y + uvnitrOd)];
+        const std::ptrdiff_t krok = w_;
+        for (int i = uvnitrOd; i < uvnitrDo; ++i, bod += krok) cil[i] = *bod != BILA;
+    }
+    std::fill(cil + uvnitrDo, cil + n, std::uint8_t{1});
+}
+
+bool PametovaPlocha::BitBlt(int x, int y, int w, int h, const Plane& zdroj, int zx, int zy,
+                            Rop rop) {
+    if (&zdroj == this) {
+        // The two areas may overlap.
+        const PametovaPlocha kopie = *this;
+        return BitBlt(x, y, w, h, kopie, zx, zy, rop);
+    }
+    const auto* pametova = dynamic_cast<const PametovaPlocha*>(&zdroj);
+    const bool naJedenBit = jednobitova_ && !(pametova != nullptr && pametova->jednobitova_);
+    const Obdelnik vZdroji{x - zx, y - zy, zdroj.Width(), zdroj.Height()};
+    const Obdelnik kam = Prunik(Prunik({x, y, w, h}, Meze()), vZdroji);
+    const bool celeRadky = rop == Rop::SrcCopy && pametova != nullptr && !naJedenBit;
+    for (int py = kam.Top; py < kam.Top + kam.Height; ++py) {
+        if (celeRadky) {
+            if (kam.Width == 0) break;
+            std::copy_n(&pametova->body_[pametova->Misto(kam.Left - x + zx, py - y + zy)],
+                        kam.Width, &body_[Misto(kam.Left, py)]);
+            continue;
+        }
+        for (int px = kam.Left; px < kam.Left + kam.Width; ++px) {
+            const int sx = px - x + zx;
+            const int sy = py - y + zy;
+            Barva barva = pametova != nullptr ? pametova->body_[pametova->Misto(sx, sy)]
+                                              : zdroj.Point(sx, sy);
+            if (naJedenBit) barva = barva == zdroj.BkColor ? BILA : CERNA;
+            Barva& cil = body_[Misto(px, py)];
+            cil = Smichej(cil, barva, rop);
+        }
+    }
+    return true;
+}
+
+void PametovaPlocha::InvertRect(int x, int y, int w, int h) {
+    const Obdelnik cast = Prunik({x, y, w, h}, Meze());
+    for (int py = cast.Top; py < cast.Top + cast.Height; ++py) {
+        for (int px = cast.Left; px < cast.Left + cast.Width; ++px) {
+            Barva& bod = body_[Misto(px, py)];
+            bod = ~bod & BILA;
+        }
+    }
+}
+
+std::unique_ptr<Plane> PametovaPlocha::CreateCompatibleBitmap(int w, int h) const {
+    if (w <= 0 || h <= 0) return nullptr;
+    return std::make_unique<PametovaPlocha>(w, h, jednobitova_);
+}
+
+std::unique_ptr<Plane> PametovaPlocha::CreateMonoBitmap(int w, int h) const {
+    if (w <= 0 || h <= 0) return nullptr;
+    return std::make_unique<PametovaPlocha>(w, h, true);
+}
+
+bool PametovaPlocha::StejnyObraz(const PametovaPlocha& jina) const {
+    return w_ == jina.w_ && h_ == jina.h_ && body_ == jina.body_;
+}
+
+}  // namespace rysovna

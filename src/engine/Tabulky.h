@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/Bod.h"
+#include "base/Tabulka.h"
+
+namespace rysovna {
+
+/// Flags between routines and in the records.
+constexpr int ANO = -1;
+constexpr int NE = 0;
+
+// Multiples of pi, each at the value that decides comparisons: quotients of these constants are
+// not everywhere equal to the products of PI.
+constexpr double PI = 3.14159265358979;
+constexpr double DVE_PI = 6.28318530717958;
+constexpr double TRI_PI = 9.42477796076937;
+constexpr double PET_PI = 15.7079632679489;
+constexpr double SEDM_PI = 21.9911485751285;
+
+/// Degrees of half a turn: degrees are radians * STUPNU_PULOTACKY / PI.
+constexpr double STUPNU_PULOTACKY = 180;
+/// Pixels of the plane to the centimetre.
+constexpr int PIXELU_NA_CM = 8;
+/// A press catches a stored point less than this many pixels off on either axis.
+constexpr int DOSAH_CHYTANI = 8;
+
+// The kinds of object, the words of every comparison.
+inline constexpr const char* BOD = "bod";
+inline constexpr const char* USECKA = "usecka";
+inline constexpr const char* POLOPRIMKA = "poloprimka";
+inline constexpr const char* PRIMKA = "primka";
+inline constexpr const char* KRUZNICE = "kruznice";
+inline constexpr const char* KOLMICE = "kolmice";
+inline constexpr const char* ROVNOBEZKA = "rovnobezka";
+
+/// One drawn object. Plane pixels, Y downward. Jmeno is the name of a point as the logic compares
+/// it, Popis the text printed beside it.
+struct Utvar {
+    std::string Druh;    ///< kind of object, one of the words above
+    int X1 = 0, Y1 = 0;  ///< the point, first end, start of a ray, first point of a line, centre
+    std::string Jmeno1, Popis1;
+    int X2 = 0, Y2 = 0;  ///< other end, point of a ray or line; a circle's X2 is centre +- radius
+    std::string Jmeno2, Popis2;
+    int X3 = 0, Y3 = 0;    ///< midpoint of a segment
+    std::string Jmeno3;    ///< "Sc", "Sb" or "Sa" for the midpoint of AB, AC, BC
+    std::string Popis3;    ///< reserved: cleared, never written otherwise
+    int X4 = 0, Y4 = 0;    ///< reserved: moved by a shift with the others
+    std::string Jmeno4;    ///< reserved
+    std::string Popis4;    ///< reserved: " 0" in a cleared row
+    float Delka = 0;       ///< cm to one decimal, of a segment or line, as the board gave it
+    float Polomer = 0;     ///< px, of a circle
+    float Smer = 0;        ///< radians from 0 up to but excluding 2*pi, from first to second point
+    std::string NaPrimce;  ///< of a point: name of the line on which it lies; orients its cross
+    std::int16_t Znacky = 0;  ///< of a segment: ANO with marks at its ends
+    friend bool operator==(const Utvar&, const Utvar&) = default;
+};
+
+/// One snap record: the points of one object that a press can catch. A point and a circle fill
+/// the first point alone; the rest stays as it was cleared.
+struct Trojice {
+    int X1 = 0, Y1 = 0;  ///< first point; a circle's centre
+    int X2 = 0, Y2 = 0;  ///< second point
+    int X3 = 0, Y3 = 0;  ///< midpoint of a segment
+    std::string Jmeno1, Jmeno2, Jmeno3;
+    friend bool operator==(const Trojice&, const Trojice&) = default;
+};
+
+/// The construction: objects in the order in which they were made, and what the mouse can snap
+/// to. Both are in use from row 1 to their counter. The two counters are independent: the drawing
+/// routines move PocetTrojic when told, PocetUtvaru is moved by their caller alone.
+extern Tabulka<Utvar, 100> Utvary;
+extern Tabulka<Trojice, 100> Trojice_tab;
+extern int PocetUtvaru;
+extern int PocetTrojic;
+
+/// Clears one row. Popis4 of a cleared object is the number 0 as text, " 0".
+void SmazRadekUtvaru(Radek i);
+void SmazRadekTrojic(Radek i);
+
+/// Whether two angles, radians, are the same: both print the same to five decimals. Tells an
+/// axis-parallel direction from a merely close one.
+bool RovneUhly(double a, double b);
+
+}  // namespace rysovna

@@ -1,0 +1,214 @@
+#include "podpora/Relace.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include "base/Text.h"
+#include "platform/Obrazovky.h"
+#include "shell/Misc.h"
+#include "shell/SelectForm.h"
+#include "shell/Ulohy.h"
+
+namespace rysovna::testy {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path STAGING = RYSOVNA_STAGING;
+
+/// A folder that no other run, of this process or another, has.
+fs::path NovaSlozka() {
+    std::string vzor = (fs::temp_directory_path() / "rysovna_XXXXXX").string();
+    if (mkdtemp(vzor.data()) == nullptr) throw std::runtime_error("nelze založit " + vzor);
+    return vzor;
+}
+
+[[noreturn]] void Nejde(const std::string& co, std::string_view jmeno, int index) {
+    throw std::runtime_error(co + ": " + std::string(jmeno) + "(" + std::to_string(index) + ")");
+}
+
+}  // namespace
+
+Relace::Relace(std::uint32_t seminko)
+    : naDobu_(host_), koren_(NovaSlozka()), data_(koren_ / "data") {
+    fs::copy(STAGING / "data", data_, fs::copy_options::recursive);
+    // The staged copy may have been played with: a run begins with no results.
+    for (const auto& soubor : fs::directory_iterator(data_)) {
+        if (soubor.path().extension() == ".res") fs::resize_file(soubor, 0);
+    }
+    fs::resize_file(data_ / "Vysledky.dat", 0);
+    host_.SlozkaSystemu = koren_.string();
+    host_.SeminkoHry = seminko;
+    std::ofstream ini(koren_ / "Rysovna.ini", std::ios::binary);
+    ini << "[RYSOVNA1]\r\nCD=" << (STAGING / "assets").string() << "\r\nHD=" << data_.string()
+        << "\r\n";
+    ini.close();
+    VychoziRelace();
+}
+
+Relace::~Relace() {
+    host_.Okna().UnloadVse();
+    std::error_code nevadi;
+    fs::remove_all(koren_, nevadi);
+}
+
+void Relace::StartDoTitulu() {
+    host_.Okna().Nacti<SelectForm>();
+}
+
+void Relace::Start() {
+    StartDoTitulu();
+    if (host_.Okna().JeKonec()) throw std::runtime_error("program skončil při startu");
+    StiskniMisto(320, 240);
+    Cekej(1200);
+    if (JmenoVpredu() != "SelectForm") {
+        throw std::runtime_error("po titulu je vpředu " + JmenoVpredu());
+    }
+}
+
+void Relace::SpustUlohu(int cisloUlohy, std::string_view jmeno, int priklady) {
+    for (std::size_t i = 0; i < RODINY.size(); ++i) {
+        const int poradi = cisloUlohy - RODINY[i].PrvniUloha;
+        if (poradi < 0 || poradi >= RODINY[i].Pocet) continue;
+        Stiskni("LI", static_cast<int>(i) + 1);
+        Stiskni("RI", poradi + 1);
+        Napis(jmeno);
+        Stiskni("ICislo", priklady);
+        Cekej(600);
+        Stiskni("picPokracuj");
+        Cekej(200);
+        return;
+    }
+    throw std::runtime_error("není taková úloha: " + std::to_string(cisloUlohy));
+}
+
+Form* Relace::Vpredu() {
+    return host_.Okna().Vpredu().get();
+}
+
+std::string Relace::JmenoVpredu() {
+    const Form* form = Vpredu();
+    return form == nullptr ? std::string() : std::string(form->Jmeno());
+}
+
+Form* Relace::Najdi(std::string_view form) {
+    return host_.Okna().Najdi(form).get();
+}
+
+Ovladac& Relace::Prvek(std::string_view jmeno, int index) {
+    Form* form = Vpredu();
+    Ovladac* prvek = form == nullptr ? nullptr : form->Najdi(jmeno, index);
+    if (prvek == nullptr) Nejde("na obrazovce " + JmenoVpredu() + " není", jmeno, index);
+    return *prvek;
+}
+
+/// The control's top left corner, design pixels.
+Bod Relace::Roh(std::string_view jmeno, int index) {
+    Bod roh;
+    for (const Ovladac* o = &Prvek(jmeno, index); o != nullptr; o = o->Rodic) {
+        if (!o->Visible) Nejde("není vidět", jmeno, index);
+        roh.X += o->Left;
+        roh.Y += o->Top;
+    }
+    return roh;
+}
+
+Bod Relace::Misto(std::string_view jmeno, int index, int dx, int dy) {
+    const Ovladac& prvek = Prvek(jmeno, index);
+    const Bod roh = Roh(jmeno, index);
+    return {roh.X + (dx < 0 ? prvek.Width / 2 : dx), roh.Y + (dy < 0 ? prvek.Height / 2 : dy)};
+}
+
+void Relace::StiskniMisto(double x, double y) {
+    NajedNaMisto(x, y);
+    host_.Okna().MysDolu(x, y, 1, 0);
+    host_.Okna().MysNahoru(x, y, 1, 0);
+}
+
+void Relace::Stiskni(std::string_view jmeno, int index, int dx, int dy) {
+    const Bod misto = Misto(jmeno, index, dx, dy);
+    StiskniMisto(misto.X, misto.Y);
+}
+
+void Relace::Zmackni(std::string_view jmeno, int index, Bod misto) {
+    const Bod roh = Roh(jmeno, index);
+    const Bod kde{roh.X + misto.X, roh.Y + misto.Y};
+    NajedNaMisto(kde.X, kde.Y);
+    host_.Okna().MysDolu(kde.X, kde.Y, 1, 0);
+}
+
+void Relace::Posun(std::string_view jmeno, int index, Bod misto) {
+    const Bod roh = Roh(jmeno, index);
+    const Bod kde{roh.X + misto.X, roh.Y + misto.Y};
+    host_.Okna().MysPohyb(kde.X, kde.Y, 1, 0);
+}
+
+void Relace::Pust(std::string_view jmeno, int index, Bod misto) {
+    const Bod roh = Roh(jmeno, index);
+    const Bod kde{roh.X + misto.X, roh.Y + misto.Y};
+    host_.Okna().MysNahoru(kde.X, kde.Y, 1, 0);
+}
+
+void Relace::Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index) {
+    constexpr int KROKU = 4;
+    Zmackni(jmeno, index, odkud);
+    for (int i = 1; i <= KROKU; ++i) {
+        Posun(jmeno, index,
+              {odkud.X + (kam.X - odkud.X) * i / KROKU, odkud.Y + (kam.Y - odkud.Y) * i / KROKU});
+    }
+    Pust(jmeno, index, kam);
+}
+
+void Relace::Najed(std::string_view jmeno, int index) {
+    const Bod misto = Misto(jmeno, index, -1, -1);
+    NajedNaMisto(misto.X, misto.Y);
+}
+
+void Relace::NajedNaMisto(double x, double y) {
+    host_.Okna().MysPohyb(x, y, 0, 0);
+}
+
+void Relace::Napis(std::string_view text) {
+    for (const char32_t znak : DoZnaku(text)) host_.Okna().Text(ZeZnaku({&znak, 1}));
+}
+
+void Relace::Prepis(std::string_view jmeno, std::string_view text) {
+    Stiskni(jmeno);
+    Klavesa("a", 2);
+    if (text.empty()) {
+        Klavesa("Delete");
+    } else {
+        Napis(text);
+    }
+}
+
+void Relace::Klavesa(std::string_view klavesa, int shift) {
+    host_.Okna().Klavesa(klavesa, shift);
+}
+
+void Relace::Cekej(std::uint32_t ms) {
+    const std::uint32_t konec = host_.TickCount() + ms;
+    while (host_.TickCount() < konec) host_.DoEvents(konec - host_.TickCount());
+}
+
+std::string Relace::CtiSoubor(const std::string& soubor) const {
+    std::ifstream vstup(data_ / soubor, std::ios::binary);
+    if (!vstup) throw std::runtime_error("nelze číst " + soubor);
+    return {std::istreambuf_iterator<char>(vstup), {}};
+}
+
+void Relace::PisSoubor(const std::string& soubor, std::string_view obsah) const {
+    std::ofstream(data_ / soubor, std::ios::binary | std::ios::trunc) << obsah;
+}
+
+std::vector<std::string> Relace::NoveZvuky() {
+    std::vector<std::string> nove;
+    for (; slysenych_ < host_.Zvuky.size(); ++slysenych_) {
+        const std::string& cesta = host_.Zvuky[slysenych_].Cesta;
+        nove.push_back(cesta.substr(cesta.find_last_of('\\') + 1));
+    }
+    return nove;
+}
+
+}  // namespace rysovna::testy

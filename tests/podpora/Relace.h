@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Bod.h"
+#include "platform/Form.h"
+#include "platform/headless/HeadlessHost.h"
+
+namespace rysovna::testy {
+
+/// One run of the program on the headless host, with a data root of its own that goes with it:
+/// plays as a pupil does, by names of controls, through the same events. Session variables and
+/// tables are reset when it begins. What a person could not do (press what is hidden, on a screen
+/// that is not in front) throws std::runtime_error.
+class Relace {
+public:
+    /// The data root is a copy of the staged one, with no results in it. seminko: of the generator
+    /// of examples.
+    explicit Relace(std::uint32_t seminko = 1);
+    ~Relace();
+    Relace(const Relace&) = delete;
+    Relace& operator=(const Relace&) = delete;
+
+    [[nodiscard]] HeadlessHost& Host() { return host_; }
+
+    /// The start-up and a press on the title: up to the menu.
+    void Start();
+    /// The start-up alone: the title is up.
+    void StartDoTitulu();
+    /// The menu, a task of it, name and number of examples, and the press that starts the board.
+    /// Call after Start().
+    void SpustUlohu(int cisloUlohy, std::string_view jmeno = "Žák", int priklady = 1);
+
+    /// The screen in front; null if none is visible.
+    [[nodiscard]] Form* Vpredu();
+    /// Its name; empty if there is none.
+    [[nodiscard]] std::string JmenoVpredu();
+    /// The loaded screen of this name; null if there is none.
+    [[nodiscard]] Form* Najdi(std::string_view form);
+    /// A control of the screen in front.
+    [[nodiscard]] Ovladac& Prvek(std::string_view jmeno, int index = 0);
+    /// The same as what it is: Prvek<Image>("LI", 1).Picture.
+    template <class T>
+    [[nodiscard]] T& Prvek(std::string_view jmeno, int index = 0) {
+        auto* prvek = dynamic_cast<T*>(&Prvek(jmeno, index));
+        if (prvek == nullptr) throw std::runtime_error("jiný druh: " + std::string(jmeno));
+        return *prvek;
+    }
+
+    /// The pointer comes to a control and the left button is pressed and released there. dx, dy:
+    /// pixels of the control; negative: its middle.
+    void Stiskni(std::string_view jmeno, int index = 0, int dx = -1, int dy = -1);
+    /// The same at a place of the design area.
+    void StiskniMisto(double x, double y);
+    /// A press in a control, a move in a few steps, a release. Places are pixels of the control and
+    /// may lie outside it.
+    void Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index = 0);
+    /// The halves of Stiskni and Tahni, for what happens between them.
+    void Zmackni(std::string_view jmeno, int index, Bod misto);
+    void Posun(std::string_view jmeno, int index, Bod misto);
+    void Pust(std::string_view jmeno, int index, Bod misto);
+    /// The pointer moves to a control's middle; to a place of the design area.
+    void Najed(std::string_view jmeno, int index = 0);
+    void NajedNaMisto(double x, double y);
+    /// Types text into whatever has the keyboard.
+    void Napis(std::string_view text);
+    /// Makes a text box hold the text: presses it, marks all of it, types.
+    void Prepis(std::string_view jmeno, std::string_view text);
+    /// A key by its name ("Return", "Escape", "BackSpace"); shift: 1 Shift, 2 Ctrl.
+    void Klavesa(std::string_view klavesa, int shift = 0);
+    /// Lets the program run: the virtual clock moves by so many milliseconds.
+    void Cekej(std::uint32_t ms);
+
+    /// The data root of this run.
+    [[nodiscard]] const std::filesystem::path& DataDir() const { return data_; }
+    /// A file of the data root, byte for byte.
+    [[nodiscard]] std::string CtiSoubor(const std::string& soubor) const;
+    void PisSoubor(const std::string& soubor, std::string_view obsah) const;
+    /// The sounds since the last call, file names alone ("click.wav").
+    std::vector<std::string> NoveZvuky();
+
+private:
+    [[nodiscard]] Bod Roh(std::string_view jmeno, int index);
+    [[nodiscard]] Bod Misto(std::string_view jmeno, int index, int dx, int dy);
+
+    HeadlessHost host_;
+    HostNaDobu naDobu_;
+    std::filesystem::path koren_, data_;
+    std::size_t slysenych_ = 0;
+};
+
+}  // namespace rysovna::testy
