@@ -1,0 +1,151 @@
+// Renders the pictures of the game from SVG templates, each at 1:1 as a .bmp and three times larger
+// as a .png beside it. A picture whose drawing did not change since the last run is left alone.
+//
+//   obrazky LIST STAGED_ASSETS WORK_FOLDER     renders
+//   obrazky --zkontroluj FILES STAGED_ASSETS   holds the staged files against a list of them
+#include <algorithm>
+#include <atomic>
+#include <exception>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <mutex>
+#include <sstream>
+#include <thread>
+
+#include "Kontrola.h"
+#include "Kresleni.h"
+#include "Predlohy.h"
+#include "Sazba.h"
+#include "base/Chyba.h"
+
+namespace rysovna::obrazky {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Grows by one when the tool itself comes to draw differently: all is then rendered anew.
+constexpr std::uint64_t VERZE = 1;
+
+/// A number by which a changed drawing is known (FNV-1a, 64 bits).
+std::uint64_t Otisk(const std::string& text,
+                    std::uint64_t otisk = 14695981039346656037ULL + VERZE) {
+    for (const char z : text) otisk = (otisk ^ static_cast<unsigned char>(z)) * 1099511628211ULL;
+    return otisk;
+}
+
+/// The prints of the last run, by picture.
+std::map<std::string, std::uint64_t> NactiOtisky(const fs::path& soubor) {
+    std::map<std::string, std::uint64_t> otisky;
+    std::ifstream vstup(soubor);
+    std::string jmeno;
+    std::uint64_t otisk = 0;
+    while (vstup >> otisk >> jmeno) otisky[jmeno] = otisk;
+    return otisky;
+}
+
+void UlozOtisky(const std::map<std::string, std::uint64_t>& otisky, const fs::path& soubor) {
+    std::ofstream ven(soubor);
+    for (const auto& [jmeno, otisk] : otisky) ven << otisk << ' ' << jmeno << '\n';
+    ven.close();
+    if (!ven) throw BehovaChyba("Nelze zapsat", soubor.string());
+}
+
+fs::path Dvojce(fs::path soubor) {
+    return soubor.replace_extension(".png");
+}
+
+void Vyrob(const Obrazek& o, const fs::path& soubor) {
+    fs::create_directories(soubor.parent_path());
+    const Rastr maly = Vykresli(o.Svg, o.Sirka, o.Vyska, 1, o.Soubor);
+    const Rastr velky = Vykresli(o.Svg, o.Sirka, o.Vyska, ZVETSENI, o.Soubor);
+    if (o.Klic) {
+        OverKlic(maly, o.Soubor);
+        OverKlic(velky, o.Soubor + ", dvojče");
+    }
+    UlozBmp(maly, soubor);
+    UlozPng(velky, Dvojce(soubor));
+}
+
+/// Runs the work on all rows, on as many threads as the machine has. The first fault is thrown
+/// on once all threads have ended.
+template <class Radek, class Prace>
+void Soubezne(std::vector<Radek>& radky, Prace prace) {
+    std::atomic<std::size_t> dalsi{0};
+    std::exception_ptr chyba;
+    std::mutex zamek;
+    const auto vlakno = [&] {
+        for (std::size_t i = dalsi++; i < radky.size(); i = dalsi++) {
+            try {
+                prace(radky[i]);
+            } catch (...) {
+                const std::lock_guard drzi(zamek);
+                if (!chyba) chyba = std::current_exception();
+            }
+        }
+    };
+    {
+        std::vector<std::jthread> vlakna;
+        for (unsigned i = 0; i < std::max(1U, std::thread::hardware_concurrency()); ++i)
+            vlakna.emplace_back(vlakno);
+    }
+    if (chyba) std::rethrow_exception(chyba);
+}
+
+void VyrobVse(const fs::path& seznam, const fs::path& assety, const fs::path& pracovni) {
+    fs::create_directories(pracovni);
+    const fs::path fonty = fs::absolute(assety / "Fonts");
+    const fs::path soubor = pracovni / "otisky.txt";
+    const auto minule = NactiOtisky(soubor);
+    std::map<std::string, std::uint64_t> otisky;
+    std::vector<Obrazek> zmenene;
+    const Sazba sazba(fonty);
+    std::uint64_t otiskPisem = Otisk("");
+    for (const auto& p : fs::directory_iterator(fonty)) {
+        // Sum, so that the order in which the folder lists its files does not matter.
+        otiskPisem += Otisk(p.path().filename().string() + std::to_string(p.file_size()));
+    }
+    for (Obrazek& o : NactiSeznam(seznam)) {
+        o.Svg = sazba.Vysad(o.Svg, o.Soubor);
+        const std::uint64_t otisk =
+            Otisk(o.Svg + std::to_string(o.Sirka) + "x" + std::to_string(o.Vyska), otiskPisem);
+        const fs::path cil = assety / o.Soubor;
+        const auto stary = minule.find(o.Soubor);
+        if (stary == minule.end() || stary->second != otisk || !fs::exists(cil) ||
+            !fs::exists(Dvojce(cil)))
+            zmenene.push_back(o);
+        otisky[o.Soubor] = otisk;
+    }
+    NastavPisma(fonty, fs::absolute(pracovni));
+    Soubezne(zmenene, [&](const Obrazek& o) { Vyrob(o, assety / o.Soubor); });
+    // A picture that left the list must not stay among the staged ones.
+    for (const auto& [jmeno, otisk] : minule) {
+        if (otisky.count(jmeno) != 0) continue;
+        fs::remove(assety / jmeno);
+        fs::remove(Dvojce(assety / jmeno));
+    }
+    UlozOtisky(otisky, soubor);
+    std::cout << "Obrázky: " << otisky.size() << ", nově vykresleno " << zmenene.size() << "\n";
+}
+
+}  // namespace
+
+}  // namespace rysovna::obrazky
+
+int main(int argc, char** argv) {
+    using namespace rysovna::obrazky;
+    try {
+        const std::string prvni = argc > 1 ? argv[1] : "";
+        if (argc == 4 && prvni == "--zkontroluj") return Zkontroluj(argv[2], argv[3]) == 0 ? 0 : 1;
+        if (argc == 4) {
+            VyrobVse(argv[1], argv[2], argv[3]);
+            return 0;
+        }
+        std::cerr << "obrazky SEZNAM ASSETY PRACOVNI_SLOZKA\n"
+                     "obrazky --zkontroluj SOUBORY ASSETY\n";
+    } catch (const std::exception& chyba) {
+        std::cerr << "obrazky: " << chyba.what() << "\n";
+    }
+    return 1;
+}
