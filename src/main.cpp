@@ -1,0 +1,44 @@
+#include <exception>
+#include <iostream>
+
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
+#include "platform/sdl/SdlHost.h"
+#include "shell/Misc.h"
+#include "shell/SelectForm.h"
+#include "shell/Ulohy.h"
+#include "tasks/Desky.h"
+
+namespace {
+
+constexpr int STAV_CHYBA = 1;
+constexpr int STAV_BEZ_OBRAZOVKY = 2;
+
+int Hraj(rysovna::Host& host) {
+    using namespace rysovna;
+    try {
+        NastavVyrobceDesek(VyrobDesku);
+        host.Okna().Nacti<SelectForm>();
+        while (!host.Okna().JeKonec()) host.DoEvents(1000);
+        host.Okna().UnloadVse();
+        return 0;
+    } catch (const std::exception& chyba) {
+        // No screen may act behind the message: what they share is not to be trusted any more.
+        host.Okna().UnloadVse();
+        host.MsgBox(chyba.what(), "Chyba", Styl::Stop);
+        ObnovObrazovku();
+        return STAV_CHYBA;
+    }
+}
+
+}  // namespace
+
+int main() {
+    if (!rysovna::SdlHost::MaDisplej()) {
+        std::cerr << "Není k dispozici žádná obrazovka.\n";
+        return STAV_BEZ_OBRAZOVKY;
+    }
+    rysovna::SdlHost host;
+    const rysovna::HostNaDobu naDobu(host);
+    return Hraj(host);
+}

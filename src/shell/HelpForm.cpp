@@ -1,0 +1,47 @@
+#include "shell/HelpForm.h"
+
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
+#include "shell/Hover.h"
+#include "shell/Misc.h"
+#include "shell/SelectForm.h"
+
+namespace rysovna {
+
+void HelpForm::Load() {
+    Maximised = true;
+    Caption = "Rysovna 1";
+}
+
+void HelpForm::Click(Ovladac*) {
+    ZvukStisku();
+    VratSeK(Vlastnik, *this);
+}
+
+bool HelpForm::Klavesa(std::string_view klavesa) {
+    if (klavesa != "Escape" && klavesa != "Return") return false;
+    Click(nullptr);
+    return true;
+}
+
+void UkazNapovedu(std::string_view obrazek, Form& vlastnik) {
+    Obrazovky& okna = Stroj().Okna();
+    const auto napoveda = okna.Nacti<HelpForm>();
+    napoveda->Picture = NactiObrazek(obrazek);
+    okna.Show(*napoveda);
+    napoveda->Vlastnik = vlastnik.weak_from_this();
+    AktivniForm = napoveda;
+    okna.Hide(vlastnik);
+}
+
+void VratSeK(const std::weak_ptr<Form>& vlastnik, Form& zavirany) {
+    Obrazovky& okna = Stroj().Okna();
+    std::shared_ptr<Form> kam = vlastnik.lock();
+    if (!kam || kam->Zavreny()) kam = Menu().shared_from_this();
+    okna.Show(*kam);
+    AktivniForm = kam;
+    okna.Hide(zavirany);
+    okna.Unload(zavirany);
+}
+
+}  // namespace rysovna

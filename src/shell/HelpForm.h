@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "platform/Form.h"
+
+namespace rysovna {
+
+/// A picture over the whole screen: help to a task, to a screen, the credits. A click goes back to
+/// its owner.
+class HelpForm final : public Form {
+public:
+    [[nodiscard]] std::string_view Jmeno() const override { return "HelpForm"; }
+
+    /// The screen to go back to. Kept weakly: an owner that was unloaded meanwhile gives way to
+    /// the menu.
+    std::weak_ptr<Form> Vlastnik;
+
+    void Load() override;
+    void Click(Ovladac* o) override;
+    bool Klavesa(std::string_view klavesa) override;
+};
+
+/// Shows a help picture (below the asset root) on top of a screen and hides that screen; the click
+/// on it brings the screen back.
+void UkazNapovedu(std::string_view obrazek, Form& vlastnik);
+
+/// Shows the screen that a form on top goes back to, or the menu if that one was unloaded, and
+/// makes it the active one. Then unloads the form on top.
+void VratSeK(const std::weak_ptr<Form>& vlastnik, Form& zavirany);
+
+}  // namespace rysovna

@@ -1,0 +1,177 @@
+#include "shell/SetupForm.h"
+
+#include <algorithm>
+
+#include "base/Cisla.h"
+#include "base/Text.h"
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
+#include "shell/HelpForm.h"
+#include "shell/Konec.h"
+#include "shell/Misc.h"
+#include "shell/Rolovani.h"
+#include "shell/SelectForm.h"
+#include "shell/Ulohy.h"
+
+namespace rysovna {
+namespace {
+
+// Places of the digits: an arc around the dial, all 35 by 29 px.
+constexpr std::array<Bod, 5> MISTA_CISLIC{
+    {{128, 253}, {198, 293}, {198, 370}, {128, 409}, {60, 370}}};
+
+}  // namespace
+
+SetupForm::SetupForm() {
+    Pridej(Image1, "Image1", {5, 6, 539, 75});
+    Pridej(ISipka, "ISipka", {101, 293, 95, 100});
+    PridejPole(ICislo, "ICislo", {128, 253, 35, 29});
+    for (std::size_t k = 0; k < ICislo.size(); ++k) {
+        ICislo[k].Left = MISTA_CISLIC[k].X;
+        ICislo[k].Top = MISTA_CISLIC[k].Y;
+    }
+    Pridej(TJmeno, "TJmeno", {406, 413, 195, 20});
+    Pridej(picPokracuj, "picPokracuj", {526, 457, 94, 23});
+    picPokracuj.Visible = false;
+    Pridej(picKonec, "picKonec", {546, 5, 91, 75});
+}
+
+void SetupForm::Load() {
+    Maximised = true;
+    Caption = "Rysovna 1";
+    PrizpusobForm(*this);
+    const float meritko = static_cast<float>(Stroj().TwipsPerPixel()) / 15.0F;
+    TJmeno.Height = Zaokrouhli(20 * meritko);
+    TJmeno.Width = Zaokrouhli(195 * meritko);
+    TJmeno.Font.Velikost = 12 * meritko;
+
+    Picture = NactiObrazek("Bitmap\\Setup\\bckg_" + DveCislice(CisloUlohy) + ".bmp");
+    konec_ = NactiDvojici("Bitmap\\Setup\\back");
+    picKonec.Picture = konec_.Normalni;
+    for (std::size_t k = 0; k < ICislo.size(); ++k) {
+        const std::string cislice = TextBezMezery(static_cast<int>(k) + 1);
+        sipky_[k] = NactiObrazek("Bitmap\\Setup\\butt_" + cislice + ".bmp");
+        cislice_[k] = NactiDvojici("Bitmap\\Setup\\" + cislice);
+    }
+    OdzvolVse(ICislo, cislice_);
+    ISipka.Picture = sipky_[0];
+    PokracujObrazek = NactiObrazek("Bitmap\\games\\pokracbg.bmp");
+    picPokracuj.Visible = false;
+}
+
+void SetupForm::Activate() {
+    SetFocus(TJmeno);
+}
+
+/// Name and digit there: the continue button rolls in, once; one of them gone: it hides.
+void SetupForm::Kontrola() {
+    const bool uplne = !TJmeno.Text.empty() && std::ranges::any_of(ICislo, Zvoleny);
+    if (!uplne) {
+        picPokracuj.Picture = PokracujObrazek;
+        picPokracuj.Visible = false;
+        pokracujNahore_ = false;
+        return;
+    }
+    if (pokracujNahore_) return;
+    pokracujNahore_ = true;
+    picPokracuj.Visible = true;
+    const unsigned moje = ++rolovani_;
+    Roluj(*this, picPokracuj, [this, moje] { return pokracujNahore_ && rolovani_ == moje; });
+}
+
+/// A name cannot begin with blanks, so a name of blanks alone is none.
+void SetupForm::Change(TextBox& t) {
+    const std::string bez = BezUvodnichMezer(t.Text);
+    const int ubylo = PocetZnaku(t.Text) - PocetZnaku(bez);
+    if (ubylo > 0) {
+        t.Text = bez;
+        t.SelStart = std::max(t.SelStart - ubylo, 0);
+        t.SelAnchor = std::max(t.SelAnchor - ubylo, 0);
+    }
+    Kontrola();
+}
+
+void SetupForm::MouseDown(Ovladac* o, const Mys&) {
+    if (Je(ICislo, o)) {
+        ZvolPocet(static_cast<std::size_t>(o->Index) - 1);
+    } else if (o == &picPokracuj) {
+        SpustDesku();
+    } else if (o == &picKonec) {
+        ZpetDoMenu();
+    }
+}
+
+void SetupForm::ZvolPocet(std::size_t k) {
+    ZvukStisku();
+    OdzvolVse(ICislo, cislice_);
+    ICislo[k].Tag = "1";
+    ICislo[k].Picture = cislice_[k].Rozsviceny;
+    ISipka.Picture = sipky_[k];
+    PocetPrikladuSerie = static_cast<std::uint8_t>(k + 1);
+    Cekej(100);
+    if (Skoncil(*this)) return;
+    Kontrola();
+}
+
+/// A number that is no task starts nothing. The board is the active screen from the moment it
+/// shows: a press on it during the wait may already lead on to another screen.
+void SetupForm::SpustDesku() {
+    ZvukStisku();
+    JmenoHrace = TJmeno.Text;
+    if (NajdiUlohu(CisloUlohy) == nullptr) return;
+    Host& stroj = Stroj();
+    const std::shared_ptr<Form> deska = VyrobDeskuUlohy(CisloUlohy);
+    if (!deska) {
+        stroj.MsgBox("Tato úloha zatím není k dispozici.", "Rysovna 1", Styl::Ok);
+        return;
+    }
+    stroj.Okna().Zaved(deska);
+    stroj.Okna().Show(*deska);
+    AktivniForm = deska;
+    Cekej(100);
+    if (Skoncil(*this) || deska->Zavreny()) return;
+    stroj.Okna().Hide(*this);
+}
+
+void SetupForm::ZpetDoMenu() {
+    ZvukStisku();
+    VratSeK(Menu().weak_from_this(), *this);
+}
+
+void SetupForm::MouseMove(Ovladac* o, const Mys&) {
+    if (Je(ICislo, o)) {
+        const auto k = static_cast<std::size_t>(o->Index) - 1;
+        hover_.Vstup(static_cast<std::uint8_t>(k + 1));
+        ZhasniNezvolene(ICislo, cislice_);
+        ICislo[k].Picture = cislice_[k].Rozsviceny;
+        picKonec.Picture = konec_.Normalni;
+    } else if (o == &picKonec) {
+        if (!hover_.Vstup(Hover::KONEC)) return;
+        picKonec.Picture = konec_.Rozsviceny;
+        ZhasniNezvolene(ICislo, cislice_);
+    } else if (o == &Image1) {
+        hover_.Vstup(Hover::ZAHLAVI);
+    } else if (hover_.Opust()) {
+        picKonec.Picture = konec_.Normalni;
+        ZhasniNezvolene(ICislo, cislice_);
+    }
+}
+
+void SetupForm::Click(Ovladac* o) {
+    if (o != &Image1) return;
+    ZvukStisku();
+    UkazNapovedu("Bitmap\\Help\\setup.bmp", *this);
+}
+
+bool SetupForm::Klavesa(std::string_view klavesa) {
+    if (klavesa == "Return" && picPokracuj.Visible) {
+        SpustDesku();
+    } else if (klavesa == "Escape") {
+        ZpetDoMenu();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+}  // namespace rysovna

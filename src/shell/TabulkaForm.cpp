@@ -1,0 +1,113 @@
+#include "shell/TabulkaForm.h"
+
+#include "base/Cisla.h"
+#include "platform/Host.h"
+#include "shell/HelpForm.h"
+#include "shell/Misc.h"
+
+namespace rysovna {
+namespace {
+
+constexpr int ROZTEC_RADKU = 30;      // px
+constexpr float PISMO_RADKU = 10.0F;  // points: a name of 35 letters fits its column
+
+std::string SouborTabulky() {
+    return CestaHD + DveCislice(CisloUlohy) + ".res";
+}
+
+}  // namespace
+
+TabulkaForm::TabulkaForm() {
+    Pridej(INadpis, "INadpis", {0, 0, 238, 80});
+    PridejPole(LPoradi, "LPoradi", {32, 165, 50, 20});
+    PridejPole(LJmeno, "LJmeno", {91, 165, 260, 20});
+    PridejPole(LSpravne, "LSpravne", {376, 165, 70, 20});
+    PridejPole(LSpatne, "LSpatne", {464, 165, 70, 20});
+    PridejPole(LZnamka, "LZnamka", {544, 165, 70, 20});
+    Pridej(picKonec, "picKonec", {546, 5, 91, 75});
+}
+
+void TabulkaForm::Load() {
+    Maximised = true;
+    Caption = "Rysovna 1";
+    PrizpusobForm(*this);
+
+    Picture = NactiObrazek("Bitmap\\Tab\\bckg.bmp");
+    konec_ = NactiDvojici("Bitmap\\Games\\back");
+    picKonec.Picture = konec_.Normalni;
+    INadpis.Picture = NactiObrazek("Bitmap\\Tab\\bckg_" + DveCislice(CisloUlohy) + ".bmp");
+
+    const float meritko = static_cast<float>(Stroj().TwipsPerPixel()) / 15.0F;
+    for (auto* sloupec : {&LPoradi, &LJmeno, &LSpravne, &LSpatne, &LZnamka}) {
+        const int prvni = sloupec->front().Top;
+        for (Label& pole : *sloupec) {
+            pole.Top =
+                prvni + Zaokrouhli(meritko * static_cast<float>(ROZTEC_RADKU * (pole.Index - 1)));
+            pole.Font.Velikost = meritko * PISMO_RADKU;
+            // A name of any length stays on its row and is cut at the column's edge.
+            pole.WordWrap = false;
+        }
+    }
+    for (Label& poradi : LPoradi) poradi.Caption = TextBezMezery(poradi.Index) + ".";
+
+    NactiTabulku(SouborTabulky());
+    VyplnRadky();
+}
+
+void TabulkaForm::VyplnRadky() {
+    for (std::size_t k = 0; k < zaznamy_.size() && k < LPoradi.size(); ++k) {
+        LJmeno[k].Caption = zaznamy_[k].Jmeno;
+        LSpravne[k].Caption = zaznamy_[k].Spravne;
+        LSpatne[k].Caption = zaznamy_[k].Spatne;
+        LZnamka[k].Caption = zaznamy_[k].Znamka;
+    }
+}
+
+void TabulkaForm::VlozNovyZaznam(const std::string& jmeno, const std::string& spravne,
+                                 const std::string& spatne, const std::string& znamka) {
+    VlozZaznam(zaznamy_, {.Jmeno = jmeno, .Spravne = spravne, .Spatne = spatne, .Znamka = znamka});
+    UlozTabulku(SouborTabulky());
+    for (auto* sloupec : {&LJmeno, &LSpravne, &LSpatne, &LZnamka}) {
+        for (Label& pole : *sloupec) pole.Caption.clear();
+    }
+    VyplnRadky();
+}
+
+void TabulkaForm::NactiTabulku(const std::string& soubor) {
+    zaznamy_ = CtiTabulku(soubor);
+}
+
+void TabulkaForm::UlozTabulku(const std::string& soubor) const {
+    PisTabulku(soubor, zaznamy_);
+}
+
+void TabulkaForm::MouseDown(Ovladac* o, const Mys&) {
+    if (o == &picKonec) Zpet();
+}
+
+void TabulkaForm::Zpet() {
+    ZvukStisku();
+    VratSeK(Vlastnik, *this);
+}
+
+void TabulkaForm::MouseMove(Ovladac* o, const Mys&) {
+    if (o == &picKonec) {
+        if (hover_.Vstup(Hover::KONEC)) picKonec.Picture = konec_.Rozsviceny;
+    } else if (o == nullptr && hover_.Opust()) {
+        picKonec.Picture = konec_.Normalni;
+    }
+}
+
+void TabulkaForm::Click(Ovladac* o) {
+    if (o != &INadpis) return;
+    ZvukStisku();
+    UkazNapovedu("Bitmap\\Help\\tab.bmp", *this);
+}
+
+bool TabulkaForm::Klavesa(std::string_view klavesa) {
+    if (klavesa != "Escape") return false;
+    Zpet();
+    return true;
+}
+
+}  // namespace rysovna

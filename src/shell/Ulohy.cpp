@@ -1,0 +1,20 @@
+#include "shell/Ulohy.h"
+
+#include <utility>
+
+namespace rysovna {
+namespace {
+
+VyrobceDesek vyrobceDesek;
+
+}  // namespace
+
+void NastavVyrobceDesek(VyrobceDesek vyrobce) {
+    vyrobceDesek = std::move(vyrobce);
+}
+
+std::shared_ptr<Form> VyrobDeskuUlohy(int cisloUlohy) {
+    return vyrobceDesek ? vyrobceDesek(cisloUlohy) : nullptr;
+}
+
+}  // namespace rysovna

@@ -1,0 +1,81 @@
+#include <iostream>
+#include <string_view>
+#include <vector>
+
+#include "Kontrola.h"
+#include "Prevod.h"
+#include "base/Chyba.h"
+#include "shell/Kodovani.h"
+
+// The data tool: codes, decodes and checks the files of the data root.
+
+namespace {
+
+using Argumenty = std::vector<std::string_view>;
+using namespace rysovna;
+
+constexpr std::string_view POUZITI =
+    R"(Použití:
+  kodovani zakoduj ZDROJ CÍL      čitelný soubor (.txt, UTF-8) uloží tak, jak ho čte Rysovna
+  kodovani dekoduj ZDROJ CÍL      uložený soubor (.dat) převede na čitelný
+  kodovani zkontroluj SOUBOR...   ohlásí chyby: soubor, řádek, pole a důvod
+  kodovani --help                 tato nápověda
+
+Co je v souboru, se pozná podle jména: 01 až 20 jsou příklady úloh, Errors věty k chybným krokům,
+Znamky stupnice známek; 01.res až 20.res jsou tabulky výsledků (ty jdou jen zkontrolovat a
+přečíst). V čitelném souboru jsou řádky začínající středníkem poznámky.
+
+Návratová hodnota: 0 v pořádku, 1 nalezené chyby nebo soubor nejde přečíst či zapsat, 2 špatné
+zadání příkazu.
+)";
+
+constexpr int V_PORADKU = 0, CHYBY = 1, SPATNE_ZADANI = 2;
+
+int Zkontroluj(const Argumenty& soubory) {
+    int vysledek = V_PORADKU;
+    for (const std::string_view soubor : soubory) {
+        try {
+            for (const kodovani::Nalez& n : kodovani::Zkontroluj(soubor)) {
+                vysledek = CHYBY;
+                std::cout << n.Misto << ": " << n.Pole << (n.Pole.empty() ? "" : ": ") << n.Duvod
+                          << '\n';
+            }
+        } catch (const BehovaChyba& chyba) {
+            // The other files are still worth looking at.
+            vysledek = CHYBY;
+            std::cout << chyba.Kde() << ": " << chyba.what() << '\n';
+        }
+    }
+    return vysledek;
+}
+
+int Spust(const Argumenty& a) {
+    if (a.size() == 1 && (a[0] == "--help" || a[0] == "-h")) {
+        std::cout << POUZITI;
+        return V_PORADKU;
+    }
+    if (a.size() == 3 && a[0] == "zakoduj") {
+        PrepisSoubor(a[2], kodovani::Zakoduj(a[1]));
+        return V_PORADKU;
+    }
+    if (a.size() == 3 && a[0] == "dekoduj") {
+        PrepisSoubor(a[2], kodovani::Dekoduj(a[1]));
+        return V_PORADKU;
+    }
+    if (a.size() >= 2 && a[0] == "zkontroluj") {
+        return Zkontroluj(Argumenty(a.begin() + 1, a.end()));
+    }
+    std::cerr << POUZITI;
+    return SPATNE_ZADANI;
+}
+
+}  // namespace
+
+int main(int pocet, char** argumenty) {
+    try {
+        return Spust(Argumenty(argumenty + 1, argumenty + pocet));
+    } catch (const BehovaChyba& chyba) {
+        std::cerr << chyba.what() << '\n';
+        return CHYBY;
+    }
+}
