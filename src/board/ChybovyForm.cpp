@@ -1,0 +1,46 @@
+#include "board/ChybovyForm.h"
+
+#include <algorithm>
+
+#include "base/Cisla.h"
+#include "shell/Hover.h"
+#include "shell/Konec.h"
+#include "shell/Misc.h"
+#include "shell/Zaznamy.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr Obdelnik MISTO{216, 89, 356, 250};  // px of the board
+constexpr int OKRAJ = 12;                     // px around the text
+constexpr Barva PAPIR = Rgb(255, 252, 240);
+
+}  // namespace
+
+std::string TextChybnychKroku() {
+    std::string text = "Během konstrukce byly provedeny tyto chybné kroky:\n\n";
+    const int radku = std::min(PocetChybnychKroku, ChybovyForm::RADKU);
+    for (int i = 1; i <= radku; ++i) text += TextCisla(i) + ". " + ChybneKroky[i].Text + "\n";
+    return text;
+}
+
+ChybovyForm::ChybovyForm() {
+    Left = MISTO.Left;
+    Top = MISTO.Top;
+    Width = MISTO.Width;
+    Height = MISTO.Height;
+    Pridej(Text1, "Text1", {OKRAJ, OKRAJ, Width - 2 * OKRAJ, Height - 2 * OKRAJ});
+    Text1.MultiLine = true;
+    Text1.BackColor = PAPIR;
+}
+
+void ChybovyForm::Load() {
+    PrizpusobForm(*this);
+    Picture = NactiObrazek("Bitmap\\Games\\new_Hint.bmp");
+    Text1.Text = TextChybnychKroku();
+}
+
+void ChybovyForm::QueryUnload() { ZeptejSeNaKonec(); }
+
+}  // namespace rysovna

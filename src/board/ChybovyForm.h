@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/Form.h"
+
+namespace rysovna {
+
+/// The list of wrong steps, shown over the board while the verdict is held down: at most the first
+/// ten rows.
+class ChybovyForm final : public Form {
+public:
+    static constexpr int RADKU = 10;
+
+    ChybovyForm();
+    [[nodiscard]] std::string_view Jmeno() const override { return "ChybovyForm"; }
+
+    TextBox Text1;  ///< fills the client area
+
+    void Load() override;
+    void QueryUnload() override;
+};
+
+/// The text of the list: the lead-in, then a row for each of the first ten wrong steps.
+[[nodiscard]] std::string TextChybnychKroku();
+
+}  // namespace rysovna

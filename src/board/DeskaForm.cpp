@@ -1,0 +1,166 @@
+#include "board/DeskaForm.h"
+
+#include "base/Cisla.h"
+#include "board/Kontrola.h"
+#include "platform/Host.h"
+#include "shell/Konec.h"
+#include "shell/MapaPoli.h"
+#include "shell/Misc.h"
+#include "shell/SelectForm.h"
+#include "shell/Soubory.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr const char* HRY = "Bitmap\\Games\\";
+
+constexpr std::array<std::string_view, 4> HORNI = {"check", "new", "tab", "back"};
+
+/// An arrow: its pictures and its place.
+struct Sipka {
+    std::string_view Soubor;
+    Obdelnik Misto;
+};
+constexpr std::array<Sipka, 4> SIPKY = {{{"a_left", {231, 428, 15, 9}},
+                                         {"a_right", {592, 428, 15, 9}},
+                                         {"a_up", {605, 104, 9, 15}},
+                                         {"a_down", {605, 415, 9, 15}}}};
+
+constexpr std::array<Obdelnik, 6> TLACITKA = {{{16, 280, 94, 32},
+                                               {111, 280, 94, 32},
+                                               {16, 312, 94, 32},
+                                               {111, 312, 94, 32},
+                                               {16, 404, 94, 32},
+                                               {111, 404, 94, 32}}};
+
+constexpr float PISMO_PANELU = 8;  // points, at 15 twips a pixel
+constexpr int VYSKA_RADKU = 20;    // px, of the pick list
+
+// The read-out stands on a tinted ground, so that it can be read over lines.
+constexpr Barva PODKLAD_ODECTU = Rgb(255, 250, 225);
+
+}  // namespace
+
+DeskaForm::DeskaForm() { RozlozOvladace(); }
+
+void DeskaForm::RozlozOvladace() {
+    Pridej(INadpis, "INadpis", {0, 0, 238, 80});
+    PridejPole(PicTop, "PicTop", {273, 5, 91, 75});
+    Pridej(Label1, "Label1", {16, 108, 195, 16});
+    PridejPole(lblZadani, "lblZadani", {20, 128, 60, 16}, nullptr, 0);
+    for (std::size_t i = 0; i < lblZadani.size(); ++i) {
+        lblZadani[i].WordWrap = false;
+        lblZadani[i].Top = i < 4 ? 128 : 144;
+    }
+    Pridej(lblText1, "lblText1", {16, 168, 195, 80});
+    Pridej(lblText2, "lblText2", {16, 256, 195, 18});
+    PridejPole(cmd, "cmd", TLACITKA[0]);
+    for (std::size_t i = 0; i < cmd.size(); ++i) {
+        cmd[i].Left = TLACITKA[i].Left;
+        cmd[i].Top = TLACITKA[i].Top;
+    }
+    Pridej(lblText3, "lblText3", {16, 350, 205, 18});
+    lblText3.WordWrap = false;
+    Pridej(lblText4, "lblText4", {158, 374, 50, 18});
+    lblText4.WordWrap = false;
+    Pridej(txtVstup, "txtVstup", {98, 371, 56, 20});
+    Pridej(ImgHodnoceni, "ImgHodnoceni", {173, 404, 32, 32});
+    Pridej(IHintS, "IHintS", {201, 413, 15, 13});
+
+    Pridej(Pic, "Pic", {226, 98, 384, 335});
+    Pridej(Line1, "Line1", {}, &Pic);
+    Pridej(Circle1, "Circle1", {}, &Pic);
+    Pridej(Text, "Text", {0, 0, 60, 17}, &Pic);
+    Text.WordWrap = false;
+    Text.BackColor = PODKLAD_ODECTU;
+    Text.Visible = false;
+    Pridej(HidenPic, "HidenPic", {180, 20, 45, 41});
+    HidenPic.Visible = false;
+    PridejPole(picSipka, "picSipka", SIPKY[0].Misto);
+    for (std::size_t i = 0; i < picSipka.size(); ++i) {
+        picSipka[i].Left = SIPKY[i].Misto.Left;
+        picSipka[i].Top = SIPKY[i].Misto.Top;
+        picSipka[i].Width = SIPKY[i].Misto.Width;
+        picSipka[i].Height = SIPKY[i].Misto.Height;
+    }
+    Pridej(picPokracuj, "picPokracuj", {526, 457, 94, 23});
+    Pridej(MalaSipka, "MalaSipka", {622, 340, 18, 28});
+    MalaSipka.Visible = false;
+
+    Pridej(VPImage, "VPImage", {325, 164, 315, 204});
+    Pridej(SamplePic, "SamplePic", {21, 24, 289, 177}, &VPImage);
+    Pridej(Image1, "Image1", {0, 80, 18, 44}, &VPImage);
+    Image1.Tag = "1";
+
+    Pridej(Combo, "Combo", {372, 444, 105, 64});
+    Combo.Ramecek = true;
+    Combo.Visible = false;
+    PridejPole(ComboLabel, "ComboLabel", {3, 2, 101, VYSKA_RADKU}, &Combo);
+    for (std::size_t i = 0; i < ComboLabel.size(); ++i) {
+        ComboLabel[i].Top = 2 + static_cast<int>(i) * VYSKA_RADKU;
+        ComboLabel[i].WordWrap = false;
+    }
+}
+
+void DeskaForm::NactiObrazky() {
+    const std::string hry = HRY;
+    Picture = NactiObrazek(hry + "bckg.bmp");
+    INadpis.Picture = NactiObrazek("Bitmap\\Tab\\bckg_" + DveCislice(CisloUlohy) + ".bmp");
+    IHintS.Picture = NactiObrazek(hry + "new_hin2.bmp");
+    IHintS.Visible = false;
+    MalaSipka.Picture = NactiObrazek(hry + "board1_s.bmp");
+    panel_ = NactiObrazek(hry + "board1.bmp");
+    for (std::size_t i = 0; i < PicTop.size(); ++i) {
+        horni_[i] = NactiDvojici(hry + std::string(HORNI[i]));
+        PicTop[i].Picture = horni_[i].Normalni;
+        const std::string sipka = hry + std::string(SIPKY[i].Soubor);
+        sipky_[i] = {NactiObrazek(sipka + "0.bmp"), NactiObrazek(sipka + ".bmp")};
+        picSipka[i].Picture = sipky_[i].Normalni;
+    }
+    PokracujObrazek = NactiObrazek(hry + "pokracbg.bmp");
+    picPokracuj.Picture = PokracujObrazek;
+    picPokracuj.Enabled = false;
+    for (const int tvar : Tvary()) tvary_[tvar] = NactiDvojici(hry + "what" + DveCislice(tvar));
+    kontrolovano_ = NactiObrazek(hry + "mkont.bmp");
+    hodnoceniDobre_ = NactiObrazek(hry + "Check_ok.bmp");
+    hodnoceniSpatne_ = NactiObrazek(hry + "Check_ko.bmp");
+    ImgHodnoceni.Visible = false;
+}
+
+void DeskaForm::Load() {
+    Maximised = true;
+    Caption = "Rysovna 1";
+    for (std::size_t i = 1; i < PicTop.size(); ++i) {
+        PicTop[i].Left = static_cast<int>(i) * PicTop[0].Width + PicTop[0].Left;
+        PicTop[i].Visible = true;
+    }
+    PrizpusobForm(*this);
+    VPImage.Font.Velikost = PISMO_PANELU;
+    lblText2.Font.Tucne = true;
+    NactiObrazky();
+    HidenPic.Width = Pic.Width;
+    HidenPic.Height = Pic.Height;
+    Pic.Plocha().Font = Pic.Font;
+    HidenPic.Plocha().Font = HidenPic.Font;
+
+    SmazTabulky();
+    KladneBody = ZaporneBody = 0;
+    zbyvaPrikladu_ = PocetPrikladuSerie;
+    dialog_ = VyrobDialog({Pic.Plocha(), HidenPic.Plocha()});
+    NactiPriklady(CestaHD + DveCislice(CisloUlohy) + ".dat", DeskaUlohy(CisloUlohy));
+    dialog_->NovyPriklad();
+    NoveZadani();
+    SlozPanel();
+    PolozPanel(0);
+}
+
+void DeskaForm::Activate() {
+    ZhasniSipky();
+    SlozPanel();
+    if (Image1.Tag == "1") PolozPanel(0);
+}
+
+void DeskaForm::QueryUnload() { ZeptejSeNaKonec(); }
+
+}  // namespace rysovna

@@ -1,0 +1,119 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "board/Dialog.h"
+#include "platform/Form.h"
+#include "shell/Hover.h"
+
+namespace rysovna {
+
+/// The frame that all six boards share: window, top buttons, arrows, the sliding panel with the
+/// sketch, the plane, the step dialogue's controls, the check and the series. It passes events to
+/// the dialogue of the board and shows the panel that the dialogue computes; the rules are there.
+class DeskaForm : public Form {
+public:
+    DeskaForm();
+
+    PictureBox Pic;       ///< the drawing plane, 384 by 335 px
+    PictureBox HidenPic;  ///< its off-screen twin
+    LineShape Line1;      ///< rubber bands and read-out, on the plane
+    CircleShape Circle1;
+    Label Text;
+
+    PictureBox VPImage;    ///< the sliding panel
+    PictureBox SamplePic;  ///< on it: the sketch of what is given
+    Image Image1;          ///< on it: the handle; its tag tells the panel's state, "1" out, "0" shut
+    PictureBox MalaSipka;  ///< stands in for the panel when it is shut
+
+    std::array<PictureBox, 4> PicTop;    ///< check, new example, score table, back
+    std::array<PictureBox, 4> picSipka;  ///< left, right, up, down... of the plane
+    PictureBox picPokracuj;
+    Image INadpis, IHintS, ImgHodnoceni;
+
+    std::array<PictureBox, 6> cmd;  ///< step buttons
+    PictureBox Combo;               ///< the pick list
+    std::array<Label, 8> ComboLabel;
+    TextBox txtVstup;
+    std::array<Label, 10> lblZadani;  ///< indices from 0
+    Label lblText1, lblText2, lblText3, lblText4;
+    Label Label1;
+
+    void Load() override;
+    void Activate() override;
+    void Paint() override;
+    void MouseDown(Ovladac* o, const Mys& m) override;
+    void MouseMove(Ovladac* o, const Mys& m) override;
+    void MouseUp(Ovladac* o, const Mys& m) override;
+    void Click(Ovladac* o) override;
+    void Change(TextBox& t) override;
+    bool Klavesa(std::string_view klavesa) override;
+    void QueryUnload() override;
+
+    /// The dialogue of this board; made by Load.
+    [[nodiscard]] const Dialog& Dialogem() const { return *dialog_; }
+    /// Examples of the series still to be played, this one included.
+    [[nodiscard]] int ZbyvaPrikladu() const { return zbyvaPrikladu_; }
+
+protected:
+    [[nodiscard]] virtual std::unique_ptr<Dialog> VyrobDialog(Platna platna) = 0;
+    /// Numbers of the faces whatNN that the step buttons can have on this board.
+    [[nodiscard]] virtual std::span<const int> Tvary() const = 0;
+    /// Shows what a board's panel has beyond the common controls.
+    virtual void UkazDalsi(const Panel& /*panel*/) {}
+    /// The dialogue, for a board's own controls; Ukaz after each change of it.
+    [[nodiscard]] Dialog& DialogKZmene() { return *dialog_; }
+    void Ukaz();
+
+private:
+    // DeskaForm.cpp: making and loading
+    void RozlozOvladace();
+    void NactiObrazky();
+    // DeskaUdalosti.cpp: events
+    void StiskNastroje(const PictureBox& tlacitko, const Mys& m);
+    void VyberRadku(int i);
+    void SkryjSeznam();
+    void UkazTah(const Gumicka& g, const Mys& m);
+    void SkryjTah();
+    void PustPlochu(const Mys& m);
+    void StiskSipky(int i);
+    void ZhasniHorni();
+    void ZhasniSipky();
+    // DeskaPanel.cpp: the panel as it is shown, and its slide
+    void UkazZadani(const std::vector<PolozkaZadani>& zadani);
+    void UkazSeznam(const Seznam& seznam);
+    void KresliNacrt();
+    void SlozPanel();
+    void PolozPanel(int odsunuti);
+    void ZasunPanel();
+    void VysunPanel();
+    // DeskaSerie.cpp: check, verdict, series
+    void Zkontroluj();
+    void NovyPriklad();
+    void NoveZadani();
+    void Pokracuj();
+    void UkonciSerii();
+    void UkazTabulku();
+    void Zpet();
+    void UkazChyby();
+    void SkryjChyby();
+
+    std::unique_ptr<Dialog> dialog_;
+    Hover hover_;  ///< 1 to 4 PicTop, 5 to 8 picSipka
+    std::array<DvojiceObrazku, 4> horni_, sipky_;
+    std::map<int, DvojiceObrazku> tvary_;
+    Obrazek panel_, hodnoceniDobre_, hodnoceniSpatne_, kontrolovano_;
+    int zbyvaPrikladu_ = 0;
+    bool zaneprazdnen_ = false;   ///< a new example is being set up
+    bool posouvaSe_ = false;      ///< the panel is sliding
+    bool poustiSe_ = false;       ///< a release on the plane is being handled
+    std::uint64_t podklad_ = 0;   ///< version of the plane that the resting panel lies on
+};
+
+}  // namespace rysovna

@@ -1,0 +1,140 @@
+// The check of an example, the verdict, and the series: next example, table, end.
+
+#include "base/Cisla.h"
+#include "board/ChybovyForm.h"
+#include "board/DeskaForm.h"
+#include "board/Kontrola.h"
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
+#include "shell/Konec.h"
+#include "shell/Misc.h"
+#include "shell/Rolovani.h"
+#include "shell/Soubory.h"
+#include "shell/TabulkaForm.h"
+
+namespace rysovna {
+
+namespace {
+
+// Waits, ms.
+constexpr std::uint32_t PO_VERDIKTU = 10;
+constexpr std::uint32_t PO_UKLIDU = 100;
+constexpr std::uint32_t PRED_ZADANIM = 50;
+constexpr std::uint32_t PRED_TABULKOU = 20;
+constexpr std::uint32_t PO_NAVRATU = 100;
+
+}  // namespace
+
+void DeskaForm::Zkontroluj() {
+    PicTop[0].Picture = kontrolovano_;
+    for (std::size_t i = 0; i < 3; ++i) PicTop[i].Enabled = false;
+    SamplePic.Enabled = false;
+    for (PictureBox& s : picSipka) s.Enabled = false;
+    dialog_->Zkontroluj();
+    SkryjTah();
+    Ukaz();
+
+    const bool bezchybne = Vyuctuj(dialog_->Hotova()) == Verdikt::Bezchybne;
+    ImgHodnoceni.Picture = bezchybne ? hodnoceniDobre_ : hodnoceniSpatne_;
+    ImgHodnoceni.Visible = true;
+    ImgHodnoceni.Enabled = !bezchybne;
+    Cekej(PO_VERDIKTU);
+    if (Skoncil(*this)) return;
+    picPokracuj.Enabled = true;
+    const int priklad = zbyvaPrikladu_;
+    Roluj(*this, picPokracuj, [this, priklad] { return zbyvaPrikladu_ == priklad; });
+}
+
+void DeskaForm::Pokracuj() {
+    --zbyvaPrikladu_;
+    if (zbyvaPrikladu_ > 0) {
+        picPokracuj.Enabled = false;
+        picPokracuj.Picture = PokracujObrazek;
+        for (PictureBox& s : picSipka) s.Enabled = true;
+        NovyPriklad();
+    } else if (zbyvaPrikladu_ == 0) {
+        UkonciSerii();
+    }
+}
+
+void DeskaForm::NovyPriklad() {
+    if (zaneprazdnen_) return;
+    zaneprazdnen_ = true;
+    for (std::size_t i = 0; i < PicTop.size(); ++i) PicTop[i].Enabled = true;
+    ZhasniHorni();
+    SamplePic.Enabled = true;
+    SkryjTah();
+    ImgHodnoceni.Visible = false;
+    dialog_->NovyPriklad();
+    KresliNacrt();
+    Ukaz();
+    zaneprazdnen_ = false;
+    Cekej(PO_UKLIDU);
+    if (Skoncil(*this)) return;
+    VysunPanel();
+    Cekej(PRED_ZADANIM);
+    if (Skoncil(*this)) return;
+    NoveZadani();
+}
+
+void DeskaForm::NoveZadani() {
+    Generator.Zasej(Stroj().Seminko());
+    dialog_->NoveZadani();
+    KresliNacrt();
+    Ukaz();
+}
+
+void DeskaForm::UkonciSerii() {
+    Obrazovky& okna = Stroj().Okna();
+    const std::string plus = TextBezMezery(KladneBody);
+    const std::string minus = TextBezMezery(ZaporneBody);
+    const std::string znamka = UrciZnamku(KladneBody, Bajt(KladneBody + ZaporneBody));
+    if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
+    const auto tabulka = okna.Nacti<TabulkaForm>();
+    tabulka->VlozNovyZaznam(JmenoHrace, plus, minus, znamka);
+    ZapisVysledek(JmenoHrace, NazevHry, TypUlohy, plus, minus, znamka);
+    tabulka->Vlastnik = okna.Najdi("SetupForm");
+    okna.Show(*tabulka);
+    okna.Hide(*this);
+    okna.Unload(*this);
+    AktivniForm = tabulka;
+}
+
+void DeskaForm::UkazTabulku() {
+    Obrazovky& okna = Stroj().Okna();
+    if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
+    const auto tabulka = okna.Nacti<TabulkaForm>();
+    Cekej(PRED_TABULKOU);
+    if (Skoncil(*this) || tabulka->Zavreny()) return;
+    tabulka->Vlastnik = shared_from_this();
+    okna.Show(*tabulka);
+    AktivniForm = tabulka;
+}
+
+void DeskaForm::Zpet() {
+    Obrazovky& okna = Stroj().Okna();
+    if (const auto tabulka = okna.Najdi("TabulkaForm")) okna.Unload(*tabulka);
+    if (const auto setup = okna.Najdi("SetupForm")) {
+        okna.Show(*setup);
+        AktivniForm = setup;
+    }
+    okna.Unload(*this);
+    Cekej(PO_NAVRATU);
+}
+
+void DeskaForm::UkazChyby() {
+    ZvukStisku();
+    const auto seznam = Stroj().Okna().Nacti<ChybovyForm>();
+    Stroj().Okna().Show(*seznam);
+    IHintS.Visible = true;
+}
+
+void DeskaForm::SkryjChyby() {
+    IHintS.Visible = false;
+    if (const auto seznam = Stroj().Okna().Najdi("ChybovyForm")) {
+        Stroj().Okna().Hide(*seznam);
+        Stroj().Okna().Unload(*seznam);
+    }
+}
+
+}  // namespace rysovna

@@ -1,0 +1,212 @@
+// The events of a board: what the pupil presses goes to the dialogue, what it answers is shown.
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/Cisla.h"
+#include "board/DeskaForm.h"
+#include "shell/HelpForm.h"
+#include "shell/Konec.h"
+#include "shell/Misc.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr int LEVE = 1;
+
+// Where the read-out stands from the pointer, px.
+constexpr int ODECET_X = 12, ODECET_Y = 2;
+
+constexpr std::uint32_t CEKANI_PO_VOLBE = 50;  // ms
+
+/// An arrow: which way it scrolls the plane, and how far it may have been scrolled before.
+struct SmerPosunu {
+    int Dx, Dy;
+};
+constexpr int KROK_POSUNU = 20;   // px
+constexpr int MEZ_POSUNU = 120;   // tested before the step: 140 can be reached
+constexpr std::array<SmerPosunu, 4> SMERY = {
+    {{KROK_POSUNU, 0}, {-KROK_POSUNU, 0}, {0, KROK_POSUNU}, {0, -KROK_POSUNU}}};
+
+constexpr std::uint8_t HOVER_SIPKY = 4;  ///< hover number before the first arrow
+
+std::uint8_t HoverTlacitka(const Ovladac& o) { return static_cast<std::uint8_t>(o.Index); }
+
+}  // namespace
+
+void DeskaForm::SkryjSeznam() {
+    if (!Combo.Visible && !dialog_->UkazPanel().Combo.Otevreny) return;
+    dialog_->ZavriSeznam();
+    Ukaz();
+}
+
+void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
+    if (o == nullptr) return SkryjSeznam();
+    if (Je(cmd, o)) return StiskNastroje(cmd[static_cast<std::size_t>(o->Index - 1)], m);
+    if (Je(ComboLabel, o)) return VyberRadku(o->Index);
+    if (o == &Pic) {
+        SkryjSeznam();
+        if (m.Button != LEVE || poustiSe_) return;
+        dialog_->StiskPlochy(m.X, m.Y);
+        Ukaz();
+    } else if (o == &SamplePic) {
+        SkryjSeznam();
+        if (dialog_->StiskNacrtu(m.X, m.Y)) {
+            KresliNacrt();
+            Ukaz();
+        }
+    } else if (o == &Image1) {
+        ZvukStisku();
+        SkryjSeznam();
+        ZasunPanel();
+    } else if (o == &MalaSipka) {
+        ZvukStisku();
+        SkryjSeznam();
+        VysunPanel();
+    } else if (o == &ImgHodnoceni) {
+        UkazChyby();
+    } else if (o == &picPokracuj) {
+        ZvukStisku();
+        SkryjSeznam();
+        Pokracuj();
+    }
+}
+
+void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
+    if (o == nullptr) {
+        if (hover_.Opust()) {
+            ZhasniSipky();
+            ZhasniHorni();
+        }
+        return;
+    }
+    if (o == &Pic) {
+        ZhasniSipky();
+        if ((m.Button & LEVE) == 0) return UkazTah(dialog_->Prejezd(m.X, m.Y), m);
+        if (!poustiSe_ && dialog_->CekaNaKresleni()) UkazTah(dialog_->Tah(m.X, m.Y), m);
+        return;
+    }
+    const bool sipka = Je(picSipka, o);
+    if (!sipka && !Je(PicTop, o)) return;
+    const auto cislo = static_cast<std::uint8_t>(HoverTlacitka(*o) + (sipka ? HOVER_SIPKY : 0));
+    if (!hover_.Vstup(cislo)) return;
+    ZhasniSipky();
+    ZhasniHorni();
+    const auto i = static_cast<std::size_t>(o->Index - 1);
+    if (sipka) {
+        picSipka[i].Picture = sipky_[i].Rozsviceny;
+    } else if (PicTop[i].Enabled) {
+        PicTop[i].Picture = horni_[i].Rozsviceny;
+    }
+}
+
+void DeskaForm::MouseUp(Ovladac* o, const Mys& m) {
+    if (o == &Pic && m.Button == LEVE) PustPlochu(m);
+    if (o == &ImgHodnoceni) SkryjChyby();
+}
+
+void DeskaForm::Click(Ovladac* o) {
+    if (o == &INadpis) {
+        ZvukStisku();
+        UkazNapovedu("Bitmap\\Help\\" + DveCislice(CisloUlohy) + ".bmp", *this);
+    } else if (o != nullptr && Je(picSipka, o)) {
+        StiskSipky(o->Index);
+    } else if (o != nullptr && Je(PicTop, o)) {
+        ZvukStisku();
+        SkryjSeznam();
+        switch (o->Index) {
+            case 1: return Zkontroluj();
+            case 2: return NovyPriklad();
+            case 3: return UkazTabulku();
+            default: return Zpet();
+        }
+    }
+}
+
+void DeskaForm::Change(TextBox& t) {
+    if (&t == &txtVstup) dialog_->Napis(1, t.Text);
+}
+
+bool DeskaForm::Klavesa(std::string_view klavesa) {
+    if (klavesa != "Escape" || !Combo.Visible) return false;
+    SkryjSeznam();
+    return true;
+}
+
+void DeskaForm::StiskNastroje(const PictureBox& tlacitko, const Mys& m) {
+    ZvukStisku();
+    dialog_->StiskNastroje(tlacitko.Index);
+    Combo.Left = tlacitko.Left + Zaokrouhli(m.X);
+    Combo.Top = tlacitko.Top + Zaokrouhli(m.Y);
+    DoPopredi(Combo);
+    Ukaz();
+}
+
+void DeskaForm::VyberRadku(int i) {
+    ZvukStisku();
+    const Seznam seznam = dialog_->UkazPanel().Combo;
+    Combo.Visible = false;
+    Cekej(CEKANI_PO_VOLBE);
+    if (Skoncil(*this)) return;
+    // Another list may have come up, or this one gone, while the wait let events through.
+    if (dialog_->UkazPanel().Combo == seznam) dialog_->VyberRadku(i);
+    Ukaz();
+}
+
+void DeskaForm::UkazTah(const Gumicka& g, const Mys& m) {
+    Line1.Visible = g.Druh == Gumicka::Tvar::Cara;
+    Circle1.Visible = g.Druh == Gumicka::Tvar::Kruh;
+    if (Line1.Visible) {
+        Line1.X1 = g.X1;
+        Line1.Y1 = g.Y1;
+        Line1.X2 = g.X2;
+        Line1.Y2 = g.Y2;
+    }
+    if (Circle1.Visible) {
+        Circle1.Left = g.X1;
+        Circle1.Top = g.Y1;
+        Circle1.Width = g.X2 - g.X1;
+        Circle1.Height = g.Y2 - g.Y1;
+    }
+    Text.Visible = !g.Text.empty();
+    if (!Text.Visible) return;
+    Text.Caption = g.Text;
+    Text.PodleTextu();
+    Text.Left = Zaokrouhli(m.X) + ODECET_X;
+    Text.Top = Zaokrouhli(m.Y) + ODECET_Y;
+}
+
+void DeskaForm::SkryjTah() { Line1.Visible = Circle1.Visible = Text.Visible = false; }
+
+void DeskaForm::PustPlochu(const Mys& m) {
+    if (poustiSe_ || !dialog_->CekaNaKresleni()) return;
+    SkryjTah();
+    poustiSe_ = true;
+    Cekej(dialog_->CekaniPoTahu());
+    poustiSe_ = false;
+    if (Skoncil(*this)) return;
+    dialog_->PusteniPlochy(m.X, m.Y);
+    Ukaz();
+}
+
+void DeskaForm::StiskSipky(int i) {
+    const SmerPosunu& s = SMERY[static_cast<std::size_t>(i - 1)];
+    int& posun = s.Dx != 0 ? PosunX : PosunY;
+    const int krok = s.Dx + s.Dy;
+    if (krok > 0 ? posun > MEZ_POSUNU : posun < -MEZ_POSUNU) return;
+    dialog_->Posun(s.Dx, s.Dy);
+    posun += krok;
+}
+
+void DeskaForm::ZhasniHorni() {
+    for (std::size_t i = 0; i < PicTop.size(); ++i) {
+        if (PicTop[i].Enabled) PicTop[i].Picture = horni_[i].Normalni;
+    }
+}
+
+void DeskaForm::ZhasniSipky() {
+    for (std::size_t i = 0; i < picSipka.size(); ++i) picSipka[i].Picture = sipky_[i].Normalni;
+}
+
+}  // namespace rysovna

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string_view>
+
+#include "base/Bod.h"
+#include "base/Plane.h"
+#include "board/Dialog.h"
+
+namespace rysovna {
+
+// The points texts that stand behind the sentence of a wrong step.
+constexpr std::string_view JEDEN_BOD = "  -1 bod";
+constexpr std::string_view DVA_BODY = "  -2 body";
+constexpr std::string_view TRI_BODY = "  -3 body";
+
+/// An example is worth this many points.
+constexpr int BODU_ZA_PRIKLAD = 10;
+
+/// How the remainder of an unfinished construction's charge is worded.
+enum class TvarBodu {
+    VzdyBod,   ///< always "bod"
+    PodleCisla  ///< "bod", "body", "bodů"
+};
+
+/// Charges the count of wrong elements: 1, 2 or 3 points for as many; nothing for none.
+void UctujChybnePrvky(int pocet);
+/// Charges wrong marks one point; nothing when they are right, and nothing on an example that is
+/// clean until now.
+void UctujZnacky(bool spravne);
+/// Charges an unfinished construction 10 points; the text tells what was still to be lost.
+void UctujNedokoncenou(TvarBodu tvar);
+
+/// How an example ended.
+enum class Verdikt { Bezchybne, SChybami };
+
+/// Settles the example by its penalty sum: plus and minus points of the session, 10 together.
+Verdikt Vyuctuj(bool hotova);
+
+/// Empties the construction for a new example: planes, counters, the rows of the construction, of
+/// what the pupil entered and of the wrong steps, every done flag of every record.
+void VyprazdniKonstrukci(const Platna& platna);
+/// Clears what the pupil entered in the first ten phases.
+void ZapomenZadanePrvky();
+
+/// Prints a vertex's letter beside it, in a free spot.
+void PopisVrchol(Plane& plocha, Bod vrchol, std::string_view pismeno);
+
+}  // namespace rysovna

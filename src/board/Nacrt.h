@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "base/Plane.h"
+
+namespace rysovna {
+
+/// Where a press on the sketch belongs to an element: x from X1 to X2 and y within Tolerance of
+/// K * x + Q, all limits included. Pixels of the sketch.
+struct PasNacrtu {
+    double X1, X2, K, Q, Tolerance;
+    [[nodiscard]] constexpr bool Obsahuje(double x, double y) const {
+        const double odchylka = y - (K * x + Q);
+        return x >= X1 && x <= X2 && odchylka >= -Tolerance && odchylka <= Tolerance;
+    }
+};
+
+/// One element of a sketch: what can be marked, where it is hit, how it is drawn.
+struct PrvekNacrtu {
+    enum class Tvar { Usecka, Oblouk };
+    std::string_view Velicina;  ///< "a", "alfa", "va", ...
+    PasNacrtu Pas;
+    Tvar Druh;
+    /// Of a segment its ends; of an arc its centre, then the points towards which its two sides go.
+    float X1, Y1, X2, Y2, X3, Y3;
+    float Polomer;              ///< of an arc
+    std::string_view Pismeno;   ///< printed beside it
+    bool Symbol;                ///< in the Symbol face; otherwise italic
+    float PX, PY;               ///< where
+};
+
+/// A letter of the sketch that is no element: the name of a vertex.
+struct PismenoNacrtu {
+    std::string_view Text;
+    float X, Y;
+};
+
+/// The first element whose zone contains the press; -1 if none does.
+[[nodiscard]] int PrvekPod(std::span<const PrvekNacrtu> prvky, double x, double y);
+
+/// Draws the sketch: bit i of znacky says that element i is marked (red), the others are black.
+void KresliPrvkyNacrtu(Plane& plocha, std::span<const PrvekNacrtu> prvky,
+                       std::span<const PismenoNacrtu> pismena, std::uint32_t znacky);
+
+}  // namespace rysovna

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "base/Bod.h"
+#include "base/Plane.h"
+
+namespace rysovna {
+
+/// A step button as it is shown. The face and whether it can be pressed are two things: after the
+/// check the buttons keep their live faces and cannot be pressed.
+struct Tlacitko {
+    int Tvar = 0;        ///< number of its picture, whatNN; 0: the button is hidden
+    bool Barevne = false;  ///< the live face "_1"; otherwise the grey one "_0"
+    bool Zive = false;     ///< can be pressed
+    friend bool operator==(const Tlacitko&, const Tlacitko&) = default;
+};
+
+/// A line of the pick list.
+struct RadekSeznamu {
+    std::string Text;
+    bool Videt = true;
+    bool Ziva = true;
+    std::string Tag;  ///< names of the object that the line speaks of
+    friend bool operator==(const RadekSeznamu&, const RadekSeznamu&) = default;
+};
+
+/// The pick list of the step dialogue.
+struct Seznam {
+    bool Otevreny = false;
+    int Sirka = 105, Vyska = 64;  ///< px
+    int SirkaRadku = 101;         ///< px
+    std::vector<RadekSeznamu> Radky;
+    friend bool operator==(const Seznam&, const Seznam&) = default;
+};
+
+/// A text of the panel with its face; hidden when it is not there.
+struct TextPanelu {
+    std::string Text;
+    bool Videt = false;
+    bool Symbol = false;   ///< set in the Symbol face
+    int Odsazeni = 0;      ///< px to the right of lblText3
+    bool NaRadkuVyzvy = false;  ///< stands on the prompt's own row, not on the value's
+    friend bool operator==(const TextPanelu&, const TextPanelu&) = default;
+};
+
+/// A box for a typed value.
+struct Vstup {
+    std::string Text;
+    bool Videt = false;
+    bool Ziva = true;
+    friend bool operator==(const Vstup&, const Vstup&) = default;
+};
+
+/// A row with a value to type: what stands before the box and its unit behind. Boards that ask for
+/// several values at once have such rows in place of the one box.
+struct RadekVstupu {
+    std::string Nazev;
+    Vstup Box;
+    std::string Jednotka;
+    friend bool operator==(const RadekVstupu&, const RadekVstupu&) = default;
+};
+
+/// One label of the assignment. Labels stand in two rows, each placed behind the one before.
+struct PolozkaZadani {
+    std::string Text;
+    Pismo Font{Pismo::Rez::MsSansSerif, 10};
+    int Mezera = 2;        ///< px behind the label before
+    bool NovyRadek = false;  ///< begins a row
+    friend bool operator==(const PolozkaZadani&, const PolozkaZadani&) = default;
+};
+
+/// What the step dialogue shows. Computed from the construction and the dialogue, never patched,
+/// so that going back is an earlier phase shown again.
+struct Panel {
+    std::array<Tlacitko, 6> cmd;  ///< cmd(1) to cmd(6); index 0 is cmd(1)
+    std::string Label1;           ///< lead-in of the assignment
+    std::string lblText1, lblText2;
+    std::string lblText3;
+    TextPanelu lblText4;
+    Vstup txtVstup;
+    std::vector<RadekVstupu> Vstupy;  ///< rows of values, where the board has them
+    Seznam Combo;
+    std::vector<PolozkaZadani> lblZadani;
+    bool PicZiva = true;  ///< the plane takes the mouse
+    friend bool operator==(const Panel&, const Panel&) = default;
+};
+
+/// What the plane shows while the pupil drags: the rubber band and the read-out.
+struct Gumicka {
+    enum class Tvar { Nic, Cara, Kruh };
+    Tvar Druh = Tvar::Nic;
+    int X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;  ///< of a line; of a circle its rectangle
+    std::string Text;                    ///< the read-out; empty: none
+    friend bool operator==(const Gumicka&, const Gumicka&) = default;
+};
+
+}  // namespace rysovna

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Form.h"
+
+namespace rysovna {
+
+/// Makes the board of a task, 1 to 20; null if no board is there for it. Not loaded yet: the
+/// caller hands it to the screens.
+[[nodiscard]] std::shared_ptr<Form> VyrobDesku(int cisloUlohy);
+
+}  // namespace rysovna

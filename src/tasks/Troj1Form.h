@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "board/DeskaForm.h"
+#include "board/DialogTrojuhelniku.h"
+
+namespace rysovna {
+
+/// The dialogue of the triangle by SSS, SUS and USU: three kinds of task, seven kinds of example.
+/// The three values are bound to vertices: the first is that of a or alfa, the second of b or
+/// beta, the third of c or gama.
+class Troj1Dialog final : public DialogTrojuhelniku {
+public:
+    explicit Troj1Dialog(Platna platna);
+
+protected:
+    void VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) override;
+    void SestavZadani(const Priklad& p, const Hodnoty3& hodnoty,
+                      std::vector<PolozkaZadani>& zadani) override;
+    [[nodiscard]] int Hodnota(std::string_view velicina) const override;
+    [[nodiscard]] bool PrvniStranaSpravna(std::string_view prvek) const override;
+    [[nodiscard]] bool KruzniceJeChyba(bool krokCekal) const override;
+    void PosudVolbuRovnobezky(std::string_view vyska) override;
+    void PosudStiskRovnobezky() override;
+};
+
+/// The board of the triangle by SSS, SUS and USU (tasks 1 to 3).
+class Troj1Form final : public DeskaForm {
+public:
+    [[nodiscard]] std::string_view Jmeno() const override { return "Troj1Form"; }
+
+protected:
+    [[nodiscard]] std::unique_ptr<Dialog> VyrobDialog(Platna platna) override;
+    [[nodiscard]] std::span<const int> Tvary() const override;
+};
+
+}  // namespace rysovna
