@@ -1,0 +1,41 @@
+# Sourced by ./run and ./test: makes sure that what the build needs is there.
+# Debian's package names; installed with apt-get, as root or through sudo. Nothing is asked for
+# when nothing is missing.
+
+BALICKY_HRA="g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libfreetype-dev
+    librsvg2-dev fonts-liberation fonts-dejavu-core"
+BALICKY_TESTY="libgtest-dev xvfb xdotool x11-utils imagemagick clang-format clang-tidy"
+BALICKY_BENCH="libbenchmark-dev xvfb xdotool x11-utils"
+
+# priprav PACKAGE...: installs those that are missing.
+priprav() {
+    chybi=""
+    for balicek in "$@"; do
+        dpkg-query -W -f='${Status}' "$balicek" 2>/dev/null | grep -q 'ok installed' ||
+            chybi="$chybi $balicek"
+    done
+    [ -z "$chybi" ] && return 0
+    echo "Instaluji:$chybi"
+    if [ "$(id -u)" = 0 ]; then
+        prava=""
+    elif command -v sudo >/dev/null; then
+        prava="sudo"
+    else
+        echo "Chybí balíčky a není právo je nainstalovat (root ani sudo):$chybi" >&2
+        return 1
+    fi
+    export DEBIAN_FRONTEND=noninteractive
+    # shellcheck disable=SC2086
+    $prava apt-get install -y --no-install-recommends $chybi >/dev/null 2>&1 ||
+        { $prava apt-get update -qq &&
+          $prava apt-get install -y --no-install-recommends $chybi >/dev/null; }
+}
+
+# sestav FOLDER [cmake options...]: configures and builds everything there.
+sestav() {
+    slozka="$1"
+    shift
+    cmake -S . -B "$slozka" -G Ninja "$@" >"$slozka.cmake.log" 2>&1 ||
+        { cat "$slozka.cmake.log" >&2; return 1; }
+    ninja -C "$slozka"
+}
