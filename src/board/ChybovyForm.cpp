@@ -41,6 +41,8 @@ void ChybovyForm::Load() {
     Text1.Text = TextChybnychKroku();
 }
 
-void ChybovyForm::QueryUnload() { ZeptejSeNaKonec(); }
+void ChybovyForm::QueryUnload() {
+    ZeptejSeNaKonec();
+}
 
 }  // namespace rysovna

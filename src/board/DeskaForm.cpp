@@ -42,7 +42,9 @@ constexpr Barva PODKLAD_ODECTU = Rgb(255, 250, 225);
 
 }  // namespace
 
-DeskaForm::DeskaForm() { RozlozOvladace(); }
+DeskaForm::DeskaForm() {
+    RozlozOvladace();
+}
 
 void DeskaForm::RozlozOvladace() {
     Pridej(INadpis, "INadpis", {0, 0, 238, 80});
@@ -161,6 +163,8 @@ void DeskaForm::Activate() {
     if (Image1.Tag == "1") PolozPanel(0);
 }
 
-void DeskaForm::QueryUnload() { ZeptejSeNaKonec(); }
+void DeskaForm::QueryUnload() {
+    ZeptejSeNaKonec();
+}
 
 }  // namespace rysovna

@@ -29,7 +29,7 @@ public:
 
     PictureBox VPImage;    ///< the sliding panel
     PictureBox SamplePic;  ///< on it: the sketch of what is given
-    Image Image1;          ///< on it: the handle; its tag tells the panel's state, "1" out, "0" shut
+    Image Image1;  ///< on it: the handle; its tag tells the panel's state, "1" out, "0" shut
     PictureBox MalaSipka;  ///< stands in for the panel when it is shut
 
     std::array<PictureBox, 4> PicTop;    ///< check, new example, score table, back
@@ -110,10 +110,10 @@ private:
     std::map<int, DvojiceObrazku> tvary_;
     Obrazek panel_, hodnoceniDobre_, hodnoceniSpatne_, kontrolovano_;
     int zbyvaPrikladu_ = 0;
-    bool zaneprazdnen_ = false;   ///< a new example is being set up
-    bool posouvaSe_ = false;      ///< the panel is sliding
-    bool poustiSe_ = false;       ///< a release on the plane is being handled
-    std::uint64_t podklad_ = 0;   ///< version of the plane that the resting panel lies on
+    bool zaneprazdnen_ = false;  ///< a new example is being set up
+    bool posouvaSe_ = false;     ///< the panel is sliding
+    bool poustiSe_ = false;      ///< a release on the plane is being handled
+    std::uint64_t podklad_ = 0;  ///< version of the plane that the resting panel lies on
 };
 
 }  // namespace rysovna

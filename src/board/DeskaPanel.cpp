@@ -10,7 +10,7 @@ namespace rysovna {
 
 namespace {
 
-constexpr int ZADANI_VLEVO = 20;   // px, first label of a row
+constexpr int ZADANI_VLEVO = 20;            // px, first label of a row
 constexpr int RADKY_ZADANI[] = {128, 144};  // px, tops of the two rows
 
 constexpr int JEDNOTKA_NAHORE = 374;  // px, the unit beside the box for a value
@@ -45,8 +45,7 @@ void DeskaForm::Ukaz() {
     lblText3.Visible = !p.lblText3.empty();
     lblText4.Visible = p.lblText4.Videt;
     lblText4.Caption = p.lblText4.Text;
-    lblText4.Font.Nazev =
-        p.lblText4.Symbol ? Pismo::Rez::Symbol : Pismo::Rez::MsSansSerif;
+    lblText4.Font.Nazev = p.lblText4.Symbol ? Pismo::Rez::Symbol : Pismo::Rez::MsSansSerif;
     lblText4.Left = lblText3.Left + p.lblText4.Odsazeni;
     lblText4.Top = p.lblText4.NaRadkuVyzvy ? lblText3.Top : JEDNOTKA_NAHORE;
 
@@ -78,8 +77,8 @@ void DeskaForm::UkazZadani(const std::vector<PolozkaZadani>& zadani) {
         l.PodleTextu();
         if (z.NovyRadek) ++radek;
         l.Top = RADKY_ZADANI[radek > 0 ? 1 : 0];
-        l.Left = z.NovyRadek ? ZADANI_VLEVO
-                             : lblZadani[i - 1].Left + lblZadani[i - 1].Width + z.Mezera;
+        l.Left =
+            z.NovyRadek ? ZADANI_VLEVO : lblZadani[i - 1].Left + lblZadani[i - 1].Width + z.Mezera;
     }
 }
 

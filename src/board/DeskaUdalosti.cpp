@@ -24,14 +24,16 @@ constexpr std::uint32_t CEKANI_PO_VOLBE = 50;  // ms
 struct SmerPosunu {
     int Dx, Dy;
 };
-constexpr int KROK_POSUNU = 20;   // px
-constexpr int MEZ_POSUNU = 120;   // tested before the step: 140 can be reached
+constexpr int KROK_POSUNU = 20;  // px
+constexpr int MEZ_POSUNU = 120;  // tested before the step: 140 can be reached
 constexpr std::array<SmerPosunu, 4> SMERY = {
     {{KROK_POSUNU, 0}, {-KROK_POSUNU, 0}, {0, KROK_POSUNU}, {0, -KROK_POSUNU}}};
 
 constexpr std::uint8_t HOVER_SIPKY = 4;  ///< hover number before the first arrow
 
-std::uint8_t HoverTlacitka(const Ovladac& o) { return static_cast<std::uint8_t>(o.Index); }
+std::uint8_t HoverTlacitka(const Ovladac& o) {
+    return static_cast<std::uint8_t>(o.Index);
+}
 
 }  // namespace
 
@@ -116,10 +118,14 @@ void DeskaForm::Click(Ovladac* o) {
         ZvukStisku();
         SkryjSeznam();
         switch (o->Index) {
-            case 1: return Zkontroluj();
-            case 2: return NovyPriklad();
-            case 3: return UkazTabulku();
-            default: return Zpet();
+            case 1:
+                return Zkontroluj();
+            case 2:
+                return NovyPriklad();
+            case 3:
+                return UkazTabulku();
+            default:
+                return Zpet();
         }
     }
 }
@@ -177,7 +183,9 @@ void DeskaForm::UkazTah(const Gumicka& g, const Mys& m) {
     Text.Top = Zaokrouhli(m.Y) + ODECET_Y;
 }
 
-void DeskaForm::SkryjTah() { Line1.Visible = Circle1.Visible = Text.Visible = false; }
+void DeskaForm::SkryjTah() {
+    Line1.Visible = Circle1.Visible = Text.Visible = false;
+}
 
 void DeskaForm::PustPlochu(const Mys& m) {
     if (poustiSe_ || !dialog_->CekaNaKresleni()) return;

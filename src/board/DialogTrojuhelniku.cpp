@@ -33,7 +33,9 @@ constexpr std::uint32_t CEKANI_OSTATNI = 100;
 
 constexpr int SIRKA_HOTOVYCH_STRAN = 2;  // px
 
-Bod NaPixely(float x, float y) { return {Zaokrouhli(x), Zaokrouhli(y)}; }
+Bod NaPixely(float x, float y) {
+    return {Zaokrouhli(x), Zaokrouhli(y)};
+}
 
 }  // namespace
 
@@ -97,7 +99,9 @@ void DialogTrojuhelniku::KresliNacrt(Plane& plocha) const {
 
 // ---- The plane -------------------------------------------------------------------------------
 
-const Utvar& DialogTrojuhelniku::Zakladna() const { return Utvary[VybranyUtvar]; }
+const Utvar& DialogTrojuhelniku::Zakladna() const {
+    return Utvary[VybranyUtvar];
+}
 
 const CenaVeliciny* DialogTrojuhelniku::Cena() const {
     for (const CenaVeliciny& c : pravidla_.Ceny) {
@@ -151,8 +155,8 @@ Gumicka DialogTrojuhelniku::Tah(float x, float y) const {
     const std::string& druh = stav_.ZvolenyUtvar;
     if (druh == KRUZNICE) {
         const int r = std::abs(konec.X - stav_.Start.X);
-        return {Gumicka::Tvar::Kruh, stav_.Start.X - r, stav_.Start.Y - r, stav_.Start.X + r,
-                stav_.Start.Y + r, OdectiDelku(r)};
+        return {Gumicka::Tvar::Kruh, stav_.Start.X - r, stav_.Start.Y - r,
+                stav_.Start.X + r,   stav_.Start.Y + r, OdectiDelku(r)};
     }
     Dvojice body = BodyPrimky(konec);
     if (druh == KOLMICE) body.P2 = PataUkazatele(body, konec);
@@ -179,8 +183,7 @@ void DialogTrojuhelniku::PusteniPlochy(float x, float y) {
     if (!CekaNaKresleni() || !stav_.Tazeni) return;
     const Gumicka tah = Tah(x, y);
     const CenaVeliciny* cena = Cena();
-    if (cena != nullptr && !stav_.KrokChybny &&
-        CisloZOdectu(tah.Text) != Hodnota(stav_.Velicina)) {
+    if (cena != nullptr && !stav_.KrokChybny && CisloZOdectu(tah.Text) != Hodnota(stav_.Velicina)) {
         PridejChybu(cena->Nakreslena, JEDEN_BOD, 1);
     }
     for (const CenaPocatku& c : CENY_POCATKU) {
@@ -209,7 +212,8 @@ void DialogTrojuhelniku::NakresliUtvar(Bod konec) {
         KresliKruznici(pic, druh, n, s.X, s.Y, konec.X, ANO);
     } else if (druh == USECKA) {
         const auto delka = static_cast<float>(DelkaVCm(Vzdalenost(s, konec)));
-        KresliUsecku(pic, druh, n, s.X, s.Y, konec.X, konec.Y, delka, jmeno1, jmeno2, ANO, ANO, ANO);
+        KresliUsecku(pic, druh, n, s.X, s.Y, konec.X, konec.Y, delka, jmeno1, jmeno2, ANO, ANO,
+                     ANO);
     } else if (druh == POLOPRIMKA) {
         KresliPoloprimku(pic, druh, n, s.X, s.Y, konec.X, konec.Y, jmeno2, ANO);
     } else {
@@ -239,8 +243,8 @@ void DialogTrojuhelniku::DokonciTrojuhelnik(bool pridatRadek) {
     if (poprve) {
         const std::string jmena = strana.Jmeno1 + strana.Jmeno2;
         stav_.PismenoVrcholu = jmena == "AB" ? "C" : jmena == "AC" ? "B" : "A";
-        const Pruseciky body = PrusecikyUtvaru(platna_.Pic, Utvary[PocetUtvaru - 1],
-                                               Utvary[PocetUtvaru]);
+        const Pruseciky body =
+            PrusecikyUtvaru(platna_.Pic, Utvary[PocetUtvaru - 1], Utvary[PocetUtvaru]);
         if (body.P1 == BEZ_BODU) return;
         stav_.Vrchol = VyberVrchol(strana, body);
     }
@@ -275,9 +279,8 @@ void DialogTrojuhelniku::PosudPrvky() {
     int chybnych = 0;
     for (int radek = 1; radek <= 3; ++radek) {
         const ZadanyPrvek& z = ZadanePrvky[radek];
-        const bool druh = radek == 1
-                              ? z.Utvar == p.Kroky[1].Utvar
-                              : z.Utvar == p.Kroky[2].Utvar || z.Utvar == p.Kroky[3].Utvar;
+        const bool druh = radek == 1 ? z.Utvar == p.Kroky[1].Utvar
+                                     : z.Utvar == p.Kroky[2].Utvar || z.Utvar == p.Kroky[3].Utvar;
         if (!JeZadana(z.Prvek) || !druh) ++chybnych;
     }
     UctujChybnePrvky(chybnych);

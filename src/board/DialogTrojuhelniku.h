@@ -22,7 +22,7 @@ struct RadekStrany {
 /// A line of the rays: the vertex at which the angle stands.
 struct RadekPaprsku {
     std::string_view Vrchol;
-    std::string_view Prvek;    ///< vertex and angle, "Aalfa"
+    std::string_view Prvek;      ///< vertex and angle, "Aalfa"
     int ChybaFaze2, ChybaFaze3;  ///< wrong step when the angle is not given
 };
 
@@ -32,10 +32,10 @@ struct RadekKruznice {
     struct Podle {
         std::string_view Prvek, Nazev;  ///< both empty: the choice keeps what it held
     };
-    std::string_view Stred;    ///< name of the centre's point
-    std::string_view Text;     ///< the end of the list line, behind "kružnice k, "
+    std::string_view Stred;  ///< name of the centre's point
+    std::string_view Text;   ///< the end of the list line, behind "kružnice k, "
     std::array<Podle, 3> PodleStrany;
-    int ChybaVolby;            ///< wrong step when the quantity is not given
+    int ChybaVolby;  ///< wrong step when the quantity is not given
 };
 
 /// What a value costs when it is wrong: typed, then drawn. A tool with no row has no value.
@@ -47,7 +47,7 @@ struct CenaVeliciny {
 /// One kind of example of a triangle board.
 struct DruhTrojuhelniku {
     std::string_view Druh;
-    std::uint32_t Znacky;      ///< the marks that the check expects, bits in the order of the sketch
+    std::uint32_t Znacky;  ///< the marks that the check expects, bits in the order of the sketch
 };
 
 /// What one triangle board has of its own. All rows; the interpreter is DialogTrojuhelniku.
@@ -65,20 +65,20 @@ struct PravidlaTrojuhelniku {
 
 /// The dialogue's own record: all that changes from step to step besides the construction.
 struct StavTrojuhelniku {
-    int Faze = 1;               ///< 1 first side, 2 first object, 3 second object, 4 closed
-    std::string ZvolenyUtvar;   ///< kind of the tool in hand; empty between steps
-    std::string ZvolenyPrvek;   ///< "a"; "Aalfa"; "AkB", ...
-    std::string ZvolenyNazev;   ///< short name: a circle's quantity, letters of a base object
-    std::string Velicina;       ///< the quantity that the step stands for: its value is judged
+    int Faze = 1;              ///< 1 first side, 2 first object, 3 second object, 4 closed
+    std::string ZvolenyUtvar;  ///< kind of the tool in hand; empty between steps
+    std::string ZvolenyPrvek;  ///< "a"; "Aalfa"; "AkB", ...
+    std::string ZvolenyNazev;  ///< short name: a circle's quantity, letters of a base object
+    std::string Velicina;      ///< the quantity that the step stands for: its value is judged
     bool CekaNaKresleni = false;
-    bool KrokChybny = false;    ///< judged wrong already: its values cost nothing more
+    bool KrokChybny = false;  ///< judged wrong already: its values cost nothing more
     bool HotovaKonstrukce = false;
     bool Skontrolovano = false;  ///< the check took the example
-    bool Tazeni = false;        ///< the button is held over the plane
+    bool Tazeni = false;         ///< the button is held over the plane
     Bod Start;
-    Bod Vrchol = BEZ_BODU;      ///< the third vertex, once the triangle is closed
+    Bod Vrchol = BEZ_BODU;  ///< the third vertex, once the triangle is closed
     std::string PismenoVrcholu;
-    std::uint32_t Znacky = 0;   ///< marks of the sketch, bits in the order of its elements
+    std::uint32_t Znacky = 0;  ///< marks of the sketch, bits in the order of its elements
     Seznam Combo;
     std::string lblText3;
     TextPanelu lblText4;
@@ -151,7 +151,9 @@ protected:
 
 private:
     // DialogTrojuhelnikuSeznam.cpp: tools and their lists
-    void OtevriSeznam(int sirka, int sirkaRadku, int vyska, std::vector<RadekSeznamu> radky);
+    /// kolik: rows that the list is as tall as.
+    void OtevriSeznam(int sirka, int sirkaRadku, std::size_t kolik,
+                      std::vector<RadekSeznamu> radky);
     void NabidniStrany();
     void NabidniPaprsky();
     void NabidniKolmice();

@@ -20,7 +20,9 @@ constexpr int VyskaSeznamu(std::size_t radku) {
     return static_cast<int>(radku) * VYSKA_RADKU + OKRAJ_SEZNAMU;
 }
 
-bool JePrimkaSJmenem(const Utvar& u) { return u.Druh == ROVNOBEZKA || u.Druh == KOLMICE || u.Druh == PRIMKA; }
+bool JePrimkaSJmenem(const Utvar& u) {
+    return u.Druh == ROVNOBEZKA || u.Druh == KOLMICE || u.Druh == PRIMKA;
+}
 
 }  // namespace
 
@@ -33,18 +35,24 @@ void DialogTrojuhelniku::StiskNastroje(int i) {
     if (stav_.Faze >= 4) return;  // a full construction takes no further object
     stav_.KrokChybny = false;
     switch (i) {
-        case 1: return stav_.Faze == 1 ? NabidniStrany() : NabidniPaprsky();
-        case 2: return NabidniKolmice();
-        case 3: return NabidniRovnobezky();
-        default: return NabidniKruznice();
+        case 1:
+            return stav_.Faze == 1 ? NabidniStrany() : NabidniPaprsky();
+        case 2:
+            return NabidniKolmice();
+        case 3:
+            return NabidniRovnobezky();
+        default:
+            return NabidniKruznice();
     }
 }
 
-void DialogTrojuhelniku::ZavriSeznam() { stav_.Combo.Otevreny = false; }
+void DialogTrojuhelniku::ZavriSeznam() {
+    stav_.Combo.Otevreny = false;
+}
 
-void DialogTrojuhelniku::OtevriSeznam(int sirka, int sirkaRadku, int vyska,
+void DialogTrojuhelniku::OtevriSeznam(int sirka, int sirkaRadku, std::size_t kolik,
                                       std::vector<RadekSeznamu> radky) {
-    stav_.Combo = {true, sirka, vyska, sirkaRadku, std::move(radky)};
+    stav_.Combo = {true, sirka, VyskaSeznamu(kolik), sirkaRadku, std::move(radky)};
 }
 
 /// Whether the letter is a name of the last object, in phase 3 also of the one before.
@@ -60,18 +68,23 @@ void DialogTrojuhelniku::NabidniStrany() {
     stav_.ZvolenyUtvar = USECKA;
     Priklady[cisloPrikladu_].Kroky[1].Hotovo = ANO;
     std::vector<RadekSeznamu> radky;
-    for (const RadekStrany& r : pravidla_.Strany) radky.push_back({std::string(r.Text), true, true, {}});
-    OtevriSeznam(SIRKA_UZKA, RADEK_UZKY, VyskaSeznamu(radky.size()), std::move(radky));
+    for (const RadekStrany& r : pravidla_.Strany)
+        radky.push_back({std::string(r.Text), true, true, {}});
+    const std::size_t kolik = radky.size();
+    OtevriSeznam(SIRKA_UZKA, RADEK_UZKY, kolik, std::move(radky));
 }
 
 void DialogTrojuhelniku::NabidniPaprsky() {
     stav_.ZvolenyUtvar = POLOPRIMKA;
     std::vector<RadekSeznamu> radky;
     for (const RadekPaprsku& r : pravidla_.Paprsky) {
-        radky.push_back({std::string(r.Vrchol) + (stav_.Faze == 2 ? "X" : "Y"), true,
-                         VrcholVDosahu(r.Vrchol), {}});
+        radky.push_back({std::string(r.Vrchol) + (stav_.Faze == 2 ? "X" : "Y"),
+                         true,
+                         VrcholVDosahu(r.Vrchol),
+                         {}});
     }
-    OtevriSeznam(SIRKA_UZKA, RADEK_UZKY, VyskaSeznamu(radky.size()), std::move(radky));
+    const std::size_t kolik = radky.size();
+    OtevriSeznam(SIRKA_UZKA, RADEK_UZKY, kolik, std::move(radky));
 }
 
 void DialogTrojuhelniku::NabidniKolmice() {
@@ -95,7 +108,7 @@ void DialogTrojuhelniku::NabidniKolmice() {
         }
         if (i >= 2) radku = 2;
     }
-    OtevriSeznam(SIRKA_SIROKA, RADEK_SIROKY, VyskaSeznamu(radku), std::move(radky));
+    OtevriSeznam(SIRKA_SIROKA, RADEK_SIROKY, radku, std::move(radky));
 }
 
 void DialogTrojuhelniku::NabidniRovnobezky() {
@@ -113,7 +126,7 @@ void DialogTrojuhelniku::NabidniRovnobezky() {
         if (text.empty()) continue;
         radky[radku++] = {std::move(text), true, true, u.Jmeno1 + u.Jmeno2};
     }
-    OtevriSeznam(SIRKA_SIROKA, RADEK_SIROKY, VyskaSeznamu(radku), std::move(radky));
+    OtevriSeznam(SIRKA_SIROKA, RADEK_SIROKY, radku, std::move(radky));
 }
 
 void DialogTrojuhelniku::NabidniKruznice() {
@@ -123,10 +136,13 @@ void DialogTrojuhelniku::NabidniKruznice() {
     for (const RadekKruznice& r : pravidla_.Kruznice) {
         radky.push_back({uvod + std::string(r.Text), true, StredVDosahu(r.Stred), {}});
     }
-    OtevriSeznam(SIRKA_SIROKA, RADEK_SIROKY, VyskaSeznamu(radky.size()), std::move(radky));
+    const std::size_t kolik = radky.size();
+    OtevriSeznam(SIRKA_SIROKA, RADEK_SIROKY, kolik, std::move(radky));
 }
 
-bool DialogTrojuhelniku::StredVDosahu(std::string_view stred) const { return VrcholVDosahu(stred); }
+bool DialogTrojuhelniku::StredVDosahu(std::string_view stred) const {
+    return VrcholVDosahu(stred);
+}
 
 void DialogTrojuhelniku::Zpet() {
     platna_.Pic.DrawWidth = 1;

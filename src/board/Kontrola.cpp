@@ -65,7 +65,8 @@ void VyprazdniKonstrukci(const Platna& platna) {
     }
     ChybneKroky.Smaz();
     for (int i = 1; i <= decltype(Priklady)::POSLEDNI; ++i) {
-        for (int k = 1; k <= decltype(Priklad::Kroky)::POSLEDNI; ++k) Priklady[i].Kroky[k].Hotovo = 0;
+        for (int k = 1; k <= decltype(Priklad::Kroky)::POSLEDNI; ++k)
+            Priklady[i].Kroky[k].Hotovo = 0;
     }
     PocetUtvaru = 0;
     PocetTrojic = 0;

@@ -18,7 +18,7 @@ constexpr int BODU_ZA_PRIKLAD = 10;
 
 /// How the remainder of an unfinished construction's charge is worded.
 enum class TvarBodu {
-    VzdyBod,   ///< always "bod"
+    VzdyBod,    ///< always "bod"
     PodleCisla  ///< "bod", "body", "bodů"
 };
 

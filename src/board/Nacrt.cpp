@@ -77,8 +77,7 @@ void KresliPrvkyNacrtu(Plane& plocha, std::span<const PrvekNacrtu> prvky,
     }
     plocha.ForeColor = CERNA;
     for (const PismenoNacrtu& t : pismena) {
-        Tiskni(plocha, t.X, t.Y, t.Text,
-               {Pismo::Rez::MsSansSerif, VELIKOST_PISMEN, false, true});
+        Tiskni(plocha, t.X, t.Y, t.Text, {Pismo::Rez::MsSansSerif, VELIKOST_PISMEN, false, true});
     }
 }
 

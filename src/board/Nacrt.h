@@ -26,10 +26,10 @@ struct PrvekNacrtu {
     Tvar Druh;
     /// Of a segment its ends; of an arc its centre, then the points towards which its two sides go.
     float X1, Y1, X2, Y2, X3, Y3;
-    float Polomer;              ///< of an arc
-    std::string_view Pismeno;   ///< printed beside it
-    bool Symbol;                ///< in the Symbol face; otherwise italic
-    float PX, PY;               ///< where
+    float Polomer;             ///< of an arc
+    std::string_view Pismeno;  ///< printed beside it
+    bool Symbol;               ///< in the Symbol face; otherwise italic
+    float PX, PY;              ///< where
 };
 
 /// A letter of the sketch that is no element: the name of a vertex.

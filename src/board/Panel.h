@@ -12,7 +12,7 @@ namespace rysovna {
 /// A step button as it is shown. The face and whether it can be pressed are two things: after the
 /// check the buttons keep their live faces and cannot be pressed.
 struct Tlacitko {
-    int Tvar = 0;        ///< number of its picture, whatNN; 0: the button is hidden
+    int Tvar = 0;          ///< number of its picture, whatNN; 0: the button is hidden
     bool Barevne = false;  ///< the live face "_1"; otherwise the grey one "_0"
     bool Zive = false;     ///< can be pressed
     friend bool operator==(const Tlacitko&, const Tlacitko&) = default;
@@ -40,8 +40,8 @@ struct Seznam {
 struct TextPanelu {
     std::string Text;
     bool Videt = false;
-    bool Symbol = false;   ///< set in the Symbol face
-    int Odsazeni = 0;      ///< px to the right of lblText3
+    bool Symbol = false;        ///< set in the Symbol face
+    int Odsazeni = 0;           ///< px to the right of lblText3
     bool NaRadkuVyzvy = false;  ///< stands on the prompt's own row, not on the value's
     friend bool operator==(const TextPanelu&, const TextPanelu&) = default;
 };
@@ -67,7 +67,7 @@ struct RadekVstupu {
 struct PolozkaZadani {
     std::string Text;
     Pismo Font{Pismo::Rez::MsSansSerif, 10};
-    int Mezera = 2;        ///< px behind the label before
+    int Mezera = 2;          ///< px behind the label before
     bool NovyRadek = false;  ///< begins a row
     friend bool operator==(const PolozkaZadani&, const PolozkaZadani&) = default;
 };

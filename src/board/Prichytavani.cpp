@@ -17,7 +17,8 @@ struct Cil {
 /// The targets of a record in the order in which they are tried. The first point always is one:
 /// every object has it.
 std::array<Cil, 3> Cile(const Trojice& t) {
-    return {Cil{{t.X1, t.Y1}, &t.Jmeno1}, Cil{{t.X2, t.Y2}, &t.Jmeno2}, Cil{{t.X3, t.Y3}, &t.Jmeno3}};
+    return {Cil{{t.X1, t.Y1}, &t.Jmeno1}, Cil{{t.X2, t.Y2}, &t.Jmeno2},
+            Cil{{t.X3, t.Y3}, &t.Jmeno3}};
 }
 
 bool JeCilem(const Cil& cil, std::size_t poradi, bool tretiBody) {

@@ -39,8 +39,7 @@ Bod PataUkazatele(Dvojice primka, Bod ukazatel) {
     const double dy = primka.P2.Y - primka.P1.Y;
     const double delka2 = dx * dx + dy * dy;
     if (delka2 == 0) return primka.P1;
-    const double t =
-        ((ukazatel.X - primka.P1.X) * dx + (ukazatel.Y - primka.P1.Y) * dy) / delka2;
+    const double t = ((ukazatel.X - primka.P1.X) * dx + (ukazatel.Y - primka.P1.Y) * dy) / delka2;
     return {Zaokrouhli(primka.P1.X + t * dx), Zaokrouhli(primka.P1.Y + t * dy)};
 }
 
@@ -50,7 +49,9 @@ double Vzdalenost(Bod a, Bod b) {
     return std::sqrt(dx * dx + dy * dy);
 }
 
-std::string OdectiDelku(double px) { return FormatCele(DelkaVCm(px)) + " cm"; }
+std::string OdectiDelku(double px) {
+    return FormatCele(DelkaVCm(px)) + " cm";
+}
 
 std::string OdectiVzdalenost(const Utvar& zakladna, Bod start, Bod ukazatel) {
     // The line through the base's points as a*x + b*y + c = 0.

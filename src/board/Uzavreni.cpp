@@ -9,16 +9,24 @@ namespace rysovna {
 
 namespace {
 
-bool JeKruznice(const Utvar& u) { return u.Druh == KRUZNICE; }
-bool JePaprsek(const Utvar& u) { return u.Druh == POLOPRIMKA; }
+bool JeKruznice(const Utvar& u) {
+    return u.Druh == KRUZNICE;
+}
+bool JePaprsek(const Utvar& u) {
+    return u.Druh == POLOPRIMKA;
+}
 
 bool JePrimy(const Utvar& u) {
     const bool druh = JePaprsek(u) || u.Druh == PRIMKA || u.Druh == KOLMICE || u.Druh == ROVNOBEZKA;
     return druh && !(u.X1 == u.X2 && u.Y1 == u.Y2);
 }
 
-Bod Prvni(const Utvar& u) { return {u.X1, u.Y1}; }
-Bod Druhy(const Utvar& u) { return {u.X2, u.Y2}; }
+Bod Prvni(const Utvar& u) {
+    return {u.X1, u.Y1};
+}
+Bod Druhy(const Utvar& u) {
+    return {u.X2, u.Y2};
+}
 
 bool PredZacatkem(const Utvar& paprsek, Bod s) {
     const double dx = paprsek.X2 - paprsek.X1;
@@ -68,8 +76,7 @@ Bod VyberVrchol(const Utvar& strana, const Pruseciky& body) {
     const Bod pocatek = odDruheho ? Druhy(strana) : Prvni(strana);
     double smer = static_cast<double>(strana.Smer) + (odDruheho ? PI : 0.0);
     if (smer >= DVE_PI) smer -= DVE_PI;
-    double rozdil =
-        (static_cast<double>(Smer(pocatek, body.P1, 0)) - smer) * STUPNU_PULOTACKY / PI;
+    double rozdil = (static_cast<double>(Smer(pocatek, body.P1, 0)) - smer) * STUPNU_PULOTACKY / PI;
     if (rozdil < 0) rozdil += 360;
     return rozdil < 180 ? body.P1 : body.P2;
 }

@@ -18,7 +18,9 @@ constexpr float VELIKOST_ZADANI = 10;  // points
 
 }  // namespace
 
-bool Trojuhelnikova(double a, double b, double c) { return a + b > c && b + c > a && a + c > b; }
+bool Trojuhelnikova(double a, double b, double c) {
+    return a + b > c && b + c > a && a + c > b;
+}
 
 std::string_view PismenoUhlu(std::string_view nazev) {
     for (const auto& [jmeno, pismeno] : UHLY) {
@@ -49,6 +51,8 @@ PolozkaZadani HodnotaZadani(std::string text, int mezera) {
     return p;
 }
 
-int VylosujPriklad() { return Generator.D(PocetPrikladu, 1); }
+int VylosujPriklad() {
+    return Generator.D(PocetPrikladu, 1);
+}
 
 }  // namespace rysovna

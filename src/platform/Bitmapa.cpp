@@ -7,17 +7,23 @@ namespace rysovna {
 
 namespace {
 
-/// Where each pixel of a resized row comes from: whole source pixels from Od, weighted.
+/// Where the pixels of a resized row (or column) come from: for each the same count of source
+/// pixels in a row, weighted.
 struct Zdroje {
-    int Od = 0;
-    std::vector<unsigned> Vahy;  ///< sum 256
+    int NaBod = 0;               ///< how many
+    std::vector<int> Od;         ///< the first of them
+    std::vector<unsigned> Vahy;  ///< NaBod for each pixel, sum 256
+
+    [[nodiscard]] const unsigned* VahyBodu(int i) const {
+        return Vahy.data() + static_cast<std::ptrdiff_t>(i) * NaBod;
+    }
 };
 
-std::vector<Zdroje> RozpocitejZdroje(int zdroj, int cil) {
-    std::vector<Zdroje> vse(static_cast<std::size_t>(cil));
+Zdroje RozpocitejZdroje(int zdroj, int cil) {
     const double krok = static_cast<double>(zdroj) / cil;
+    Zdroje z;
+    z.NaBod = std::min(static_cast<int>(std::ceil(std::max(krok, 1.0))) + 1, zdroj);
     for (int i = 0; i < cil; ++i) {
-        Zdroje& z = vse[static_cast<std::size_t>(i)];
         // Smaller: the span that the pixel covers. Larger: the two neighbours of its middle.
         double od = i * krok;
         double po = od + krok;
@@ -26,87 +32,80 @@ std::vector<Zdroje> RozpocitejZdroje(int zdroj, int cil) {
             od = std::max(0.0, stred - 0.5);
             po = std::min<double>(zdroj, stred + 0.5);
         }
-        z.Od = std::min(static_cast<int>(od), zdroj - 1);
-        const int posledni = std::clamp(static_cast<int>(std::ceil(po)) - 1, z.Od, zdroj - 1);
-        double soucet = 0;
-        std::vector<double> vahy;
-        for (int x = z.Od; x <= posledni; ++x) {
-            vahy.push_back(std::max(0.0, std::min<double>(po, x + 1) - std::max<double>(od, x)));
-            soucet += vahy.back();
+        const int prvni = std::clamp(static_cast<int>(od), 0, zdroj - z.NaBod);
+        z.Od.push_back(prvni);
+        unsigned zbyva = 256;
+        std::size_t nejtezsi = z.Vahy.size();
+        for (int x = prvni; x < prvni + z.NaBod; ++x) {
+            const double podil =
+                std::max(0.0, std::min<double>(po, x + 1) - std::max<double>(od, x)) / (po - od);
+            z.Vahy.push_back(std::min(static_cast<unsigned>(std::lround(podil * 256)), zbyva));
+            zbyva -= z.Vahy.back();
+            if (z.Vahy.back() > z.Vahy[nejtezsi]) nejtezsi = z.Vahy.size() - 1;
         }
-        unsigned dano = 0;
-        for (const double v : vahy) {
-            z.Vahy.push_back(static_cast<unsigned>(std::lround(v / soucet * 256)));
-            dano += z.Vahy.back();
-        }
-        // Rounding may leave the sum a little off: the heaviest bears it.
-        auto nejtezsi = std::max_element(z.Vahy.begin(), z.Vahy.end());
-        *nejtezsi += 256u - dano;
+        // Rounding may leave the sum a little short: the heaviest bears it.
+        z.Vahy[nejtezsi] += zbyva;
     }
-    return vse;
+    return z;
 }
 
-/// Two passes of weighted sums, first along the rows. The channels are summed in pairs.
-Bitmapa Zprumeruj(const Bitmapa& zdroj, int sirka, int vyska) {
-    const auto sloupce = RozpocitejZdroje(zdroj.Sirka, sirka);
-    const auto radky = RozpocitejZdroje(zdroj.Vyska, vyska);
+/// The four channels of a pixel, 16 bits each, so that one multiplication weighs them all.
+constexpr std::uint64_t Rozprostri(Pixel p) {
+    return (p & 0xFF00FFu) | ((std::uint64_t{p} & 0xFF00FF00u) << 24);
+}
+constexpr std::uint64_t PULKY = 0x0080008000800080u;
+constexpr std::uint64_t KANALY = 0x00FF00FF00FF00FFu;
+constexpr Pixel Sloz(std::uint64_t kanaly) {
+    return static_cast<Pixel>(kanaly | (kanaly >> 24)) | 0xFF000000u;
+}
+
+/// Two passes of weighted sums for each row of the result: down the columns, then along the row.
+Bitmapa Zprumeruj(const PohledKeCteni& zdroj, int sirka, int vyska) {
+    const Zdroje sloupce = RozpocitejZdroje(zdroj.Sirka, sirka);
+    const Zdroje radky = RozpocitejZdroje(zdroj.Vyska, vyska);
     Bitmapa cil(sirka, vyska, 0);
-    std::vector<Pixel> uzsi(static_cast<std::size_t>(sirka) *
-                            static_cast<std::size_t>(zdroj.Vyska));
-    for (int y = 0; y < zdroj.Vyska; ++y) {
-        const Pixel* z = zdroj.Radka(y);
-        Pixel* c = uzsi.data() + static_cast<std::ptrdiff_t>(y) * sirka;
-        for (const Zdroje& s : sloupce) {
-            unsigned rb = 0x00800080u, g = 0x80u;
-            const Pixel* p = z + s.Od;
-            for (const unsigned vaha : s.Vahy) {
-                rb += (*p & 0xFF00FFu) * vaha;
-                g += ((*p >> 8) & 0xFFu) * vaha;
-                ++p;
-            }
-            *c++ = 0xFF000000u | ((rb >> 8) & 0xFF00FFu) | (g & 0xFF00u);
-        }
-    }
-    std::vector<unsigned> rb(static_cast<std::size_t>(sirka)), g(rb.size());
+    std::vector<std::uint64_t> radek(static_cast<std::size_t>(zdroj.Sirka));
     for (int y = 0; y < vyska; ++y) {
-        const Zdroje& s = radky[static_cast<std::size_t>(y)];
-        std::fill(rb.begin(), rb.end(), 0x00800080u);
-        std::fill(g.begin(), g.end(), 0x80u);
-        for (std::size_t i = 0; i < s.Vahy.size(); ++i) {
-            const Pixel* z = uzsi.data() + (s.Od + static_cast<std::ptrdiff_t>(i)) * sirka;
-            const unsigned vaha = s.Vahy[i];
-            for (std::size_t x = 0; x < rb.size(); ++x) {
-                rb[x] += (z[x] & 0xFF00FFu) * vaha;
-                g[x] += ((z[x] >> 8) & 0xFFu) * vaha;
-            }
+        std::fill(radek.begin(), radek.end(), PULKY);
+        for (int j = 0; j < radky.NaBod; ++j) {
+            const std::uint64_t vaha = radky.VahyBodu(y)[j];
+            if (vaha == 0) continue;
+            const Pixel* z = zdroj.Radka(radky.Od[static_cast<std::size_t>(y)] + j);
+            for (std::uint64_t& kanaly : radek) kanaly += Rozprostri(*z++) * vaha;
         }
+        for (std::uint64_t& kanaly : radek) kanaly = (kanaly >> 8) & KANALY;
         Pixel* c = cil.Pohled().Radka(y);
-        for (std::size_t x = 0; x < rb.size(); ++x)
-            c[x] = 0xFF000000u | ((rb[x] >> 8) & 0xFF00FFu) | (g[x] & 0xFF00u);
+        const unsigned* vaha = sloupce.Vahy.data();
+        for (const int od : sloupce.Od) {
+            std::uint64_t kanaly = PULKY;
+            const std::uint64_t* z = radek.data() + od;
+            for (int i = 0; i < sloupce.NaBod; ++i) kanaly += *z++ * *vaha++;
+            *c++ = Sloz((kanaly >> 8) & KANALY);
+        }
     }
     return cil;
 }
 
 /// As the average, but the key colour neither mixes nor is mixed.
-Bitmapa ZprumerujSKlicem(const Bitmapa& zdroj, int sirka, int vyska) {
-    const auto sloupce = RozpocitejZdroje(zdroj.Sirka, sirka);
-    const auto radky = RozpocitejZdroje(zdroj.Vyska, vyska);
+Bitmapa ZprumerujSKlicem(const PohledKeCteni& zdroj, int sirka, int vyska) {
+    const Zdroje sloupce = RozpocitejZdroje(zdroj.Sirka, sirka);
+    const Zdroje radky = RozpocitejZdroje(zdroj.Vyska, vyska);
     Bitmapa cil(sirka, vyska, 0);
     for (int y = 0; y < vyska; ++y) {
-        const Zdroje& r = radky[static_cast<std::size_t>(y)];
         const int stredY = std::min((2 * y + 1) * zdroj.Vyska / (2 * vyska), zdroj.Vyska - 1);
         Pixel* c = cil.Pohled().Radka(y);
         for (int x = 0; x < sirka; ++x) {
             const int stredX = std::min((2 * x + 1) * zdroj.Sirka / (2 * sirka), zdroj.Sirka - 1);
-            c[x] = zdroj.Radka(stredY)[stredX];
+            c[x] = zdroj.Radka(stredY)[stredX] | 0xFF000000u;
             if (c[x] == KLIC) continue;
-            const Zdroje& s = sloupce[static_cast<std::size_t>(x)];
             std::uint64_t cerv = 0, zel = 0, modr = 0, vaha = 0;
-            for (std::size_t j = 0; j < r.Vahy.size(); ++j) {
-                const Pixel* z = zdroj.Radka(r.Od + static_cast<int>(j)) + s.Od;
-                for (std::size_t i = 0; i < s.Vahy.size(); ++i) {
-                    if (z[i] == KLIC) continue;
-                    const std::uint64_t v = std::uint64_t{r.Vahy[j]} * s.Vahy[i];
+            for (int j = 0; j < radky.NaBod; ++j) {
+                const Pixel* z = zdroj.Radka(radky.Od[static_cast<std::size_t>(y)] + j) +
+                                 sloupce.Od[static_cast<std::size_t>(x)];
+                for (int i = 0; i < sloupce.NaBod; ++i) {
+                    if ((z[i] | 0xFF000000u) == KLIC) continue;
+                    const std::uint64_t v =
+                        std::uint64_t{radky.VahyBodu(y)[j]} * sloupce.VahyBodu(x)[i];
                     cerv += ((z[i] >> 16) & 0xFFu) * v;
                     zel += ((z[i] >> 8) & 0xFFu) * v;
                     modr += (z[i] & 0xFFu) * v;
@@ -212,10 +211,10 @@ void Prenes(const Vyhled& cil, const Obdelnik& kam, const Obdelnik& orez, const 
     }
 }
 
-Bitmapa Preskaluj(const Bitmapa& zdroj, int sirka, int vyska, bool sKlicem) {
+Bitmapa Preskaluj(const PohledKeCteni& zdroj, int sirka, int vyska, bool sKlicem) {
     sirka = std::max(sirka, 1);
     vyska = std::max(vyska, 1);
-    if (zdroj.Prazdna() || (sirka == zdroj.Sirka && vyska == zdroj.Vyska)) return zdroj;
+    if (zdroj.Sirka < 1 || zdroj.Vyska < 1) return {};
     return sKlicem ? ZprumerujSKlicem(zdroj, sirka, vyska) : Zprumeruj(zdroj, sirka, vyska);
 }
 

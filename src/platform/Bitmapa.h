@@ -42,6 +42,16 @@ struct Vyhled {
     void Obrat(const Obdelnik& kde) const;
 };
 
+/// The same for reading.
+struct PohledKeCteni {
+    const Pixel* Body = nullptr;
+    int Sirka = 0, Vyska = 0;
+    int Krok = 0;
+    [[nodiscard]] const Pixel* Radka(int y) const {
+        return Body + static_cast<std::ptrdiff_t>(y) * Krok;
+    }
+};
+
 /// A rectangle of pixels.
 struct Bitmapa {
     int Sirka = 0, Vyska = 0;
@@ -54,6 +64,7 @@ struct Bitmapa {
         return Body.data() + static_cast<std::ptrdiff_t>(y) * Sirka;
     }
     [[nodiscard]] Vyhled Pohled() { return {Body.data(), Sirka, Vyska, Sirka}; }
+    [[nodiscard]] PohledKeCteni KeCteni() const { return {Body.data(), Sirka, Vyska, Sirka}; }
 };
 
 /// The common part; a rectangle of no size where there is none.
@@ -88,6 +99,7 @@ void Prenes(const Vyhled& cil, const Obdelnik& kam, const Obdelnik& orez, const 
 /// The picture in another size. Averages when it gets smaller, mixes neighbours when it gets
 /// larger. A picture with the key colour keeps it pure: a pixel whose middle falls on the key is
 /// the key, all others are mixed of the other colours alone.
-[[nodiscard]] Bitmapa Preskaluj(const Bitmapa& zdroj, int sirka, int vyska, bool sKlicem);
+/// The highest byte of the source's pixels does not matter.
+[[nodiscard]] Bitmapa Preskaluj(const PohledKeCteni& zdroj, int sirka, int vyska, bool sKlicem);
 
 }  // namespace rysovna

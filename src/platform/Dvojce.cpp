@@ -84,7 +84,7 @@ public:
         // One bit, or the key: no new colours may come in at the edges.
         const bool ostre = p.Jak != Prenos::Kopie;
         const Bitmapa vetsi =
-            ostre ? Zopakuj(*p.Co, kam) : Preskaluj(*p.Co, kam.Width, kam.Height, true);
+            ostre ? Zopakuj(*p.Co, kam) : Preskaluj(p.Co->KeCteni(), kam.Width, kam.Height, true);
         Prenes(cil_.Pohled(), kam, cil_.Pohled().Meze(), vetsi, 0, 0, p.Jak, p.Klic);
     }
 

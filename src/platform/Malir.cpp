@@ -128,6 +128,16 @@ void Spoj(std::vector<Obdelnik>& obdelniky) {
     obdelniky = {vse};
 }
 
+/// Black beside the design area.
+void VyplnOkoli(const Vyhled& cil, const Obdelnik& navrh) {
+    const int vpravo = navrh.Left + navrh.Width;
+    const int dole = navrh.Top + navrh.Height;
+    cil.Vypln({0, 0, cil.Sirka, navrh.Top}, DoPixelu(CERNA));
+    cil.Vypln({0, dole, cil.Sirka, cil.Vyska - dole}, DoPixelu(CERNA));
+    cil.Vypln({0, navrh.Top, navrh.Left, navrh.Height}, DoPixelu(CERNA));
+    cil.Vypln({vpravo, navrh.Top, cil.Sirka - vpravo, navrh.Height}, DoPixelu(CERNA));
+}
+
 }  // namespace
 
 struct Malir::Vnitrek {
@@ -173,14 +183,12 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
     const bool vse =
         v.Vse || v.Sirka != cil.Sirka || v.Vyska != cil.Vyska || v.Verze != okna.Verze();
     if (vse) {
+        const Obdelnik navrh = k.NaCil(NAVRH);
         const bool okraje = v.Vse || v.Sirka != cil.Sirka || v.Vyska != cil.Vyska;
-        if (okraje) {
-            k.Cil.Vypln(k.Cil.Meze(), DoPixelu(CERNA));
-            spinave = {k.Cil.Meze()};
-        } else {
-            spinave = {k.NaCil(NAVRH)};
-            k.Cil.Vypln(spinave[0], DoPixelu(CERNA));
-        }
+        if (okraje) VyplnOkoli(k.Cil, navrh);
+        if (soupis.Radky.empty() || !Pokryva(soupis.Radky[0].Objekt.Kde, NAVRH))
+            k.Cil.Vypln(navrh, DoPixelu(CERNA));
+        spinave = {okraje ? k.Cil.Meze() : navrh};
     } else {
         spinave = Rozdily(v.Radky, soupis.Radky);
         Spoj(spinave);

@@ -12,26 +12,21 @@ namespace rysovna {
 
 namespace {
 
-/// The large twin that stands beside a bitmap; empty where none can be read.
-Bitmapa NactiDvojce(std::filesystem::path cesta) {
+/// The large twin that stands beside a bitmap, brought to the size; empty where none can be read.
+Bitmapa ZDvojcete(std::filesystem::path cesta, int sirka, int vyska, bool sKlicem) {
     cesta.replace_extension(".png");
     cairo_surface_t* png = cairo_image_surface_create_from_png(cesta.c_str());
-    Bitmapa dvojce;
+    Bitmapa obraz;
     const auto format = cairo_image_surface_get_format(png);
     if (cairo_surface_status(png) == CAIRO_STATUS_SUCCESS &&
         (format == CAIRO_FORMAT_RGB24 || format == CAIRO_FORMAT_ARGB32)) {
-        dvojce =
-            Bitmapa(cairo_image_surface_get_width(png), cairo_image_surface_get_height(png), 0);
-        const unsigned char* data = cairo_image_surface_get_data(png);
-        for (int y = 0; y < dvojce.Vyska; ++y) {
-            const auto* radka = reinterpret_cast<const Pixel*>(
-                data + static_cast<std::ptrdiff_t>(y) * cairo_image_surface_get_stride(png));
-            std::transform(radka, radka + dvojce.Sirka, dvojce.Pohled().Radka(y),
-                           [](Pixel p) { return p | 0xFF000000u; });
-        }
+        obraz = Preskaluj({reinterpret_cast<const Pixel*>(cairo_image_surface_get_data(png)),
+                           cairo_image_surface_get_width(png), cairo_image_surface_get_height(png),
+                           cairo_image_surface_get_stride(png) / static_cast<int>(sizeof(Pixel))},
+                          sirka, vyska, sKlicem);
     }
     cairo_surface_destroy(png);
-    return dvojce;
+    return obraz;
 }
 
 /// Pictures that somebody still shows, by their real paths.
@@ -45,9 +40,12 @@ std::map<std::filesystem::path, std::weak_ptr<DataObrazku>>& Nactene() {
 const Bitmapa& DataObrazku::VeVelikosti(double s) {
     if (s == 1 || Logicka.Prazdna()) return Logicka;
     if (meritko_ != s) {
-        const Bitmapa dvojce = Cesta.empty() ? Bitmapa() : NactiDvojce(Cesta);
-        zvetsena_ = Preskaluj(dvojce.Prazdna() ? Logicka : dvojce, Zvetsi(Logicka.Sirka, s),
-                              Zvetsi(Logicka.Vyska, s), MaKlic);
+        const int sirka = Zvetsi(Logicka.Sirka, s);
+        const int vyska = Zvetsi(Logicka.Vyska, s);
+        // Let go first: both sizes at once would only cost memory.
+        zvetsena_ = {};
+        if (!Cesta.empty()) zvetsena_ = ZDvojcete(Cesta, sirka, vyska, MaKlic);
+        if (zvetsena_.Prazdna()) zvetsena_ = Preskaluj(Logicka.KeCteni(), sirka, vyska, MaKlic);
         meritko_ = s;
     }
     return zvetsena_;

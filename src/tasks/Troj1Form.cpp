@@ -22,9 +22,9 @@ constexpr RadekKruznice KRUZNICE_RADKY[] = {
     {"C", "střed v bodě C", {{{}, {"CkA", "a"}, {"CkB", "b"}}}, 34}};
 
 constexpr CenaVeliciny CENY[] = {
-    {USECKA, "a", 7, 13},        {USECKA, "b", 8, 14},        {USECKA, "c", 9, 15},
+    {USECKA, "a", 7, 13},         {USECKA, "b", 8, 14},         {USECKA, "c", 9, 15},
     {POLOPRIMKA, "alfa", 10, 30}, {POLOPRIMKA, "beta", 11, 30}, {POLOPRIMKA, "gama", 12, 30},
-    {KRUZNICE, "a", 7, 27},      {KRUZNICE, "b", 8, 28},      {KRUZNICE, "c", 9, 29}};
+    {KRUZNICE, "a", 7, 27},       {KRUZNICE, "b", 8, 28},       {KRUZNICE, "c", 9, 29}};
 
 // The sketch: the triangle A(40, 140), B(260, 140), C(150, 30). The angles' zones are the middles
 // of their printed letters.
@@ -41,10 +41,10 @@ constexpr PismenoNacrtu PISMENA[] = {{"A", 24, 138}, {"B", 266, 138}, {"C", 145,
 
 // Marks, in the order of the sketch.
 constexpr std::uint32_t ZC = 1, ZA = 2, ZB = 4, ZALFA = 8, ZBETA = 16, ZGAMA = 32;
-constexpr DruhTrojuhelniku DRUHY[] = {
-    {"1", ZA | ZB | ZC},    {"2", ZB | ZC | ZALFA},    {"3", ZA | ZC | ZBETA},
-    {"4", ZA | ZB | ZGAMA}, {"5", ZA | ZBETA | ZGAMA}, {"6", ZB | ZALFA | ZGAMA},
-    {"7", ZC | ZALFA | ZBETA}};
+constexpr DruhTrojuhelniku DRUHY[] = {{"1", ZA | ZB | ZC},       {"2", ZB | ZC | ZALFA},
+                                      {"3", ZA | ZC | ZBETA},    {"4", ZA | ZB | ZGAMA},
+                                      {"5", ZA | ZBETA | ZGAMA}, {"6", ZB | ZALFA | ZGAMA},
+                                      {"7", ZC | ZALFA | ZBETA}};
 
 constexpr PravidlaTrojuhelniku PRAVIDLA{"Sestroj trojúhelník ABC:",
                                         STRANY,
@@ -63,8 +63,8 @@ constexpr PravidlaTrojuhelniku PRAVIDLA{"Sestroj trojúhelník ABC:",
 struct Losovani {
     std::string_view Druh;
     std::array<Vzorec, 3> Vzorce;
-    int Klic = -1, Jiny = -1;       ///< which values are the key angle and the other; -1: none
-    bool Nerovnost = false;         ///< the three are sides of a triangle
+    int Klic = -1, Jiny = -1;  ///< which values are the key angle and the other; -1: none
+    bool Nerovnost = false;    ///< the three are sides of a triangle
 };
 constexpr Vzorec STRANA{20, 10}, UHEL{140, 20}, KLICOVY{70, 20};
 constexpr Losovani LOSOVANI[] = {
@@ -157,8 +157,7 @@ void Troj1Dialog::VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) {
         const int klic = hodnoty[static_cast<std::size_t>(l->Klic)];
         for (const DruhyUhel& u : DRUHE_UHLY) {
             if (klic <= u.Nad || klic > u.Nejvyse) continue;
-            hodnoty[static_cast<std::size_t>(l->Jiny)] =
-                Generator.D(u.Jiny.Rozpeti, u.Jiny.Zaklad);
+            hodnoty[static_cast<std::size_t>(l->Jiny)] = Generator.D(u.Jiny.Rozpeti, u.Jiny.Zaklad);
         }
     } while (!Vyhovuje(*l, hodnoty));
 }
@@ -192,18 +191,26 @@ int Troj1Dialog::Hodnota(std::string_view velicina) const {
     return h == std::end(HODNOTY) ? 0 : Hodnoty()[h->Poradi];
 }
 
-bool Troj1Dialog::PrvniStranaSpravna(std::string_view prvek) const { return JeZadana(prvek); }
+bool Troj1Dialog::PrvniStranaSpravna(std::string_view prvek) const {
+    return JeZadana(prvek);
+}
 
-bool Troj1Dialog::KruzniceJeChyba(bool /*krokCekal*/) const { return CisloUlohy != ULOHA_SSS && CisloUlohy != ULOHA_SUS; }
+bool Troj1Dialog::KruzniceJeChyba(bool /*krokCekal*/) const {
+    return CisloUlohy != ULOHA_SSS && CisloUlohy != ULOHA_SUS;
+}
 
 void Troj1Dialog::PosudVolbuRovnobezky(std::string_view /*vyska*/) {}
 
-void Troj1Dialog::PosudStiskRovnobezky() { PridejChybu(CHYBA_ROVNOBEZKA, TRI_BODY, 3); }
+void Troj1Dialog::PosudStiskRovnobezky() {
+    PridejChybu(CHYBA_ROVNOBEZKA, TRI_BODY, 3);
+}
 
 std::unique_ptr<Dialog> Troj1Form::VyrobDialog(Platna platna) {
     return std::make_unique<Troj1Dialog>(platna);
 }
 
-std::span<const int> Troj1Form::Tvary() const { return TVARY; }
+std::span<const int> Troj1Form::Tvary() const {
+    return TVARY;
+}
 
 }  // namespace rysovna

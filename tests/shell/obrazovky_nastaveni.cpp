@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
@@ -163,7 +164,8 @@ TEST_F(Nastaveni, OdchodUprostredCekani) {
         SCOPED_TRACE(kdy);
         relace.Napis("A");
         relace.Host().NaplanujZa(kdy, [&] { relace.Stiskni("picKonec"); });
-        relace.Stiskni("ICislo", 2);
+        // The handler ends with the wait in which its screen went: no roll-in for nobody.
+        EXPECT_LE(Trvani([&] { relace.Stiskni("ICislo", 2); }), std::max(CISLICE, kdy + 20));
         EXPECT_EQ(relace.JmenoVpredu(), "SelectForm");
         EXPECT_EQ(relace.Najdi("SetupForm"), nullptr);
         EXPECT_EQ(AktivniForm.lock().get(), &Menu());

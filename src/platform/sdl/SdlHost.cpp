@@ -205,7 +205,7 @@ void SdlHost::SndPlaySound(std::string_view cesta) {
 RezimObrazovky SdlHost::GetDeviceCaps() {
     SDL_DisplayMode rezim{};
     if (SDL_GetDesktopDisplayMode(0, &rezim) != 0) return {};
-    return {rezim.w, rezim.h, static_cast<int>(SDL_BITSPERPIXEL(rezim.format))};
+    return {rezim.w, rezim.h, static_cast<int>(SDL_BYTESPERPIXEL(rezim.format)) * 8};
 }
 
 int SdlHost::ChangeDisplaySettings(const RezimObrazovky& rezim) {
