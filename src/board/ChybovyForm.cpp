@@ -4,7 +4,6 @@
 
 #include "base/Cisla.h"
 #include "shell/Hover.h"
-#include "shell/Konec.h"
 #include "shell/Misc.h"
 #include "shell/Zaznamy.h"
 
@@ -41,8 +40,6 @@ void ChybovyForm::Load() {
     Text1.Text = TextChybnychKroku();
 }
 
-void ChybovyForm::QueryUnload() {
-    ZeptejSeNaKonec();
 }
 
 }  // namespace rysovna

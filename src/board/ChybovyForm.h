@@ -19,7 +19,6 @@ public:
     TextBox Text1;  ///< fills the client area
 
     void Load() override;
-    void QueryUnload() override;
 };
 
 /// The text of the list: the lead-in, then a row for each of the first ten wrong steps.

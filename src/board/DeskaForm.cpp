@@ -3,7 +3,6 @@
 #include "base/Cisla.h"
 #include "board/Kontrola.h"
 #include "platform/Host.h"
-#include "shell/Konec.h"
 #include "shell/MapaPoli.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
@@ -163,8 +162,6 @@ void DeskaForm::Activate() {
     if (Image1.Tag == "1") PolozPanel(0);
 }
 
-void DeskaForm::QueryUnload() {
-    ZeptejSeNaKonec();
 }
 
 }  // namespace rysovna

@@ -54,7 +54,6 @@ public:
     void Click(Ovladac* o) override;
     void Change(TextBox& t) override;
     bool Klavesa(std::string_view klavesa) override;
-    void QueryUnload() override;
 
     /// The dialogue of this board; made by Load.
     [[nodiscard]] const Dialog& Dialogem() const { return *dialog_; }

@@ -169,7 +169,7 @@ TEST_F(Nastroje, ChybyVetZnamekATabulek) {
         "Errors.txt:37: číslo: krok 4 žádná úloha nezná\n"
         "Errors.txt:38: číslo: je „x“, má být 1 až 999\n"
         "Errors.txt:39: věta: chybí\n"
-        "Errors.txt:39: číslo: krok 9 už je na řádku 6; body by se strhly dvakrát\n"
+        "Errors.txt:39: číslo: krok 9 už je na řádku 5; body by se strhly dvakrát\n"
         "Errors.txt: chybí věta ke kroku 1\n");
 
     const std::string dobre = "90|100|1\n75|90|2\n50|75|3\n25|50|4\n0|25|5\n";

@@ -34,9 +34,9 @@ TEST(Ini, Hodnota) {
 }
 
 /// A whole data root with nothing in its files, and a configuration to write.
-class Start : public ::testing::Test {
+class Konfigurace : public ::testing::Test {
 protected:
-    Start() {
+    Konfigurace() {
         VychoziRelace();
         std::filesystem::create_directory(slozka / "data");
         for (int i = 1; i <= 20; ++i) {
@@ -71,7 +71,7 @@ const HeadlessHost::Zprava CHYBI_DATA{
     Odpoved::Ok};
 using Zpravy = std::vector<HeadlessHost::Zprava>;
 
-TEST_F(Start, Cesty) {
+TEST_F(Konfigurace, Cesty) {
     const std::string koren = Koren();
     struct Pripad {
         std::string cd, hd, cestaCD, cestaHD;
@@ -99,7 +99,7 @@ TEST_F(Start, Cesty) {
     EXPECT_EQ(ZnamkyTab[1], (RadekZnamek{90, 100, 1}));
 }
 
-TEST_F(Start, ChybiKlic) {
+TEST_F(Konfigurace, ChybiKlic) {
     const std::pair<std::string, std::string> inie[]{
         {"CD=assets", ""}, {"", "HD=data"}, {"CD=Chyba", "HD=data"}, {"CD=assets", "HD=Chyba\\"}};
     for (const auto& [cd, hd] : inie) {
@@ -115,7 +115,7 @@ TEST_F(Start, ChybiKlic) {
     EXPECT_TRUE(host.Rezimy.empty());
 }
 
-TEST_F(Start, ChybiKterykoliSoubor) {
+TEST_F(Konfigurace, ChybiKterykoliSoubor) {
     std::vector<std::string> soubory{"Vysledky.dat", "Znamky.dat", "Errors.dat"};
     for (int i = 1; i <= 20; ++i) {
         soubory.push_back(DveCislice(i) + ".dat");
@@ -133,7 +133,7 @@ TEST_F(Start, ChybiKterykoliSoubor) {
     EXPECT_TRUE(NactiKonfiguraci());
 }
 
-TEST_F(Start, GeneratorSejeStroj) {
+TEST_F(Konfigurace, GeneratorSejeStroj) {
     host.SeminkoHry = 77;
     ASSERT_TRUE(NactiKonfiguraci());
     Nahoda stejny;
@@ -141,7 +141,7 @@ TEST_F(Start, GeneratorSejeStroj) {
     for (int i = 0; i < 5; ++i) EXPECT_EQ(Generator.Rnd(), stejny.Rnd());
 }
 
-TEST_F(Start, Obrazovka) {
+TEST_F(Konfigurace, Obrazovka) {
     host.Rezim = {1600, 1200, 32};
     PrepniObrazovku();
     EXPECT_EQ(host.Rezimy, (std::vector<RezimObrazovky>{{640, 480, 16}}));
@@ -169,7 +169,7 @@ TEST_F(Start, Obrazovka) {
     host.Okna().UnloadVse();
 }
 
-TEST_F(Start, CekaniPoustiUdalosti) {
+TEST_F(Konfigurace, CekaniPoustiUdalosti) {
     host.Spi(std::numeric_limits<std::uint32_t>::max() - 50);  // the tick count wraps meanwhile
     int udalosti = 0;
     for (const std::uint32_t za : {10U, 60U, 99U}) host.NaplanujZa(za, [&] { ++udalosti; });

@@ -1,7 +1,10 @@
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <iostream>
 #include <random>
+#include <unistd.h>
 
 #include "base/Cisla.h"
 #include "platform/headless/HeadlessHost.h"
@@ -98,6 +101,47 @@ TEST(Vysledky, VlozeniDoDlouheTabulkyNetrva) {
     // The plain sort would take minutes.
     EXPECT_LT(std::chrono::steady_clock::now() - zacatek, std::chrono::seconds(2));
     EXPECT_EQ(zaznamy[50400].Jmeno, "nový");
+}
+
+/// The rest of the process runs as somebody whom the permissions of files bind.
+void BezPrav() {
+    if (geteuid() == 0 && setuid(65534) != 0) std::abort();
+}
+
+TEST(VysledkyDeathTest, DataJenKeCteni) {
+    namespace fs = std::filesystem;
+    const Slozka slozka;
+    CestaHD = (slozka / "").string();
+    PocetPrikladuSerie = 1;
+    const std::string tabulka = slozka.Pis("01.res", "Eva|10|0|1\r\n").string();
+    slozka.Pis("Vysledky.dat", "co tu bylo");
+    const auto nastav = [&](fs::perms soubory) {
+        for (const char* soubor : {"01.res", "Vysledky.dat"}) {
+            fs::permissions(slozka / soubor, soubory);
+        }
+        fs::permissions(slozka / "", fs::perms(0555));
+    };
+    const auto hraj = [&] {
+        HeadlessHost host;
+        const HostNaDobu naDobu(host);
+        BezPrav();
+        std::cerr << Hlaska([&] {
+            PisTabulku(tabulka, {{"Jan", "9", "1", "1"}});
+        }) << Hlaska([] { ZapisVysledek("Jan", "h", "t", "9", "1", "1"); });
+        std::exit(0);
+    };
+    nastav(fs::perms(0444));
+    EXPECT_EXIT(hraj(), ::testing::ExitedWithCode(0),
+                "Do souboru nelze zapsat .*01.res.Do souboru nelze zapsat .*Vysledky.dat");
+    EXPECT_EQ(slozka.Cti("01.res"), "Eva|10|0|1\r\n");
+    EXPECT_EQ(slozka.Cti("Vysledky.dat"), "co tu bylo");
+
+    // The folder alone is closed: nothing can be made beside, the files themselves can be written.
+    nastav(fs::perms(0666));
+    EXPECT_EXIT(hraj(), ::testing::ExitedWithCode(0), "^$");
+    EXPECT_EQ(slozka.Cti("01.res"), "Jan|9|1|1\r\n");
+    EXPECT_GT(slozka.Cti("Vysledky.dat").size(), 100U);
+    fs::permissions(slozka / "", fs::perms(0755));
 }
 
 class Denik : public ::testing::Test {

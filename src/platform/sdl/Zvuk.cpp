@@ -1,7 +1,6 @@
 #include "platform/sdl/Zvuk.h"
 
 #include <SDL.h>
-
 #include <algorithm>
 
 namespace rysovna {

@@ -1,0 +1,127 @@
+#!/bin/bash
+# Drives the real window from outside, as a person would: from the title to the score table, with a
+# name in Czech letters and one triangle drawn by mouse. Then looks into the log and the table.
+#   okno.sh STAGING [WIDTH HEIGHT [PICTURES]]
+# The values of the example are not known here: the pupil types and draws 15 everywhere, which
+# always closes the triangle and costs at most six points.
+set -eu
+
+staging="$1"
+sirka="${2:-1920}"
+vyska="${3:-1080}"
+obrazky="${4:-}"
+jmeno="Žofie Řeřichová"
+
+prace="$(mktemp -d)"
+pid_hra=""
+pid_x=""
+uklid() {
+    [ -n "$pid_hra" ] && kill "$pid_hra" 2>/dev/null || true
+    [ -n "$pid_x" ] && kill "$pid_x" 2>/dev/null || true
+    rm -rf "$prace"
+}
+trap uklid EXIT
+selhani() { echo "SELHALO: $*" >&2; exit 1; }
+
+# A display of our own, with a number that nobody has.
+exec 3<>"$prace/cislo"
+Xvfb -displayfd 3 -screen 0 "${sirka}x${vyska}x24" -nolisten tcp >/dev/null 2>&1 &
+pid_x=$!
+for _ in $(seq 100); do [ -s "$prace/cislo" ] && break; sleep 0.1; done
+DISPLAY=":$(cat "$prace/cislo")"
+export DISPLAY
+[ "$DISPLAY" != ":" ] || selhani "Xvfb se nespustil"
+
+cp -r "$staging" "$prace/hra"
+for i in $(seq -w 20); do : >"$prace/hra/data/$i.res"; done
+: >"$prace/hra/data/Vysledky.dat"
+"$prace/hra/rysovna" 2>"$prace/chyby" &
+pid_hra=$!
+
+# Design pixels to pixels of the screen: the picture is as large as fits, letterboxed.
+na_obrazovku() {
+    awk -v x="$1" -v y="$2" -v w="$sirka" -v h="$vyska" 'BEGIN {
+        s = w / 640 < h / 480 ? w / 640 : h / 480
+        printf "%d %d", (w - 640 * s) / 2 + (x + 0.5) * s, (h - 480 * s) / 2 + (y + 0.5) * s }'
+}
+# shellcheck disable=SC2046
+mys() { xdotool mousemove $(na_obrazovku "$1" "$2"); sleep 0.05; }
+klik() { mys "$1" "$2"; xdotool click 1; sleep "${3:-0.2}"; }
+tah() {
+    mys "$1" "$2"
+    xdotool mousedown 1
+    mys $((($1 + $3) / 2)) $((($2 + $4) / 2))
+    mys "$3" "$4"
+    sleep 0.1
+    xdotool mouseup 1
+    sleep 0.4
+}
+fotka() { [ -z "$obrazky" ] || { mkdir -p "$obrazky"; import -window root "$obrazky/${sirka}_$1.png"; }; }
+
+# The window is there, over the whole screen.
+for _ in $(seq 100); do
+    xdotool search --name 'Rysovna 1' >/dev/null 2>&1 && break
+    kill -0 "$pid_hra" 2>/dev/null || selhani "hra skončila: $(cat "$prace/chyby")"
+    sleep 0.1
+done
+okno="$(xdotool search --name 'Rysovna 1' | tail -n 1)" || selhani "okno se neotevřelo"
+eval "$(xdotool getwindowgeometry --shell "$okno")"
+[ "$WIDTH" = "$sirka" ] && [ "$HEIGHT" = "$vyska" ] || selhani "okno má $WIDTH x $HEIGHT"
+
+sleep 0.5
+fotka titul
+klik 320 240 1.6
+fotka nabidka
+klik 150 166 0.4
+klik 480 190 0.8
+xdotool type "$jmeno"
+klik 145 267 1
+fotka nastaveni
+klik 570 468 1
+fotka deska
+
+# All three sides marked on the sketch, the panel pushed away.
+klik $((325 + 21 + 150)) $((164 + 24 + 140))
+klik $((325 + 21 + 205)) $((164 + 24 + 85))
+klik $((325 + 21 + 95)) $((164 + 24 + 85))
+fotka znacky
+klik 332 266 2
+
+# The side AB, then circles about both ends. The list opens under the pointer.
+klik 60 296; fotka seznam; klik 72 310 0.4
+xdotool type 15; sleep 0.2; tah 346 358 466 358
+fotka strana
+klik 150 328; klik 162 342 0.4
+xdotool type 15; sleep 0.2; tah 346 358 466 358
+klik 150 328; klik 162 362 0.4
+xdotool type 15; sleep 0.2
+mys 466 358; xdotool mousedown 1; mys 400 358; fotka tah; mys 346 358; sleep 0.1
+xdotool mouseup 1; sleep 0.6
+fotka trojuhelnik
+
+klik 318 45 1
+fotka verdikt
+klik 570 468 1
+fotka tabulka
+
+log="$(iconv -f WINDOWS-1250 -t UTF-8 "$prace/hra/data/Vysledky.dat")"
+echo "$log"
+[ "$(wc -l <"$prace/hra/data/Vysledky.dat")" = 4 ] || selhani "v logu nejsou čtyři řádky"
+grep -q "^Jméno: $jmeno  *Datum: " <<<"$log" || selhani "v logu není jméno"
+grep -q "^Hra: Trojúhelník 1  *Typ úlohy: podle věty SSS" <<<"$log" || selhani "v logu není úloha"
+iconv -f WINDOWS-1250 -t UTF-8 "$prace/hra/data/01.res" | grep -qE "^$jmeno\|(10|[4-9])\|[0-6]\|[1-5]" ||
+    selhani "v tabulce není čekaný záznam: $(cat "$prace/hra/data/01.res")"
+
+# Back to the menu and out by its exit button.
+klik 591 42 0.5
+klik 591 42 0.5
+klik 591 42 0.5
+fotka otazka
+xdotool key Return
+for _ in $(seq 50); do kill -0 "$pid_hra" 2>/dev/null || break; sleep 0.1; done
+if kill -0 "$pid_hra" 2>/dev/null; then selhani "hra po otázce neskončila"; fi
+stav=0
+wait "$pid_hra" || stav=$?
+pid_hra=""
+[ "$stav" = 0 ] || selhani "hra skončila se stavem $stav"
+echo "V pořádku."

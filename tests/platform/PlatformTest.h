@@ -1,0 +1,140 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+#include "platform/Form.h"
+#include "platform/Obrazovky.h"
+#include "platform/Surface.h"
+#include "platform/headless/HeadlessHost.h"
+
+namespace rysovna::testy {
+
+/// The staged copy: told by the build or the environment, else looked for above the folder that
+/// the test runs in.
+inline std::filesystem::path Staging() {
+    namespace fs = std::filesystem;
+    if (const char* cesta = std::getenv("RYSOVNA_STAGING")) return cesta;
+#ifdef RYSOVNA_STAGING
+    return RYSOVNA_STAGING;
+#else
+    for (fs::path p = fs::current_path(); p != p.root_path(); p = p.parent_path()) {
+        if (fs::exists(p / "staging" / "assets" / "Fonts")) return p / "staging";
+    }
+    return "staging";
+#endif
+}
+
+inline std::string SlozkaPisem() {
+    return (Staging() / "assets" / "Fonts").string();
+}
+
+/// A host and the fonts, new for each case.
+class NaStroji : public testing::Test {
+protected:
+    NaStroji() { NastavSlozkuPisem(SlozkaPisem()); }
+    ~NaStroji() override { Host_.Okna().UnloadVse(); }
+
+    Obrazovky& Okna() { return Host_.Okna(); }
+
+    HeadlessHost Host_;
+    HostNaDobu NaDobu_{Host_};
+};
+
+/// A file below the system's folder for such things that goes with the test.
+class DocasnySoubor {
+public:
+    explicit DocasnySoubor(const std::string& jmeno, const std::string& obsah = "")
+        : cesta_(std::filesystem::temp_directory_path() /
+                 ("rysovna_" + std::to_string(::getpid()) + "_" + jmeno)) {
+        std::ofstream(cesta_, std::ios::binary) << obsah;
+    }
+    ~DocasnySoubor() {
+        std::error_code chyba;
+        std::filesystem::remove(cesta_, chyba);
+    }
+    DocasnySoubor(const DocasnySoubor&) = delete;
+    DocasnySoubor& operator=(const DocasnySoubor&) = delete;
+    [[nodiscard]] const std::filesystem::path& Cesta() const { return cesta_; }
+
+private:
+    std::filesystem::path cesta_;
+};
+
+/// A form of a few objects that writes down what reaches it: "Down Pic 5,6".
+class ZapisForm : public Form {
+public:
+    std::string_view Jmeno() const override { return JmenoFormu; }
+    void Load() override {
+        Pridej(Pic, "Pic", {100, 50, 200, 150});
+        Pridej(Uvnitr, "Uvnitr", {20, 30, 40, 40}, &Pic);
+        Pridej(Guma, "Guma", {0, 0, 200, 150}, &Pic);
+        Guma.Visible = true;
+        Pridej(Pole, "Pole", {100, 300, 150, 20});
+        Pridej(Hodiny, "Hodiny", {});
+        PridejPole(cmd, "cmd", {400, 100, 50, 20});
+        cmd[1].Top = 140;
+    }
+    void MouseDown(Ovladac* o, const Mys& m) override {
+        Zapis("Down", o, &m);
+        Zavolej(PriStisku);
+    }
+    void MouseMove(Ovladac* o, const Mys& m) override { Zapis("Move", o, &m); }
+    void MouseUp(Ovladac* o, const Mys& m) override {
+        Zapis("Up", o, &m);
+        Zavolej(PriPusteni);
+    }
+    void Click(Ovladac* o) override { Zapis("Click", o); }
+    void DblClick(Ovladac* o) override { Zapis("DblClick", o); }
+    void Change(TextBox& t) override { Udalosti.push_back("Change " + t.Text); }
+    void Activate() override {
+        Udalosti.push_back("Activate");
+        Zavolej(PriAktivaci);
+    }
+    void Unload() override { Udalosti.push_back("Unload"); }
+    void QueryUnload() override { Udalosti.push_back("QueryUnload"); }
+    void TimerTick(Timer& /*t*/) override {
+        Udalosti.push_back("Tick " + std::to_string(Stroj().TickCount()));
+        Zavolej(PriTiku);
+    }
+    bool Klavesa(std::string_view k) override {
+        Udalosti.push_back("Klavesa " + std::string(k));
+        return true;
+    }
+
+    /// What was written down since the last call.
+    std::vector<std::string> Vezmi() { return std::exchange(Udalosti, {}); }
+
+    std::string JmenoFormu = "ZapisForm";
+    PictureBox Pic;
+    Label Uvnitr;
+    CircleShape Guma;
+    TextBox Pole;
+    Timer Hodiny;
+    std::array<PictureBox, 2> cmd;
+    std::vector<std::string> Udalosti;
+    std::function<void()> PriStisku, PriPusteni, PriAktivaci, PriTiku;
+
+private:
+    /// A copy is run: what it does may put another one in its place.
+    static void Zavolej(std::function<void()> co) {
+        if (co) co();
+    }
+    void Zapis(const char* co, const Ovladac* o, const Mys* m = nullptr) {
+        std::string radek = std::string(co) + " " + (o == nullptr ? "form" : o->Name);
+        if (o != nullptr && o->Index != 0) radek += "(" + std::to_string(o->Index) + ")";
+        if (m != nullptr)
+            radek += " " + std::to_string(static_cast<int>(m->X)) + "," +
+                     std::to_string(static_cast<int>(m->Y));
+        Udalosti.push_back(radek);
+    }
+};
+
+using Seznam_t = std::vector<std::string>;
+
+}  // namespace rysovna::testy
