@@ -40,6 +40,4 @@ void ChybovyForm::Load() {
     Text1.Text = TextChybnychKroku();
 }
 
-}
-
 }  // namespace rysovna

@@ -162,6 +162,4 @@ void DeskaForm::Activate() {
     if (Image1.Tag == "1") PolozPanel(0);
 }
 
-}
-
 }  // namespace rysovna
