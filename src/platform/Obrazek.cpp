@@ -35,6 +35,10 @@ std::map<std::filesystem::path, std::weak_ptr<DataObrazku>>& Nactene() {
     return nactene;
 }
 
+double g_ocekavaneMeritko = 1;
+/// Holds the picture that was asked for ahead until somebody takes it.
+Obrazek g_prednacteny;
+
 }  // namespace
 
 const Bitmapa& DataObrazku::VeVelikosti(double s) {
@@ -44,11 +48,26 @@ const Bitmapa& DataObrazku::VeVelikosti(double s) {
         const int vyska = Zvetsi(Logicka.Vyska, s);
         // Let go first: both sizes at once would only cost memory.
         zvetsena_ = {};
-        if (!Cesta.empty()) zvetsena_ = ZDvojcete(Cesta, sirka, vyska, MaKlic);
+        if (budouci_.valid() && budouciMeritko_ == s) {
+            zvetsena_ = budouci_.get();
+        } else if (!Cesta.empty()) {
+            zvetsena_ = ZDvojcete(Cesta, sirka, vyska, MaKlic);
+        }
         if (zvetsena_.Prazdna()) zvetsena_ = Preskaluj(Logicka.KeCteni(), sirka, vyska, MaKlic);
         meritko_ = s;
     }
     return zvetsena_;
+}
+
+void DataObrazku::PripravVelikost(double s) {
+    if (s == 1 || meritko_ == s || budouci_.valid() || Cesta.empty()) return;
+    budouciMeritko_ = s;
+    budouci_ = std::async(std::launch::async, ZDvojcete, Cesta, Zvetsi(Logicka.Sirka, s),
+                          Zvetsi(Logicka.Vyska, s), MaKlic);
+}
+
+void NastavOcekavaneMeritko(double s) {
+    g_ocekavaneMeritko = s;
 }
 
 Obrazek::Obrazek(std::shared_ptr<DataObrazku> data) : data_(std::move(data)) {
@@ -68,7 +87,10 @@ Obrazek Obrazek::Bunka(int i, int pocet) const {
 Obrazek LoadPicture(std::string_view cesta) {
     const std::filesystem::path soubor = NativniCesta(cesta);
     std::weak_ptr<DataObrazku>& nacteny = Nactene()[soubor];
-    if (auto data = nacteny.lock()) return Obrazek(data);
+    if (auto data = nacteny.lock()) {
+        if (g_prednacteny.Data() == data) g_prednacteny = Obrazek();
+        return Obrazek(data);
+    }
     auto data = std::make_shared<DataObrazku>();
     data->Cesta = soubor;
     data->Logicka = NactiBmp(soubor);
@@ -76,6 +98,14 @@ Obrazek LoadPicture(std::string_view cesta) {
                    data->Logicka.Body.end();
     nacteny = data;
     return Obrazek(data);
+}
+
+void PrednactiObrazek(std::string_view cesta) {
+    std::error_code chyba;
+    if (!std::filesystem::is_regular_file(NativniCesta(cesta), chyba)) return;
+    const Obrazek obrazek = LoadPicture(cesta);
+    obrazek.Data()->PripravVelikost(g_ocekavaneMeritko);
+    g_prednacteny = obrazek;
 }
 
 }  // namespace rysovna

@@ -38,4 +38,9 @@ private:
 /// fault that names it.
 [[nodiscard]] Obrazek LoadPicture(std::string_view cesta);
 
+/// Begins to read a picture that LoadPicture will soon be asked for, in the size that the display
+/// is going to need, and returns at once: what a wait leaves idle is used. One picture at a time; a
+/// file that is not there is left for LoadPicture to find fault with.
+void PrednactiObrazek(std::string_view cesta);
+
 }  // namespace rysovna

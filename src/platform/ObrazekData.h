@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <future>
 
 #include "platform/Bitmapa.h"
 #include "platform/Obrazek.h"
@@ -17,11 +18,18 @@ struct DataObrazku {
     /// The picture enlarged S times. At S = 1 the logical bitmap. Read from the large twin where
     /// there is one; the size last asked for is kept, the twin is not.
     [[nodiscard]] const Bitmapa& VeVelikosti(double s);
+    /// Begins to make that size on another thread.
+    void PripravVelikost(double s);
 
 private:
     Bitmapa zvetsena_;
     double meritko_ = 0;
+    std::future<Bitmapa> budouci_;
+    double budouciMeritko_ = 0;
 };
+
+/// The scale at which the host is going to show pictures; 1 until it says so.
+void NastavOcekavaneMeritko(double s);
 
 /// Reads a bitmap file of 24 bits a pixel. Anything else is a run-time fault that names the file.
 [[nodiscard]] Bitmapa NactiBmp(const std::filesystem::path& soubor);

@@ -51,15 +51,19 @@ struct PictureBox : Ovladac {
     PictureBox() : Ovladac(Typ::PictureBox) {}
     Obrazek Picture;
     Barva BackColor = BILA;
-    bool Pruhledny =
-        false;             ///< paints no ground of its own where it has neither surface nor picture
+    /// Paints no ground of its own where it has neither surface nor picture.
+    bool Pruhledny = false;
     bool Ramecek = false;  ///< a thin frame, as lists and panels have
 
     /// The surface, made at the first call with the box's size (made anew when the size changed)
     /// over the picture as its ground. A box that never draws has none.
     Surface& Plocha();
-    [[nodiscard]] bool MaPlochu() const { return plocha_ != nullptr; }
-    [[nodiscard]] const Surface* PlochaNeboNic() const { return plocha_.get(); }
+    /// The surface as it is shown: none before the first drawing, and none after Picture was
+    /// changed until something is drawn again (the new picture is shown then).
+    [[nodiscard]] const Surface* PlochaNeboNic() const {
+        return podklad_ == Picture ? plocha_.get() : nullptr;
+    }
+    [[nodiscard]] bool MaPlochu() const { return PlochaNeboNic() != nullptr; }
 
 private:
     std::unique_ptr<Surface> plocha_;

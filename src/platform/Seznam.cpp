@@ -85,9 +85,11 @@ void Surface::Vnitrek::Vyprazdni(Pixel pozadi) {
 void Surface::Vnitrek::Pridej(Polozka p) {
     const int hloubka = HloubkaPolozky(p);
     const bool sam = Obsah.Kde.use_count() == 1;
-    // A list that others hold may only grow, at its end. It may not take a copy in that holds
-    // copies itself: they could lead back here.
-    const bool pripsat = sam || (Obsah.Kde->Polozky.size() == Obsah.Pocet && hloubka < 2);
+    // A list that others hold may only grow, at its end. Nor may it take in a copy that could lead
+    // back here: of itself (two surfaces may share it), or of a list that holds copies.
+    const auto* kopie = std::get_if<PolozkaKopie>(&p);
+    const bool pripsat = sam || (Obsah.Kde->Polozky.size() == Obsah.Pocet && hloubka < 2 &&
+                                 (kopie == nullptr || kopie->Zdroj.Kde != Obsah.Kde));
     if (!pripsat) {
         const Seznam& stary = *Obsah.Kde;
         const bool platne = stary.Vykresleno <= Obsah.Pocet;

@@ -11,6 +11,7 @@ namespace rysovna {
 namespace {
 
 constexpr std::uint32_t DOBA_TITULU = 10000;  // ms
+constexpr const char* TITUL = "Bitmap\\Intro\\title.bmp";
 
 }  // namespace
 
@@ -20,10 +21,14 @@ IntroForm::IntroForm() {
     Timer1.Enabled = false;
 }
 
+void IntroForm::Prednacti() {
+    PrednactiObrazek(CestaCD + TITUL);
+}
+
 void IntroForm::Load() {
     Maximised = true;
     Caption = "Rysovna 1";
-    Picture = NactiObrazek("Bitmap\\Intro\\title.bmp");
+    Picture = NactiObrazek(TITUL);
     preskoceno_ = false;
     termin_ = Stroj().TickCount() + DOBA_TITULU;
     AktivniForm = weak_from_this();

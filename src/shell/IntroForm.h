@@ -17,6 +17,9 @@ public:
     /// wait.
     Timer Timer1;
 
+    /// Begins to read the title's picture, so that a wait before the load is not idle.
+    static void Prednacti();
+
     void Load() override;
     void MouseDown(Ovladac* o, const Mys& m) override;
     bool Klavesa(std::string_view klavesa) override;

@@ -41,6 +41,7 @@ void SelectForm::Load() {
         Stroj().Okna().Konec();
         return;
     }
+    IntroForm::Prednacti();
     Cekej(100);
     PrepniObrazovku();
     const auto titul = Stroj().Okna().Nacti<IntroForm>();

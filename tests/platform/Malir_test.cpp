@@ -116,7 +116,7 @@ TEST_F(MalirTest, PoKouscichJeTotezCoNaraz) {
         Bitmapa b(w, h, 0);
         Malir_.Znovu();
         ZapisForm& f = *Form_;
-        for (int krok = 0; krok < 150; ++krok) {
+        for (int krok = 0; krok < 60; ++krok) {
             switch (d(12)) {
                 case 0:
                     f.Uvnitr.Caption = std::string(static_cast<std::size_t>(d(9)), 'm');
@@ -183,6 +183,17 @@ TEST_F(MalirTest, KlicovaBarvaJePruhledna) {
         EXPECT_EQ(Bod(b, 410 * s, 115 * s), DoPixelu(Rgb(9, 9, 9)));
         EXPECT_EQ(Bod(b, 410 * s, 145 * s), DoPixelu(Rgb(200, 220, 240)));
     }
+}
+
+TEST_F(MalirTest, NovyObrazekPrekryjeCoBoxKreslil) {
+    auto data = std::make_shared<DataObrazku>();
+    data->Logicka = Bitmapa(200, 150, DoPixelu(CERVENA));
+    Form_->Pic.Picture = Obrazek(data);
+    EXPECT_EQ(Bod(Znovu(640, 480), 250, 60), DoPixelu(CERVENA));
+    Form_->Pic.Plocha().Vypln(0, 0, 10, 10, CERNA);
+    const Bitmapa b = Znovu(640, 480);
+    EXPECT_EQ(Bod(b, 250, 60), DoPixelu(CERVENA)) << "the ground of the new drawing";
+    EXPECT_EQ(Bod(b, 105, 55), DoPixelu(CERNA));
 }
 
 TEST_F(MalirTest, KurzorBlikaAPriPsaniSviti) {

@@ -91,6 +91,27 @@ TEST_F(NaStroji, BunkaPasu) {
     EXPECT_TRUE(Obrazek().Bunka(5, 3).Prazdny());
 }
 
+TEST_F(NaStroji, PrednactenyObrazekJeTyz) {
+    const std::string soubor = (Staging() / "assets" / "Bitmap" / "Intro" / "title.bmp").string();
+    std::vector<Pixel> ceka;
+    {
+        const Obrazek obrazek = LoadPicture(soubor);
+        ceka = obrazek.Data()->VeVelikosti(1.5).Body;
+        ASSERT_EQ(ceka.size(), std::size_t{960} * 720);
+        EXPECT_NE(ceka, Preskaluj(obrazek.Data()->Logicka.KeCteni(), 960, 720, false).Body)
+            << "made of the large twin";
+    }
+    NastavOcekavaneMeritko(1.5);
+    PrednactiObrazek("/neni/tady.bmp");
+    PrednactiObrazek(soubor);
+    NastavOcekavaneMeritko(1);
+    Obrazek obrazek = LoadPicture(soubor);
+    EXPECT_EQ(obrazek.Data()->VeVelikosti(1.5).Body, ceka);
+    const std::weak_ptr<DataObrazku> drzi = obrazek.Data();
+    obrazek = Obrazek();
+    EXPECT_TRUE(drzi.expired()) << "nobody holds it any longer";
+}
+
 TEST_F(NaStroji, PreskalovaniDrziBarvyAKlic) {
     Bitmapa plna(30, 20, DoPixelu(Rgb(12, 200, 77)));
     for (const auto& [w, h] : {std::pair{10, 7}, {23, 15}, {30, 20}, {71, 45}}) {

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "base/Chyba.h"
+#include "platform/ObrazekData.h"
 #include "platform/Obrazovky.h"
 #include "platform/Surface.h"
 #include "platform/ZpravaForm.h"
@@ -142,6 +143,8 @@ struct SdlHost::Vnitrek {
 SdlHost::SdlHost() {
     if (!MaDisplej()) Selhani("Není k dispozici obrazovka");
     vnitrek_.reset(new Vnitrek{*this, {}, {}, {}, false});
+    const RezimObrazovky rezim = GetDeviceCaps();
+    NastavOcekavaneMeritko(Umisteni::Vejdi(rezim.Sirka, rezim.Vyska).S);
 }
 
 SdlHost::~SdlHost() {
