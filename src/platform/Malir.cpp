@@ -41,6 +41,7 @@ public:
             if (Pokryva(Misto(*formy[prvni]), NAVRH)) break;
         }
         for (std::size_t i = prvni; i < formy.size(); ++i) {
+            formy[i]->Paint();
             const Form& f = *formy[i];
             const Obdelnik misto = Misto(f);
             Zaznam z;

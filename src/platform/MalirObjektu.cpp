@@ -14,6 +14,7 @@ namespace {
 
 constexpr Pixel VYBER = DoPixelu(Rgb(36, 60, 120));
 constexpr Pixel OBRYS = DoPixelu(Rgb(120, 128, 148));
+constexpr Barva ZASEDLY = Rgb(158, 160, 168);  ///< text of what cannot be pressed
 constexpr Pixel OBRYS_ZAMERENY = DoPixelu(Rgb(36, 60, 120));
 
 /// FNV-1a over whatever makes a look.
@@ -96,7 +97,7 @@ void Namaluj(const Kresba& k, const Obdelnik& kde, const Label& l) {
          RozdelNaRadky(l.Font, l.Caption, l.WordWrap ? std::max(l.Width, 1) : 0)) {
         const double volno = l.Alignment == 0 ? 0 : kde.Width - PresnaSirka(l.Font, radek);
         Radek(k, kde.Left + (l.Alignment == 2 ? volno / 2 : volno), y, l.Font, radek,
-              DoPixelu(l.ForeColor), misto);
+              DoPixelu(l.Enabled ? l.ForeColor : ZASEDLY), misto);
         y += VyskaRadku(l.Font);
     }
 }
@@ -285,6 +286,7 @@ std::uint64_t OtiskObjektu(const Umisteny& u, bool kurzor) {
             const auto& l = static_cast<const Label&>(*u.Co);
             o.Pridej(l.Caption);
             o.Pridej(l.Font);
+            o.Pridej(l.Enabled);
             o.Pridej(l.ForeColor);
             o.Pridej(l.BackColor);
             o.Pridej(l.WordWrap);

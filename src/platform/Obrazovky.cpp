@@ -90,10 +90,13 @@ struct Obrazovky::Vnitrek {
         return std::any_of(Modalni.begin(), Modalni.end(),
                            [&](const Formular& m) { return m.get() == &f; });
     }
-    /// The form of the press, if it still gets events.
+    /// The form of the press, if it still gets events: it stays visible, and no modal form has come
+    /// up over it. A small form that its press brought up takes nothing from it.
     [[nodiscard]] Formular Drzici() const {
         Formular f = DrziForm.lock();
-        return f != nullptr && f == Cilovy() ? f : nullptr;
+        const bool dostava =
+            f != nullptr && f->Viditelny() && (Modalni.empty() || f == Modalni.back());
+        return dostava ? f : nullptr;
     }
     static bool Vyrad(std::vector<Formular>& odkud, const Form& f) {
         return std::erase_if(odkud, [&](const Formular& x) { return x.get() == &f; }) > 0;
