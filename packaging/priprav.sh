@@ -4,8 +4,11 @@
 
 BALICKY_HRA="g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libfreetype-dev
     librsvg2-dev fonts-liberation fonts-dejavu-core"
-BALICKY_TESTY="libgtest-dev xvfb xdotool x11-utils imagemagick clang-format clang-tidy"
+BALICKY_TESTY="libgtest-dev xvfb xdotool x11-utils imagemagick clang-format clang-tidy-16"
 BALICKY_BENCH="libbenchmark-dev xvfb xdotool x11-utils"
+
+# Czech letters are typed, printed and compared in UTF-8, whatever the machine is set to.
+export LC_ALL=C.UTF-8
 
 # priprav PACKAGE...: installs those that are missing.
 priprav() {
@@ -29,6 +32,13 @@ priprav() {
     $prava apt-get install -y --no-install-recommends $chybi >/dev/null 2>&1 ||
         { $prava apt-get update -qq &&
           $prava apt-get install -y --no-install-recommends $chybi >/dev/null; }
+}
+
+# zdroje PATTERN [PATTERN]: the project's own sources, one a line; none is an error.
+zdroje() {
+    seznam="$(find src tools tests bench -type f \( -name "$1" -o -name "${2:-$1}" \) | sort)"
+    [ -n "$seznam" ] || { echo "Nenašly se žádné zdroje: $*" >&2; return 1; }
+    echo "$seznam"
 }
 
 # sestav FOLDER [cmake options...]: configures and builds everything there.

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "base/Cisla.h"
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
 #include "shell/Hover.h"
 #include "shell/Misc.h"
 #include "shell/Zaznamy.h"
@@ -38,6 +40,10 @@ void ChybovyForm::Load() {
     PrizpusobForm(*this);
     Picture = NactiObrazek("Bitmap\\Games\\new_Hint.bmp");
     Text1.Text = TextChybnychKroku();
+}
+
+void ChybovyForm::MouseDown(Ovladac*, const Mys&) {
+    Stroj().Okna().Unload(*this);
 }
 
 }  // namespace rysovna

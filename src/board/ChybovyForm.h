@@ -16,9 +16,11 @@ public:
     ChybovyForm();
     [[nodiscard]] std::string_view Jmeno() const override { return "ChybovyForm"; }
 
-    TextBox Text1;  ///< fills the client area
+    TextBox Text1;  ///< fills the client area but for a margin
 
     void Load() override;
+    /// A press on the list closes it: only a release that got lost leaves it standing so long.
+    void MouseDown(Ovladac* o, const Mys& m) override;
 };
 
 /// The text of the list: the lead-in, then a row for each of the first ten wrong steps.

@@ -112,6 +112,8 @@ void DeskaForm::NactiObrazky() {
     IHintS.Visible = false;
     MalaSipka.Picture = NactiObrazek(hry + "board1_s.bmp");
     panel_ = NactiObrazek(hry + "board1.bmp");
+    // The blank panel belongs to the set and is read with it; no state of a board shows it.
+    static_cast<void>(NactiObrazek(hry + "board0.bmp"));
     for (std::size_t i = 0; i < PicTop.size(); ++i) {
         horni_[i] = NactiDvojici(hry + std::string(HORNI[i]));
         PicTop[i].Picture = horni_[i].Normalni;
@@ -156,7 +158,13 @@ void DeskaForm::Load() {
     PolozPanel(0);
 }
 
+void DeskaForm::Unload() {
+    SkryjChyby();
+}
+
+/// The list of wrong steps goes even if the release that should hide it got lost.
 void DeskaForm::Activate() {
+    SkryjChyby();
     ZhasniSipky();
     SlozPanel();
     if (Image1.Tag == "1") PolozPanel(0);

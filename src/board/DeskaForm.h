@@ -33,7 +33,7 @@ public:
     PictureBox MalaSipka;  ///< stands in for the panel when it is shut
 
     std::array<PictureBox, 4> PicTop;    ///< check, new example, score table, back
-    std::array<PictureBox, 4> picSipka;  ///< left, right, up, down... of the plane
+    std::array<PictureBox, 4> picSipka;  ///< left, right, up, down
     PictureBox picPokracuj;
     Image INadpis, IHintS, ImgHodnoceni;
 
@@ -46,6 +46,7 @@ public:
     Label Label1;
 
     void Load() override;
+    void Unload() override;
     void Activate() override;
     void Paint() override;
     void MouseDown(Ovladac* o, const Mys& m) override;
@@ -82,6 +83,7 @@ private:
     void SkryjTah();
     void PustPlochu(const Mys& m);
     void StiskSipky(int i);
+    void StiskMaleSipky();
     void ZhasniHorni();
     void ZhasniSipky();
     // DeskaPanel.cpp: the panel as it is shown, and its slide
@@ -110,6 +112,8 @@ private:
     Obrazek panel_, hodnoceniDobre_, hodnoceniSpatne_, kontrolovano_;
     int zbyvaPrikladu_ = 0;
     bool zaneprazdnen_ = false;  ///< a new example is being set up
+    bool cekaNaZadani_ = false;  ///< the plane is empty, the new example not chosen yet
+    bool vybiraSe_ = false;      ///< a line was picked and its wait runs
     bool posouvaSe_ = false;     ///< the panel is sliding
     bool poustiSe_ = false;      ///< a release on the plane is being handled
     std::uint64_t podklad_ = 0;  ///< version of the plane that the resting panel lies on

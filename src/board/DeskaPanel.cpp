@@ -10,8 +10,8 @@ namespace rysovna {
 
 namespace {
 
-constexpr int ZADANI_VLEVO = 20;            // px, first label of a row
-constexpr int RADKY_ZADANI[] = {128, 144};  // px, tops of the two rows
+constexpr int ZADANI_VLEVO = 20;                              // px, first label of a row
+constexpr std::array<int, 3> RADKY_ZADANI = {128, 144, 160};  // px, tops of the rows
 
 constexpr int JEDNOTKA_NAHORE = 374;  // px, the unit beside the box for a value
 
@@ -66,7 +66,7 @@ void DeskaForm::Ukaz() {
 }
 
 void DeskaForm::UkazZadani(const std::vector<PolozkaZadani>& zadani) {
-    int radek = -1;
+    std::size_t radek = 0;  // rows begun
     for (std::size_t i = 0; i < lblZadani.size(); ++i) {
         Label& l = lblZadani[i];
         l.Visible = i < zadani.size();
@@ -75,8 +75,8 @@ void DeskaForm::UkazZadani(const std::vector<PolozkaZadani>& zadani) {
         l.Caption = z.Text;
         l.Font = z.Font;
         l.PodleTextu();
-        if (z.NovyRadek) ++radek;
-        l.Top = RADKY_ZADANI[radek > 0 ? 1 : 0];
+        if (z.NovyRadek && radek < RADKY_ZADANI.size()) ++radek;
+        l.Top = RADKY_ZADANI[radek == 0 ? 0 : radek - 1];
         l.Left =
             z.NovyRadek ? ZADANI_VLEVO : lblZadani[i - 1].Left + lblZadani[i - 1].Width + z.Mezera;
     }
@@ -146,7 +146,7 @@ void DeskaForm::Paint() {
 /// Slides the panel by frames; no event comes through until the last one. snimek(k) gives the
 /// push of frame k.
 template <class F>
-static void Sun(F snimek) {
+static void PosouvejPanel(F snimek) {
     Host& stroj = Stroj();
     const std::uint32_t zacatek = stroj.TickCount();
     for (int k = 0; k < SNIMKU; ++k) {
@@ -163,7 +163,7 @@ void DeskaForm::ZasunPanel() {
     posouvaSe_ = true;
     SlozPanel();
     SamplePic.Visible = Image1.Visible = false;
-    Sun([this](int k) { PolozPanel(KROK_SNIMKU * k); });
+    PosouvejPanel([this](int k) { PolozPanel(KROK_SNIMKU * k); });
     Image1.Tag = "0";
     MalaSipka.Visible = true;
     VPImage.Visible = false;
@@ -176,10 +176,10 @@ void DeskaForm::VysunPanel() {
     posouvaSe_ = true;
     SlozPanel();
     SamplePic.Visible = Image1.Visible = false;
-    MalaSipka.Visible = false;
     VPImage.Visible = true;
-    Sun([this](int k) { PolozPanel(KROK_SNIMKU * (SNIMKU - 1 - k)); });
+    PosouvejPanel([this](int k) { PolozPanel(KROK_SNIMKU * (SNIMKU - 1 - k)); });
     Image1.Tag = "1";
+    MalaSipka.Visible = false;
     SamplePic.Visible = Image1.Visible = true;
     posouvaSe_ = false;
 }

@@ -26,6 +26,7 @@ constexpr std::uint32_t PO_NAVRATU = 100;
 }  // namespace
 
 void DeskaForm::Zkontroluj() {
+    if (cekaNaZadani_) return;  // there is nothing to judge yet
     PicTop[0].Picture = kontrolovano_;
     for (std::size_t i = 0; i < 3; ++i) PicTop[i].Enabled = false;
     SamplePic.Enabled = false;
@@ -58,8 +59,8 @@ void DeskaForm::Pokracuj() {
 }
 
 void DeskaForm::NovyPriklad() {
-    if (zaneprazdnen_) return;
-    zaneprazdnen_ = true;
+    if (zaneprazdnen_ || cekaNaZadani_) return;
+    zaneprazdnen_ = cekaNaZadani_ = true;
     for (std::size_t i = 0; i < PicTop.size(); ++i) PicTop[i].Enabled = true;
     ZhasniHorni();
     SamplePic.Enabled = true;
@@ -71,7 +72,7 @@ void DeskaForm::NovyPriklad() {
     zaneprazdnen_ = false;
     Cekej(PO_UKLIDU);
     if (Skoncil(*this)) return;
-    VysunPanel();
+    if (Image1.Tag == "0") StiskMaleSipky();
     Cekej(PRED_ZADANIM);
     if (Skoncil(*this)) return;
     NoveZadani();
@@ -80,6 +81,7 @@ void DeskaForm::NovyPriklad() {
 void DeskaForm::NoveZadani() {
     Generator.Zasej(Stroj().Seminko());
     dialog_->NoveZadani();
+    cekaNaZadani_ = false;
     KresliNacrt();
     Ukaz();
 }
@@ -105,7 +107,8 @@ void DeskaForm::UkazTabulku() {
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
     const auto tabulka = okna.Nacti<TabulkaForm>();
     Cekej(PRED_TABULKOU);
-    if (Skoncil(*this) || tabulka->Zavreny()) return;
+    // Help that came up meanwhile stays in front.
+    if (Skoncil(*this) || tabulka->Zavreny() || !Viditelny()) return;
     tabulka->Vlastnik = shared_from_this();
     okna.Show(*tabulka);
     AktivniForm = tabulka;
@@ -124,6 +127,7 @@ void DeskaForm::Zpet() {
 
 void DeskaForm::UkazChyby() {
     ZvukStisku();
+    SkryjChyby();
     const auto seznam = Stroj().Okna().Nacti<ChybovyForm>();
     Stroj().Okna().Show(*seznam);
     IHintS.Visible = true;
@@ -131,10 +135,7 @@ void DeskaForm::UkazChyby() {
 
 void DeskaForm::SkryjChyby() {
     IHintS.Visible = false;
-    if (const auto seznam = Stroj().Okna().Najdi("ChybovyForm")) {
-        Stroj().Okna().Hide(*seznam);
-        Stroj().Okna().Unload(*seznam);
-    }
+    if (const auto seznam = Stroj().Okna().Najdi("ChybovyForm")) Stroj().Okna().Unload(*seznam);
 }
 
 }  // namespace rysovna

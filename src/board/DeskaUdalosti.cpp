@@ -1,8 +1,5 @@
 // The events of a board: what the pupil presses goes to the dialogue, what it answers is shown.
 
-#include <algorithm>
-#include <cmath>
-
 #include "base/Cisla.h"
 #include "board/DeskaForm.h"
 #include "shell/HelpForm.h"
@@ -15,8 +12,8 @@ namespace {
 
 constexpr int LEVE = 1;
 
-// Where the read-out stands from the pointer, px.
-constexpr int ODECET_X = 12, ODECET_Y = 2;
+// How far below the pointer the read-out stands, px.
+constexpr int ODECET_Y = 2;
 
 constexpr std::uint32_t CEKANI_PO_VOLBE = 50;  // ms
 
@@ -31,13 +28,10 @@ constexpr std::array<SmerPosunu, 4> SMERY = {
 
 constexpr std::uint8_t HOVER_SIPKY = 4;  ///< hover number before the first arrow
 
-std::uint8_t HoverTlacitka(const Ovladac& o) {
-    return static_cast<std::uint8_t>(o.Index);
-}
-
 }  // namespace
 
 void DeskaForm::SkryjSeznam() {
+    if (vybiraSe_) return;  // it is hidden already, and the pick holds
     if (!Combo.Visible && !dialog_->UkazPanel().Combo.Otevreny) return;
     dialog_->ZavriSeznam();
     Ukaz();
@@ -63,9 +57,7 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
         SkryjSeznam();
         ZasunPanel();
     } else if (o == &MalaSipka) {
-        ZvukStisku();
-        SkryjSeznam();
-        VysunPanel();
+        StiskMaleSipky();
     } else if (o == &ImgHodnoceni) {
         UkazChyby();
     } else if (o == &picPokracuj) {
@@ -91,14 +83,14 @@ void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
     }
     const bool sipka = Je(picSipka, o);
     if (!sipka && !Je(PicTop, o)) return;
-    const auto cislo = static_cast<std::uint8_t>(HoverTlacitka(*o) + (sipka ? HOVER_SIPKY : 0));
+    const auto cislo = static_cast<std::uint8_t>(o->Index + (sipka ? HOVER_SIPKY : 0));
     if (!hover_.Vstup(cislo)) return;
     ZhasniSipky();
     ZhasniHorni();
     const auto i = static_cast<std::size_t>(o->Index - 1);
     if (sipka) {
         picSipka[i].Picture = sipky_[i].Rozsviceny;
-    } else if (PicTop[i].Enabled) {
+    } else {
         PicTop[i].Picture = horni_[i].Rozsviceny;
     }
 }
@@ -140,6 +132,12 @@ bool DeskaForm::Klavesa(std::string_view klavesa) {
     return true;
 }
 
+void DeskaForm::StiskMaleSipky() {
+    ZvukStisku();
+    SkryjSeznam();
+    VysunPanel();
+}
+
 void DeskaForm::StiskNastroje(const PictureBox& tlacitko, const Mys& m) {
     ZvukStisku();
     dialog_->StiskNastroje(tlacitko.Index);
@@ -153,7 +151,10 @@ void DeskaForm::VyberRadku(int i) {
     ZvukStisku();
     const Seznam seznam = dialog_->UkazPanel().Combo;
     Combo.Visible = false;
+    if (vybiraSe_) return;
+    vybiraSe_ = true;
     Cekej(CEKANI_PO_VOLBE);
+    vybiraSe_ = false;
     if (Skoncil(*this)) return;
     // Another list may have come up, or this one gone, while the wait let events through.
     if (dialog_->UkazPanel().Combo == seznam) dialog_->VyberRadku(i);
@@ -179,7 +180,7 @@ void DeskaForm::UkazTah(const Gumicka& g, const Mys& m) {
     if (!Text.Visible) return;
     Text.Caption = g.Text;
     Text.PodleTextu();
-    Text.Left = Zaokrouhli(m.X) + ODECET_X;
+    Text.Left = Zaokrouhli(m.X) + g.Odsazeni;
     Text.Top = Zaokrouhli(m.Y) + ODECET_Y;
 }
 
@@ -199,6 +200,7 @@ void DeskaForm::PustPlochu(const Mys& m) {
 }
 
 void DeskaForm::StiskSipky(int i) {
+    if (poustiSe_) return;  // what was drawn belongs to the plane as it is
     const SmerPosunu& s = SMERY[static_cast<std::size_t>(i - 1)];
     int& posun = s.Dx != 0 ? PosunX : PosunY;
     const int krok = s.Dx + s.Dy;

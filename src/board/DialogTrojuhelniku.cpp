@@ -33,6 +33,9 @@ constexpr std::uint32_t CEKANI_OSTATNI = 100;
 
 constexpr int SIRKA_HOTOVYCH_STRAN = 2;  // px
 
+// The names of sides' midpoints, and so of the circles about them, begin with this letter.
+constexpr char STRED_STRANY = 'S';
+
 Bod NaPixely(float x, float y) {
     return {Zaokrouhli(x), Zaokrouhli(y)};
 }
@@ -48,8 +51,8 @@ DialogTrojuhelniku::DialogTrojuhelniku(Platna platna, const PravidlaTrojuhelniku
     }
 }
 
-bool DialogTrojuhelniku::KrokCeka(const Krok& krok, std::string_view druh) const {
-    return krok.Utvar == druh && krok.Hotovo == NE;
+bool DialogTrojuhelniku::DruhSedi(const Krok& krok, std::string_view druh) const {
+    return krok.Utvar == druh;
 }
 
 bool DialogTrojuhelniku::JeZadana(std::string_view velicina) const {
@@ -125,7 +128,8 @@ void DialogTrojuhelniku::StiskPlochy(float x, float y) {
     const std::string& druh = stav_.ZvolenyUtvar;
     const bool bezCeny = PosudNapsane();
     if (druh == KRUZNICE) {
-        stav_.Start = ZachytNejblizsi(x, y, pravidla_.TretiBody).Misto;
+        const bool oStredu = stav_.ZvolenyPrvek.starts_with(STRED_STRANY);
+        stav_.Start = ZachytNejblizsi(x, y, pravidla_.TretiBody && oStredu).Misto;
     } else if (druh == POLOPRIMKA) {
         const Zachyt z = ZachytPosledni(x, y);
         stav_.Start = z.Misto;
@@ -270,7 +274,7 @@ void DialogTrojuhelniku::Zkontroluj() {
     stav_.Skontrolovano = true;
     stav_.Tazeni = false;
     PosudPrvky();
-    PosudZnacky();
+    UctujZnacky(stav_.Znacky == OcekavaneZnacky());
     if (!stav_.HotovaKonstrukce) UctujNedokoncenou(TvarBodu::VzdyBod);
 }
 
@@ -279,19 +283,19 @@ void DialogTrojuhelniku::PosudPrvky() {
     int chybnych = 0;
     for (int radek = 1; radek <= 3; ++radek) {
         const ZadanyPrvek& z = ZadanePrvky[radek];
-        const bool druh = radek == 1 ? z.Utvar == p.Kroky[1].Utvar
-                                     : z.Utvar == p.Kroky[2].Utvar || z.Utvar == p.Kroky[3].Utvar;
+        const bool druh = radek == 1 ? DruhSedi(p.Kroky[1], z.Utvar)
+                                     : DruhSedi(p.Kroky[2], z.Utvar) ||
+                                           DruhSedi(p.Kroky[3], z.Utvar);
         if (!JeZadana(z.Prvek) || !druh) ++chybnych;
     }
     UctujChybnePrvky(chybnych);
 }
 
-void DialogTrojuhelniku::PosudZnacky() {
-    std::uint32_t ocekavane = 0;
+std::uint32_t DialogTrojuhelniku::OcekavaneZnacky() const {
     for (const DruhTrojuhelniku& d : pravidla_.Druhy) {
-        if (d.Druh == Hrany().Druh) ocekavane = d.Znacky;
+        if (d.Druh == Hrany().Druh) return d.Znacky;
     }
-    UctujZnacky(stav_.Znacky == ocekavane);
+    return 0;
 }
 
 }  // namespace rysovna

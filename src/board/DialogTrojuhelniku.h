@@ -60,7 +60,7 @@ struct PravidlaTrojuhelniku {
     std::span<const DruhTrojuhelniku> Druhy;
     std::span<const PrvekNacrtu> Nacrt;
     std::span<const PismenoNacrtu> PismenaNacrtu;
-    bool TretiBody;  ///< midpoints are snap targets for circles
+    bool TretiBody;  ///< midpoints are snap targets for the circles about them
 };
 
 /// The dialogue's own record: all that changes from step to step besides the construction.
@@ -137,8 +137,10 @@ protected:
     virtual void PosudVolbuRovnobezky(std::string_view vyska) = 0;
     /// Charges the press with a parallel in hand, where the board does.
     virtual void PosudStiskRovnobezky() = 0;
-    /// Whether a kind of object fits an expected step that was not taken yet.
-    [[nodiscard]] virtual bool KrokCeka(const Krok& krok, std::string_view druh) const;
+    /// Whether a kind of object is the one that an expected step asks for.
+    [[nodiscard]] virtual bool DruhSedi(const Krok& krok, std::string_view druh) const;
+    /// The marks that the check expects, bits in the order of the sketch.
+    [[nodiscard]] virtual std::uint32_t OcekavaneZnacky() const;
     /// Whether a circle's line is offered now, by the name of its centre's point.
     [[nodiscard]] virtual bool StredVDosahu(std::string_view stred) const;
     /// Whether the ray or circle in hand starts at its vertex or centre.
@@ -179,7 +181,6 @@ private:
     void DalsiFaze();
     void DokonciTrojuhelnik(bool pridatRadek);
     void PosudPrvky();
-    void PosudZnacky();
     [[nodiscard]] const CenaVeliciny* Cena() const;
     [[nodiscard]] const Utvar& Zakladna() const;
     [[nodiscard]] Dvojice BodyPrimky(Bod konec) const;

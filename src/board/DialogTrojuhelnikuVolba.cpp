@@ -48,6 +48,7 @@ int NajdiUtvar(std::string_view jmena) {
 }  // namespace
 
 void DialogTrojuhelniku::VyberRadku(int i) {
+    if (stav_.Skontrolovano) return;
     if (!stav_.Combo.Otevreny || i < 1 || i > static_cast<int>(stav_.Combo.Radky.size())) return;
     const RadekSeznamu& radek = stav_.Combo.Radky[static_cast<std::size_t>(i - 1)];
     if (!radek.Videt || !radek.Ziva) return;
@@ -86,7 +87,7 @@ void DialogTrojuhelniku::Vyzvi(std::string vyzva, std::string jednotka) {
 bool DialogTrojuhelniku::ObsadKrok(std::string_view druh) {
     for (const int n : {2, 3}) {
         Krok& krok = Priklady[cisloPrikladu_].Kroky[n];
-        if (!KrokCeka(krok, druh)) continue;
+        if (krok.Hotovo != NE || !DruhSedi(krok, druh)) continue;
         krok.Hotovo = ANO;
         return true;
     }

@@ -36,8 +36,9 @@ enum class Verdikt { Bezchybne, SChybami };
 /// Settles the example by its penalty sum: plus and minus points of the session, 10 together.
 Verdikt Vyuctuj(bool hotova);
 
-/// Empties the construction for a new example: planes, counters, the rows of the construction, of
-/// what the pupil entered and of the wrong steps, every done flag of every record.
+/// Empties the construction for a new example: planes, counters, the rows of the construction and
+/// of the wrong steps, every done flag of every record. What the pupil entered goes with the choice
+/// of the new example.
 void VyprazdniKonstrukci(const Platna& platna);
 /// Clears what the pupil entered in the first ten phases.
 void ZapomenZadanePrvky();

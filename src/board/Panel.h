@@ -94,6 +94,7 @@ struct Gumicka {
     Tvar Druh = Tvar::Nic;
     int X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;  ///< of a line; of a circle its rectangle
     std::string Text;                    ///< the read-out; empty: none
+    int Odsazeni = 12;                   ///< px of the read-out to the right of the pointer
     friend bool operator==(const Gumicka&, const Gumicka&) = default;
 };
 

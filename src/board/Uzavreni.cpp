@@ -1,6 +1,5 @@
 #include "board/Uzavreni.h"
 
-#include <cmath>
 #include <string_view>
 
 #include "engine/Resitele.h"
@@ -69,9 +68,7 @@ Pruseciky PrusecikyUtvaru(const Plane& plocha, const Utvar& prvni, const Utvar& 
 }
 
 Bod VyberVrchol(const Utvar& strana, const Pruseciky& body) {
-    if (body.P1 == BEZ_BODU || body.P2 == BEZ_BODU) {
-        return body.P1 == BEZ_BODU ? body.P2 : body.P1;
-    }
+    if (body.P2 == BEZ_BODU) return body.P1;
     const bool odDruheho = strana.Jmeno1 == "A" && strana.Jmeno2 == "C";
     const Bod pocatek = odDruheho ? Druhy(strana) : Prvni(strana);
     double smer = static_cast<double>(strana.Smer) + (odDruheho ? PI : 0.0);

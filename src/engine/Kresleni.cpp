@@ -173,8 +173,8 @@ double NaPrimceV(double a1, double b1, double a2, double b2, double a) {
 }
 
 /// The second point moved along the object to the margin box. It stays where it was when the
-/// moved one would not lie ahead of the start: no drag at all, or a start beyond the box. An
-/// object level with the start above or below the box is moved into it upright.
+/// moved one would not lie ahead of the start: no drag at all, or a start beyond the box. A
+/// level object above or below the box keeps its X and gets the Y of the box's edge: it tilts.
 Bod NaOkraj(const Plane& plane, Bod od, Bod k) {
     const int vpravo = plane.Width() - OKRAJ_X;
     const int dole = plane.Height() - OKRAJ_DOLE;
@@ -251,8 +251,8 @@ float SmerPodleJmena(std::string_view naPrimce) {
     return Smer(A, B, 0);
 }
 
-// The label of a circle is tried every 15 degrees from the first angle to the last, from the
-// bottom of the circle towards its right side; 13 px up from the circle.
+// The label of a circle is tried every 15 degrees from the first angle to the last: from the
+// top of the circle to its right side, then over the top to the left; 13 px up from the circle.
 struct UsekUhlu {
     int prvni, posledni;
 };

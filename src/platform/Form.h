@@ -10,6 +10,9 @@
 
 namespace rysovna {
 
+/// The design area, design pixels: what every screen is laid out for.
+constexpr int NAVRH_SIRKA = 640, NAVRH_VYSKA = 480;
+
 /// A screen: a record of its own with its objects, and the calls by which events reach it. One
 /// class per screen derives from it. Made and destroyed by Obrazovky alone.
 ///
@@ -24,7 +27,7 @@ public:
     [[nodiscard]] virtual std::string_view Jmeno() const = 0;
 
     std::string Caption;
-    int Left = 0, Top = 0, Width = 640, Height = 480;  ///< design pixels
+    int Left = 0, Top = 0, Width = NAVRH_SIRKA, Height = NAVRH_VYSKA;  ///< design pixels
     bool Maximised = false;
     Barva BackColor = CERNA;
     Obrazek Picture;

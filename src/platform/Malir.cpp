@@ -13,7 +13,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int NAVRH_SIRKA = 640, NAVRH_VYSKA = 480;
 constexpr Obdelnik NAVRH{0, 0, NAVRH_SIRKA, NAVRH_VYSKA};
 /// More dirty rectangles than this are painted as one.
 constexpr std::size_t NEJVIC_OBDELNIKU = 8;

@@ -111,7 +111,8 @@ struct Obrazovky::Vnitrek {
     static Ovladac* Najdi(const Form& f, double x, double y) {
         const Obdelnik misto = MistoFormu(f);
         Ovladac* o = Nejvyssi(f, nullptr, x - misto.Left, y - misto.Top);
-        return Dosazitelny(o) ? o : nullptr;
+        while (o != nullptr && !Dosazitelny(o)) o = o->Rodic;
+        return o;
     }
     /// Whether this press is the second of a double click; remembers it.
     bool Dvojklik(const Formular& f, Ovladac* o, double x, double y, int tlacitko) {
@@ -198,6 +199,7 @@ void Obrazovky::UnloadVse() {
         Vnitrek::Vyrad(vnitrek_->Nactene, *posledni);
     }
     vnitrek_->Konci = false;
+    konec_ = false;
 }
 
 Formular Obrazovky::Najdi(std::string_view jmeno) const {

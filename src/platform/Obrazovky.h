@@ -33,7 +33,8 @@ public:
     void Hide(Form& form);
     /// Hides at once, runs Unload, forgets. The object lives on while a handler of it runs.
     void Unload(Form& form);
-    /// Unloads everything: the end of the process or of a test.
+    /// Unloads everything: the end of the process or of a test. Nothing is to end any more after
+    /// it, so that a message about a fault waits for its answer.
     void UnloadVse();
 
     /// The loaded form of this name; null if there is none.
@@ -57,8 +58,8 @@ public:
     [[nodiscard]] TextBox* Psane() const;
     /// Tick count of the last typing or caret move: the caret does not blink at once.
     [[nodiscard]] std::uint32_t PosledniPsani() const;
-    /// The object at a place of the form in front, design pixels; null where the form itself (or
-    /// nothing) would get the event.
+    /// The object at a place of the form in front that would get the event, design pixels; null
+    /// where the form itself (or nothing) would.
     [[nodiscard]] Ovladac* NaMiste(double x, double y) const;
 
     /// Typed text, UTF-8.
@@ -76,9 +77,14 @@ public:
     /// When the next timer is due; false if none runs.
     [[nodiscard]] bool PristiCasovac(std::uint32_t ted, std::uint32_t& zaMs) const;
 
-    /// What main and the start-up set: the process is to end.
-    void Konec() { konec_ = true; }
+    /// What main and the start-up set: the process is to end, with this exit status.
+    void Konec(int stav = 0) {
+        konec_ = true;
+        stavKonce_ = stav;
+    }
     [[nodiscard]] bool JeKonec() const { return konec_; }
+    /// The status of the last Konec(), 0 before any.
+    [[nodiscard]] int StavKonce() const { return stavKonce_; }
     /// Grows whenever a form was shown, hidden or moved in the order, or unloaded.
     [[nodiscard]] std::uint64_t Verze() const { return verze_; }
 
@@ -86,6 +92,7 @@ private:
     struct Vnitrek;
     std::unique_ptr<Vnitrek> vnitrek_;
     bool konec_ = false;
+    int stavKonce_ = 0;
     std::uint64_t verze_ = 0;
 };
 

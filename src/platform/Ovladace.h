@@ -32,7 +32,7 @@ struct Ovladac {
     Ovladac* Rodic = nullptr;  ///< the picture box that it stands in; the form if null
     int Left = 0, Top = 0, Width = 0, Height = 0;
     bool Visible = true;
-    bool Enabled = true;  ///< a press on a disabled object goes to the form
+    bool Enabled = true;  ///< what is disabled leaves its presses to its parent
     std::string Tag;
     Pismo Font;
 

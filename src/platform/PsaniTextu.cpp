@@ -18,6 +18,52 @@ std::size_t Z(int i) {
     return static_cast<std::size_t>(i);
 }
 
+/// A mark that is typed or pasted as a character of its own, the letters that it may stand behind,
+/// and what each gives with it: all that the code page of the files knows.
+constexpr struct {
+    char32_t Znamenko;
+    std::u32string_view Pismena, Slozena;
+} SLOZENI[] = {
+    {0x0301, U"AaCcEeIiLlNnOoRrSsUuYyZz", U"ÁáĆćÉéÍíĹĺŃńÓóŔŕŚśÚúÝýŹź"},
+    {0x030C, U"CcDdEeLlNnRrSsTtZz", U"ČčĎďĚěĽľŇňŘřŠšŤťŽž"},
+    {0x030A, U"Uu", U"Ůů"},
+    {0x0308, U"AaEeOoUu", U"ÄäËëÖöÜü"},
+    {0x0302, U"AaIiOo", U"ÂâÎîÔô"},
+    {0x0306, U"Aa", U"Ăă"},
+    {0x0307, U"Zz", U"Żż"},
+    {0x030B, U"OoUu", U"ŐőŰű"},
+    {0x0327, U"CcSsTt", U"ÇçŞşŢţ"},
+    {0x0328, U"AaEe", U"ĄąĘę"},
+};
+
+static_assert(std::ranges::all_of(SLOZENI, [](const auto& s) {
+    return s.Pismena.size() == s.Slozena.size();
+}));
+
+/// The one letter for a letter and the mark behind it; 0 if there is none.
+char32_t Slozene(char32_t pismeno, char32_t znamenko) {
+    for (const auto& s : SLOZENI) {
+        if (s.Znamenko != znamenko) continue;
+        const std::size_t kde = s.Pismena.find(pismeno);
+        return kde == std::u32string_view::npos ? 0 : s.Slozena[kde];
+    }
+    return 0;
+}
+
+/// With one letter in place of each pair that has one.
+std::u32string Sloz(const std::u32string& znaky) {
+    std::u32string slozeny;
+    for (const char32_t z : znaky) {
+        const char32_t jeden = slozeny.empty() ? 0 : Slozene(slozeny.back(), z);
+        if (jeden != 0) {
+            slozeny.back() = jeden;
+        } else {
+            slozeny += z;
+        }
+    }
+    return slozeny;
+}
+
 }  // namespace
 
 PsaniTextu::PsaniTextu(TextBox& t) : t_(t) {
@@ -49,7 +95,16 @@ bool PsaniTextu::Nahrad(const std::u32string& novy) {
 bool PsaniTextu::Napis(std::string_view utf8) {
     std::u32string znaky = DoZnaku(utf8);
     std::erase_if(znaky, [](char32_t z) { return z < U' ' || (z >= 0x7F && z < 0xA0); });
-    return !znaky.empty() && Nahrad(znaky);
+    if (znaky.empty()) return false;
+    // A mark that comes alone belongs to the letter before the caret.
+    if (t_.SelStart == t_.SelAnchor && t_.SelStart > 0) {
+        const char32_t jeden = Slozene(DoZnaku(t_.Text)[Z(t_.SelStart - 1)], znaky.front());
+        if (jeden != 0) {
+            znaky.front() = jeden;
+            t_.SelAnchor = t_.SelStart - 1;
+        }
+    }
+    return Nahrad(Sloz(znaky));
 }
 
 bool PsaniTextu::Smaz(int kam) {

@@ -1,6 +1,7 @@
 #include "platform/ZpravaForm.h"
 
 #include <algorithm>
+#include <cmath>
 #include <span>
 
 #include "platform/Obrazovky.h"
@@ -10,7 +11,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int NAVRH_SIRKA = 640, NAVRH_VYSKA = 480;
 constexpr int OKRAJ = 16;
 constexpr int VYSKA_TITULKU = 24;
 constexpr int IKONA = 36;
@@ -119,7 +119,7 @@ void ZpravaForm::NakresliIkonu(Styl styl) {
                           : styl == Styl::OtazkaAnoNe ? Vzhled{TITULEK, "?"}
                                                       : Vzhled{TITULEK, "i"};
     Surface& p = ikona_.Plocha();
-    constexpr float STRED = IKONA / 2;
+    constexpr float STRED = static_cast<float>(IKONA) / 2;
     p.ForeColor = vzhled.Kruh;
     p.Kotouc(STRED, STRED, STRED - 1);
     p.ForeColor = BILA;
@@ -147,8 +147,8 @@ void ZpravaForm::NakresliTlacitka() {
         p.Font = t.Font;
         p.Font.Tucne = svit;
         p.ForeColor = svit ? BILA : INKOUST;
-        p.CurrentX = static_cast<float>((t.Width - SirkaTextu(p.Font, t.Tag)) / 2);
-        p.CurrentY = static_cast<float>((t.Height - VyskaRadku(p.Font)) / 2);
+        p.CurrentX = std::floor(static_cast<float>(t.Width - SirkaTextu(p.Font, t.Tag)) / 2);
+        p.CurrentY = std::floor(static_cast<float>(t.Height - VyskaRadku(p.Font)) / 2);
         p.Print(t.Tag);
     }
 }

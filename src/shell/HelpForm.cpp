@@ -2,9 +2,8 @@
 
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
-#include "shell/Hover.h"
 #include "shell/Misc.h"
-#include "shell/SelectForm.h"
+#include "shell/Zdroje.h"
 
 namespace rysovna {
 
@@ -32,16 +31,6 @@ void UkazNapovedu(std::string_view obrazek, Form& vlastnik) {
     napoveda->Vlastnik = vlastnik.weak_from_this();
     AktivniForm = napoveda;
     okna.Hide(vlastnik);
-}
-
-void VratSeK(const std::weak_ptr<Form>& vlastnik, Form& zavirany) {
-    Obrazovky& okna = Stroj().Okna();
-    std::shared_ptr<Form> kam = vlastnik.lock();
-    if (!kam || kam->Zavreny()) kam = Menu().shared_from_this();
-    okna.Show(*kam);
-    AktivniForm = kam;
-    okna.Hide(zavirany);
-    okna.Unload(zavirany);
 }
 
 }  // namespace rysovna

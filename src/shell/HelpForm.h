@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/Form.h"
+#include "shell/Prechody.h"
 
 namespace rysovna {
 
@@ -25,9 +26,5 @@ public:
 /// Shows a help picture (below the asset root) on top of a screen and hides that screen; the click
 /// on it brings the screen back.
 void UkazNapovedu(std::string_view obrazek, Form& vlastnik);
-
-/// Shows the screen that a form on top goes back to, or the menu if that one was unloaded, and
-/// makes it the active one. Then unloads the form on top.
-void VratSeK(const std::weak_ptr<Form>& vlastnik, Form& zavirany);
 
 }  // namespace rysovna

@@ -2,10 +2,10 @@
 
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
-#include "shell/Hover.h"
 #include "shell/Konec.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
+#include "shell/Zdroje.h"
 
 namespace rysovna {
 namespace {

@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdint>
+#include <fcntl.h>
 #include <fstream>
 #include <ios>
+#include <sys/stat.h>
 #include <system_error>
+#include <unistd.h>
 
 #include "base/Chyba.h"
 #include "base/Text.h"
@@ -73,6 +77,37 @@ bool Zapis(std::ostream& kam, std::string_view obsah) {
         kam.write(obsah.data(), static_cast<std::streamsize>(obsah.size())).flush());
 }
 
+/// A file or folder by its descriptor, for what streams cannot do.
+class Popisovac {
+public:
+    explicit Popisovac(const fs::path& co) : cislo_(::open(co.c_str(), O_RDONLY | O_CLOEXEC)) {}
+    ~Popisovac() {
+        if (cislo_ >= 0) ::close(cislo_);
+    }
+    Popisovac(const Popisovac&) = delete;
+    Popisovac& operator=(const Popisovac&) = delete;
+
+    /// Waits until all that was written is on the disk. One that cannot be waited for is no fault.
+    [[nodiscard]] bool NaDisk() const {
+        return cislo_ >= 0 && (::fsync(cislo_) == 0 || errno == EINVAL);
+    }
+
+    /// Owner, group and rights as those of another file; false if owner or group may not be so.
+    [[nodiscard]] bool PrevezmiPrava(const fs::path& od) const {
+        struct stat jeho {};
+        struct stat moje {};
+        if (cislo_ < 0 || ::stat(od.c_str(), &jeho) != 0 || ::fstat(cislo_, &moje) != 0)
+            return false;
+        const bool jinak = jeho.st_uid != moje.st_uid || jeho.st_gid != moje.st_gid;
+        if (jinak && ::fchown(cislo_, jeho.st_uid, jeho.st_gid) != 0) return false;
+        constexpr mode_t PRAVA = 07777;
+        return ::fchmod(cislo_, jeho.st_mode & PRAVA) == 0;
+    }
+
+private:
+    int cislo_;
+};
+
 /// Writes over a file that has this content: first what grows it, then the rest, then cuts it.
 bool PrepisNaMiste(const fs::path& soubor, const std::string& stary, std::string_view novy) {
     auto proud = Otevri<std::fstream>(soubor, std::ios::in | std::ios::out);
@@ -99,8 +134,10 @@ bool PrepisNaMiste(const fs::path& soubor, const std::string& stary, std::string
     if (novy.size() < stary.size()) {
         std::error_code chyba;
         fs::resize_file(soubor, novy.size(), chyba);
-        return !chyba;
+        if (chyba) return false;
     }
+    // All is written: a disk that cannot be waited for changes nothing about it.
+    (void)Popisovac(soubor).NaDisk();
     return true;
 }
 
@@ -183,7 +220,7 @@ std::vector<std::string> CtiRadky(const fs::path& soubor) {
     for (std::size_t i = 0; i < obsah.size();) {
         const std::size_t konec = std::min(obsah.find('\n', i), obsah.size());
         std::size_t delka = konec - i;
-        if (konec < obsah.size() && delka > 0 && obsah[konec - 1] == '\r') --delka;
+        if (delka > 0 && obsah[konec - 1] == '\r') --delka;
         radky.push_back(obsah.substr(i, delka));
         i = konec + 1;
     }
@@ -211,10 +248,18 @@ void PrepisSoubor(const fs::path& soubor, std::string_view obsah) {
     proud.close();
     zapsano = zapsano && !proud.fail();
     if (zapsano) {
-        // A table that several pupils' accounts share stays writable for all of them.
-        if (jeTu) fs::permissions(vedle, fs::status(cil, chyba).permissions(), chyba);
-        fs::rename(vedle, cil, chyba);
-        zapsano = !chyba;
+        const Popisovac novy(vedle);
+        zapsano = novy.NaDisk();
+        // A table that several pupils' accounts share stays theirs: one that only its owner may
+        // replace is written over in place. Until that is done, the copy beside it stays.
+        if (zapsano && jeTu && !novy.PrevezmiPrava(cil)) {
+            zapsano = PrepisNaMiste(cil, CtiVse(cil), obsah);
+            fs::remove(vedle, chyba);
+        } else if (zapsano) {
+            fs::rename(vedle, cil, chyba);
+            zapsano = !chyba;
+            if (zapsano) (void)Popisovac(cil.parent_path()).NaDisk();
+        }
     }
     if (!zapsano) {
         fs::remove(vedle, chyba);

@@ -28,13 +28,15 @@ namespace rysovna {
 /// "file:line", the place that a fault names.
 [[nodiscard]] std::string Misto(const std::filesystem::path& soubor, int radek);
 
-/// Reads a file into lines. CR LF or LF ends one; a last line without an end counts, an end makes
-/// no empty line behind it. A file that cannot be read is a fault.
+/// Reads a file into lines. CR LF or LF ends one, at the end of the file a CR alone too; a last
+/// line without an end counts, an end makes no empty line behind it. A file that cannot be read is
+/// a fault.
 [[nodiscard]] std::vector<std::string> CtiRadky(const std::filesystem::path& soubor);
 
 /// Rewrites a file that exists or not: written beside and renamed over, so that it is the old one
-/// or the new one and never half. Where no file may be made beside it, it is written over in
-/// place, its growth first, so that a full disk leaves the old content. Any failure is a fault.
+/// or the new one and never half. Owner, group and rights stay. Where no file may be made beside
+/// it, or none of that owner and group, it is written over in place, its growth first, so that a
+/// full disk leaves the old content. Any failure is a fault.
 void PrepisSoubor(const std::filesystem::path& soubor, std::string_view obsah);
 
 /// Appends in one write. On a failure, which is a fault, what was half written is taken back.

@@ -77,11 +77,7 @@ bool DataUplna() {
     return JeVDatech("Vysledky.dat") && JeVDatech("Znamky.dat") && JeVDatech("Errors.dat");
 }
 
-double Meritko() {
-    return Stroj().TwipsPerPixel() / NAVRHOVYCH_TWIPU;
-}
-
-/// What has no place of its own, or none that is laid out in the design.
+/// Whether the object has a place that is scaled: a line and a timer have none.
 bool MaRozmery(const Ovladac& o) {
     return o.Druh != Ovladac::Typ::Line && o.Druh != Ovladac::Typ::Timer;
 }
@@ -139,6 +135,10 @@ void Cekej(std::uint32_t ms) {
     while (zbyva() > 0 && !stroj.Okna().JeKonec()) {
         stroj.DoEvents(static_cast<std::uint32_t>(zbyva()));
     }
+}
+
+double Meritko() {
+    return Stroj().TwipsPerPixel() / NAVRHOVYCH_TWIPU;
 }
 
 void PrizpusobForm(Form& form) {

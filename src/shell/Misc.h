@@ -46,7 +46,8 @@ inline int PosunX = 0, PosunY = 0;  ///< how far the plane is scrolled, px
 inline int VybranyUtvar = 0;        ///< row of Utvary that a step refers to; 0 is none
 inline int KonstrukceZahajena = 0;  ///< -1 from the first press on a tool
 
-/// The generator of examples. NactiKonfiguraci sows it, once a process, with the host's seed.
+/// The generator of examples. Sown with the host's seed at the start-up and before each
+/// example.
 inline Nahoda Generator;
 
 /// The first step of the start-up: paths from Rysovna.ini, a look whether all files of the data
@@ -66,6 +67,9 @@ void UkazPozadi();
 /// Waits ms milliseconds. Events are let through: a click during the wait is handled during it, so
 /// the caller's form may be unloaded when this returns. Ends early when the process is to end.
 void Cekej(std::uint32_t ms);
+
+/// Pixels to a design pixel, by the twips per pixel: 1 at the 15 that every host gives.
+[[nodiscard]] double Meritko();
 
 /// Scales the objects of a screen to the twips per pixel and gives font size 10 to every object
 /// that has a font, whatever was designed. Called once, by the load handler.

@@ -17,6 +17,8 @@ namespace {
 constexpr std::uint8_t HOVER_LI = 1;  // the first of five
 constexpr std::uint8_t HOVER_RI = 6;  // the first of six
 constexpr int BUNEK_PASU = 23;
+constexpr float PISMO_PRACE = 8.0F;  // points
+constexpr int STAV_NESPUSTENO = 1;   // exit status: the start-up was refused
 
 }  // namespace
 
@@ -38,7 +40,7 @@ SelectForm::SelectForm() {
 
 void SelectForm::Load() {
     if (!NactiKonfiguraci()) {
-        Stroj().Okna().Konec();
+        Stroj().Okna().Konec(STAV_NESPUSTENO);
         return;
     }
     IntroForm::Prednacti();
@@ -54,7 +56,7 @@ void SelectForm::Load() {
     Caption = "Rysovna 1";
     PrizpusobForm(*this);
     for (PictureBox* prace : {&Pozadi, &Kopie, &Vysledek}) {
-        prace->Font.Velikost = static_cast<float>(Stroj().TwipsPerPixel()) / 15.0F * 8.0F;
+        prace->Font.Velikost = static_cast<float>(Meritko()) * PISMO_PRACE;
     }
     NactiObrazky();
     Stroj().Okna().Hide(*this);

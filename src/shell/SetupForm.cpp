@@ -9,6 +9,7 @@
 #include "shell/HelpForm.h"
 #include "shell/Konec.h"
 #include "shell/Misc.h"
+#include "shell/Prechody.h"
 #include "shell/Rolovani.h"
 #include "shell/SelectForm.h"
 #include "shell/Ulohy.h"
@@ -40,10 +41,10 @@ void SetupForm::Load() {
     Maximised = true;
     Caption = "Rysovna 1";
     PrizpusobForm(*this);
-    const float meritko = static_cast<float>(Stroj().TwipsPerPixel()) / 15.0F;
+    const double meritko = Meritko();
     TJmeno.Height = Zaokrouhli(20 * meritko);
     TJmeno.Width = Zaokrouhli(195 * meritko);
-    TJmeno.Font.Velikost = 12 * meritko;
+    TJmeno.Font.Velikost = static_cast<float>(12 * meritko);
 
     Picture = NactiObrazek("Bitmap\\Setup\\bckg_" + DveCislice(CisloUlohy) + ".bmp");
     konec_ = NactiDvojici("Bitmap\\Setup\\back");
@@ -151,7 +152,7 @@ void SetupForm::MouseMove(Ovladac* o, const Mys&) {
         ZhasniNezvolene(ICislo, cislice_);
     } else if (o == &Image1) {
         hover_.Vstup(Hover::ZAHLAVI);
-    } else if (hover_.Opust()) {
+    } else if (o == nullptr && hover_.Opust()) {
         picKonec.Picture = konec_.Normalni;
         ZhasniNezvolene(ICislo, cislice_);
     }
@@ -166,7 +167,8 @@ void SetupForm::Click(Ovladac* o) {
 bool SetupForm::Klavesa(std::string_view klavesa) {
     if (klavesa == "Return" && picPokracuj.Visible) {
         SpustDesku();
-    } else if (klavesa == "Escape") {
+    } else if (klavesa == "Escape" && TJmeno.Text.empty()) {
+        // With a name there, one key by mistake must not throw it away.
         ZpetDoMenu();
     } else {
         return false;

@@ -22,7 +22,8 @@ namespace {
 constexpr std::string_view KONEC_RADKU = "\r\n";
 
 /// Splits a line at a separator into N fields; what stands behind the last is dropped, those that
-/// the line does not reach are empty.
+/// the line does not reach are empty. Lines that were cut short are read as they are here, in the
+/// task files too: the data tool is what reports them.
 template <std::size_t N>
 std::array<std::string_view, N> Rozdel(std::string_view radek, char oddelovac) {
     std::array<std::string_view, N> pole{};
@@ -73,7 +74,8 @@ void NactiZnamky(std::string_view soubor) {
         if (i > decltype(ZnamkyTab)::POSLEDNI) {
             throw BehovaChyba("Tabulka známek má více než 5 řádků", misto);
         }
-        const auto pole = Rozdel<3>(radek, '|');
+        const std::string text = Z1250(radek, misto);
+        const auto pole = Rozdel<3>(text, '|');
         std::ranges::transform(pole, ZnamkyTab[i].begin(),
                                [&](std::string_view p) { return BajtZnamky(p, misto); });
     }

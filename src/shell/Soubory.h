@@ -13,7 +13,8 @@ namespace rysovna {
 // the file, and the line where there is one.
 
 /// Reads the grade table into ZnamkyTab: one to five lines "lower|upper|grade". What is no number
-/// is 0; a fraction rounds, ties to even. A sixth line and a value outside 0 to 255 are faults.
+/// is 0; a fraction rounds, ties to even. A sixth line, a value outside 0 to 255 and a byte that
+/// the code page does not define are faults.
 void NactiZnamky(std::string_view soubor);
 
 /// The grade, as text, for points won of all points. Of rows that overlap the last wins; a

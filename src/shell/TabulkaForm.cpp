@@ -4,6 +4,8 @@
 #include "platform/Host.h"
 #include "shell/HelpForm.h"
 #include "shell/Misc.h"
+#include "shell/Prechody.h"
+#include "shell/Zdroje.h"
 
 namespace rysovna {
 namespace {
@@ -37,13 +39,12 @@ void TabulkaForm::Load() {
     picKonec.Picture = konec_.Normalni;
     INadpis.Picture = NactiObrazek("Bitmap\\Tab\\bckg_" + DveCislice(CisloUlohy) + ".bmp");
 
-    const float meritko = static_cast<float>(Stroj().TwipsPerPixel()) / 15.0F;
+    const double meritko = Meritko();
     for (auto* sloupec : {&LPoradi, &LJmeno, &LSpravne, &LSpatne, &LZnamka}) {
         const int prvni = sloupec->front().Top;
         for (Label& pole : *sloupec) {
-            pole.Top =
-                prvni + Zaokrouhli(meritko * static_cast<float>(ROZTEC_RADKU * (pole.Index - 1)));
-            pole.Font.Velikost = meritko * PISMO_RADKU;
+            pole.Top = prvni + Zaokrouhli(meritko * ROZTEC_RADKU * (pole.Index - 1));
+            pole.Font.Velikost = static_cast<float>(meritko) * PISMO_RADKU;
             // A name of any length stays on its row and is cut at the column's edge.
             pole.WordWrap = false;
         }

@@ -58,8 +58,8 @@ constexpr PravidlaTrojuhelniku PRAVIDLA{"Sestroj trojúhelník ABC:",
 
 // ---- Values of an example --------------------------------------------------------------------
 
-/// How the three values of a kind are drawn. Of two angles, klic is drawn first in meaning: the
-/// other one is drawn again by it.
+/// How the three values of a kind are drawn. Of two angles the other one is drawn again by the key
+/// angle.
 struct Losovani {
     std::string_view Druh;
     std::array<Vzorec, 3> Vzorce;
@@ -77,7 +77,7 @@ constexpr Losovani LOSOVANI[] = {
     {"7", {{KLICOVY, UHEL, STRANA}}, 0, 1},
 };
 
-/// The other angle, drawn again by the key angle: key up to 60 degrees, up to 90 degrees.
+/// The other angle, drawn again where Nad < key angle <= Nejvyse, degrees.
 struct DruhyUhel {
     int Nad, Nejvyse;
     Vzorec Jiny;

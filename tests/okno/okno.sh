@@ -5,6 +5,7 @@
 # The values of the example are not known here: the pupil types and draws 15 everywhere, which
 # always closes the triangle and costs at most six points.
 set -eu
+export LC_ALL=C.UTF-8  # Czech letters are typed and looked for
 
 staging="$1"
 sirka="${2:-1920}"

@@ -174,6 +174,7 @@ private:
         PoleZVyctu();
         Dvojice();
         Trojuhelnik();
+        Reseni();
     }
 
     [[nodiscard]] std::string_view Pole(int i) const {
@@ -219,7 +220,9 @@ private:
         for (const PravidloDvojice& p : DVOJICE) {
             if (!Plati(p)) continue;
             if (p.vazba == Vazba::NazevAJednotka) {
-                const std::string_view jednotka = JeMezi(Pole(p.Pole), UHLY) ? STUPNE : CM;
+                const std::string_view jednotka = JeMezi(Pole(p.Pole), UHLY)            ? STUPNE
+                                                  : JeMezi(Pole(p.Pole), ROVNOBEZNOSTI) ? ""
+                                                                                        : CM;
                 if (Pole(p.Druhe) != jednotka) CekaSe(p.Druhe, Uvozovky(jednotka));
             } else if (Pole(p.Pole).empty() != Pole(p.Druhe).empty()) {
                 PridejPole(Pole(p.Pole).empty() ? p.Pole : p.Druhe,
@@ -241,6 +244,17 @@ private:
             CekaSe(10, Uvozovky(u1) + (u1 == u2 ? "" : " nebo " + Uvozovky(u2)));
         } else if (const std::string_view zbyva = Pole(10) == u1 ? u2 : u1; Pole(11) != zbyva) {
             CekaSe(11, Uvozovky(zbyva));
+        }
+    }
+
+    /// Solution entries of a tangent exercise, whole: the board finds them by these names.
+    void Reseni() {
+        if (DeskaUlohy(soubor_.Uloha) != Deska::TecnyForm) return;
+        const auto* const r = std::ranges::find(RESENI, Pole(1), &PravidloReseni::Druh);
+        for (int i = 0; i < static_cast<int>(std::size(r->Pole)); ++i) {
+            const std::string_view ma = r->Pole[i];
+            const int pole = PRVNI_POLE_RESENI + i;
+            if (Pole(pole) != ma) CekaSe(pole, ma.empty() ? "prázdné" : Uvozovky(ma));
         }
     }
 

@@ -18,9 +18,10 @@ struct PravidloDruhu {
     int Od, Po;
 };
 constexpr PravidloDruhu DRUHY[]{
-    {1, 1, 1, 1, 1},  {2, 2, 1, 2, 4},    {3, 3, 1, 5, 7},    {4, 4, 2, 1, 6},
-    {5, 5, 2, 7, 12}, {6, 6, 2, 13, 18},  {7, 7, 2, 19, 24},  {8, 8, 2, 25, 27},
-    {9, 9, 2, 1, 32}, {10, 10, 2, 1, 60}, {11, 11, 2, 1, 32}, {12, 20, 2, 1, 9},
+    {1, 1, 1, 1, 1},    {2, 2, 1, 2, 4},   {3, 3, 1, 5, 7},   {4, 4, 2, 1, 6},   {5, 5, 2, 7, 12},
+    {6, 6, 2, 13, 18},  {7, 7, 2, 19, 24}, {8, 8, 2, 25, 27}, {9, 9, 2, 1, 32},  {10, 10, 2, 1, 60},
+    {11, 11, 2, 1, 32}, {12, 12, 2, 4, 4}, {13, 13, 2, 5, 5}, {14, 14, 2, 7, 7}, {15, 15, 2, 8, 8},
+    {16, 16, 2, 6, 6},  {17, 17, 2, 9, 9}, {18, 18, 2, 1, 1}, {19, 19, 2, 2, 2}, {20, 20, 2, 3, 3},
 };
 
 /// A triangle by three quantities, whole: what is given is settled by the kind.
@@ -49,6 +50,10 @@ constexpr std::string_view VYSKY[]{"va", "vb", "vc"};
 constexpr std::string_view TEZNICE[]{"ta", "tb", "tc"};
 constexpr std::string_view CTYRI[]{"a",    "b",    "c",     "d",  "e",  "f",  "alfa",
                                    "beta", "gama", "delta", "va", "vb", "vc", "vd"};
+// The fourth and fifth quantity of a trapezoid; one of them is the parallelism.
+constexpr std::string_view LICHOBEZNIKU[]{"a",     "b",     "c",      "d",      "alfa",  "beta",
+                                          "gama",  "delta", "AB||CD", "BC||DA", "CD||AB", "DA||BC"};
+constexpr std::string_view ROVNOBEZNOSTI[]{"AB||CD", "BC||DA", "CD||AB", "DA||BC"};
 constexpr std::string_view ROVNOBEZNIKU[]{"a",    "b",    "c",    "d",    "e",    "f",
                                           "alfa", "beta", "gama", "delt", "epsi", "omeg"};
 constexpr std::string_view TROJUHELNIK4[]{"ABC", "BCD", "CDA", "DAB"};
@@ -63,9 +68,7 @@ constexpr std::string_view PRVKY_CTYRU[]{"KA",   "KB",   "KC",   "KD",   "AXAD",
                                          "BXBC", "BXBA", "CXCD", "CXCB", "DXDA", "DXDC"};
 constexpr std::string_view PRVKY_LICHO[]{"KA",   "KB",   "KC",   "KD",   "AXAD", "AXAB",
                                          "BXBC", "BXBA", "CXCD", "CXCB", "DXDA", "DXDC",
-                                         "AB",   "BC",   "CD",   "DA"};
-constexpr std::string_view UTVARY_TECEN[]{
-    "poloprimka", "rovnobezka", "kolmice", "kruznice", "primka", "prusecik", "stred", "osa", ""};
+                                         "va",   "vb",   "vc",   "vd"};
 
 /// A field of a line may hold one of these words only.
 struct PravidloPole {
@@ -107,8 +110,8 @@ constexpr PravidloPole POLE[]{
     {11, 11, 3, CTYRI},
     {11, 11, 4, CTYRI},
     {11, 11, 5, CTYRI},
-    {11, 11, 10, CTYRI},
-    {11, 11, 14, CTYRI},
+    {11, 11, 10, LICHOBEZNIKU},
+    {11, 11, 14, LICHOBEZNIKU},
     {9, 9, 12, UTVARY_CTYRU},
     {9, 9, 16, UTVARY_CTYRU},
     {9, 9, 13, PRVKY_CTYRU},
@@ -122,15 +125,27 @@ constexpr PravidloPole POLE[]{
     {10, 10, 3, ROVNOBEZNIKU},
     {10, 10, 4, ROVNOBEZNIKU},
     {10, 10, 5, ROVNOBEZNIKU},
-    // tangents and circles: kinds of the eight steps
-    {12, 20, 9, UTVARY_TECEN},
-    {12, 20, 11, UTVARY_TECEN},
-    {12, 20, 13, UTVARY_TECEN},
-    {12, 20, 15, UTVARY_TECEN},
-    {12, 20, 17, UTVARY_TECEN},
-    {12, 20, 19, UTVARY_TECEN},
-    {12, 20, 21, UTVARY_TECEN},
-    {12, 20, 23, UTVARY_TECEN},
+};
+
+/// The solution entries of a tangent exercise, from field 8 on: name and kind. All entries past
+/// them are empty.
+constexpr int PRVNI_POLE_RESENI = 8;
+struct PravidloReseni {
+    std::string_view Druh;
+    std::string_view Pole[16];
+};
+constexpr PravidloReseni RESENI[]{
+    {"01", {"A1", "prusecik", "A2", "prusecik", "t1", "rovnobezka", "t2", "rovnobezka"}},
+    {"02", {"A1", "prusecik", "A2", "prusecik", "t1", "kolmice", "t2", "kolmice"}},
+    {"03", {"B", "stred", "T1", "prusecik", "T2", "prusecik", "t1", "primka", "t2", "primka"}},
+    {"04", {"B", "prusecik", "C", "stred", "k", "kruznice"}},
+    {"05", {"C", "stred", "D", "prusecik", "k", "kruznice"}},
+    {"06", {"C", "stred", "D", "prusecik", "k", "kruznice"}},
+    {"07", {"B", "prusecik", "C", "stred", "k", "kruznice"}},
+    {"08", {"B", "prusecik", "k", "kruznice"}},
+    {"09",
+     {"B1", "prusecik", "B2", "prusecik", "S1", "stred", "S2", "stred", "l1", "kruznice", "l2",
+      "kruznice"}},
 };
 
 /// Two fields that belong together: a quantity and its unit, or a name and a kind that are either
@@ -148,11 +163,7 @@ constexpr PravidloDvojice DVOJICE[]{
     {11, 11, 14, 15, Vazba::NazevAJednotka}, {10, 10, 10, 11, Vazba::ObeNeboZadne},
     {10, 10, 12, 13, Vazba::ObeNeboZadne},   {10, 10, 14, 15, Vazba::ObeNeboZadne},
     {10, 10, 16, 17, Vazba::ObeNeboZadne},   {10, 10, 18, 19, Vazba::ObeNeboZadne},
-    {10, 10, 20, 21, Vazba::ObeNeboZadne},   {12, 20, 8, 9, Vazba::ObeNeboZadne},
-    {12, 20, 10, 11, Vazba::ObeNeboZadne},   {12, 20, 12, 13, Vazba::ObeNeboZadne},
-    {12, 20, 14, 15, Vazba::ObeNeboZadne},   {12, 20, 16, 17, Vazba::ObeNeboZadne},
-    {12, 20, 18, 19, Vazba::ObeNeboZadne},   {12, 20, 20, 21, Vazba::ObeNeboZadne},
-    {12, 20, 22, 23, Vazba::ObeNeboZadne},
+    {10, 10, 20, 21, Vazba::ObeNeboZadne},
 };
 
 /// Numbers of wrong steps that the boards charge, each with a sentence in Errors.
@@ -160,7 +171,8 @@ struct RozsahKroku {
     int Od, Po;
 };
 constexpr RozsahKroku CHYBNE_KROKY[]{
-    {1, 3}, {7, 16}, {18, 23}, {27, 34}, {38, 43}, {45, 45}, {300, 301},
+    {1, 3},     {7, 16},    {18, 43},   {45, 46},   {49, 49},   {52, 60},   {101, 101}, {112, 120},
+    {124, 124}, {126, 128}, {130, 135}, {137, 137}, {202, 212}, {214, 217}, {219, 219}, {300, 301},
 };
 
 }  // namespace rysovna::kodovani

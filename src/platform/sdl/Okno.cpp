@@ -1,31 +1,17 @@
 #include "platform/sdl/Okno.h"
 
 #include <SDL.h>
-#include <SDL_syswm.h>
 #include <algorithm>
 #include <cmath>
 
 #include "platform/Obrazovky.h"
+#include "platform/sdl/OknoX11.h"
 
 namespace rysovna {
 
 namespace {
 
-constexpr int NAVRH_SIRKA = 640, NAVRH_VYSKA = 480;
 constexpr const char* NAZEV = "Rysovna 1";
-
-/// The monitor that the pointer is on.
-int MonitorSMysi() {
-    int x = 0;
-    int y = 0;
-    SDL_GetGlobalMouseState(&x, &y);
-    const SDL_Point mys{x, y};
-    for (int i = 0; i < SDL_GetNumVideoDisplays(); ++i) {
-        SDL_Rect meze;
-        if (SDL_GetDisplayBounds(i, &meze) == 0 && SDL_PointInRect(&mys, &meze)) return i;
-    }
-    return 0;
-}
 
 Obdelnik CelyMonitor(int monitor) {
     SDL_Rect r{0, 0, NAVRH_SIRKA, NAVRH_VYSKA};
@@ -49,48 +35,28 @@ Okno::~Okno() {
     Zavri();
 }
 
+int Okno::MonitorSMysi() {
+    int x = 0;
+    int y = 0;
+    SDL_GetGlobalMouseState(&x, &y);
+    const SDL_Point mys{x, y};
+    for (int i = 0; i < SDL_GetNumVideoDisplays(); ++i) {
+        SDL_Rect meze;
+        if (SDL_GetDisplayBounds(i, &meze) == 0 && SDL_PointInRect(&mys, &meze)) return i;
+    }
+    return 0;
+}
+
 void Okno::Zavri() {
-    if (okno_ != nullptr) SDL_DestroyWindow(okno_);
+    if (okno_ != nullptr) {
+        SDL_HideWindow(okno_);
+        // What is still said about the window is taken while it is there.
+        SDL_PumpEvents();
+        SDL_DestroyWindow(okno_);
+    }
     okno_ = nullptr;
     ukazane_ = false;
     malir_->Znovu();
-}
-
-/// Under X without a window manager nobody would answer the wish for full screen.
-bool Okno::MaSpravceOken() const {
-    SDL_SysWMinfo info;
-    SDL_VERSION(&info.version);
-    if (SDL_GetWindowWMInfo(okno_, &info) != SDL_TRUE) return true;
-#ifdef SDL_VIDEO_DRIVER_X11
-    if (info.subsystem == SDL_SYSWM_X11) {
-        Display* d = info.info.x11.display;
-        // Looked up where the video driver has it loaded already, so that nothing is linked.
-        void* knihovna = SDL_LoadObject("libX11.so.6");
-        if (knihovna == nullptr) return true;
-        const auto atom =
-            reinterpret_cast<decltype(&XInternAtom)>(SDL_LoadFunction(knihovna, "XInternAtom"));
-        const auto vlastnost = reinterpret_cast<decltype(&XGetWindowProperty)>(
-            SDL_LoadFunction(knihovna, "XGetWindowProperty"));
-        const auto uvolni = reinterpret_cast<decltype(&XFree)>(SDL_LoadFunction(knihovna, "XFree"));
-        const auto koren = reinterpret_cast<decltype(&XDefaultRootWindow)>(
-            SDL_LoadFunction(knihovna, "XDefaultRootWindow"));
-        bool ma = true;
-        if (atom != nullptr && vlastnost != nullptr && uvolni != nullptr && koren != nullptr) {
-            Atom druh = 0;
-            int format = 0;
-            unsigned long pocet = 0;
-            unsigned long zbytek = 0;
-            unsigned char* data = nullptr;
-            vlastnost(d, koren(d), atom(d, "_NET_SUPPORTING_WM_CHECK", False), 0, 1, False,
-                      AnyPropertyType, &druh, &format, &pocet, &zbytek, &data);
-            ma = pocet > 0;
-            if (data != nullptr) uvolni(data);
-        }
-        SDL_UnloadObject(knihovna);
-        return ma;
-    }
-#endif
-    return true;
 }
 
 bool Okno::Otevri(bool celaObrazovka) {
@@ -106,7 +72,8 @@ bool Okno::Otevri(bool celaObrazovka) {
     if (okno_ == nullptr) return false;
     SDL_SetWindowMinimumSize(okno_, NAVRH_SIRKA, NAVRH_VYSKA);
     cela_ = celaObrazovka;
-    if (cela_ && MaSpravceOken()) SDL_SetWindowFullscreen(okno_, SDL_WINDOW_FULLSCREEN_DESKTOP);
+    if (cela_ && MaSpravceOken(okno_))
+        SDL_SetWindowFullscreen(okno_, SDL_WINDOW_FULLSCREEN_DESKTOP);
     malir_->Znovu();
     return true;
 }
@@ -120,7 +87,7 @@ void Okno::PrepniCelouObrazovku() {
     if (okno_ == nullptr) return;
     const int monitor = std::max(SDL_GetWindowDisplayIndex(okno_), 0);
     cela_ = !cela_;
-    if (MaSpravceOken()) {
+    if (MaSpravceOken(okno_)) {
         if (cela_) {
             SDL_SetWindowFullscreen(okno_, SDL_WINDOW_FULLSCREEN_DESKTOP);
         } else {

@@ -18,6 +18,9 @@ public:
     Okno(const Okno&) = delete;
     Okno& operator=(const Okno&) = delete;
 
+    /// The number of the monitor that the pointer is on, where the window opens.
+    [[nodiscard]] static int MonitorSMysi();
+
     /// Opens the window if it is not open yet, over the whole monitor with the pointer or as an
     /// ordinary window of the largest whole multiple of the design size that fits. False if none
     /// can be opened.
@@ -40,7 +43,6 @@ public:
     [[nodiscard]] Obdelnik NaOkno(const Obdelnik& o) const;
 
 private:
-    [[nodiscard]] bool MaSpravceOken() const;
     void Umisti(const Obdelnik& kde);
     SDL_Surface* Plocha();
 

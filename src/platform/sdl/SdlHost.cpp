@@ -3,10 +3,14 @@
 #include <SDL.h>
 #include <algorithm>
 #include <chrono>
+#include <clocale>
 #include <cstdlib>
 #include <ctime>
 #include <iostream>
 #include <optional>
+#if !defined(_WIN32) && !defined(__APPLE__)
+#include <langinfo.h>
+#endif
 
 #include "base/Chyba.h"
 #include "platform/ObrazekData.h"
@@ -14,6 +18,7 @@
 #include "platform/Surface.h"
 #include "platform/ZpravaForm.h"
 #include "platform/sdl/Okno.h"
+#include "platform/sdl/OknoX11.h"
 #include "platform/sdl/Zvuk.h"
 
 namespace rysovna {
@@ -83,7 +88,33 @@ std::string Promenna(const char* jmeno) {
     return hodnota == nullptr ? std::string() : std::string(hodnota);
 }
 
+#if !defined(_WIN32) && !defined(__APPLE__)
+/// Whether texts of this locale are UTF-8. Leaves the program's own locale as it was.
+bool JeUtf8(const char* jmeno) {
+    const char* nynejsi = std::setlocale(LC_CTYPE, nullptr);
+    const std::string puvodni = nynejsi == nullptr ? "C" : nynejsi;
+    const bool je = std::setlocale(LC_CTYPE, jmeno) != nullptr &&
+                    std::string_view(nl_langinfo(CODESET)) == "UTF-8";
+    std::setlocale(LC_CTYPE, puvodni.c_str());
+    return je;
+}
+
+/// Dead keys are put together by the input method of the locale that the environment names, and
+/// only one of UTF-8 gives Czech letters. Numbers are printed in the program's own locale, "C".
+void NastavJazykKlaves() {
+    if (JeUtf8("")) return;
+    for (const char* nahradni : {"C.UTF-8", "cs_CZ.UTF-8", "en_US.UTF-8"}) {
+        if (!JeUtf8(nahradni)) continue;
+        setenv("LC_ALL", nahradni, 1);
+        return;
+    }
+}
+#endif
+
 void NastavSdl() {
+#if !defined(_WIN32) && !defined(__APPLE__)
+    NastavJazykKlaves();
+#endif
     // The software surface opens in half the time of the accelerated one and needs less memory.
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
@@ -125,11 +156,15 @@ Odpoved SystemovaZprava(const std::string& text, const std::string& titul, Styl 
 }  // namespace
 
 struct SdlHost::Vnitrek {
+    explicit Vnitrek(SdlHost& host) : Host_(host) {}
+
     SdlHost& Host_;
     Okno Okno_;
     Zvuk Zvuk_;
-    std::optional<bool> Pise;
+    /// Where text is typed, design pixels; BEZ_BODU where none is. Nothing before the first look.
+    std::optional<Bod> Pise;
     bool MelZamereni = false;
+    bool Prepnuto = false;  ///< the program has switched the mode: what follows restores it
 
     void Zpracuj();
     void Zpracuj(const SDL_Event& e);
@@ -142,14 +177,20 @@ struct SdlHost::Vnitrek {
 
 SdlHost::SdlHost() {
     if (!MaDisplej()) Selhani("Není k dispozici obrazovka");
-    vnitrek_.reset(new Vnitrek{*this, {}, {}, {}, false});
+    vnitrek_ = std::make_unique<Vnitrek>(*this);
     const RezimObrazovky rezim = GetDeviceCaps();
     NastavOcekavaneMeritko(Umisteni::Vejdi(rezim.Sirka, rezim.Vyska).S);
 }
 
 SdlHost::~SdlHost() {
+    const bool zvukSkoncil = vnitrek_ == nullptr || vnitrek_->Zvuk_.Skonci();
     vnitrek_.reset();
-    SDL_Quit();
+    if (zvukSkoncil) {
+        SDL_Quit();
+    } else {
+        // The device is still being opened: nobody waits for it, and nobody takes it away.
+        SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    }
 }
 
 bool SdlHost::MaDisplej() {
@@ -158,7 +199,10 @@ bool SdlHost::MaDisplej() {
     if (Promenna("DISPLAY").empty() && Promenna("WAYLAND_DISPLAY").empty()) return false;
 #endif
     NastavSdl();
-    if (SDL_WasInit(SDL_INIT_VIDEO) == 0 && SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return false;
+    if (SDL_WasInit(SDL_INIT_VIDEO) == 0) {
+        if (!Promenna("DISPLAY").empty()) SnesPozdniZpravy();
+        if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return false;
+    }
     const char* ovladac = SDL_GetCurrentVideoDriver();
     const std::string jmeno = ovladac == nullptr ? "" : ovladac;
     return !jmeno.empty() && jmeno != "offscreen" && jmeno != "dummy";
@@ -207,12 +251,17 @@ void SdlHost::SndPlaySound(std::string_view cesta) {
 
 RezimObrazovky SdlHost::GetDeviceCaps() {
     SDL_DisplayMode rezim{};
-    if (SDL_GetDesktopDisplayMode(0, &rezim) != 0) return {};
+    if (SDL_GetDesktopDisplayMode(Okno::MonitorSMysi(), &rezim) != 0) return {};
     return {rezim.w, rezim.h, static_cast<int>(SDL_BYTESPERPIXEL(rezim.format)) * 8};
 }
 
 int SdlHost::ChangeDisplaySettings(const RezimObrazovky& rezim) {
-    if (rezim == REZIM_PROGRAMU) return vnitrek_->Okno_.Otevri(true) ? 0 : -1;
+    // A screen may have had the program's own mode before: the mode alone does not tell a switch
+    // from its restoring.
+    if (rezim == REZIM_PROGRAMU && !vnitrek_->Prepnuto) {
+        vnitrek_->Prepnuto = true;
+        return vnitrek_->Okno_.Otevri(true) ? 0 : -1;
+    }
     vnitrek_->Okno_.Zavri();
     return 0;
 }
@@ -267,15 +316,14 @@ void SdlHost::PsaniTextu(bool ano, int x, int y) {
 /// Typed text is wanted while a text box has the focus; key combinations work without it.
 void SdlHost::Vnitrek::SrovnejPsani() {
     const TextBox* t = Host_.Okna().Psane();
-    if (Pise == (t != nullptr)) return;
-    Pise = t != nullptr;
-    int x = 0;
-    int y = 0;
+    Bod kde = t == nullptr ? BEZ_BODU : Bod{};
     for (const Ovladac* o = t; o != nullptr; o = o->Rodic) {
-        x += o->Left;
-        y += o->Top;
+        kde.X += o->Left;
+        kde.Y += o->Top;
     }
-    Host_.PsaniTextu(*Pise, x, y);
+    if (Pise == kde) return;
+    Pise = kde;
+    Host_.PsaniTextu(t != nullptr, kde.X, kde.Y);
 }
 
 void SdlHost::Vnitrek::Zpracuj() {
@@ -326,6 +374,8 @@ void SdlHost::Vnitrek::Klavesa(const SDL_KeyboardEvent& k) {
         if (k.repeat == 0) Okno_.PrepniCelouObrazovku();
         return;
     }
+    // One press of these may lead through one screen only.
+    if (k.repeat != 0 && (enter || kod == SDLK_ESCAPE)) return;
     for (const auto& p : POVELY) {
         if (p.Kod != kod || p.Drzeno != drzeno) continue;
         Host_.Okna().Klavesa(p.Jmeno, CTRL);

@@ -27,8 +27,8 @@ public:
     Odpoved MsgBox(const std::string& text, const std::string& titul, Styl styl) override;
     void SndPlaySound(std::string_view cesta) override;
     [[nodiscard]] RezimObrazovky GetDeviceCaps() override;
-    /// 640 by 480 fills the screen; any other mode puts the window away. 0 unless no window can
-    /// be opened.
+    /// 640 by 480 fills the screen, the first time; any other mode, and any later call, puts the
+    /// window away. 0 unless no window can be opened.
     int ChangeDisplaySettings(const RezimObrazovky& rezim) override;
     /// The executable's folder if it holds Rysovna.ini (any case), else the user's configuration
     /// folder (rysovna below $XDG_CONFIG_HOME or ~/.config) if it holds one, else /etc/rysovna.

@@ -2,50 +2,131 @@
 
 #include <SDL.h>
 #include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
+#include <cstdlib>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
 
 namespace rysovna {
 
+namespace {
+
+/// How long the end of the program waits for the thread.
+constexpr std::chrono::milliseconds NEJDELE_CEKA{300};
+
+#ifdef __linux__
+bool MaPromennou(const char* jmeno) {
+    const char* hodnota = std::getenv(jmeno);
+    return hodnota != nullptr && *hodnota != '\0';
+}
+
+bool JeNaDisku(const std::filesystem::path& cesta) {
+    std::error_code chyba;
+    return std::filesystem::exists(cesta, chyba);
+}
+#endif
+
+/// Whether there is anything to ask for a device. Where there is nothing, the sound libraries
+/// would only complain about it on the error output.
+bool MuzeZnit() {
+#ifdef __linux__
+    if (MaPromennou("SDL_AUDIODRIVER") || MaPromennou("PULSE_SERVER")) return true;
+    if (JeNaDisku("/dev/snd")) return true;
+    if (!MaPromennou("XDG_RUNTIME_DIR")) return false;
+    const std::filesystem::path beh = std::getenv("XDG_RUNTIME_DIR");
+    return JeNaDisku(beh / "pulse/native") || JeNaDisku(beh / "pipewire-0");
+#else
+    return true;
+#endif
+}
+
+}  // namespace
+
+struct Zvuk::Prace {
+    using Vzorky = std::vector<std::uint8_t>;
+
+    std::mutex Zamek;
+    std::condition_variable Budik;
+    // Guarded by Zamek.
+    std::optional<std::filesystem::path> Zadany;
+    bool Zacala = false;  ///< the thread was started
+    bool Konec = false;   ///< the thread is to end
+    bool Hotovo = false;  ///< the thread has ended its work
+
+    // The thread's own.
+    std::uint32_t Zarizeni = 0;
+    std::uint16_t Format = 0;
+    std::uint8_t Kanaly = 0;
+    int Frekvence = 0;
+    std::map<std::filesystem::path, Vzorky> Nactene;
+
+    void Pracuj();
+    bool OtevriZarizeni();
+    const Vzorky& DejVzorky(const std::filesystem::path& soubor);
+};
+
+Zvuk::Zvuk() : prace_(std::make_shared<Prace>()) {}
+
 Zvuk::~Zvuk() {
-    if (!vlakno_.joinable()) return;
-    {
-        const std::lock_guard drzi(zamek_);
-        konec_ = true;
-    }
-    budik_.notify_one();
-    vlakno_.join();
+    Skonci();
 }
 
 void Zvuk::Zahraj(std::filesystem::path soubor) {
+    bool zacina = false;
     {
-        const std::lock_guard drzi(zamek_);
-        zadany_ = std::move(soubor);
+        const std::lock_guard drzi(prace_->Zamek);
+        if (prace_->Konec) return;
+        prace_->Zadany = std::move(soubor);
+        zacina = !prace_->Zacala;
+        prace_->Zacala = true;
     }
-    if (!vlakno_.joinable()) vlakno_ = std::thread([this] { Pracuj(); });
-    budik_.notify_one();
+    if (zacina) std::thread([prace = prace_] { prace->Pracuj(); }).detach();
+    prace_->Budik.notify_all();
 }
 
-void Zvuk::Pracuj() {
-    const bool mame = OtevriZarizeni();
+bool Zvuk::Skonci() {
+    std::unique_lock drzi(prace_->Zamek);
+    if (prace_->Konec) return skoncil_;
+    prace_->Konec = true;
+    prace_->Budik.notify_all();
+    skoncil_ = prace_->Budik.wait_for(drzi, NEJDELE_CEKA,
+                                      [this] { return !prace_->Zacala || prace_->Hotovo; });
+    return skoncil_;
+}
+
+void Zvuk::Prace::Pracuj() {
+    const bool mame = MuzeZnit() && OtevriZarizeni();
     while (true) {
         std::filesystem::path soubor;
         {
-            std::unique_lock drzi(zamek_);
-            budik_.wait(drzi, [this] { return konec_ || zadany_.has_value(); });
-            if (konec_) break;
-            soubor = std::move(*zadany_);
-            zadany_.reset();
+            std::unique_lock drzi(Zamek);
+            Budik.wait(drzi, [this] { return Konec || Zadany.has_value(); });
+            if (Konec) break;
+            soubor = std::move(*Zadany);
+            Zadany.reset();
         }
         if (!mame) continue;
         const Vzorky& vzorky = DejVzorky(soubor);
-        SDL_ClearQueuedAudio(zarizeni_);
+        SDL_ClearQueuedAudio(Zarizeni);
         if (!vzorky.empty())
-            SDL_QueueAudio(zarizeni_, vzorky.data(), static_cast<Uint32>(vzorky.size()));
+            SDL_QueueAudio(Zarizeni, vzorky.data(), static_cast<Uint32>(vzorky.size()));
     }
-    if (zarizeni_ != 0) SDL_CloseAudioDevice(zarizeni_);
+    if (Zarizeni != 0) SDL_CloseAudioDevice(Zarizeni);
     if (mame) SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    {
+        const std::lock_guard drzi(Zamek);
+        Hotovo = true;
+    }
+    Budik.notify_all();
 }
 
-bool Zvuk::OtevriZarizeni() {
+bool Zvuk::Prace::OtevriZarizeni() {
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;
     SDL_AudioSpec chteny{};
     chteny.freq = 44100;
@@ -53,21 +134,21 @@ bool Zvuk::OtevriZarizeni() {
     chteny.channels = 2;
     chteny.samples = 1024;
     SDL_AudioSpec dany{};
-    zarizeni_ = SDL_OpenAudioDevice(nullptr, 0, &chteny, &dany, SDL_AUDIO_ALLOW_ANY_CHANGE);
-    if (zarizeni_ == 0) {
+    Zarizeni = SDL_OpenAudioDevice(nullptr, 0, &chteny, &dany, SDL_AUDIO_ALLOW_ANY_CHANGE);
+    if (Zarizeni == 0) {
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
         return false;
     }
-    format_ = dany.format;
-    kanaly_ = dany.channels;
-    frekvence_ = dany.freq;
-    SDL_PauseAudioDevice(zarizeni_, 0);
+    Format = dany.format;
+    Kanaly = dany.channels;
+    Frekvence = dany.freq;
+    SDL_PauseAudioDevice(Zarizeni, 0);
     return true;
 }
 
 /// The whole sound in the format of the device; empty if it cannot be read or converted.
-const Zvuk::Vzorky& Zvuk::DejVzorky(const std::filesystem::path& soubor) {
-    const auto [misto, nove] = nactene_.try_emplace(soubor);
+const Zvuk::Prace::Vzorky& Zvuk::Prace::DejVzorky(const std::filesystem::path& soubor) {
+    const auto [misto, nove] = Nactene.try_emplace(soubor);
     Vzorky& vzorky = misto->second;
     if (!nove) return vzorky;
     SDL_AudioSpec spec{};
@@ -75,8 +156,8 @@ const Zvuk::Vzorky& Zvuk::DejVzorky(const std::filesystem::path& soubor) {
     Uint32 delka = 0;
     if (SDL_LoadWAV(soubor.c_str(), &spec, &data, &delka) == nullptr) return vzorky;
     SDL_AudioCVT prevod{};
-    const int potreba = SDL_BuildAudioCVT(&prevod, spec.format, spec.channels, spec.freq, format_,
-                                          kanaly_, frekvence_);
+    const int potreba = SDL_BuildAudioCVT(&prevod, spec.format, spec.channels, spec.freq, Format,
+                                          Kanaly, Frekvence);
     if (potreba >= 0) {
         // The conversion works in place and needs room for its widest stage.
         vzorky.resize(std::size_t{delka} *

@@ -1,13 +1,7 @@
 #pragma once
 
-#include <condition_variable>
-#include <cstdint>
 #include <filesystem>
-#include <map>
-#include <mutex>
-#include <optional>
-#include <thread>
-#include <vector>
+#include <memory>
 
 namespace rysovna {
 
@@ -16,7 +10,7 @@ namespace rysovna {
 /// is silent.
 class Zvuk {
 public:
-    Zvuk() = default;
+    Zvuk();
     ~Zvuk();
     Zvuk(const Zvuk&) = delete;
     Zvuk& operator=(const Zvuk&) = delete;
@@ -24,25 +18,14 @@ public:
     /// Starts a sound; the one that is playing ends. One that waits still is forgotten.
     void Zahraj(std::filesystem::path soubor);
 
+    /// Ends the thread; later sounds are silent. False if it hangs in the device still: then it is
+    /// left alone, and the audio part of the library must not be closed.
+    bool Skonci();
+
 private:
-    using Vzorky = std::vector<std::uint8_t>;
-
-    void Pracuj();
-    bool OtevriZarizeni();
-    const Vzorky& DejVzorky(const std::filesystem::path& soubor);
-
-    std::thread vlakno_;
-    std::mutex zamek_;
-    std::condition_variable budik_;
-    std::optional<std::filesystem::path> zadany_;  ///< guarded by zamek_
-    bool konec_ = false;                           ///< guarded by zamek_
-
-    // The thread's own.
-    std::uint32_t zarizeni_ = 0;
-    std::uint16_t format_ = 0;
-    std::uint8_t kanaly_ = 0;
-    int frekvence_ = 0;
-    std::map<std::filesystem::path, Vzorky> nactene_;
+    struct Prace;
+    std::shared_ptr<Prace> prace_;  ///< shared with the thread, which may outlive this object
+    bool skoncil_ = true;           ///< what Skonci gave
 };
 
 }  // namespace rysovna

@@ -1,0 +1,18 @@
+#include "tasks/CtyrUForm.h"
+
+namespace rysovna {
+
+namespace {
+
+const PravidlaCtyruhelniku PRAVIDLA{"Sestroj čtyřúhelník ABCD:", CELE_TROJUHELNIKY, VETY_CELYCH};
+constexpr PravidlaVrcholu VRCHOL{.Rovnobezky = false, .HoleStrany = false};
+
+}  // namespace
+
+CtyrUDialog::CtyrUDialog(Platna platna) : DialogCtyruhelnikuVrchol(platna, PRAVIDLA, VRCHOL) {}
+
+std::unique_ptr<Dialog> CtyrUForm::VyrobDialog(Platna platna) {
+    return std::make_unique<CtyrUDialog>(platna);
+}
+
+}  // namespace rysovna

@@ -1,0 +1,18 @@
+#include "tasks/LichoForm.h"
+
+namespace rysovna {
+
+namespace {
+
+const PravidlaCtyruhelniku PRAVIDLA{"Sestroj lichoběžník ABCD:", CELE_TROJUHELNIKY, VETY_CELYCH};
+constexpr PravidlaVrcholu VRCHOL{.Rovnobezky = true, .HoleStrany = true};
+
+}  // namespace
+
+LichoDialog::LichoDialog(Platna platna) : DialogCtyruhelnikuVrchol(platna, PRAVIDLA, VRCHOL) {}
+
+std::unique_ptr<Dialog> LichoForm::VyrobDialog(Platna platna) {
+    return std::make_unique<LichoDialog>(platna);
+}
+
+}  // namespace rysovna

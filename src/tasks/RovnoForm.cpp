@@ -1,0 +1,333 @@
+#include "tasks/RovnoForm.h"
+
+#include <algorithm>
+
+#include "base/Cisla.h"
+#include "engine/Kresleni.h"
+#include "engine/Tabulky.h"
+#include "shell/Misc.h"
+#include "shell/Soubory.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr std::string_view TROJUHELNIKY[] = {"ABC", "BCD", "CDA", "DAB",
+                                             "ABS", "BCS", "CDS", "DAS"};
+
+// Whole triangles as on every quadrilateral. In a triangle with the centre S the halves of the
+// diagonals are typed; the angle of the diagonals has no number of its own.
+constexpr VetaTrojuhelniku SeStranou(std::string_view t, VstupVety strana, VstupVety druha,
+                                     VstupVety treti) {
+    return {"sss", t, t, {strana, druha, treti}};
+}
+constexpr VstupVety AS{"e", "AS", 127, true}, BS{"f", "BS", 128, true}, CS{"e", "CS", 127, true},
+    DS{"f", "DS", 128, true};
+constexpr VstupVety EPSI{"epsi", "epsi", 0}, OMEG{"omeg", "omeg", 0};
+const std::vector<VetaTrojuhelniku>& Vety() {
+    static const std::vector<VetaTrojuhelniku> vety = [] {
+        std::vector<VetaTrojuhelniku> v(VETY_CELYCH.begin(), VETY_CELYCH.end());
+        v.push_back(SeStranou("ABS", {"a", "a", 113}, BS, AS));
+        v.push_back(SeStranou("BCS", {"b", "b", 114}, CS, BS));
+        v.push_back(SeStranou("CDS", {"c", "c", 115}, DS, CS));
+        v.push_back(SeStranou("DAS", {"d", "d", 116}, AS, DS));
+        v.push_back({"sus", "ABS", "ASB", {AS, BS, EPSI}});
+        v.push_back({"sus", "BCS", "BSC", {BS, CS, OMEG}});
+        v.push_back({"sus", "CDS", "CSD", {CS, DS, EPSI}});
+        v.push_back({"sus", "DAS", "DSA", {DS, AS, OMEG}});
+        return v;
+    }();
+    return vety;
+}
+
+const PravidlaCtyruhelniku& PravidlaDesky() {
+    static const PravidlaCtyruhelniku pravidla{"Sestroj rovnoběžník ABCD:", TROJUHELNIKY, Vety()};
+    return pravidla;
+}
+
+/// How the three values are drawn, kinds from Od to Po (two digits, so text compares as numbers).
+struct Losovani {
+    std::string_view Od, Po;
+    Vzorec Treti;     ///< the third value, where it is an angle
+    bool Uhel;        ///< two diagonals, the first the longer, and their angle
+    bool Uhlopricky;  ///< the two diagonals are even; their halves fit the third value
+};
+constexpr Vzorec DELKA{12, 10};
+constexpr Losovani LOSOVANI[] = {
+    {"01", "24", DELKA, false, false},  {"25", "56", DELKA, false, true},
+    {"57", "57", {70, 91}, true, true}, {"58", "58", {67, 22}, true, true},
+    {"59", "59", {70, 91}, true, true}, {"60", "60", {67, 22}, true, true},
+};
+
+constexpr std::string_view STRED_SOUMERNOSTI = "stredsoumernosti", OBRAZ_BODU = "obrazbodu";
+constexpr std::string_view STRED = "S";
+constexpr int CHYBA_STRED = 112, CHYBA_VZOR = 137;
+constexpr int KROKU = 6;
+
+constexpr int NASTROJ_STRED = 1;
+constexpr int SIRKA_SEZNAMU_STREDU = 140, SIRKA_SEZNAMU_OBRAZU = 250;  // px
+
+constexpr std::string_view VYZVA_STRED = "Nyní zvol střed souměrnosti.";
+constexpr std::string_view VYZVA_STRED_KLIK = "Zvol kliknutím na kreslící ploše střed úsečky.";
+constexpr std::string_view VYZVA_OBRAZ = "Nyní najdi obraz bodů ve středové souměrnosti.";
+constexpr std::string_view VYZVA_OBRAZ_KLIK =
+    "Zvol kliknutím na kreslící ploše obraz ve střed. souměrnosti.";
+
+constexpr int TVARY[] = {10, 11, 12, 13, 14, 15};
+
+bool JeUhlopricka(std::string_view nazev) {
+    return nazev == "e" || nazev == "f";
+}
+bool Sude(int x) {
+    return x % 2 == 0;
+}
+
+/// The vertex across the centre.
+char Protejsi(char vrchol) {
+    constexpr std::string_view VRCHOLY = "ABCD";
+    const std::size_t i = VRCHOLY.find(vrchol);
+    return i == std::string_view::npos ? vrchol : VRCHOLY[(i + 2) % 4];
+}
+
+bool Vyhovuje(const Losovani& l, const std::string_view (&nazvy)[3], const Hodnoty5& h) {
+    if (l.Uhel) return h[0] > h[1] && Sude(h[0]) && Sude(h[1]);
+    double delky[3];
+    for (std::size_t i = 0; i < 3; ++i) {
+        const bool pulka = l.Uhlopricky && JeUhlopricka(nazvy[i]);
+        if (pulka && !Sude(h[i])) return false;
+        delky[i] = pulka ? h[i] / 2.0 : h[i];
+    }
+    return Trojuhelnikova(delky[0], delky[1], delky[2]);
+}
+
+}  // namespace
+
+RovnoDialog::RovnoDialog(Platna platna) : DialogCtyruhelniku(platna, PravidlaDesky()) {}
+
+std::vector<Zadana> RovnoDialog::Zadane() const {
+    const Priklad& p = Hrany();
+    return {{p.Nazev1, p.Jednotka1}, {p.Nazev2, p.Jednotka2}, {p.Nazev3, p.Jednotka3}};
+}
+
+void RovnoDialog::VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) {
+    constexpr int NEJVIC_LOSOVANI = 20000;  // data that do not go together must not hold it up
+    const std::string_view nazvy[] = {p.Nazev1, p.Nazev2, p.Nazev3};
+    for (const Losovani& l : LOSOVANI) {
+        if (p.Druh < l.Od || p.Druh > l.Po) continue;
+        for (int i = 0; i < NEJVIC_LOSOVANI; ++i) {
+            hodnoty[0] = Generator.D(DELKA.Rozpeti, DELKA.Zaklad);
+            hodnoty[1] = Generator.D(DELKA.Rozpeti, DELKA.Zaklad);
+            hodnoty[2] = Generator.D(l.Treti.Rozpeti, l.Treti.Zaklad);
+            if (Vyhovuje(l, nazvy, hodnoty)) return;
+        }
+        return;
+    }
+}
+
+bool RovnoDialog::SeStredem() const {
+    return Stav().ZvolenyTrojuhelnik.find(STRED) != std::string::npos;
+}
+
+/// A triangle with the centre lacks two vertices, a whole one lacks one.
+int RovnoDialog::PosledniFaze() const {
+    return SeStredem() ? 5 : 4;
+}
+
+/// The centres that the data accept: of the first two steps those that are points.
+std::vector<std::string_view> RovnoDialog::Stredy() const {
+    std::vector<std::string_view> stredy;
+    for (const int n : {1, 2}) {
+        const Krok& k = Hrany().Kroky[n];
+        if (k.Utvar == BOD) stredy.push_back(k.Jmeno);
+    }
+    return stredy;
+}
+
+/// The vertices whose images are to be found, in the order in which they are asked for.
+std::vector<std::string_view> RovnoDialog::Vzory() const {
+    std::vector<std::string_view> vzory;
+    for (int n = 1; n <= KROKU; ++n) {
+        const Krok& k = Hrany().Kroky[n];
+        if (k.Utvar == OBRAZ_BODU) vzory.push_back(k.Jmeno);
+    }
+    return vzory;
+}
+
+/// The point that is looked for now: opposite to what the data expect; where they expect nothing
+/// more, the first vertex that is still missing.
+std::string RovnoDialog::HledanyBod() const {
+    const auto vzory = Vzory();
+    const auto i = static_cast<std::size_t>(Stav().Faze - 3);
+    if (i < vzory.size() && !vzory[i].empty()) {
+        const std::string bod(1, Protejsi(vzory[i][0]));
+        if (!Misto(bod)) return bod;
+    }
+    for (const char c : {'A', 'B', 'C', 'D'}) {
+        const std::string bod(1, c);
+        if (!Misto(bod)) return bod;
+    }
+    return "D";
+}
+
+/// Where a vertex is: of the triangle, or an image found already.
+std::optional<Bod> RovnoDialog::Misto(std::string_view pismeno) const {
+    for (int i = 1; i <= PocetUtvaru; ++i) {
+        const Utvar& u = Utvary[i];
+        if (u.Druh == BOD && u.Jmeno1 == pismeno) return Bod{u.X1, u.Y1};
+    }
+    return MistoVrcholu(pismeno);
+}
+
+// ---- Lists -----------------------------------------------------------------------------------
+
+void RovnoDialog::NabidniDalsi(int i) {
+    i == NASTROJ_STRED ? NabidniStredy() : NabidniObrazy();
+}
+
+void RovnoDialog::NabidniStredy() {
+    Upravit().ZvolenyUtvar = STRED_SOUMERNOSTI;
+    std::vector<RadekSeznamu> radky;
+    std::string t = Stav().ZvolenyTrojuhelnik;
+    for (const auto& [i, j] : {std::pair{0U, 1U}, std::pair{1U, 2U}, std::pair{2U, 0U}}) {
+        std::string strana{t[i], t[j]};
+        if (strana == "CA" || strana == "DB") std::swap(strana[0], strana[1]);
+        radky.push_back({"střed úsečky " + strana, true, true, strana});
+    }
+    for (const char c : t) {
+        radky.push_back({"vrchol " + std::string(1, c), true, true, std::string(1, c)});
+    }
+    OtevriSeznam(SIRKA_SEZNAMU_STREDU, std::move(radky));
+}
+
+void RovnoDialog::NabidniObrazy() {
+    Upravit().ZvolenyUtvar = OBRAZ_BODU;
+    std::vector<RadekSeznamu> radky;
+    for (const char c : {'A', 'B', 'C', 'D'}) {
+        const std::string vzor(1, c);
+        radky.push_back(
+            {"hledaný bod " + HledanyBod() + " je obrazem vrcholu " + vzor, true, true, vzor});
+    }
+    OtevriSeznam(SIRKA_SEZNAMU_OBRAZU, std::move(radky));
+}
+
+void RovnoDialog::ZvolDalsi(const RadekSeznamu& radek) {
+    Upravit().CekaNaKresleni = true;
+    Upravit().ZvolenyPrvek = radek.Tag;
+    if (Stav().ZvolenyUtvar == STRED_SOUMERNOSTI) {
+        ZvolStred(radek.Tag);
+    } else {
+        ZvolObraz(radek.Tag);
+    }
+}
+
+void RovnoDialog::ZvolStred(const std::string& kod) {
+    Zapis(BOD, kod);
+    const auto stredy = Stredy();
+    if (std::ranges::find(stredy, std::string_view(kod)) == stredy.end()) ChybnaVolba(CHYBA_STRED);
+    // A vertex stands on the plane already: there is nothing to click.
+    if (kod.size() > 1) return;
+    NakresliStred(Misto(kod).value_or(Bod{}));
+    DalsiFaze();
+}
+
+void RovnoDialog::ZvolObraz(const std::string& vzor) {
+    Zapis(OBRAZ_BODU, vzor);
+    if (Protejsi(vzor[0]) != HledanyBod()[0]) ChybnaVolba(CHYBA_VZOR);
+}
+
+bool RovnoDialog::PrvekSpravny(int faze) const {
+    const auto sedi = [](int f, std::string_view druh, const std::vector<std::string_view>& jmena) {
+        const ZadanyPrvek& z = ZadanePrvky[f];
+        return z.Utvar == druh &&
+               std::ranges::find(jmena, std::string_view(z.Prvek)) != jmena.end();
+    };
+    if (faze == 2) return sedi(2, BOD, Stredy());
+    // The images are one element together.
+    const auto vzory = Vzory();
+    for (std::size_t i = 0; i < vzory.size(); ++i) {
+        if (!sedi(3 + static_cast<int>(i), OBRAZ_BODU, {vzory[i]})) return false;
+    }
+    return !vzory.empty();
+}
+
+// ---- The plane -------------------------------------------------------------------------------
+
+void RovnoDialog::StiskPlochy(float x, float y) {
+    if (!CekaNaKresleni()) return;
+    Upravit().Tazeni = true;
+    Upravit().Start = {Zaokrouhli(x), Zaokrouhli(y)};
+}
+
+/// Marks the centre; where S is a vertex of the triangle it has its letter already.
+void RovnoDialog::NakresliStred(Bod stred) {
+    const int n = NovyUtvar(STRED, "");
+    KresliBod(platna_.Pic, BOD, STRED, n, stred.X, stred.Y, SeStredem() ? "" : STRED, "", ANO);
+}
+
+/// The click marks the computed point, near or far: where the triangle is missing, its own place.
+void RovnoDialog::PusteniPlochy(float /*x*/, float /*y*/) {
+    if (!CekaNaKresleni() || !Stav().Tazeni) return;
+    const std::string prvek = Stav().ZvolenyPrvek;
+    Bod bod = Stav().Start;
+    if (Stav().ZvolenyUtvar == STRED_SOUMERNOSTI) {
+        const auto p = Misto(prvek.substr(0, 1));
+        const auto q = Misto(prvek.substr(1));
+        if (p && q) bod = {Zaokrouhli((p->X + q->X) / 2.0), Zaokrouhli((p->Y + q->Y) / 2.0)};
+        NakresliStred(bod);
+    } else {
+        const std::string hledany = HledanyBod();
+        const auto vzor = Misto(prvek);
+        const auto stred = Misto(STRED);
+        if (vzor && stred) bod = {2 * stred->X - vzor->X, 2 * stred->Y - vzor->Y};
+        const int n = NovyUtvar(hledany, "");
+        KresliBod(platna_.Pic, BOD, hledany, n, bod.X, bod.Y, hledany, "", ANO);
+    }
+    DalsiFaze();
+    if (Stav().Faze == PosledniFaze()) Uzavri();
+}
+
+/// The sides that the triangle lacks.
+void RovnoDialog::Uzavri() {
+    if (Stav().Nesestrojen) return;
+    constexpr std::string_view STRANY[] = {"AB", "BC", "CD", "DA"};
+    for (const std::string_view s : STRANY) {
+        const std::string_view od = s.substr(0, 1);
+        const std::string_view k = s.substr(1);
+        const bool stoji = std::any_of(&Utvary[1], &Utvary[3] + 1, [&](const Utvar& u) {
+            return (u.Jmeno1 == od && u.Jmeno2 == k) || (u.Jmeno1 == k && u.Jmeno2 == od);
+        });
+        const auto p = Misto(od);
+        const auto q = Misto(k);
+        if (!stoji && p && q) NakresliStranu(od, *p, "", k, *q, "", false);
+    }
+    Upravit().HotovaKonstrukce = true;
+}
+
+// ---- The panel -------------------------------------------------------------------------------
+
+void RovnoDialog::UkazDalsi(Panel& p) const {
+    constexpr std::array<int, 6> FACES = {15, 11, 0, 0, 12, 0};
+    const bool ceka = Stav().CekaNaKresleni;
+    const bool stred = Stav().Faze == 2;
+    if (stred) {
+        p.lblText1 = ceka ? VYZVA_STRED_KLIK : VYZVA_STRED;
+    } else {
+        p.lblText1 = ceka ? VYZVA_OBRAZ_KLIK : VYZVA_OBRAZ;
+        p.lblText2 = "";
+    }
+    for (std::size_t i = 0; i < FACES.size(); ++i) {
+        const bool naRade = i == 4 || (i == 0 && stred) || (i == 1 && !stred);
+        const bool zive = !ceka && FACES[i] != 0 && naRade;
+        p.cmd[i] = {FACES[i], zive, zive};
+    }
+}
+
+std::unique_ptr<Dialog> RovnoForm::VyrobDialog(Platna platna) {
+    return std::make_unique<RovnoDialog>(platna);
+}
+
+std::span<const int> RovnoForm::Tvary() const {
+    return TVARY;
+}
+
+}  // namespace rysovna

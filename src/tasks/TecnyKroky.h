@@ -1,0 +1,103 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace rysovna {
+
+// The nine exercises of the tangent board as rows. The interpreter is TecnyDialog.
+
+/// What a step button stands for. The number is that of its face, whatNN.
+enum class Nastroj {
+    Zadny = 0,
+    Primka = 2,
+    Poloprimka = 3,
+    Kolmice = 4,
+    Rovnobezka = 5,
+    Kruznice = 6,
+    Stred = 7,
+    Osa = 8,
+    Prusecik = 9
+};
+
+/// A line of the pick list. Of a circle the name of its centre and its radius in words; of a line
+/// the names of its two points; of a perpendicular or parallel the name of its base.
+struct Volba {
+    std::string_view Prvek{}, Polomer{};
+};
+
+/// How a drawn line is held against its point.
+enum class Soud {
+    Zadny,
+    Pul,           ///< the half-pixel rule, whatever the start
+    Patnact,       ///< the 15-pixel rule, whatever the start
+    PodleZacatku,  ///< from a snapped start the half-pixel rule, otherwise the 15-pixel one
+    Konce          ///< both ends are the points of the picked row
+};
+
+/// What the step works out for the marking that follows.
+enum class Prunik { Nic, PrimkaKruznice, Primky, Kruznice };
+
+/// One step of an exercise.
+struct KrokTecny {
+    std::array<Nastroj, 4> Tvary{};  ///< faces of cmd(1) to cmd(4); Zadny: hidden
+    Nastroj Spravny = Nastroj::Zadny;
+    std::array<Nastroj, 2> Chybne{};  ///< faces that cost 3 points at the press
+    /// Names that the right object can get: the first whose solution entry is not done.
+    std::array<std::string_view, 2> Jmena{};
+    std::string_view Vyzva{};      ///< prompt of the step, on the way forward
+    std::string_view VyzvaZpet{};  ///< prompt when the pupil came by back; empty: the same
+
+    std::array<Volba, 3> Volby{};     ///< list of the right tool
+    std::string_view SpravnaVolba{};  ///< empty: any row is right
+    int ChybaVolby = 0;
+    std::string_view VedlejsiVolba{};  ///< a row that costs nothing and makes no result
+
+    /// Of a line the points through which it may go, of a midpoint the ends of its segment.
+    std::array<std::string_view, 2> Body{};
+    Soud Jak = Soud::Zadny;
+    int ChybaRysovani = 0;        ///< a line past its point, a wrong radius, a missed click
+    std::string_view NaPrimce{};  ///< of a point that was hit: the line on which it is said to lie
+    std::string_view Odecet{};    ///< of a midpoint: what stands by the pointer
+
+    Prunik Pocita = Prunik::Nic;
+    std::array<std::string_view, 2> Ceho{};
+    int ChybaPruniku = 0;  ///< when there is none; 0: costs nothing
+
+    /// Bases for perpendiculars and parallels that are not the right tool.
+    std::array<std::string_view, 3> Zakladny{};
+    std::string_view JmenoChybnehoStredu{};  ///< of a midpoint that is a wrong choice
+    std::array<Nastroj, 4> SedeTvary{};      ///< grey faces after the press; all Zadny: as Tvary
+    bool MrtveZpet = false;  ///< reached by back, the step leaves the back button dead
+};
+
+/// Marks of the sketch: eight by number and the ninth, of the segment whose axis is built.
+constexpr std::uint32_t Znacka(int i) {
+    return 1U << i;
+}
+constexpr int ZNACKA_OSY = 8;
+
+struct Cviceni {
+    std::string_view Kod{};
+    std::string_view Zadani{}, Dano{};  ///< the assignment; the given objects
+    std::uint32_t PovinneZnacky = 0;
+    std::string_view PocatekPoloprimky{};  ///< name of the start of any ray
+    std::string_view ChybnaKruznice{};     ///< name of a wrong circle; empty: "k" and the step
+    std::array<std::string_view, 2> Vysledky{};  ///< objects that the finish makes stand out
+    /// The crossings that are marked; 219 when a marking finds both done. Empty: no such charge.
+    std::array<std::string_view, 2> Plne{};
+    std::span<const KrokTecny> Kroky{};
+};
+
+/// The exercise of this code; null for any other code.
+[[nodiscard]] const Cviceni* NajdiCviceni(std::string_view kod);
+/// All nine, in the order of their codes.
+[[nodiscard]] std::span<const Cviceni> VsechnaCviceni();
+
+/// Wrong steps that do not depend on the exercise.
+constexpr int CHYBA_TLACITKO = 21;
+constexpr int CHYBA_OBA_HOTOVE = 219;
+
+}  // namespace rysovna

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "board/DeskaForm.h"
+#include "board/DialogTrojuhelniku.h"
+
+namespace rysovna {
+
+/// The dialogue of the triangle by a height or a median: five kinds of task, 27 kinds of example.
+/// Values belong to quantities by their names in the data. A parallel to a side stands for the
+/// height upon it, a circle about a side's midpoint for the median to it.
+class Troj2Dialog final : public DialogTrojuhelniku {
+public:
+    explicit Troj2Dialog(Platna platna);
+
+    /// Names the midpoint of a segment when the pointer is near it.
+    [[nodiscard]] Gumicka Prejezd(float x, float y) const override;
+
+protected:
+    void VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) override;
+    void SestavZadani(const Priklad& p, const Hodnoty3& hodnoty,
+                      std::vector<PolozkaZadani>& zadani) override;
+    [[nodiscard]] int Hodnota(std::string_view velicina) const override;
+    [[nodiscard]] bool PrvniStranaSpravna(std::string_view prvek) const override;
+    [[nodiscard]] bool KruzniceJeChyba(bool krokCekal) const override;
+    void PosudVolbuRovnobezky(std::string_view vyska) override;
+    void PosudStiskRovnobezky() override {}
+    [[nodiscard]] bool DruhSedi(const Krok& krok, std::string_view druh) const override;
+    [[nodiscard]] std::uint32_t OcekavaneZnacky() const override;
+    [[nodiscard]] bool StredVDosahu(std::string_view stred) const override;
+    [[nodiscard]] bool ZacinaSpravne() const override;
+};
+
+/// The board of the triangle by a height or a median (tasks 4 to 8).
+class Troj2Form final : public DeskaForm {
+public:
+    [[nodiscard]] std::string_view Jmeno() const override { return "Troj2Form"; }
+
+protected:
+    [[nodiscard]] std::unique_ptr<Dialog> VyrobDialog(Platna platna) override;
+    [[nodiscard]] std::span<const int> Tvary() const override;
+};
+
+}  // namespace rysovna
