@@ -306,7 +306,7 @@ void RovnoDialog::Uzavri() {
 // ---- The panel -------------------------------------------------------------------------------
 
 void RovnoDialog::UkazDalsi(Panel& p) const {
-    constexpr std::array<int, 6> FACES = {15, 11, 0, 0, 12, 0};
+    constexpr std::array<int, 6> FACES = {11, 15, 0, 0, 12, 0};
     const bool ceka = Stav().CekaNaKresleni;
     const bool stred = Stav().Faze == 2;
     if (stred) {
