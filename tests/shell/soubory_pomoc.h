@@ -1,85 +1,62 @@
 #pragma once
 
 #include <csignal>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <gtest/gtest.h>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <sys/resource.h>
 
 #include "base/Chyba.h"
+#include "podpora/Relace.h"
+#include "shell/Misc.h"
 
 namespace rysovna::testy {
 
-/// A folder that goes with the test.
-class Slozka {
-public:
-    Slozka() {
-        std::string vzor = (std::filesystem::temp_directory_path() / "rysovna_XXXXXX").string();
-        if (mkdtemp(vzor.data()) == nullptr) throw std::runtime_error("nelze založit " + vzor);
-        cesta_ = vzor;
+/// A data root to write into.
+class Soubory : public ::testing::Test {
+protected:
+    Soubory() { CestaHD = Cesta("").string(); }
+    std::filesystem::path Cesta(std::string_view s) const { return relace.DataDir() / s; }
+    std::filesystem::path Pis(const std::string& soubor, std::string_view obsah) const {
+        relace.PisSoubor(soubor, obsah);
+        return Cesta(soubor);
     }
-    ~Slozka() {
-        std::error_code nevadi;
-        std::filesystem::remove_all(cesta_, nevadi);
-    }
-    Slozka(const Slozka&) = delete;
-    Slozka& operator=(const Slozka&) = delete;
-
-    [[nodiscard]] std::filesystem::path operator/(std::string_view soubor) const {
-        return cesta_ / soubor;
-    }
-    std::filesystem::path Pis(std::string_view soubor, std::string_view obsah) const {
-        std::ofstream(cesta_ / soubor, std::ios::binary) << obsah;
-        return cesta_ / soubor;
-    }
-    [[nodiscard]] std::string Cti(std::string_view soubor) const {
-        std::ifstream proud(cesta_ / soubor, std::ios::binary);
-        return {std::istreambuf_iterator<char>(proud), std::istreambuf_iterator<char>()};
-    }
+    std::string Cti(const std::string& soubor) const { return relace.CtiSoubor(soubor); }
     /// How many files there are.
-    [[nodiscard]] auto Pocet() const {
-        return std::distance(std::filesystem::directory_iterator(cesta_), {});
+    auto Pocet() const {
+        return std::distance(std::filesystem::directory_iterator(relace.DataDir()), {});
     }
-
-private:
-    std::filesystem::path cesta_;
-};
-
-/// While it lives, no file can grow over so many bytes: a write that would is cut there and fails,
-/// as on a full disk.
-class PlnyDisk {
-public:
-    explicit PlnyDisk(rlim_t bajtu) {
-        drivejsiSignal_ = std::signal(SIGXFSZ, SIG_IGN);
-        if (getrlimit(RLIMIT_FSIZE, &drivejsi_) != 0) throw std::runtime_error("getrlimit");
-        const rlimit plny{bajtu, drivejsi_.rlim_max};
+    /// What the run-time fault of an action says, the folder cut out; empty if it ran through.
+    template <class Akce>
+    std::string Chyba(Akce&& akce) const {
+        try {
+            akce();
+        } catch (const BehovaChyba& chyba) {
+            std::string text = chyba.what();
+            const std::string cesta = Cesta("").string();
+            if (const auto i = text.find(cesta); i != text.npos) text.erase(i, cesta.size());
+            return text;
+        }
+        return {};
+    }
+    /// The same while no file can grow over so many bytes: a write that would is cut there and
+    /// fails, as on a full disk.
+    template <class Akce>
+    std::string ChybaNaPlnemDisku(rlim_t bajtu, Akce&& akce) const {
+        const auto drivejsiSignal = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit drivejsi{};
+        getrlimit(RLIMIT_FSIZE, &drivejsi);
+        const rlimit plny{bajtu, drivejsi.rlim_max};
         if (setrlimit(RLIMIT_FSIZE, &plny) != 0) throw std::runtime_error("setrlimit");
+        std::string hlaska = Chyba(akce);
+        setrlimit(RLIMIT_FSIZE, &drivejsi);
+        std::signal(SIGXFSZ, drivejsiSignal);
+        return hlaska;
     }
-    ~PlnyDisk() {
-        setrlimit(RLIMIT_FSIZE, &drivejsi_);
-        std::signal(SIGXFSZ, drivejsiSignal_);
-    }
-    PlnyDisk(const PlnyDisk&) = delete;
-    PlnyDisk& operator=(const PlnyDisk&) = delete;
-
-private:
-    rlimit drivejsi_{};
-    void (*drivejsiSignal_)(int) = nullptr;
+    Relace relace;
+    HeadlessHost& host = relace.Host();
 };
-
-/// What the run-time fault of an action says; empty if it ran through.
-template <class Akce>
-std::string Hlaska(Akce&& akce) {
-    try {
-        akce();
-    } catch (const BehovaChyba& chyba) {
-        return chyba.what();
-    }
-    return {};
-}
 
 }  // namespace rysovna::testy

@@ -1,0 +1,183 @@
+#include "shell/Kodovani.h"
+
+#include <array>
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+#include "shell/soubory_pomoc.h"
+
+namespace rysovna::testy {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Kodovani, TextJeVKazdemCtvrtemZnaku) {
+    EXPECT_EQ(DekodujRadek("xxxAyyyBzzz"), "AB");
+    std::string text;
+    for (int i = 1; i < 256; ++i) text += static_cast<char>(i);
+    const std::string ulozeny = ZakodujRadek(text);
+    EXPECT_EQ(DekodujRadek(ulozeny), text);
+    EXPECT_EQ(ulozeny, ZakodujRadek(text));
+    for (std::size_t i = 0; i < ulozeny.size(); ++i) {
+        EXPECT_TRUE((ulozeny[i] > ' ' && ulozeny[i] <= '~') || i % 4 == 3) << i;
+    }
+}
+
+TEST(Kodovani, Windows1250TamAZpet) {
+    EXPECT_EQ(Do1250("Žluťoučký kůň §°"), "\x8Elu\x9Dou\xE8k\xFD k\xF9\xF2 \xA7\xB0");
+    EXPECT_EQ(Do1250("αA⊥𝄞\xFF"), "?A???");
+    for (int i = 0; i < 256; ++i) {
+        const std::string bajt(1, static_cast<char>(i));
+        const bool chybi = std::string_view("\x81\x83\x88\x90\x98").find(bajt) < 5;
+        EXPECT_EQ(NedefinovanyBajt(bajt).has_value(), chybi) << i;
+        if (!chybi) {
+            EXPECT_EQ(Do1250(Z1250(bajt, {})), bajt) << i;
+        }
+    }
+}
+
+TEST_F(Soubory, Radky) {
+    const std::pair<std::string_view, std::vector<std::string>> pripady[]{
+        {"", {}},
+        {"\r\n", {""}},
+        {"a", {"a"}},
+        {"a\nb\n", {"a", "b"}},
+        {"a\r\n\r\nb", {"a", "", "b"}},
+        {"a\rb\r\n", {"a\rb"}},
+        {"a\r", {"a"}},
+    };
+    for (const auto& [obsah, radky] : pripady) {
+        EXPECT_EQ(CtiRadky(Pis("x.dat", obsah)), radky) << obsah;
+    }
+    EXPECT_NE(Chyba([&] { (void)CtiRadky(Cesta("")); }), "");
+}
+
+/// The rewrite beside the file, and the one in place: a folder stands where the
+/// file beside it would be made.
+class Prepis : public Soubory, public ::testing::WithParamInterface<bool> {};
+
+TEST_P(Prepis, ObsahJeCelyNovyNeboCelyStary) {
+    if (GetParam()) fs::create_directory(Cesta("skutecny.res.nove"));
+    Pis("skutecny.res", "");
+    const fs::path soubor = Cesta("odkaz.res");
+    fs::create_symlink(Cesta("skutecny.res"), soubor);
+    fs::permissions(soubor, fs::perms(0664));
+    const auto souboru = Pocet();
+    for (const std::string obsah : {"starý", "nový a mnohem delší", "", "x", "y"}) {
+        PrepisSoubor(soubor, obsah);
+        EXPECT_EQ(Cti("skutecny.res"), obsah);
+        EXPECT_TRUE(fs::is_symlink(soubor));
+        EXPECT_EQ(fs::status(soubor).permissions(), fs::perms(0664));
+        EXPECT_EQ(Pocet(), souboru);
+    }
+    const std::string stary(3000, 's');
+    Pis("odkaz.res", stary);
+    EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { PrepisSoubor(soubor, std::string(6000, 'n')); }),
+              "Do souboru nelze zapsat (odkaz.res)");
+    EXPECT_EQ(Cti("odkaz.res"), stary);
+    EXPECT_EQ(Pocet(), souboru);
+}
+
+INSTANTIATE_TEST_SUITE_P(VedleINaMiste, Prepis, ::testing::Bool());
+
+TEST_F(Soubory, ChybaZapisuJmenujeSoubor) {
+    for (const auto zapis : {PripisSoubor, PrepisSoubor}) {
+        EXPECT_EQ(Chyba([&] { zapis(Cesta("neni/01.res"), "x"); }),
+                  "Do souboru nelze zapsat (neni/01.res)");
+    }
+}
+
+// The data tool, run as the build and a teacher run it.
+
+class Nastroje : public Soubory {
+protected:
+    /// Both outputs, the folder cut out of them, with a line "= exit status"
+    /// behind. The tool stands in the same build as this test.
+    std::string Spust(const std::string& argumenty) {
+        const fs::path sestaveni = fs::read_symlink("/proc/self/exe").parent_path().parent_path();
+        const fs::path nastroj = sestaveni / "tools/kodovani/kodovani ";
+        const int stav = std::system(
+            ("cd " + Cesta("").string() + " && " + nastroj.string() + argumenty + " > vystup 2>&1")
+                .c_str());
+        return Cti("vystup") + "= " + std::to_string(WEXITSTATUS(stav));
+    }
+    /// What the check says of a file with this content.
+    std::string Kontrola(const std::string& jmeno, std::string_view obsah) {
+        Pis(jmeno, obsah);
+        return Spust("zkontroluj " + jmeno);
+    }
+};
+
+TEST_F(Nastroje, TamAZpet) {
+    const std::array<std::string, 3> zdroje[]{
+        {"02", "; poznámka\n2#sus#alfa#b#c#°#cm#cm\n", "2#sus#alfa#b#c#°#cm#cm\n"},
+        {"Errors", "7 Délka.\n\n45  Střed.\n300 Žádná.\n", "7 Délka.\n45 Střed.\n300 Žádná.\n"},
+        {"Znamky", "\uFEFF90|100|1\n0|90|2", "90|100|1\n0|90|2\n"}};
+    for (const auto& [jmeno, text, zpet] : zdroje) {
+        Pis(jmeno + ".txt", text);
+        EXPECT_EQ(Spust("zakoduj " + jmeno + ".txt " + jmeno + ".dat"), "= 0");
+        EXPECT_EQ(Spust("dekoduj " + jmeno + ".dat zpet.txt"), "= 0");
+        EXPECT_EQ(Cti("zpet.txt"), zpet);
+    }
+    EXPECT_EQ(Cti("Znamky.dat"), "90|100|1\r\n0|90|2\r\n");
+    EXPECT_EQ(Z1250(DekodujRadek(CtiRadky(Cesta("Errors.dat")).at(0)), {}), "007 Délka.|");
+    EXPECT_TRUE(Spust("zakoduj x.txt").ends_with("= 2"));
+    Pis("01.txt", "; x\n1#α\n");
+    EXPECT_EQ(Spust("zakoduj 01.txt 02.dat"), "Znak č. 3 nejde uložit (01.txt:2)\n= 1");
+    EXPECT_NE(Cti("02.dat"), "");
+}
+
+TEST_F(Nastroje, ChybyUloh) {
+    const std::string sss = "1##a#b#c#cm#cm#cm#usecka#kruznice#kruznice\n";
+    EXPECT_EQ(Kontrola("01.txt", "; poznámka\n" + sss), "= 0");
+    std::string sto;
+    for (int i = 0; i < 101; ++i) sto += sss;
+    EXPECT_EQ(Kontrola("01.txt", sto), "01.txt:101: příkladů je více než 100\n= 1");
+    EXPECT_EQ(
+        Kontrola("02.txt",
+                 "; poznámka\n"
+                 "5##a#beta#c#cm#°#cm#usecka#kruznice#poloprimka\n"
+                 "3##a#beta#b#cm#cm#cm#usecka#kruznice#poloprimka\n"
+                 "3##a#beta#c#cm#°#cm#usecka#usecka#kruznice#\n"
+                 "3#€α#a#beta#c#cm#°#cm#primka#kruznice#poloprimka\n"),
+        "02.txt:5: znak č. 4 nejde uložit (není v kódové stránce 1250)\n"
+        "02.txt:2: pole 1 (Druh): je „5“, má být 2 až 4\n"
+        "02.txt:3: pole 7 (Jednotka2): je „cm“, má být „°“\n"
+        "02.txt:3: pole 5 (Nazev3): je „b“, má být „c“\n"
+        "02.txt:4: pole 12: je navíc; řádek má mít nejvýš 11 polí\n"
+        "02.txt:4: pole 10 (Kroky[2].Utvar): je „usecka“, má být „poloprimka“ nebo „kruznice“\n"
+        "02.txt:5: pole 9 (Kroky[1].Utvar): je „primka“, má být „usecka“\n= 1");
+    EXPECT_EQ(Kontrola("12.txt", "04#A##a####B#prusecik#C#stred#k\n05#A\n"),
+              "12.txt:1: pole 13 (Kroky[3].Utvar): je „“, má být „kruznice“\n"
+              "12.txt:2: pole 1 (Druh): je „05“, má být 04\n= 1");
+    // Stored files: cut short, with a byte of no meaning.
+    const std::string ulozeny = ZakodujRadek(sss.substr(0, sss.size() - 1)) + "\r\n";
+    EXPECT_EQ(Kontrola("01.dat", "xxx1xxx\x98\r\n" + ulozeny.substr(0, ulozeny.size() - 5)),
+              "01.dat:1: znak č. 2 není v kódové stránce 1250\n"
+              "01.dat:2: délka uloženého řádku není násobkem čtyř (useknutý řádek?)\n"
+              "01.dat:2: za posledním řádkem chybí konec řádku (useknutý soubor?)\n"
+              "01.dat:2: pole 11 (Kroky[3].Utvar): je „kruznic“, má být „kruznice“\n= 1");
+}
+
+TEST_F(Nastroje, ChybyVetZnamekATabulek) {
+    EXPECT_TRUE(Kontrola("Errors.txt", "2 Věta.\n2 Znovu.\n4 Cizí.\nx\n9\n")
+                    .starts_with("Errors.txt:2: číslo: krok 2 už je na řádku 1; body by se strhly "
+                                 "dvakrát\n"
+                                 "Errors.txt:3: číslo: krok 4 žádná úloha nezná\n"
+                                 "Errors.txt:4: číslo: je „x“, má být 1 až 999\n"
+                                 "Errors.txt:5: věta: chybí\n"
+                                 "Errors.txt: chybí věta ke kroku 1\n"));
+    EXPECT_EQ(Kontrola("Znamky.txt", "90|99|1\n75|89|3\n50|75|2\n25|50|256\n0|25|5\n0|1|6\n"),
+              "Znamky.txt:3: pole 3 (známka): známky nejdou od nejlepší k nejhorší\n"
+              "Znamky.txt:4: pole 3 (známka): je „256“, má být celé číslo 0 až 255\n"
+              "Znamky.txt:6: řádků je více než pět\n"
+              "Znamky.txt: mezi 25 a 50 % není žádná známka\n"
+              "Znamky.txt: mezi 89 a 90 % není žádná známka\n"
+              "Znamky.txt: nad 99 % není žádná známka\n= 1");
+    EXPECT_EQ(Kontrola("01.res", "Eva|50|0|1\r\nA|B|1|2|3\r\nJan|x|0|\r\n"),
+              "01.res:2: řádek má mít čtyři pole oddělená znakem |\n"
+              "01.res:3: pole 2 (Spravne): je „x“, má být celé číslo\n= 1");
+}
+
+}  // namespace
+}  // namespace rysovna::testy

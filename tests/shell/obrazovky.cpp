@@ -1,0 +1,291 @@
+#include "platform/Obrazovky.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <map>
+
+#include "podpora/Relace.h"
+#include "shell/HelpForm.h"
+#include "shell/Misc.h"
+#include "shell/SelectForm.h"
+#include "shell/SetupForm.h"
+#include "shell/TabulkaForm.h"
+#include "shell/Ulohy.h"
+
+namespace rysovna::testy {
+namespace {
+
+using Zvuky = std::vector<std::string>;
+
+/// The menu with a memory of the normal pictures, so that it can say what is lit.
+class Nabidka : public ::testing::Test {
+protected:
+    Nabidka() {
+        relace.Start();
+        for (Image& li : Menu().LI) normalni[&li] = li.Picture;
+        konec = Menu().picKonec.Picture;
+        relace.NoveZvuky();
+    }
+    void ZvolRodinu(int i) {
+        relace.Stiskni("LI", i);
+        for (Image& ri : Menu().RI) normalni[&ri] = ri.Picture;
+        relace.NoveZvuky();
+    }
+    /// "L1 R2 K ": what is lit.
+    std::string Sviti() {
+        std::string text;
+        const auto pridej = [&](const Image& o, char pismeno) {
+            if (!o.Visible || o.Picture == normalni[&o]) return;
+            text += pismeno + std::to_string(o.Index) + " ";
+        };
+        for (const Image& li : Menu().LI) pridej(li, 'L');
+        for (const Image& ri : Menu().RI) pridej(ri, 'R');
+        return text + (Menu().picKonec.Picture == konec ? "" : "K ");
+    }
+    Relace relace;
+    HeadlessHost& host = relace.Host();
+    std::map<const Image*, Obrazek> normalni;
+    Obrazek konec;
+};
+
+TEST_F(Nabidka, NajezdRozsveciNesoumerne) {
+    relace.StiskniMisto(400, 160);  // no family, no tasks
+    EXPECT_EQ(relace.JmenoVpredu() + Sviti(), "SelectForm");
+    ZvolRodinu(1);
+    const std::tuple<std::string, int, std::string, bool> kroky[]{
+        {"LI", 3, "L1 L3 ", true},
+        {"LI", 3, "L1 L3 ", false},
+        {"LI", 2, "L1 L2 ", true},
+        {"RI", 1, "L1 R1 ", true},
+        {"LI", 2, "L1 L2 R1 ", true},  // a task stays lit when the pointer leaves it
+        {"", 0, "L1 R1 ", false},      // even for the ground
+        {"RI", 2, "L1 R2 ", true},
+        {"picKonec", 0, "L1 R2 K ", true},
+        {"picKonec", 0, "L1 R2 K ", false},
+        {"Image1", 0, "L1 R2 K ", true},  // the banner changes nothing
+        {"", 0, "L1 R2 ", false},
+        {"RI", 3, "L1 R3 ", true},
+    };
+    for (const auto& [kam, index, sviti, zvuk] : kroky) {
+        kam.empty() ? relace.NajedNaMisto(320, 470) : relace.Najed(kam, index);
+        EXPECT_EQ(Sviti(), sviti) << kam << index;
+        EXPECT_EQ(relace.NoveZvuky(), zvuk ? Zvuky{"enter.wav"} : Zvuky{}) << kam << index;
+    }
+    relace.Stiskni("LI", 1);  // the family that is chosen already leaves its tasks alone
+    EXPECT_EQ(Sviti(), "L1 R3 ");
+}
+
+TEST_F(Nabidka, KazdaUlohaJdeZvolitASloupceJsouSlozene) {
+    int cislo = 0;
+    for (std::size_t i = 0; i < RODINY.size(); ++i) {
+        const std::string rodina = "L" + std::to_string(i + 1) + " ";
+        ZvolRodinu(static_cast<int>(i) + 1);
+        EXPECT_EQ(Sviti(), rodina);
+        int spodek = 141;
+        for (const Image& uloha : Menu().RI) {
+            EXPECT_EQ(uloha.Visible, uloha.Index <= RODINY[i].Pocet);
+            if (!uloha.Visible) continue;
+            EXPECT_EQ(uloha.Top, spodek - 1);
+            EXPECT_EQ(uloha.Height, uloha.Picture.Height());
+            spodek = uloha.Top + uloha.Height;
+        }
+        EXPECT_EQ(spodek, 140 + 298);
+        for (int j = 1; j <= RODINY[i].Pocet; ++j) {
+            relace.Stiskni("RI", j);
+            EXPECT_EQ(relace.JmenoVpredu(), "SetupForm");
+            EXPECT_EQ(AktivniForm.lock().get(), relace.Vpredu());
+            EXPECT_EQ(CisloUlohy, ++cislo);
+            EXPECT_EQ(NazevHry, RODINY[i].NazevHry);
+            EXPECT_EQ(TypUlohy, NajdiUlohu(cislo)->TypUlohy);
+            relace.Stiskni("picKonec");
+            EXPECT_EQ(Sviti(), rodina + "R" + std::to_string(j) + " ");
+        }
+    }
+}
+
+TEST_F(Nabidka, KonecAZavreniOknaSePtaji) {
+    const HeadlessHost::Zprava otazka{"Opravdu chcete ukončit tento program?", "Ukončení aplikace",
+                                      Styl::OtazkaAnoNe, Odpoved::Ne};
+    relace.Stiskni("picKonec");
+    EXPECT_EQ(host.Zpravy, std::vector{otazka});
+    relace.Stiskni("Image1");
+    host.Okna().ZadostOZavreni();
+    EXPECT_EQ(host.Zpravy, (std::vector{otazka, otazka}));
+    EXPECT_EQ(relace.JmenoVpredu(), "HelpForm");
+    relace.StiskniMisto(5, 5);
+    ZvolRodinu(1);
+    relace.Stiskni("RI", 1);
+    EXPECT_FALSE(host.Okna().JeKonec());
+    EXPECT_EQ(host.Rezimy.size(), 1U);
+    host.PridejOdpoved(Odpoved::Ano);
+    host.Okna().ZadostOZavreni();
+    EXPECT_TRUE(host.Okna().JeKonec());
+    EXPECT_EQ(host.Rezimy.at(1), (RezimObrazovky{1024, 768, 32}));
+}
+
+TEST_F(Nabidka, TabulkaSJedenactiZaznamy) {
+    std::string soubor;
+    for (int i = 0; i < 9; ++i) soubor += "Z" + std::to_string(i) + "|20|0|1\r\n";
+    relace.PisSoubor("07.res", soubor);
+    CisloUlohy = 7;
+    const auto t = host.Okna().Nacti<TabulkaForm>();
+    const auto radek = [&](std::size_t i) {
+        return t->LPoradi[i].Caption + t->LJmeno[i].Caption + "|" + t->LSpravne[i].Caption + "|" +
+               t->LSpatne[i].Caption + "|" + t->LZnamka[i].Caption;
+    };
+    EXPECT_EQ(radek(9), "10.|||");
+    t->VlozNovyZaznam("Žaneta", "2", "9", "5");
+    t->VlozNovyZaznam("Posledni", "1", "9", "5");
+    EXPECT_EQ(radek(9), "10.Žaneta|2|9|5");
+    EXPECT_EQ(t->LJmeno[9].Top, 9 * 30 + 165);
+    EXPECT_EQ(relace.CtiSoubor("07.res"), soubor +
+                                              "\x8E"
+                                              "aneta|2|9|5\r\nPosledni|1|9|5\r\n");
+    // One without a grade beats all.
+    t->VlozNovyZaznam("Bez", "0", "0", "");
+    EXPECT_EQ(radek(0) + radek(9), "1.Bez|0|0|10.Z8|20|0|1");
+}
+
+/// A board with a way back, and nothing else.
+class ZkusebniDeska final : public Form {
+public:
+    ZkusebniDeska() { Pridej(PicTop, "PicTop", {546, 5, 91, 75}); }
+    [[nodiscard]] std::string_view Jmeno() const override { return "ZkusebniDeska"; }
+    void MouseDown(Ovladac* o, const Mys&) override {
+        if (o == &PicTop) VratSeK(Stroj().Okna().Najdi("SetupForm"), *this);
+    }
+    PictureBox PicTop;
+};
+
+class Nastaveni : public ::testing::Test {
+protected:
+    Nastaveni() {
+        relace.Start();
+        NastavVyrobceDesek([this](int cislo) {
+            vyrobene.push_back(cislo);
+            return std::make_shared<ZkusebniDeska>();
+        });
+        ZvolUlohu();
+    }
+    ~Nastaveni() override { NastavVyrobceDesek({}); }
+    void ZvolUlohu() {
+        relace.Stiskni("LI", 1);
+        relace.Stiskni("RI", 2);
+    }
+    void Vypln() {
+        relace.Napis("A");
+        relace.Stiskni("ICislo", 1);
+    }
+    SetupForm& Obrazovka() { return dynamic_cast<SetupForm&>(*relace.Najdi("SetupForm")); }
+    /// What the button shows: how it came in, or how it looks before.
+    bool Prijelo() {
+        const auto& pic = Obrazovka().picPokracuj;
+        EXPECT_EQ(pic.Visible, pic.Picture == Menu().PicClip.GraphicCell(22));
+        return pic.Visible;
+    }
+    /// How long something kept the program busy, ms.
+    template <class Akce>
+    std::uint32_t Trvani(Akce&& akce) {
+        const std::uint32_t od = host.TickCount();
+        akce();
+        return host.TickCount() - od;
+    }
+    Relace relace;
+    HeadlessHost& host = relace.Host();
+    std::vector<int> vyrobene;
+};
+
+constexpr std::uint32_t CISLICE = 100;       // ms, the wait after a digit
+constexpr std::uint32_t ROLOVANI = 23 * 20;  // ms
+
+TEST_F(Nastaveni, PokracujPrijedeJednouAzJeJmenoIPocet) {
+    EXPECT_EQ(Trvani([&] { relace.Napis("   "); }), 0U);
+    EXPECT_EQ(Trvani([&] { relace.Stiskni("ICislo", 3); }), CISLICE);
+    EXPECT_FALSE(Obrazovka().picPokracuj.Visible);
+    EXPECT_EQ(Trvani([&] { relace.Napis("E"); }), ROLOVANI);
+    EXPECT_TRUE(Prijelo());
+    EXPECT_EQ(Trvani([&] { relace.Stiskni("ICislo", 5); }), CISLICE);
+    EXPECT_EQ(PocetPrikladuSerie, 5);
+    EXPECT_EQ(Obrazovka().ICislo[2].Tag + Obrazovka().ICislo[4].Tag, "01");
+    // Leading blanks go, and the caret does not run off.
+    relace.Klavesa("Home");
+    relace.Napis(" Z");
+    EXPECT_EQ(Obrazovka().TJmeno.Text, "ZE");
+    // The name cleared, the button goes; a letter brings it back.
+    EXPECT_EQ(Trvani([&] { relace.Prepis("TJmeno", ""); }), 0U);
+    EXPECT_FALSE(Prijelo());
+    EXPECT_EQ(Trvani([&] { relace.Napis("x"); }), ROLOVANI);
+    EXPECT_TRUE(Prijelo());
+}
+
+TEST_F(Nastaveni, JmenoSmazaneBehemRolovani) {
+    relace.Napis("A");
+    host.NaplanujZa(CISLICE + 200, [&] { relace.Klavesa("BackSpace"); });
+    EXPECT_LT(Trvani([&] { relace.Stiskni("ICislo", 1); }), CISLICE + ROLOVANI);
+    EXPECT_FALSE(Prijelo());
+    // Written anew: the second roll-in runs inside the first, which then leaves the button alone.
+    host.NaplanujZa(200, [&] {
+        relace.Klavesa("BackSpace");
+        relace.Napis("B");
+    });
+    EXPECT_LT(Trvani([&] { relace.Napis("A"); }), 220 + ROLOVANI + 20);
+    EXPECT_TRUE(Prijelo());
+}
+
+TEST_F(Nastaveni, SpustiDeskuACeleJmenoZustane) {
+    const std::string jmeno = "Příliš Žluťoučký Kůň z Úpících Ďábelských Ódin";
+    relace.Napis(jmeno);
+    relace.Stiskni("ICislo", 4);
+    relace.Klavesa("Return");
+    EXPECT_EQ(vyrobene, std::vector{2});
+    EXPECT_EQ(relace.JmenoVpredu(), "ZkusebniDeska");
+    EXPECT_EQ(AktivniForm.lock().get(), relace.Vpredu());
+    EXPECT_FALSE(Obrazovka().Viditelny());
+    EXPECT_EQ(JmenoHrace, jmeno);
+    EXPECT_EQ(PocetPrikladuSerie, 4);
+    // Back from the board, and from the help: all as it was, with the keyboard in the name.
+    relace.Stiskni("PicTop");
+    relace.Stiskni("Image1");
+    relace.Klavesa("Escape");
+    relace.Napis("a");
+    relace.Klavesa("Escape");  // by mistake: a name that is there must not be lost
+    EXPECT_EQ(relace.Prvek<TextBox>("TJmeno").Text, jmeno + "a");
+    // Through the menu: nothing chosen.
+    relace.Stiskni("picKonec");
+    ZvolUlohu();
+    EXPECT_EQ(Obrazovka().TJmeno.Text, "");
+    relace.Klavesa("Return");
+    EXPECT_EQ(vyrobene.size(), 1U);
+    // A task without a board says so.
+    NastavVyrobceDesek([](int) { return nullptr; });
+    Vypln();
+    relace.Stiskni("picPokracuj");
+    EXPECT_EQ(host.Zpravy.at(0).Text, "Tato úloha zatím není k dispozici.");
+    EXPECT_EQ(relace.JmenoVpredu(), "SetupForm");
+}
+
+TEST_F(Nastaveni, OdchodUprostredCekani) {
+    // Into the wait of the digit, into the roll-in: back to the menu.
+    for (const std::uint32_t kdy : {50U, CISLICE + 50}) {
+        relace.Napis("A");
+        host.NaplanujZa(kdy, [&] { relace.Stiskni("picKonec"); });
+        // The handler ends with the wait in which its screen went: no roll-in for nobody.
+        EXPECT_LE(Trvani([&] { relace.Stiskni("ICislo", 2); }), std::max(CISLICE, kdy + 20));
+        EXPECT_EQ(relace.Najdi("SetupForm"), nullptr);
+        EXPECT_EQ(AktivniForm.lock().get(), &Menu());
+        ZvolUlohu();
+    }
+    // Into the start of the board: back at once; back, and on to the menu.
+    Vypln();
+    host.NaplanujZa(50, [&] { relace.Stiskni("PicTop"); });
+    relace.Stiskni("picPokracuj");
+    EXPECT_EQ(relace.JmenoVpredu(), "SetupForm");
+    EXPECT_EQ(AktivniForm.lock().get(), &Obrazovka());
+    host.NaplanujZa(40, [&] { relace.Stiskni("PicTop"); });
+    host.NaplanujZa(60, [&] { relace.Stiskni("picKonec"); });
+    relace.Stiskni("picPokracuj");
+    EXPECT_EQ(AktivniForm.lock().get(), &Menu());
+}
+
+}  // namespace
+}  // namespace rysovna::testy

@@ -1,0 +1,194 @@
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <limits>
+
+#include "base/Cisla.h"
+#include "engine/Tabulky.h"
+#include "platform/Obrazovky.h"
+#include "podpora/Relace.h"
+#include "shell/Ini.h"
+#include "shell/Misc.h"
+#include "shell/SelectForm.h"
+
+namespace rysovna::testy {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Ini, Hodnota) {
+    const std::pair<std::string_view, std::string_view> pripady[]{
+        {"\xEF\xBB\xBF[rysovna1]\r\n  cd =  /a b/c  \r\n", "/a b/c"},
+        {"; [RYSOVNA1]\nCD=x\n[Jina]\nCD=y\n[ Rysovna1 ]\n;CD=z\nHD=1\nCD=a=b\nCD=druhá", "a=b"},
+        {"[RYSOVNA1]\nCD=\"D:\\Moje hry\"", "D:\\Moje hry"},
+        {"[RYSOVNA1]\nCD=\n", "nic"},
+        {"CD=1\n[RYSOVNA1]\nCDX=1\n[Jina]\nCD=1\n", "nic"},
+        {"[RYSOVNA1]\nCD=/žák", "/žák"},
+        {"[RYSOVNA1]\nCD=/\x9E\xE1k", "/žák"},
+    };
+    for (const auto& [obsah, hodnota] : pripady) {
+        EXPECT_EQ(HodnotaIni(obsah, "RYSOVNA1", "CD", "nic"), hodnota) << obsah;
+    }
+}
+
+using Zpravy = std::vector<HeadlessHost::Zprava>;
+const HeadlessHost::Zprava CHYBI_INI{
+    "Nelze nalézt soubor RYSOVNA.INI. Nainstalujte aplikaci znovu.", "Chyba", Styl::Stop,
+    Odpoved::Ok};
+const HeadlessHost::Zprava CHYBI_DATA{
+    "Nelze nalézt soubory se zdroji dat. Nainstalujte aplikaci znovu.", "Chyba", Styl::Stop,
+    Odpoved::Ok};
+
+class Start : public ::testing::Test {
+protected:
+    void Ini(const std::string& cd, const std::string& hd) {
+        relace.PisSoubor("../Rysovna.ini", "[RYSOVNA1]\r\n" + cd + "\r\n" + hd + "\r\n");
+    }
+    Relace relace;
+    HeadlessHost& host = relace.Host();
+    const std::uint32_t start = host.TickCount();
+};
+
+TEST_F(Start, Cesty) {
+    const std::string koren = host.SlozkaSystemu;
+    const std::array<std::string, 4> pripady[]{
+        {"CD=assets", "HD=data", koren + "\\assets\\", koren + "\\data\\"},
+        {"CD=X:\\Hra", "HD=DATA/", "X:\\Hra\\", koren + "\\DATA\\"},
+        {"CD=\\Hra\\", "HD=" + koren + "/data", "\\Hra\\", koren + "/data\\"},
+    };
+    host.SeminkoHry = 77;
+    for (const auto& [cd, hd, cestaCD, cestaHD] : pripady) {
+        for (const std::string konec : {"", "/", "\\"}) {
+            host.SlozkaSystemu = koren + konec + std::string(3, '\0');
+            Ini(cd, hd);
+            EXPECT_TRUE(NactiKonfiguraci()) << hd;
+            EXPECT_EQ(AdresarSystemu, koren + "\\");
+            EXPECT_EQ(DiskSystemu, koren.substr(0, 3));
+            EXPECT_EQ(CestaCD, cestaCD);
+            EXPECT_EQ(CestaHD, cestaHD);
+        }
+    }
+    EXPECT_EQ(host.Zpravy, Zpravy{});
+    Nahoda stejny;
+    stejny.Zasej(77);
+    EXPECT_EQ(Generator.Rnd(), stejny.Rnd());
+}
+
+TEST_F(Start, ChybejiciSouborKonciPredPrepnutimObrazovky) {
+    const std::pair<std::string, std::string> inie[]{
+        {"CD=assets", ""}, {"", "HD=data"}, {"CD=Chyba", "HD=data"}, {"CD=assets", "HD=Chyba\\"}};
+    for (const auto& [cd, hd] : inie) {
+        Ini(cd, hd);
+        EXPECT_FALSE(NactiKonfiguraci());
+        EXPECT_EQ(host.Zpravy.back(), CHYBI_INI) << cd << hd;
+    }
+    Ini("CD=assets", "HD=data");
+    const std::vector soubory(fs::directory_iterator(relace.DataDir()), {});
+    EXPECT_EQ(soubory.size(), 43U);
+    for (const auto& soubor : soubory) {
+        fs::rename(soubor, relace.DataDir() / "stranou");
+        EXPECT_FALSE(NactiKonfiguraci()) << soubor;
+        EXPECT_EQ(host.Zpravy.back(), CHYBI_DATA);
+        fs::rename(relace.DataDir() / "stranou", soubor);
+    }
+    fs::rename(relace.DataDir() / "07.res", relace.DataDir() / "07.RES");  // any case will do
+    EXPECT_TRUE(NactiKonfiguraci());
+
+    host.Zpravy.clear();
+    fs::remove(relace.DataDir() / "../Rysovna.ini");
+    relace.StartDoTitulu();
+    EXPECT_EQ(host.Okna().StavKonce(), 1);
+    EXPECT_EQ(host.Zpravy, Zpravy{CHYBI_INI});
+    EXPECT_TRUE(host.Rezimy.empty());
+}
+
+TEST_F(Start, Obrazovka) {
+    host.Rezim = {1600, 1200, 32};
+    PrepniObrazovku();
+    EXPECT_EQ(relace.JmenoVpredu(), "PozadiForm");
+    ObnovObrazovku();
+    EXPECT_EQ(host.Rezimy, (std::vector<RezimObrazovky>{{640, 480, 16}, {1600, 1200, 32}}));
+    EXPECT_EQ(host.Zpravy, Zpravy{});
+    host.VysledekRezimu = 1;
+    PrepniObrazovku();
+    ObnovObrazovku();
+    EXPECT_EQ(host.Zpravy,
+              (Zpravy{{"Grafická karta nepodporuje okamžité přepnutí rozlišení obrazovky. Aplikace "
+                       "proto nepoběží přes celou obrazovku.",
+                       "Upozornění", Styl::Ok, Odpoved::Ok},
+                      {"Nastala chyba při obnovení původního nastavení obrazovky. Změňte nastavení "
+                       "manuálně.",
+                       "Systémová chyba", Styl::Ok, Odpoved::Ok}}));
+}
+
+TEST_F(Start, CekaniPoustiUdalosti) {
+    host.Spi(std::numeric_limits<std::uint32_t>::max() - 50);  // the tick count wraps meanwhile
+    int udalosti = 0;
+    for (const std::uint32_t za : {10U, 60U, 99U}) host.NaplanujZa(za, [&] { ++udalosti; });
+    const std::uint32_t zacatek = host.TickCount();
+    Cekej(100);
+    EXPECT_EQ(host.TickCount() - zacatek, 100U);
+    EXPECT_EQ(udalosti, 3);
+}
+
+TEST_F(Start, SmazTabulkyJenPolovinuABezPocitadel) {
+    for (int i = 1; i <= 100; ++i) {
+        Trojice_tab[i].X3 = Priklady[i].Kroky[8].Hotovo = ChybneKroky[i].Body = ANO;
+        ZadanePrvky[std::min(i, 20)].Faze = 3;
+    }
+    PocetPrikladu = PocetUtvaru = PocetTrojic = PocetChybnychKroku = 60;
+    SmazTabulky();
+    for (int i = 1; i <= 100; ++i) {
+        const int zbylo = i <= 50 ? 0 : ANO;
+        EXPECT_EQ(Priklady[i].Kroky[8].Hotovo, zbylo) << i;
+        EXPECT_EQ(ChybneKroky[i].Body, zbylo) << i;
+        EXPECT_EQ(Trojice_tab[i].X3, zbylo) << i;
+        EXPECT_EQ(Utvary[i].Popis4, i <= 50 ? " 0" : "") << i;
+        EXPECT_EQ(ZadanePrvky[std::min(i, 20)], ZadanyPrvek{});
+    }
+    EXPECT_EQ(PocetPrikladu + PocetUtvaru + PocetTrojic + PocetChybnychKroku, 240);
+}
+
+/// ms from the start to a press on the title; negative: to closing of the window.
+class Titul : public Start, public ::testing::WithParamInterface<int> {};
+
+TEST_P(Titul, TrvaDesetSekundNeboDoZasahu) {
+    const bool zavreni = GetParam() < 0;
+    const auto kdy = static_cast<std::uint32_t>(std::abs(GetParam()));
+    host.PridejOdpoved(Odpoved::Ano);
+    host.Naplanuj(start + kdy,
+                  [&] { zavreni ? host.Okna().ZadostOZavreni() : relace.StiskniMisto(10, 10); });
+    relace.StartDoTitulu();
+    while (relace.JmenoVpredu() == "IntroForm" && !host.Okna().JeKonec()) relace.Cekej(1);
+    // The timer of the title runs from 200 ms and fires a second later.
+    const std::uint32_t trvani = host.TickCount() - start;
+    EXPECT_LE(trvani, std::clamp(kdy, zavreni ? 0U : 1200U, 10100U) + (zavreni ? 120 : 40));
+    EXPECT_EQ(host.Okna().JeKonec(), zavreni);
+    if (zavreni) return;
+    EXPECT_GE(trvani, std::clamp(kdy, 1200U, 10100U));
+    EXPECT_EQ(AktivniForm.lock().get(), &Menu());
+    EXPECT_EQ(relace.NoveZvuky().size(), kdy < 10000 ? 1U : 0U);
+    relace.Cekej(3000);  // the timer is gone with the title: the menu stays in front
+    EXPECT_EQ(relace.JmenoVpredu(), "SelectForm");
+}
+
+// Before the timer runs, before it fires, during its wait, not at all.
+INSTANTIATE_TEST_SUITE_P(Kdy, Titul, ::testing::Values(150, 900, 4000, 30000, -150, -700, -3000));
+
+TEST_F(Start, CernePozadiVraciAktivniObrazovkuDopredu) {
+    relace.Start();
+    relace.Stiskni("LI", 1);
+    relace.Stiskni("RI", 2);
+    const auto pozadi = host.Okna().Najdi("PozadiForm");
+    // Presses beside the window while the background still waits.
+    for (const std::uint32_t za : {10U, 20U, 50U}) {
+        host.NaplanujZa(za, [&] { host.Okna().Show(*pozadi); });
+    }
+    const std::uint32_t od = host.TickCount();
+    host.Okna().Show(*pozadi);
+    EXPECT_EQ(host.TickCount() - od, 100U);
+    EXPECT_EQ(relace.JmenoVpredu(), "SetupForm");
+}
+
+}  // namespace
+}  // namespace rysovna::testy
