@@ -20,56 +20,38 @@ namespace rysovna::testy {
 inline std::filesystem::path Staging() {
     namespace fs = std::filesystem;
     if (const char* cesta = std::getenv("RYSOVNA_STAGING")) return cesta;
-#ifdef RYSOVNA_STAGING
-    return RYSOVNA_STAGING;
-#else
-    for (fs::path p = fs::current_path(); p != p.root_path(); p = p.parent_path()) {
-        if (fs::exists(p / "staging" / "assets" / "Fonts")) return p / "staging";
-    }
-    return "staging";
-#endif
-}
-
-inline std::string SlozkaPisem() {
-    return (Staging() / "assets" / "Fonts").string();
+    fs::path p = fs::current_path();
+    while (p != p.root_path() && !fs::exists(p / "staging" / "assets" / "Fonts"))
+        p = p.parent_path();
+    return p / "staging";
 }
 
 /// A host and the fonts, new for each case.
 class NaStroji : public testing::Test {
 protected:
-    NaStroji() { NastavSlozkuPisem(SlozkaPisem()); }
-    ~NaStroji() override { Host_.Okna().UnloadVse(); }
+    NaStroji() { NastavSlozkuPisem((Staging() / "assets" / "Fonts").string()); }
+    ~NaStroji() override {
+        Host_.Okna().UnloadVse();
+        for (const std::string& s : Docasne_) std::filesystem::remove(s);
+    }
 
     Obrazovky& Okna() { return Host_.Okna(); }
+    /// A file of this content that goes with the test.
+    std::string Soubor(const std::string& jmeno, const std::string& obsah) {
+        Docasne_.push_back(testing::TempDir() + std::to_string(::getpid()) + jmeno);
+        std::ofstream(Docasne_.back(), std::ios::binary) << obsah;
+        return Docasne_.back();
+    }
 
+    std::vector<std::string> Docasne_;
     HeadlessHost Host_;
     HostNaDobu NaDobu_{Host_};
-};
-
-/// A file below the system's folder for such things that goes with the test.
-class DocasnySoubor {
-public:
-    explicit DocasnySoubor(const std::string& jmeno, const std::string& obsah = "")
-        : cesta_(std::filesystem::temp_directory_path() /
-                 ("rysovna_" + std::to_string(::getpid()) + "_" + jmeno)) {
-        std::ofstream(cesta_, std::ios::binary) << obsah;
-    }
-    ~DocasnySoubor() {
-        std::error_code chyba;
-        std::filesystem::remove(cesta_, chyba);
-    }
-    DocasnySoubor(const DocasnySoubor&) = delete;
-    DocasnySoubor& operator=(const DocasnySoubor&) = delete;
-    [[nodiscard]] const std::filesystem::path& Cesta() const { return cesta_; }
-
-private:
-    std::filesystem::path cesta_;
 };
 
 /// A form of a few objects that writes down what reaches it: "Down Pic 5,6".
 class ZapisForm : public Form {
 public:
-    std::string_view Jmeno() const override { return JmenoFormu; }
+    std::string_view Jmeno() const override { return "ZapisForm"; }
     void Load() override {
         Pridej(Pic, "Pic", {100, 50, 200, 150});
         Pridej(Uvnitr, "Uvnitr", {20, 30, 40, 40}, &Pic);
@@ -85,10 +67,7 @@ public:
         Zavolej(PriStisku);
     }
     void MouseMove(Ovladac* o, const Mys& m) override { Zapis("Move", o, &m); }
-    void MouseUp(Ovladac* o, const Mys& m) override {
-        Zapis("Up", o, &m);
-        Zavolej(PriPusteni);
-    }
+    void MouseUp(Ovladac* o, const Mys& m) override { Zapis("Up", o, &m); }
     void Click(Ovladac* o) override { Zapis("Click", o); }
     void DblClick(Ovladac* o) override { Zapis("DblClick", o); }
     void Change(TextBox& t) override { Udalosti.push_back("Change " + t.Text); }
@@ -96,7 +75,6 @@ public:
         Udalosti.push_back("Activate");
         Zavolej(PriAktivaci);
     }
-    void Unload() override { Udalosti.push_back("Unload"); }
     void QueryUnload() override { Udalosti.push_back("QueryUnload"); }
     void TimerTick(Timer& /*t*/) override {
         Udalosti.push_back("Tick " + std::to_string(Stroj().TickCount()));
@@ -110,7 +88,6 @@ public:
     /// What was written down since the last call.
     std::vector<std::string> Vezmi() { return std::exchange(Udalosti, {}); }
 
-    std::string JmenoFormu = "ZapisForm";
     PictureBox Pic;
     Label Uvnitr;
     CircleShape Guma;
@@ -118,7 +95,7 @@ public:
     Timer Hodiny;
     std::array<PictureBox, 2> cmd;
     std::vector<std::string> Udalosti;
-    std::function<void()> PriStisku, PriPusteni, PriAktivaci, PriTiku;
+    std::function<void()> PriStisku, PriAktivaci, PriTiku;
 
 private:
     /// A copy is run: what it does may put another one in its place.
@@ -126,11 +103,10 @@ private:
         if (co) co();
     }
     void Zapis(const char* co, const Ovladac* o, const Mys* m = nullptr) {
+        const auto cislo = [](double x) { return std::to_string(static_cast<int>(x)); };
         std::string radek = std::string(co) + " " + (o == nullptr ? "form" : o->Name);
-        if (o != nullptr && o->Index != 0) radek += "(" + std::to_string(o->Index) + ")";
-        if (m != nullptr)
-            radek += " " + std::to_string(static_cast<int>(m->X)) + "," +
-                     std::to_string(static_cast<int>(m->Y));
+        if (o != nullptr && o->Index != 0) radek += "(" + cislo(o->Index) + ")";
+        if (m != nullptr) radek += " " + cislo(m->X) + "," + cislo(m->Y);
         Udalosti.push_back(radek);
     }
 };
