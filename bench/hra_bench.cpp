@@ -1,7 +1,6 @@
 // Whole examples by the perfect pupil on the headless host, and the score table's insertion.
 
 #include <benchmark/benchmark.h>
-
 #include <chrono>
 #include <cmath>
 #include <string>
@@ -34,8 +33,8 @@ void PrikladySss(benchmark::State& stav) {
         }
         hra.Cekej(200);
     }
-    stav.counters["prikladu_za_s"] = benchmark::Counter(static_cast<double>(stav.iterations()),
-                                                        benchmark::Counter::kIsRate);
+    stav.counters["prikladu_za_s"] =
+        benchmark::Counter(static_cast<double>(stav.iterations()), benchmark::Counter::kIsRate);
 }
 BENCHMARK(PrikladySss)->Arg(0)->Arg(1)->ArgName("panel_se_zasouva")->Unit(benchmark::kMillisecond);
 

@@ -2,20 +2,19 @@
 // screen: watches the virtual display's own frame buffer file.
 //   cekani_na_obraz FRAMEBUFFER WIDTH HEIGHT RUNS PROGRAM
 
-#include <fcntl.h>
-#include <signal.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -80,8 +79,8 @@ int main(int pocet, char** slova) {
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
     }
     std::ranges::sort(doby);
-    std::printf("od spuštění k titulu: medián %.0f ms (%.0f až %.0f), bez nařízených čekání %.0f ms\n",
-                doby[doby.size() / 2], doby.front(), doby.back(),
-                doby[doby.size() / 2] - NARIZENE_CEKANI);
+    std::printf(
+        "od spuštění k titulu: medián %.0f ms (%.0f až %.0f), bez nařízených čekání %.0f ms\n",
+        doby[doby.size() / 2], doby.front(), doby.back(), doby[doby.size() / 2] - NARIZENE_CEKANI);
     return 0;
 }

@@ -36,9 +36,13 @@ std::string Tisk(const char* format, double x) {
 
 }  // namespace
 
-int Zaokrouhli(double x, std::source_location kde) { return DoCelehoCisla(KSudemu(x), kde); }
+int Zaokrouhli(double x, std::source_location kde) {
+    return DoCelehoCisla(KSudemu(x), kde);
+}
 
-int Podlaha(double x, std::source_location kde) { return DoCelehoCisla(std::floor(x), kde); }
+int Podlaha(double x, std::source_location kde) {
+    return DoCelehoCisla(std::floor(x), kde);
+}
 
 std::uint8_t Bajt(double x, std::source_location kde) {
     const int cele = Zaokrouhli(x, kde);
@@ -70,9 +74,13 @@ double Cislo(std::string_view text) {
     return zaporne ? -hodnota : hodnota;
 }
 
-std::string TextCisla(int cislo) { return (cislo < 0 ? "" : " ") + std::to_string(cislo); }
+std::string TextCisla(int cislo) {
+    return (cislo < 0 ? "" : " ") + std::to_string(cislo);
+}
 
-std::string TextBezMezery(int cislo) { return std::to_string(cislo); }
+std::string TextBezMezery(int cislo) {
+    return std::to_string(cislo);
+}
 
 std::string FormatCele(double x) {
     const double cele = std::round(x);

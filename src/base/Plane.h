@@ -18,7 +18,9 @@ constexpr Barva PURPUROVA = 0xFF00FF;
 /// What Point gives outside the plane.
 constexpr Barva BEZ_BARVY = -1;
 
-constexpr Barva Rgb(int r, int g, int b) { return r | (g << 8) | (b << 16); }
+constexpr Barva Rgb(int r, int g, int b) {
+    return r | (g << 8) | (b << 16);
+}
 
 /// A typeface as the screens ask for it.
 struct Pismo {
@@ -73,11 +75,11 @@ public:
     [[nodiscard]] virtual std::unique_ptr<Plane> CreateMonoBitmap(int w, int h) const = 0;
 
     float CurrentX = 0, CurrentY = 0;
-    int DrawWidth = 1;         ///< pen width, px
-    Barva ForeColor = CERNA;   ///< of lines, circles and text
-    Barva BackColor = BILA;    ///< what Cls leaves
-    Barva BkColor = BILA;      ///< the colour that a copy into one bit takes for white
-    bool AutoRedraw = true;    ///< drawing goes into the lasting bitmap
+    int DrawWidth = 1;        ///< pen width, px
+    Barva ForeColor = CERNA;  ///< of lines, circles and text
+    Barva BackColor = BILA;   ///< what Cls leaves
+    Barva BkColor = BILA;     ///< the colour that a copy into one bit takes for white
+    bool AutoRedraw = true;   ///< drawing goes into the lasting bitmap
     Pismo Font;
 
 protected:

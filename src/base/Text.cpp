@@ -70,7 +70,9 @@ std::string ZeZnaku(std::u32string_view znaky) {
     return utf8;
 }
 
-int PocetZnaku(std::string_view utf8) { return static_cast<int>(DoZnaku(utf8).size()); }
+int PocetZnaku(std::string_view utf8) {
+    return static_cast<int>(DoZnaku(utf8).size());
+}
 
 std::string Dopln(std::string_view utf8, int sirka) {
     std::string text(utf8);

@@ -283,9 +283,9 @@ void DialogTrojuhelniku::PosudPrvky() {
     int chybnych = 0;
     for (int radek = 1; radek <= 3; ++radek) {
         const ZadanyPrvek& z = ZadanePrvky[radek];
-        const bool druh = radek == 1 ? DruhSedi(p.Kroky[1], z.Utvar)
-                                     : DruhSedi(p.Kroky[2], z.Utvar) ||
-                                           DruhSedi(p.Kroky[3], z.Utvar);
+        const bool druh = radek == 1
+                              ? DruhSedi(p.Kroky[1], z.Utvar)
+                              : DruhSedi(p.Kroky[2], z.Utvar) || DruhSedi(p.Kroky[3], z.Utvar);
         if (!JeZadana(z.Prvek) || !druh) ++chybnych;
     }
     UctujChybnePrvky(chybnych);

@@ -59,7 +59,6 @@ void Relace::StartDoTitulu() {
 
 void Relace::Start() {
     StartDoTitulu();
-    if (host_.Okna().JeKonec()) throw std::runtime_error("program skončil při startu");
     StiskniMisto(320, 240);
     Cekej(1200);
     if (JmenoVpredu() != "SelectForm") {
@@ -103,21 +102,15 @@ Ovladac& Relace::Prvek(std::string_view jmeno, int index) {
     return *prvek;
 }
 
-/// The control's top left corner, design pixels.
-Bod Relace::Roh(std::string_view jmeno, int index) {
-    Bod roh;
-    for (const Ovladac* o = &Prvek(jmeno, index); o != nullptr; o = o->Rodic) {
-        if (!o->Visible) Nejde("není vidět", jmeno, index);
+Bod Relace::Roh(const Ovladac& prvek) {
+    const Form* form = Vpredu();
+    Bod roh = form->Maximised ? Bod{} : Bod{form->Left, form->Top};
+    for (const Ovladac* o = &prvek; o != nullptr; o = o->Rodic) {
+        if (!o->Visible) Nejde("není vidět", prvek.Name, prvek.Index);
         roh.X += o->Left;
         roh.Y += o->Top;
     }
     return roh;
-}
-
-Bod Relace::Misto(std::string_view jmeno, int index, int dx, int dy) {
-    const Ovladac& prvek = Prvek(jmeno, index);
-    const Bod roh = Roh(jmeno, index);
-    return {roh.X + (dx < 0 ? prvek.Width / 2 : dx), roh.Y + (dy < 0 ? prvek.Height / 2 : dy)};
 }
 
 void Relace::StiskniMisto(double x, double y) {
@@ -127,42 +120,32 @@ void Relace::StiskniMisto(double x, double y) {
 }
 
 void Relace::Stiskni(std::string_view jmeno, int index, int dx, int dy) {
-    const Bod misto = Misto(jmeno, index, dx, dy);
-    StiskniMisto(misto.X, misto.Y);
+    const Ovladac& prvek = Prvek(jmeno, index);
+    const Bod roh = Roh(prvek);
+    StiskniMisto(roh.X + (dx < 0 ? prvek.Width / 2 : dx), roh.Y + (dy < 0 ? prvek.Height / 2 : dy));
 }
 
 void Relace::Zmackni(std::string_view jmeno, int index, Bod misto) {
-    const Bod roh = Roh(jmeno, index);
-    const Bod kde{roh.X + misto.X, roh.Y + misto.Y};
-    NajedNaMisto(kde.X, kde.Y);
-    host_.Okna().MysDolu(kde.X, kde.Y, 1, 0);
-}
-
-void Relace::Posun(std::string_view jmeno, int index, Bod misto) {
-    const Bod roh = Roh(jmeno, index);
-    const Bod kde{roh.X + misto.X, roh.Y + misto.Y};
-    host_.Okna().MysPohyb(kde.X, kde.Y, 1, 0);
-}
-
-void Relace::Pust(std::string_view jmeno, int index, Bod misto) {
-    const Bod roh = Roh(jmeno, index);
-    const Bod kde{roh.X + misto.X, roh.Y + misto.Y};
-    host_.Okna().MysNahoru(kde.X, kde.Y, 1, 0);
+    const Bod roh = Roh(Prvek(jmeno, index));
+    NajedNaMisto(roh.X + misto.X, roh.Y + misto.Y);
+    host_.Okna().MysDolu(roh.X + misto.X, roh.Y + misto.Y, 1, 0);
 }
 
 void Relace::Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index) {
     constexpr int KROKU = 4;
+    const Bod roh = Roh(Prvek(jmeno, index));
     Zmackni(jmeno, index, odkud);
     for (int i = 1; i <= KROKU; ++i) {
-        Posun(jmeno, index,
-              {odkud.X + (kam.X - odkud.X) * i / KROKU, odkud.Y + (kam.Y - odkud.Y) * i / KROKU});
+        host_.Okna().MysPohyb(roh.X + odkud.X + (kam.X - odkud.X) * i / KROKU,
+                              roh.Y + odkud.Y + (kam.Y - odkud.Y) * i / KROKU, 1, 0);
     }
-    Pust(jmeno, index, kam);
+    host_.Okna().MysNahoru(roh.X + kam.X, roh.Y + kam.Y, 1, 0);
 }
 
 void Relace::Najed(std::string_view jmeno, int index) {
-    const Bod misto = Misto(jmeno, index, -1, -1);
-    NajedNaMisto(misto.X, misto.Y);
+    const Ovladac& prvek = Prvek(jmeno, index);
+    const Bod roh = Roh(prvek);
+    NajedNaMisto(roh.X + prvek.Width / 2, roh.Y + prvek.Height / 2);
 }
 
 void Relace::NajedNaMisto(double x, double y) {
@@ -176,11 +159,8 @@ void Relace::Napis(std::string_view text) {
 void Relace::Prepis(std::string_view jmeno, std::string_view text) {
     Stiskni(jmeno);
     Klavesa("a", 2);
-    if (text.empty()) {
-        Klavesa("Delete");
-    } else {
-        Napis(text);
-    }
+    Klavesa("Delete");
+    Napis(text);
 }
 
 void Relace::Klavesa(std::string_view klavesa, int shift) {

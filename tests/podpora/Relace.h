@@ -45,7 +45,9 @@ public:
     [[nodiscard]] Form* Najdi(std::string_view form);
     /// A control of the screen in front.
     [[nodiscard]] Ovladac& Prvek(std::string_view jmeno, int index = 0);
-    /// The same as what it is: Prvek<Image>("LI", 1).Picture.
+    /// The top left corner of such a control, design pixels.
+    [[nodiscard]] Bod Roh(const Ovladac& prvek);
+    /// A control as what it is: Prvek<Image>("LI", 1).Picture.
     template <class T>
     [[nodiscard]] T& Prvek(std::string_view jmeno, int index = 0) {
         auto* prvek = dynamic_cast<T*>(&Prvek(jmeno, index));
@@ -61,10 +63,8 @@ public:
     /// A press in a control, a move in a few steps, a release. Places are pixels of the control and
     /// may lie outside it.
     void Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index = 0);
-    /// The halves of Stiskni and Tahni, for what happens between them.
+    /// A press alone.
     void Zmackni(std::string_view jmeno, int index, Bod misto);
-    void Posun(std::string_view jmeno, int index, Bod misto);
-    void Pust(std::string_view jmeno, int index, Bod misto);
     /// The pointer moves to a control's middle; to a place of the design area.
     void Najed(std::string_view jmeno, int index = 0);
     void NajedNaMisto(double x, double y);
@@ -86,9 +86,6 @@ public:
     std::vector<std::string> NoveZvuky();
 
 private:
-    [[nodiscard]] Bod Roh(std::string_view jmeno, int index);
-    [[nodiscard]] Bod Misto(std::string_view jmeno, int index, int dx, int dy);
-
     HeadlessHost host_;
     HostNaDobu naDobu_;
     std::filesystem::path koren_, data_;

@@ -51,8 +51,8 @@ constexpr std::string_view TEZNICE[]{"ta", "tb", "tc"};
 constexpr std::string_view CTYRI[]{"a",    "b",    "c",     "d",  "e",  "f",  "alfa",
                                    "beta", "gama", "delta", "va", "vb", "vc", "vd"};
 // The fourth and fifth quantity of a trapezoid; one of them is the parallelism.
-constexpr std::string_view LICHOBEZNIKU[]{"a",     "b",     "c",      "d",      "alfa",  "beta",
-                                          "gama",  "delta", "AB||CD", "BC||DA", "CD||AB", "DA||BC"};
+constexpr std::string_view LICHOBEZNIKU[]{"a",    "b",     "c",      "d",      "alfa",   "beta",
+                                          "gama", "delta", "AB||CD", "BC||DA", "CD||AB", "DA||BC"};
 constexpr std::string_view ROVNOBEZNOSTI[]{"AB||CD", "BC||DA", "CD||AB", "DA||BC"};
 constexpr std::string_view ROVNOBEZNIKU[]{"a",    "b",    "c",    "d",    "e",    "f",
                                           "alfa", "beta", "gama", "delt", "epsi", "omeg"};

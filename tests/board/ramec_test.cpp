@@ -1,0 +1,266 @@
+// The frame of a board: panel, buttons, list, waits, series. Played on the triangle board.
+
+#include <algorithm>
+#include <functional>
+#include <gtest/gtest.h>
+
+#include "board/DeskaForm.h"
+#include "engine/Tabulky.h"
+#include "podpora/Rysovac.h"
+#include "shell/Hover.h"
+#include "shell/Misc.h"
+#include "shell/Ulohy.h"
+#include "tasks/Desky.h"
+
+namespace rysovna::testy {
+namespace {
+
+constexpr int SSS = 1;
+
+class RamecDesky : public testing::Test {
+protected:
+    RamecDesky() { NastavVyrobceDesek(VyrobDesku); }
+};
+
+Panel Ukazany(Rysovac& r) {
+    return dynamic_cast<const DeskaForm&>(*r.Hra.Najdi("Troj1Form")).Dialogem().UkazPanel();
+}
+
+TEST_F(RamecDesky, PanelVyjizdiTriceticiCtyrmiSnimkyPoCtyricetiMsANikohoNepusti) {
+    Rysovac r(SSS, 1);
+    HeadlessHost& host = r.Hra.Host();
+    std::vector<std::uint32_t> snimky;
+    std::uint32_t zacatek = 0, udalost = 0;
+    host.PriPrekresleni = [&] { snimky.push_back(host.TickCount() - zacatek); };
+    for (const bool zavrit : {true, false, true}) {
+        snimky.clear();
+        zacatek = host.TickCount();
+        udalost = 0;
+        host.NaplanujZa(500, [&] { udalost = host.TickCount() - zacatek; });
+        r.Hra.NoveZvuky();
+        r.Kdo.Stiskni(zavrit ? "Image1" : "MalaSipka");
+        EXPECT_EQ(r.Hra.NoveZvuky(), (std::vector<std::string>{"click.wav"}));
+        ASSERT_EQ(snimky.size(), 34U);
+        for (std::uint32_t k = 0; k < 34; ++k) EXPECT_EQ(snimky[k], 40 * k);
+        // When it has shut, a short wait lets events through at last.
+        EXPECT_EQ(host.TickCount() - zacatek, zavrit ? 1380U : 1360U);
+        r.Hra.Cekej(1);
+        EXPECT_GE(udalost, 1360U);
+        EXPECT_EQ(r.Hra.Prvek("Image1").Tag, zavrit ? "0" : "1");
+        EXPECT_EQ(r.Hra.Prvek("MalaSipka").Visible, zavrit);
+        EXPECT_EQ(r.Hra.Prvek("VPImage").Visible, !zavrit);
+    }
+}
+
+TEST_F(RamecDesky, NajetiRozsvitiJednoAOdjezdZhasneVsechna) {
+    Rysovac r(SSS, 1);
+    struct Prvek {
+        const char* Jmeno;
+        int Index;
+        const char *Normalni, *Rozsviceny;
+    };
+    const Prvek prvky[] = {
+        {"PicTop", 1, "check_0", "check_1"}, {"picSipka", 1, "a_left0", "a_left"},
+        {"PicTop", 2, "new_0", "new_1"},     {"picSipka", 2, "a_right0", "a_right"},
+        {"PicTop", 3, "tab_0", "tab_1"},     {"picSipka", 3, "a_up0", "a_up"},
+        {"PicTop", 4, "back_0", "back_1"},   {"picSipka", 4, "a_down0", "a_down"}};
+    const auto zkontroluj = [&](const Prvek* sviti) {
+        for (const Prvek& p : prvky) {
+            const std::string soubor = &p == sviti ? p.Rozsviceny : p.Normalni;
+            EXPECT_EQ(r.Hra.Prvek<PictureBox>(p.Jmeno, p.Index).Picture,
+                      NactiObrazek("Bitmap\\Games\\" + soubor + ".bmp"));
+        }
+    };
+    r.Hra.NoveZvuky();
+    for (const Prvek& p : prvky) {
+        for (int i = 0; i < 2; ++i) r.Hra.Najed(p.Jmeno, p.Index);
+        zkontroluj(&p);
+        EXPECT_EQ(r.Hra.NoveZvuky(), (std::vector<std::string>{"enter.wav"}));
+    }
+    r.Hra.NajedNaMisto(5, 470);
+    zkontroluj(nullptr);
+    EXPECT_TRUE(r.Hra.NoveZvuky().empty());
+}
+
+TEST_F(RamecDesky, SeznamZavreStiskVedleANepadneSNimKrok) {
+    const std::pair<const char*, std::function<void(Rysovac&)>> vse[] = {
+        {"ground", [](Rysovac& r) { r.Hra.StiskniMisto(5, 470); }},
+        {"plane", [](Rysovac& r) { r.Hra.Stiskni("Pic", 0, 20, 300); }},
+        {"sketch", [](Rysovac& r) { r.Kdo.Oznac("gama").Oznac("gama"); }},
+        {"handle", [](Rysovac& r) { r.Kdo.Stiskni("Image1"); }},
+        {"Escape", [](Rysovac& r) { r.Hra.Klavesa("Escape"); }},
+        {"table", [](Rysovac& r) { r.Kdo.Stiskni("PicTop", 3).Stiskni("picKonec"); }},
+        {"check", [](Rysovac& r) { r.Kdo.Stiskni("PicTop", 1); }},
+        {"new", [](Rysovac& r) { r.Kdo.Stiskni("PicTop", 2); }},
+    };
+    for (const auto& [co, stisk] : vse) {
+        SCOPED_TRACE(co);
+        Rysovac r(SSS, 1);
+        r.Kdo.Oznac("c").Nastroj(1);
+        ASSERT_TRUE(r.Hra.Prvek("Combo").Visible);
+        stisk(r);
+        EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
+        EXPECT_FALSE(r.Hra.Prvek("Combo").Visible);
+        EXPECT_FALSE(Ukazany(r).Combo.Otevreny);
+        EXPECT_EQ(PocetUtvaru, 0);
+    }
+}
+
+TEST_F(RamecDesky, NapovedaATabulkaSeVraciKRozdelanePraciZpetJiZahodi) {
+    Rysovac r(SSS, 1, 2);
+    r.Zacni().Rysuj("AB kA");
+    const Panel rozdelano = Ukazany(r);
+    r.Kdo.Stiskni("INadpis");
+    EXPECT_EQ(r.Hra.JmenoVpredu(), "HelpForm");
+    r.Hra.StiskniMisto(300, 200);
+    EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
+    r.Kdo.Stiskni("PicTop", 3);
+    EXPECT_EQ(r.Hra.JmenoVpredu(), "TabulkaForm");
+    r.Kdo.Stiskni("picKonec");
+    EXPECT_EQ(Ukazany(r), rozdelano);
+    r.Rysuj("kB");
+    EXPECT_EQ(PocetUtvaru, 3);
+    r.Kdo.Stiskni("PicTop", 4);
+    EXPECT_EQ(r.Hra.JmenoVpredu(), "SetupForm");
+    EXPECT_EQ(r.Hra.Najdi("Troj1Form"), nullptr);
+    EXPECT_EQ(r.Hra.CtiSoubor("01.res") + r.Hra.CtiSoubor("Vysledky.dat"), "");
+}
+
+// ---- Waits -----------------------------------------------------------------------------------
+
+/// A press that waits, and when in its wait something else is pressed.
+struct Cekani {
+    const char* Co;
+    std::vector<std::uint32_t> Kdy;  ///< ms from the press
+    std::function<void(Rysovac&)> Priprav, Stisk;
+};
+
+TEST_F(RamecDesky, CoSeStiskneBehemCekaniNeublizi) {
+    const auto vyber = [](const char* kroky, int nastroj, const char* radek) {
+        return [=](Rysovac& r) { r.Zacni().Rysuj(kroky).Kdo.Nastroj(nastroj).Vyber(radek); };
+    };
+    const auto tahni = [](Rysovac& r) { r.Hra.Tahni("Pic", {100, 190}, {200, 190}); };
+    const auto nic = [](Rysovac&) {};
+    const auto stiskni = [](const char* jmeno, int i) {
+        return [=](Rysovac& r) { r.Kdo.Stiskni(jmeno, i); };
+    };
+    const Cekani cekani[] = {
+        {"line", {20}, [](Rysovac& r) { r.Zacni().Kdo.Nastroj(1); }, stiskni("ComboLabel", 1)},
+        {"side", {4}, vyber("", 1, "AB"), tahni},
+        {"circle", {50}, vyber("AB", 4, "kružnice k, střed v bodě A"), tahni},
+        {"third object", {50}, vyber("AB kA", 4, "kružnice l, střed v bodě B"), tahni},
+        {"panel shuts", {700, 1370}, nic, stiskni("Image1", 0)},
+        {"check", {5, 200}, nic, stiskni("PicTop", 1)},
+        {"new", {50, 120}, nic, stiskni("PicTop", 2)},
+        {"new, panel", {50, 700, 1480}, [](Rysovac& r) { r.Zacni(); }, stiskni("PicTop", 2)},
+        {"table", {10}, nic, stiskni("PicTop", 3)},
+        {"back", {50}, nic, stiskni("PicTop", 4)},
+        {"continue", {50, 120}, [](Rysovac& r) { r.Zkontroluj(); }, stiskni("picPokracuj", 0)},
+        {"rolls in",
+         {250},
+         [](Rysovac& r) { r.Hra.Host().NaplanujZa(200, [&r] { r.Kdo.Stiskni("picPokracuj"); }); },
+         stiskni("PicTop", 1)},
+    };
+    const std::pair<const char*, int> stisky[] = {
+        {"PicTop", 4}, {"PicTop", 1}, {"PicTop", 2}, {"PicTop", 3}, {"INadpis", 0}};
+    for (const Cekani& c : cekani) {
+        for (const std::uint32_t kdy : c.Kdy) {
+            for (const auto& [jmeno, index] : stisky) {
+                SCOPED_TRACE(std::string(c.Co) + ", after " + std::to_string(kdy) + " ms " + jmeno +
+                             "(" + std::to_string(index) + ")");
+                Rysovac r(SSS, 1, 2);
+                c.Priprav(r);
+                bool stisknuto = false;
+                r.Hra.Host().NaplanujZa(kdy, [&, co = jmeno, i = index] {
+                    stisknuto = true;
+                    if (r.Hra.JmenoVpredu() == "Troj1Form") r.Kdo.Stiskni(co, i);
+                });
+                c.Stisk(r);
+                r.Hra.Cekej(3000);
+                EXPECT_TRUE(stisknuto);
+                // From wherever that led, the way back is open and a new board starts clean.
+                if (r.Hra.JmenoVpredu() == "HelpForm") r.Hra.StiskniMisto(300, 200);
+                if (r.Hra.JmenoVpredu() == "TabulkaForm") r.Kdo.Stiskni("picKonec");
+                if (r.Hra.JmenoVpredu() == "Troj1Form") r.Kdo.Stiskni("PicTop", 4);
+                ASSERT_EQ(r.Hra.JmenoVpredu(), "SetupForm");
+                EXPECT_EQ(r.Hra.Najdi("Troj1Form"), nullptr);
+                r.Kdo.Stiskni("picPokracuj");
+                r.Hra.Cekej(200);
+                ASSERT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
+                EXPECT_EQ(PocetUtvaru + PocetChybnychKroku + KladneBody + ZaporneBody, 0);
+                r.Zacni().Rysuj("vse");
+                EXPECT_EQ(PocetUtvaru, 3);
+            }
+        }
+    }
+}
+
+TEST_F(RamecDesky, NezSeLosujePrikladKontrolaAniNovyNicNedelaji) {
+    for (const std::uint32_t kdy : {10U, 99U, 140U, 1470U}) {
+        for (const int horni : {1, 2}) {
+            SCOPED_TRACE(kdy);
+            Rysovac r(SSS, 1, 2);
+            r.Zacni().Rysuj("AB kolmice");
+            r.Hra.NoveZvuky();
+            r.Hra.Host().NaplanujZa(kdy, [&] { r.Kdo.Stiskni("PicTop", horni); });
+            r.Hra.Host().NaplanujZa(1540, [&] { r.Kdo.Oznac("a"); });
+            r.Kdo.Stiskni("PicTop", 2);
+            r.Hra.Cekej(2000);
+            EXPECT_EQ(PocetUtvaru + PocetTrojic + SoucetZapornychBodu + PocetChybnychKroku, 0);
+            // The panel has come out by itself, with a press of its own to be heard.
+            EXPECT_EQ(r.Hra.Prvek("Image1").Tag, "1");
+            EXPECT_EQ(std::ranges::count(r.Hra.NoveZvuky(), "click.wav"), 3);
+            EXPECT_EQ(Ukazany(r).lblZadani.size(), 6U);
+            // The old marks are gone; the one made once the example was there stays.
+            EXPECT_TRUE(r.Hra.Prvek("cmd", 1).Enabled);
+            r.Kdo.Oznac("a");
+            EXPECT_FALSE(r.Hra.Prvek("cmd", 1).Enabled);
+            r.Zacni().Rysuj("vse").Zkontroluj();
+            EXPECT_EQ(KladneBody, 10);
+        }
+    }
+}
+
+TEST_F(RamecDesky, StiskVedleNezrusiVolbuASipkaNepohneTahem) {
+    Rysovac r(SSS, 1);
+    r.Zacni().Kdo.Nastroj(1);
+    r.Hra.Host().NaplanujZa(20, [&] { r.Hra.StiskniMisto(5, 470); });
+    r.Kdo.Stiskni("ComboLabel", 1);
+    EXPECT_TRUE(r.Hra.Prvek("txtVstup").Visible);
+    r.Hra.Host().NaplanujZa(4, [&] { r.Kdo.Stiskni("picSipka", 1); });
+    r.Hra.Tahni("Pic", {100, 190}, {200, 190});
+    r.Hra.Cekej(100);
+    EXPECT_EQ(Utvary[1].X1, 100);
+    EXPECT_EQ(PosunX, 0);
+}
+
+// ---- The series ------------------------------------------------------------------------------
+
+TEST_F(RamecDesky, SmiseneTriPrikladyDajiSoucetZaznamALog) {
+    Rysovac r(SSS, 1, 3);
+    r.Hra.Host().Cas = {2026, 11, 21, 9, 5};
+    const auto dal = [&r] {
+        r.Kdo.Stiskni("picPokracuj");
+        r.Hra.Cekej(2000);
+    };
+    r.Zacni().Rysuj("vse").Zkontroluj();
+    dal();
+    EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
+    r.Zacni().Rysuj("AB+ kA kB");
+    r.Kdo.Stiskni("PicTop", 2);  // dropped without a mark in the totals
+    r.Hra.Cekej(2000);
+    r.Zacni().Rysuj("AB+ kA kB").Zkontroluj();
+    dal();
+    r.Zacni().Rysuj("AB").Zkontroluj();
+    EXPECT_EQ(r.Hra.CtiSoubor("01.res"), "");
+    dal();
+    EXPECT_EQ(r.Hra.JmenoVpredu(), "TabulkaForm");
+    EXPECT_EQ(r.Hra.Prvek<Label>("LSpravne", 1).Caption, "19");
+    EXPECT_EQ(r.Hra.CtiSoubor("01.res"), "\x8E\xE1k|19|11|3\r\n");
+    EXPECT_EQ(std::ranges::count(r.Hra.CtiSoubor("Vysledky.dat"), '\n'), 4);
+    r.Kdo.Stiskni("picKonec");
+    EXPECT_EQ(r.Hra.JmenoVpredu(), "SetupForm");
+}
+
+}  // namespace
+}  // namespace rysovna::testy

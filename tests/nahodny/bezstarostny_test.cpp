@@ -1,0 +1,49 @@
+// The careless pupil: whatever is pressed, in whatever order, the program goes on and no result is
+// lost. A million events by RYSOVNA_UDALOSTI=1000000; one seed again by RYSOVNA_SEMINKO.
+
+#include "podpora/Bezstarostny.h"
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <iostream>
+
+#include "shell/Ulohy.h"
+#include "tasks/Desky.h"
+
+namespace rysovna::testy {
+namespace {
+
+int Prostredi(const char* jmeno, int jinak) {
+    const char* text = std::getenv(jmeno);
+    return text == nullptr ? jinak : std::atoi(text);
+}
+
+TEST(BezstarostnyZak, NicNeshodiANicNeztrati) {
+    NastavVyrobceDesek(VyrobDesku);
+    const int udalosti = Prostredi("RYSOVNA_UDALOSTI", 20'000);
+    std::vector<int> seminka = {11, 12, 13, 14};
+    if (const int dane = Prostredi("RYSOVNA_SEMINKO", 0); dane != 0) seminka = {dane};
+    const int kazde = udalosti / static_cast<int>(seminka.size());
+    for (const int seminko : seminka) {
+        SCOPED_TRACE("RYSOVNA_SEMINKO=" + std::to_string(seminko));
+        Bezstarostny zak(static_cast<std::uint32_t>(seminko));
+        try {
+            zak.Hraj(kazde);
+        } catch (const std::exception& chyba) {
+            FAIL() << chyba.what();
+        }
+        const Bezstarostny::Souhrn& s = zak.Prozito();
+        std::cout << "seed " << seminko << ": " << s.Udalosti << " events, " << s.Relaci
+                  << " runs, " << s.Serii << " series to their end, " << s.Uzavreni
+                  << " figures closed; boards";
+        for (const auto& [uloha, kolikrat] : s.Desky) std::cout << " " << uloha << ":" << kolikrat;
+        std::cout << std::endl;
+        // A pupil that gets nowhere would prove nothing.
+        EXPECT_GE(s.Serii * 2000, kazde);
+        EXPECT_GE(s.Uzavreni * 2000, kazde);
+        EXPECT_GE(s.Desky.size(), 2U);
+    }
+}
+
+}  // namespace
+}  // namespace rysovna::testy

@@ -1,0 +1,297 @@
+#include "podpora/Bezstarostny.h"
+
+#include <algorithm>
+#include <regex>
+
+#include "base/Cisla.h"
+#include "engine/Tabulky.h"
+#include "platform/Obrazovky.h"
+#include "shell/Misc.h"
+#include "shell/TabulkaForm.h"
+#include "shell/Ulohy.h"
+
+namespace rysovna::testy {
+namespace {
+
+constexpr int USEK = 500;  // events between two looks at the files
+constexpr std::size_t DELKA_STOPY = 40;
+constexpr int NEJVIC_NAPLANOVANYCH = 5;
+constexpr std::uint32_t NEJDELSI_UDALOST = 120'000;  // ms of the virtual clock
+constexpr int DOST_CHYB = 80;  // wrong steps of one example, of the hundred there is room for
+
+/// How gladly a live control is pressed; those not named have VAHA_OSTATNICH.
+struct VahaPrvku {
+    std::string_view Jmeno;
+    int Vaha;
+};
+constexpr int VAHA_OSTATNICH = 4;
+constexpr int VAHA_UTEKU = 10'000;
+constexpr VahaPrvku VAHY[] = {
+    {"ComboLabel", 60},  {"picPokracuj", 60}, {"Pic", 40},      {"cmd", 14},   {"SamplePic", 8},
+    {"ImgHodnoceni", 8}, {"Combo", 2},        {"PicTop", 3},    {"picTop", 3}, {"picKonec", 6},
+    {"INadpis", 1},      {"Image1", 1},       {"MalaSipka", 1}, {"RI", 20},    {"ICislo", 12}};
+
+constexpr std::string_view TEXTY[] = {"Žofie", "12,5", "-3", "  ",  "řeřicha", "999999999999",
+                                      "1e5",   ".5",   "x",  "0",   "Ω",       "18",
+                                      "180",   "25",   "#",  "\"'", "60"};
+constexpr std::string_view KLAVESY[] = {"Return", "Escape", "BackSpace", "Delete", "Left", "Right",
+                                        "Home",   "End",    "Tab",       "Space",  "Up",   "Down",
+                                        "a",      "c",      "v",         "x"};
+
+bool JeZivy(const Ovladac& prvek) {
+    using Typ = Ovladac::Typ;
+    constexpr Typ TISKNOU_SE[] = {Typ::PictureBox, Typ::Image, Typ::Label, Typ::TextBox};
+    for (const Ovladac* o = &prvek; o != nullptr; o = o->Rodic) {
+        if (!o->Visible || !o->Enabled) return false;
+    }
+    return std::ranges::find(TISKNOU_SE, prvek.Druh) != std::end(TISKNOU_SE) && prvek.Width > 0 &&
+           prvek.Height > 0;
+}
+
+int Vaha(const Ovladac& o) {
+    if (!JeZivy(o)) return 0;
+    const auto* v = std::ranges::find(VAHY, o.Name, &VahaPrvku::Jmeno);
+    if (v == std::end(VAHY)) return o.Druh == Ovladac::Typ::Label ? 1 : VAHA_OSTATNICH;
+    const bool zpet = o.Index == 4 && o.Name.ends_with("icTop");
+    if (zpet) return PocetChybnychKroku > DOST_CHYB ? VAHA_UTEKU : 1;
+    return v->Vaha;
+}
+
+[[noreturn]] void Vadne(const std::string& co) {
+    throw std::runtime_error(co);
+}
+
+/// Lines without their ends; throws where a line does not end with CR LF.
+std::vector<std::string> Radky(const std::string& obsah, const std::string& soubor) {
+    std::vector<std::string> radky;
+    for (std::size_t od = 0, konec = 0; od < obsah.size(); od = konec + 2) {
+        konec = obsah.find("\r\n", od);
+        if (konec == std::string::npos) Vadne(soubor + ": nedopsaný řádek");
+        radky.push_back(obsah.substr(od, konec - od));
+    }
+    return radky;
+}
+
+/// "name|won|lost|grade", points by tens, a grade of 1 to 5.
+bool JeZaznam(const std::string& radek) {
+    static const std::regex TVAR(R"([^|]+\|(\d\d?)\|(\d\d?)\|[1-5])");
+    std::smatch pole;
+    if (!std::regex_match(radek, pole, TVAR)) return false;
+    const int celkem = std::stoi(pole[1]) + std::stoi(pole[2]);
+    return celkem >= 10 && celkem <= 50 && celkem % 10 == 0;
+}
+
+}  // namespace
+
+void Bezstarostny::Zapamatuj(const std::string& co, Bod kde) {
+    stopa_.push_back(relace_->JmenoVpredu() + ": " + co + " " + std::to_string(kde.X) + "," +
+                     std::to_string(kde.Y));
+    if (stopa_.size() > DELKA_STOPY) stopa_.pop_front();
+}
+
+void Bezstarostny::ZacniRelaci() {
+    relace_.reset();
+    relace_ = std::make_unique<Relace>(static_cast<std::uint32_t>(nahoda_()));
+    planovano_ = konce_ = 0;
+    zaznamy_.clear();
+    HeadlessHost& host = relace_->Host();
+    host.Cas = {2026, 1 + Cislo(12), 1 + Cislo(28), Cislo(24), Cislo(60)};
+    host.SkutecneZpravy = Jednou(3);
+    if (host.SkutecneZpravy) HlidejZpravy();
+    ++souhrn_.Relaci;
+    relace_->StartDoTitulu();
+}
+
+/// A message box that nothing else answers is closed after a while.
+void Bezstarostny::HlidejZpravy() {
+    relace_->Host().NaplanujZa(3000, [this] {
+        HlidejZpravy();
+        if (relace_->Host().Okna().JeModalni()) relace_->Klavesa("Escape");
+    });
+}
+
+void Bezstarostny::Hraj(int udalosti) {
+    try {
+        for (int i = 1; i <= udalosti; ++i) {
+            Krok();
+            if (i % USEK != 0 && i != udalosti) continue;
+            ZkontrolujStav();
+            ZkontrolujSoubory();
+            relace_->Host().Zvuky.clear();
+            relace_->Host().Zpravy.clear();
+        }
+    } catch (const std::exception& chyba) {
+        std::string zprava = chyba.what();
+        zprava += "\nevent " + std::to_string(souhrn_.Udalosti) + ", the last ones:";
+        for (const std::string& s : stopa_) zprava += "\n  " + s;
+        Vadne(zprava);
+    }
+}
+
+void Bezstarostny::Krok() {
+    ++souhrn_.Udalosti;
+    HeadlessHost& host = relace_->Host();
+    const std::uint32_t zacatek = host.TickCount();
+    if (Jednou(300)) host.PridejOdpoved(Odpoved::Ano);
+    if (Jednou(6) && planovano_ < NEJVIC_NAPLANOVANYCH) {
+        ++planovano_;
+        host.NaplanujZa(static_cast<std::uint32_t>(1 + Cislo(400)), [this] {
+            --planovano_;
+            Udalost();
+        });
+    }
+    Udalost();
+    if (host.Okna().JeKonec()) {
+        ZkontrolujSoubory();
+        ZacniRelaci();
+    } else if (host.TickCount() - zacatek > NEJDELSI_UDALOST) {
+        Vadne("nekonečné čekání");
+    }
+}
+
+void Bezstarostny::Udalost() {
+    Obrazovky& okna = relace_->Host().Okna();
+    const int los = okna.Vpredu() == nullptr ? 0 : Cislo(100);
+    if (los < 8) {
+        Cekej();
+    } else if (los < 84) {
+        Mys();
+    } else if (los < 94) {
+        Pis();
+    } else if (los < 99) {
+        const std::string_view klavesa = Neco(KLAVESY);
+        Zapamatuj("key " + std::string(klavesa), {});
+        relace_->Klavesa(klavesa, Cislo(3));
+    } else if (Jednou(4)) {
+        okna.ZadostOZavreni();
+    } else {
+        okna.Navrat();
+    }
+    Sleduj();
+}
+
+void Bezstarostny::Cekej() {
+    relace_->Cekej(static_cast<std::uint32_t>(Jednou(4) ? Cislo(2000) : Cislo(150)));
+}
+
+void Bezstarostny::Pis() {
+    const std::string text = Jednou(5) ? std::string(Neco(TEXTY)) : std::to_string(Cislo(90));
+    Zapamatuj("types " + text, {});
+    relace_->Napis(text);
+}
+
+Bod Bezstarostny::Uvnitr(const Ovladac& o) {
+    const Bod roh = relace_->Roh(o);
+    return {roh.X + Cislo(std::max(o.Width, 1)), roh.Y + Cislo(std::max(o.Height, 1))};
+}
+
+/// The pointer goes somewhere, mostly to a live control, and mostly presses there.
+void Bezstarostny::Mys() {
+    const auto form = relace_->Host().Okna().Vpredu();
+    std::vector<int> vahy;
+    for (const Ovladac* o : form->Ovladace()) vahy.push_back(Vaha(*o));
+    Bod kde{Cislo(720) - 40, Cislo(560) - 40};
+    if (!Jednou(6) && std::ranges::count(vahy, 0) < std::ssize(vahy)) {
+        std::discrete_distribution<std::size_t> ktery(vahy.begin(), vahy.end());
+        const Ovladac& o = *form->Ovladace()[ktery(nahoda_)];
+        if (o.Name == "Pic" && !Jednou(6)) return Tah(o);
+        kde = Uvnitr(o);
+    }
+    Zapamatuj("mouse", kde);
+    if (Jednou(4)) return relace_->NajedNaMisto(kde.X, kde.Y);
+    constexpr int TLACITKA[] = {1, 1, 1, 1, 1, 1, 1, 1, 1, 2, 4};
+    Stisk(kde, Neco(TLACITKA));
+    if (Jednou(20)) Stisk(kde, 1);  // a double click
+}
+
+void Bezstarostny::Stisk(Bod kde, int tlacitko) {
+    Obrazovky& okna = relace_->Host().Okna();
+    if (!Jednou(4)) relace_->NajedNaMisto(kde.X, kde.Y);
+    if (!Jednou(60)) okna.MysDolu(kde.X, kde.Y, tlacitko, Cislo(2));
+    if (Jednou(30)) Cekej();
+    // A release may get lost outside the window.
+    if (!Jednou(60)) okna.MysNahoru(kde.X, kde.Y, tlacitko, 0);
+}
+
+/// A drag on the plane, mostly from a point of the construction.
+void Bezstarostny::Tah(const Ovladac& pic) {
+    Obrazovky& okna = relace_->Host().Okna();
+    const Bod roh = relace_->Roh(pic);
+    const auto misto = [&](int doBodu) {
+        if (PocetTrojic == 0 || Cislo(10) >= doBodu) return Uvnitr(pic);
+        const Trojice& t = Trojice_tab[1 + Cislo(PocetTrojic)];
+        const Bod b = Jednou(2) ? Bod{t.X1, t.Y1} : Bod{t.X2, t.Y2};
+        return Bod{roh.X + b.X + Cislo(17) - 8, roh.Y + b.Y + Cislo(17) - 8};
+    };
+    const Bod od = misto(7);
+    Bod kam = misto(2);
+    if (Jednou(12)) kam = {Cislo(1000) - 180, Cislo(800) - 160};  // out of the plane
+    // Upright, level, or nowhere at all.
+    if (Jednou(15)) kam.X = od.X + Cislo(3) - 1;
+    if (Jednou(15)) kam.Y = od.Y + Cislo(3) - 1;
+    if (Jednou(25)) kam = od;
+    Zapamatuj("drag from", od);
+    Zapamatuj("drag to", kam);
+    relace_->NajedNaMisto(od.X, od.Y);
+    okna.MysDolu(od.X, od.Y, 1, 0);
+    if (!Jednou(3)) okna.MysPohyb((od.X + kam.X) / 2.0, (od.Y + kam.Y) / 2.0, 1, 0);
+    if (Jednou(30)) Cekej();
+    if (Jednou(40)) Stisk(kam, 2);
+    if (!Jednou(40)) okna.MysNahoru(kam.X, kam.Y, 1, 0);
+}
+
+/// Counts what it passes through.
+void Bezstarostny::Sleduj() {
+    const Obrazovky& okna = relace_->Host().Okna();
+    const auto t = std::dynamic_pointer_cast<TabulkaForm>(okna.Najdi("TabulkaForm"));
+    const auto kam = t ? t->Vlastnik.lock() : nullptr;
+    if (kam && kam->Jmeno() == "SetupForm" && tabulka_.lock() != t) {
+        tabulka_ = t;
+        ++konce_;
+        ++souhrn_.Serii;
+    }
+    const auto vpredu = okna.Vpredu();
+    const auto* pic = vpredu ? vpredu->Najdi("Pic") : nullptr;
+    if (pic != nullptr && deska_.lock() != vpredu) {
+        deska_ = vpredu;
+        ++souhrn_.Desky[CisloUlohy];
+    }
+    const auto* sketch = vpredu ? vpredu->Najdi("SamplePic") : nullptr;
+    // The plane is off while the example is not checked yet: the figure is closed.
+    const bool uzavreno = pic != nullptr && sketch != nullptr && !pic->Enabled && sketch->Enabled;
+    if (uzavreno && !uzavreno_) ++souhrn_.Uzavreni;
+    uzavreno_ = uzavreno;
+}
+
+void Bezstarostny::ZkontrolujStav() {
+    if (relace_->Vpredu() == nullptr) Vadne("no screen in front");
+    if ((KladneBody + ZaporneBody) % 10 != 0) Vadne("points of the series are not by tens");
+    int soucet = 0;
+    for (int i = 1; i <= PocetChybnychKroku; ++i) soucet += ChybneKroky[i].Body;
+    if (soucet != SoucetZapornychBodu) Vadne("the penalty is not the sum of the wrong steps");
+    if (PocetUtvaru < 0 || PocetTrojic < 0) Vadne("counters of the construction below zero");
+}
+
+void Bezstarostny::ZkontrolujSoubory() {
+    int zaznamu = 0;
+    for (const Uloha& u : ULOHY) {
+        const std::string soubor = DveCislice(u.Cislo) + ".res";
+        std::vector<std::string> radky = Radky(relace_->CtiSoubor(soubor), soubor);
+        for (const std::string& r : radky) {
+            if (!JeZaznam(r)) Vadne(soubor + ": vadný záznam " + r);
+        }
+        std::ranges::sort(radky);
+        if (!std::ranges::includes(radky, zaznamy_[soubor])) Vadne(soubor + ": ztracený záznam");
+        zaznamu += static_cast<int>(radky.size());
+        zaznamy_[soubor] = std::move(radky);
+    }
+    if (zaznamu < konce_) Vadne("konec série bez záznamu");
+    // Four lines of the log for each record: name, game, number of examples, a rule.
+    const auto log = Radky(relace_->CtiSoubor("Vysledky.dat"), "Vysledky.dat");
+    if (static_cast<int>(log.size()) != 4 * zaznamu) Vadne("log a záznamy nesouhlasí");
+    for (std::size_t i = 0; i < log.size(); ++i) {
+        if (log[i].empty() || log[i][0] != "JHP="[i % 4]) Vadne("vadný řádek logu: " + log[i]);
+    }
+}
+
+}  // namespace rysovna::testy

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <memory>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "podpora/Relace.h"
+
+namespace rysovna::testy {
+
+/// The careless pupil: presses, drags, hovers and types at random over all screens from the title
+/// on, also while the program waits, and starts it again whenever it has ended. Its choices lean
+/// to what is live and brings it further, so that it gets through whole series. After each stretch
+/// it looks whether the score tables and the log are whole. Every run with the same seed is the
+/// same.
+///
+/// It keeps from two things that are settled to end badly: a "|" in a name shifts the fields of
+/// its record, and the hundred and first wrong step of one example is a fault.
+class Bezstarostny {
+public:
+    explicit Bezstarostny(std::uint32_t seminko) : nahoda_(seminko) { ZacniRelaci(); }
+
+    /// So many events more. Throws std::runtime_error that tells what was wrong and the last
+    /// events before it.
+    void Hraj(int udalosti);
+
+    /// What it has come through so far.
+    struct Souhrn {
+        int Udalosti = 0, Relaci = 0, Serii = 0, Uzavreni = 0;
+        std::map<int, int> Desky;  ///< task -> how many times its board was opened
+    };
+    [[nodiscard]] const Souhrn& Prozito() const { return souhrn_; }
+
+private:
+    [[nodiscard]] int Cislo(int rozpeti) {
+        return static_cast<int>(nahoda_() % static_cast<unsigned>(rozpeti));
+    }
+    [[nodiscard]] bool Jednou(int zKolika) { return Cislo(zKolika) == 0; }
+    template <class T, std::size_t N>
+    [[nodiscard]] const T& Neco(const T (&z)[N]) {
+        return z[static_cast<std::size_t>(Cislo(N))];
+    }
+
+    void ZacniRelaci();
+    void HlidejZpravy();
+    void Krok();
+    void Udalost();
+    void Mys();
+    void Tah(const Ovladac& pic);
+    void Pis();
+    void Cekej();
+    [[nodiscard]] Bod Uvnitr(const Ovladac& o);
+    void Stisk(Bod kde, int tlacitko);
+    void Zapamatuj(const std::string& co, Bod kde);
+    void Sleduj();
+    void ZkontrolujStav();
+    void ZkontrolujSoubory();
+
+    std::mt19937 nahoda_;
+    std::unique_ptr<Relace> relace_;
+    std::deque<std::string> stopa_;  ///< the last events
+    Souhrn souhrn_;
+    int planovano_ = 0;  ///< planned events still to come
+    int konce_ = 0;      ///< ends of series seen in this run
+    bool uzavreno_ = false;
+    std::weak_ptr<Form> tabulka_, deska_;
+    std::map<std::string, std::vector<std::string>> zaznamy_;  ///< score file -> its lines
+};
+
+}  // namespace rysovna::testy

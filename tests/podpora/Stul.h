@@ -1,0 +1,178 @@
+#pragma once
+
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Cisla.h"
+#include "board/Dialog.h"
+#include "engine/PametovaPlocha.h"
+#include "engine/Tabulky.h"
+#include "podpora/Konstrukce.h"
+#include "podpora/Relace.h"
+#include "shell/Kodovani.h"
+#include "shell/MapaPoli.h"
+#include "shell/Misc.h"
+#include "shell/Soubory.h"
+
+namespace rysovna::testy {
+
+/// Examples of each line of a data file that the perfect pupil plays: 20 in CI, more by the
+/// environment.
+inline int Seminek() {
+    const char* text = std::getenv("RYSOVNA_SEMINEK");
+    return text == nullptr ? 20 : std::atoi(text);
+}
+
+/// A step of a table of cases: tool, line of the list, typed value, drag. A value -i is the i-th
+/// given one; the drag is then as long, Kam being its direction. Tool 5 takes back, tool 0 is the
+/// check.
+struct Pohyb {
+    int Nastroj;
+    const char* Radek = "";
+    int Hodnota = 1;
+    Bod Od{30, 30}, Kam{46, 30};
+};
+
+/// A step dialogue D of a task, played without a screen as fast as the machine goes: the tables of
+/// the session, two planes in memory, a data root of its own. Calls chain. What a pupil could not
+/// do (a grey button, a line that is not offered) throws.
+template <class D>
+class Stul {
+public:
+    explicit Stul(int uloha) {
+        VychoziRelace();
+        if (!NactiKonfiguraci()) throw std::runtime_error("bez konfigurace");
+        CisloUlohy = static_cast<std::uint8_t>(uloha);
+        NactiPriklady(Soubor(), DeskaUlohy(uloha));
+    }
+
+    /// The task's file now holds this line alone.
+    Stul& Radek(std::string_view radek) {
+        relace_.PisSoubor(DveCislice(CisloUlohy) + ".dat", ZakodujRadek(Do1250(radek)) + "\r\n");
+        NactiPriklady(Soubor(), DeskaUlohy(CisloUlohy));
+        return *this;
+    }
+    /// A new example.
+    Stul& Zacni(std::uint32_t seminko = 1) {
+        Generator.Zasej(seminko);
+        dialog.NovyPriklad();
+        dialog.NoveZadani();
+        return *this;
+    }
+    Stul& Nastroj(int i) {
+        if (!dialog.UkazPanel().cmd[static_cast<std::size_t>(i - 1)].Zive) {
+            throw std::runtime_error("nástroj nejde stisknout: " + std::to_string(i));
+        }
+        dialog.StiskNastroje(i);
+        return *this;
+    }
+    /// Picks the line of the open list that reads so.
+    Stul& Vyber(std::string_view text) {
+        const Seznam seznam = dialog.UkazPanel().Combo;
+        for (std::size_t i = 0; seznam.Otevreny && i < seznam.Radky.size(); ++i) {
+            const RadekSeznamu& r = seznam.Radky[i];
+            if (!r.Videt || !r.Ziva || r.Text != text) continue;
+            dialog.VyberRadku(static_cast<int>(i) + 1);
+            return *this;
+        }
+        throw std::runtime_error("v seznamu není: " + std::string(text));
+    }
+    Stul& Napis(std::string_view text, int ktery = 1) {
+        dialog.Napis(ktery, std::string(text));
+        return *this;
+    }
+    Stul& Napis(int cislo, int ktery = 1) { return Napis(TextBezMezery(cislo), ktery); }
+    Stul& Tahni(Bod odkud, Bod kam) {
+        dialog.StiskPlochy(static_cast<float>(odkud.X), static_cast<float>(odkud.Y));
+        dialog.PusteniPlochy(static_cast<float>(kam.X), static_cast<float>(kam.Y));
+        return *this;
+    }
+    Stul& Klikni(Bod kde) { return Tahni(kde, kde); }
+    Stul& Proved(const std::vector<Pohyb>& pohyby) {
+        for (const Pohyb& p : pohyby) {
+            if (p.Nastroj == 0) {
+                dialog.Zkontroluj();
+                continue;
+            }
+            Nastroj(p.Nastroj);
+            if (p.Nastroj == 5) continue;
+            const bool dana = p.Hodnota < 0;
+            const int h =
+                dana ? dialog.Hodnoty()[static_cast<std::size_t>(-p.Hodnota - 1)] : p.Hodnota;
+            const Bod delka{p.Od.X + p.Kam.X * 8 * h, p.Od.Y + p.Kam.Y * 8 * h};
+            Vyber(p.Radek).Napis(h).Tahni(p.Od, dana ? delka : p.Kam);
+        }
+        return *this;
+    }
+    Stul& Zpet() { return Nastroj(5); }
+    /// The check; the wrong steps of the whole example.
+    std::string Zkontroluj() {
+        dialog.Zkontroluj();
+        return Chyby();
+    }
+    /// The wrong steps so far: "7/1 300/10" is number 7 for one point, then 300 for ten.
+    [[nodiscard]] static std::string Chyby() {
+        std::string text;
+        for (int i = 1; i <= PocetChybnychKroku; ++i) {
+            text += (i > 1 ? " " : "") + ChybneKroky[i].Cislo + "/" +
+                    std::to_string(ChybneKroky[i].Body);
+        }
+        return text;
+    }
+    [[nodiscard]] const Priklad& Hrany() const { return Priklady[dialog.CisloPrikladu()]; }
+
+private:
+    [[nodiscard]] std::string Soubor() const { return CestaHD + DveCislice(CisloUlohy) + ".dat"; }
+    Relace relace_;
+    PametovaPlocha pic_{SIRKA_PLOCHY, VYSKA_PLOCHY}, hiden_{SIRKA_PLOCHY, VYSKA_PLOCHY};
+
+public:
+    D dialog{Platna{pic_, hiden_}};
+};
+
+/// What the examples of a file played so far look like: every line often enough?
+class Pokryti {
+public:
+    void Odehran(int radek) { ++pocty_[radek]; }
+    [[nodiscard]] bool Cele() const {
+        for (int i = 1; i <= PocetPrikladu; ++i) {
+            const auto p = pocty_.find(i);
+            if (p == pocty_.end() || p->second < Seminek()) return false;
+        }
+        return true;
+    }
+
+private:
+    std::map<int, int> pocty_;
+};
+
+// ---- Measuring -------------------------------------------------------------------------------
+
+inline double Delka(Bod a, Bod b) {
+    return std::hypot(static_cast<double>(a.X - b.X), static_cast<double>(a.Y - b.Y));
+}
+/// The angle at a vertex between the ways to two points, degrees, 0 to 180.
+inline double UhelPri(Bod vrchol, Bod p, Bod q) {
+    const double u = std::atan2(p.Y - vrchol.Y, p.X - vrchol.X);
+    const double v = std::atan2(q.Y - vrchol.Y, q.X - vrchol.X);
+    return std::fabs(std::remainder(u - v, DVE_PI)) * STUPNU_PULOTACKY / PI;
+}
+/// The distance of a point from the line through two others, px.
+inline double OdPrimky(Bod p, Bod a, Bod b) {
+    const double dx = b.X - a.X;
+    const double dy = b.Y - a.Y;
+    return std::fabs(dx * (p.Y - a.Y) - dy * (p.X - a.X)) / std::hypot(dx, dy);
+}
+/// How far a point lies from where an angle of so many degrees would put it, px.
+inline double OdPaprsku(Bod vrchol, Bod rameno, Bod p, int stupnu) {
+    const double o = (UhelPri(vrchol, rameno, p) - stupnu) * PI / STUPNU_PULOTACKY;
+    return std::fabs(std::sin(o)) * Delka(vrchol, p);
+}
+
+}  // namespace rysovna::testy

@@ -1,0 +1,341 @@
+// Every wrong step of the tangent board, alone and when the step is known to be wrong already.
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <functional>
+#include <gtest/gtest.h>
+#include <map>
+
+#include "TecnyHra.h"
+#include "shell/Misc.h"
+
+namespace rysovna::testy {
+namespace {
+
+using Cisla = std::vector<int>;
+
+/// Faces that cost three points at the press, by exercise and step. Drawn afterwards, they cost no
+/// more and take up the step.
+TEST(TecnyChyby, ChybnaTlacitka) {
+    struct Radek {
+        const char* Kod;
+        int Tvar;
+        std::vector<int> Kroky;
+    };
+    const Radek radky[] = {{"01", 6, {1, 4, 5}}, {"02", 6, {1, 4, 5}}, {"03", 6, {1}},
+                           {"04", 6, {1, 3}},    {"05", 6, {1, 2}},    {"06", 6, {1, 2, 3}},
+                           {"07", 6, {1, 3}},    {"08", 6, {1}},       {"09", 6, {1, 4, 5}},
+                           {"06", 7, {5}},       {"08", 7, {3}},       {"09", 4, {1}}};
+    std::map<std::pair<std::string, int>, std::vector<int>> chybne;
+    for (const Radek& r : radky) {
+        for (const int krok : r.Kroky) chybne[{r.Kod, krok}].push_back(r.Tvar);
+    }
+    for (const char* kod : {"01", "02", "03", "04", "05", "06", "07", "08", "09"}) {
+        TecnyHra hra(kod, 5);
+        for (int krok = 1; !hra.d.Hotova(); ++krok) {
+            for (const Tlacitko& t : hra.P().cmd) {
+                if (t.Tvar < 2 || t.Tvar > 8 || !t.Zive) continue;
+                const auto& vse = chybne[{kod, krok}];
+                const bool chyba = std::ranges::find(vse, t.Tvar) != vse.end();
+                SoucetZapornychBodu = PocetChybnychKroku = 0;
+                const int utvaru = PocetUtvaru;
+                hra.Nastroj(t.Tvar);
+                EXPECT_EQ(TecnyHra::Chyby(), chyba ? Cisla{21} : Cisla{}) << kod << krok << t.Tvar;
+                EXPECT_EQ(SoucetZapornychBodu, chyba ? 3 : 0);
+                EXPECT_EQ(hra.d.Stav().KrokChybny, chyba);
+                if (!chyba) {
+                    hra.d.ZavriSeznam();
+                    if (!hra.d.Stav().CekaNaKresleni) continue;
+                }
+                hra.Tahni({30, 40}, {60, 90});
+                EXPECT_EQ(TecnyHra::Chyby().size(), chyba || t.Tvar == 7 ? 1U : 0U) << kod << krok;
+                EXPECT_EQ(PocetUtvaru, utvaru + 1) << kod << krok << t.Tvar;
+                EXPECT_FALSE(hra.d.Hotova());
+                EXPECT_EQ(hra.Faze(), krok + 1);
+                hra.Zpet();
+                // What came by back may have a dead back button, not dead tools.
+                EXPECT_EQ(PocetUtvaru, utvaru);
+            }
+            SoucetZapornychBodu = PocetChybnychKroku = 0;
+            hra.SpravnyKrok();
+        }
+    }
+}
+
+/// A step done past its mark. The first number is what the step charges alone; where a wrong row
+/// goes before, that row's number is charged and nothing else.
+TEST(TecnyChyby, KrokyVedle) {
+    struct Pripad {
+        const char* Kod;
+        int Krok;
+        Cisla Chyby;
+    };
+    const Pripad pripady[] = {
+        {"01", 1, {202}}, {"01", 2, {217}}, {"01", 3, {217}}, {"01", 4, {215}}, {"01", 5, {215}},
+        {"02", 1, {215}}, {"02", 2, {217}}, {"02", 4, {211}}, {"02", 5, {211}}, {"03", 1, {205}},
+        {"03", 2, {206}}, {"03", 3, {217}}, {"03", 4, {217}}, {"03", 5, {208}}, {"03", 6, {208}},
+        {"04", 1, {211}}, {"04", 2, {214}}, {"04", 3, {205}}, {"04", 4, {216}}, {"05", 1, {205}},
+        {"05", 2, {211}}, {"05", 3, {214}}, {"05", 4, {210}}, {"06", 1, {205}}, {"06", 2, {211}},
+        {"06", 3, {211}}, {"06", 4, {219}}, {"06", 5, {210}}, {"07", 1, {211}}, {"07", 2, {214}},
+        {"07", 3, {205}}, {"07", 4, {216}}, {"08", 1, {211}}, {"08", 2, {219}}, {"08", 3, {212}},
+        {"09", 1, {208}}, {"09", 2, {217}}, {"09", 3, {217}}, {"09", 4, {205}}, {"09", 5, {205}},
+        {"09", 6, {212}}, {"09", 7, {212}},
+    };
+    for (const Pripad& p : pripady) {
+        TecnyHra hra(p.Kod, 11);
+        hra.SpravneDo(p.Krok);
+        hra.KrokVedle();
+        Cisla chyby = TecnyHra::Chyby();
+        // The line may miss what it has to meet as well.
+        if (chyby.size() == 2 && p.Krok == 1) chyby.pop_back();
+        EXPECT_EQ(chyby, p.Chyby) << p.Kod << " step " << p.Krok;
+        EXPECT_EQ(SoucetZapornychBodu, PocetChybnychKroku);
+        EXPECT_EQ(hra.Faze(), p.Krok + 1);
+    }
+}
+
+/// A wrong row of a list: three points, and nothing for what is then drawn anyhow.
+TEST(TecnyChyby, ChybneRadky) {
+    struct Pripad {
+        const char* Kod;
+        int Krok, Tvar;
+        const char* Radek;
+        int Chyba;
+        const char* Text3;
+    };
+    const Pripad pripady[] = {
+        {"01", 4, 5, "s přímkou b", 134, "přímka t1, t1||b"},
+        {"01", 5, 5, "s přímkou b", 134, "přímka t2, t2||b"},
+        {"02", 5, 4, "k přímce t1", 135, "přímka t2, t2      t1"},
+        {"03", 2, 6, "kružnice l, střed v bodě S", 124, "kružnice l(S, r = |SB|)"},
+        {"03", 2, 6, "kružnice l, střed v bodě A", 124, "kružnice l(A, r = |SB|)"},
+        {"04", 4, 6, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AC|)"},
+        {"04", 4, 6, "kružnice k, střed v bodě B", 124, "kružnice k(B, r = |BC|)"},
+        {"05", 2, 4, "k přímce a", 135, "přímka b, b      a"},
+        {"05", 4, 6, "kružnice k, střed v bodě C", 124, "kružnice k(C, r = |CA|)"},
+        {"06", 2, 4, "k přímce a", 135, "přímka b, b      a"},
+        {"06", 3, 4, "k úsečce AB", 135, "přímka c, c      AB"},
+        {"06", 5, 6, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AB|)"},
+        {"06", 5, 6, "kružnice k, střed v bodě B", 124, "kružnice k(B, r = |BA|)"},
+        {"07", 4, 6, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AC|)"},
+        {"08", 1, 4, "k přímce b", 135, "přímka c, c      b"},
+        {"08", 3, 6, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AB|)"},
+        {"09", 6, 6, "kružnice l1, střed v bodě B1", 124, "kružnice l1(B1, r = |AB1|)"},
+        {"09", 7, 6, "kružnice l2, střed v bodě B2", 124, "kružnice l2(B2, r = |AB2|)"},
+    };
+    for (const Pripad& p : pripady) {
+        TecnyHra hra(p.Kod, 5);
+        hra.SpravneDo(p.Krok);
+        hra.Nastroj(p.Tvar).Vyber(p.Radek);
+        EXPECT_EQ(hra.P().lblText3, p.Text3);
+        EXPECT_EQ(hra.P().lblText4.Videt, p.Tvar == 4);
+        hra.Tahni({5, 300}, {3, 100});
+        EXPECT_EQ(TecnyHra::Chyby(), Cisla{p.Chyba}) << p.Kod << p.Krok;
+        EXPECT_EQ(SoucetZapornychBodu, 3);
+        const bool posledni = p.Krok == static_cast<int>(hra.d.Hrane()->Kroky.size());
+        EXPECT_EQ(hra.d.Hotova(), posledni) << p.Kod << p.Krok;
+    }
+}
+
+/// Nothing to meet: the step is charged, the marking that follows does nothing, back is the way
+/// out.
+TEST(TecnyChyby, BezPrusecikuZbyvaJenZpet) {
+    struct Pripad {
+        const char* Kod;
+        int Krok;
+        std::function<void(TecnyHra&)> Krok_;
+        Cisla Chyby;
+    };
+    const auto daleko = [](TecnyHra& hra, int tvar, const char* radek, int chyba) {
+        // Random places until the line misses the circle.
+        for (int i = 0; i < 1000; ++i) {
+            SoucetZapornychBodu = PocetChybnychKroku = 0;
+            hra.Nastroj(tvar).Vyber(radek).Tahni(hra.Nahodne(), hra.Nahodne());
+            const Cisla chyby = TecnyHra::Chyby();
+            if (!chyby.empty() && chyby.back() == chyba) return;
+            hra.Zpet();
+        }
+    };
+    const Pripad pripady[] = {
+        {"01", 1, [&](TecnyHra& h) { daleko(h, 4, "k přímce a", 203); }, {202, 203}},
+        {"02", 1, [&](TecnyHra& h) { daleko(h, 5, "s přímkou a", 204); }, {215, 204}},
+        {"03",
+         2,
+         [](TecnyHra& h) {
+             const Bod B = NajdiBod("B");
+             h.Nastroj(6).Vyber("kružnice l, střed v bodě B").Tahni(B, {B.X + 3, B.Y});
+         },
+         {206, 207}},
+        {"09", 1, [&](TecnyHra& h) { daleko(h, 2, "přímka AS", 203); }, {208, 203}},
+    };
+    for (const Pripad& p : pripady) {
+        TecnyHra hra(p.Kod, 4);
+        hra.SpravneDo(p.Krok);
+        p.Krok_(hra);
+        EXPECT_EQ(TecnyHra::Chyby(), p.Chyby) << p.Kod;
+        const int utvaru = PocetUtvaru;
+        EXPECT_TRUE(hra.P().cmd[4].Zive);
+        hra.Nastroj(9);
+        for (const Bod b : {Bod{100, 100}, {-9999, -9999}, {0, 0}}) hra.Klikni(b);
+        EXPECT_EQ(PocetUtvaru, utvaru);
+        EXPECT_EQ(hra.Faze(), p.Krok + 1);
+        EXPECT_EQ(TecnyHra::Chyby(), p.Chyby);
+        EXPECT_TRUE(hra.P().cmd[4].Zive);
+        hra.Zpet();
+        EXPECT_EQ(hra.Faze(), p.Krok);
+        hra.SpravneVse();
+        EXPECT_TRUE(hra.d.Hotova());
+    }
+}
+
+/// 209: the perpendicular meets the other line too far off. Some figure of "08" has such a place.
+TEST(TecnyChyby, KolmiceKterouPrimkaNeprotne) {
+    TecnyHra hra("08");
+    for (std::uint32_t s = 1; s < 3000; ++s) {
+        hra.Znovu(s);
+        for (int i = 0; i < 20; ++i) {
+            SoucetZapornychBodu = PocetChybnychKroku = 0;
+            hra.Nastroj(4).Vyber("k přímce a").Tahni(hra.Nahodne(), hra.Nahodne());
+            const Cisla chyby = TecnyHra::Chyby();
+            if (chyby == Cisla{211, 209}) return;
+            hra.Zpet();
+        }
+    }
+    FAIL() << "209 never came";
+}
+
+TEST(TecnyChyby, ObaPrusecikyUzHotove) {
+    TecnyHra hra("09", 2);
+    hra.SpravneDo(2);
+    Priklady[1].Kroky[1].Hotovo = Priklady[1].Kroky[2].Hotovo = ANO;
+    hra.Nastroj(9).Klikni(hra.Kandidati()[0]);
+    EXPECT_EQ(TecnyHra::Chyby(), Cisla{219});
+    EXPECT_EQ(SoucetZapornychBodu, 3);
+    EXPECT_EQ(hra.Faze(), 2);
+}
+
+/// The tolerances to the pixel: of a crossing, of a midpoint, of a radius.
+TEST(TecnyChyby, Tolerance) {
+    for (const auto& [o, chyby] : {std::pair{8, Cisla{}}, {9, Cisla{214}}, {-8, Cisla{}}}) {
+        TecnyHra hra("04", 9);
+        hra.SpravneDo(2);
+        const Bod B = hra.d.Stav().Pary.Misto[0];
+        hra.Nastroj(9).Klikni({B.X + o, B.Y - o});
+        EXPECT_EQ(TecnyHra::Chyby(), chyby);
+        EXPECT_EQ(NajdiBod("B"), B);
+        EXPECT_EQ(Utvary[PocetUtvaru].NaPrimce, chyby.empty() ? "b" : "");
+        EXPECT_EQ(Priklady[1].Kroky[1].Hotovo, ANO);
+    }
+    for (const auto& [o, chyby] : {std::pair{5, Cisla{}}, {6, Cisla{205}}, {-5, Cisla{}}}) {
+        TecnyHra hra("04", 9);
+        hra.SpravneDo(3);
+        hra.Nastroj(7);
+        const Bod C = hra.d.Stav().StredUsecky;
+        hra.Klikni({C.X + o, C.Y + o});
+        EXPECT_EQ(TecnyHra::Chyby(), chyby);
+        EXPECT_EQ(NajdiBod("C"), C);
+    }
+}
+
+/// The rule of 15 pixels: 14 off moves the line at no cost, 15 off costs a point and stays.
+TEST(TecnyChyby, PatnactPixelu) {
+    int presunuto = 0;
+    int draho = 0;
+    TecnyHra hra("02");
+    for (std::uint32_t s = 1; s <= 400; ++s) {
+        for (const int o : {14, 15}) {
+            hra.Znovu(s);
+            hra.SpravneDo(4);
+            hra.Nastroj(4).Vyber("k přímce b");
+            const Utvar z = Utvary[VybranyUtvar];
+            const Bod A1 = NajdiBod("A1");
+            // A perpendicular from a free place of b whose Y at A1 is o off, if there is such a
+            // whole-pixel place.
+            for (int x = 0; x < 384; ++x) {
+                const Bod start = BodNaZakladne(z, static_cast<float>(x), 0);
+                const Dvojice k = Kolme(z, start, start);
+                if (k.P1.X == k.P2.X ||
+                    std::max(std::abs(start.X - A1.X), std::abs(start.Y - A1.Y)) < 9)
+                    continue;
+                const double y = start.Y + static_cast<double>(A1.X - start.X) * (k.P2.Y - k.P1.Y) /
+                                               (k.P2.X - k.P1.X);
+                const double d = std::fabs(A1.Y - y);
+                if (o == 14 ? d < 13.5 || d >= 14.5 : d < 15 || d >= 16) continue;
+                hra.Tahni(start, start);
+                (o == 14 ? presunuto : draho) += 1;
+                EXPECT_EQ(TecnyHra::Chyby(), o == 14 ? Cisla{} : Cisla{211}) << s << " " << d;
+                if (o == 15) {
+                    EXPECT_EQ(Utvary[PocetUtvaru].Y1, start.Y);
+                }
+                break;
+            }
+        }
+    }
+    EXPECT_GT(presunuto, 0);
+    EXPECT_GT(draho, 0);
+}
+
+/// Two lines through the same crossing: the second misses its own.
+TEST(TecnyChyby, DruhaTecnaMusiDruhymBodem) {
+    TecnyHra hra("01", 6);
+    hra.SpravneDo(4);
+    for (int i = 0; i < 2; ++i) {
+        hra.Nastroj(5).Vyber("s přímkou a").Tahni(NajdiBod("A2"), {200, 10});
+    }
+    EXPECT_EQ(TecnyHra::Chyby(), Cisla{215});
+    EXPECT_TRUE(hra.d.Hotova());
+}
+
+/// A wrong object in place of a result: the last step alone does not finish.
+TEST(TecnyChyby, BezObouVysledkuNeniHotovo) {
+    TecnyHra hra("03", 6);
+    hra.SpravneDo(5);
+    hra.Nastroj(2).Vyber("přímka AS").Tahni(NajdiBod("A"), NajdiBod("S"));
+    EXPECT_EQ(Utvary[PocetUtvaru].Jmeno1, "p5");
+    hra.Nastroj(2).Vyber("přímka AT1").Tahni(NajdiBod("A"), NajdiBod("T1"));
+    EXPECT_EQ(Utvary[PocetUtvaru].Jmeno1, "t1");
+    EXPECT_FALSE(hra.d.Hotova());
+    for (std::size_t i = 0; i < 4; ++i) EXPECT_FALSE(hra.P().cmd[i].Zive);
+    EXPECT_TRUE(hra.P().cmd[4].Zive);
+    hra.Zpet().Zpet();
+    hra.SpravneVse();
+    EXPECT_TRUE(hra.d.Hotova());
+}
+
+TEST(TecnyChyby, Kontrola) {
+    struct Pripad {
+        int Krok;      ///< played without a fault up to here
+        int Ztraceno;  ///< before the check
+        bool Znacky;
+        Cisla Chyby;
+        std::string Konec;  ///< of the last row
+    };
+    const Pripad pripady[] = {
+        {5, 0, true, {}, ""},
+        {5, 0, false, {16}, "  -1 bod"},
+        {5, 9, false, {16}, "  -1 bod"},
+        {5, 10, false, {}, ""},
+        {4, 0, false, {300}, "    - 10 bodů"},
+        {4, 6, true, {300}, "    - 4 body"},
+        {4, 9, false, {300}, "    - 1 bod"},
+        {4, 5, true, {300}, "    - 5 bodů"},
+        {4, 12, true, {300}, "dokončena."},
+    };
+    for (const Pripad& p : pripady) {
+        TecnyHra hra("04", 3);
+        hra.SpravneDo(p.Krok);
+        SoucetZapornychBodu = p.Ztraceno;
+        if (!p.Znacky) hra.d.StiskNacrtu(20, 150);
+        hra.d.StiskNacrtu(100, 100);  // an extra mark is free
+        hra.d.Zkontroluj();
+        EXPECT_EQ(TecnyHra::Chyby(), p.Chyby) << p.Krok << " " << p.Ztraceno;
+        if (!p.Chyby.empty()) {
+            EXPECT_TRUE(ChybneKroky[1].Text.ends_with(p.Konec)) << ChybneKroky[1].Text;
+        }
+        for (const Tlacitko& t : hra.P().cmd) EXPECT_FALSE(t.Zive);
+    }
+}
+
+}  // namespace
+}  // namespace rysovna::testy

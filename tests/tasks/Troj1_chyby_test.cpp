@@ -1,0 +1,312 @@
+// Wrong steps of the triangle by SSS, SUS and USU: what each of them costs, what going back gives,
+// how an example is settled. Played by the scripted pupil on the board's own controls.
+
+#include <gtest/gtest.h>
+#include <sstream>
+#include <utility>
+
+#include "base/Cisla.h"
+#include "board/ChybovyForm.h"
+#include "board/DeskaForm.h"
+#include "board/DialogTrojuhelniku.h"
+#include "podpora/Rysovac.h"
+#include "shell/Misc.h"
+#include "shell/Ulohy.h"
+#include "tasks/Desky.h"
+
+namespace rysovna::testy {
+
+namespace {
+
+constexpr int SSS = 1, SUS = 2, USU = 3;
+
+const DialogTrojuhelniku& Dialogem(Rysovac& r) {
+    return dynamic_cast<const DialogTrojuhelniku&>(
+        dynamic_cast<const DeskaForm&>(*r.Hra.Vpredu()).Dialogem());
+}
+
+class Trojuhelniky : public testing::Test {
+protected:
+    Trojuhelniky() { NastavVyrobceDesek(VyrobDesku); }
+};
+
+/// The task of a kind of example.
+int Uloha(int druh) {
+    return druh == 1 ? SSS : druh <= 4 ? SUS : USU;
+}
+
+/// What was charged, "7/1 19/3": numbers and points; a text that does not tell the points shows.
+std::string Uctovano() {
+    std::string vse;
+    for (const Chyba& c : Zak::Chyby()) {
+        vse += (vse.empty() ? "" : " ") + std::to_string(c.Cislo) + "/" + std::to_string(c.Bodu);
+        if (c.Body != (c.Bodu == 1 ? "  -1 bod" : "  -3 body")) vse += "'" + c.Body + "'";
+    }
+    return vse;
+}
+
+/// Constructions of a kind of example (the words of Rysovac::Rysuj), each with what it is charged:
+/// "BC+ = 7/1; AB+~ = 9/1 15/1".
+struct Pripady {
+    int Druh;
+    const char* Vse;
+};
+constexpr Pripady PRIPADY[] = {
+    // The first side: the choice (then the values cost nothing more), typed value, drawn value.
+    {2, "BC+~ = 1/3"},
+    {3, "AC+~ = 2/3"},
+    {4, "AB+~ = 3/3"},
+    {1, "BC+ = 7/1; AC+ = 8/1; AB+ = 9/1; BC~ = 13/1; AC~ = 14/1; AB~ = 15/1; AB+~ = 9/1 15/1"},
+    // What is behind a decimal comma does not count.
+    {1, "AB, = ; AB_ = 9/1"},
+    // Circles: the radius stands for a side by the first side and the centre.
+    {1, "AB kA+ = 8/1; AC kA+ = 9/1; AB kB+ = 7/1; BC kB+ = 9/1; AC kC+ = 7/1; BC kC+ = 8/1"},
+    {1, "AC kC~ = 27/1; AB kA~ = 28/1; BC kB+~ = 9/1 29/1"},
+    {1, "AB kA^ = 22/1; AB kA kB^ = 45/1; AB kA kB@ = 45/1"},
+    {3, "AB kA+~^ = 32/3"},
+    {2, "AB kB+~^ = 33/3; AC kC+~^ = 34/3; AB pA kB+~^ = 33/3"},
+    {7, "AB kA+~^ = 21/3"},
+    // No circle belongs here, even where it would fit.
+    {5, "BC pB kC = 21/3"},
+    // One that no expected step takes costs nothing by itself; a vertex with a circle about it is
+    // still the vertex.
+    {2, "AB kA kA = ; AB kA pA = "},
+    // Rays: the place costs nothing where the value did.
+    {2, "AB pA+ = 10/1"},
+    {3, "AB pB+ = 11/1"},
+    {4, "AC pC+ = 12/1"},
+    {6, "AC pA~ = 30/1; AC pA pC+~ = 12/1 30/1"},
+    {7, "AB pA@ = 23/1 31/1; AB pB+@ = 11/1 31/1; AB pA pB^ = 31/1"},
+    {1, "AB pA+~^ = 18/3; AB pA@ = 18/3"},
+    {2, "AB pA pA+~^ = 18/3; AB pB+~^ = 40/3; AC pC+~^ = 42/3"},
+    {3, "AB pA+~^ = 38/3; AB kB pA+~^ = 39/3"},
+    {2, "AB kA pB+~^ = 41/3; AC kA pC+~^ = 43/3"},
+    // Tools that belong to no triangle: at each press, wherever the drag ends.
+    {1, "AB pA+~^ kolmice = 18/3 19/3; AB kolmice^ zpet rovnobezka^ zpet kolmice = 19/3 20/3 19/3"},
+    {7, "AB kA rovnobezka = 21/3 20/3"},
+};
+
+TEST_F(Trojuhelniky, KazdyChybnyKrokStojiPresneToCoMa) {
+    for (const Pripady& p : PRIPADY) {
+        std::istringstream vse(p.Vse);
+        for (std::string pripad; std::getline(vse, pripad, ';');) {
+            const std::size_t rovna = pripad.find(" = ");
+            ASSERT_NE(rovna, std::string::npos) << pripad;
+            Rysovac r(Uloha(p.Druh), p.Druh);
+            r.Zacni().Rysuj(pripad.substr(0, rovna));
+            EXPECT_EQ(Uctovano(), pripad.substr(rovna + 3)) << "kind " << p.Druh << ": " << pripad;
+        }
+    }
+}
+
+TEST_F(Trojuhelniky, PraveTlacitkoAniStiskBezKrokuNicNestoji) {
+    Rysovac r(SSS, 1);
+    r.Zacni().Rysuj("AB").Kdo.Nastroj(2).Vyber("k úsečce AB");
+    r.Hra.Host().Okna().MysDolu(400, 300, 2, 0);
+    r.Hra.Host().Okna().MysNahoru(450, 250, 2, 0);
+    EXPECT_EQ(PocetUtvaru, 1);
+    EXPECT_EQ(SoucetZapornychBodu, 0);
+    for (int i = 0; i < 2; ++i) r.Kdo.Tahni({140, 190}, {140, 100});  // the second is not armed
+    EXPECT_EQ(PocetUtvaru, 2);
+    EXPECT_EQ(Uctovano(), "19/3");
+}
+
+// ---- Going back ------------------------------------------------------------------------------
+
+/// Objects and snap records of the construction.
+std::pair<int, int> Pocty() {
+    return {PocetUtvaru, PocetTrojic};
+}
+
+/// What is shown, less what the closed list held.
+Panel BezSeznamu(Panel p) {
+    p.Combo = {};
+    return p;
+}
+
+TEST_F(Trojuhelniky, VraciFaziZaFaziABodyNevraci) {
+    for (int druh = 1; druh <= 7; ++druh) {
+        SCOPED_TRACE(druh);
+        Rysovac r(Uloha(druh), druh);
+        r.Zacni();
+        const Panel faze1 = BezSeznamu(Dialogem(r).UkazPanel());
+        r.Rysuj("vse");
+        ASSERT_TRUE(Dialogem(r).Hotova());
+        EXPECT_EQ(Pocty(), (std::pair{3, 4}));
+        SoucetZapornychBodu = 4;
+
+        r.Rysuj("zpet");
+        EXPECT_FALSE(Dialogem(r).Hotova());
+        EXPECT_EQ(Pocty(), (std::pair{2, 2}));
+        Panel ceka = BezSeznamu(Dialogem(r).UkazPanel());
+        EXPECT_EQ(ceka.lblText2, "2. útvar:");
+        EXPECT_TRUE(ceka.PicZiva);
+        for (std::size_t i = 0; i < 5; ++i) EXPECT_TRUE(ceka.cmd[i].Zive && ceka.cmd[i].Barevne);
+
+        r.Rysuj("zpet");
+        EXPECT_EQ(Pocty(), (std::pair{1, 1}));
+        ceka.lblText2 = "1. útvar:";
+        EXPECT_EQ(BezSeznamu(Dialogem(r).UkazPanel()), ceka);
+
+        r.Rysuj("zpet");
+        EXPECT_EQ(Pocty(), (std::pair{0, 0}));
+        EXPECT_EQ(BezSeznamu(Dialogem(r).UkazPanel()), faze1);
+        EXPECT_EQ(SoucetZapornychBodu, 4);
+
+        // The same construction again, as if nothing had been.
+        r.Rysuj("vse");
+        EXPECT_TRUE(Dialogem(r).Hotova());
+        EXPECT_EQ(PocetChybnychKroku, 0);
+    }
+}
+
+TEST_F(Trojuhelniky, DokudSeCekaNaKresleniNenizadneTlacitkoZive) {
+    Rysovac r(SSS, 1);
+    r.Zacni().Rysuj("AB").Kdo.Nastroj(4).Vyber("kružnice k, střed v bodě B");
+    for (int i = 1; i <= 5; ++i) EXPECT_FALSE(r.Hra.Prvek("cmd", i).Enabled) << i;
+    EXPECT_TRUE(r.Hra.Prvek("txtVstup").Visible);
+    EXPECT_EQ(r.Hra.Prvek<Label>("lblText3").Caption, "kružnice k(B, r = ");
+}
+
+TEST_F(Trojuhelniky, NeuzavrenaTrojiceSeVraciTake) {
+    Rysovac r(SSS, 1);
+    r.Zacni().Rysuj("AB rovnobezka rovnobezka");  // two parallels never meet
+    EXPECT_FALSE(Dialogem(r).Hotova());
+    EXPECT_EQ(PocetUtvaru, 3);
+    r.Kdo.Stiskni("cmd", 1).Stiskni("cmd", 4);  // a full construction takes nothing more
+    EXPECT_EQ(PocetUtvaru, 3);
+    EXPECT_FALSE(r.Hra.Prvek("Combo").Visible);
+    r.Rysuj("zpet");
+    EXPECT_EQ(Pocty(), (std::pair{2, 2}));
+    EXPECT_EQ(SoucetZapornychBodu, 6);
+}
+
+// ---- Settling the example --------------------------------------------------------------------
+
+struct PripadKontroly {
+    const char *NavicZnacka, *Kroky;
+    const char* Kontrola;      ///< numbers charged by the check, in this order
+    const char* PosledniText;  ///< the end of the last charge's sentence
+    int Soucet, Kladne, Zaporne;
+};
+constexpr PripadKontroly KONTROLY[] = {
+    {"", "vse", "", "", 0, 10, 0},
+    {"", "AB+ kA kB", "", "  -1 bod", 1, 9, 1},
+    {"", "AB+ kolmice zpet kolmice zpet kolmice zpet kA kB", "", "  -3 body", 10, 0, 10},
+    {"", "AB kolmice zpet kolmice zpet kolmice zpet kolmice zpet kA kB", "", "  -3 body", 12, 0,
+     10},
+    // Wrong marks cost nothing on a clean example.
+    {"gama", "vse", "", "", 0, 10, 0},
+    {"gama", "AB+ kA kB", "16", "  -1 bod", 2, 8, 2},
+    {"", "AB+~", "301 300", "    - 6 bod", 14, 0, 10},
+    {"gama", "AB", "301 16 300", "    - 7 bod", 13, 0, 10},
+    {"", "", "301 300", "    - 7 bod", 13, 0, 10},
+    {"", "AB+~ kolmice zpet kolmice zpet", "301 300", "dokončena.", 20, 0, 10},
+    {"", "AB kA rovnobezka", "301", "  -1 bod", 4, 6, 4},
+    {"", "AB kolmice pA", "301", "  -2 body", 8, 2, 8},
+};
+
+TEST_F(Trojuhelniky, SoucetVerdiktABodyPodlePripadu) {
+    for (const PripadKontroly& p : KONTROLY) {
+        SCOPED_TRACE(p.Kroky);
+        Rysovac r(SSS, 1);
+        r.Zacni(p.NavicZnacka).Rysuj(p.Kroky);
+        const std::size_t predtim = Zak::Chyby().size();
+        r.Zkontroluj();
+        std::string kontrola;
+        const auto vse = Zak::Chyby();
+        for (std::size_t i = predtim; i < vse.size(); ++i) {
+            kontrola += (i == predtim ? "" : " ") + std::to_string(vse[i].Cislo);
+        }
+        EXPECT_EQ(kontrola, p.Kontrola);
+        const std::string& text = ChybneKroky[PocetChybnychKroku].Text;
+        EXPECT_TRUE(text.ends_with(p.PosledniText)) << text;
+        EXPECT_EQ(SoucetZapornychBodu, p.Soucet);
+        EXPECT_EQ(KladneBody, p.Kladne);
+        EXPECT_EQ(ZaporneBody, p.Zaporne);
+        EXPECT_TRUE(r.Hra.Prvek("ImgHodnoceni").Visible);
+        EXPECT_EQ(r.Hra.Prvek("ImgHodnoceni").Enabled, p.Zaporne > 0);
+        for (int i = 1; i <= 3; ++i) EXPECT_FALSE(r.Hra.Prvek("PicTop", i).Enabled);
+        for (int i = 1; i <= 5; ++i) EXPECT_FALSE(r.Hra.Prvek("cmd", i).Enabled);
+        EXPECT_FALSE(r.Hra.Prvek("Pic").Enabled);
+        EXPECT_TRUE(r.Hra.Prvek("picPokracuj").Enabled);
+    }
+}
+
+TEST_F(Trojuhelniky, SeznamChybUkazeDesetANejdelDokudSeDrzi) {
+    Rysovac r(SSS, 1);
+    r.Zacni().Rysuj("AB");
+    for (int i = 0; i < 11; ++i) r.Rysuj("kolmice zpet");
+    r.Rysuj("kA kB").Zkontroluj();
+    ASSERT_EQ(PocetChybnychKroku, 11);
+    r.Hra.Zmackni("ImgHodnoceni", 0, {5, 5});
+    ASSERT_EQ(r.Hra.JmenoVpredu(), "ChybovyForm");
+    const std::string& text = r.Hra.Prvek<TextBox>("Text1").Text;
+    std::string ceka = "Během konstrukce byly provedeny tyto chybné kroky:\n\n";
+    for (int i = 1; i <= 10; ++i) {
+        ceka += " " + std::to_string(i) + ". Kolmice do této konstrukce nepatří.  -3 body\n";
+    }
+    EXPECT_EQ(text, ceka);
+    r.Hra.Cekej(500);
+    EXPECT_EQ(r.Hra.JmenoVpredu(), "ChybovyForm");
+    r.Hra.Host().Okna().MysNahoru(180, 410, 1, 0);
+    EXPECT_EQ(r.Hra.Najdi("ChybovyForm"), nullptr);
+    EXPECT_FALSE(r.Hra.Prvek("IHintS").Visible);
+
+    // A release that got lost: the next press, beside the list or on it, closes it.
+    for (const Bod kde : {Bod{20, 470}, Bod{400, 200}}) {
+        r.Hra.Zmackni("ImgHodnoceni", 0, {5, 5});
+        ASSERT_EQ(r.Hra.JmenoVpredu(), "ChybovyForm");
+        r.Hra.StiskniMisto(kde.X, kde.Y);
+        r.Hra.Cekej(200);
+        EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
+        EXPECT_FALSE(r.Hra.Prvek("IHintS").Visible);
+    }
+}
+
+// ---- The vertex and the arrows ---------------------------------------------------------------
+
+TEST_F(Trojuhelniky, PosunutyVrcholZustavaVrcholemAZpetHoPusti) {
+    for (int druh = 1; druh <= 7; ++druh) {
+        SCOPED_TRACE(druh);
+        Rysovac r(Uloha(druh), druh);
+        r.Zacni().Rysuj("vse");
+        const Bod vrchol = Dialogem(r).Stav().Vrchol;
+        ASSERT_NE(vrchol, BEZ_BODU);
+        for (int i = 0; i < 3; ++i) r.Kdo.Stiskni("picSipka", 1);
+        r.Kdo.Stiskni("picSipka", 4);
+        const Bod posunuty{vrchol.X + 60, vrchol.Y - 20};
+        EXPECT_EQ(Dialogem(r).Stav().Vrchol, posunuty);
+        ASSERT_EQ(PocetTrojic, 4);
+        EXPECT_EQ((Bod{Trojice_tab[4].X1, Trojice_tab[4].Y1}), posunuty);
+        EXPECT_EQ(Trojice_tab[4].Jmeno1, Dialogem(r).Stav().PismenoVrcholu);
+        EXPECT_EQ(Utvary[1].X1, r.Prvni.X + 60);
+        r.Rysuj("zpet");
+        EXPECT_EQ(PocetTrojic, 2);
+        EXPECT_EQ(Dialogem(r).Stav().Vrchol, BEZ_BODU);
+        r.Kdo.Stiskni("picSipka", 2);
+        EXPECT_EQ((Bod{Trojice_tab[1].X1, Trojice_tab[1].Y1}),
+                  (Bod{r.Prvni.X + 40, r.Prvni.Y - 20}));
+    }
+}
+
+TEST_F(Trojuhelniky, SedmyStiskJesteOsmyUzNe) {
+    Rysovac r(SSS, 1);
+    r.Zacni();
+    const int* const POSUNY[] = {&PosunX, &PosunX, &PosunY, &PosunY};
+    for (int i = 1; i <= 4; ++i) {
+        const int smer = i % 2 == 1 ? 1 : -1;
+        const int& posun = *POSUNY[i - 1];
+        while (posun != 0) r.Kdo.Stiskni("picSipka", i);
+        for (int k = 1; k <= 7; ++k) r.Kdo.Stiskni("picSipka", i);
+        EXPECT_EQ(posun, smer * 140);
+        r.Kdo.Stiskni("picSipka", i);
+        EXPECT_EQ(posun, smer * 140);
+    }
+    r.Kdo.Stiskni("PicTop", 2);
+    EXPECT_EQ(PosunX, 0);
+    EXPECT_EQ(PosunY, 0);
+}
+
+}  // namespace
+}  // namespace rysovna::testy
