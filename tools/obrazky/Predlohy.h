@@ -7,7 +7,7 @@
 
 namespace rysovna::obrazky {
 
-/// One picture to be rendered, with every placeholder of its template filled in.
+/// One picture to be rendered, with its template filled in.
 struct Obrazek {
     std::string Soubor;  ///< path of the .bmp below the assets, with "/"
     int Sirka = 0;       ///< px at 1:1

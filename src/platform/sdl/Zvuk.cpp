@@ -151,12 +151,12 @@ const Zvuk::Prace::Vzorky& Zvuk::Prace::DejVzorky(const std::filesystem::path& s
     const auto [misto, nove] = Nactene.try_emplace(soubor);
     Vzorky& vzorky = misto->second;
     if (!nove) return vzorky;
-    SDL_AudioSpec spec{};
+    SDL_AudioSpec popis{};
     Uint8* data = nullptr;
     Uint32 delka = 0;
-    if (SDL_LoadWAV(soubor.c_str(), &spec, &data, &delka) == nullptr) return vzorky;
+    if (SDL_LoadWAV(soubor.c_str(), &popis, &data, &delka) == nullptr) return vzorky;
     SDL_AudioCVT prevod{};
-    const int potreba = SDL_BuildAudioCVT(&prevod, spec.format, spec.channels, spec.freq, Format,
+    const int potreba = SDL_BuildAudioCVT(&prevod, popis.format, popis.channels, popis.freq, Format,
                                           Kanaly, Frekvence);
     if (potreba >= 0) {
         // The conversion works in place and needs room for its widest stage.
