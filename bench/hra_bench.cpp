@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "podpora/Zak.h"
+#include "hrac/Trojuhelnik.h"
 #include "shell/Soubory.h"
 #include "shell/Ulohy.h"
 #include "tasks/Desky.h"
@@ -19,13 +19,15 @@ namespace {
 void PrikladySss(benchmark::State& stav) {
     const bool zasouvat = stav.range(0) != 0;
     NastavVyrobceDesek(VyrobDesku);
-    testy::Relace hra;
+    hrac::Relace hra;
     hra.Start();
     hra.SpustUlohu(1, "Měření", 5);
+    hrac::RukaNaDesce ruka(hra);
     std::uint32_t seminko = 0;
     for (auto _ : stav) {
         hra.Host().SeminkoHry = ++seminko;
-        testy::DokonalyZak(hra, seminko, zasouvat).OdehrajPriklad();
+        hrac::DokonalyTrojuhelnik(ruka, seminko, zasouvat).Sestroj();
+        ruka.Zkontroluj();
         hra.Stiskni("picPokracuj");
         if (hra.JmenoVpredu() == "TabulkaForm") {
             hra.Stiskni("picKonec");

@@ -81,6 +81,7 @@ void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
         if (!poustiSe_ && dialog_->CekaNaKresleni()) UkazTah(dialog_->Tah(m.X, m.Y), m);
         return;
     }
+    if ((m.Button & LEVE) == 0) SkryjTah();  // what only passing over the plane showed
     const bool sipka = Je(picSipka, o);
     if (!sipka && !Je(PicTop, o)) return;
     const auto cislo = static_cast<std::uint8_t>(o->Index + (sipka ? HOVER_SIPKY : 0));
@@ -189,8 +190,8 @@ void DeskaForm::SkryjTah() {
 }
 
 void DeskaForm::PustPlochu(const Mys& m) {
-    if (poustiSe_ || !dialog_->CekaNaKresleni()) return;
     SkryjTah();
+    if (poustiSe_ || !dialog_->CekaNaKresleni()) return;
     poustiSe_ = true;
     Cekej(dialog_->CekaniPoTahu());
     poustiSe_ = false;

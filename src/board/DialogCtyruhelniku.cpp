@@ -70,7 +70,7 @@ constexpr double NEJDELSI = 1e5;         // px that a typed length may make at a
 constexpr double DELKA_PAPRSKU = 10000;  // px, so that rounding does not bend the ray
 
 constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhelník!";
-constexpr int SIRKA_ZNAKU = 6, VYSKA_ZNAKU = 12;  // px, about, of the text on the plane
+constexpr int SIRKA_NELZE = 274, VYSKA_NELZE = 12;  // px of that text as the plane prints it
 
 constexpr int SIRKA_SEZNAMU_TROJUHELNIKU = 105, SIRKA_SEZNAMU_VET = 140;  // px
 constexpr int OKRAJ_RADKU = 4, VYSKA_RADKU = 20;
@@ -180,8 +180,7 @@ void DialogCtyruhelniku::NoveZadani() {
     stav_.Znacky = 0;
     cisloPrikladu_ = VylosujPriklad();
     ZapomenZadanePrvky();
-    VylosujHodnoty(Hrany(), hodnoty_);
-    SestavZadani();
+    if (VylosujHodnoty(Hrany(), hodnoty_)) SestavZadani();
 }
 
 void DialogCtyruhelniku::SestavZadani() {
@@ -212,9 +211,8 @@ void DialogCtyruhelniku::Prekresli() {
     PrekresliVse(platna_.HidenPic, platna_.Pic);
     if (!stav_.Nesestrojen) return;
     Plane& pic = platna_.Pic;
-    const auto sirka = static_cast<float>(SIRKA_ZNAKU * static_cast<int>(NELZE.size()));
-    pic.CurrentX = (static_cast<float>(pic.Width()) - sirka) / 2;
-    pic.CurrentY = static_cast<float>(pic.Height() - VYSKA_ZNAKU) / 2;
+    pic.CurrentX = static_cast<float>(pic.Width() - SIRKA_NELZE) / 2;
+    pic.CurrentY = static_cast<float>(pic.Height() - VYSKA_NELZE) / 2;
     pic.Print(NELZE);
 }
 
@@ -400,7 +398,6 @@ void DialogCtyruhelniku::DalsiFaze() {
 
 void DialogCtyruhelniku::Zpet() {
     platna_.Pic.DrawWidth = 1;
-    if (stav_.Faze <= 1) return;
     --stav_.Faze;
     stav_.CekaNaKresleni = false;
     stav_.ZvolenyUtvar.clear();
@@ -426,6 +423,7 @@ void DialogCtyruhelniku::Zpet() {
 void DialogCtyruhelniku::Zkontroluj() {
     stav_.Skontrolovano = true;
     stav_.Tazeni = false;
+    ZavriSeznam();
     int chybnych = ZadanePrvky[1].Prvek == Hrany().Text2 ? 0 : 1;
     for (const int faze : {2, 3}) {
         if (!PrvekSpravny(faze)) ++chybnych;

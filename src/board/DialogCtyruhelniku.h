@@ -107,8 +107,8 @@ public:
 protected:
     /// The given quantities in their order.
     [[nodiscard]] virtual std::vector<Zadana> Zadane() const = 0;
-    /// Draws the values for a kind; they stay as they were for an unknown kind.
-    virtual void VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) = 0;
+    /// Draws the values for a kind. False for an unknown kind: values and assignment stay.
+    [[nodiscard]] virtual bool VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) = 0;
     /// A tool was pressed after the triangle; opens its list.
     virtual void NabidniDalsi(int i) = 0;
     /// A line of such a list was chosen; the list is closed by now.

@@ -191,7 +191,7 @@ bool JdeSestrojit(const Plane& plocha, const Priklad& p, const VetaTrojuhelniku&
 
 }  // namespace
 
-void VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
+bool VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
                         std::span<const VetaTrojuhelniku> vety, Hodnoty5& hodnoty) {
     const auto veta = std::ranges::find_if(vety, [&p](const VetaTrojuhelniku& v) {
         return v.Veta == p.Text1 && v.Trojuhelnik == p.Text2;
@@ -202,8 +202,9 @@ void VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
         for (int i = 0; i < NEJVIC_LOSOVANI; ++i) {
             if (Vylosuj(s, rovnobeznost, hodnoty) && JdeSestrojit(plocha, p, *veta, hodnoty)) break;
         }
-        return;
+        return true;
     }
+    return false;
 }
 
 }  // namespace rysovna

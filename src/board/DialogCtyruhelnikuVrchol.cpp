@@ -89,8 +89,8 @@ std::vector<Zadana> DialogCtyruhelnikuVrchol::Zadane() const {
             {p.Kroky[2].Jmeno, p.Kroky[2].JmenoB}};
 }
 
-void DialogCtyruhelnikuVrchol::VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) {
-    VylosujCtyruhelnik(platna_.Pic, p, Pravidla().Vety, hodnoty);
+bool DialogCtyruhelnikuVrchol::VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) {
+    return VylosujCtyruhelnik(platna_.Pic, p, Pravidla().Vety, hodnoty);
 }
 
 // ---- Lists -----------------------------------------------------------------------------------
@@ -124,18 +124,20 @@ void DialogCtyruhelnikuVrchol::NabidniPaprsky() {
 void DialogCtyruhelnikuVrchol::NabidniPrimky(std::string_view druh) {
     Upravit().ZvolenyUtvar = druh;
     const bool kolmice = druh == KOLMICE;
-    const std::string uSide = vrchol_.HoleStrany ? "" : kolmice ? "k úsečce " : "s úsečkou ";
+    const std::string uStrany = vrchol_.HoleStrany ? "" : kolmice ? "k úsečce " : "s úsečkou ";
     std::vector<RadekSeznamu> radky;
     for (int i = 1; i <= PocetUtvaru; ++i) {
         const Utvar& u = Utvary[i];
         const std::string jmena = u.Jmeno1 + u.Jmeno2;
         if (u.Druh == USECKA) {
-            radky.push_back({uSide + jmena, true, true, jmena});
+            // A trapezoid's bases are sides; the starting triangle has a diagonal, too.
+            if (vrchol_.HoleStrany && VyskaNaStranu(jmena).empty()) continue;
+            radky.push_back({uStrany + jmena, true, true, jmena});
         } else if (u.Druh == ROVNOBEZKA || u.Druh == KOLMICE) {
             radky.push_back({(kolmice ? "k přímce " : "s přímkou ") + u.Jmeno1, true, true, jmena});
         }
     }
-    OtevriSeznam(SIRKA_SEZNAMU, std::move(radky));
+    if (!radky.empty()) OtevriSeznam(SIRKA_SEZNAMU, std::move(radky));
 }
 
 void DialogCtyruhelnikuVrchol::NabidniKruznice() {
@@ -372,9 +374,12 @@ void DialogCtyruhelnikuVrchol::NakresliUtvar(Bod konec) {
 /// each with its two sides.
 void DialogCtyruhelnikuVrchol::Uzavri() {
     if (Stav().Nesestrojen) return;
-    const Pruseciky body =
-        PrusecikyUtvaru(platna_.Pic, Utvary[PocetUtvaru - 1], Utvary[PocetUtvaru]);
-    if (body.P1 == BEZ_BODU) return;
+    const Utvar& prvniUtvar = Utvary[PocetUtvaru - 1];
+    const Utvar& druhyUtvar = Utvary[PocetUtvaru];
+    const Pruseciky body = PrusecikyUtvaru(platna_.Pic, prvniUtvar, druhyUtvar);
+    // Rays to the wrong sides meet behind their starts: the read-out, which has no sign, cannot
+    // tell, the figure does.
+    if (body.P1 == BEZ_BODU || !JePred(prvniUtvar, body.P1) || !JePred(druhyUtvar, body.P1)) return;
     const std::string_view v = Vrcholy();
     const std::string prvni(v.substr(0, 1));
     const std::string treti(v.substr(2, 1));

@@ -40,7 +40,7 @@ public:
 
 protected:
     [[nodiscard]] std::vector<Zadana> Zadane() const override;
-    void VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) override;
+    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) override;
     void NabidniDalsi(int i) override;
     void ZvolDalsi(const RadekSeznamu& radek) override;
     [[nodiscard]] bool PrvekSpravny(int faze) const override;
@@ -73,7 +73,7 @@ private:
 /// Draws the five values of a kind by their table, again until they make a figure that can be
 /// drawn: the two objects meet, also with the play that a read-out leaves, the vertices fit the
 /// plane after some travel of the arrows, and with a parallel a trapezoid comes out.
-void VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
-                        std::span<const VetaTrojuhelniku> vety, Hodnoty5& hodnoty);
+[[nodiscard]] bool VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
+                                      std::span<const VetaTrojuhelniku> vety, Hodnoty5& hodnoty);
 
 }  // namespace rysovna

@@ -76,8 +76,7 @@ void DialogTrojuhelniku::NoveZadani() {
     stav_.Znacky = 0;
     cisloPrikladu_ = VylosujPriklad();
     ZapomenZadanePrvky();
-    VylosujHodnoty(Hrany(), hodnoty_);
-    SestavZadani(Hrany(), hodnoty_, zadani_);
+    if (VylosujHodnoty(Hrany(), hodnoty_)) SestavZadani(Hrany(), hodnoty_, zadani_);
 }
 
 void DialogTrojuhelniku::Posun(int dx, int dy) {
@@ -273,6 +272,7 @@ void DialogTrojuhelniku::DokonciTrojuhelnik(bool pridatRadek) {
 void DialogTrojuhelniku::Zkontroluj() {
     stav_.Skontrolovano = true;
     stav_.Tazeni = false;
+    ZavriSeznam();
     PosudPrvky();
     UctujZnacky(stav_.Znacky == OcekavaneZnacky());
     if (!stav_.HotovaKonstrukce) UctujNedokoncenou(TvarBodu::VzdyBod);

@@ -122,8 +122,8 @@ public:
 protected:
     // What the boards answer each in its own way.
 
-    /// Draws the three values for a kind; values stay as they were for an unknown kind.
-    virtual void VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) = 0;
+    /// Draws the three values for a kind. False for an unknown kind: values and assignment stay.
+    [[nodiscard]] virtual bool VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) = 0;
     /// Sets the labels of the assignment; a label whose rule fits nothing keeps its caption.
     virtual void SestavZadani(const Priklad& p, const Hodnoty3& hodnoty,
                               std::vector<PolozkaZadani>& zadani) = 0;

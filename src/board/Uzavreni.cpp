@@ -51,6 +51,10 @@ Pruseciky PaprsekAKruznice(const Utvar& p, const Utvar& k) {
 
 }  // namespace
 
+bool JePred(const Utvar& utvar, Bod s) {
+    return !JePaprsek(utvar) || PredZacatkem(utvar, s);
+}
+
 Pruseciky PrusecikyUtvaru(const Plane& plocha, const Utvar& prvni, const Utvar& druhy) {
     if (JeKruznice(druhy) && !JeKruznice(prvni)) return PrusecikyUtvaru(plocha, druhy, prvni);
     Pruseciky v;

@@ -20,6 +20,9 @@ struct Pruseciky {
 [[nodiscard]] Pruseciky PrusecikyUtvaru(const Plane& plocha, const Utvar& prvni,
                                         const Utvar& druhy);
 
+/// Whether a point lies ahead of a ray's start; of any other object always.
+[[nodiscard]] bool JePred(const Utvar& utvar, Bod s);
+
 /// Of two meeting points the one for the third vertex: the one to the left of the first side as
 /// the eye goes from its first letter to its second (from C to A on a side named A, C). With one
 /// point alone, that one. Differences of direction are taken in whole turns of 360 degrees: below

@@ -109,7 +109,7 @@ std::vector<Zadana> RovnoDialog::Zadane() const {
     return {{p.Nazev1, p.Jednotka1}, {p.Nazev2, p.Jednotka2}, {p.Nazev3, p.Jednotka3}};
 }
 
-void RovnoDialog::VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) {
+bool RovnoDialog::VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) {
     constexpr int NEJVIC_LOSOVANI = 20000;  // data that do not go together must not hold it up
     const std::string_view nazvy[] = {p.Nazev1, p.Nazev2, p.Nazev3};
     for (const Losovani& l : LOSOVANI) {
@@ -118,10 +118,11 @@ void RovnoDialog::VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) {
             hodnoty[0] = Generator.D(DELKA.Rozpeti, DELKA.Zaklad);
             hodnoty[1] = Generator.D(DELKA.Rozpeti, DELKA.Zaklad);
             hodnoty[2] = Generator.D(l.Treti.Rozpeti, l.Treti.Zaklad);
-            if (Vyhovuje(l, nazvy, hodnoty)) return;
+            if (Vyhovuje(l, nazvy, hodnoty)) break;
         }
-        return;
+        return true;
     }
+    return false;
 }
 
 bool RovnoDialog::SeStredem() const {
@@ -201,7 +202,9 @@ void RovnoDialog::NabidniStredy() {
 
 void RovnoDialog::NabidniObrazy() {
     Upravit().ZvolenyUtvar = OBRAZ_BODU;
-    std::vector<RadekSeznamu> radky;
+    // The heading stands in two lines that cannot be picked.
+    std::vector<RadekSeznamu> radky = {{"Obraz", true, false, ""},
+                                       {"ve střed. souměrnosti", true, false, ""}};
     for (const char c : {'A', 'B', 'C', 'D'}) {
         const std::string vzor(1, c);
         radky.push_back(
@@ -224,9 +227,10 @@ void RovnoDialog::ZvolStred(const std::string& kod) {
     Zapis(BOD, kod);
     const auto stredy = Stredy();
     if (std::ranges::find(stredy, std::string_view(kod)) == stredy.end()) ChybnaVolba(CHYBA_STRED);
-    // A vertex stands on the plane already: there is nothing to click.
-    if (kod.size() > 1) return;
-    NakresliStred(Misto(kod).value_or(Bod{}));
+    // A vertex that stands on the plane already needs no click.
+    const auto vrchol = Misto(kod);
+    if (kod.size() > 1 || !vrchol) return;
+    NakresliStred(*vrchol, kod == STRED);
     DalsiFaze();
 }
 
@@ -258,10 +262,10 @@ void RovnoDialog::StiskPlochy(float x, float y) {
     Upravit().Start = {Zaokrouhli(x), Zaokrouhli(y)};
 }
 
-/// Marks the centre; where S is a vertex of the triangle it has its letter already.
-void RovnoDialog::NakresliStred(Bod stred) {
+/// Marks the centre. maPismeno: it is the vertex S of the triangle, which has its letter already.
+void RovnoDialog::NakresliStred(Bod stred, bool maPismeno) {
     const int n = NovyUtvar(STRED, "");
-    KresliBod(platna_.Pic, BOD, STRED, n, stred.X, stred.Y, SeStredem() ? "" : STRED, "", ANO);
+    KresliBod(platna_.Pic, BOD, STRED, n, stred.X, stred.Y, maPismeno ? "" : STRED, "", ANO);
 }
 
 /// The click marks the computed point, near or far: where the triangle is missing, its own place.
@@ -273,7 +277,7 @@ void RovnoDialog::PusteniPlochy(float /*x*/, float /*y*/) {
         const auto p = Misto(prvek.substr(0, 1));
         const auto q = Misto(prvek.substr(1));
         if (p && q) bod = {Zaokrouhli((p->X + q->X) / 2.0), Zaokrouhli((p->Y + q->Y) / 2.0)};
-        NakresliStred(bod);
+        NakresliStred(bod, false);
     } else {
         const std::string hledany = HledanyBod();
         const auto vzor = Misto(prvek);
@@ -306,19 +310,18 @@ void RovnoDialog::Uzavri() {
 // ---- The panel -------------------------------------------------------------------------------
 
 void RovnoDialog::UkazDalsi(Panel& p) const {
-    constexpr std::array<int, 6> FACES = {11, 15, 0, 0, 12, 0};
+    constexpr std::array<int, 6> TVARY_KROKU = {11, 15, 0, 0, 12, 0};
     const bool ceka = Stav().CekaNaKresleni;
     const bool stred = Stav().Faze == 2;
     if (stred) {
         p.lblText1 = ceka ? VYZVA_STRED_KLIK : VYZVA_STRED;
     } else {
         p.lblText1 = ceka ? VYZVA_OBRAZ_KLIK : VYZVA_OBRAZ;
-        p.lblText2 = "";
     }
-    for (std::size_t i = 0; i < FACES.size(); ++i) {
+    for (std::size_t i = 0; i < TVARY_KROKU.size(); ++i) {
         const bool naRade = i == 4 || (i == 0 && stred) || (i == 1 && !stred);
-        const bool zive = !ceka && FACES[i] != 0 && naRade;
-        p.cmd[i] = {FACES[i], zive, zive};
+        const bool zive = !ceka && TVARY_KROKU[i] != 0 && naRade;
+        p.cmd[i] = {TVARY_KROKU[i], zive, zive};
     }
 }
 

@@ -20,12 +20,12 @@ public:
 
     void StiskPlochy(float x, float y) override;
     [[nodiscard]] Gumicka Tah(float /*x*/, float /*y*/) const override { return {}; }
-    [[nodiscard]] std::uint32_t CekaniPoTahu() const override { return 10; }
+    [[nodiscard]] std::uint32_t CekaniPoTahu() const override { return 100; }
     void PusteniPlochy(float x, float y) override;
 
 protected:
     [[nodiscard]] std::vector<Zadana> Zadane() const override;
-    void VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) override;
+    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) override;
     void NabidniDalsi(int i) override;
     void ZvolDalsi(const RadekSeznamu& radek) override;
     [[nodiscard]] int PosledniFaze() const override;
@@ -37,7 +37,7 @@ private:
     void NabidniObrazy();
     void ZvolStred(const std::string& kod);
     void ZvolObraz(const std::string& vzor);
-    void NakresliStred(Bod stred);
+    void NakresliStred(Bod stred, bool maPismeno);
     void Uzavri();
     [[nodiscard]] std::vector<std::string_view> Stredy() const;
     [[nodiscard]] std::vector<std::string_view> Vzory() const;

@@ -55,7 +55,7 @@ int NajdiCaru(std::string_view jmeno) {
 }
 
 const Cviceni* TecnyDialog::Hrane() const {
-    return zadano_ ? NajdiCviceni(Priklady[cisloPrikladu_].Druh) : nullptr;
+    return NajdiCviceni(Priklady[cisloPrikladu_].Druh);
 }
 
 const KrokTecny* TecnyDialog::KrokFaze(int faze) const {
@@ -88,7 +88,7 @@ void TecnyDialog::NoveZadani() {
 
 bool TecnyDialog::StiskNacrtu(float x, float y) {
     const Cviceni* c = Hrane();
-    if (c == nullptr || stav_.Skontrolovano) return false;
+    if (c == nullptr || !zadano_ || stav_.Skontrolovano) return false;
     const auto prvky = NacrtTecny(c->Kod);
     const auto p =
         std::ranges::find_if(prvky, [&](const PrvekNacrtuTecny& e) { return e.Obsahuje(x, y); });

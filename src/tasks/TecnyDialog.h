@@ -24,7 +24,7 @@ struct DvaPruseciky {
 struct StavTecny {
     int Faze = 1;               ///< step of the exercise; past its last one nothing is offered
     DvaPruseciky Pary;          ///< what the markings of this exercise can take
-    std::uint32_t Pouzite = 0;  ///< bit i: a line went through the i-th of the step's points
+    std::uint32_t Pouzite = 0;  ///< bit i: a line took the i-th of the step's points or rows
     bool Zpatky = false;        ///< the step was reached by back
     bool HotovaKonstrukce = false;
     bool Skontrolovano = false;  ///< the check took the example
@@ -79,7 +79,7 @@ public:
 
     [[nodiscard]] const StavTecny& Stav() const { return stav_; }
     [[nodiscard]] int CisloPrikladu() const { return cisloPrikladu_; }
-    /// The exercise in play; null for an unknown code and before the first example.
+    /// The exercise in play, between two examples that of the last one; null for an unknown code.
     [[nodiscard]] const Cviceni* Hrane() const;
 
 private:
@@ -110,6 +110,7 @@ private:
     [[nodiscard]] std::string_view VolneJmeno(const KrokTecny& krok) const;
 
     // TecnyDialogVolba.cpp: the pick of a line, and what is shown
+    [[nodiscard]] bool JeVzata(int radek) const;
     void ZvolPrimku(const std::string& zaklad);
     void ZvolKruznici(const KrokTecny& krok, const std::string& stred);
     void ZvolOsu();

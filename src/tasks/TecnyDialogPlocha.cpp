@@ -1,5 +1,6 @@
 // The plane: marking of points, drawing of objects, their judgement, the end of a step.
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -166,8 +167,8 @@ Gumicka TecnyDialog::Tah(float x, float y) const {
     Dvojice b = BodyPrimky(konec);
     if (stav_.Zakladna != 0 && !volna) b.P2 = PataUkazatele(b, konec);
     Gumicka g{Gumicka::Tvar::Cara, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, {}};
-    if (volna && stav_.Zakladna != 0) {
-        g.Text = OdectiVzdalenost(Utvary[stav_.Zakladna], stav_.Start, konec);
+    if (stav_.Tvar == Nastroj::Rovnobezka && stav_.Zakladna != 0) {
+        g.Text = OdectiVzdalenost(Utvary[stav_.Zakladna], stav_.Start, volna ? konec : b.P1);
     }
     return g;
 }
@@ -263,6 +264,8 @@ void TecnyDialog::PosudKonce(const KrokTecny& krok, const Dvojice& body) {
     const bool spravne =
         body.P1 == NajdiBod(jmena.substr(0, 1)) && body.P2 == NajdiBod(jmena.substr(1));
     if (!spravne) Uctuj(krok.ChybaRysovani);
+    const auto* radek = std::ranges::find(krok.Volby, jmena, &Volba::Prvek);
+    if (stav_.Spravny) stav_.Pouzite |= 1U << (radek - krok.Volby.begin());
 }
 
 /// The circle has to pass through A, as near as the pointer can.

@@ -44,13 +44,18 @@ void TecnyDialog::VyberRadku(int i) {
     if (stav_.Tvar == Nastroj::Primka) {
         stav_.lblText3 = radek.Text;
         // A line that is no result gets no result's name.
-        if (radek.Tag == krok->VedlejsiVolba) {
+        if (radek.Tag == krok->VedlejsiVolba || JeVzata(i)) {
             stav_.Jmeno = "p" + std::to_string(stav_.Faze);
             stav_.Spravny = false;
         }
         return;
     }
     ZvolPrimku(radek.Tag);
+}
+
+/// Whether another line was drawn by this row of the list already: it cannot be both results.
+bool TecnyDialog::JeVzata(int radek) const {
+    return !KrokFaze()->Jmena[1].empty() && (stav_.Pouzite >> (radek - 1) & 1U) != 0;
 }
 
 /// Perpendicular or parallel to a base.
@@ -110,11 +115,11 @@ std::array<Tlacitko, 6> TecnyDialog::Tlacitka(const Cviceni& c) const {
     const KrokTecny& krok = *KrokFaze(zaKoncem ? posledni : stav_.Faze);
     const bool vRuce = stav_.CekaNaKresleni || stav_.Combo.Otevreny;
     const bool muzeZacit = stav_.Faze > 1 || KonstrukceZahajena != NE || stav_.Znacky != 0;
-    const bool volno = !zaKoncem && !vRuce && muzeZacit && !stav_.Skontrolovano;
+    const bool volno = zadano_ && !zaKoncem && !vRuce && muzeZacit;
     const bool sede = vRuce && stav_.Tvar == krok.Spravny && krok.SedeTvary[0] != Nastroj::Zadny;
     const auto& tvary = sede ? krok.SedeTvary : krok.Tvary;
     for (std::size_t i = 0; i < tvary.size(); ++i) {
-        cmd[i] = {static_cast<int>(tvary[i]), volno, volno};
+        cmd[i] = {static_cast<int>(tvary[i]), volno, volno && !stav_.Skontrolovano};
         if (tvary[i] == Nastroj::Zadny) cmd[i] = {};
     }
     // Back stays live while a point is to be marked: a crossing that could not be computed cannot

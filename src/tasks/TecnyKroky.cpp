@@ -243,7 +243,6 @@ constexpr KrokTecny KROKY_06[] = {
      .Chybne = {Kruznice},
      .Jmena = {"c"},
      .Vyzva = DALSI_ZADANOU,
-     .VyzvaZpet = PO_CARE,
      .Volby = {{{"a"}, {"AB"}}},
      .SpravnaVolba = "a",
      .ChybaVolby = 135,

@@ -12,9 +12,10 @@ namespace {
 using Prvek = PrvekNacrtuTecny;
 using enum PrvekNacrtuTecny::Tvar;
 
-constexpr double TOLERANCE = 4;  // px, of bands and rings
-constexpr double POL_BOXU = 5;   // px, of a point
-constexpr float KRIZ = 4;        // px, arm of a point's cross
+constexpr double PRSTENEC = 4;  // px, of a circle to both sides
+constexpr double UZKE = 2;      // px, the band of three level elements
+constexpr double POL_BOXU = 5;  // px, of a point
+constexpr float KRIZ = 4;       // px, arm of a point's cross
 
 constexpr Prvek NACRT_01[] = {
     {0, "k", Kruh, 91, 100, 50, 180, 84, 132},
@@ -30,19 +31,19 @@ constexpr Prvek NACRT_02[] = {
 };
 constexpr Prvek NACRT_03[] = {
     {0, "k", Kruh, 80, 90, 50, 180, 74, 122},
-    {4, "SA", Cara, 80, 90, 220, 90, 142, 92},
+    {4, "SA", Cara, 80, 90, 220, 90, 142, 92, UZKE},
     {5, "t1", Cara, 40, 21, 270, 109, 276, 104},
     {6, "t2", Cara, 40, 159, 270, 71, 276, 62},
 };
 constexpr Prvek NACRT_04[] = {
     {7, "A", Misto, 150, 50, 0, 0, 146, 30},
     {0, "k", Kruh, 150, 100, 50, 180, 146, 92},
-    {4, "a", Cara, 0, 150, 280, 150, 268, 152},
+    {4, "a", Cara, 0, 150, 280, 150, 268, 152, UZKE},
 };
 constexpr Prvek NACRT_05[] = {
     {ZNACKA_OSY, "AB", Cara, 136, 12, 195, 62, 172, 22},
     {0, "k", Kruh, 120, 90, 80, 180, 60, 120},
-    {4, "a", Cara, 0, 90, 280, 90, 268, 92},
+    {4, "a", Cara, 0, 90, 280, 90, 268, 92, UZKE},
 };
 constexpr Prvek NACRT_06[] = {
     {ZNACKA_OSY, "AB", Cara, 150, 150, 205, 95, 158, 106},
@@ -132,10 +133,11 @@ bool PrvekNacrtuTecny::Obsahuje(double x, double y) const {
     switch (Druh) {
         case Cara: {
             const double vyska = y1 + (x - x1) * (y2 - y1) / (x2 - x1);
-            return x >= x1 && x <= x2 && std::fabs(y - vyska) <= TOLERANCE;
+            return x >= x1 && x <= x2 && std::fabs(y - vyska) <= Pasmo;
         }
         case Kruh:
-            return std::fabs(std::hypot(x - x1, y - y1) - x2) <= TOLERANCE;
+            return std::fabs(x - x1) <= x2 &&
+                   std::fabs(std::hypot(x - x1, y - y1) - x2) <= PRSTENEC;
         case Misto:
             return std::fabs(x - x1) <= POL_BOXU && std::fabs(y - y1) <= POL_BOXU;
     }

@@ -11,8 +11,9 @@ namespace rysovna {
 /// One element of a tangent sketch: what can be marked, where it is hit, how it is drawn. Pixels
 /// of the sketch.
 struct PrvekNacrtuTecny {
-    /// A straight element is hit in the band of 4 px above and below it, a circle in the ring of
-    /// 4 px to both sides, a point in its box of 10 by 10 px.
+    /// A straight element is hit in the band of some px above and below it, a circle in the ring
+    /// of 4 px to both sides, but not beyond its left and right end, a point in its box of 10 by
+    /// 10 px.
     enum class Tvar { Cara, Kruh, Misto };
     int Znacka;  ///< number of its mark
     std::string_view Jmeno;
@@ -20,6 +21,7 @@ struct PrvekNacrtuTecny {
     float X1, Y1, X2, Y2;  ///< ends, left one first; centre, radius, and where on the circle its
                            ///< disc is, degrees; the point
     float PX, PY;          ///< where the name is printed
+    double Pasmo = 4;      ///< of a straight element: how far above and below it it is hit
 
     [[nodiscard]] bool Obsahuje(double x, double y) const;
 };

@@ -146,9 +146,9 @@ constexpr int TVARY[] = {1, 3, 4, 5, 6, 12};
 
 Troj1Dialog::Troj1Dialog(Platna platna) : DialogTrojuhelniku(platna, PRAVIDLA) {}
 
-void Troj1Dialog::VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) {
+bool Troj1Dialog::VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) {
     const auto* l = std::ranges::find(LOSOVANI, p.Druh, &Losovani::Druh);
-    if (l == std::end(LOSOVANI)) return;
+    if (l == std::end(LOSOVANI)) return false;
     do {
         for (std::size_t i = 0; i < hodnoty.size(); ++i) {
             hodnoty[i] = Generator.D(l->Vzorce[i].Rozpeti, l->Vzorce[i].Zaklad);
@@ -160,6 +160,7 @@ void Troj1Dialog::VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) {
             hodnoty[static_cast<std::size_t>(l->Jiny)] = Generator.D(u.Jiny.Rozpeti, u.Jiny.Zaklad);
         }
     } while (!Vyhovuje(*l, hodnoty));
+    return true;
 }
 
 void Troj1Dialog::SestavZadani(const Priklad& p, const Hodnoty3& hodnoty,

@@ -16,7 +16,7 @@ public:
     explicit Troj1Dialog(Platna platna);
 
 protected:
-    void VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) override;
+    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) override;
     void SestavZadani(const Priklad& p, const Hodnoty3& hodnoty,
                       std::vector<PolozkaZadani>& zadani) override;
     [[nodiscard]] int Hodnota(std::string_view velicina) const override;

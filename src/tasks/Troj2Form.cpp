@@ -158,7 +158,7 @@ constexpr int TVARY[] = {1, 3, 4, 5, 6, 12};
 
 Troj2Dialog::Troj2Dialog(Platna platna) : DialogTrojuhelniku(platna, PRAVIDLA) {}
 
-void Troj2Dialog::VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) {
+bool Troj2Dialog::VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) {
     for (const Losovani& l : LOSOVANI) {
         if (p.Druh < l.Od || p.Druh > l.Po) continue;
         do {
@@ -166,8 +166,9 @@ void Troj2Dialog::VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) {
                 hodnoty[i] = Generator.D(l.Vzorce[i].Rozpeti, l.Vzorce[i].Zaklad);
             }
         } while (!l.Plati(hodnoty[0], hodnoty[1], hodnoty[2]));
-        return;
+        return true;
     }
+    return false;
 }
 
 void Troj2Dialog::SestavZadani(const Priklad& p, const Hodnoty3& hodnoty,

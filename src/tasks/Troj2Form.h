@@ -20,7 +20,7 @@ public:
     [[nodiscard]] Gumicka Prejezd(float x, float y) const override;
 
 protected:
-    void VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) override;
+    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) override;
     void SestavZadani(const Priklad& p, const Hodnoty3& hodnoty,
                       std::vector<PolozkaZadani>& zadani) override;
     [[nodiscard]] int Hodnota(std::string_view velicina) const override;

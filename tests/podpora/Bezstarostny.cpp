@@ -4,19 +4,25 @@
 #include <regex>
 
 #include "base/Cisla.h"
+#include "board/DeskaForm.h"
 #include "engine/Tabulky.h"
+#include "hrac/Serie.h"
 #include "platform/Obrazovky.h"
 #include "shell/Misc.h"
 #include "shell/TabulkaForm.h"
 #include "shell/Ulohy.h"
 
 namespace rysovna::testy {
+
+using namespace hrac;
+
 namespace {
 
 constexpr int USEK = 500;  // events between two looks at the files
 constexpr std::size_t DELKA_STOPY = 40;
 constexpr int NEJVIC_NAPLANOVANYCH = 5;
 constexpr std::uint32_t NEJDELSI_UDALOST = 120'000;  // ms of the virtual clock
+constexpr int KDY_SESTROJI = 150;                    // one event of so many
 constexpr int DOST_CHYB = 80;  // wrong steps of one example, of the hundred there is room for
 
 /// How gladly a live control is pressed; those not named have VAHA_OSTATNICH.
@@ -26,9 +32,10 @@ struct VahaPrvku {
 };
 constexpr int VAHA_OSTATNICH = 4;
 constexpr int VAHA_UTEKU = 10'000;
+constexpr int VAHA_KONTROLY = 60;  // once the figure is closed
 constexpr VahaPrvku VAHY[] = {
     {"ComboLabel", 60},  {"picPokracuj", 60}, {"Pic", 40},      {"cmd", 14},   {"SamplePic", 8},
-    {"ImgHodnoceni", 8}, {"Combo", 2},        {"PicTop", 3},    {"picTop", 3}, {"picKonec", 6},
+    {"ImgHodnoceni", 8}, {"Combo", 2},        {"PicTop", 1},    {"picTop", 3}, {"picKonec", 6},
     {"INadpis", 1},      {"Image1", 1},       {"MalaSipka", 1}, {"RI", 20},    {"ICislo", 12}};
 
 constexpr std::string_view TEXTY[] = {"Žofie", "12,5", "-3", "  ",  "řeřicha", "999999999999",
@@ -48,8 +55,16 @@ bool JeZivy(const Ovladac& prvek) {
            prvek.Height > 0;
 }
 
-int Vaha(const Ovladac& o) {
+/// Whether the board in front has a closed figure that is not checked yet: the plane is off.
+bool JeUzavreno(Form* vpredu) {
+    const auto* pic = vpredu == nullptr ? nullptr : vpredu->Najdi("Pic");
+    const auto* nacrt = vpredu == nullptr ? nullptr : vpredu->Najdi("SamplePic");
+    return pic != nullptr && nacrt != nullptr && !pic->Enabled && nacrt->Enabled;
+}
+
+int Vaha(const Ovladac& o, bool uzavreno) {
     if (!JeZivy(o)) return 0;
+    if (uzavreno && o.Name == "PicTop" && o.Index == 1) return VAHA_KONTROLY;
     const auto* v = std::ranges::find(VAHY, o.Name, &VahaPrvku::Jmeno);
     if (v == std::end(VAHY)) return o.Druh == Ovladac::Typ::Label ? 1 : VAHA_OSTATNICH;
     const bool zpet = o.Index == 4 && o.Name.ends_with("icTop");
@@ -140,12 +155,29 @@ void Bezstarostny::Krok() {
             Udalost();
         });
     }
+    if (Jednou(KDY_SESTROJI)) Sestroj();
     Udalost();
     if (host.Okna().JeKonec()) {
         ZkontrolujSoubory();
         ZacniRelaci();
     } else if (host.TickCount() - zacatek > NEJDELSI_UDALOST) {
         Vadne("nekonečné čekání");
+    }
+}
+
+/// By chance alone hardly any construction gets to its end: now and then it begins a new example
+/// and finishes it, as far as what else goes on lets it.
+void Bezstarostny::Sestroj() {
+    const auto* deska = dynamic_cast<const DeskaForm*>(relace_->Vpredu());
+    if (deska == nullptr) return;
+    Zapamatuj("constructs", {});
+    try {
+        relace_->Stiskni("PicTop", 2);
+        relace_->Cekej(1600);
+        RukaNaDesce ruka(*relace_);
+        if (relace_->Vpredu() == deska) hrac::Sestroj(ruka, static_cast<std::uint32_t>(nahoda_()));
+    } catch (const NejdeUdelat&) {
+        // Another event came in between.
     }
 }
 
@@ -189,7 +221,12 @@ Bod Bezstarostny::Uvnitr(const Ovladac& o) {
 void Bezstarostny::Mys() {
     const auto form = relace_->Host().Okna().Vpredu();
     std::vector<int> vahy;
-    for (const Ovladac* o : form->Ovladace()) vahy.push_back(Vaha(*o));
+    const bool uzavreno = JeUzavreno(form.get());
+    for (const Ovladac* o : form->Ovladace()) {
+        // Of the families on the menu the one that is to be played.
+        const bool cizi = rodina_ != 0 && o->Name == "LI" && o->Index != rodina_;
+        vahy.push_back(cizi ? 0 : Vaha(*o, uzavreno));
+    }
     Bod kde{Cislo(720) - 40, Cislo(560) - 40};
     if (!Jednou(6) && std::ranges::count(vahy, 0) < std::ssize(vahy)) {
         std::discrete_distribution<std::size_t> ktery(vahy.begin(), vahy.end());
@@ -256,9 +293,7 @@ void Bezstarostny::Sleduj() {
         deska_ = vpredu;
         ++souhrn_.Desky[CisloUlohy];
     }
-    const auto* sketch = vpredu ? vpredu->Najdi("SamplePic") : nullptr;
-    // The plane is off while the example is not checked yet: the figure is closed.
-    const bool uzavreno = pic != nullptr && sketch != nullptr && !pic->Enabled && sketch->Enabled;
+    const bool uzavreno = JeUzavreno(vpredu.get());
     if (uzavreno && !uzavreno_) ++souhrn_.Uzavreni;
     uzavreno_ = uzavreno;
 }

@@ -9,9 +9,11 @@
 #include <string_view>
 #include <vector>
 
-#include "podpora/Relace.h"
+#include "hrac/Relace.h"
 
 namespace rysovna::testy {
+
+using hrac::Relace;
 
 /// The careless pupil: presses, drags, hovers and types at random over all screens from the title
 /// on, also while the program waits, and starts it again whenever it has ended. Its choices lean
@@ -23,7 +25,12 @@ namespace rysovna::testy {
 /// its record, and the hundred and first wrong step of one example is a fault.
 class Bezstarostny {
 public:
-    explicit Bezstarostny(std::uint32_t seminko) : nahoda_(seminko) { ZacniRelaci(); }
+    /// rodina: the family of tasks that it keeps to, but for a slip now and then, in the order of
+    /// the menu from 1; 0: any.
+    explicit Bezstarostny(std::uint32_t seminko, int rodina = 0)
+        : nahoda_(seminko), rodina_(rodina) {
+        ZacniRelaci();
+    }
 
     /// So many events more. Throws std::runtime_error that tells what was wrong and the last
     /// events before it.
@@ -54,6 +61,7 @@ private:
     void Tah(const Ovladac& pic);
     void Pis();
     void Cekej();
+    void Sestroj();
     [[nodiscard]] Bod Uvnitr(const Ovladac& o);
     void Stisk(Bod kde, int tlacitko);
     void Zapamatuj(const std::string& co, Bod kde);
@@ -62,6 +70,7 @@ private:
     void ZkontrolujSoubory();
 
     std::mt19937 nahoda_;
+    int rodina_;
     std::unique_ptr<Relace> relace_;
     std::deque<std::string> stopa_;  ///< the last events
     Souhrn souhrn_;

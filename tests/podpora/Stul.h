@@ -13,14 +13,16 @@
 #include "board/Dialog.h"
 #include "engine/PametovaPlocha.h"
 #include "engine/Tabulky.h"
+#include "hrac/Ruka.h"
 #include "podpora/Konstrukce.h"
-#include "podpora/Relace.h"
 #include "shell/Kodovani.h"
 #include "shell/MapaPoli.h"
 #include "shell/Misc.h"
 #include "shell/Soubory.h"
 
 namespace rysovna::testy {
+
+using namespace hrac;
 
 /// Examples of each line of a data file that the perfect pupil plays: 20 in CI, more by the
 /// environment.
@@ -43,7 +45,7 @@ struct Pohyb {
 /// the session, two planes in memory, a data root of its own. Calls chain. What a pupil could not
 /// do (a grey button, a line that is not offered) throws.
 template <class D>
-class Stul {
+class Stul : public Ruka {
 public:
     explicit Stul(int uloha) {
         VychoziRelace();
@@ -51,6 +53,13 @@ public:
         CisloUlohy = static_cast<std::uint8_t>(uloha);
         NactiPriklady(Soubor(), DeskaUlohy(uloha));
     }
+
+    [[nodiscard]] const Dialog& Hrany() const override { return dialog; }
+    [[nodiscard]] std::vector<Zadano> Zadani() const override {
+        return CtiZadani(dialog.UkazPanel().lblZadani);
+    }
+    void Posun(int dx, int dy) override { dialog.Posun(dx, dy); }
+    void Zkontroluj() override { dialog.Zkontroluj(); }
 
     /// The task's file now holds this line alone.
     Stul& Radek(std::string_view radek) {
@@ -65,35 +74,6 @@ public:
         dialog.NoveZadani();
         return *this;
     }
-    Stul& Nastroj(int i) {
-        if (!dialog.UkazPanel().cmd[static_cast<std::size_t>(i - 1)].Zive) {
-            throw std::runtime_error("nástroj nejde stisknout: " + std::to_string(i));
-        }
-        dialog.StiskNastroje(i);
-        return *this;
-    }
-    /// Picks the line of the open list that reads so.
-    Stul& Vyber(std::string_view text) {
-        const Seznam seznam = dialog.UkazPanel().Combo;
-        for (std::size_t i = 0; seznam.Otevreny && i < seznam.Radky.size(); ++i) {
-            const RadekSeznamu& r = seznam.Radky[i];
-            if (!r.Videt || !r.Ziva || r.Text != text) continue;
-            dialog.VyberRadku(static_cast<int>(i) + 1);
-            return *this;
-        }
-        throw std::runtime_error("v seznamu není: " + std::string(text));
-    }
-    Stul& Napis(std::string_view text, int ktery = 1) {
-        dialog.Napis(ktery, std::string(text));
-        return *this;
-    }
-    Stul& Napis(int cislo, int ktery = 1) { return Napis(TextBezMezery(cislo), ktery); }
-    Stul& Tahni(Bod odkud, Bod kam) {
-        dialog.StiskPlochy(static_cast<float>(odkud.X), static_cast<float>(odkud.Y));
-        dialog.PusteniPlochy(static_cast<float>(kam.X), static_cast<float>(kam.Y));
-        return *this;
-    }
-    Stul& Klikni(Bod kde) { return Tahni(kde, kde); }
     Stul& Proved(const std::vector<Pohyb>& pohyby) {
         for (const Pohyb& p : pohyby) {
             if (p.Nastroj == 0) {
@@ -110,9 +90,8 @@ public:
         }
         return *this;
     }
-    Stul& Zpet() { return Nastroj(5); }
     /// The check; the wrong steps of the whole example.
-    std::string Zkontroluj() {
+    std::string PoKontrole() {
         dialog.Zkontroluj();
         return Chyby();
     }
@@ -125,7 +104,23 @@ public:
         }
         return text;
     }
-    [[nodiscard]] const Priklad& Hrany() const { return Priklady[dialog.CisloPrikladu()]; }
+    /// The plane as the pupil sees it.
+    [[nodiscard]] const PametovaPlocha& Obraz() const { return pic_; }
+    /// The record of the example.
+    [[nodiscard]] const Priklad& Zaznam() const { return Priklady[dialog.CisloPrikladu()]; }
+
+protected:
+    bool StiskNacrtu(Bod b) override {
+        return dialog.StiskNacrtu(static_cast<float>(b.X), static_cast<float>(b.Y));
+    }
+    void StiskNastroje(int i) override { dialog.StiskNastroje(i); }
+    void StiskRadku(int i, std::string_view /*text*/) override { dialog.VyberRadku(i); }
+    void Pis(int ktery, const std::string& text) override { dialog.Napis(ktery, text); }
+    void TahPoPlose(Bod odkud, Bod kam) override {
+        dialog.StiskPlochy(static_cast<float>(odkud.X), static_cast<float>(odkud.Y));
+        if (!dialog.CekaNaKresleni()) return;
+        dialog.PusteniPlochy(static_cast<float>(kam.X), static_cast<float>(kam.Y));
+    }
 
 private:
     [[nodiscard]] std::string Soubor() const { return CestaHD + DveCislice(CisloUlohy) + ".dat"; }

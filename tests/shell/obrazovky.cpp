@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <map>
 
-#include "podpora/Relace.h"
+#include "hrac/Relace.h"
 #include "shell/HelpForm.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
@@ -13,6 +13,8 @@
 #include "shell/Ulohy.h"
 
 namespace rysovna::testy {
+
+using hrac::Relace;
 namespace {
 
 using Zvuky = std::vector<std::string>;

@@ -9,10 +9,12 @@
 #include <sys/resource.h>
 
 #include "base/Chyba.h"
-#include "podpora/Relace.h"
+#include "hrac/Relace.h"
 #include "shell/Misc.h"
 
 namespace rysovna::testy {
+
+using hrac::Relace;
 
 /// A data root to write into.
 class Soubory : public ::testing::Test {

@@ -5,13 +5,15 @@
 
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
+#include "hrac/Relace.h"
 #include "platform/Obrazovky.h"
-#include "podpora/Relace.h"
 #include "shell/Ini.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
 
 namespace rysovna::testy {
+
+using hrac::Relace;
 namespace {
 
 namespace fs = std::filesystem;

@@ -7,10 +7,9 @@ namespace rysovna::testy {
 namespace {
 
 using StulCtyrU = Stul<CtyrUDialog>;
-using Dokonaly = DokonalyCtyruhelnik<StulCtyrU>;
 
 TEST(CtyrUDokonaly, KazdyRadekDaDesetBoduAZadanyCtyruhelnik) {
-    OdehrajSoubor<CtyrUDialog>(9, false);
+    OdehrajSoubor<CtyrUDialog>(9);
 }
 
 const char* const SSS = "17#ABC#a#b#e#cm#cm#cm#sss#c#cm#kruznice#KC#d#cm#kruznice#KA";
@@ -85,7 +84,7 @@ TEST(CtyrUChyby, KazdaStojiCoMa) {
         StulCtyrU s(9);
         s.Radek(p.Radek).Zacni(3);
         OznacCtyruhelnik(s, "f");
-        Dokonaly zak(s, 1, false);
+        DokonalyCtyruhelnik zak(s, 1);
         zak.Trojuhelnik();
         if (p.Predem == 1) zak.Narysuj(1);
         EXPECT_EQ(s.Proved(p.Pohyby).Chyby(), p.Chyby);
@@ -148,7 +147,7 @@ TEST(CtyrUTrojuhelnik, NesestrojenyNechaPrikladNedokoncenyAVseStisknutelne) {
         s.Zpet().Zpet().Zpet();
         EXPECT_EQ(s.dialog.Stav().Faze, 1);
         // The whole way again, right.
-        Dokonaly(s, 1, false).Sestroj();
+        DokonalyCtyruhelnik(s, 1).Sestroj();
         EXPECT_TRUE(s.dialog.Hotova());
     }
     // What meets off the plane is drawn there.
@@ -165,7 +164,7 @@ TEST(CtyrUZpet, ZUzavrenehoZustanouStranyAPrvniUtvar) {
     StulCtyrU s(9);
     for (std::uint32_t seminko = 1; seminko <= 40; ++seminko) {
         s.Zacni(seminko);
-        Dokonaly(s, seminko, false).Sestroj();
+        DokonalyCtyruhelnik(s, seminko).Sestroj();
         ASSERT_TRUE(s.dialog.Hotova());
         for (const int zbyde : {4, 3, 0}) {
             s.Zpet();
@@ -174,12 +173,12 @@ TEST(CtyrUZpet, ZUzavrenehoZustanouStranyAPrvniUtvar) {
             EXPECT_FALSE(s.dialog.Hotova());
         }
         EXPECT_FALSE(s.dialog.UkazPanel().cmd[4].Zive);
-        Dokonaly zak(s, seminko + 1, false);
+        DokonalyCtyruhelnik zak(s, seminko + 1);
         zak.Oznac();  // takes the marks off
         zak.Sestroj();
         s.dialog.Posun(20, -20);
-        ASSERT_EQ(s.Zkontroluj(), "") << seminko;
-        zak.Zmer();
+        ASSERT_EQ(s.PoKontrole(), "") << seminko;
+        ZmerObe(s);
     }
 }
 

@@ -33,32 +33,32 @@ TEST(TecnyChyby, ChybnaTlacitka) {
     }
     for (const char* kod : {"01", "02", "03", "04", "05", "06", "07", "08", "09"}) {
         TecnyHra hra(kod, 5);
-        for (int krok = 1; !hra.d.Hotova(); ++krok) {
+        for (int krok = 1; !hra.dialog.Hotova(); ++krok) {
             for (const Tlacitko& t : hra.P().cmd) {
                 if (t.Tvar < 2 || t.Tvar > 8 || !t.Zive) continue;
                 const auto& vse = chybne[{kod, krok}];
                 const bool chyba = std::ranges::find(vse, t.Tvar) != vse.end();
                 SoucetZapornychBodu = PocetChybnychKroku = 0;
                 const int utvaru = PocetUtvaru;
-                hra.Nastroj(t.Tvar);
+                hra.zak.Nastroj(t.Tvar);
                 EXPECT_EQ(TecnyHra::Chyby(), chyba ? Cisla{21} : Cisla{}) << kod << krok << t.Tvar;
                 EXPECT_EQ(SoucetZapornychBodu, chyba ? 3 : 0);
-                EXPECT_EQ(hra.d.Stav().KrokChybny, chyba);
+                EXPECT_EQ(hra.dialog.Stav().KrokChybny, chyba);
                 if (!chyba) {
-                    hra.d.ZavriSeznam();
-                    if (!hra.d.Stav().CekaNaKresleni) continue;
+                    hra.dialog.ZavriSeznam();
+                    if (!hra.dialog.Stav().CekaNaKresleni) continue;
                 }
                 hra.Tahni({30, 40}, {60, 90});
                 EXPECT_EQ(TecnyHra::Chyby().size(), chyba || t.Tvar == 7 ? 1U : 0U) << kod << krok;
                 EXPECT_EQ(PocetUtvaru, utvaru + 1) << kod << krok << t.Tvar;
-                EXPECT_FALSE(hra.d.Hotova());
+                EXPECT_FALSE(hra.dialog.Hotova());
                 EXPECT_EQ(hra.Faze(), krok + 1);
                 hra.Zpet();
                 // What came by back may have a dead back button, not dead tools.
                 EXPECT_EQ(PocetUtvaru, utvaru);
             }
             SoucetZapornychBodu = PocetChybnychKroku = 0;
-            hra.SpravnyKrok();
+            hra.zak.SpravnyKrok();
         }
     }
 }
@@ -84,7 +84,7 @@ TEST(TecnyChyby, KrokyVedle) {
     };
     for (const Pripad& p : pripady) {
         TecnyHra hra(p.Kod, 11);
-        hra.SpravneDo(p.Krok);
+        hra.zak.SpravneDo(p.Krok);
         hra.KrokVedle();
         Cisla chyby = TecnyHra::Chyby();
         // The line may miss what it has to meet as well.
@@ -126,15 +126,15 @@ TEST(TecnyChyby, ChybneRadky) {
     };
     for (const Pripad& p : pripady) {
         TecnyHra hra(p.Kod, 5);
-        hra.SpravneDo(p.Krok);
-        hra.Nastroj(p.Tvar).Vyber(p.Radek);
+        hra.zak.SpravneDo(p.Krok);
+        hra.zak.Nastroj(p.Tvar).Vyber(p.Radek);
         EXPECT_EQ(hra.P().lblText3, p.Text3);
         EXPECT_EQ(hra.P().lblText4.Videt, p.Tvar == 4);
         hra.Tahni({5, 300}, {3, 100});
         EXPECT_EQ(TecnyHra::Chyby(), Cisla{p.Chyba}) << p.Kod << p.Krok;
         EXPECT_EQ(SoucetZapornychBodu, 3);
-        const bool posledni = p.Krok == static_cast<int>(hra.d.Hrane()->Kroky.size());
-        EXPECT_EQ(hra.d.Hotova(), posledni) << p.Kod << p.Krok;
+        const bool posledni = p.Krok == static_cast<int>(hra.dialog.Hrane()->Kroky.size());
+        EXPECT_EQ(hra.dialog.Hotova(), posledni) << p.Kod << p.Krok;
     }
 }
 
@@ -151,7 +151,7 @@ TEST(TecnyChyby, BezPrusecikuZbyvaJenZpet) {
         // Random places until the line misses the circle.
         for (int i = 0; i < 1000; ++i) {
             SoucetZapornychBodu = PocetChybnychKroku = 0;
-            hra.Nastroj(tvar).Vyber(radek).Tahni(hra.Nahodne(), hra.Nahodne());
+            hra.zak.Nastroj(tvar).Vyber(radek).Tahni(hra.zak.Nahodne(), hra.zak.Nahodne());
             const Cisla chyby = TecnyHra::Chyby();
             if (!chyby.empty() && chyby.back() == chyba) return;
             hra.Zpet();
@@ -164,19 +164,19 @@ TEST(TecnyChyby, BezPrusecikuZbyvaJenZpet) {
          2,
          [](TecnyHra& h) {
              const Bod B = NajdiBod("B");
-             h.Nastroj(6).Vyber("kružnice l, střed v bodě B").Tahni(B, {B.X + 3, B.Y});
+             h.zak.Nastroj(6).Vyber("kružnice l, střed v bodě B").Tahni(B, {B.X + 3, B.Y});
          },
          {206, 207}},
         {"09", 1, [&](TecnyHra& h) { daleko(h, 2, "přímka AS", 203); }, {208, 203}},
     };
     for (const Pripad& p : pripady) {
         TecnyHra hra(p.Kod, 4);
-        hra.SpravneDo(p.Krok);
+        hra.zak.SpravneDo(p.Krok);
         p.Krok_(hra);
         EXPECT_EQ(TecnyHra::Chyby(), p.Chyby) << p.Kod;
         const int utvaru = PocetUtvaru;
         EXPECT_TRUE(hra.P().cmd[4].Zive);
-        hra.Nastroj(9);
+        hra.zak.Nastroj(9);
         for (const Bod b : {Bod{100, 100}, {-9999, -9999}, {0, 0}}) hra.Klikni(b);
         EXPECT_EQ(PocetUtvaru, utvaru);
         EXPECT_EQ(hra.Faze(), p.Krok + 1);
@@ -184,8 +184,8 @@ TEST(TecnyChyby, BezPrusecikuZbyvaJenZpet) {
         EXPECT_TRUE(hra.P().cmd[4].Zive);
         hra.Zpet();
         EXPECT_EQ(hra.Faze(), p.Krok);
-        hra.SpravneVse();
-        EXPECT_TRUE(hra.d.Hotova());
+        hra.zak.SpravneVse();
+        EXPECT_TRUE(hra.dialog.Hotova());
     }
 }
 
@@ -196,7 +196,7 @@ TEST(TecnyChyby, KolmiceKterouPrimkaNeprotne) {
         hra.Znovu(s);
         for (int i = 0; i < 20; ++i) {
             SoucetZapornychBodu = PocetChybnychKroku = 0;
-            hra.Nastroj(4).Vyber("k přímce a").Tahni(hra.Nahodne(), hra.Nahodne());
+            hra.zak.Nastroj(4).Vyber("k přímce a").Tahni(hra.zak.Nahodne(), hra.zak.Nahodne());
             const Cisla chyby = TecnyHra::Chyby();
             if (chyby == Cisla{211, 209}) return;
             hra.Zpet();
@@ -207,9 +207,9 @@ TEST(TecnyChyby, KolmiceKterouPrimkaNeprotne) {
 
 TEST(TecnyChyby, ObaPrusecikyUzHotove) {
     TecnyHra hra("09", 2);
-    hra.SpravneDo(2);
+    hra.zak.SpravneDo(2);
     Priklady[1].Kroky[1].Hotovo = Priklady[1].Kroky[2].Hotovo = ANO;
-    hra.Nastroj(9).Klikni(hra.Kandidati()[0]);
+    hra.zak.Nastroj(9).Klikni(hra.zak.Kandidati()[0]);
     EXPECT_EQ(TecnyHra::Chyby(), Cisla{219});
     EXPECT_EQ(SoucetZapornychBodu, 3);
     EXPECT_EQ(hra.Faze(), 2);
@@ -219,9 +219,9 @@ TEST(TecnyChyby, ObaPrusecikyUzHotove) {
 TEST(TecnyChyby, Tolerance) {
     for (const auto& [o, chyby] : {std::pair{8, Cisla{}}, {9, Cisla{214}}, {-8, Cisla{}}}) {
         TecnyHra hra("04", 9);
-        hra.SpravneDo(2);
-        const Bod B = hra.d.Stav().Pary.Misto[0];
-        hra.Nastroj(9).Klikni({B.X + o, B.Y - o});
+        hra.zak.SpravneDo(2);
+        const Bod B = hra.dialog.Stav().Pary.Misto[0];
+        hra.zak.Nastroj(9).Klikni({B.X + o, B.Y - o});
         EXPECT_EQ(TecnyHra::Chyby(), chyby);
         EXPECT_EQ(NajdiBod("B"), B);
         EXPECT_EQ(Utvary[PocetUtvaru].NaPrimce, chyby.empty() ? "b" : "");
@@ -229,9 +229,9 @@ TEST(TecnyChyby, Tolerance) {
     }
     for (const auto& [o, chyby] : {std::pair{5, Cisla{}}, {6, Cisla{205}}, {-5, Cisla{}}}) {
         TecnyHra hra("04", 9);
-        hra.SpravneDo(3);
-        hra.Nastroj(7);
-        const Bod C = hra.d.Stav().StredUsecky;
+        hra.zak.SpravneDo(3);
+        hra.zak.Nastroj(7);
+        const Bod C = hra.dialog.Stav().StredUsecky;
         hra.Klikni({C.X + o, C.Y + o});
         EXPECT_EQ(TecnyHra::Chyby(), chyby);
         EXPECT_EQ(NajdiBod("C"), C);
@@ -246,8 +246,8 @@ TEST(TecnyChyby, PatnactPixelu) {
     for (std::uint32_t s = 1; s <= 400; ++s) {
         for (const int o : {14, 15}) {
             hra.Znovu(s);
-            hra.SpravneDo(4);
-            hra.Nastroj(4).Vyber("k přímce b");
+            hra.zak.SpravneDo(4);
+            hra.zak.Nastroj(4).Vyber("k přímce b");
             const Utvar z = Utvary[VybranyUtvar];
             const Bod A1 = NajdiBod("A1");
             // A perpendicular from a free place of b whose Y at A1 is o off, if there is such a
@@ -279,28 +279,28 @@ TEST(TecnyChyby, PatnactPixelu) {
 /// Two lines through the same crossing: the second misses its own.
 TEST(TecnyChyby, DruhaTecnaMusiDruhymBodem) {
     TecnyHra hra("01", 6);
-    hra.SpravneDo(4);
+    hra.zak.SpravneDo(4);
     for (int i = 0; i < 2; ++i) {
-        hra.Nastroj(5).Vyber("s přímkou a").Tahni(NajdiBod("A2"), {200, 10});
+        hra.zak.Nastroj(5).Vyber("s přímkou a").Tahni(NajdiBod("A2"), {200, 10});
     }
     EXPECT_EQ(TecnyHra::Chyby(), Cisla{215});
-    EXPECT_TRUE(hra.d.Hotova());
+    EXPECT_TRUE(hra.dialog.Hotova());
 }
 
 /// A wrong object in place of a result: the last step alone does not finish.
 TEST(TecnyChyby, BezObouVysledkuNeniHotovo) {
     TecnyHra hra("03", 6);
-    hra.SpravneDo(5);
-    hra.Nastroj(2).Vyber("přímka AS").Tahni(NajdiBod("A"), NajdiBod("S"));
+    hra.zak.SpravneDo(5);
+    hra.zak.Nastroj(2).Vyber("přímka AS").Tahni(NajdiBod("A"), NajdiBod("S"));
     EXPECT_EQ(Utvary[PocetUtvaru].Jmeno1, "p5");
-    hra.Nastroj(2).Vyber("přímka AT1").Tahni(NajdiBod("A"), NajdiBod("T1"));
+    hra.zak.Nastroj(2).Vyber("přímka AT1").Tahni(NajdiBod("A"), NajdiBod("T1"));
     EXPECT_EQ(Utvary[PocetUtvaru].Jmeno1, "t1");
-    EXPECT_FALSE(hra.d.Hotova());
+    EXPECT_FALSE(hra.dialog.Hotova());
     for (std::size_t i = 0; i < 4; ++i) EXPECT_FALSE(hra.P().cmd[i].Zive);
     EXPECT_TRUE(hra.P().cmd[4].Zive);
     hra.Zpet().Zpet();
-    hra.SpravneVse();
-    EXPECT_TRUE(hra.d.Hotova());
+    hra.zak.SpravneVse();
+    EXPECT_TRUE(hra.dialog.Hotova());
 }
 
 TEST(TecnyChyby, Kontrola) {
@@ -324,11 +324,11 @@ TEST(TecnyChyby, Kontrola) {
     };
     for (const Pripad& p : pripady) {
         TecnyHra hra("04", 3);
-        hra.SpravneDo(p.Krok);
+        hra.zak.SpravneDo(p.Krok);
         SoucetZapornychBodu = p.Ztraceno;
-        if (!p.Znacky) hra.d.StiskNacrtu(20, 150);
-        hra.d.StiskNacrtu(100, 100);  // an extra mark is free
-        hra.d.Zkontroluj();
+        if (!p.Znacky) hra.dialog.StiskNacrtu(20, 150);
+        hra.dialog.StiskNacrtu(100, 100);  // an extra mark is free
+        hra.dialog.Zkontroluj();
         EXPECT_EQ(TecnyHra::Chyby(), p.Chyby) << p.Krok << " " << p.Ztraceno;
         if (!p.Chyby.empty()) {
             EXPECT_TRUE(ChybneKroky[1].Text.ends_with(p.Konec)) << ChybneKroky[1].Text;

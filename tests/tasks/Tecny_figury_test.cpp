@@ -38,8 +38,7 @@ TEST_P(Figury, JsouResitelneACitelne) {
         SCOPED_TRACE(i);
         const Figura f = VylosujFiguru(kod, 384, 335, Generator);
         pokusu += f.Pokusu;
-        SmazTabulky();
-        PocetUtvaru = PocetTrojic = 0;
+        SmazKonstrukci();
         PametovaPlocha p(1, 1);  // only the records matter here
         for (const DanyUtvar& d : f.Utvary) {
             Utvar& u = Utvary[++PocetUtvaru];
@@ -61,7 +60,7 @@ TEST_P(Figury, JsouResitelneACitelne) {
             if (!(NajdiBod(jmeno) == BEZ_BODU)) body.push_back(NajdiBod(jmeno));
         }
         const std::size_t danych = body.size();
-        for (const Bod b : hra.Kandidati()) body.push_back(b);
+        for (const Bod b : hra.zak.Kandidati()) body.push_back(b);
         const auto stred = [](Bod a, Bod b) { return StredUseckyBodu(a, b); };
         if (kod == "04" || kod == "07") body.push_back(stred(body[0], body[danych]));
         if (kod == "03" || kod == "05" || kod == "06") body.push_back(stred(body[0], body[1]));
@@ -90,40 +89,41 @@ TEST_P(Figury, JsouResitelneACitelne) {
 /// step is always done or undone, and the charges add up.
 TEST_P(Figury, NedbalyZak) {
     TecnyHra hra(GetParam());
-    TecnyDialog& d = hra.d;
+    TecnyDialog& d = hra.dialog;
     const int kolik = Kolik("RYSOVNA_FIGUR", 1000);
     for (int i = 0; i < kolik; ++i) {
         hra.Znovu(static_cast<std::uint32_t>(i + 1));
         for (int udalost = 0; udalost < 40; ++udalost) {
             const auto f = [](int a) { return static_cast<float>(a); };
-            const Bod b{hra.Cislo(500) - 60, hra.Cislo(450) - 60};
-            switch (hra.Cislo(8)) {
+            const Bod b{hra.zak.Cislo(500) - 60, hra.zak.Cislo(450) - 60};
+            switch (hra.zak.Cislo(8)) {
                 case 0:
                     d.StiskNacrtu(f(b.X), f(b.Y));
                     break;
                 case 1:
-                    if (hra.Cislo(4) == 0) d.Posun(hra.Cislo(3) * 20 - 20, hra.Cislo(3) * 20 - 20);
+                    if (hra.zak.Cislo(4) == 0)
+                        d.Posun(hra.zak.Cislo(3) * 20 - 20, hra.zak.Cislo(3) * 20 - 20);
                     break;
                 case 2:
-                    if (hra.Cislo(6) == 0) d.StiskNastroje(5);
+                    if (hra.zak.Cislo(6) == 0) d.StiskNastroje(5);
                     break;
                 case 3:
-                    d.VyberRadku(hra.Cislo(4));
+                    d.VyberRadku(hra.zak.Cislo(4));
                     break;
                 case 4:
-                    if (hra.Cislo(4) == 0) d.ZavriSeznam();
+                    if (hra.zak.Cislo(4) == 0) d.ZavriSeznam();
                     break;
                 case 5:
-                    d.StiskNastroje(hra.Cislo(7));
-                    if (hra.P().Combo.Otevreny) d.VyberRadku(1 + hra.Cislo(3));
+                    d.StiskNastroje(hra.zak.Cislo(7));
+                    if (hra.P().Combo.Otevreny) d.VyberRadku(1 + hra.zak.Cislo(3));
                     break;
                 default: {
                     Bod odkud = b;
-                    if (hra.Cislo(2) == 0 && PocetUtvaru > 0) {
-                        const Utvar& u = Utvary[1 + hra.Cislo(PocetUtvaru)];
+                    if (hra.zak.Cislo(2) == 0 && PocetUtvaru > 0) {
+                        const Utvar& u = Utvary[1 + hra.zak.Cislo(PocetUtvaru)];
                         odkud = {u.X1, u.Y1};
                     }
-                    if (hra.Cislo(3) == 0 && !(d.Stav().Pary.Misto[0] == BEZ_BODU)) {
+                    if (hra.zak.Cislo(3) == 0 && !(d.Stav().Pary.Misto[0] == BEZ_BODU)) {
                         odkud = d.Stav().Pary.Misto[0];
                     }
                     d.StiskPlochy(f(odkud.X), f(odkud.Y));

@@ -38,7 +38,7 @@ int Uloha(int druh) {
 /// What was charged, "7/1 19/3": numbers and points; a text that does not tell the points shows.
 std::string Uctovano() {
     std::string vse;
-    for (const Chyba& c : Zak::Chyby()) {
+    for (const Chyba& c : Chyby()) {
         vse += (vse.empty() ? "" : " ") + std::to_string(c.Cislo) + "/" + std::to_string(c.Bodu);
         if (c.Body != (c.Bodu == 1 ? "  -1 bod" : "  -3 body")) vse += "'" + c.Body + "'";
     }
@@ -211,10 +211,10 @@ TEST_F(Trojuhelniky, SoucetVerdiktABodyPodlePripadu) {
         SCOPED_TRACE(p.Kroky);
         Rysovac r(SSS, 1);
         r.Zacni(p.NavicZnacka).Rysuj(p.Kroky);
-        const std::size_t predtim = Zak::Chyby().size();
+        const std::size_t predtim = Chyby().size();
         r.Zkontroluj();
         std::string kontrola;
-        const auto vse = Zak::Chyby();
+        const auto vse = Chyby();
         for (std::size_t i = predtim; i < vse.size(); ++i) {
             kontrola += (i == predtim ? "" : " ") + std::to_string(vse[i].Cislo);
         }

@@ -32,7 +32,9 @@ TEST_P(DokonaleTrojuhelniky, KazdyRadekSouboruDaDesetBodu) {
         ASSERT_LT(seminko, 100000U) << "some line of the file never comes";
         const auto& dialog = Dialogem(hra);
         const int radek = dialog.CisloPrikladu();
-        DokonalyZak(hra, seminko, seminko % 3 == 0).OdehrajPriklad();
+        RukaNaDesce ruka(hra);
+        DokonalyTrojuhelnik(ruka, seminko, seminko % 3 == 0).Sestroj();
+        ruka.Zkontroluj();
         ASSERT_TRUE(dialog.Hotova()) << "seed " << seminko << ", kind " << dialog.Hrany().Druh;
         ASSERT_EQ(SoucetZapornychBodu, 0) << "seed " << seminko << ", kind " << dialog.Hrany().Druh
                                           << ": " << ChybneKroky[1].Text;

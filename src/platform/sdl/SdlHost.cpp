@@ -175,7 +175,7 @@ struct SdlHost::Vnitrek {
     void SrovnejPsani();
 };
 
-SdlHost::SdlHost() {
+SdlHost::SdlHost(std::optional<std::uint32_t> seminko) : seminko_(seminko) {
     if (!MaDisplej()) Selhani("Není k dispozici obrazovka");
     vnitrek_ = std::make_unique<Vnitrek>(*this);
     const RezimObrazovky rezim = GetDeviceCaps();
@@ -278,6 +278,7 @@ std::string SdlHost::WindowsDirectory() {
 }
 
 std::uint32_t SdlHost::Seminko() {
+    if (seminko_) return *seminko_;
     const auto ted = std::chrono::system_clock::now().time_since_epoch();
     return static_cast<std::uint32_t>(
         std::chrono::duration_cast<std::chrono::microseconds>(ted).count());

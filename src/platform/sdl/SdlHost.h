@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/Host.h"
@@ -13,8 +14,9 @@ namespace rysovna {
 /// screen and a window; the close button asks the program's own question.
 class SdlHost final : public Host {
 public:
-    /// A display that cannot be opened is a run-time fault: ask MaDisplej() first.
-    SdlHost();
+    /// A display that cannot be opened is a run-time fault: ask MaDisplej() first. With a seed the
+    /// examples are drawn the same at each start; otherwise the clock seeds them.
+    explicit SdlHost(std::optional<std::uint32_t> seminko = std::nullopt);
     ~SdlHost() override;
 
     /// Whether this process has a display to open a window on.
@@ -41,6 +43,7 @@ public:
 
 private:
     struct Vnitrek;
+    std::optional<std::uint32_t> seminko_;
     std::unique_ptr<Vnitrek> vnitrek_;
 };
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <memory>
+#include <iosfwd>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -12,12 +12,17 @@
 #include "platform/Form.h"
 #include "platform/headless/HeadlessHost.h"
 
-namespace rysovna::testy {
+namespace rysovna::hrac {
+
+/// What the player was to do and could not: the control is hidden, the line is not offered.
+struct NejdeUdelat : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
 
 /// One run of the program on the headless host, with a data root of its own that goes with it:
 /// plays as a pupil does, by names of controls, through the same events. Session variables and
 /// tables are reset when it begins. What a person could not do (press what is hidden, on a screen
-/// that is not in front) throws std::runtime_error.
+/// that is not in front) throws NejdeUdelat.
 class Relace {
 public:
     /// The data root is a copy of the staged one, with no results in it. seminko: of the generator
@@ -51,7 +56,7 @@ public:
     template <class T>
     [[nodiscard]] T& Prvek(std::string_view jmeno, int index = 0) {
         auto* prvek = dynamic_cast<T*>(&Prvek(jmeno, index));
-        if (prvek == nullptr) throw std::runtime_error("jiný druh: " + std::string(jmeno));
+        if (prvek == nullptr) throw NejdeUdelat("jiný druh: " + std::string(jmeno));
         return *prvek;
     }
 
@@ -77,6 +82,11 @@ public:
     /// Lets the program run: the virtual clock moves by so many milliseconds.
     void Cekej(std::uint32_t ms);
 
+    /// From now on writes down what the player does, an event a line: "mys X Y" (design px),
+    /// "dolu", "nahoru", "text Ž", "klavesa Return 0", and "cekej MS" before what came so much
+    /// later. The real window can be driven by it. The stream must live as long as the session.
+    void Zaznamenavej(std::ostream& kam) { zaznam_ = &kam; }
+
     /// The data root of this run.
     [[nodiscard]] const std::filesystem::path& DataDir() const { return data_; }
     /// A file of the data root, byte for byte.
@@ -86,10 +96,16 @@ public:
     std::vector<std::string> NoveZvuky();
 
 private:
+    void Pohyb(double x, double y, int tlacitka);
+    void Stisk(double x, double y, bool dolu);
+    void Zapis(const std::string& udalost);
+
     HeadlessHost host_;
     HostNaDobu naDobu_;
     std::filesystem::path koren_, data_;
     std::size_t slysenych_ = 0;
+    std::ostream* zaznam_ = nullptr;
+    std::uint32_t zapsano_ = 0;  ///< the time of the last event that was written down
 };
 
-}  // namespace rysovna::testy
+}  // namespace rysovna::hrac

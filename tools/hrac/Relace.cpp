@@ -1,16 +1,17 @@
-#include "podpora/Relace.h"
+#include "hrac/Relace.h"
 
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
 
+#include "base/Cisla.h"
 #include "base/Text.h"
 #include "platform/Obrazovky.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
 #include "shell/Ulohy.h"
 
-namespace rysovna::testy {
+namespace rysovna::hrac {
 namespace {
 
 namespace fs = std::filesystem;
@@ -20,12 +21,12 @@ const fs::path STAGING = RYSOVNA_STAGING;
 /// A folder that no other run, of this process or another, has.
 fs::path NovaSlozka() {
     std::string vzor = (fs::temp_directory_path() / "rysovna_XXXXXX").string();
-    if (mkdtemp(vzor.data()) == nullptr) throw std::runtime_error("nelze založit " + vzor);
+    if (mkdtemp(vzor.data()) == nullptr) throw NejdeUdelat("nelze založit " + vzor);
     return vzor;
 }
 
 [[noreturn]] void Nejde(const std::string& co, std::string_view jmeno, int index) {
-    throw std::runtime_error(co + ": " + std::string(jmeno) + "(" + std::to_string(index) + ")");
+    throw NejdeUdelat(co + ": " + std::string(jmeno) + "(" + std::to_string(index) + ")");
 }
 
 }  // namespace
@@ -62,7 +63,7 @@ void Relace::Start() {
     StiskniMisto(320, 240);
     Cekej(1200);
     if (JmenoVpredu() != "SelectForm") {
-        throw std::runtime_error("po titulu je vpředu " + JmenoVpredu());
+        throw NejdeUdelat("po titulu je vpředu " + JmenoVpredu());
     }
 }
 
@@ -79,7 +80,7 @@ void Relace::SpustUlohu(int cisloUlohy, std::string_view jmeno, int priklady) {
         Cekej(200);
         return;
     }
-    throw std::runtime_error("není taková úloha: " + std::to_string(cisloUlohy));
+    throw NejdeUdelat("není taková úloha: " + std::to_string(cisloUlohy));
 }
 
 Form* Relace::Vpredu() {
@@ -113,10 +114,32 @@ Bod Relace::Roh(const Ovladac& prvek) {
     return roh;
 }
 
+void Relace::Zapis(const std::string& udalost) {
+    if (zaznam_ == nullptr) return;
+    const std::uint32_t ted = host_.TickCount();
+    if (ted > zapsano_) *zaznam_ << "cekej " << ted - zapsano_ << '\n';
+    zapsano_ = ted;
+    *zaznam_ << udalost << '\n';
+}
+
+void Relace::Pohyb(double x, double y, int tlacitka) {
+    Zapis("mys " + std::to_string(Zaokrouhli(x)) + " " + std::to_string(Zaokrouhli(y)));
+    host_.Okna().MysPohyb(x, y, tlacitka, 0);
+}
+
+void Relace::Stisk(double x, double y, bool dolu) {
+    Zapis(dolu ? "dolu" : "nahoru");
+    if (dolu) {
+        host_.Okna().MysDolu(x, y, 1, 0);
+    } else {
+        host_.Okna().MysNahoru(x, y, 1, 0);
+    }
+}
+
 void Relace::StiskniMisto(double x, double y) {
-    NajedNaMisto(x, y);
-    host_.Okna().MysDolu(x, y, 1, 0);
-    host_.Okna().MysNahoru(x, y, 1, 0);
+    Pohyb(x, y, 0);
+    Stisk(x, y, true);
+    Stisk(x, y, false);
 }
 
 void Relace::Stiskni(std::string_view jmeno, int index, int dx, int dy) {
@@ -127,8 +150,8 @@ void Relace::Stiskni(std::string_view jmeno, int index, int dx, int dy) {
 
 void Relace::Zmackni(std::string_view jmeno, int index, Bod misto) {
     const Bod roh = Roh(Prvek(jmeno, index));
-    NajedNaMisto(roh.X + misto.X, roh.Y + misto.Y);
-    host_.Okna().MysDolu(roh.X + misto.X, roh.Y + misto.Y, 1, 0);
+    Pohyb(roh.X + misto.X, roh.Y + misto.Y, 0);
+    Stisk(roh.X + misto.X, roh.Y + misto.Y, true);
 }
 
 void Relace::Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index) {
@@ -136,10 +159,10 @@ void Relace::Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index) {
     const Bod roh = Roh(Prvek(jmeno, index));
     Zmackni(jmeno, index, odkud);
     for (int i = 1; i <= KROKU; ++i) {
-        host_.Okna().MysPohyb(roh.X + odkud.X + (kam.X - odkud.X) * i / KROKU,
-                              roh.Y + odkud.Y + (kam.Y - odkud.Y) * i / KROKU, 1, 0);
+        Pohyb(roh.X + odkud.X + (kam.X - odkud.X) * i / KROKU,
+              roh.Y + odkud.Y + (kam.Y - odkud.Y) * i / KROKU, 1);
     }
-    host_.Okna().MysNahoru(roh.X + kam.X, roh.Y + kam.Y, 1, 0);
+    Stisk(roh.X + kam.X, roh.Y + kam.Y, false);
 }
 
 void Relace::Najed(std::string_view jmeno, int index) {
@@ -149,11 +172,15 @@ void Relace::Najed(std::string_view jmeno, int index) {
 }
 
 void Relace::NajedNaMisto(double x, double y) {
-    host_.Okna().MysPohyb(x, y, 0, 0);
+    Pohyb(x, y, 0);
 }
 
 void Relace::Napis(std::string_view text) {
-    for (const char32_t znak : DoZnaku(text)) host_.Okna().Text(ZeZnaku({&znak, 1}));
+    for (const char32_t znak : DoZnaku(text)) {
+        const std::string pismeno = ZeZnaku({&znak, 1});
+        Zapis("text " + pismeno);
+        host_.Okna().Text(pismeno);
+    }
 }
 
 void Relace::Prepis(std::string_view jmeno, std::string_view text) {
@@ -164,6 +191,7 @@ void Relace::Prepis(std::string_view jmeno, std::string_view text) {
 }
 
 void Relace::Klavesa(std::string_view klavesa, int shift) {
+    Zapis("klavesa " + std::string(klavesa) + " " + std::to_string(shift));
     host_.Okna().Klavesa(klavesa, shift);
 }
 
@@ -174,7 +202,7 @@ void Relace::Cekej(std::uint32_t ms) {
 
 std::string Relace::CtiSoubor(const std::string& soubor) const {
     std::ifstream vstup(data_ / soubor, std::ios::binary);
-    if (!vstup) throw std::runtime_error("nelze číst " + soubor);
+    if (!vstup) throw NejdeUdelat("nelze číst " + soubor);
     return {std::istreambuf_iterator<char>(vstup), {}};
 }
 
@@ -191,4 +219,4 @@ std::vector<std::string> Relace::NoveZvuky() {
     return nove;
 }
 
-}  // namespace rysovna::testy
+}  // namespace rysovna::hrac

@@ -1,0 +1,161 @@
+#include "hrac/Ruka.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "base/Cisla.h"
+#include "board/DeskaForm.h"
+
+namespace rysovna::hrac {
+namespace {
+
+/// Letters of the Symbol face by which an assignment names angles.
+constexpr std::pair<std::string_view, std::string_view> UHLY[] = {
+    {"a", "alfa"}, {"b", "beta"}, {"g", "gama"}, {"d", "delta"}, {"e", "epsi"}, {"w", "omeg"}};
+
+constexpr std::uint32_t PO_VOLBE = 60, PO_TAHU = 110, PO_KONTROLE = 500;  // ms
+
+[[noreturn]] void Nejde(std::string_view proc, std::string_view co) {
+    throw NejdeUdelat(std::string(proc) + ": " + std::string(co));
+}
+
+}  // namespace
+
+std::vector<Zadano> CtiZadani(const std::vector<PolozkaZadani>& popisky) {
+    std::vector<Zadano> vse;
+    for (std::size_t i = 0; i + 1 < popisky.size(); i += 2) {
+        std::string velicina = popisky[i].Text;
+        if (popisky[i].Font.Nazev == Pismo::Rez::Symbol) {
+            for (const auto& [pismeno, uhel] : UHLY) {
+                if (popisky[i].Text == pismeno) velicina = uhel;
+            }
+        }
+        const std::string& hodnota = popisky[i + 1].Text;  // "= 12 cm, "
+        const std::size_t cislice = hodnota.find_first_of("0123456789");
+        vse.push_back({velicina, cislice == std::string::npos
+                                     ? 0
+                                     : static_cast<int>(Cislo(hodnota.substr(cislice)))});
+    }
+    return vse;
+}
+
+int Ruka::Hodnota(std::string_view velicina) const {
+    for (const Zadano& z : Zadani()) {
+        if (z.Velicina == velicina) return z.Hodnota;
+    }
+    Nejde("není zadáno", velicina);
+}
+
+bool Ruka::JeZadano(std::string_view velicina) const {
+    return std::ranges::any_of(Zadani(), [&](const Zadano& z) { return z.Velicina == velicina; });
+}
+
+int Ruka::CisloRadku(std::string_view text) const {
+    const Seznam seznam = Hrany().UkazPanel().Combo;
+    for (std::size_t i = 0; seznam.Otevreny && i < seznam.Radky.size(); ++i) {
+        const RadekSeznamu& r = seznam.Radky[i];
+        if (r.Videt && r.Ziva && r.Text == text) return static_cast<int>(i) + 1;
+    }
+    return 0;
+}
+
+Ruka& Ruka::Oznac(Bod misto) {
+    if (!StiskNacrtu(misto)) {
+        Nejde("na náčrtu tu nic není", std::to_string(misto.X) + "," + std::to_string(misto.Y));
+    }
+    return *this;
+}
+
+Ruka& Ruka::Nastroj(int i) {
+    if (!Hrany().UkazPanel().cmd[static_cast<std::size_t>(i - 1)].Zive) {
+        Nejde("nástroj nejde stisknout", std::to_string(i));
+    }
+    StiskNastroje(i);
+    return *this;
+}
+
+Ruka& Ruka::Vyber(std::string_view radek) {
+    const int i = CisloRadku(radek);
+    if (i == 0) Nejde("v seznamu nelze zvolit", radek);
+    StiskRadku(i, radek);
+    return *this;
+}
+
+Ruka& Ruka::Napis(std::string_view text, int ktery) {
+    Pis(ktery, std::string(text));
+    return *this;
+}
+
+Ruka& Ruka::Napis(int cislo, int ktery) {
+    return Napis(TextBezMezery(cislo), ktery);
+}
+
+Ruka& Ruka::Tahni(Bod odkud, Bod kam) {
+    TahPoPlose(odkud, kam);
+    return *this;
+}
+
+// ---- At the screen ---------------------------------------------------------------------------
+
+const Dialog& RukaNaDesce::Hrany() const {
+    return dynamic_cast<const DeskaForm&>(*relace_.Vpredu()).Dialogem();
+}
+
+std::vector<Zadano> RukaNaDesce::Zadani() const {
+    std::vector<PolozkaZadani> popisky;
+    Form& deska = *relace_.Vpredu();
+    for (int i = 0;; ++i) {
+        const auto* l = dynamic_cast<Label*>(deska.Najdi("lblZadani", i));
+        if (l == nullptr || !l->Visible) return CtiZadani(popisky);
+        popisky.push_back({l->Caption, l->Font});
+    }
+}
+
+bool RukaNaDesce::StiskNacrtu(Bod misto) {
+    // A mark changes the picture; what cannot be seen cannot be told.
+    relace_.Stiskni("SamplePic", 0, misto.X, misto.Y);
+    return true;
+}
+
+void RukaNaDesce::StiskNastroje(int i) {
+    relace_.Stiskni("cmd", i);
+}
+
+void RukaNaDesce::StiskRadku(int i, std::string_view text) {
+    if (relace_.Prvek<Label>("ComboLabel", i).Caption != text) Nejde("seznam neukazuje", text);
+    relace_.Stiskni("ComboLabel", i, 8, 8);
+    relace_.Cekej(PO_VOLBE);
+}
+
+void RukaNaDesce::Pis(int ktery, const std::string& text) {
+    if (Hrany().UkazPanel().Vstupy.empty()) return relace_.Napis(text);  // the box has the keys
+    relace_.Prepis(ktery == 1 ? "txtVstup" : "txtVstup" + std::to_string(ktery), text);
+}
+
+void RukaNaDesce::TahPoPlose(Bod odkud, Bod kam) {
+    relace_.Tahni("Pic", odkud, kam);
+    relace_.Cekej(PO_TAHU);
+}
+
+void RukaNaDesce::Posun(int dx, int dy) {
+    constexpr int KROK = 20;  // px
+    const auto sipka = [this](int i, int px) {
+        for (; px > 0; px -= KROK) relace_.Stiskni("picSipka", i);
+    };
+    // The left arrow moves the view to the left and the figure to the right.
+    sipka(1, dx);
+    sipka(2, -dx);
+    sipka(3, dy);
+    sipka(4, -dy);
+}
+
+void RukaNaDesce::ZasunPanel() {
+    if (relace_.Prvek<Image>("Image1").Tag == "1") relace_.Stiskni("Image1");
+}
+
+void RukaNaDesce::Zkontroluj() {
+    relace_.Stiskni("PicTop", 1);
+    relace_.Cekej(PO_KONTROLE);
+}
+
+}  // namespace rysovna::hrac

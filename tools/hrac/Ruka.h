@@ -1,0 +1,99 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Bod.h"
+#include "board/Dialog.h"
+#include "hrac/Relace.h"
+
+namespace rysovna::hrac {
+
+/// A given quantity as it stands in the assignment: "a", "alfa", "AB||CD", and its value; 0 where
+/// none stands.
+struct Zadano {
+    std::string Velicina;
+    int Hodnota;
+};
+
+/// What a pupil does at a board, whatever carries it out: the dialogue itself or the screen with
+/// its controls. Calls chain; what a person could not do throws NejdeUdelat.
+class Ruka {
+public:
+    virtual ~Ruka() = default;
+    Ruka() = default;
+    Ruka(const Ruka&) = delete;
+    Ruka& operator=(const Ruka&) = delete;
+
+    /// The dialogue of the example in play, to look at.
+    [[nodiscard]] virtual const Dialog& Hrany() const = 0;
+    /// What the assignment says.
+    [[nodiscard]] virtual std::vector<Zadano> Zadani() const = 0;
+    /// The value of a given quantity; throws if it is not given.
+    [[nodiscard]] int Hodnota(std::string_view velicina) const;
+    [[nodiscard]] bool JeZadano(std::string_view velicina) const;
+    /// Whether the open list has a live line that reads so.
+    [[nodiscard]] bool JeVSeznamu(std::string_view radek) const { return CisloRadku(radek) > 0; }
+
+    /// Presses a place of the sketch.
+    Ruka& Oznac(Bod misto);
+    /// Presses step button i, from 1.
+    Ruka& Nastroj(int i);
+    /// Takes the last step back.
+    Ruka& Zpet() { return Nastroj(5); }
+    /// Presses the line of the open list that reads so.
+    Ruka& Vyber(std::string_view radek);
+    /// Types into the box for the value; with several boxes into which of them, from 1.
+    Ruka& Napis(std::string_view text, int ktery = 1);
+    Ruka& Napis(int cislo, int ktery = 1);
+    /// Drags on the plane.
+    Ruka& Tahni(Bod odkud, Bod kam);
+    Ruka& Klikni(Bod kde) { return Tahni(kde, kde); }
+    /// Scrolls the plane; px of the figure, multiples of an arrow's step.
+    virtual void Posun(int dx, int dy) = 0;
+    /// Gets the panel out of the way.
+    virtual void ZasunPanel() {}
+    virtual void Zkontroluj() = 0;
+
+protected:
+    /// True if the sketch took it.
+    virtual bool StiskNacrtu(Bod misto) = 0;
+    virtual void StiskNastroje(int i) = 0;
+    virtual void StiskRadku(int i, std::string_view text) = 0;
+    virtual void Pis(int ktery, const std::string& text) = 0;
+    virtual void TahPoPlose(Bod odkud, Bod kam) = 0;
+
+private:
+    [[nodiscard]] int CisloRadku(std::string_view text) const;
+};
+
+/// At the board on the screen of a session: controls by their names, the same events as a person's.
+class RukaNaDesce : public Ruka {
+public:
+    explicit RukaNaDesce(Relace& relace) : relace_(relace) {}
+
+    [[nodiscard]] const Dialog& Hrany() const override;
+    [[nodiscard]] std::vector<Zadano> Zadani() const override;
+    void Posun(int dx, int dy) override;
+    void ZasunPanel() override;
+    /// Presses the check and waits until the continue button is up.
+    void Zkontroluj() override;
+
+protected:
+    bool StiskNacrtu(Bod misto) override;
+    void StiskNastroje(int i) override;
+    void StiskRadku(int i, std::string_view text) override;
+    void Pis(int ktery, const std::string& text) override;
+    void TahPoPlose(Bod odkud, Bod kam) override;
+    [[nodiscard]] Relace& Hra() const { return relace_; }
+
+private:
+    Relace& relace_;
+};
+
+/// Reads the labels of an assignment: name, value, name, value.
+[[nodiscard]] std::vector<Zadano> CtiZadani(const std::vector<PolozkaZadani>& popisky);
+
+}  // namespace rysovna::hrac

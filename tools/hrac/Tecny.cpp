@@ -1,0 +1,228 @@
+#include "hrac/Tecny.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <stdexcept>
+
+#include "base/Cisla.h"
+#include "engine/Tabulky.h"
+#include "tasks/TecnyNacrt.h"
+
+namespace rysovna::hrac {
+namespace {
+
+// Faces of the buttons.
+constexpr int PRIMKA_BODY = 2, KRUH = 6, STRED = 7, OSA = 8, PRUSECIK = 9;
+
+const std::map<std::string_view, std::vector<KrokZaka>> POSTUPY{
+    {"01", {{4, "k přímce a", "S"}, {9}, {9}, {5, "s přímkou a", "A1"}, {5, "s přímkou a", "A2"}}},
+    {"02", {{5, "s přímkou a", "S"}, {9}, {9}, {4, "k přímce b", "A1"}, {4, "k přímce b", "A2"}}},
+    {"03",
+     {{7, "", "S", "A"},
+      {6, "kružnice l, střed v bodě B", "B"},
+      {9},
+      {9},
+      {2, "přímka AT1", "A", "T1"},
+      {2, "přímka AT2", "A", "T2"}}},
+    {"04",
+     {{4, "k přímce a", "A"}, {9}, {7, "", "A", "B"}, {6, "kružnice k, střed v bodě C", "C"}}},
+    {"05",
+     {{7, "", "A", "B"}, {4, "k úsečce AB", "C"}, {9}, {6, "kružnice k, střed v bodě D", "D"}}},
+    {"06",
+     {{7, "", "A", "B"},
+      {4, "k úsečce AB", "C"},
+      {4, "k přímce a", "B"},
+      {9},
+      {6, "kružnice k, střed v bodě D", "D"}}},
+    {"07",
+     {{4, "k přímce a", "A"}, {9}, {7, "", "A", "B"}, {6, "kružnice k, střed v bodě C", "C"}}},
+    {"08", {{4, "k přímce a", "A"}, {9}, {6, "kružnice k, střed v bodě B", "B"}}},
+    {"09",
+     {{2, "přímka AS", "A", "S"},
+      {9},
+      {9},
+      {7, "", "A", "B1"},
+      {7, "", "A", "B2"},
+      {6, "kružnice l1, střed v bodě S1", "S1"},
+      {6, "kružnice l2, střed v bodě S2", "S2"}}},
+};
+
+struct V {
+    double X, Y;
+};
+V Misto(std::string_view bod) {
+    const Bod b = NajdiBod(bod);
+    if (b == BEZ_BODU) throw NejdeUdelat("není bod " + std::string(bod));
+    return {static_cast<double>(b.X), static_cast<double>(b.Y)};
+}
+const Utvar& Cara(std::string_view jmeno) {
+    const int i = NajdiCaru(jmeno);
+    if (i == 0) throw NejdeUdelat("není čára " + std::string(jmeno));
+    return Utvary[i];
+}
+/// The direction of a line, one pixel long.
+V Smer(const Utvar& u) {
+    const double d = std::hypot(u.X2 - u.X1, u.Y2 - u.Y1);
+    return {(u.X2 - u.X1) / d, (u.Y2 - u.Y1) / d};
+}
+V Napric(V s) {
+    return {-s.Y, s.X};
+}
+Bod Pixel(V v) {
+    return {Zaokrouhli(v.X), Zaokrouhli(v.Y)};
+}
+V Dal(V od, V smer, double px) {
+    return {od.X + px * smer.X, od.Y + px * smer.Y};
+}
+V Prusecik(V p, V s, V q, V t) {
+    return Dal(p, s, ((q.X - p.X) * t.Y - (q.Y - p.Y) * t.X) / (s.X * t.Y - s.Y * t.X));
+}
+/// Where the line from p along s meets the drawn line.
+Bod Prusecik(V p, V s, const Utvar& u) {
+    const V q{static_cast<double>(u.X1), static_cast<double>(u.Y1)};
+    return Pixel(Prusecik(p, s, q, Smer(u)));
+}
+
+/// A place of an element of the sketch, by a parameter: along a straight one, round the left half
+/// of a circle; a point itself.
+Bod NaNacrtu(const PrvekNacrtuTecny& e, float k) {
+    using Tvar = PrvekNacrtuTecny::Tvar;
+    const float cast = k - std::floor(k);
+    V v{static_cast<double>(e.X1), static_cast<double>(e.Y1)};
+    if (e.Druh == Tvar::Cara) v = Dal(v, {e.X2 - e.X1, e.Y2 - e.Y1}, cast);
+    if (e.Druh == Tvar::Kruh) v = Dal(v, {-std::cos(k), -std::sin(k)}, e.X2);
+    return Pixel(v);
+}
+
+}  // namespace
+
+std::string DokonaleTecny::Kod() const {
+    return Priklady[Dialogem().CisloPrikladu()].Druh;
+}
+
+const KrokZaka& DokonaleTecny::Krok() const {
+    return POSTUPY.at(Kod())[static_cast<std::size_t>(Dialogem().Stav().Faze - 1)];
+}
+
+void DokonaleTecny::Oznac() {
+    const Cviceni* c = Dialogem().Hrane();
+    if (c == nullptr) return;
+    const auto znacky = [this] { return Dialogem().Stav().Znacky; };
+    for (const PrvekNacrtuTecny& e : NacrtTecny(Kod())) {
+        const std::uint32_t znacka = Znacka(e.Znacka);
+        if ((c->PovinneZnacky & znacka) == 0) continue;
+        for (float k = 0.31F; (znacky() & znacka) == 0; k += 0.05F) {
+            if (k > 6) throw NejdeUdelat("nejde označit " + std::string(e.Jmeno));
+            const std::uint32_t pred = znacky();
+            const Bod b = NaNacrtu(e, k);
+            ruka_.Oznac(b);
+            // Another element lies over it there.
+            if (znacky() != (pred | znacka) && znacky() != pred) ruka_.Oznac(b);
+        }
+    }
+}
+
+Ruka& DokonaleTecny::Nastroj(int tvar) {
+    const Panel p = ruka_.Hrany().UkazPanel();
+    for (int i = 0; i < 4; ++i) {
+        const Tlacitko& t = p.cmd[static_cast<std::size_t>(i)];
+        if (t.Tvar == tvar && t.Zive) return ruka_.Nastroj(i + 1);
+    }
+    throw NejdeUdelat("nejde stisknout nástroj " + std::to_string(tvar) + " v kroku " +
+                      std::to_string(Dialogem().Stav().Faze) + " úlohy " + Kod());
+}
+
+std::vector<Bod> DokonaleTecny::Kandidati() const {
+    const std::string kod = Kod();
+    if (kod == "01" || kod == "02") {
+        const Utvar& k = Cara("k");
+        const V a = Smer(Cara("a"));
+        const V s = kod == "01" ? Napric(a) : a;
+        const V stred{static_cast<double>(k.X1), static_cast<double>(k.Y1)};
+        const double r = static_cast<double>(k.Polomer);
+        return {Pixel(Dal(stred, s, r)), Pixel(Dal(stred, s, -r))};
+    }
+    const V A = Misto("A");
+    if (kod == "03" || kod == "09") {
+        const V S = Misto("S");
+        const double sa = std::hypot(A.X - S.X, A.Y - S.Y);
+        const double kam = std::atan2(A.Y - S.Y, A.X - S.X);
+        const auto pod = [&](double r, double uhel) {
+            return Pixel(Dal(S, {std::cos(kam + uhel), std::sin(kam + uhel)}, r));
+        };
+        if (kod == "09") {
+            const double r = static_cast<double>(Cara("k2").Polomer);
+            return {pod(r, 0), pod(-r, 0)};
+        }
+        const double r = static_cast<double>(Cara("k").Polomer);
+        return {pod(r, std::acos(r / sa)), pod(r, -std::acos(r / sa))};
+    }
+    const Utvar& a = Cara("a");
+    if (kod == "04") return {Prusecik(A, Napric(Smer(a)), a)};
+    if (kod == "07" || kod == "08") return {Prusecik(A, Napric(Smer(a)), Cara("b"))};
+    const V B = Misto("B");
+    const V C{(A.X + B.X) / 2, (A.Y + B.Y) / 2};
+    const V osa = Napric(Smer(Cara("AB")));
+    if (kod == "05") return {Prusecik(C, osa, a)};
+    return {Pixel(Prusecik(C, osa, B, Napric(Smer(a))))};
+}
+
+void DokonaleTecny::SpravnyKrok() {
+    const std::string kod = Kod();
+    const auto& postup = POSTUPY.at(kod);
+    const auto i = static_cast<std::size_t>(Dialogem().Stav().Faze - 1);
+    if (Osou && i == 0 && (kod == "05" || kod == "06")) {
+        Nastroj(OSA).Vyber("úsečky AB");
+        return;
+    }
+    // The other of two lines through points that were marked in turn.
+    const bool dvojice = i + 2 >= postup.size() && kod < "04";
+    const bool druhy = i > 0 && postup[i - 1].Tvar == PRUSECIK;
+    Proved(Obracene && dvojice ? postup[2 * postup.size() - 3 - i] : postup[i], druhy);
+}
+
+/// druhy: of two crossings this is the second.
+void DokonaleTecny::Proved(const KrokZaka& k, bool druhy) {
+    Nastroj(k.Tvar);
+    if (!k.Radek.empty()) ruka_.Vyber(k.Radek);
+    const auto chvej = [this](Bod b, int o) {
+        return Bod{b.X + Cislo(2 * o + 1) - o, b.Y + Cislo(2 * o + 1) - o};
+    };
+    if (k.Tvar == PRUSECIK) {
+        const auto kam = Kandidati();
+        ruka_.Klikni(chvej(kam.size() == 2 && druhy != Obracene ? kam[1] : kam[0], 3));
+        return;
+    }
+    const Bod od = NajdiBod(k.Od);
+    if (k.Tvar == STRED) {
+        const Bod b = NajdiBod(k.K);
+        ruka_.Klikni(chvej(Pixel({(od.X + b.X) / 2.0, (od.Y + b.Y) / 2.0}), 4));
+    } else if (k.Tvar == KRUH) {
+        const Bod a = NajdiBod("A");
+        const int r = Zaokrouhli(std::hypot(od.X - a.X, od.Y - a.Y));
+        // Towards the plane's middle, so that the pointer stays in the window.
+        const int smer = od.X > 190 ? -1 : 1;
+        ruka_.Tahni(Nahodne(), {od.X + smer * r + Cislo(5) - 2, Cislo(335)});
+    } else if (k.Tvar == PRIMKA_BODY) {
+        ruka_.Tahni(chvej(od, 6), chvej(NajdiBod(k.K), 6));
+    } else {
+        ruka_.Tahni(chvej(od, 6), Nahodne());
+    }
+}
+
+void DokonaleTecny::SpravneDo(int faze) {
+    while (Dialogem().Stav().Faze < faze) SpravnyKrok();
+}
+
+void DokonaleTecny::SpravneVse() {
+    SpravneDo(static_cast<int>(POSTUPY.at(Kod()).size()) + 1);
+}
+
+void DokonaleTecny::Sestroj() {
+    Oznac();
+    ruka_.ZasunPanel();
+    SpravneVse();
+}
+
+}  // namespace rysovna::hrac

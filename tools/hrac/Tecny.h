@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "hrac/Ruka.h"
+#include "tasks/TecnyDialog.h"
+
+namespace rysovna::hrac {
+
+/// What the perfect pupil does at a step of an exercise. Where: the point from which a line starts,
+/// the centre of a circle, both ends of a line between points or of a midpoint's segment.
+struct KrokZaka {
+    int Tvar;  ///< number of the button's face
+    std::string_view Radek = "", Od = "", K = "";
+};
+
+/// The perfect pupil of the tangents: the right tool, row and place at each step, a few pixels off
+/// where the board allows it. Its own geometry tells where.
+class DokonaleTecny {
+public:
+    DokonaleTecny(Ruka& ruka, std::uint32_t seminko) : ruka_(ruka), nahoda_(seminko) {}
+
+    /// Begins the random choices anew.
+    void Zasej(std::uint32_t seminko) { nahoda_.seed(seminko); }
+
+    /// Marks what has to be marked.
+    void Oznac();
+    /// The whole example without the check.
+    void Sestroj();
+    void SpravnyKrok();
+    void SpravneDo(int faze);
+    void SpravneVse();
+
+    /// Presses the live button that has this face; throws if there is none.
+    Ruka& Nastroj(int tvar);
+    /// The row of the step in hand.
+    [[nodiscard]] const KrokZaka& Krok() const;
+    /// Both places that the marking step could take.
+    [[nodiscard]] std::vector<Bod> Kandidati() const;
+    [[nodiscard]] int Cislo(int rozpeti) {
+        return static_cast<int>(nahoda_() % static_cast<unsigned>(rozpeti));
+    }
+    /// Somewhere on the plane off the arrows.
+    [[nodiscard]] Bod Nahodne() { return {Cislo(364), Cislo(315)}; }
+
+    bool Osou = false;      ///< in "05" and "06" the axis at once
+    bool Obracene = false;  ///< of two results the other one first
+
+private:
+    [[nodiscard]] const TecnyDialog& Dialogem() const {
+        return dynamic_cast<const TecnyDialog&>(ruka_.Hrany());
+    }
+    [[nodiscard]] std::string Kod() const;
+    void Proved(const KrokZaka& krok, bool druhy);
+
+    Ruka& ruka_;
+    std::mt19937 nahoda_;
+};
+
+}  // namespace rysovna::hrac
