@@ -5,46 +5,14 @@
 # The values of the example are not known here: the pupil types and draws 15 everywhere, which
 # always closes the triangle and costs at most six points.
 set -eu
-export LC_ALL=C.UTF-8  # Czech letters are typed and looked for
-
 staging="$1"
 sirka="${2:-1920}"
 vyska="${3:-1080}"
 obrazky="${4:-}"
 jmeno="Žofie Řeřichová"
+# shellcheck source=tests/okno/spolecne.sh
+. "$(dirname "$0")/spolecne.sh"
 
-prace="$(mktemp -d)"
-pid_hra=""
-pid_x=""
-uklid() {
-    [ -n "$pid_hra" ] && kill "$pid_hra" 2>/dev/null || true
-    [ -n "$pid_x" ] && kill "$pid_x" 2>/dev/null || true
-    rm -rf "$prace"
-}
-trap uklid EXIT
-selhani() { echo "SELHALO: $*" >&2; exit 1; }
-
-# A display of our own, with a number that nobody has.
-exec 3<>"$prace/cislo"
-Xvfb -displayfd 3 -screen 0 "${sirka}x${vyska}x24" -nolisten tcp >/dev/null 2>&1 &
-pid_x=$!
-for _ in $(seq 100); do [ -s "$prace/cislo" ] && break; sleep 0.1; done
-DISPLAY=":$(cat "$prace/cislo")"
-export DISPLAY
-[ "$DISPLAY" != ":" ] || selhani "Xvfb se nespustil"
-
-cp -r "$staging" "$prace/hra"
-for i in $(seq -w 20); do : >"$prace/hra/data/$i.res"; done
-: >"$prace/hra/data/Vysledky.dat"
-"$prace/hra/rysovna" 2>"$prace/chyby" &
-pid_hra=$!
-
-# Design pixels to pixels of the screen: the picture is as large as fits, letterboxed.
-na_obrazovku() {
-    awk -v x="$1" -v y="$2" -v w="$sirka" -v h="$vyska" 'BEGIN {
-        s = w / 640 < h / 480 ? w / 640 : h / 480
-        printf "%d %d", (w - 640 * s) / 2 + (x + 0.5) * s, (h - 480 * s) / 2 + (y + 0.5) * s }'
-}
 # shellcheck disable=SC2046
 mys() { xdotool mousemove $(na_obrazovku "$1" "$2"); sleep 0.05; }
 klik() { mys "$1" "$2"; xdotool click 1; sleep "${3:-0.2}"; }
@@ -57,19 +25,8 @@ tah() {
     xdotool mouseup 1
     sleep 0.4
 }
-fotka() { [ -z "$obrazky" ] || { mkdir -p "$obrazky"; import -window root "$obrazky/${sirka}_$1.png"; }; }
 
-# The window is there, over the whole screen.
-for _ in $(seq 100); do
-    xdotool search --name 'Rysovna 1' >/dev/null 2>&1 && break
-    kill -0 "$pid_hra" 2>/dev/null || selhani "hra skončila: $(cat "$prace/chyby")"
-    sleep 0.1
-done
-okno="$(xdotool search --name 'Rysovna 1' | tail -n 1)" || selhani "okno se neotevřelo"
-eval "$(xdotool getwindowgeometry --shell "$okno")"
-[ "$WIDTH" = "$sirka" ] && [ "$HEIGHT" = "$vyska" ] || selhani "okno má $WIDTH x $HEIGHT"
-
-sleep 0.5
+spust
 fotka titul
 klik 320 240 1.6
 fotka nabidka
@@ -105,11 +62,11 @@ fotka verdikt
 klik 570 468 1
 fotka tabulka
 
-log="$(iconv -f WINDOWS-1250 -t UTF-8 "$prace/hra/data/Vysledky.dat")"
-echo "$log"
+vypis="$(log)"
+echo "$vypis"
 [ "$(wc -l <"$prace/hra/data/Vysledky.dat")" = 4 ] || selhani "v logu nejsou čtyři řádky"
-grep -q "^Jméno: $jmeno  *Datum: " <<<"$log" || selhani "v logu není jméno"
-grep -q "^Hra: Trojúhelník 1  *Typ úlohy: podle věty SSS" <<<"$log" || selhani "v logu není úloha"
+grep -q "^Jméno: $jmeno  *Datum: " <<<"$vypis" || selhani "v logu není jméno"
+grep -q "^Hra: Trojúhelník 1  *Typ úlohy: podle věty SSS" <<<"$vypis" || selhani "v logu není úloha"
 iconv -f WINDOWS-1250 -t UTF-8 "$prace/hra/data/01.res" | grep -qE "^$jmeno\|(10|[4-9])\|[0-6]\|[1-5]" ||
     selhani "v tabulce není čekaný záznam: $(cat "$prace/hra/data/01.res")"
 

@@ -86,6 +86,8 @@ public:
     /// "dolu", "nahoru", "text Ž", "klavesa Return 0", and "cekej MS" before what came so much
     /// later. The real window can be driven by it. The stream must live as long as the session.
     void Zaznamenavej(std::ostream& kam) { zaznam_ = &kam; }
+    /// A line of one's own among the events.
+    void Poznamenej(const std::string& co) { Zapis(co); }
 
     /// The data root of this run.
     [[nodiscard]] const std::filesystem::path& DataDir() const { return data_; }

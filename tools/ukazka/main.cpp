@@ -29,6 +29,7 @@ class Fotograf {
 public:
     Fotograf(Relace& hra, std::filesystem::path kam) : hra_(hra), kam_(std::move(kam)) {}
     void Vyfot(const std::string& co) {
+        hra_.Poznamenej("fotka " + co);
         const auto soubor = kam_ / (DveCislice(++poradi_) + "_" + co + ".png");
         hra_.Host().Snimek(soubor.string(), MERITKO);
         std::cout << "  " << soubor.string() << "\n";
@@ -64,6 +65,7 @@ void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy) {
     Relace hra(SEMINKO);
     std::ofstream zaznam(kam / "udalosti.txt");
     hra.Zaznamenavej(zaznam);
+    hra.Poznamenej("seminko " + std::to_string(SEMINKO));
     Fotograf foto(hra, kam);
     hra.StartDoTitulu();
     foto.Vyfot("titul");

@@ -1,0 +1,53 @@
+# Sourced by the tests of the real window: a display of our own, the game on it, mouse and pictures.
+# Before: $staging, $sirka, $vyska, and $obrazky, where pictures go if it is not empty.
+export LC_ALL=C.UTF-8  # Czech letters are typed and looked for
+
+prace="$(mktemp -d)"
+pid_hra=""
+pid_x=""
+uklid() {
+    [ -n "$pid_hra" ] && kill "$pid_hra" 2>/dev/null || true
+    [ -n "$pid_x" ] && kill "$pid_x" 2>/dev/null || true
+    rm -rf "$prace"
+}
+trap uklid EXIT
+selhani() { echo "SELHALO: $*" >&2; exit 1; }
+
+# The design picture is as large as fits, letterboxed.
+awk_meritko='BEGIN { s = w / 640 < h / 480 ? w / 640 : h / 480; ox = (w - 640 * s) / 2; oy = (h - 480 * s) / 2 }'
+# Design pixels to pixels of the screen.
+na_obrazovku() {
+    awk -v x="$1" -v y="$2" -v w="$sirka" -v h="$vyska" \
+        "$awk_meritko"' BEGIN { printf "%d %d", ox + (x + 0.5) * s, oy + (y + 0.5) * s }'
+}
+fotka() { [ -z "$obrazky" ] || { mkdir -p "$obrazky"; import -window root "$obrazky/${sirka}_$1.png"; }; }
+
+# A display with a number that nobody has; the game with no results in it, in a full-screen window.
+#   spust [arguments of the game...]
+spust() {
+    exec 3<>"$prace/cislo"
+    Xvfb -displayfd 3 -screen 0 "${sirka}x${vyska}x24" -nolisten tcp >/dev/null 2>&1 &
+    pid_x=$!
+    for _ in $(seq 100); do [ -s "$prace/cislo" ] && break; sleep 0.1; done
+    DISPLAY=":$(cat "$prace/cislo")"
+    export DISPLAY
+    [ "$DISPLAY" != ":" ] || selhani "Xvfb se nespustil"
+
+    cp -r "$staging" "$prace/hra"
+    for i in $(seq -w 20); do : >"$prace/hra/data/$i.res"; done
+    : >"$prace/hra/data/Vysledky.dat"
+    "$prace/hra/rysovna" "$@" 2>"$prace/chyby" &
+    pid_hra=$!
+    for _ in $(seq 100); do
+        xdotool search --name 'Rysovna 1' >/dev/null 2>&1 && break
+        kill -0 "$pid_hra" 2>/dev/null || selhani "hra skončila: $(cat "$prace/chyby")"
+        sleep 0.1
+    done
+    okno="$(xdotool search --name 'Rysovna 1' | tail -n 1)" || selhani "okno se neotevřelo"
+    eval "$(xdotool getwindowgeometry --shell "$okno")"
+    [ "$WIDTH" = "$sirka" ] && [ "$HEIGHT" = "$vyska" ] || selhani "okno má $WIDTH x $HEIGHT"
+    sleep 0.5
+}
+
+# What the log holds, in UTF-8.
+log() { iconv -f WINDOWS-1250 -t UTF-8 "$prace/hra/data/Vysledky.dat"; }
