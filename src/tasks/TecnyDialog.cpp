@@ -196,15 +196,7 @@ void TecnyDialog::Chybne() {
 
 /// Lays the step in hand down, so that the buttons are live again.
 void TecnyDialog::Odzbroj() {
-    StavTecny novy;
-    novy.Faze = stav_.Faze;
-    novy.Pary = stav_.Pary;
-    novy.Pouzite = stav_.Pouzite;
-    novy.Zpatky = stav_.Zpatky;
-    novy.HotovaKonstrukce = stav_.HotovaKonstrukce;
-    novy.Skontrolovano = stav_.Skontrolovano;
-    novy.Znacky = stav_.Znacky;
-    stav_ = std::move(novy);
+    static_cast<KrokVRuce&>(stav_) = {};
 }
 
 void TecnyDialog::ZavriSeznam() {

@@ -20,17 +20,8 @@ struct DvaPruseciky {
     friend bool operator==(const DvaPruseciky&, const DvaPruseciky&) = default;
 };
 
-/// The dialogue's own record: all that changes from step to step besides the construction.
-struct StavTecny {
-    int Faze = 1;               ///< step of the exercise; past its last one nothing is offered
-    DvaPruseciky Pary;          ///< what the markings of this exercise can take
-    std::uint32_t Pouzite = 0;  ///< bit i: a line took the i-th of the step's points or rows
-    bool Zpatky = false;        ///< the step was reached by back
-    bool HotovaKonstrukce = false;
-    bool Skontrolovano = false;  ///< the check took the example
-    std::uint32_t Znacky = 0;    ///< marks of the sketch
-
-    // The step in hand; as below between steps.
+/// The step in hand: all of it goes when the step is done or laid down.
+struct KrokVRuce {
     Nastroj Tvar = Nastroj::Zadny;  ///< face of the pressed button
     std::string ZvolenyUtvar;       ///< kind chosen for the step; empty between steps
     std::string Jmeno;              ///< name of the new object
@@ -47,6 +38,18 @@ struct StavTecny {
     Seznam Combo;
     std::string lblText3;
     TextPanelu lblText4;
+    friend bool operator==(const KrokVRuce&, const KrokVRuce&) = default;
+};
+
+/// The dialogue's own record: all that changes from step to step besides the construction.
+struct StavTecny : KrokVRuce {
+    int Faze = 1;               ///< step of the exercise; past its last one nothing is offered
+    DvaPruseciky Pary;          ///< what the markings of this exercise can take
+    std::uint32_t Pouzite = 0;  ///< bit i: a line took the i-th of the step's points or rows
+    bool Zpatky = false;        ///< the step was reached by back
+    bool HotovaKonstrukce = false;
+    bool Skontrolovano = false;  ///< the check took the example
+    std::uint32_t Znacky = 0;    ///< marks of the sketch
     friend bool operator==(const StavTecny&, const StavTecny&) = default;
 };
 
@@ -121,6 +124,8 @@ private:
     void KlikniPrusecik(float x, float y);
     [[nodiscard]] Bod StredTahu() const;
     [[nodiscard]] Dvojice BodyPrimky(Bod konec) const;
+    void NakresliKruznici(const KrokTecny& krok, Bod konec);
+    void NakresliPrimku(const KrokTecny& krok, float x, float y);
     void PosudPrimku(const KrokTecny& krok, Dvojice& body);
     void PosudKonce(const KrokTecny& krok, const Dvojice& body);
     void PosudPolomer(const KrokTecny& krok, Bod stred, int r);

@@ -123,9 +123,9 @@ void TecnyDialog::KlikniPrusecik(float x, float y) {
 
 /// Whether the exercise charges a marking when both of its crossings are done, and they are.
 bool TecnyDialog::ObeHotove() const {
-    const auto& plne = Hrane()->Plne;
-    if (plne[0].empty()) return false;
-    for (const std::string_view jmeno : plne) {
+    const auto& znacene = Hrane()->Znacene;
+    if (znacene[0].empty()) return false;
+    for (const std::string_view jmeno : znacene) {
         const int i = PolozkaReseni(jmeno);
         if (i == 0 || Priklady[cisloPrikladu_].Kroky[i].Hotovo == NE) return false;
     }
@@ -185,41 +185,51 @@ void TecnyDialog::PusteniPlochy(float x, float y) {
     const KrokTecny* krok = KrokFaze();
     if (krok == nullptr || !CekaNaKresleni() || !stav_.Tazeni) return;
     const Bod konec = NaPixely(x, y);
-    Plane& pic = platna_.Pic;
-    pic.DrawWidth = 1;
-    const std::string druh = stav_.ZvolenyUtvar;
-    const std::string jmeno = stav_.Jmeno;
-    const std::uint32_t pouzite = stav_.Pouzite;
+    platna_.Pic.DrawWidth = 1;
+    Pamatuj(1, 1);
     if (stav_.Tvar == Nastroj::Kruznice) {
-        const Bod s = StredTahu();
-        if (stav_.Spravny) PosudPolomer(*krok, s, std::abs(konec.X - s.X));
-        KresliKruznici(pic, druh, NovyRadek(jmeno, ""), s.X, s.Y, konec.X, ANO);
+        NakresliKruznici(*krok, konec);
     } else if (stav_.Tvar == Nastroj::Poloprimka) {
         const Bod s = stav_.Start;
-        KresliPoloprimku(pic, druh, NovyRadek(jmeno, "Y"), s.X, s.Y, konec.X, konec.Y, "Y", ANO);
+        KresliPoloprimku(platna_.Pic, stav_.ZvolenyUtvar, NovyRadek(stav_.Jmeno, "Y"), s.X, s.Y,
+                         konec.X, konec.Y, "Y", ANO);
     } else {
-        Dvojice b = BodyPrimky(konec);
-        if (stav_.Tvar == Nastroj::Primka) b.P2 = ZachytPosledni(x, y).Misto;
-        if (krok->Jak == Soud::Konce && stav_.Tvar == Nastroj::Primka) PosudKonce(*krok, b);
-        if (stav_.Spravny && krok->Jak != Soud::Konce) PosudPrimku(*krok, b);
-        // A line through two points that bears their names has both; any other has its own.
-        const bool podleBodu = stav_.Tvar == Nastroj::Primka && jmeno == stav_.OcekavanyBod;
-        const int n =
-            NovyRadek(podleBodu ? jmeno.substr(0, 1) : jmeno, podleBodu ? jmeno.substr(1) : "");
-        if (stav_.Tvar == Nastroj::Kolmice) {
-            KresliKolmici(pic, druh, n, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, ANO);
-        } else {
-            KresliPrimku(pic, druh, n, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, 0, ANO);
-        }
+        NakresliPrimku(*krok, x, y);
     }
-    Pamatuj(1, 1);
-    minulost_.back().Pouzite = pouzite;
-    Zapis(stav_.Faze, druh, jmeno);
+    Zapis(stav_.Faze, stav_.ZvolenyUtvar, stav_.Jmeno);
     if (stav_.Spravny) {
-        SplnPolozku(jmeno);
+        SplnPolozku(stav_.Jmeno);
         SpocitejPruseciky(*krok);
     }
     UkonciKrok(stav_.Spravny);
+}
+
+void TecnyDialog::NakresliKruznici(const KrokTecny& krok, Bod konec) {
+    const Bod s = StredTahu();
+    if (stav_.Spravny) PosudPolomer(krok, s, std::abs(konec.X - s.X));
+    KresliKruznici(platna_.Pic, stav_.ZvolenyUtvar, NovyRadek(stav_.Jmeno, ""), s.X, s.Y, konec.X,
+                   ANO);
+}
+
+/// Judged as drawn; only then does its second point go to the margin.
+void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
+    const bool spojnice = stav_.Tvar == Nastroj::Primka;
+    Dvojice b = BodyPrimky(NaPixely(x, y));
+    if (spojnice) b.P2 = ZachytPosledni(x, y).Misto;
+    if (krok.Jak == Soud::Konce) {
+        if (spojnice) PosudKonce(krok, b);
+    } else if (stav_.Spravny) {
+        PosudPrimku(krok, b);
+    }
+    // A line through two points that bears their names has both; any other has its own.
+    const bool podleBodu = spojnice && stav_.Jmeno == stav_.OcekavanyBod;
+    const int n = podleBodu ? NovyRadek(stav_.Jmeno.substr(0, 1), stav_.Jmeno.substr(1))
+                            : NovyRadek(stav_.Jmeno, "");
+    if (stav_.Tvar == Nastroj::Kolmice) {
+        KresliKolmici(platna_.Pic, stav_.ZvolenyUtvar, n, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, ANO);
+    } else {
+        KresliPrimku(platna_.Pic, stav_.ZvolenyUtvar, n, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, 0, ANO);
+    }
 }
 
 // ---- Judgement -------------------------------------------------------------------------------
@@ -360,29 +370,25 @@ void TecnyDialog::UkonciKrok(bool vlastni) {
     ZvyrazniReseni();
 }
 
-/// Draws the results thick, without their labels.
+/// Draws the results thick, without their labels. A wrong object may bear a result's name: results
+/// are of the last step's kind.
 void TecnyDialog::ZvyrazniReseni() {
     Plane& pic = platna_.Pic;
     pic.DrawWidth = SIRKA_VYSLEDKU;
     const Trojice posledni = Trojice_tab[PocetTrojic];
+    const bool kruznice = Hrane()->Kroky.back().Spravny == Nastroj::Kruznice;
+    const auto& vysledky = Hrane()->Vysledky;
     for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar puvodni = Utvary[i];
-        bool vysledek = false;
-        for (const std::string_view v : Hrane()->Vysledky) {
-            vysledek = vysledek || (!v.empty() && puvodni.Jmeno1 == v && puvodni.Druh != BOD);
-        }
-        if (!vysledek ||
-            (puvodni.Druh == KRUZNICE) != (Hrane()->Kroky.back().Spravny == Nastroj::Kruznice)) {
-            continue;
-        }
+        const Utvar u = Utvary[i];
+        if (u.Jmeno1.empty() || u.Druh == BOD || (u.Druh == KRUZNICE) != kruznice) continue;
+        if (std::ranges::find(vysledky, u.Jmeno1) == vysledky.end()) continue;
         Utvary[i].Jmeno1.clear();
-        if (puvodni.Druh == KRUZNICE) {
-            KresliKruznici(pic, puvodni.Druh, i, puvodni.X1, puvodni.Y1, puvodni.X2, NE);
+        if (kruznice) {
+            KresliKruznici(pic, u.Druh, i, u.X1, u.Y1, u.X2, NE);
         } else {
-            KresliPrimku(pic, puvodni.Druh, i, puvodni.X1, puvodni.Y1, puvodni.X2, puvodni.Y2,
-                         puvodni.Delka, NE);
+            KresliPrimku(pic, u.Druh, i, u.X1, u.Y1, u.X2, u.Y2, u.Delka, NE);
         }
-        Utvary[i] = puvodni;
+        Utvary[i] = u;
     }
     Trojice_tab[PocetTrojic] = posledni;
     pic.DrawWidth = 1;

@@ -474,7 +474,7 @@ constexpr Cviceni CVICENI[] = {
      .PocatekPoloprimky = "A",
      .ChybnaKruznice = "m",
      .Vysledky = {"l1", "l2"},
-     .Plne = {"B1", "B2"},
+     .Znacene = {"B1", "B2"},
      .Kroky = KROKY_09},
 };
 

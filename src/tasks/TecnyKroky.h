@@ -87,7 +87,7 @@ struct Cviceni {
     std::string_view ChybnaKruznice{};     ///< name of a wrong circle; empty: "k" and the step
     std::array<std::string_view, 2> Vysledky{};  ///< objects that the finish makes stand out
     /// The crossings that are marked; 219 when a marking finds both done. Empty: no such charge.
-    std::array<std::string_view, 2> Plne{};
+    std::array<std::string_view, 2> Znacene{};
     std::span<const KrokTecny> Kroky{};
 };
 
