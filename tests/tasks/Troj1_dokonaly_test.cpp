@@ -54,9 +54,6 @@ TEST_P(DokonaleTrojuhelniky, KazdyRadekSouboruDaDesetBodu) {
     for (std::size_t od = 0; od < tabulka.size(); od += zaznam.size()) {
         ASSERT_EQ(tabulka.substr(od, zaznam.size()), zaznam);
     }
-    const std::string typ[] = {"SSS", "SUS", "USU"};
-    EXPECT_NE(hra.CtiSoubor("Vysledky.dat").find("podle v\xECty " + typ[uloha - 1]),
-              std::string::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ulohy, DokonaleTrojuhelniky, testing::Values(1, 2, 3));

@@ -1,0 +1,46 @@
+// A series of five of every task, from the menu to the score table and the log, without a fault.
+
+#include "hrac/Serie.h"
+
+#include <gtest/gtest.h>
+
+#include "base/Text.h"
+#include "shell/Kodovani.h"
+#include "shell/Misc.h"
+#include "shell/Ulohy.h"
+#include "tasks/Desky.h"
+
+namespace rysovna::hrac {
+namespace {
+
+class SerieOdPeti : public testing::TestWithParam<Uloha> {};
+
+TEST_P(SerieOdPeti, DaPadesatBoduRadekTabulkyACtyriRadkyLogu) {
+    const Uloha& uloha = GetParam();
+    NastavVyrobceDesek(VyrobDesku);
+    Relace hra(static_cast<std::uint32_t>(uloha.Cislo));
+    hra.Host().Cas = {2026, 11, 3, 9, 5};
+    hra.Start();
+    OdehrajSerii(hra, uloha.Cislo, "Žák", 5, 1);
+    EXPECT_EQ(hra.JmenoVpredu(), "TabulkaForm");
+    EXPECT_EQ(KladneBody, 50);
+    EXPECT_EQ(ZaporneBody, 0);
+    const std::string cislo = uloha.Cislo < 10 ? "0" : "";
+    EXPECT_EQ(hra.CtiSoubor(cislo + std::to_string(uloha.Cislo) + ".res"), "\x8E\xE1k|50|0|1\r\n");
+
+    std::string typ(uloha.TypUlohy);
+    while (DoZnaku(typ).size() < 30) typ += ' ';  // characters, not bytes
+    EXPECT_EQ(
+        Z1250(hra.CtiSoubor("Vysledky.dat"), "Vysledky.dat"),
+        "Jméno: Žák                                   Datum: 3.11.2026    Čas: 09:05\r\n"
+        "Hra: " +
+            NazevHry + std::string(21 - DoZnaku(NazevHry).size(), ' ') + "Typ úlohy: " + typ +
+            "\r\n"
+            "Počet příkladů:  5        Klad. body: 50     Záp. body: 0        Známka:  1\r\n"
+            "===========================================================================\r\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(Ulohy, SerieOdPeti, testing::ValuesIn(ULOHY));
+
+}  // namespace
+}  // namespace rysovna::hrac
