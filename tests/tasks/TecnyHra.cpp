@@ -38,6 +38,29 @@ std::vector<int> TecnyHra::Chyby() {
     return v;
 }
 
+Otisk::Otisk(const TecnyHra& hra) : Stav(hra.dialog.Stav()), P(hra.P()) {
+    for (int i = 1; i <= PocetUtvaru; ++i) {
+        Utvary_.push_back(Utvary[i]);
+        // Any redraw takes a line's direction anew, from the point at the margin.
+        if (Utvary[i].Druh != USECKA) Utvary_.back().Smer = 0;
+    }
+    for (int i = 1; i <= PocetTrojic; ++i) Trojice_.push_back(Trojice_tab[i]);
+    for (int i = 1; i <= 10; ++i) Prvky.push_back(ZadanePrvky[i]);
+    for (int i = 1; i <= 8; ++i) Hotovo.push_back(hra.Zaznam().Kroky[i].Hotovo);
+}
+
+std::string Otisk::Rozdil(const Otisk& jiny) const {
+    StavTecny stav = Stav;
+    stav.Zpatky = jiny.Stav.Zpatky;
+    std::string rozdil;
+    if (!(Utvary_ == jiny.Utvary_)) rozdil += "objects ";
+    if (!(Trojice_ == jiny.Trojice_)) rozdil += "snap records ";
+    if (!(Prvky == jiny.Prvky)) rozdil += "what was entered ";
+    if (Hotovo != jiny.Hotovo) rozdil += "what is done ";
+    if (!(stav == jiny.Stav)) rozdil += "the dialogue's record ";
+    return rozdil;
+}
+
 void TecnyHra::KrokVedle() {
     const KrokZaka k = zak.Krok();
     zak.Nastroj(k.Tvar);

@@ -26,4 +26,18 @@ public:
     DokonaleTecny zak{*this, 1};
 };
 
+/// All that a step can change; back has to restore it.
+struct Otisk {
+    explicit Otisk(const TecnyHra& hra);
+    /// What differs besides the panel and the way the step was reached; empty if nothing does.
+    [[nodiscard]] std::string Rozdil(const Otisk& jiny) const;
+
+    std::vector<Utvar> Utvary_;
+    std::vector<Trojice> Trojice_;
+    std::vector<ZadanyPrvek> Prvky;
+    std::vector<int> Hotovo;
+    StavTecny Stav;
+    Panel P;
+};
+
 }  // namespace rysovna::testy

@@ -40,6 +40,7 @@ TEST(TecnyChyby, ChybnaTlacitka) {
                 const bool chyba = std::ranges::find(vse, t.Tvar) != vse.end();
                 SoucetZapornychBodu = PocetChybnychKroku = 0;
                 const int utvaru = PocetUtvaru;
+                const Otisk pred(hra);
                 hra.zak.Nastroj(t.Tvar);
                 EXPECT_EQ(TecnyHra::Chyby(), chyba ? Cisla{21} : Cisla{}) << kod << krok << t.Tvar;
                 EXPECT_EQ(SoucetZapornychBodu, chyba ? 3 : 0);
@@ -54,8 +55,7 @@ TEST(TecnyChyby, ChybnaTlacitka) {
                 EXPECT_FALSE(hra.dialog.Hotova());
                 EXPECT_EQ(hra.Faze(), krok + 1);
                 hra.Zpet();
-                // What came by back may have a dead back button, not dead tools.
-                EXPECT_EQ(PocetUtvaru, utvaru);
+                EXPECT_EQ(Otisk(hra).Rozdil(pred), "") << kod << krok << t.Tvar;
             }
             SoucetZapornychBodu = PocetChybnychKroku = 0;
             hra.zak.SpravnyKrok();
@@ -88,7 +88,8 @@ TEST(TecnyChyby, KrokyVedle) {
         hra.KrokVedle();
         Cisla chyby = TecnyHra::Chyby();
         // The line may miss what it has to meet as well.
-        if (chyby.size() == 2 && p.Krok == 1) chyby.pop_back();
+        const auto mine = [](int c) { return c == 203 || c == 204 || c == 209; };
+        if (chyby.size() == 2 && p.Krok == 1 && mine(chyby[1])) chyby.pop_back();
         EXPECT_EQ(chyby, p.Chyby) << p.Kod << " step " << p.Krok;
         EXPECT_EQ(SoucetZapornychBodu, PocetChybnychKroku);
         EXPECT_EQ(hra.Faze(), p.Krok + 1);
@@ -284,6 +285,21 @@ TEST(TecnyChyby, DruhaTecnaMusiDruhymBodem) {
         hra.zak.Nastroj(5).Vyber("s přímkou a").Tahni(NajdiBod("A2"), {200, 10});
     }
     EXPECT_EQ(TecnyHra::Chyby(), Cisla{215});
+    EXPECT_TRUE(hra.dialog.Hotova());
+}
+
+/// The same line twice is no second tangent: it costs nothing and finishes nothing.
+TEST(TecnyChyby, JednaTecnaDvakratNejsouDve) {
+    TecnyHra hra("03", 6);
+    hra.zak.SpravneDo(5);
+    for (int i = 0; i < 2; ++i) {
+        hra.zak.Nastroj(2).Vyber("přímka AT1").Tahni(NajdiBod("A"), NajdiBod("T1"));
+    }
+    EXPECT_EQ(TecnyHra::Chyby(), Cisla{});
+    EXPECT_EQ(Utvary[PocetUtvaru].Jmeno1, "p6");
+    EXPECT_FALSE(hra.dialog.Hotova());
+    hra.Zpet();
+    hra.zak.Nastroj(2).Vyber("přímka AT2").Tahni(NajdiBod("A"), NajdiBod("T2"));
     EXPECT_TRUE(hra.dialog.Hotova());
 }
 
