@@ -12,10 +12,6 @@
 namespace rysovna::hrac {
 namespace {
 
-struct MistoZnacky {
-    std::string_view Velicina;
-    Bod Misto;
-};
 constexpr MistoZnacky ZNACKY[] = {{"a", {145, 150}},   {"b", {230, 87}},     {"c", {145, 33}},
                                   {"d", {60, 79}},     {"e", {120, 100}},    {"f", {210, 121}},
                                   {"alfa", {74, 140}}, {"beta", {212, 138}}, {"gama", {203, 72}},
@@ -36,9 +32,7 @@ std::string VelicinaRadku(const std::string& popis) {
 }  // namespace
 
 Bod MistoNaNacrtuCtyruhelniku(std::string_view velicina) {
-    const auto* z = std::ranges::find(ZNACKY, velicina, &MistoZnacky::Velicina);
-    if (z == std::end(ZNACKY)) throw NejdeUdelat("není na náčrtu: " + std::string(velicina));
-    return z->Misto;
+    return NajdiMisto(ZNACKY, velicina);
 }
 
 Bod VrcholNaPlose(std::string_view pismeno) {

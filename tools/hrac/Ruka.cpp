@@ -39,6 +39,12 @@ std::vector<Zadano> CtiZadani(const std::vector<PolozkaZadani>& popisky) {
     return vse;
 }
 
+Bod NajdiMisto(std::span<const MistoZnacky> nacrt, std::string_view velicina) {
+    const auto z = std::ranges::find(nacrt, velicina, &MistoZnacky::Velicina);
+    if (z == nacrt.end()) Nejde("není na náčrtu", velicina);
+    return z->Misto;
+}
+
 int Ruka::Hodnota(std::string_view velicina) const {
     for (const Zadano& z : Zadani()) {
         if (z.Velicina == velicina) return z.Hodnota;

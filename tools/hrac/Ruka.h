@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -92,6 +93,14 @@ protected:
 private:
     Relace& relace_;
 };
+
+/// Where an element of a sketch is pressed, px of the sketch.
+struct MistoZnacky {
+    std::string_view Velicina;
+    Bod Misto;
+};
+/// Throws for a quantity that is not on the sketch.
+[[nodiscard]] Bod NajdiMisto(std::span<const MistoZnacky> nacrt, std::string_view velicina);
 
 /// Reads the labels of an assignment: name, value, name, value.
 [[nodiscard]] std::vector<Zadano> CtiZadani(const std::vector<PolozkaZadani>& popisky);

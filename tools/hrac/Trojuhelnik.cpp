@@ -11,11 +11,6 @@
 namespace rysovna::hrac {
 namespace {
 
-/// Where an element of the sketch is pressed.
-struct MistoZnacky {
-    std::string_view Velicina;
-    Bod Misto;
-};
 constexpr MistoZnacky ZNACKY[] = {{"a", {205, 85}},    {"b", {95, 85}},      {"c", {100, 140}},
                                   {"alfa", {74, 123}}, {"beta", {220, 122}}, {"gama", {149, 52}},
                                   {"va", {60, 80}},    {"vb", {240, 80}},    {"vc", {8, 85}},
@@ -58,9 +53,7 @@ std::string_view VrcholUhlu(std::string_view uhel) {
 }
 
 Bod MistoNaNacrtu(std::string_view velicina) {
-    const auto* z = std::ranges::find(ZNACKY, velicina, &MistoZnacky::Velicina);
-    if (z == std::end(ZNACKY)) throw NejdeUdelat("není na náčrtu: " + std::string(velicina));
-    return z->Misto;
+    return NajdiMisto(ZNACKY, velicina);
 }
 
 Bod PodUhlem(Bod rameno1, Bod rameno2, int stupnu) {
