@@ -22,7 +22,7 @@ constexpr int USEK = 500;  // events between two looks at the files
 constexpr std::size_t DELKA_STOPY = 40;
 constexpr int NEJVIC_NAPLANOVANYCH = 5;
 constexpr std::uint32_t NEJDELSI_UDALOST = 120'000;  // ms of the virtual clock
-constexpr int KDY_SESTROJI = 150;                    // one event of so many
+constexpr int KDY_SESTROJI = 400;                    // one event of so many
 constexpr int DOST_CHYB = 80;  // wrong steps of one example, of the hundred there is room for
 
 /// How gladly a live control is pressed; those not named have VAHA_OSTATNICH.
