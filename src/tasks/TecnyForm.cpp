@@ -7,7 +7,7 @@ namespace rysovna {
 namespace {
 
 // Numbers of the faces that the step buttons have here.
-constexpr int TVARY[] = {2, 3, 4, 5, 6, 7, 8, 9, 12};
+constexpr int TVARY[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 12};
 
 // The assignment is a whole sentence: three rows above the given objects.
 constexpr Obdelnik MISTO_ZADANI{16, 97, 198, 48};
