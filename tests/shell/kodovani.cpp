@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <map>
 
 #include "shell/soubory_pomoc.h"
 
@@ -129,27 +130,14 @@ TEST_F(Nastroje, TamAZpet) {
 
 TEST_F(Nastroje, ChybyUloh) {
     const std::string sss = "1##a#b#c#cm#cm#cm#usecka#kruznice#kruznice\n";
-    EXPECT_EQ(Kontrola("01.txt", "; poznámka\n" + sss), "= 0");
     std::string sto;
     for (int i = 0; i < 101; ++i) sto += sss;
-    EXPECT_EQ(Kontrola("01.txt", sto), "01.txt:101: příkladů je více než 100\n= 1");
-    EXPECT_EQ(
-        Kontrola("02.txt",
-                 "; poznámka\n"
-                 "5##a#beta#c#cm#°#cm#usecka#kruznice#poloprimka\n"
-                 "3##a#beta#b#cm#cm#cm#usecka#kruznice#poloprimka\n"
-                 "3##a#beta#c#cm#°#cm#usecka#usecka#kruznice#\n"
-                 "3#€α#a#beta#c#cm#°#cm#primka#kruznice#poloprimka\n"),
-        "02.txt:5: znak č. 4 nejde uložit (není v kódové stránce 1250)\n"
-        "02.txt:2: pole 1 (Druh): je „5“, má být 2 až 4\n"
-        "02.txt:3: pole 7 (Jednotka2): je „cm“, má být „°“\n"
-        "02.txt:3: pole 5 (Nazev3): je „b“, má být „c“\n"
-        "02.txt:4: pole 12: je navíc; řádek má mít nejvýš 11 polí\n"
-        "02.txt:4: pole 10 (Kroky[2].Utvar): je „usecka“, má být „poloprimka“ nebo „kruznice“\n"
-        "02.txt:5: pole 9 (Kroky[1].Utvar): je „primka“, má být „usecka“\n= 1");
-    EXPECT_EQ(Kontrola("12.txt", "04#A##a####B#prusecik#C#stred#k\n05#A\n"),
-              "12.txt:1: pole 13 (Kroky[3].Utvar): je „“, má být „kruznice“\n"
-              "12.txt:2: pole 1 (Druh): je „05“, má být 04\n= 1");
+    EXPECT_EQ(Kontrola("01.txt", "; poznámka\n" + sto),
+              "01.txt:102: příkladů je více než 100\n= 1");
+    EXPECT_EQ(Kontrola("02.txt", "3#€α#a#beta#c#cm#°#cm#primka#kruznice#poloprimka#\n"),
+              "02.txt:1: znak č. 4 nejde uložit (není v kódové stránce 1250)\n"
+              "02.txt:1: pole 9 (Kroky[1].Utvar): je „primka“, má být „usecka“\n"
+              "02.txt:1: pole 12: je navíc; řádek má mít nejvýš 11 polí\n= 1");
     // Stored files: cut short, with a byte of no meaning.
     const std::string ulozeny = ZakodujRadek(sss.substr(0, sss.size() - 1)) + "\r\n";
     EXPECT_EQ(Kontrola("01.dat", "xxx1xxx\x98\r\n" + ulozeny.substr(0, ulozeny.size() - 5)),
@@ -157,6 +145,48 @@ TEST_F(Nastroje, ChybyUloh) {
               "01.dat:2: délka uloženého řádku není násobkem čtyř (useknutý řádek?)\n"
               "01.dat:2: za posledním řádkem chybí konec řádku (useknutý soubor?)\n"
               "01.dat:2: pole 11 (Kroky[3].Utvar): je „kruznic“, má být „kruznice“\n= 1");
+}
+
+// Right lines, each broken by putting one text for another.
+TEST_F(Nastroje, PravidlaUloh) {
+    const std::map<std::string, std::string> radky{
+        {"04.txt", "01##a#va#beta#cm#cm#°#usecka##rovnobezka##poloprimka#"},
+        {"07.txt", "24##b#c#vc#cm#cm#cm#usecka##kruznice##rovnobezka#"},
+        {"09.txt", "06#BCD#b#c#gama#cm#cm#°#sus#d#cm#kruznice#KD#beta#°#poloprimka#BXBC"},
+        {"10.txt", "60#CDA#d#c#delt#cm#cm#°#sus#bod#AC#obrazbodu#D########"},
+        {"11.txt", "17#ABC#a#b#e#cm#cm#cm#sss#CD||AB##rovnobezka#vc#d#cm#kruznice#KA"},
+        {"13.txt", "05#A#B#a####C#stred#D#prusecik#k#kruznice##########"}};
+    const std::array<std::string, 4> chyby[]{
+        {"04.txt", "va", "vb", "(Nazev2): je „vb“; výška má patřit ke straně v poli 3"},
+        {"04.txt", "beta", "alfa", "(Nazev3): je „alfa“; úhel nemá ležet proti straně"},
+        {"04.txt", "rovnobezka", "kruznice", "(Kroky[2].Utvar): je „kruznice“, má být „rovno"},
+        {"04.txt", "ka##p", "ka#poloprimka#p", "(Kroky[2].UtvarB): je „poloprimka“, má být nic"},
+        {"07.txt", "#c", "#b", "(Nazev2): je „b“; má být jiná strana než v poli 3"},
+        {"07.txt", "vc", "va", "(Nazev3): je „va“; výška má patřit k jedné z obou stran"},
+        {"09.txt", "06", "22", "(Text1): je „sus“, má být „sss“ (podle druhu)"},
+        {"09.txt", "#b#", "#va#", "(Nazev1): je „va“, má být „b“"},
+        {"09.txt", "°", "cm", "(Jednotka3): je „cm“, má být „°“"},
+        {"09.txt", "s#d", "s#b", "je „b“, má být jedno z: „d“, „a“ (strana, která v troj"},
+        {"09.txt", "KD", "KB", "(Kroky[1].UtvarB): je „KB“, má být „KD“"},
+        {"09.txt", "beta", "delta", "má být „beta“ (úhel u krajního bodu strany z pole 3)"},
+        {"10.txt", "CDA", "CDS", "(Nazev1): je „d“, má být jedno z: „e“, „f“"},
+        {"10.txt", "bod", "bodd", "je „bodd“, má být jedno z: „bod“, „obrazbodu“, nic"},
+        {"10.txt", "#AC", "#XY", "(Kroky[1].Jmeno): je „XY“, má být „AC“"},
+        {"10.txt", "obrazbodu#D", "#", "chybí krok „obrazbodu“ se jménem „D“"},
+        {"11.txt", "CD||AB##rovnobezka#vc", "c#cm#kruznice#KC", "rovnoběžnost, právě jednou"},
+        {"11.txt", "d#cm#kruznice#KA", "c#cm#kruznice#KC", "neurčí, oba vycházejí z C"},
+        {"13.txt", "05", "06", "(Druh): je „06“, má být 05"},
+        {"13.txt", "#B", "#", "(Dalsi1): je „“, má být „B“"},
+        {"13.txt", "e###", "e#l##", "(Kroky[4].Jmeno): je „l“, má být prázdné"}};
+    for (const auto& [soubor, radek] : radky) EXPECT_EQ(Kontrola(soubor, radek), "= 0") << radek;
+    for (const auto& [soubor, co, cim, nalez] : chyby) {
+        std::string radek = radky.at(soubor);
+        radek.replace(radek.find(co), co.size(), cim);
+        const std::string vypis = Kontrola(soubor, radek);
+        EXPECT_TRUE(vypis.starts_with(soubor + ":1: ") && vypis.find(nalez) < vypis.size())
+            << radek << "\n"
+            << vypis;
+    }
 }
 
 TEST_F(Nastroje, ChybyVetZnamekATabulek) {

@@ -1,16 +1,16 @@
 #include "Kontrola.h"
 
 #include <algorithm>
-#include <charconv>
 #include <fstream>
 #include <map>
-#include <optional>
 #include <set>
+#include <span>
 #include <string_view>
 
+#include "Hlaseni.h"
+#include "KontrolaPrikladu.h"
 #include "Pravidla.h"
 #include "Prevod.h"
-#include "base/Cisla.h"
 #include "shell/Kodovani.h"
 #include "shell/MapaPoli.h"
 
@@ -22,44 +22,6 @@ namespace fs = std::filesystem;
 constexpr std::size_t NEJVIC_PRIKLADU = 100;
 constexpr std::size_t RADKU_ZNAMEK = 5;
 constexpr std::size_t KROK_KODU = 4;
-
-std::string Uvozovky(std::string_view text) {
-    return "„" + std::string(text) + "“";
-}
-
-bool JeMezi(std::string_view slovo, Slova slova) {
-    return std::ranges::find(slova, slovo) != slova.end();
-}
-
-std::string Vycet(Slova slova) {
-    std::string text;
-    for (const std::string_view slovo : slova) {
-        if (!text.empty()) text += ", ";
-        text += slovo.empty() ? "nic" : slovo;
-    }
-    return text;
-}
-
-/// A whole number that is nothing but digits.
-std::optional<int> CeleCislo(std::string_view text) {
-    int cislo = 0;
-    const char* const konec = text.data() + text.size();
-    const auto [kam, chyba] = std::from_chars(text.data(), konec, cislo);
-    if (text.empty() || chyba != std::errc() || kam != konec || text.front() == '-') return {};
-    return cislo;
-}
-
-std::vector<std::string> Rozdel(const std::string& text, char oddelovac) {
-    std::vector<std::string> pole(1);
-    for (const char znak : text) {
-        if (znak == oddelovac) {
-            pole.emplace_back();
-        } else {
-            pole.back() += znak;
-        }
-    }
-    return pole;
-}
 
 /// The search of one file.
 class Hledani {
@@ -156,105 +118,12 @@ private:
     }
 
     void Priklad(const Radek& radek) {
-        radek_ = radek.Cislo;
-        mapa_ = PoleDesky(DeskaUlohy(soubor_.Uloha));
-        pole_ = Rozdel(radek.Text, '#');
-        if (pole_.size() > mapa_.size()) {
-            Pridej(radek_, "pole " + std::to_string(mapa_.size() + 1),
-                   "je navíc; řádek má mít nejvýš " + std::to_string(mapa_.size()) + " polí");
-        }
-        pole_.resize(mapa_.size());
-        for (std::size_t i = 0; i < pole_.size(); ++i) {
-            const std::string& p = pole_[i];
-            if (p.starts_with(' ') || p.ends_with(' ')) {
-                PridejPole(static_cast<int>(i) + 1, "mezera na začátku nebo na konci");
-            }
-        }
-        if (!Druh()) return;
-        PoleZVyctu();
-        Dvojice();
-        Trojuhelnik();
-        Reseni();
-    }
-
-    [[nodiscard]] std::string_view Pole(int i) const {
-        return pole_[static_cast<std::size_t>(i) - 1];
-    }
-    void PridejPole(int i, std::string duvod) {
-        Pridej(radek_,
-               "pole " + std::to_string(i) + " (" +
-                   std::string(mapa_[static_cast<std::size_t>(i) - 1].Jmeno) + ")",
-               std::move(duvod));
-    }
-    void CekaSe(int i, std::string_view coMaByt) {
-        PridejPole(i, "je " + Uvozovky(Pole(i)) + ", má být " + std::string(coMaByt));
-    }
-    template <class P>
-    [[nodiscard]] bool Plati(const P& pravidlo) const {
-        return soubor_.Uloha >= pravidlo.UlohaOd && soubor_.Uloha <= pravidlo.UlohaPo;
-    }
-
-    bool Druh() {
-        for (const PravidloDruhu& p : DRUHY) {
-            if (!Plati(p)) continue;
-            const auto cislo = CeleCislo(Pole(1));
-            if (Pole(1).size() == p.Cislic && cislo && *cislo >= p.Od && *cislo <= p.Po) continue;
-            const auto text = [&](int n) {
-                return p.Cislic == 2 ? DveCislice(n) : TextBezMezery(n);
-            };
-            CekaSe(1, text(p.Od) + (p.Od == p.Po ? "" : " až " + text(p.Po)));
-            return false;
-        }
-        return true;
-    }
-
-    void PoleZVyctu() {
-        for (const PravidloPole& p : POLE) {
-            if (Plati(p) && !JeMezi(Pole(p.Pole), p.Povolene)) {
-                CekaSe(p.Pole, (p.Povolene.size() == 1 ? "" : "jedno z: ") + Vycet(p.Povolene));
-            }
-        }
-    }
-
-    void Dvojice() {
-        for (const PravidloDvojice& p : DVOJICE) {
-            if (!Plati(p)) continue;
-            if (p.vazba == Vazba::NazevAJednotka) {
-                const std::string_view jednotka = JeMezi(Pole(p.Pole), UHLY)            ? STUPNE
-                                                  : JeMezi(Pole(p.Pole), ROVNOBEZNOSTI) ? ""
-                                                                                        : CM;
-                if (Pole(p.Druhe) != jednotka) CekaSe(p.Druhe, Uvozovky(jednotka));
-            } else if (Pole(p.Pole).empty() != Pole(p.Druhe).empty()) {
-                PridejPole(Pole(p.Pole).empty() ? p.Pole : p.Druhe,
-                           "chybí, ačkoli druhé pole kroku je vyplněné");
-            }
-        }
-    }
-
-    /// Kinds whose given quantities and steps are settled wholly.
-    void Trojuhelnik() {
-        if (DeskaUlohy(soubor_.Uloha) != Deska::Troj1Form) return;
-        const auto* const t = std::ranges::find(TROJUHELNIKY, Pole(1), &PravidloTrojuhelniku::Druh);
-        for (int i = 0; i < 3; ++i) {
-            if (Pole(3 + i) != t->Nazvy[i]) CekaSe(3 + i, Uvozovky(t->Nazvy[i]));
-        }
-        if (Pole(9) != USECKA[0]) CekaSe(9, Uvozovky(USECKA[0]));
-        const auto [u1, u2] = t->Utvary;
-        if (Pole(10) != u1 && Pole(10) != u2) {
-            CekaSe(10, Uvozovky(u1) + (u1 == u2 ? "" : " nebo " + Uvozovky(u2)));
-        } else if (const std::string_view zbyva = Pole(10) == u1 ? u2 : u1; Pole(11) != zbyva) {
-            CekaSe(11, Uvozovky(zbyva));
-        }
-    }
-
-    /// Solution entries of a tangent exercise, whole: the board finds them by these names.
-    void Reseni() {
-        if (DeskaUlohy(soubor_.Uloha) != Deska::TecnyForm) return;
-        const auto* const r = std::ranges::find(RESENI, Pole(1), &PravidloReseni::Druh);
-        for (int i = 0; i < static_cast<int>(std::size(r->Pole)); ++i) {
-            const std::string_view ma = r->Pole[i];
-            const int pole = PRVNI_POLE_RESENI + i;
-            if (Pole(pole) != ma) CekaSe(pole, ma.empty() ? "prázdné" : Uvozovky(ma));
+        const std::span<const Slot> mapa = PoleDesky(DeskaUlohy(soubor_.Uloha));
+        for (const auto& [pole, duvod] : ZkontrolujPriklad(soubor_.Uloha, radek.Text)) {
+            const auto i = static_cast<std::size_t>(pole);
+            std::string misto = i == 0 ? "" : "pole " + std::to_string(i);
+            if (i >= 1 && i <= mapa.size()) misto += " (" + std::string(mapa[i - 1].Jmeno) + ")";
+            Pridej(radek.Cislo, std::move(misto), duvod);
         }
     }
 
@@ -365,10 +234,6 @@ private:
     fs::path cesta_;
     Soubor soubor_;
     std::vector<Nalez> nalezy_;
-    // Of the line in hand.
-    int radek_ = 0;
-    std::span<const Slot> mapa_;
-    std::vector<std::string> pole_;
 };
 
 }  // namespace

@@ -3,7 +3,8 @@
 #include <span>
 #include <string_view>
 
-#include "shell/Ulohy.h"
+#include "engine/Tabulky.h"
+#include "tasks/TecnyKroky.h"
 
 // What a task file must hold, as tables. A task with kinds of its own adds rows here.
 
@@ -24,51 +25,37 @@ constexpr PravidloDruhu DRUHY[]{
     {16, 16, 2, 6, 6},  {17, 17, 2, 9, 9}, {18, 18, 2, 1, 1}, {19, 19, 2, 2, 2}, {20, 20, 2, 3, 3},
 };
 
-/// A triangle by three quantities, whole: what is given is settled by the kind.
-struct PravidloTrojuhelniku {
-    std::string_view Druh;
-    std::string_view Nazvy[3];
-    std::string_view Utvary[2];  ///< the two objects, in either order
-};
-constexpr PravidloTrojuhelniku TROJUHELNIKY[]{
-    {"1", {"a", "b", "c"}, {"kruznice", "kruznice"}},
-    {"2", {"alfa", "b", "c"}, {"poloprimka", "kruznice"}},
-    {"3", {"a", "beta", "c"}, {"poloprimka", "kruznice"}},
-    {"4", {"a", "b", "gama"}, {"poloprimka", "kruznice"}},
-    {"5", {"a", "beta", "gama"}, {"poloprimka", "poloprimka"}},
-    {"6", {"alfa", "b", "gama"}, {"poloprimka", "poloprimka"}},
-    {"7", {"alfa", "beta", "c"}, {"poloprimka", "poloprimka"}},
-};
+// ---- All boards with quantities --------------------------------------------------------------
 
 constexpr std::string_view CM = "cm";
 constexpr std::string_view STUPNE = "°";
 constexpr std::string_view UHLY[]{"alfa", "beta", "gama", "delta", "delt", "epsi", "omeg"};
+constexpr std::string_view ROVNOBEZNOSTI[]{"AB||CD", "BC||DA", "CD||AB", "DA||BC"};
+
+/// Another spelling that a board reads.
+struct PravidloPsani {
+    int Uloha;
+    std::string_view Psano, Mini;
+};
+constexpr PravidloPsani JINAK_PSANE[]{
+    {10, "delt", "delta"}, {11, "CD||AB", "AB||CD"}, {11, "DA||BC", "BC||DA"}};
+
+/// A quantity and the field of its unit.
+struct PravidloJednotky {
+    int UlohaOd, UlohaPo;
+    int Nazev, Jednotka;
+};
+constexpr PravidloJednotky JEDNOTKY[]{
+    {1, 11, 3, 6},  {1, 11, 4, 7},    {1, 11, 5, 8},    {9, 9, 10, 11},
+    {9, 9, 14, 15}, {11, 11, 10, 11}, {11, 11, 14, 15},
+};
 
 constexpr std::string_view STRANY[]{"a", "b", "c"};
 constexpr std::string_view UHLY3[]{"alfa", "beta", "gama"};
 constexpr std::string_view VYSKY[]{"va", "vb", "vc"};
 constexpr std::string_view TEZNICE[]{"ta", "tb", "tc"};
-constexpr std::string_view CTYRI[]{"a",    "b",    "c",     "d",  "e",  "f",  "alfa",
-                                   "beta", "gama", "delta", "va", "vb", "vc", "vd"};
-// The fourth and fifth quantity of a trapezoid; one of them is the parallelism.
-constexpr std::string_view LICHOBEZNIKU[]{"a",    "b",     "c",      "d",      "alfa",   "beta",
-                                          "gama", "delta", "AB||CD", "BC||DA", "CD||AB", "DA||BC"};
-constexpr std::string_view ROVNOBEZNOSTI[]{"AB||CD", "BC||DA", "CD||AB", "DA||BC"};
-constexpr std::string_view ROVNOBEZNIKU[]{"a",    "b",    "c",    "d",    "e",    "f",
-                                          "alfa", "beta", "gama", "delt", "epsi", "omeg"};
-constexpr std::string_view TROJUHELNIK4[]{"ABC", "BCD", "CDA", "DAB"};
-constexpr std::string_view TROJUHELNIK_SE_STREDEM[]{"ABC", "BCD", "CDA", "DAB",
-                                                    "ABS", "BCS", "CDS", "DAS"};
-constexpr std::string_view VETY[]{"sss", "sus"};
-constexpr std::string_view USECKA[]{"usecka"};
-constexpr std::string_view UTVARY_TROJ2[]{"poloprimka", "kruznice", "rovnobezka"};
-constexpr std::string_view UTVARY_TROJ2_NEBO_NIC[]{"poloprimka", "kruznice", "rovnobezka", ""};
-constexpr std::string_view UTVARY_CTYRU[]{"poloprimka", "kruznice"};
-constexpr std::string_view PRVKY_CTYRU[]{"KA",   "KB",   "KC",   "KD",   "AXAD", "AXAB",
-                                         "BXBC", "BXBA", "CXCD", "CXCB", "DXDA", "DXDC"};
-constexpr std::string_view PRVKY_LICHO[]{"KA",   "KB",   "KC",   "KD",   "AXAD", "AXAB",
-                                         "BXBC", "BXBA", "CXCD", "CXCB", "DXDA", "DXDC",
-                                         "va",   "vb",   "vc",   "vd"};
+constexpr std::string_view JEN_USECKA[]{USECKA};
+constexpr std::string_view USECKA_NEBO_NIC[]{USECKA, ""};
 
 /// A field of a line may hold one of these words only.
 struct PravidloPole {
@@ -77,6 +64,8 @@ struct PravidloPole {
     Slova Povolene;
 };
 constexpr PravidloPole POLE[]{
+    {1, 8, 9, JEN_USECKA},
+    {4, 8, 10, USECKA_NEBO_NIC},
     // side, height, angle; side, side, median; and so on
     {4, 4, 3, STRANY},
     {4, 4, 4, VYSKY},
@@ -93,78 +82,200 @@ constexpr PravidloPole POLE[]{
     {8, 8, 3, STRANY},
     {8, 8, 4, VYSKY},
     {8, 8, 5, TEZNICE},
-    {4, 8, 9, USECKA},
-    {4, 8, 11, UTVARY_TROJ2},
-    {4, 8, 12, UTVARY_TROJ2_NEBO_NIC},
-    {4, 8, 13, UTVARY_TROJ2},
-    {4, 8, 14, UTVARY_TROJ2_NEBO_NIC},
-    // general quadrilateral and trapezoid
-    {9, 9, 2, TROJUHELNIK4},
-    {11, 11, 2, TROJUHELNIK4},
-    {9, 11, 9, VETY},
-    {9, 9, 3, CTYRI},
-    {9, 9, 4, CTYRI},
-    {9, 9, 5, CTYRI},
-    {9, 9, 10, CTYRI},
-    {9, 9, 14, CTYRI},
-    {11, 11, 3, CTYRI},
-    {11, 11, 4, CTYRI},
-    {11, 11, 5, CTYRI},
-    {11, 11, 10, LICHOBEZNIKU},
-    {11, 11, 14, LICHOBEZNIKU},
-    {9, 9, 12, UTVARY_CTYRU},
-    {9, 9, 16, UTVARY_CTYRU},
-    {9, 9, 13, PRVKY_CTYRU},
-    {9, 9, 17, PRVKY_CTYRU},
-    {11, 11, 12, UTVARY_TROJ2},
-    {11, 11, 16, UTVARY_TROJ2},
-    {11, 11, 13, PRVKY_LICHO},
-    {11, 11, 17, PRVKY_LICHO},
-    // parallelogram
-    {10, 10, 2, TROJUHELNIK_SE_STREDEM},
-    {10, 10, 3, ROVNOBEZNIKU},
-    {10, 10, 4, ROVNOBEZNIKU},
-    {10, 10, 5, ROVNOBEZNIKU},
 };
 
-/// The solution entries of a tangent exercise, from field 8 on: name and kind. All entries past
-/// them are empty.
-constexpr int PRVNI_POLE_RESENI = 8;
-struct PravidloReseni {
+// ---- Triangles -------------------------------------------------------------------------------
+
+/// A triangle by three quantities, whole: what is given is settled by the kind.
+struct PravidloTrojuhelniku {
     std::string_view Druh;
-    std::string_view Pole[16];
+    std::string_view Nazvy[3];
+    std::string_view Utvary[2];  ///< the two objects, in either order
+};
+constexpr PravidloTrojuhelniku TROJUHELNIKY[]{
+    {"1", {"a", "b", "c"}, {KRUZNICE, KRUZNICE}},
+    {"2", {"alfa", "b", "c"}, {POLOPRIMKA, KRUZNICE}},
+    {"3", {"a", "beta", "c"}, {POLOPRIMKA, KRUZNICE}},
+    {"4", {"a", "b", "gama"}, {POLOPRIMKA, KRUZNICE}},
+    {"5", {"a", "beta", "gama"}, {POLOPRIMKA, POLOPRIMKA}},
+    {"6", {"alfa", "b", "gama"}, {POLOPRIMKA, POLOPRIMKA}},
+    {"7", {"alfa", "beta", "c"}, {POLOPRIMKA, POLOPRIMKA}},
+};
+
+/// A quantity of a triangle with heights and medians.
+struct PravidloVeliciny {
+    std::string_view Nazev;
+    std::string_view Strana;  ///< the side it is, falls on, halves or, an angle, lies opposite to
+    std::string_view Utvar;   ///< what is drawn for it once a first side stands
+};
+constexpr PravidloVeliciny VELICINY[]{
+    {"a", "a", KRUZNICE},      {"b", "b", KRUZNICE},      {"c", "c", KRUZNICE},
+    {"va", "a", ROVNOBEZKA},   {"vb", "b", ROVNOBEZKA},   {"vc", "c", ROVNOBEZKA},
+    {"ta", "a", KRUZNICE},     {"tb", "b", KRUZNICE},     {"tc", "c", KRUZNICE},
+    {"alfa", "a", POLOPRIMKA}, {"beta", "b", POLOPRIMKA}, {"gama", "c", POLOPRIMKA},
+};
+
+/// The quantity whose side is drawn first.
+struct PravidloPrvniStrany {
+    int Uloha, Pole;
+};
+constexpr PravidloPrvniStrany PRVNI_STRANY[]{{4, 4}, {5, 5}, {6, 4}, {7, 5}, {8, 4}};
+
+/// A quantity belongs to the side of one of these fields, or to none of them.
+struct PravidloStrany {
+    int Uloha, Pole;
+    int Strany[2];  ///< fields; 0: no further one
+    bool Patri;
+    std::string_view Duvod;
+};
+constexpr PravidloStrany PATRI_KE_STRANE[]{
+    {4, 4, {3}, true, "výška má patřit ke straně v poli 3, která se rýsuje první"},
+    {4, 5, {3}, false, "úhel nemá ležet proti straně v poli 3, která se rýsuje první"},
+    {5, 3, {4}, false, "má být jiná strana než v poli 4"},
+    {5, 5, {4}, true, "těžnice má patřit ke straně v poli 4, která se rýsuje první"},
+    {6, 4, {3}, true, "těžnice má patřit ke straně v poli 3, která se rýsuje první"},
+    {6, 5, {3}, false, "úhel nemá ležet proti straně v poli 3, která se rýsuje první"},
+    {7, 4, {3}, false, "má být jiná strana než v poli 3"},
+    {7, 5, {3, 4}, true, "výška má patřit k jedné z obou stran; ta se rýsuje první"},
+    {8, 4, {3}, true, "výška má patřit ke straně v poli 3, která se rýsuje první"},
+    {8, 5, {3}, true, "těžnice má patřit ke straně v poli 3, která se rýsuje první"},
+};
+
+// ---- Quadrilaterals --------------------------------------------------------------------------
+
+constexpr std::string_view SSS = "sss", SUS = "sus";
+constexpr std::string_view CELE[]{"ABC", "BCD", "CDA", "DAB"};
+constexpr std::string_view SE_STREDEM[]{"ABS", "BCS", "CDS", "DAS"};
+constexpr std::string_view VSECHNY[]{"ABC", "BCD", "CDA", "DAB", "ABS", "BCS", "CDS", "DAS"};
+
+/// What a quantity at the fourth vertex may be. An angle's value is drawn from that of an angle of
+/// the starting triangle, so the order of the given sides tells at which vertex it lies.
+enum class Ctvrty { Zadna, Strana, UhelPrvni, UhelDruhe };
+struct PravidloCtvrteho {
+    Ctvrty co;
+    std::string_view Utvar, Popis;
+};
+constexpr PravidloCtvrteho CTVRTE[]{
+    {Ctvrty::Strana, KRUZNICE, "strana, která v trojúhelníku není"},
+    {Ctvrty::UhelPrvni, POLOPRIMKA, "úhel u krajního bodu strany z pole 3"},
+    {Ctvrty::UhelDruhe, POLOPRIMKA, "úhel u krajního bodu strany z pole 4"},
+};
+
+/// Kinds Od, Od + Po kolika, ... to Po of one task or of two: theorem, starting triangles, what
+/// the fourth and the fifth quantity are.
+struct PravidloSkupiny {
+    int Ulohy[2];
+    int Od, Po, PoKolika;
+    std::string_view Veta;
+    Slova Trojuhelniky;
+    bool TretiPosledni;  ///< the theorem's third quantity is the third of the line, too
+    Ctvrty Ctvrta, Pata;
+};
+constexpr PravidloSkupiny SKUPINY[]{
+    {{9, 11}, 1, 13, 4, SUS, CELE, true, Ctvrty::Strana, Ctvrty::Strana},
+    {{9, 11}, 2, 14, 4, SUS, CELE, true, Ctvrty::Strana, Ctvrty::UhelPrvni},
+    {{9, 11}, 3, 15, 4, SUS, CELE, true, Ctvrty::Strana, Ctvrty::UhelPrvni},
+    {{9, 11}, 4, 16, 4, SUS, CELE, true, Ctvrty::UhelPrvni, Ctvrty::UhelDruhe},
+    {{9, 11}, 17, 29, 4, SSS, CELE, true, Ctvrty::Strana, Ctvrty::Strana},
+    {{9, 11}, 18, 30, 4, SSS, CELE, true, Ctvrty::Strana, Ctvrty::UhelPrvni},
+    {{9, 11}, 19, 31, 4, SSS, CELE, true, Ctvrty::Strana, Ctvrty::UhelPrvni},
+    {{9, 11}, 20, 32, 4, SSS, CELE, true, Ctvrty::UhelPrvni, Ctvrty::UhelDruhe},
+    {{10, 10}, 1, 24, 1, SSS, CELE, false, Ctvrty::Zadna, Ctvrty::Zadna},
+    {{10, 10}, 25, 56, 1, SSS, SE_STREDEM, false, Ctvrty::Zadna, Ctvrty::Zadna},
+    {{10, 10}, 57, 60, 1, SUS, VSECHNY, true, Ctvrty::Zadna, Ctvrty::Zadna},
+};
+
+/// The quantities of a starting triangle. Of a whole triangle the first two are its sides in the
+/// order of its letters.
+struct PravidloVety {
+    std::string_view Veta, Trojuhelnik;
+    std::string_view Nazvy[3];
+};
+constexpr PravidloVety VETY[]{
+    {SSS, "ABC", {"a", "b", "e"}},     {SSS, "BCD", {"b", "c", "f"}},
+    {SSS, "CDA", {"c", "d", "e"}},     {SSS, "DAB", {"d", "a", "f"}},
+    {SUS, "ABC", {"a", "b", "beta"}},  {SUS, "BCD", {"b", "c", "gama"}},
+    {SUS, "CDA", {"c", "d", "delta"}}, {SUS, "DAB", {"d", "a", "alfa"}},
+    {SSS, "ABS", {"a", "e", "f"}},     {SSS, "BCS", {"b", "e", "f"}},
+    {SSS, "CDS", {"c", "e", "f"}},     {SSS, "DAS", {"d", "e", "f"}},
+    {SUS, "ABS", {"e", "f", "epsi"}},  {SUS, "BCS", {"e", "f", "omeg"}},
+    {SUS, "CDS", {"e", "f", "epsi"}},  {SUS, "DAS", {"e", "f", "omeg"}},
+};
+
+/// An object that leads from a starting triangle to the fourth vertex: its quantity, kind, code.
+struct PravidloPrvku {
+    std::string_view Trojuhelnik, Velicina, Utvar, Prvek;
+    char
+        Vrchol;  ///< of the triangle: the centre, the start, the one that the parallel goes through
+};
+constexpr PravidloPrvku PRVKY[]{
+    {"ABC", "c", KRUZNICE, "KC", 'C'},         {"ABC", "d", KRUZNICE, "KA", 'A'},
+    {"ABC", "alfa", POLOPRIMKA, "AXAB", 'A'},  {"ABC", "gama", POLOPRIMKA, "CXCB", 'C'},
+    {"ABC", "AB||CD", ROVNOBEZKA, "vc", 'C'},  {"ABC", "BC||DA", ROVNOBEZKA, "va", 'A'},
+    {"BCD", "d", KRUZNICE, "KD", 'D'},         {"BCD", "a", KRUZNICE, "KB", 'B'},
+    {"BCD", "beta", POLOPRIMKA, "BXBC", 'B'},  {"BCD", "delta", POLOPRIMKA, "DXDC", 'D'},
+    {"BCD", "BC||DA", ROVNOBEZKA, "va", 'D'},  {"BCD", "AB||CD", ROVNOBEZKA, "vb", 'B'},
+    {"CDA", "a", KRUZNICE, "KA", 'A'},         {"CDA", "b", KRUZNICE, "KC", 'C'},
+    {"CDA", "gama", POLOPRIMKA, "CXCD", 'C'},  {"CDA", "alfa", POLOPRIMKA, "AXAD", 'A'},
+    {"CDA", "AB||CD", ROVNOBEZKA, "vb", 'A'},  {"CDA", "BC||DA", ROVNOBEZKA, "vd", 'C'},
+    {"DAB", "b", KRUZNICE, "KB", 'B'},         {"DAB", "c", KRUZNICE, "KD", 'D'},
+    {"DAB", "delta", POLOPRIMKA, "DXDA", 'D'}, {"DAB", "beta", POLOPRIMKA, "BXBA", 'B'},
+    {"DAB", "BC||DA", ROVNOBEZKA, "vd", 'B'},  {"DAB", "AB||CD", ROVNOBEZKA, "vc", 'D'},
+};
+
+/// How many of the two quantities at the fourth vertex are parallelisms. With one, the other object
+/// stands at another vertex than the one that the parallel goes through.
+struct PravidloRovnobeznosti {
+    int Uloha, Pocet;
+};
+constexpr PravidloRovnobeznosti ROVNOBEZEK[]{{9, 0}, {11, 1}};
+/// First fields of those two: name, unit, kind and element follow one another.
+constexpr int POLE_CTVRTE = 10, POLE_PATE = 14;
+
+/// The steps of a parallelogram: kind and name by turns, from this field on.
+constexpr int POLE_KROKU = 10, KROKU = 6;
+/// A step of the parallelogram: which names it takes, each once, and among how many first steps.
+struct PravidloKroku {
+    std::string_view Utvar;
+    std::string_view Trojuhelnik;
+    std::string_view Jmena[2];
+    int Posledni;
+};
+constexpr std::string_view OBRAZ = "obrazbodu";
+constexpr PravidloKroku KROKY[]{
+    {BOD, "ABC", {"AC"}, 2}, {OBRAZ, "ABC", {"B"}, KROKU},
+    {BOD, "BCD", {"BD"}, 2}, {OBRAZ, "BCD", {"C"}, KROKU},
+    {BOD, "CDA", {"AC"}, 2}, {OBRAZ, "CDA", {"D"}, KROKU},
+    {BOD, "DAB", {"BD"}, 2}, {OBRAZ, "DAB", {"A"}, KROKU},
+    {BOD, "ABS", {"S"}, 2},  {OBRAZ, "ABS", {"A", "B"}, KROKU},
+    {BOD, "BCS", {"S"}, 2},  {OBRAZ, "BCS", {"B", "C"}, KROKU},
+    {BOD, "CDS", {"S"}, 2},  {OBRAZ, "CDS", {"C", "D"}, KROKU},
+    {BOD, "DAS", {"S"}, 2},  {OBRAZ, "DAS", {"D", "A"}, KROKU},
+};
+constexpr std::string_view DRUHY_KROKU[]{BOD, OBRAZ, ""};
+
+// ---- Circles and tangents --------------------------------------------------------------------
+
+// What is given and what comes out is in the board's own table of exercises.
+
+/// The given objects stand in pairs of fields from the first one on, the solution entries (name
+/// and kind) from the second. The rest is empty.
+constexpr int POLE_DANYCH = 2, POLE_RESENI = 8;
+
+/// The kind of a solution entry by the tool that makes it. Points are entries always, lines and
+/// circles as far as they are results.
+struct PravidloReseni {
+    Nastroj Tvar;
+    std::string_view Utvar;
+    bool Bod;
 };
 constexpr PravidloReseni RESENI[]{
-    {"01", {"A1", "prusecik", "A2", "prusecik", "t1", "rovnobezka", "t2", "rovnobezka"}},
-    {"02", {"A1", "prusecik", "A2", "prusecik", "t1", "kolmice", "t2", "kolmice"}},
-    {"03", {"B", "stred", "T1", "prusecik", "T2", "prusecik", "t1", "primka", "t2", "primka"}},
-    {"04", {"B", "prusecik", "C", "stred", "k", "kruznice"}},
-    {"05", {"C", "stred", "D", "prusecik", "k", "kruznice"}},
-    {"06", {"C", "stred", "D", "prusecik", "k", "kruznice"}},
-    {"07", {"B", "prusecik", "C", "stred", "k", "kruznice"}},
-    {"08", {"B", "prusecik", "k", "kruznice"}},
-    {"09",
-     {"B1", "prusecik", "B2", "prusecik", "S1", "stred", "S2", "stred", "l1", "kruznice", "l2",
-      "kruznice"}},
+    {Nastroj::Prusecik, "prusecik", true},    {Nastroj::Stred, "stred", true},
+    {Nastroj::Primka, PRIMKA, false},         {Nastroj::Kolmice, KOLMICE, false},
+    {Nastroj::Rovnobezka, ROVNOBEZKA, false}, {Nastroj::Kruznice, KRUZNICE, false},
 };
 
-/// Two fields that belong together: a quantity and its unit, or a name and a kind that are either
-/// both there or both empty.
-enum class Vazba { NazevAJednotka, ObeNeboZadne };
-struct PravidloDvojice {
-    int UlohaOd, UlohaPo;
-    int Pole, Druhe;
-    Vazba vazba;
-};
-constexpr PravidloDvojice DVOJICE[]{
-    {1, 11, 3, 6, Vazba::NazevAJednotka},    {1, 11, 4, 7, Vazba::NazevAJednotka},
-    {1, 11, 5, 8, Vazba::NazevAJednotka},    {9, 9, 10, 11, Vazba::NazevAJednotka},
-    {9, 9, 14, 15, Vazba::NazevAJednotka},   {11, 11, 10, 11, Vazba::NazevAJednotka},
-    {11, 11, 14, 15, Vazba::NazevAJednotka}, {10, 10, 10, 11, Vazba::ObeNeboZadne},
-    {10, 10, 12, 13, Vazba::ObeNeboZadne},   {10, 10, 14, 15, Vazba::ObeNeboZadne},
-    {10, 10, 16, 17, Vazba::ObeNeboZadne},   {10, 10, 18, 19, Vazba::ObeNeboZadne},
-    {10, 10, 20, 21, Vazba::ObeNeboZadne},
-};
+// ---- Error sentences -------------------------------------------------------------------------
 
 /// Numbers of wrong steps that the boards charge, each with a sentence in Errors.
 struct RozsahKroku {
