@@ -1,6 +1,6 @@
 // The parallelogram, at the dialogue.
 
-#include "tasks/CtyrU_zak.h"
+#include "tasks/Ctyruhelniky.h"
 #include "tasks/RovnoForm.h"
 
 namespace rysovna::testy {
@@ -18,9 +18,9 @@ void Zmer(const StulRovno& s) {
     for (const auto& [velicina, hodnota] : s.Zadani()) {
         if (velicina == "epsi" || velicina == "omeg") {
             const Bod druhy = v.at(velicina == "epsi" ? "A" : "C");
-            EXPECT_LE(OdPaprsku(v.at("S"), v.at("B"), druhy, hodnota), 4) << velicina;
+            EXPECT_LE(OdPaprsku(v.at("S"), v.at("B"), druhy, hodnota), VULE_OBRAZU) << velicina;
         } else {
-            ZmerCtyruhelnik(v, velicina, hodnota);
+            ZmerCtyruhelnik(v, "ABCD", velicina, hodnota, VULE_OBRAZU);
         }
     }
     EXPECT_LE(std::abs(v.at("A").X + v.at("C").X - v.at("B").X - v.at("D").X), 2);
@@ -28,74 +28,64 @@ void Zmer(const StulRovno& s) {
 }
 
 TEST(RovnoDokonaly, KazdyRadekDaDesetBoduARovnobeznik) {
+    OdehrajSoubor<DokonalyRovnobeznik>(10, Zmer);
+}
+
+/// By halves of the diagonals; their angle at S has no wrong step.
+const Zacatky PULENE = {{{"ABS", "a 113 f 128 e 127", "e 127 f 128 epsi 0"},
+                         {"BCS", "b 114 e 127 f 128", "f 128 e 127 omeg 0"},
+                         {"CDS", "c 115 f 128 e 127", "e 127 f 128 epsi 0"},
+                         {"DAS", "d 116 e 127 f 128", "f 128 e 127 omeg 0"}}};
+/// One image over the midpoint of a diagonal; two over the triangle's own S.
+const Konce JEDEN = {"bod#AC#obrazbodu#B########", "bod#BD#obrazbodu#C########",
+                     "bod#AC#obrazbodu#D########", "bod#BD#obrazbodu#A########"};
+const Konce DVA = {"bod#S#obrazbodu#A#obrazbodu#B######", "bod#S#obrazbodu#B#obrazbodu#C######",
+                   "bod#S#obrazbodu#C#obrazbodu#D######", "bod#S#obrazbodu#D#obrazbodu#A######"};
+
+TEST(RovnoChyby, KazdyTrojuhelnikPodleKazdeVetyINesestrojeny) {
     StulRovno s(10);
-    Pokryti pokryti;
-    for (std::uint32_t seminko = 1; !pokryti.Cele(); ++seminko) {
-        s.Zacni(seminko);
-        DokonalyRovnobeznik zak(s, seminko);
-        zak.Sestroj();
-        ASSERT_EQ(s.PoKontrole(), "") << "seed " << seminko << ", kind " << s.Zaznam().Druh;
-        Zmer(s);
-        ASSERT_FALSE(HasFailure()) << "seed " << seminko << ", kind " << s.Zaznam().Druh;
-        pokryti.Odehran(s.dialog.CisloPrikladu());
+    OverZacatky(s, CELE, "01", "57", JEDEN);
+    OverZacatky(s, PULENE, "25", "57", DVA);
+    for (const bool sus : {false, true}) {
+        OverNesestrojeny<DokonalyRovnobeznik>(
+            s, RadekDat(sus ? "57" : "01", CELE[0], sus, JEDEN[0]),
+            {{1, "vrchol A"}, {2, "hledaný bod D je obrazem vrcholu B"}});
     }
 }
 
-const char* const CELY = "01#ABC#a#b#e#cm#cm#cm#sss#bod#AC#obrazbodu#B########";
-const char* const PULENY = "25#ABS#a#e#f#cm#cm#cm#sss#bod#S#obrazbodu#A#obrazbodu#B######";
-const char* const UHEL = "57#ABS#e#f#epsi#cm#cm#°#sus#bod#S#obrazbodu#A#obrazbodu#B######";
-
-TEST(RovnoChyby, KazdaStojiCoMa) {
-    OverVolby<RovnoDialog>(
-        10, {{"wrong triangle and theorem", CELY, "DAS", "SUS", {5, 5, 60}, "133/3 101/3"},
-             {"each typed value", CELY, "ABC", "SSS", {5, 6, 7}, "113/1 114/1 127/1"},
-             {"halves of both diagonals", PULENY, "ABS", "SSS", {3, 4, 5}, "113/1 128/1 127/1"},
-             {"whole diagonals are no halves; the angle has no number",
-              UHEL,
-              "ABS",
-              "SUS",
-              {-1, -2, 1},
-              "127/1 128/1"}});
+// Every centre with every first image: wrong ones are carried out, close the figure, and the check
+// counts them.
+TEST(RovnoChyby, KazdyStredAKazdyVzor) {
     StulRovno s(10);
-    s.Radek(CELY).Zacni(3);
-    EXPECT_EQ(s.PoKontrole(), "301/3 16/1 300/10");
-    s.Zacni(3);
-    DokonalyRovnobeznik zak(s, 1);
-    zak.Oznac();
-    zak.Trojuhelnik();
-    // Wrong centres, a side's and a vertex.
-    s.Nastroj(1).Vyber("střed úsečky AB").Klikni({9, 9}).Zpet().Nastroj(1).Vyber("vrchol B").Zpet();
-    zak.Stred();
-    // A wrong image is carried out, closes, and the check counts it.
-    s.Nastroj(2).Vyber("hledaný bod D je obrazem vrcholu A").Klikni({9, 9});
-    EXPECT_TRUE(s.dialog.Hotova());
-    EXPECT_EQ(s.PoKontrole(), "112/3 112/3 137/3 301/1");
-}
-
-TEST(RovnoZpet, ZeVsechFaziAZnovuBezChyby) {
-    StulRovno s(10);
-    for (std::uint32_t seminko = 1; seminko <= 40; ++seminko) {
-        s.Zacni(seminko);
-        DokonalyRovnobeznik zak(s, seminko);
-        zak.Sestroj();
-        for (int faze = s.dialog.Stav().Faze - 1; faze >= 1; --faze) {
-            s.Zpet();
-            EXPECT_EQ(s.dialog.Stav().Faze, faze);
-            EXPECT_EQ(PocetUtvaru, faze == 1 ? 0 : faze + 1);
-            EXPECT_FALSE(s.dialog.Hotova());
-        }
+    for (std::size_t i = 0; i < 8 * 6 * 4; ++i) {
+        const std::size_t t = i / 24 % 4;
+        const bool cely = i < 4 * 24;
+        s.Radek(cely ? RadekDat("01", CELE[t], false, JEDEN[t])
+                     : RadekDat("25", PULENE[t], false, DVA[t]));
+        s.Zacni(3);
+        DokonalyRovnobeznik zak(s, 1);
+        zak.Oznac();
         zak.Trojuhelnik();
-        zak.Stred();
-        s.dialog.Posun(-20, 20);
-        zak.Obrazy();
-        ASSERT_EQ(s.PoKontrole(), "") << seminko;
-        Zmer(s);
+        const std::string stred = s.Nastroj(1).Hrany().UkazPanel().Combo.Radky[i / 4 % 6].Text;
+        s.Vyber(stred).Klikni({9, 9}).Posun(20, -20);
+        std::string vzor = s.Nastroj(2).Hrany().UkazPanel().Combo.Radky.back().Text;
+        const char protejsi = "CDAB"[vzor[sizeof "hledaný bod " - 1] - 'A'];
+        vzor.back() = "ABCD"[i % 4];
+        s.Vyber(vzor).Klikni({9, 9});
+        if (!s.dialog.Hotova()) zak.Obrazy();
+        const std::string pravy = cely ? "střed úsečky " + JEDEN[t].substr(4, 2) : "vrchol S";
+        std::string ceka = stred == pravy ? "" : "112/3 ";
+        if (vzor.back() != protejsi) ceka += "137/3 ";
+        if (!ceka.empty()) ceka += ceka.size() > 6 ? "301/2" : "301/1";
+        EXPECT_EQ(s.PoKontrole(), ceka) << JEDEN[t] << ", " << stred << ", " << vzor;
     }
+    s.Zacni(3);
+    EXPECT_EQ(s.PoKontrole(), "301/3 16/1 300/10");
 }
 
 TEST(RovnoPanel, VyzvyJednohoPrikladu) {
     StulRovno s(10);
-    s.Radek(CELY).Zacni(3);
+    s.Radek(RadekDat("01", CELE[0], false, JEDEN[0])).Zacni(3);
     DokonalyRovnobeznik zak(s, 1);
     zak.Oznac();
     const auto vyzva = [&s] { return s.dialog.UkazPanel().lblText1; };

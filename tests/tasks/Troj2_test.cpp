@@ -19,8 +19,8 @@ void Oznac(StulTroj2& s, const std::string& velicina) {
     s.Oznac(MistoNaNacrtu(velicina));
 }
 
-/// The closed figure against the given values: to half a centimetre, which is the play
-/// that the read-outs leave.
+/// The closed figure against the given values. The pupil draws a radius up to 2 px off; the rest is
+/// the rounding of vertices and of the way that a height goes.
 void Zmer(const StulTroj2& s) {
     const Utvar& prvni = Utvary[1];
     std::map<std::string_view, Bod> v = {{prvni.Jmeno1, {prvni.X1, prvni.Y1}},
@@ -42,135 +42,181 @@ void Zmer(const StulTroj2& s) {
                                                    : Delka(r, {(p.X + q.X) / 2, (p.Y + q.Y) / 2});
             chyba = std::fabs(px - hodnota * PIXELU_NA_CM);
         }
-        EXPECT_LE(chyba, PIXELU_NA_CM / 2) << velicina << " = " << hodnota;
+        EXPECT_LE(chyba, 3) << velicina << " = " << hodnota;
     }
 }
 
 class Troj2Dokonaly : public testing::TestWithParam<int> {};
 
+// Every fourth example after having gone all the way back.
 TEST_P(Troj2Dokonaly, KazdyRadekDaDesetBoduAZadanyTrojuhelnik) {
     StulTroj2 s(GetParam());
     Pokryti pokryti;
-    for (std::uint32_t seminko = 1; !pokryti.Cele(); ++seminko) {
-        s.Zacni(seminko);
+    for (std::uint32_t seminko = 1; !pokryti.Cele() && !HasFailure(); ++seminko) {
+        SCOPED_TRACE("seed " + std::to_string(seminko) + ", kind " +
+                     s.Zacni(seminko).Zaznam().Druh);
         DokonalyTrojuhelnik(s, seminko).Sestroj();
-        ASSERT_EQ(s.PoKontrole(), "") << "seed " << seminko << ", kind " << s.Zaznam().Druh;
-        ASSERT_TRUE(s.dialog.Hotova()) << "seed " << seminko;
+        for (int zbyde = seminko % 4 == 0 ? 2 : -1; zbyde >= 0; --zbyde) {
+            EXPECT_EQ(s.dialog.Hotova(), zbyde == 2);
+            s.Zpet();
+            EXPECT_EQ(PocetUtvaru, zbyde);
+            EXPECT_EQ(PocetTrojic, zbyde);
+            const char* const VYZVY[] = {"", "1. útvar:", "2. útvar:"};
+            EXPECT_EQ(s.dialog.UkazPanel().lblText2, VYZVY[zbyde]);
+            if (zbyde > 0) continue;
+            for (const Zadano& z : s.Zadani()) Oznac(s, z.Velicina);  // off: to be marked anew
+            DokonalyTrojuhelnik(s, seminko + 7).Sestroj();
+        }
+        EXPECT_EQ(s.PoKontrole(), "");
         Zmer(s);
-        ASSERT_FALSE(HasFailure()) << "seed " << seminko << ", kind " << s.Zaznam().Druh;
         pokryti.Odehran(s.dialog.CisloPrikladu());
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Ulohy, Troj2Dokonaly, testing::Values(4, 5, 6, 7, 8));
 
-// Side c from (100, 250), 12 cm and more; values of the example are set by the test's own seed.
+// The first side lies level from here to the right.
 constexpr Bod A{100, 250};
 
-/// One example with a fault or two, and what it costs. Strana: the given value that side AB takes
-/// before, drawn right; 0 for none.
-struct Pripad {
-    const char* Popis;
-    int Uloha;
-    const char* Radek;
-    int Strana;
-    std::vector<Pohyb> Pohyby;
-    std::string Chyby;
+/// A first side: its line, its wrong steps at the choice, typed, drawn.
+struct Strana {
+    std::string Nazev, Radek;
+    int Volba, Napsana, Nakreslena;
 };
+const Strana STRANY[] = {{"a", "BC", 1, 7, 13}, {"b", "AC", 2, 8, 14}, {"c", "AB", 3, 9, 15}};
+
+/// What can follow a first side (its place in STRANY), and its wrong steps: typed, read out, at the
+/// choice where it is not given (one number for both phases, unless the second stands here too).
+struct Prvek {
+    std::size_t Prvni;
+    int Nastroj;
+    std::string Velicina, Radek;
+    int Napsana, Nakreslena, Volba, VolbaFaze3 = Volba;
+};
+const Prvek PRVKY[] = {
+    {2, 1, "alfa", "A", 10, 30, 38, 39},       {2, 1, "beta", "B", 11, 30, 40, 41},
+    {1, 1, "alfa", "A", 10, 30, 38, 39},       {1, 1, "gama", "C", 12, 30, 42, 43},
+    {0, 1, "beta", "B", 11, 30, 40, 41},       {0, 1, "gama", "C", 12, 30, 42, 43},
+    {2, 4, "b", "v bodě A", 8, 28, 32},        {2, 4, "a", "v bodě B", 7, 27, 33},
+    {1, 4, "c", "v bodě A", 9, 29, 32},        {1, 4, "a", "v bodě C", 7, 27, 34},
+    {0, 4, "c", "v bodě B", 9, 29, 33},        {0, 4, "b", "v bodě C", 8, 28, 34},
+    {0, 4, "ta", "ve středu BC", 55, 52, 35},  {1, 4, "tb", "ve středu AC", 56, 53, 36},
+    {2, 4, "tc", "ve středu AB", 57, 54, 37},  {0, 3, "va", "s úsečkou BC", 130, 58, 24},
+    {1, 3, "vb", "s úsečkou AC", 131, 59, 25}, {2, 3, "vc", "s úsečkou AB", 132, 60, 26}};
+
+std::string Radek(const std::string& n1, const std::string& n2, const std::string& n3,
+                  const std::string& druhy) {
+    return "01##" + n1 + "#" + n2 + "#" + n3 + "#cm#cm#cm#usecka##" + druhy;
+}
+std::string Za(int cislo, int bodu = 1) {
+    return std::to_string(cislo) + "/" + std::to_string(bodu);
+}
+
+TEST(Troj2Chyby, PrvniStranaJePodleVyskyNeboTezniceUlohy) {
+    for (const int uloha : {4, 5, 6, 7, 8}) {
+        const bool druhe = uloha % 2 == 0;  // whose letter it is: the second name's or the third's
+        StulTroj2 s(uloha);
+        for (std::size_t i = 0; i < 9; ++i) {
+            const Strana& prava = STRANY[i / 3];
+            const Strana& jina = STRANY[(i / 3 + 1) % 3];
+            const Strana& zvolena = STRANY[i % 3];
+            s.Radek(Radek(zvolena.Nazev, "v" + (druhe ? prava : jina).Nazev,
+                          "t" + (druhe ? jina : prava).Nazev, "kruznice##rovnobezka#"));
+            s.Zacni();
+            Oznac(s, "a");
+            s.Proved({{1, zvolena.Radek.c_str()}});
+            EXPECT_EQ(s.Chyby(), &zvolena == &prava
+                                     ? Za(zvolena.Napsana) + " " + Za(zvolena.Nakreslena)
+                                     : Za(zvolena.Volba, 3))
+                << uloha << " " << prava.Radek;
+        }
+    }
+}
+
+// Each element with a wrong value typed and another drawn in a wrong place, taken back and once
+// more: given; not given; of a kind that no step expects. In phase 3 a perpendicular stands before
+// it, and it is the second of the expected kinds that fits.
+TEST(Troj2Chyby, KazdyPrvekSKazdouPrvniStranou) {
+    enum { DANY, NEDANY, NECEKANY };
+    StulTroj2 s(4);
+    for (std::size_t i = 0; i < std::size(PRVKY) * 6; ++i) {
+        const Prvek& p = PRVKY[i / 6];
+        const int faze = i % 2 == 0 ? 2 : 3;
+        const int jak = static_cast<int>(i / 2 % 3);
+        if (jak == NECEKANY && p.Nastroj == 3) continue;
+        const auto& [strana, ab, volba, napsana, nakreslena] = STRANY[p.Prvni];
+        const std::string druh = p.Nastroj == 4 ? "kruznice" : "poloprimka";
+        const bool vyska = p.Nastroj == 3;
+        s.Radek(Radek(strana, (vyska && jak == NEDANY ? "t" : "v") + strana,
+                      vyska || jak == NEDANY ? strana : p.Velicina,
+                      jak == NECEKANY ? "rovnobezka##rovnobezka#"
+                      : faze == 2     ? "rovnobezka##" + druh + "#"
+                                      : "rovnobezka##rovnobezka#" + druh));
+        s.Zacni();
+        Oznac(s, "a");
+        s.Proved({{1, ab.c_str(), -1, A, {1, 0}}});
+        const std::string kolmice = "k úsečce " + ab;
+        if (faze == 3) s.Proved({{2, kolmice.c_str()}});
+        const std::string radek = p.Nastroj == 1   ? p.Radek + (faze == 2 ? "X" : "Y")
+                                  : p.Nastroj == 3 ? p.Radek
+                                  : faze == 2      ? "kružnice k, střed " + p.Radek
+                                                   : "kružnice l, střed " + p.Radek;
+        std::string cena = jak == NECEKANY ? Za(p.Nastroj == 1 ? 18 : 21, 3)
+                           : jak == NEDANY ? Za(faze == 2 ? p.Volba : p.VolbaFaze3, 3)
+                                           : Za(p.Napsana) + " " + Za(p.Nakreslena);
+        if (jak == DANY && !vyska) cena += p.Nastroj == 1 ? " 31/1" : faze == 2 ? " 22/1" : " 45/1";
+        s.Proved({{p.Nastroj, radek.c_str()}, {5}, {p.Nastroj, radek.c_str()}});
+        cena += " " + cena;
+        if (p.Nastroj == 1) {
+            // From the other end of the side: where the typed value is right, that costs as well.
+            const bool prvniKonec = ab.starts_with(p.Radek);
+            const Bod jinde{A.X + (prvniKonec ? 8 * s.dialog.Hodnoty()[0] : 0), A.Y};
+            s.Proved(
+                {{5}, {1, radek.c_str(), -3, jinde, {1, 0}}, {5}, {1, radek.c_str(), 1, jinde}});
+            cena += jak == DANY ? " 23/1 30/1 31/1 " + Za(p.Napsana) + " 30/1 31/1" : " " + cena;
+        }
+        EXPECT_EQ(s.Chyby(), (faze == 3 ? "19/3 " : "") + cena)
+            << p.Velicina << " after " << ab << ", phase " << faze << ", " << jak;
+    }
+}
 
 const char* const V_U = "05##c#vc#alfa#cm#cm#°#usecka##rovnobezka##poloprimka#";
 const char* const S_T = "12##b#c#tc#cm#cm#cm#usecka##kruznice##kruznice#";
-const char* const T_U = "18##c#tc#alfa#cm#cm#°#usecka##kruznice##poloprimka#";
+const char* const T_U = "18##c#tc#alfa#cm#cm#°##usecka#rovnobezka#kruznice#rovnobezka#poloprimka";
 
-/// What starts on the first side: a height or a perpendicular, up by 20 px.
-Pohyb Od(int nastroj, const char* radek) {
-    return {nastroj, radek, 3, {150, 250}, {150, 230}};
-}
-const char* const STRED_AB = "kružnice k, střed ve středu AB";
-const char* const K_V_A = "kružnice k, střed v bodě A";
-
-const std::vector<Pripad> PRIPADY = {
-    {"not the height's side: its values are free", 4, V_U, 0, {{1, "AC", 99}}, "2/3"},
-    {"the median's side, not the other given one", 5, S_T, 0, {{1, "BC"}}, "1/3"},
-    {"typed and drawn value of the first side", 4, V_U, 0, {{1, "AB", 99}}, "9/1 15/1"},
-    {"height, both values", 4, V_U, 1, {Od(3, "s úsečkou AB")}, "132/1 60/1"},
-    {"downward reads a minus", 4, V_U, 1, {{3, "s úsečkou AB", -2, {150, 250}, {0, 1}}}, "60/1"},
-    {"a height not given: free values", 5, S_T, 2, {Od(3, "s úsečkou AB")}, "26/3"},
-    {"heights by the first side",
-     5,
-     "08##b#a#ta#cm#cm#cm#usecka##kruznice##kruznice#",
-     0,
-     {{1, "BC", -2, A, {1, 0}}, Od(3, "s úsečkou BC")},
-     "24/3"},
-    {"the same on AC",
-     5,
-     "09##a#b#tb#cm#cm#cm#usecka##kruznice##kruznice#",
-     0,
-     {{1, "AC", -2, A, {1, 0}}, Od(3, "s úsečkou AC")},
-     "25/3"},
-    {"median: values, centre", 5, S_T, 2, {{4, STRED_AB, 3}}, "57/1 54/1 22/1"},
-    {"median as the second object beside its centre",
-     5,
-     S_T,
-     2,
-     {{4, K_V_A, -1, A, {1, 0}}, {4, "kružnice l, střed ve středu AB", -3, {30, 30}, {1, 0}}},
-     "45/1"},
-    {"median that is not given, where a circle is expected",
-     7,
-     "24##b#c#vc#cm#cm#cm#usecka##kruznice##rovnobezka#",
-     2,
-     {{4, STRED_AB, 3}},
-     "37/3"},
-    {"medians by the first side",
-     7,
-     "20##a#c#va#cm#cm#cm#usecka##kruznice##rovnobezka#",
-     0,
-     {{1, "BC", -1, A, {1, 0}}, {4, "kružnice k, střed ve středu BC", 3}},
-     "35/3"},
-    {"the same on AC",
-     7,
-     "22##b#c#vb#cm#cm#cm#usecka##kruznice##rovnobezka#",
-     0,
-     {{1, "AC", -1, A, {1, 0}}, {4, "kružnice k, střed ve středu AC", 3}},
-     "36/3"},
-    {"no circle expected", 4, V_U, 1, {{4, K_V_A}}, "21/3"},
-    {"a second circle",
-     6,
-     T_U,
-     1,
-     {{4, STRED_AB, -2, {30, 30}, {1, 0}}, {4, "kružnice l, střed v bodě B"}},
-     "22/1 21/3"},
-    {"no ray expected", 5, S_T, 2, {{1, "AX", 3}}, "18/3"},
-    {"a ray of an angle that is not given; of one that is, wrong all over",
-     4,
-     V_U,
-     1,
-     {{1, "BX", 3}, {5}, {1, "AX", 3}},
-     "40/3 10/1 30/1 31/1"},
-    {"a perpendicular costs at every press, and the check counts the elements",
-     4,
-     V_U,
-     1,
-     {Od(2, "k úsečce AB"), {5}, Od(2, "k úsečce AB"), {0}},
-     "19/3 19/3 301/2 16/1 300/10"},
-    {"a parallel to a ray stands for no height",
-     4,
-     V_U,
-     1,
-     {{1, "AX", 3}, Od(3, "s polopřímkou AX"), {0}},
-     "10/1 30/1 31/1 301/1 16/1 300/10"},
-};
-
-TEST(Troj2Chyby, KazdaStojiCoMa) {
-    for (const Pripad& p : PRIPADY) {
-        SCOPED_TRACE(p.Popis);
-        StulTroj2 s(p.Uloha);
-        s.Radek(p.Radek).Zacni(5);
+TEST(Troj2Chyby, CoTabulkaNevidi) {
+    const auto cena = [](int uloha, const char* radek, const std::vector<Pohyb>& pohyby) {
+        StulTroj2 s(uloha);
+        s.Radek(radek).Zacni(5);
         Oznac(s, "a");
-        if (p.Strana > 0) s.Proved({{1, "AB", -p.Strana, A, {1, 0}}});
-        s.Proved(p.Pohyby);
-        EXPECT_EQ(StulTroj2::Chyby(), p.Chyby);
+        return s.Proved(pohyby).Chyby();
+    };
+    // Values after a wrong side taken back; a height downward reads a minus; a second circle.
+    EXPECT_EQ(cena(4, V_U, {{1, "AC", 99}, {5}, {1, "AB", 99}}), "2/3 9/1 15/1");
+    const Pohyb ab{1, "AB", -1, A, {1, 0}};
+    EXPECT_EQ(cena(4, V_U, {ab, {3, "s úsečkou AB", -2, {150, 250}, {0, 1}}}), "60/1");
+    const Pohyb k{4, "kružnice k, střed ve středu AB", -2, {30, 30}, {1, 0}};
+    EXPECT_EQ(cena(6, T_U, {ab, k, {4, "kružnice l, střed v bodě B"}}), "22/1 21/3");
+    // A perpendicular costs at every press; the check counts it, and a parallel to a ray.
+    const Pohyb kolmice{2, "k úsečce AB"};
+    EXPECT_EQ(cena(4, V_U, {ab, kolmice, {5}, kolmice, {0}}), "19/3 19/3 301/2 16/1 300/10");
+    EXPECT_EQ(cena(4, V_U, {ab, {1, "AX", 3}, {3, "s polopřímkou AX"}, {0}}),
+              "10/1 30/1 31/1 301/1 16/1 300/10");
+}
+
+TEST(Troj2Zadani, DruhyOcekavanyUtvarStaciANeznamyDruhNechaZadani) {
+    StulTroj2 s(6);
+    s.Radek(T_U);
+    for (std::uint32_t seminko = 1; seminko <= 20; ++seminko) {
+        s.Zacni(seminko);
+        DokonalyTrojuhelnik(s, seminko).Sestroj();
+        EXPECT_EQ(s.PoKontrole(), "") << seminko;
     }
+    const auto zadani = s.dialog.UkazPanel().lblZadani;
+    const auto hodnoty = s.dialog.Hodnoty();
+    s.Radek("28##a#ta#beta#cm#cm#°#usecka##kruznice##poloprimka#").Zacni(3);
+    EXPECT_EQ(s.dialog.UkazPanel().lblZadani, zadani);
+    EXPECT_EQ(s.dialog.Hodnoty(), hodnoty);
 }
 
 TEST(Troj2Panel, StredUseckyUkazeSvouPopiskuASeznamNabidneJenSvujStred) {
@@ -192,30 +238,6 @@ TEST(Troj2Panel, StredUseckyUkazeSvouPopiskuASeznamNabidneJenSvujStred) {
     EXPECT_EQ(zive, "110100");
     s.Vyber("kružnice k, střed ve středu AB");
     EXPECT_EQ(s.dialog.UkazPanel().lblText3, "kružnice k(Sc, r = ");
-}
-
-TEST(Troj2Zpet, ZeVsechFaziAZnovuBezChyby) {
-    StulTroj2 s(8);
-    for (std::uint32_t seminko = 1; seminko <= 30; ++seminko) {
-        s.Zacni(seminko);
-        DokonalyTrojuhelnik(s, seminko).Sestroj();
-        ASSERT_TRUE(s.dialog.Hotova());
-        s.Zpet();
-        EXPECT_FALSE(s.dialog.Hotova());
-        EXPECT_EQ(PocetUtvaru, 2);
-        EXPECT_EQ(s.dialog.UkazPanel().lblText2, "2. útvar:");
-        s.Zpet();
-        EXPECT_EQ(s.dialog.UkazPanel().lblText2, "1. útvar:");
-        s.Zpet();
-        EXPECT_EQ(PocetUtvaru, 0);
-        EXPECT_EQ(PocetTrojic, 0);
-        for (const std::string& n : {s.Zaznam().Nazev1, s.Zaznam().Nazev2, s.Zaznam().Nazev3}) {
-            Oznac(s, n);  // unmarks: the pupil marks them anew
-        }
-        DokonalyTrojuhelnik(s, seminko + 7).Sestroj();
-        ASSERT_EQ(s.PoKontrole(), "") << seminko;
-        ASSERT_TRUE(s.dialog.Hotova()) << seminko;
-    }
 }
 
 }  // namespace
