@@ -34,7 +34,6 @@ constexpr std::array<Obdelnik, 6> TLACITKA = {{{16, 280, 94, 32},
                                                {111, 404, 94, 32}}};
 
 constexpr float PISMO_PANELU = 8;  // points, at 15 twips a pixel
-constexpr int VYSKA_RADKU = 20;    // px, of the pick list
 
 // The read-out stands on a tinted ground, so that it can be read over lines.
 constexpr Barva PODKLAD_ODECTU = Rgb(255, 250, 225);
@@ -49,11 +48,8 @@ void DeskaForm::RozlozOvladace() {
     Pridej(INadpis, "INadpis", {0, 0, 238, 80});
     PridejPole(PicTop, "PicTop", {273, 5, 91, 75});
     Pridej(Label1, "Label1", {16, 108, 195, 16});
-    PridejPole(lblZadani, "lblZadani", {20, 128, 60, 16}, nullptr, 0);
-    for (std::size_t i = 0; i < lblZadani.size(); ++i) {
-        lblZadani[i].WordWrap = false;
-        lblZadani[i].Top = i < 4 ? 128 : 144;
-    }
+    PridejPole(lblZadani, "lblZadani", {0, 0, 60, 16}, nullptr, 0);
+    for (Label& l : lblZadani) l.WordWrap = false;
     Pridej(lblText1, "lblText1", {16, 168, 195, 80});
     Pridej(lblText2, "lblText2", {16, 256, 195, 18});
     PridejPole(cmd, "cmd", TLACITKA[0]);
@@ -97,9 +93,9 @@ void DeskaForm::RozlozOvladace() {
     Pridej(Combo, "Combo", {372, 444, 105, 64});
     Combo.Ramecek = true;
     Combo.Visible = false;
-    PridejPole(ComboLabel, "ComboLabel", {3, 2, 101, VYSKA_RADKU}, &Combo);
+    PridejPole(ComboLabel, "ComboLabel", {3, 2, 101, Seznam::VYSKA_RADKU}, &Combo);
     for (std::size_t i = 0; i < ComboLabel.size(); ++i) {
-        ComboLabel[i].Top = 2 + static_cast<int>(i) * VYSKA_RADKU;
+        ComboLabel[i].Top = 2 + static_cast<int>(i) * Seznam::VYSKA_RADKU;
         ComboLabel[i].WordWrap = false;
     }
 }

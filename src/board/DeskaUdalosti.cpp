@@ -17,12 +17,10 @@ constexpr int ODECET_Y = 2;
 
 constexpr std::uint32_t CEKANI_PO_VOLBE = 50;  // ms
 
-/// An arrow: which way it scrolls the plane, and how far it may have been scrolled before.
+/// An arrow: which way it scrolls the plane, px.
 struct SmerPosunu {
     int Dx, Dy;
 };
-constexpr int KROK_POSUNU = 20;  // px
-constexpr int MEZ_POSUNU = 120;  // tested before the step: 140 can be reached
 constexpr std::array<SmerPosunu, 4> SMERY = {
     {{KROK_POSUNU, 0}, {-KROK_POSUNU, 0}, {0, KROK_POSUNU}, {0, -KROK_POSUNU}}};
 

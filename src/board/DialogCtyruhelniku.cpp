@@ -6,9 +6,6 @@
 #include <utility>
 
 #include "base/Cisla.h"
-#include "board/Kontrola.h"
-#include "board/Nacrt.h"
-#include "board/Tahy.h"
 #include "board/Uzavreni.h"
 #include "engine/Kresleni.h"
 #include "engine/Resitele.h"
@@ -18,25 +15,10 @@
 
 namespace rysovna {
 
-const std::array<std::string_view, 4> CELE_TROJUHELNIKY = {"ABC", "BCD", "CDA", "DAB"};
-
-const std::array<VetaTrojuhelniku, 8> VETY_CELYCH = {{
-    {"sss", "ABC", "ABC", {{{"a", "a", 113}, {"b", "b", 114}, {"e", "e", 127}}}},
-    {"sss", "BCD", "BCD", {{{"b", "b", 114}, {"c", "c", 115}, {"f", "f", 128}}}},
-    {"sss", "CDA", "CDA", {{{"c", "c", 115}, {"d", "d", 116}, {"e", "e", 127}}}},
-    {"sss", "DAB", "DAB", {{{"d", "d", 116}, {"a", "a", 113}, {"f", "f", 128}}}},
-    {"sus", "ABC", "ABC", {{{"a", "a", 113}, {"b", "b", 114}, {"beta", "beta", 118}}}},
-    {"sus", "BCD", "BCD", {{{"b", "b", 114}, {"c", "c", 115}, {"gama", "gama", 119}}}},
-    {"sus", "CDA", "CDA", {{{"c", "c", 115}, {"d", "d", 116}, {"delta", "delta", 120}}}},
-    {"sus", "DAB", "DAB", {{{"d", "d", 116}, {"a", "a", 113}, {"alfa", "alfa", 117}}}},
-}};
-
 namespace {
 
 // The sketch: a quadrilateral A(40, 150), B(250, 150), C(215, 40), D(75, 25) with its diagonals.
 // An angle's zone is the place of its letter.
-constexpr auto CARA = PrvekNacrtu::Tvar::Usecka;
-constexpr auto OBLOUK = PrvekNacrtu::Tvar::Oblouk;
 constexpr PrvekNacrtu NACRT[] = {
     {"a", {40, 250, 0, 150, 3}, CARA, 40, 150, 250, 150, 0, 0, 0, "a", false, 145, 151},
     {"b", {215, 250, 22 / 7.0, -635.7, 13}, CARA, 250, 150, 215, 40, 0, 0, 0, "b", false, 238, 84},
@@ -51,6 +33,13 @@ constexpr PrvekNacrtu NACRT[] = {
 constexpr PismenoNacrtu PISMENA[] = {
     {"A", 26, 146}, {"B", 254, 146}, {"C", 219, 26}, {"D", 61, 10}};
 
+// What a release costs when a ray or a circle starts elsewhere.
+constexpr CenaPocatku CENY_POCATKU[] = {{POLOPRIMKA, 23, 23}, {KRUZNICE, 22, 45}};
+
+constexpr JmenaUtvaru JMENA[] = {
+    {KRUZNICE, "k", "l"}, {POLOPRIMKA, "X", "Y"}, {ROVNOBEZKA, "t", "u"}, {KOLMICE, "p", "q"}};
+
+/// A line of the list of theorems.
 struct RadekVety {
     std::string_view Text, Veta;
 };
@@ -73,29 +62,14 @@ constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhe
 constexpr int SIRKA_NELZE = 274, VYSKA_NELZE = 12;  // px of that text as the plane prints it
 
 constexpr int SIRKA_SEZNAMU_TROJUHELNIKU = 105, SIRKA_SEZNAMU_VET = 140;  // px
-constexpr int OKRAJ_RADKU = 4, VYSKA_RADKU = 20;
-constexpr int ODSAZENI_JEDNOTKY = 142;
 
-constexpr int MEZERA = 2, MEZERA_UHLU = 4;  // px, of the assignment's labels
-
-constexpr int NASTROJ_ZPET = 5, NASTROJ_POTVRZENI = 6;
-
-constexpr int MEZ_POSUNU = 140, KROK_POSUNU = 20;  // px, of the arrows
-
-int PrvkuTrojuhelniku(bool nesestrojen) {
-    return nesestrojen ? 0 : 3;
-}
+constexpr int NASTROJ_TROJUHELNIK = 1, NASTROJ_VETA = 2;
 
 bool Blizko(Bod b) {
     return std::abs(b.X) <= DALEKO && std::abs(b.Y) <= DALEKO;
 }
 
 }  // namespace
-
-bool StejnaVelicina(std::string_view a, std::string_view b) {
-    const auto cele = [](std::string_view n) { return n == "delt" ? "delta" : n; };
-    return cele(a) == cele(b);
-}
 
 std::optional<std::array<Bod, 3>> SpocitejTrojuhelnik(const Plane& plocha, std::string_view veta,
                                                       const std::array<double, 3>& hodnoty) {
@@ -137,7 +111,7 @@ std::optional<std::array<Bod, 3>> SpocitejTrojuhelnik(const Plane& plocha, std::
 
 bool VejdouSe(const Plane& plocha, std::span<const Bod> body) {
     const auto vSmeru = [body](int Bod::*os, int rozmer) {
-        for (int d = -MEZ_POSUNU; d <= MEZ_POSUNU; d += KROK_POSUNU) {
+        for (int d = -NEJDAL_POSUNU; d <= NEJDAL_POSUNU; d += KROK_POSUNU) {
             if (std::ranges::all_of(body, [=](const Bod& b) {
                     return b.*os + d >= OKRAJ && b.*os + d < rozmer - OKRAJ;
                 })) {
@@ -150,56 +124,16 @@ bool VejdouSe(const Plane& plocha, std::span<const Bod> body) {
 }
 
 DialogCtyruhelniku::DialogCtyruhelniku(Platna platna, const PravidlaCtyruhelniku& pravidla)
-    : Dialog(platna), pravidla_(pravidla) {}
-
-std::optional<int> DialogCtyruhelniku::Hodnota(std::string_view velicina) const {
-    const std::vector<Zadana> zadane = Zadane();
-    for (std::size_t i = 0; i < zadane.size(); ++i) {
-        if (StejnaVelicina(zadane[i].Nazev, velicina)) return hodnoty_[i];
-    }
-    return {};
-}
-
-void DialogCtyruhelniku::ChybnaVolba(int cislo, std::string_view text) {
-    PridejChybu(cislo, text, 3);
-    stav_.KrokChybny = true;
-}
-
-void DialogCtyruhelniku::ChybnaVolba(int cislo) {
-    ChybnaVolba(cislo, TRI_BODY);
-}
+    : DialogKroku(
+          platna,
+          {pravidla.Uvod, NACRT, PISMENA, JMENA, CENY_POCATKU, {1, 2}, TvarBodu::PodleCisla}),
+      pravidla_(pravidla) {}
 
 // ---- The life of an example ------------------------------------------------------------------
 
 void DialogCtyruhelniku::NovyPriklad() {
     VyprazdniKonstrukci(platna_);
     stav_ = StavCtyruhelniku{};
-}
-
-void DialogCtyruhelniku::NoveZadani() {
-    stav_.Znacky = 0;
-    cisloPrikladu_ = VylosujPriklad();
-    ZapomenZadanePrvky();
-    if (VylosujHodnoty(Hrany(), hodnoty_)) SestavZadani();
-}
-
-void DialogCtyruhelniku::SestavZadani() {
-    const std::vector<Zadana> zadane = Zadane();
-    zadani_.clear();
-    for (std::size_t i = 0; i < zadane.size(); ++i) {
-        const auto& [nazev, jednotka] = zadane[i];
-        const std::string_view pismeno = PismenoUhlu(nazev);
-        const bool uhel = !pismeno.empty();
-        const bool novyRadek = i % 2 == 0;
-        const bool posledni = i + 1 == zadane.size();
-        zadani_.push_back(uhel ? NazevUhlu(pismeno, MEZERA, novyRadek)
-                               : NazevStrany(nazev, MEZERA, novyRadek));
-        // What has no unit has no value: it says all by its name.
-        zadani_.push_back(HodnotaZadani(jednotka.empty()
-                                            ? std::string(posledni ? "" : ", ")
-                                            : TextHodnoty(hodnoty_[i], jednotka, posledni),
-                                        uhel ? MEZERA_UHLU : MEZERA));
-    }
 }
 
 void DialogCtyruhelniku::Posun(int dx, int dy) {
@@ -216,39 +150,19 @@ void DialogCtyruhelniku::Prekresli() {
     pic.Print(NELZE);
 }
 
-bool DialogCtyruhelniku::StiskNacrtu(float x, float y) {
-    const int prvek = PrvekPod(NACRT, x, y);
-    if (prvek < 0 || stav_.Skontrolovano) return false;
-    stav_.Znacky ^= 1U << prvek;
-    return true;
-}
-
-void DialogCtyruhelniku::KresliNacrt(Plane& plocha) const {
-    KresliPrvkyNacrtu(plocha, NACRT, PISMENA, stav_.Znacky);
-}
-
 // ---- Tools and lists -------------------------------------------------------------------------
 
-void DialogCtyruhelniku::StiskNastroje(int i) {
-    const Panel panel = UkazPanel();
-    if (i < 1 || i > NASTROJ_POTVRZENI || !panel.cmd[static_cast<std::size_t>(i - 1)].Zive) return;
-    KonstrukceZahajena = ANO;
-    ZavriSeznam();
-    if (i == NASTROJ_ZPET) return Zpet();
-    if (stav_.Faze > 1) {
-        if (stav_.Faze >= PosledniFaze()) return;  // a full construction takes no further object
-        stav_.KrokChybny = false;
-        return NabidniDalsi(i);
-    }
+void DialogCtyruhelniku::Nabidni(int i) {
+    if (stav_.Faze > 1) return NabidniDalsi(i);
     std::vector<RadekSeznamu> radky;
-    if (i == 1) {
-        stav_.KrokChybny = false;
+    if (i == NASTROJ_TROJUHELNIK) {
         stav_.ZvolenyUtvar = TROJUHELNIK;
-        for (const std::string_view t : pravidla_.Trojuhelniky) {
-            radky.push_back({std::string(t), true, true, std::string(t)});
+        for (const VetaTrojuhelniku& v : pravidla_.Vety) {
+            const std::string t(v.Trojuhelnik);
+            if (v.Veta == "sss") radky.push_back({t, true, true, t});
         }
         OtevriSeznam(SIRKA_SEZNAMU_TROJUHELNIKU, std::move(radky));
-    } else if (i == 2) {
+    } else if (i == NASTROJ_VETA) {
         stav_.ZvolenyUtvar = PODLE_VETY;
         for (const RadekVety& r : RADKY_VET) {
             radky.push_back({std::string(r.Text), true, true, std::string(r.Veta)});
@@ -259,55 +173,33 @@ void DialogCtyruhelniku::StiskNastroje(int i) {
     }
 }
 
-void DialogCtyruhelniku::OtevriSeznam(int sirka, std::vector<RadekSeznamu> radky) {
-    const int vyska = static_cast<int>(radky.size()) * VYSKA_RADKU + OKRAJ_RADKU;
-    stav_.Combo = {true, sirka, vyska, sirka - OKRAJ_RADKU, std::move(radky)};
-}
-
-void DialogCtyruhelniku::VyberRadku(int i) {
-    if (!stav_.Combo.Otevreny || i < 1 || i > static_cast<int>(stav_.Combo.Radky.size())) return;
-    const RadekSeznamu radek = stav_.Combo.Radky[static_cast<std::size_t>(i - 1)];
-    if (!radek.Videt || !radek.Ziva) return;
-    ZavriSeznam();
-    if (stav_.ZvolenyUtvar == TROJUHELNIK) return ZvolTrojuhelnik(radek.Tag);
-    if (stav_.ZvolenyUtvar == PODLE_VETY) return ZvolVetu(radek.Tag);
-    stav_.Tazeni = false;
-    ZvolDalsi(radek);
+void DialogCtyruhelniku::ZvolRadek(std::size_t i) {
+    const std::string& kod = stav_.Combo.Radky[i].Tag;
+    if (stav_.ZvolenyUtvar == TROJUHELNIK) return ZvolTrojuhelnik(kod);
+    if (stav_.ZvolenyUtvar == PODLE_VETY) return ZvolVetu(kod);
+    ZvolDalsi(i);
 }
 
 void DialogCtyruhelniku::Napis(int ktery, const std::string& text) {
     if (stav_.Faze > 1) {
-        stav_.txtVstup.Text = text;
+        DialogKroku::Napis(ktery, text);
     } else if (ktery >= 1 && ktery <= static_cast<int>(stav_.Vstupy.size())) {
         stav_.Vstupy[static_cast<std::size_t>(ktery - 1)] = text;
     }
 }
 
-void DialogCtyruhelniku::Vyzvi(std::string vyzva, std::string jednotka) {
-    stav_.lblText3 = std::move(vyzva);
-    stav_.lblText4 = {std::move(jednotka), true, false, ODSAZENI_JEDNOTKY, false};
-    stav_.txtVstup = {"", true, true};
-}
-
-void DialogCtyruhelniku::Zapis(std::string_view druh, std::string_view prvek) {
-    ZadanyPrvek& z = ZadanePrvky[stav_.Faze];
-    z.Faze = static_cast<std::int16_t>(stav_.Faze);
-    z.Utvar = druh;
-    z.Prvek = prvek;
-}
-
-void DialogCtyruhelniku::ZvolTrojuhelnik(const std::string& radek) {
-    stav_.ZvolenyTrojuhelnik = radek;
+void DialogCtyruhelniku::ZvolTrojuhelnik(const std::string& trojuhelnik) {
+    stav_.ZvolenyTrojuhelnik = trojuhelnik;
     stav_.ZvolenaVeta.clear();
     stav_.Vstupy = {};
-    if (radek != Hrany().Text2) ChybnaVolba(CHYBA_TROJUHELNIK);
-    Zapis(TROJUHELNIK, radek);
+    if (trojuhelnik != Hrany().Text2) ChybnaVolba(CHYBA_TROJUHELNIK);
+    Zapis(TROJUHELNIK, trojuhelnik);
 }
 
-void DialogCtyruhelniku::ZvolVetu(const std::string& radek) {
-    stav_.ZvolenaVeta = radek;
+void DialogCtyruhelniku::ZvolVetu(const std::string& veta) {
+    stav_.ZvolenaVeta = veta;
     stav_.Vstupy = {};
-    if (radek != Hrany().Text1) ChybnaVolba(CHYBA_VETA, radek + "." + std::string(TRI_BODY));
+    if (veta != Hrany().Text1) ChybnaVolba(CHYBA_VETA, veta + "." + std::string(TRI_BODY));
 }
 
 const VetaTrojuhelniku* DialogCtyruhelniku::ZvolenaVetaRadek() const {
@@ -386,22 +278,7 @@ std::optional<Bod> DialogCtyruhelniku::MistoVrcholu(std::string_view pismeno) {
     return {};
 }
 
-void DialogCtyruhelniku::DalsiFaze() {
-    stav_.CekaNaKresleni = false;
-    stav_.Tazeni = false;
-    stav_.ZvolenyUtvar.clear();
-    stav_.txtVstup = {};
-    stav_.lblText3.clear();
-    stav_.lblText4 = {};
-    ++stav_.Faze;
-}
-
-void DialogCtyruhelniku::Zpet() {
-    platna_.Pic.DrawWidth = 1;
-    --stav_.Faze;
-    stav_.CekaNaKresleni = false;
-    stav_.ZvolenyUtvar.clear();
-    stav_.HotovaKonstrukce = false;
+void DialogCtyruhelniku::VratFazi() {
     for (int n = 1; n <= decltype(Priklad::Kroky)::POSLEDNI; ++n) {
         HranyProUpravu().Kroky[n].Hotovo = NE;
     }
@@ -413,75 +290,39 @@ void DialogCtyruhelniku::Zpet() {
         stav_.ZvolenaVeta.clear();
         stav_.Vstupy = {};
     } else {
-        PocetUtvaru = PocetTrojic = PrvkuTrojuhelniku(stav_.Nesestrojen) + UtvaruVeFazi(stav_.Faze);
+        // Each step after the triangle made one object.
+        PocetUtvaru = PocetTrojic = (stav_.Nesestrojen ? 0 : 3) + stav_.Faze - 2;
     }
     Prekresli();
 }
 
 // ---- The check -------------------------------------------------------------------------------
 
-void DialogCtyruhelniku::Zkontroluj() {
-    stav_.Skontrolovano = true;
-    stav_.Tazeni = false;
-    ZavriSeznam();
-    int chybnych = ZadanePrvky[1].Prvek == Hrany().Text2 ? 0 : 1;
-    for (const int faze : {2, 3}) {
-        if (!PrvekSpravny(faze)) ++chybnych;
-    }
-    UctujChybnePrvky(chybnych);
-
-    std::uint32_t ocekavane = 0;
-    for (std::size_t i = 0; i < std::size(NACRT); ++i) {
-        if (Hodnota(NACRT[i].Velicina)) ocekavane |= 1U << i;
-    }
-    UctujZnacky(stav_.Znacky == ocekavane);
-    if (!stav_.HotovaKonstrukce) UctujNedokoncenou(TvarBodu::PodleCisla);
+int DialogCtyruhelniku::ChybnychPrvku() const {
+    const bool trojuhelnik = ZadanePrvky[1].Prvek == Hrany().Text2;
+    return (trojuhelnik ? 0 : 1) + (PrvekSpravny(2) ? 0 : 1) + (PrvekSpravny(3) ? 0 : 1);
 }
 
 // ---- The panel -------------------------------------------------------------------------------
 
-Panel DialogCtyruhelniku::UkazPanel() const {
-    constexpr std::string_view VYZVA = "Nejprve zvol trojúhelník, kterým začneš konstrukci.";
-    constexpr std::string_view VYZVA_HODNOT = "Délky úseček a velikosti úhlů:";
-    constexpr std::array<int, 6> TVARY_FAZE1 = {10, 13, 0, 0, 12, 14};
-
-    Panel p;
-    p.Label1 = pravidla_.Uvod;
-    p.Combo = stav_.Combo;
-    p.lblZadani = zadani_;
-    p.PicZiva = !stav_.HotovaKonstrukce && !stav_.Skontrolovano;
-    p.lblText3 = stav_.lblText3;
-    p.lblText4 = stav_.lblText4;
-    p.txtVstup = stav_.txtVstup;
-    if (stav_.Faze == 1) {
-        p.lblText1 = VYZVA;
-        const bool muzeZacit = KonstrukceZahajena != NE || stav_.Znacky != 0;
-        const bool trojuhelnik = !stav_.ZvolenyTrojuhelnik.empty();
-        const VetaTrojuhelniku* veta = ZvolenaVetaRadek();
-        const bool zive[] = {muzeZacit, trojuhelnik, false, false, false, veta != nullptr};
-        for (std::size_t i = 0; i < p.cmd.size(); ++i)
-            p.cmd[i] = {TVARY_FAZE1[i], zive[i], zive[i]};
-        if (veta != nullptr) {
-            p.lblText2 = VYZVA_HODNOT;
-            for (std::size_t i = 0; i < stav_.Vstupy.size(); ++i) {
-                const bool uhel = i == 2 && veta->Veta == "sus";
-                p.Vstupy.push_back({(uhel ? "vel. úhlu " : "délka strany ") +
-                                        std::string(veta->Vstupy[i].Popis) + " = ",
-                                    {stav_.Vstupy[i], true, !stav_.Skontrolovano},
-                                    uhel ? "°" : " cm"});
-            }
-            p.txtVstup = p.Vstupy[0].Box;
-            p.lblText4 = {p.Vstupy[0].Jednotka, true, false, 0, false};
-        }
-    } else {
-        UkazDalsi(p);
+void DialogCtyruhelniku::UkazFazi(Panel& p) const {
+    if (stav_.Faze > 1) return UkazDalsi(p);
+    const VetaTrojuhelniku* veta = ZvolenaVetaRadek();
+    p.lblText1 = "Nejprve zvol trojúhelník, kterým začneš konstrukci.";
+    UkazNastroje(
+        p, {10, 13, 0, 0, 12, 14},
+        {MuzeZacit(), !stav_.ZvolenyTrojuhelnik.empty(), false, false, false, veta != nullptr});
+    if (veta == nullptr) return;
+    p.lblText2 = "Délky úseček a velikosti úhlů:";
+    for (std::size_t i = 0; i < stav_.Vstupy.size(); ++i) {
+        const bool uhel = i == 2 && veta->Veta == "sus";
+        p.Vstupy.push_back(
+            {(uhel ? "vel. úhlu " : "délka strany ") + std::string(veta->Vstupy[i].Popis) + " = ",
+             {stav_.Vstupy[i], true, !stav_.Skontrolovano},
+             uhel ? "°" : " cm"});
     }
-    p.txtVstup.Ziva = !stav_.Skontrolovano;
-    for (std::size_t i = 0; stav_.Skontrolovano && i < p.cmd.size(); ++i) {
-        p.cmd[i].Zive = false;
-        if (i + 1 == NASTROJ_ZPET) p.cmd[i].Barevne = false;
-    }
-    return p;
+    p.txtVstup = p.Vstupy[0].Box;
+    p.lblText4 = {p.Vstupy[0].Jednotka, true, false, 0, false};
 }
 
 }  // namespace rysovna

@@ -7,8 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "board/Dialog.h"
-#include "board/Zadani.h"
+#include "board/DialogKroku.h"
 
 namespace rysovna {
 
@@ -29,110 +28,64 @@ struct VetaTrojuhelniku {
     std::array<VstupVety, 3> Vstupy;
 };
 
-/// The values of an example in the order of its names.
-using Hodnoty5 = std::array<int, 5>;
+/// The four whole triangles by both theorems; boards with further ones join their own.
+constexpr std::array<VetaTrojuhelniku, 8> VETY_CELYCH = {{
+    {"sss", "ABC", "ABC", {{{"a", "a", 113}, {"b", "b", 114}, {"e", "e", 127}}}},
+    {"sss", "BCD", "BCD", {{{"b", "b", 114}, {"c", "c", 115}, {"f", "f", 128}}}},
+    {"sss", "CDA", "CDA", {{{"c", "c", 115}, {"d", "d", 116}, {"e", "e", 127}}}},
+    {"sss", "DAB", "DAB", {{{"d", "d", 116}, {"a", "a", 113}, {"f", "f", 128}}}},
+    {"sus", "ABC", "ABC", {{{"a", "a", 113}, {"b", "b", 114}, {"beta", "beta", 118}}}},
+    {"sus", "BCD", "BCD", {{{"b", "b", 114}, {"c", "c", 115}, {"gama", "gama", 119}}}},
+    {"sus", "CDA", "CDA", {{{"c", "c", 115}, {"d", "d", 116}, {"delta", "delta", 120}}}},
+    {"sus", "DAB", "DAB", {{{"d", "d", 116}, {"a", "a", 113}, {"alfa", "alfa", 117}}}},
+}};
 
 /// What one quadrilateral board has of its own in its starting triangle.
 struct PravidlaCtyruhelniku {
-    std::string_view Uvod;                           ///< lead-in of the assignment
-    std::span<const std::string_view> Trojuhelniky;  ///< lines of the first list
+    std::string_view Uvod;  ///< lead-in of the assignment
+    /// Each triangle once by "sss": the lines of the first list, in this order.
     std::span<const VetaTrojuhelniku> Vety;
 };
 
-/// The four whole triangles by both theorems; boards with further ones add their own.
-extern const std::array<std::string_view, 4> CELE_TROJUHELNIKY;
-extern const std::array<VetaTrojuhelniku, 8> VETY_CELYCH;
-
-/// The dialogue's own record: all that changes from step to step besides the construction.
-struct StavCtyruhelniku {
-    int Faze = 1;                    ///< 1 starting triangle, then the board's own steps
-    std::string ZvolenyTrojuhelnik;  ///< line of the first list; empty until it is chosen
-    std::string ZvolenaVeta;         ///< "sss", "sus" or empty
-    std::string ZvolenyUtvar;        ///< kind of the tool in hand; empty between steps
-    std::string ZvolenyPrvek;        ///< code of the element: "KA", "AXAB", ...
-    bool CekaNaKresleni = false;
-    bool KrokChybny = false;  ///< judged wrong already: its values cost nothing more
-    bool HotovaKonstrukce = false;
-    bool Skontrolovano = false;  ///< the check took the example
-    bool Nesestrojen = false;    ///< the typed values made no triangle
-    bool Tazeni = false;         ///< the button is held over the plane
-    Bod Start;
-    std::uint32_t Znacky = 0;  ///< marks of the sketch, bits in the order of its elements
-    Seznam Combo;
+/// The dialogue's own record. Faze: 1 starting triangle, then the board's own steps.
+struct StavCtyruhelniku : StavKroku {
+    std::string ZvolenyTrojuhelnik;     ///< line of the first list; empty until it is chosen
+    std::string ZvolenaVeta;            ///< "sss", "sus" or empty
+    bool Nesestrojen = false;           ///< the typed values made no triangle
     std::array<std::string, 3> Vstupy;  ///< what was typed for the triangle
-    std::string lblText3;
-    TextPanelu lblText4;
-    Vstup txtVstup;
     friend bool operator==(const StavCtyruhelniku&, const StavCtyruhelniku&) = default;
 };
-
-/// A given quantity as the data name it.
-struct Zadana {
-    std::string_view Nazev, Jednotka;
-};
-
-/// Whether two names mean the same quantity: data spell delta also "delt".
-[[nodiscard]] bool StejnaVelicina(std::string_view a, std::string_view b);
 
 /// The step dialogue of the quadrilateral boards, as far as they share it: the sketch, the
 /// starting triangle that the board draws from three typed values, undo, the check. What follows
 /// the triangle is each board's own.
-class DialogCtyruhelniku : public Dialog {
+class DialogCtyruhelniku : public DialogKroku {
 public:
     DialogCtyruhelniku(Platna platna, const PravidlaCtyruhelniku& pravidla);
 
     void NovyPriklad() override;
-    void NoveZadani() override;
-    void StiskNastroje(int i) override;
-    void VyberRadku(int i) override;
-    void ZavriSeznam() override { stav_.Combo.Otevreny = false; }
     void Napis(int ktery, const std::string& text) override;
-    [[nodiscard]] bool CekaNaKresleni() const override {
-        return stav_.CekaNaKresleni && !stav_.Skontrolovano;
-    }
-    bool StiskNacrtu(float x, float y) override;
-    void KresliNacrt(Plane& plocha) const override;
     void Posun(int dx, int dy) override;
-    void Zkontroluj() override;
-    [[nodiscard]] bool Hotova() const override { return stav_.HotovaKonstrukce; }
-    [[nodiscard]] Panel UkazPanel() const override;
 
-    [[nodiscard]] const StavCtyruhelniku& Stav() const { return stav_; }
-    [[nodiscard]] int CisloPrikladu() const { return cisloPrikladu_; }
-    [[nodiscard]] const Priklad& Hrany() const { return Priklady[cisloPrikladu_]; }
-    [[nodiscard]] const Hodnoty5& Hodnoty() const { return hodnoty_; }
-    /// The example's value of a quantity; none if it is not given.
-    [[nodiscard]] std::optional<int> Hodnota(std::string_view velicina) const;
+    [[nodiscard]] const StavCtyruhelniku& Stav() const override { return stav_; }
 
 protected:
-    /// The given quantities in their order.
-    [[nodiscard]] virtual std::vector<Zadana> Zadane() const = 0;
-    /// Draws the values for a kind. False for an unknown kind: values and assignment stay.
-    [[nodiscard]] virtual bool VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) = 0;
     /// A tool was pressed after the triangle; opens its list.
     virtual void NabidniDalsi(int i) = 0;
-    /// A line of such a list was chosen; the list is closed by now.
-    virtual void ZvolDalsi(const RadekSeznamu& radek) = 0;
-    /// How many phases an example has until it is closed.
-    [[nodiscard]] virtual int PosledniFaze() const { return 4; }
+    /// Line i, from 0, of such a list was chosen; the list is closed by now.
+    virtual void ZvolDalsi(std::size_t i) = 0;
     /// Whether the step of this phase is what the data expect.
     [[nodiscard]] virtual bool PrvekSpravny(int faze) const = 0;
     /// Prompts and faces after the triangle.
     virtual void UkazDalsi(Panel& panel) const = 0;
-    /// Objects besides the triangle that stand when the dialogue is back in this phase.
-    [[nodiscard]] virtual int UtvaruVeFazi(int faze) const { return faze - 2; }
 
-    /// Opens the list.
-    void OtevriSeznam(int sirka, std::vector<RadekSeznamu> radky);
-    /// Prompts for a value.
-    void Vyzvi(std::string vyzva, std::string jednotka);
-    /// The step is drawn: the next phase.
-    void DalsiFaze();
-    /// What the pupil chose in this phase, for the check.
-    void Zapis(std::string_view druh, std::string_view prvek);
-    /// Charges a choice: 3 points, and the step is wrong from now on.
-    void ChybnaVolba(int cislo);
-    void ChybnaVolba(int cislo, std::string_view text);
+    [[nodiscard]] StavCtyruhelniku& Upravit() override { return stav_; }
+    void Nabidni(int i) override;
+    void ZvolRadek(std::size_t i) override;
+    void VratFazi() override;
+    [[nodiscard]] int ChybnychPrvku() const override;
+    void UkazFazi(Panel& panel) const override;
+
     /// Opens the next row of the construction with the names of its points.
     int NovyUtvar(std::string_view jmeno1, std::string_view jmeno2);
     /// Draws a side between two named points; the labels may be empty.
@@ -140,28 +93,20 @@ protected:
                         std::string_view jmeno2, Bod p2, std::string_view popis2, bool znacky);
     /// The vertex of this name; none as long as it is not drawn.
     [[nodiscard]] static std::optional<Bod> MistoVrcholu(std::string_view pismeno);
-    [[nodiscard]] const VetaTrojuhelniku* ZvolenaVetaRadek() const;
     /// Letters of the starting triangle in the order of construction; empty while it is open.
     [[nodiscard]] std::string_view Vrcholy() const;
-    /// All drawn anew; the text in place of a triangle too.
-    void Prekresli();
-    [[nodiscard]] StavCtyruhelniku& Upravit() { return stav_; }
-    [[nodiscard]] Priklad& HranyProUpravu() { return Priklady[cisloPrikladu_]; }
     [[nodiscard]] const PravidlaCtyruhelniku& Pravidla() const { return pravidla_; }
 
 private:
-    void ZvolTrojuhelnik(const std::string& radek);
-    void ZvolVetu(const std::string& radek);
+    [[nodiscard]] const VetaTrojuhelniku* ZvolenaVetaRadek() const;
+    void ZvolTrojuhelnik(const std::string& trojuhelnik);
+    void ZvolVetu(const std::string& veta);
     void PotvrdHodnoty();
     void NakresliTrojuhelnik(const VetaTrojuhelniku& veta);
-    void Zpet();
-    void SestavZadani();
+    void Prekresli();
 
     const PravidlaCtyruhelniku& pravidla_;
     StavCtyruhelniku stav_;
-    std::vector<PolozkaZadani> zadani_;
-    int cisloPrikladu_ = 1;
-    Hodnoty5 hodnoty_{};
 };
 
 /// The vertices of the starting triangle from three values (cm, degrees) in the order of the

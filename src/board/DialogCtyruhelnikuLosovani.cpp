@@ -47,12 +47,10 @@ constexpr int NEJVETSI_UHEL = 360;
 constexpr double VULE_UHLU = 0.5;
 constexpr int NEJVETSI_ODECET = 179;
 
+constexpr double DELKA_PAPRSKU = 1000;  // px, to the second point of a drawn ray
+
 // A trapezoid is told from a parallelogram and from a crossed figure by at least this much, px.
 constexpr double NEJMENSI_ROZDIL = 8;
-
-// A draw fits after a hundred passes at most; a file whose quantities do not go together must not
-// hold the board up for ever.
-constexpr int NEJVIC_LOSOVANI = 20000;
 
 /// The angle opposite to the side proti, between the other two, degrees; BEZ if there is none.
 double Uhel(double a, double b, double proti) {
@@ -65,11 +63,8 @@ double D(const VzorecUhlu& v, double t) {
 }
 
 /// One draw; false if the values do not go together.
-bool Vylosuj(const SkupinaDruhu& s, bool rovnobeznost, Hodnoty5& h) {
-    h[0] = Generator.D(STRANA.Rozpeti, STRANA.Zaklad);
-    h[1] = Generator.D(STRANA.Rozpeti, STRANA.Zaklad);
-    const Vzorec treti = s.Sus ? UHEL : STRANA;
-    h[2] = Generator.D(treti.Rozpeti, treti.Zaklad);
+bool Vylosuj(const SkupinaDruhu& s, bool rovnobeznost, HodnotyPrikladu& h) {
+    VylosujTri({STRANA, STRANA, s.Sus ? UHEL : STRANA}, h);
     const double a = h[0];
     const double b = h[1];
     const double c =
@@ -88,7 +83,7 @@ bool Vylosuj(const SkupinaDruhu& s, bool rovnobeznost, Hodnoty5& h) {
     return !s.DruhyTrojuhelnik || rovnobeznost || Trojuhelnikova(c, h[3], h[4]);
 }
 
-/// A vertex of the starting triangle by its letter.
+/// The starting triangle as it is drawn.
 struct Trojuhelnik {
     std::string_view Vrcholy;
     std::array<Bod, 3> Body;
@@ -124,12 +119,11 @@ Utvar Idealni(const Trojuhelnik& t, const Krok& krok, int hodnota, double navic)
         const bool vlevo = dx * (treti->Y - v->Y) - dy * (treti->X - v->X) < 0;
         const double uhel = (hodnota + navic) * PI / STUPNU_PULOTACKY * (vlevo ? 1 : -1);
         const double smer = std::atan2(-dy, dx) + uhel;
-        constexpr double DALEKO = 1000;  // px
         u.Druh = POLOPRIMKA;
         u.X1 = v->X;
         u.Y1 = v->Y;
-        u.X2 = Zaokrouhli(v->X + DALEKO * std::cos(smer));
-        u.Y2 = Zaokrouhli(v->Y - DALEKO * std::sin(smer));
+        u.X2 = Zaokrouhli(v->X + DELKA_PAPRSKU * std::cos(smer));
+        u.Y2 = Zaokrouhli(v->Y - DELKA_PAPRSKU * std::sin(smer));
     } else if (krok.Utvar == ROVNOBEZKA) {
         // Parallel to the side of the triangle with this height, through its third vertex.
         for (std::size_t i = 0; i < 2; ++i) {
@@ -161,7 +155,7 @@ bool JeLichobeznik(const Trojuhelnik& t, const Krok& krok, Bod d) {
 }
 
 bool JdeSestrojit(const Plane& plocha, const Priklad& p, const VetaTrojuhelniku& veta,
-                  const Hodnoty5& h) {
+                  const HodnotyPrikladu& h) {
     const std::string_view nazvy[] = {p.Nazev1, p.Nazev2, p.Nazev3};
     std::array<double, 3> hodnoty{};
     for (std::size_t i = 0; i < hodnoty.size(); ++i) {
@@ -192,7 +186,7 @@ bool JdeSestrojit(const Plane& plocha, const Priklad& p, const VetaTrojuhelniku&
 }  // namespace
 
 bool VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
-                        std::span<const VetaTrojuhelniku> vety, Hodnoty5& hodnoty) {
+                        std::span<const VetaTrojuhelniku> vety, HodnotyPrikladu& hodnoty) {
     const auto veta = std::ranges::find_if(vety, [&p](const VetaTrojuhelniku& v) {
         return v.Veta == p.Text1 && v.Trojuhelnik == p.Text2;
     });

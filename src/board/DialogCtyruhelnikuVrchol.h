@@ -1,23 +1,13 @@
 #pragma once
 
-#include <array>
-#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "board/DialogCtyruhelniku.h"
-#include "board/Panel.h"
-#include "board/Tahy.h"
-#include "engine/Tabulky.h"
 
 namespace rysovna {
-
-/// One of the two objects on which the fourth vertex lies, as the data expect it.
-struct OcekavanyUtvar {
-    std::string_view Druh, Prvek;  ///< kind of object and code of its element
-    int Hodnota;
-};
 
 /// What the boards that find the fourth vertex by two objects differ in.
 struct PravidlaVrcholu {
@@ -33,33 +23,31 @@ public:
                              const PravidlaVrcholu& vrchol)
         : DialogCtyruhelniku(platna, pravidla), vrchol_(vrchol) {}
 
-    void StiskPlochy(float x, float y) override;
-    [[nodiscard]] Gumicka Tah(float x, float y) const override;
-    [[nodiscard]] std::uint32_t CekaniPoTahu() const override { return 100; }
-    void PusteniPlochy(float x, float y) override;
-
 protected:
+    /// The three of the record and, each with its step, those of the two objects.
     [[nodiscard]] std::vector<Zadana> Zadane() const override;
-    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) override;
+    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;
     void NabidniDalsi(int i) override;
-    void ZvolDalsi(const RadekSeznamu& radek) override;
+    void ZvolDalsi(std::size_t i) override;
     [[nodiscard]] bool PrvekSpravny(int faze) const override;
     void UkazDalsi(Panel& panel) const override;
+    [[nodiscard]] Dvojice BodyPrimky(Bod konec) const override;
+    [[nodiscard]] std::string OdectiPaprsek(Bod konec) const override;
+    void PosudOdecet(double odecet) override;
+    [[nodiscard]] bool ZacinaSpravne() const override;
+    void Uzavri() override;
 
 private:
-    void NabidniPaprsky();
-    void NabidniPrimky(std::string_view druh);
-    void NabidniKruznice();
+    struct Nastroj;
+    [[nodiscard]] static std::span<const Nastroj> Nastroje();
+    [[nodiscard]] std::vector<RadekSeznamu> Paprsky() const;
+    [[nodiscard]] std::vector<RadekSeznamu> Primky() const;
+    [[nodiscard]] std::vector<RadekSeznamu> Kruznice() const;
     void ZvolPaprsek(const std::string& kod);
     void ZvolKruznici(const std::string& kod);
-    void ZvolPrimku(const std::string& jmena);
-    [[nodiscard]] bool ObsadKrok(std::string_view druh);
+    void ZvolKolmici(const std::string& jmena);
+    void ZvolRovnobezku(const std::string& jmena);
     [[nodiscard]] bool JeOcekavany(std::string_view prvek) const;
-    [[nodiscard]] Dvojice BodyPrimky(Bod konec) const;
-    [[nodiscard]] std::string OdectiPaprsek(Bod konec) const;
-    void PosudPusteni(const Gumicka& tah);
-    void NakresliUtvar(Bod konec);
-    void Uzavri();
 
     const PravidlaVrcholu& vrchol_;
 };
@@ -74,6 +62,7 @@ private:
 /// drawn: the two objects meet, also with the play that a read-out leaves, the vertices fit the
 /// plane after some travel of the arrows, and with a parallel a trapezoid comes out.
 [[nodiscard]] bool VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
-                                      std::span<const VetaTrojuhelniku> vety, Hodnoty5& hodnoty);
+                                      std::span<const VetaTrojuhelniku> vety,
+                                      HodnotyPrikladu& hodnoty);
 
 }  // namespace rysovna

@@ -1,4 +1,5 @@
-// Choosing a line of the list: names the new object, prompts for its value, judges the choice.
+// The tools of the triangle boards: each opens its list; a chosen line names the new object,
+// prompts for its value and is judged.
 
 #include "board/DialogTrojuhelniku.h"
 #include "shell/Misc.h"
@@ -8,122 +9,147 @@ namespace rysovna {
 
 namespace {
 
+// Widths of the lists, px.
+constexpr int UZKY = 105, SIROKY = 200;
+
+/// A side that the triangle starts with: its list line, the letters of both ends; wrong step when
+/// it is not the one to start with.
+struct RadekStrany {
+    std::string_view Text, Prvek;
+    int ChybaVolby;
+};
+constexpr RadekStrany STRANY[] = {{"AB", "c", 3}, {"AC", "b", 2}, {"BC", "a", 1}};
+
+/// The angle at a vertex; wrong steps when it is not given.
+struct RadekPaprsku {
+    std::string_view Vrchol, Uhel;
+    int ChybaFaze2, ChybaFaze3;
+};
+constexpr RadekPaprsku PAPRSKY[] = {
+    {"A", "alfa", 38, 39}, {"B", "beta", 40, 41}, {"C", "gama", 42, 43}};
+
+/// The height that a parallel to a side stands for; wrong step when it is not given.
+struct VyskaStrany {
+    std::string_view Strana, Vyska;
+    int ChybaVolby;
+};
+constexpr VyskaStrany VYSKY[] = {{"AB", "vc", 26}, {"AC", "vb", 25}, {"BC", "va", 24}};
+
 constexpr int CHYBA_PAPRSEK_NECEKANY = 18;
 constexpr int CHYBA_KRUZNICE_NECEKANA = 21;
-
-// Where lblText4 stands behind lblText3, px.
-constexpr int ODSAZENI_JEDNOTKY = 142;
-constexpr int ODSAZENI_KOLMO = 66;
-
-// What is cut from a parallel's list line, by its lead-in, to get the name of the base.
-constexpr std::string_view UVODY_ROVNOBEZKY[] = {"s úsečkou ", "s přímkou ", "s polopřímkou "};
 
 // The only lead-in that a perpendicular's line loses: the comparisons for the longer ones look at
 // the first nine characters alone and never match, so those captions stay whole.
 constexpr std::string_view UVOD_KOLMICE = "k úsečce ";
 
-/// The height that a parallel to a side stands for.
-struct VyskaStrany {
-    std::string_view Strana, Vyska;
-};
-constexpr VyskaStrany VYSKY[] = {{"AB", "vc"}, {"AC", "vb"}, {"BC", "va"}};
-
-std::string BezUvodu(const std::string& text, std::string_view uvod) {
-    return text.starts_with(uvod) ? text.substr(uvod.size()) : text;
-}
-
-/// The last object whose first name is the first letter of jmena and whose second name is its
-/// second letter; 0 if none is.
-int NajdiUtvar(std::string_view jmena) {
-    int nalezeny = 0;
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        if (Utvary[i].Jmeno1 == jmena.substr(0, 1) &&
-            Utvary[i].Jmeno2 == (jmena.size() > 1 ? jmena.substr(1, 1) : "")) {
-            nalezeny = i;
-        }
-    }
-    return nalezeny;
-}
-
 }  // namespace
 
-void DialogTrojuhelniku::VyberRadku(int i) {
-    if (stav_.Skontrolovano) return;
-    if (!stav_.Combo.Otevreny || i < 1 || i > static_cast<int>(stav_.Combo.Radky.size())) return;
-    const RadekSeznamu& radek = stav_.Combo.Radky[static_cast<std::size_t>(i - 1)];
-    if (!radek.Videt || !radek.Ziva) return;
-    ZavriSeznam();
+/// A kind of object: its list, and what becomes of a chosen line.
+struct DialogTrojuhelniku::Nastroj {
+    std::string_view Druh;
+    int Sirka;  ///< px, of the list
+    std::vector<RadekSeznamu> (DialogTrojuhelniku::*Radky)() const;
+    void (DialogTrojuhelniku::*Zvol)(std::size_t i);
+};
+
+/// The first is the only tool of the first phase, the others stand in the order of the buttons.
+std::span<const DialogTrojuhelniku::Nastroj> DialogTrojuhelniku::Nastroje() {
+    using D = DialogTrojuhelniku;
+    static constexpr Nastroj NASTROJE[] = {{USECKA, UZKY, &D::Strany, &D::ZvolStranu},
+                                           {POLOPRIMKA, UZKY, &D::Paprsky, &D::ZvolPaprsek},
+                                           {KOLMICE, SIROKY, &D::Primky, &D::ZvolKolmici},
+                                           {ROVNOBEZKA, SIROKY, &D::Primky, &D::ZvolRovnobezku},
+                                           {KRUZNICE, SIROKY, &D::Kruznice, &D::ZvolKruznici}};
+    return NASTROJE;
+}
+
+void DialogTrojuhelniku::Nabidni(int i) {
+    const Nastroj& n = Nastroje()[stav_.Faze == 1 ? 0 : static_cast<std::size_t>(i)];
+    stav_.ZvolenyUtvar = n.Druh;
+    if (n.Druh == USECKA) HranyProUpravu().Kroky[1].Hotovo = ANO;
+    if (n.Druh == ROVNOBEZKA) stav_.ZvolenyNazev.clear();
+    OtevriSeznam(n.Sirka, (this->*n.Radky)());
+}
+
+void DialogTrojuhelniku::ZvolRadek(std::size_t i) {
     stav_.Velicina.clear();
-    SmazRadekUtvaru(PocetUtvaru + 1);
-    SmazRadekTrojic(PocetTrojic + 1);
-    stav_.CekaNaKresleni = true;
-    stav_.Tazeni = false;
-    if (stav_.ZvolenyUtvar == USECKA) return ZvolStranu(i);
-    if (stav_.ZvolenyUtvar == POLOPRIMKA) return ZvolPaprsek(i);
-    if (stav_.ZvolenyUtvar == ROVNOBEZKA) return ZvolRovnobezku(i);
-    if (stav_.ZvolenyUtvar == KRUZNICE) return ZvolKruznici(i);
-    ZvolKolmici(i);
+    for (const Nastroj& n : Nastroje()) {
+        if (n.Druh == stav_.ZvolenyUtvar) return (this->*n.Zvol)(i);
+    }
 }
 
-void DialogTrojuhelniku::Napis(int /*ktery*/, const std::string& text) {
-    stav_.txtVstup.Text = text;
-}
+// ---- Lists -----------------------------------------------------------------------------------
 
-/// Names the points of the new object.
-void DialogTrojuhelniku::Pripoj(std::string jmeno1, std::string jmeno2) {
-    Utvar& novy = Utvary[PocetUtvaru + 1];
-    novy.Jmeno1 = std::move(jmeno1);
-    novy.Jmeno2 = std::move(jmeno2);
-}
-
-/// Prompts for a value.
-void DialogTrojuhelniku::Vyzvi(std::string vyzva, std::string jednotka) {
-    stav_.lblText3 = std::move(vyzva);
-    stav_.lblText4 = {std::move(jednotka), true, false, ODSAZENI_JEDNOTKY, false};
-    stav_.txtVstup = {"", true, true};
-}
-
-/// Takes the first expected step of this kind that was not taken yet.
-bool DialogTrojuhelniku::ObsadKrok(std::string_view druh) {
-    for (const int n : {2, 3}) {
-        Krok& krok = Priklady[cisloPrikladu_].Kroky[n];
-        if (krok.Hotovo != NE || !DruhSedi(krok, druh)) continue;
-        krok.Hotovo = ANO;
-        return true;
+/// Whether the letter is a name of the last object, in phase 3 also of the one before.
+bool DialogTrojuhelniku::VrcholVDosahu(std::string_view pismeno) const {
+    const int kolik = stav_.Faze == 3 ? 2 : 1;
+    for (int i = PocetUtvaru; i > PocetUtvaru - kolik && i >= 1; --i) {
+        if (Utvary[i].Jmeno1 == pismeno || Utvary[i].Jmeno2 == pismeno) return true;
     }
     return false;
 }
 
-void DialogTrojuhelniku::Zapis(std::string_view druh, std::string_view prvek) {
-    ZadanyPrvek& z = ZadanePrvky[stav_.Faze];
-    z.Faze = static_cast<std::int16_t>(stav_.Faze);
-    z.Utvar = druh;
-    z.Prvek = prvek;
+bool DialogTrojuhelniku::StredVDosahu(std::string_view stred) const {
+    return VrcholVDosahu(stred);
 }
 
-void DialogTrojuhelniku::ZvolStranu(int i) {
-    const RadekStrany& r = pravidla_.Strany[static_cast<std::size_t>(i - 1)];
+std::vector<RadekSeznamu> DialogTrojuhelniku::Strany() const {
+    std::vector<RadekSeznamu> radky;
+    for (const RadekStrany& r : STRANY) radky.push_back({std::string(r.Text), true, true, {}});
+    return radky;
+}
+
+std::vector<RadekSeznamu> DialogTrojuhelniku::Paprsky() const {
+    std::vector<RadekSeznamu> radky;
+    for (const RadekPaprsku& r : PAPRSKY) {
+        radky.push_back({std::string(r.Vrchol) + Jmeno(), true, VrcholVDosahu(r.Vrchol), {}});
+    }
+    return radky;
+}
+
+/// What a perpendicular or a parallel can go by: the first side, and the first object if straight.
+std::vector<RadekSeznamu> DialogTrojuhelniku::Primky() const {
+    std::vector<RadekSeznamu> radky;
+    for (int i = 1; i <= PocetUtvaru; ++i) {
+        RadekSeznamu r = RadekPrimky(Utvary[i], stav_.ZvolenyUtvar == KOLMICE);
+        if (r.Ziva) radky.push_back(std::move(r));
+    }
+    return radky;
+}
+
+std::vector<RadekSeznamu> DialogTrojuhelniku::Kruznice() const {
+    std::vector<RadekSeznamu> radky;
+    for (const RadekKruznice& r : pravidla_.Kruznice) {
+        radky.push_back(
+            {"kružnice " + Jmeno() + ", " + std::string(r.Text), true, StredVDosahu(r.Stred), {}});
+    }
+    return radky;
+}
+
+// ---- Choosing a line -------------------------------------------------------------------------
+
+bool DialogTrojuhelniku::PrvniStranaSpravna(std::string_view prvek) const {
+    return JeZadana(prvek);
+}
+
+void DialogTrojuhelniku::ZvolStranu(std::size_t i) {
+    const RadekStrany& r = STRANY[i];
     const std::string strana(r.Text);
     stav_.ZvolenyPrvek = r.Prvek;
     stav_.Velicina = r.Prvek;
-    Pripoj(strana.substr(0, 1), strana.substr(1));
+    ZacniUtvar(strana.substr(0, 1), strana.substr(1));
     Vyzvi("úsečka " + strana + ", |" + strana + "| = ", " cm");
-    stav_.KrokChybny = false;
     if (!PrvniStranaSpravna(r.Prvek)) ChybnaVolba(r.ChybaVolby);
     Zapis(USECKA, r.Prvek);
 }
 
-void DialogTrojuhelniku::ZvolPaprsek(int i) {
-    const RadekPaprsku& r = pravidla_.Paprsky[static_cast<std::size_t>(i - 1)];
+void DialogTrojuhelniku::ZvolPaprsek(std::size_t i) {
+    const RadekPaprsku& r = PAPRSKY[i];
     const std::string vrchol(r.Vrchol);
-    const std::string druhyBod = stav_.Faze == 2 ? "X" : "Y";
     const Utvar& posledni = Utvary[PocetUtvaru];
-    const std::string rameno = posledni.Jmeno1 == vrchol ? posledni.Jmeno2 : posledni.Jmeno1;
-    stav_.ZvolenyPrvek = r.Prvek;
-    stav_.Velicina = r.Prvek.substr(vrchol.size());
-    Pripoj(vrchol, druhyBod);
-    Vyzvi("polopřímka " + vrchol + druhyBod + ", |<" + rameno + vrchol + druhyBod + "| = ", "°");
-    stav_.KrokChybny = false;
+    stav_.Velicina = r.Uhel;
+    stav_.ZvolenyPrvek = vrchol + stav_.Velicina;
+    ZacniPaprsek(posledni.Jmeno1 == vrchol ? posledni.Jmeno2 : posledni.Jmeno1, vrchol);
     if (!ObsadKrok(POLOPRIMKA)) {
         ChybnaVolba(CHYBA_PAPRSEK_NECEKANY);
     } else if (!JeZadana(stav_.Velicina)) {
@@ -132,28 +158,23 @@ void DialogTrojuhelniku::ZvolPaprsek(int i) {
     Zapis(POLOPRIMKA, stav_.Velicina);
 }
 
-void DialogTrojuhelniku::ZvolRovnobezku(int i) {
-    std::string nazev = stav_.Combo.Radky[static_cast<std::size_t>(i - 1)].Text;
-    for (const std::string_view uvod : UVODY_ROVNOBEZKY) nazev = BezUvodu(nazev, uvod);
-    stav_.ZvolenyNazev = nazev;
-    const std::string p = stav_.Faze == 2 ? "p" : "q";
-    Pripoj(p, "");
-    Vyzvi("přímka " + p + ", " + p + "||" + nazev + ", |" + p + "," + nazev + "| = ", " cm");
-    VybranyUtvar = NajdiUtvar(nazev);
-    std::string_view vyska;
+void DialogTrojuhelniku::ZvolRovnobezku(std::size_t i) {
+    stav_.ZvolenyNazev = stav_.Combo.Radky[i].Tag;
+    ZacniPrimku(stav_.ZvolenyNazev, stav_.ZvolenyNazev);
+    int chyba = 0;  // of a parallel to what is no side: none, and no value either
     for (const VyskaStrany& v : VYSKY) {
-        if (v.Strana == nazev) vyska = v.Vyska;
+        if (v.Strana != stav_.ZvolenyNazev) continue;
+        stav_.Velicina = v.Vyska;
+        chyba = v.ChybaVolby;
     }
-    stav_.ZvolenyPrvek = vyska;
-    stav_.Velicina = vyska;
-    PosudVolbuRovnobezky(vyska);
-    Zapis(ROVNOBEZKA, vyska);
+    stav_.ZvolenyPrvek = stav_.Velicina;
+    const bool soudiSe = pravidla_.ChybaRovnobezky == 0 && chyba != 0;
+    if (soudiSe && !JeZadana(stav_.Velicina)) ChybnaVolba(chyba);
+    Zapis(ROVNOBEZKA, stav_.Velicina);
 }
 
-void DialogTrojuhelniku::ZvolKruznici(int i) {
-    const RadekKruznice& r = pravidla_.Kruznice[static_cast<std::size_t>(i - 1)];
-    const bool ceka = ObsadKrok(KRUZNICE);
-    const std::string k = stav_.Faze == 2 ? "k" : "l";
+void DialogTrojuhelniku::ZvolKruznici(std::size_t i) {
+    const RadekKruznice& r = pravidla_.Kruznice[i];
     const Utvar& strana = Utvary[stav_.Faze == 2 ? PocetUtvaru : PocetUtvaru - 1];
     const std::string jmena = strana.Jmeno1 + strana.Jmeno2;
     const std::size_t podle = jmena == "AB" ? 0 : jmena == "AC" ? 1 : 2;
@@ -162,26 +183,21 @@ void DialogTrojuhelniku::ZvolKruznici(int i) {
         stav_.ZvolenyNazev = p.Nazev;
     }
     stav_.Velicina = stav_.ZvolenyNazev;
-    Pripoj(k, "");
-    Vyzvi("kružnice " + k + "(" + std::string(r.Stred) + ", r = ", ") cm");
-    stav_.KrokChybny = false;
+    ZacniKruznici(r.Stred);
+    const bool ceka = ObsadKrok(KRUZNICE);
     if (KruzniceJeChyba(ceka)) {
         ChybnaVolba(CHYBA_KRUZNICE_NECEKANA);
-    } else if (!JeZadana(stav_.ZvolenyNazev)) {
+    } else if (!JeZadana(stav_.Velicina)) {
         ChybnaVolba(r.ChybaVolby);
     }
-    Zapis(KRUZNICE, stav_.ZvolenyNazev);
+    Zapis(KRUZNICE, stav_.Velicina);
 }
 
-void DialogTrojuhelniku::ZvolKolmici(int i) {
-    const RadekSeznamu radek = stav_.Combo.Radky[static_cast<std::size_t>(i - 1)];
-    stav_.ZvolenyNazev = BezUvodu(radek.Text, UVOD_KOLMICE);
-    const std::string p = stav_.Faze == 2 ? "b" : "c";
-    Pripoj(p, "");
-    stav_.lblText3 = "přímka " + p + ", " + p + "      " + stav_.ZvolenyNazev;
-    stav_.lblText4 = {"^", true, true, ODSAZENI_KOLMO, true};
-    stav_.txtVstup = {};
-    VybranyUtvar = NajdiUtvar(radek.Tag);
+void DialogTrojuhelniku::ZvolKolmici(std::size_t i) {
+    const RadekSeznamu& r = stav_.Combo.Radky[i];
+    const bool useknout = r.Text.starts_with(UVOD_KOLMICE);
+    stav_.ZvolenyNazev = useknout ? r.Text.substr(UVOD_KOLMICE.size()) : r.Text;
+    ZacniPrimku(r.Tag, stav_.ZvolenyNazev);
     Zapis(KOLMICE, "");
 }
 

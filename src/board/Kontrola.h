@@ -2,10 +2,6 @@
 
 #include <string_view>
 
-#include "base/Bod.h"
-#include "base/Plane.h"
-#include "board/Dialog.h"
-
 namespace rysovna {
 
 // The points texts that stand behind the sentence of a wrong step.
@@ -35,15 +31,5 @@ enum class Verdikt { Bezchybne, SChybami };
 
 /// Settles the example by its penalty sum: plus and minus points of the session, 10 together.
 Verdikt Vyuctuj(bool hotova);
-
-/// Empties the construction for a new example: planes, counters, the rows of the construction and
-/// of the wrong steps, every done flag of every record. What the pupil entered goes with the choice
-/// of the new example.
-void VyprazdniKonstrukci(const Platna& platna);
-/// Clears what the pupil entered in the first ten phases.
-void ZapomenZadanePrvky();
-
-/// Prints a vertex's letter beside it, in a free spot.
-void PopisVrchol(Plane& plocha, Bod vrchol, std::string_view pismeno);
 
 }  // namespace rysovna

@@ -32,6 +32,9 @@ struct PrvekNacrtu {
     float PX, PY;              ///< where
 };
 
+constexpr auto CARA = PrvekNacrtu::Tvar::Usecka;
+constexpr auto OBLOUK = PrvekNacrtu::Tvar::Oblouk;
+
 /// A letter of the sketch that is no element: the name of a vertex.
 struct PismenoNacrtu {
     std::string_view Text;

@@ -29,6 +29,7 @@ struct RadekSeznamu {
 
 /// The pick list of the step dialogue.
 struct Seznam {
+    static constexpr int VYSKA_RADKU = 20, OKRAJ = 4;  ///< px; the edge is that of both sides
     bool Otevreny = false;
     int Sirka = 105, Vyska = 64;  ///< px
     int SirkaRadku = 101;         ///< px

@@ -22,6 +22,17 @@ bool Trojuhelnikova(double a, double b, double c) {
     return a + b > c && b + c > a && a + c > b;
 }
 
+void VylosujTri(const std::array<Vzorec, 3>& vzorce, HodnotyPrikladu& hodnoty) {
+    for (std::size_t i = 0; i < vzorce.size(); ++i) {
+        hodnoty[i] = Generator.D(vzorce[i].Rozpeti, vzorce[i].Zaklad);
+    }
+}
+
+bool StejnaVelicina(std::string_view a, std::string_view b) {
+    const auto cele = [](std::string_view n) { return n == "delt" ? "delta" : n; };
+    return cele(a) == cele(b);
+}
+
 std::string_view PismenoUhlu(std::string_view nazev) {
     for (const auto& [jmeno, pismeno] : UHLY) {
         if (jmeno == nazev) return pismeno;

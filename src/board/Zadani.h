@@ -16,8 +16,26 @@ struct Vzorec {
     int Rozpeti, Zaklad;
 };
 
-/// The three values of an example, in the order of the rows of their table.
-using Hodnoty3 = std::array<int, 3>;
+/// The values of an example in the order of its names: three, on some quadrilaterals five.
+using HodnotyPrikladu = std::array<int, 5>;
+
+/// After so many draws the last one holds, whatever it is: data whose quantities do not go together
+/// must not hold a board up for ever. A hundred at most are needed by others.
+constexpr int NEJVIC_LOSOVANI = 20000;
+
+/// Draws the first three values.
+void VylosujTri(const std::array<Vzorec, 3>& vzorce, HodnotyPrikladu& hodnoty);
+
+/// A given quantity as the data name it.
+struct Zadana {
+    std::string_view Nazev, Jednotka;
+};
+
+/// Whether two names mean the same quantity: data spell delta also "delt".
+[[nodiscard]] bool StejnaVelicina(std::string_view a, std::string_view b);
+
+/// Space before a label of the assignment, and before the value of an angle, px.
+constexpr int MEZERA = 2, MEZERA_UHLU = 4;
 
 /// Whether three lengths make a triangle, strictly.
 [[nodiscard]] bool Trojuhelnikova(double a, double b, double c);

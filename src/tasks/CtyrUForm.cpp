@@ -4,7 +4,7 @@ namespace rysovna {
 
 namespace {
 
-const PravidlaCtyruhelniku PRAVIDLA{"Sestroj čtyřúhelník ABCD:", CELE_TROJUHELNIKY, VETY_CELYCH};
+constexpr PravidlaCtyruhelniku PRAVIDLA{"Sestroj čtyřúhelník ABCD:", VETY_CELYCH};
 constexpr PravidlaVrcholu VRCHOL{.Rovnobezky = false, .HoleStrany = false};
 
 }  // namespace

@@ -4,7 +4,7 @@ namespace rysovna {
 
 namespace {
 
-const PravidlaCtyruhelniku PRAVIDLA{"Sestroj lichoběžník ABCD:", CELE_TROJUHELNIKY, VETY_CELYCH};
+constexpr PravidlaCtyruhelniku PRAVIDLA{"Sestroj lichoběžník ABCD:", VETY_CELYCH};
 constexpr PravidlaVrcholu VRCHOL{.Rovnobezky = true, .HoleStrany = true};
 
 }  // namespace

@@ -3,17 +3,14 @@
 #include <algorithm>
 
 #include "base/Cisla.h"
+#include "board/Radky.h"
 #include "engine/Kresleni.h"
 #include "engine/Tabulky.h"
 #include "shell/Misc.h"
-#include "shell/Soubory.h"
 
 namespace rysovna {
 
 namespace {
-
-constexpr std::string_view TROJUHELNIKY[] = {"ABC", "BCD", "CDA", "DAB",
-                                             "ABS", "BCS", "CDS", "DAS"};
 
 // Whole triangles as on every quadrilateral. In a triangle with the centre S the halves of the
 // diagonals are typed; the angle of the diagonals has no number of its own.
@@ -24,40 +21,31 @@ constexpr VetaTrojuhelniku SeStranou(std::string_view t, VstupVety strana, Vstup
 constexpr VstupVety AS{"e", "AS", 127, true}, BS{"f", "BS", 128, true}, CS{"e", "CS", 127, true},
     DS{"f", "DS", 128, true};
 constexpr VstupVety EPSI{"epsi", "epsi", 0}, OMEG{"omeg", "omeg", 0};
-const std::vector<VetaTrojuhelniku>& Vety() {
-    static const std::vector<VetaTrojuhelniku> vety = [] {
-        std::vector<VetaTrojuhelniku> v(VETY_CELYCH.begin(), VETY_CELYCH.end());
-        v.push_back(SeStranou("ABS", {"a", "a", 113}, BS, AS));
-        v.push_back(SeStranou("BCS", {"b", "b", 114}, CS, BS));
-        v.push_back(SeStranou("CDS", {"c", "c", 115}, DS, CS));
-        v.push_back(SeStranou("DAS", {"d", "d", 116}, AS, DS));
-        v.push_back({"sus", "ABS", "ASB", {AS, BS, EPSI}});
-        v.push_back({"sus", "BCS", "BSC", {BS, CS, OMEG}});
-        v.push_back({"sus", "CDS", "CSD", {CS, DS, EPSI}});
-        v.push_back({"sus", "DAS", "DSA", {DS, AS, OMEG}});
-        return v;
-    }();
-    return vety;
-}
+constexpr auto VETY = Spoj(VETY_CELYCH, std::array<VetaTrojuhelniku, 8>{
+                                            SeStranou("ABS", {"a", "a", 113}, BS, AS),
+                                            SeStranou("BCS", {"b", "b", 114}, CS, BS),
+                                            SeStranou("CDS", {"c", "c", 115}, DS, CS),
+                                            SeStranou("DAS", {"d", "d", 116}, AS, DS),
+                                            {"sus", "ABS", "ASB", {AS, BS, EPSI}},
+                                            {"sus", "BCS", "BSC", {BS, CS, OMEG}},
+                                            {"sus", "CDS", "CSD", {CS, DS, EPSI}},
+                                            {"sus", "DAS", "DSA", {DS, AS, OMEG}},
+                                        });
 
-const PravidlaCtyruhelniku& PravidlaDesky() {
-    static const PravidlaCtyruhelniku pravidla{"Sestroj rovnoběžník ABCD:", TROJUHELNIKY, Vety()};
-    return pravidla;
-}
+constexpr PravidlaCtyruhelniku PRAVIDLA{"Sestroj rovnoběžník ABCD:", VETY};
 
 /// How the three values are drawn, kinds from Od to Po (two digits, so text compares as numbers).
+/// The first two are lengths.
 struct Losovani {
     std::string_view Od, Po;
-    Vzorec Treti;     ///< the third value, where it is an angle
-    bool Uhel;        ///< two diagonals, the first the longer, and their angle
-    bool Uhlopricky;  ///< the two diagonals are even; their halves fit the third value
+    std::array<Vzorec, 2> Treti;  ///< the third value of an even kind, of an odd one
+    bool Uhel;                    ///< two diagonals, the first the longer, and their angle
+    bool Uhlopricky;              ///< diagonals are even: their halves fit the third value
 };
-constexpr Vzorec DELKA{12, 10};
-constexpr Losovani LOSOVANI[] = {
-    {"01", "24", DELKA, false, false},  {"25", "56", DELKA, false, true},
-    {"57", "57", {70, 91}, true, true}, {"58", "58", {67, 22}, true, true},
-    {"59", "59", {70, 91}, true, true}, {"60", "60", {67, 22}, true, true},
-};
+constexpr Vzorec DELKA{12, 10}, OSTRY{67, 22}, TUPY{70, 91};
+constexpr Losovani LOSOVANI[] = {{"01", "24", {DELKA, DELKA}, false, false},
+                                 {"25", "56", {DELKA, DELKA}, false, true},
+                                 {"57", "60", {OSTRY, TUPY}, true, true}};
 
 constexpr std::string_view STRED_SOUMERNOSTI = "stredsoumernosti", OBRAZ_BODU = "obrazbodu";
 constexpr std::string_view STRED = "S";
@@ -89,7 +77,7 @@ char Protejsi(char vrchol) {
     return i == std::string_view::npos ? vrchol : VRCHOLY[(i + 2) % 4];
 }
 
-bool Vyhovuje(const Losovani& l, const std::string_view (&nazvy)[3], const Hodnoty5& h) {
+bool Vyhovuje(const Losovani& l, const std::string_view (&nazvy)[3], const HodnotyPrikladu& h) {
     if (l.Uhel) return h[0] > h[1] && Sude(h[0]) && Sude(h[1]);
     double delky[3];
     for (std::size_t i = 0; i < 3; ++i) {
@@ -102,22 +90,15 @@ bool Vyhovuje(const Losovani& l, const std::string_view (&nazvy)[3], const Hodno
 
 }  // namespace
 
-RovnoDialog::RovnoDialog(Platna platna) : DialogCtyruhelniku(platna, PravidlaDesky()) {}
+RovnoDialog::RovnoDialog(Platna platna) : DialogCtyruhelniku(platna, PRAVIDLA) {}
 
-std::vector<Zadana> RovnoDialog::Zadane() const {
-    const Priklad& p = Hrany();
-    return {{p.Nazev1, p.Jednotka1}, {p.Nazev2, p.Jednotka2}, {p.Nazev3, p.Jednotka3}};
-}
-
-bool RovnoDialog::VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) {
-    constexpr int NEJVIC_LOSOVANI = 20000;  // data that do not go together must not hold it up
+bool RovnoDialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
     const std::string_view nazvy[] = {p.Nazev1, p.Nazev2, p.Nazev3};
     for (const Losovani& l : LOSOVANI) {
         if (p.Druh < l.Od || p.Druh > l.Po) continue;
+        const std::size_t lichy = p.Druh.back() % 2 == 0 ? 0 : 1;
         for (int i = 0; i < NEJVIC_LOSOVANI; ++i) {
-            hodnoty[0] = Generator.D(DELKA.Rozpeti, DELKA.Zaklad);
-            hodnoty[1] = Generator.D(DELKA.Rozpeti, DELKA.Zaklad);
-            hodnoty[2] = Generator.D(l.Treti.Rozpeti, l.Treti.Zaklad);
+            VylosujTri({DELKA, DELKA, l.Treti[lichy]}, hodnoty);
             if (Vyhovuje(l, nazvy, hodnoty)) break;
         }
         return true;
@@ -213,14 +194,11 @@ void RovnoDialog::NabidniObrazy() {
     OtevriSeznam(SIRKA_SEZNAMU_OBRAZU, std::move(radky));
 }
 
-void RovnoDialog::ZvolDalsi(const RadekSeznamu& radek) {
+void RovnoDialog::ZvolDalsi(std::size_t i) {
+    const std::string kod = Stav().Combo.Radky[i].Tag;
     Upravit().CekaNaKresleni = true;
-    Upravit().ZvolenyPrvek = radek.Tag;
-    if (Stav().ZvolenyUtvar == STRED_SOUMERNOSTI) {
-        ZvolStred(radek.Tag);
-    } else {
-        ZvolObraz(radek.Tag);
-    }
+    Upravit().ZvolenyPrvek = kod;
+    Stav().ZvolenyUtvar == STRED_SOUMERNOSTI ? ZvolStred(kod) : ZvolObraz(kod);
 }
 
 void RovnoDialog::ZvolStred(const std::string& kod) {
@@ -256,12 +234,6 @@ bool RovnoDialog::PrvekSpravny(int faze) const {
 
 // ---- The plane -------------------------------------------------------------------------------
 
-void RovnoDialog::StiskPlochy(float x, float y) {
-    if (!CekaNaKresleni()) return;
-    Upravit().Tazeni = true;
-    Upravit().Start = {Zaokrouhli(x), Zaokrouhli(y)};
-}
-
 /// Marks the centre. maPismeno: it is the vertex S of the triangle, which has its letter already.
 void RovnoDialog::NakresliStred(Bod stred, bool maPismeno) {
     const int n = NovyUtvar(STRED, "");
@@ -269,8 +241,7 @@ void RovnoDialog::NakresliStred(Bod stred, bool maPismeno) {
 }
 
 /// The click marks the computed point, near or far: where the triangle is missing, its own place.
-void RovnoDialog::PusteniPlochy(float /*x*/, float /*y*/) {
-    if (!CekaNaKresleni() || !Stav().Tazeni) return;
+void RovnoDialog::NakresliUtvar(Bod /*konec*/) {
     const std::string prvek = Stav().ZvolenyPrvek;
     Bod bod = Stav().Start;
     if (Stav().ZvolenyUtvar == STRED_SOUMERNOSTI) {
@@ -286,8 +257,6 @@ void RovnoDialog::PusteniPlochy(float /*x*/, float /*y*/) {
         const int n = NovyUtvar(hledany, "");
         KresliBod(platna_.Pic, BOD, hledany, n, bod.X, bod.Y, hledany, "", ANO);
     }
-    DalsiFaze();
-    if (Stav().Faze == PosledniFaze()) Uzavri();
 }
 
 /// The sides that the triangle lacks.
@@ -310,7 +279,6 @@ void RovnoDialog::Uzavri() {
 // ---- The panel -------------------------------------------------------------------------------
 
 void RovnoDialog::UkazDalsi(Panel& p) const {
-    constexpr std::array<int, 6> TVARY_KROKU = {11, 15, 0, 0, 12, 0};
     const bool ceka = Stav().CekaNaKresleni;
     const bool stred = Stav().Faze == 2;
     if (stred) {
@@ -318,11 +286,7 @@ void RovnoDialog::UkazDalsi(Panel& p) const {
     } else {
         p.lblText1 = ceka ? VYZVA_OBRAZ_KLIK : VYZVA_OBRAZ;
     }
-    for (std::size_t i = 0; i < TVARY_KROKU.size(); ++i) {
-        const bool naRade = i == 4 || (i == 0 && stred) || (i == 1 && !stred);
-        const bool zive = !ceka && TVARY_KROKU[i] != 0 && naRade;
-        p.cmd[i] = {TVARY_KROKU[i], zive, zive};
-    }
+    UkazNastroje(p, {11, 15, 0, 0, 12, 0}, {stred, !stred, false, false, true});
 }
 
 std::unique_ptr<Dialog> RovnoForm::VyrobDialog(Platna platna) {

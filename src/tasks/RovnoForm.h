@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,19 +17,15 @@ class RovnoDialog final : public DialogCtyruhelniku {
 public:
     explicit RovnoDialog(Platna platna);
 
-    void StiskPlochy(float x, float y) override;
-    [[nodiscard]] Gumicka Tah(float /*x*/, float /*y*/) const override { return {}; }
-    [[nodiscard]] std::uint32_t CekaniPoTahu() const override { return 100; }
-    void PusteniPlochy(float x, float y) override;
-
 protected:
-    [[nodiscard]] std::vector<Zadana> Zadane() const override;
-    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, Hodnoty5& hodnoty) override;
+    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;
     void NabidniDalsi(int i) override;
-    void ZvolDalsi(const RadekSeznamu& radek) override;
+    void ZvolDalsi(std::size_t i) override;
     [[nodiscard]] int PosledniFaze() const override;
     [[nodiscard]] bool PrvekSpravny(int faze) const override;
     void UkazDalsi(Panel& panel) const override;
+    void NakresliUtvar(Bod konec) override;
+    void Uzavri() override;
 
 private:
     void NabidniStredy();
@@ -38,7 +33,6 @@ private:
     void ZvolStred(const std::string& kod);
     void ZvolObraz(const std::string& vzor);
     void NakresliStred(Bod stred, bool maPismeno);
-    void Uzavri();
     [[nodiscard]] std::vector<std::string_view> Stredy() const;
     [[nodiscard]] std::vector<std::string_view> Vzory() const;
     [[nodiscard]] std::optional<Bod> Misto(std::string_view pismeno) const;

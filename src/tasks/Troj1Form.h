@@ -16,14 +16,9 @@ public:
     explicit Troj1Dialog(Platna platna);
 
 protected:
-    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) override;
-    void SestavZadani(const Priklad& p, const Hodnoty3& hodnoty,
-                      std::vector<PolozkaZadani>& zadani) override;
-    [[nodiscard]] int Hodnota(std::string_view velicina) const override;
-    [[nodiscard]] bool PrvniStranaSpravna(std::string_view prvek) const override;
+    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;
+    void SestavZadani(std::vector<PolozkaZadani>& zadani) const override;
     [[nodiscard]] bool KruzniceJeChyba(bool krokCekal) const override;
-    void PosudVolbuRovnobezky(std::string_view vyska) override;
-    void PosudStiskRovnobezky() override;
 };
 
 /// The board of the triangle by SSS, SUS and USU (tasks 1 to 3).

@@ -3,87 +3,73 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "board/Radky.h"
+#include "board/RadkyTrojuhelniku.h"
 #include "shell/Misc.h"
 
 namespace rysovna {
 
 namespace {
 
-constexpr RadekStrany STRANY[] = {{"AB", "c", 3}, {"AC", "b", 2}, {"BC", "a", 1}};
-
-constexpr RadekPaprsku PAPRSKY[] = {
-    {"A", "Aalfa", 38, 39}, {"B", "Bbeta", 40, 41}, {"C", "Cgama", 42, 43}};
-
-// The quantity by the first side: AB, AC, BC. A circle about a midpoint stands for its median,
-// whatever the first side.
+// A circle about a midpoint stands for its median, whatever the first side.
 using Podle = RadekKruznice::Podle;
 constexpr std::array<Podle, 3> Teznice(std::string_view prvek, std::string_view nazev) {
     return {Podle{prvek, nazev}, Podle{prvek, nazev}, Podle{prvek, nazev}};
 }
-constexpr RadekKruznice KRUZNICE_RADKY[] = {
-    {"A", "střed v bodě A", {{{"AkB", "b"}, {"AkC", "c"}, {}}}, 32},
-    {"B", "střed v bodě B", {{{"BkA", "a"}, {}, {"BkC", "c"}}}, 33},
-    {"C", "střed v bodě C", {{{}, {"CkA", "a"}, {"CkB", "b"}}}, 34},
-    {"Sc", "střed ve středu AB", Teznice("Sck", "tc"), 37},
-    {"Sb", "střed ve středu AC", Teznice("Sbk", "tb"), 36},
-    {"Sa", "střed ve středu BC", Teznice("Sak", "ta"), 35}};
+constexpr auto KRUZNICE_RADKY =
+    Spoj(KRUZNICE_VRCHOLU,
+         std::array<RadekKruznice, 3>{{{"Sc", "střed ve středu AB", Teznice("Sck", "tc"), 37},
+                                       {"Sb", "střed ve středu AC", Teznice("Sbk", "tb"), 36},
+                                       {"Sa", "střed ve středu BC", Teznice("Sak", "ta"), 35}}});
 
-constexpr CenaVeliciny CENY[] = {
-    {USECKA, "a", 7, 13},         {USECKA, "b", 8, 14},         {USECKA, "c", 9, 15},
-    {POLOPRIMKA, "alfa", 10, 30}, {POLOPRIMKA, "beta", 11, 30}, {POLOPRIMKA, "gama", 12, 30},
-    {KRUZNICE, "a", 7, 27},       {KRUZNICE, "b", 8, 28},       {KRUZNICE, "c", 9, 29},
-    {KRUZNICE, "ta", 55, 52},     {KRUZNICE, "tb", 56, 53},     {KRUZNICE, "tc", 57, 54},
-    {ROVNOBEZKA, "va", 130, 58},  {ROVNOBEZKA, "vb", 131, 59},  {ROVNOBEZKA, "vc", 132, 60}};
+constexpr auto CENY = Spoj(CENY_STRAN, std::array<CenaVeliciny, 6>{{{KRUZNICE, "ta", 55, 52},
+                                                                    {KRUZNICE, "tb", 56, 53},
+                                                                    {KRUZNICE, "tc", 57, 54},
+                                                                    {ROVNOBEZKA, "va", 130, 58},
+                                                                    {ROVNOBEZKA, "vb", 131, 59},
+                                                                    {ROVNOBEZKA, "vc", 132, 60}}});
 
-// The sketch: the triangle A(40, 140), B(260, 140), C(150, 30) with its medians. In it the heights
-// would lie on sides and on a median, so each is drawn as a dimension line of the right length and
-// direction outside. The zones of the medians keep clear of the vertices and of the angles.
-constexpr auto CARA = PrvekNacrtu::Tvar::Usecka;
-constexpr auto OBLOUK = PrvekNacrtu::Tvar::Oblouk;
-constexpr PrvekNacrtu NACRT[] = {
-    {"c", {40, 260, 0, 140, 2}, CARA, 40, 140, 260, 140, 0, 0, 0, "c", false, 150, 145},
-    {"a", {150, 260, 1, -120, 5}, CARA, 150, 30, 260, 140, 0, 0, 0, "a", false, 210, 65},
-    {"b", {40, 150, -1, 180, 5}, CARA, 40, 140, 150, 30, 0, 0, 0, "b", false, 80, 65},
-    {"alfa", {72, 76, 0, 123.5, 2.5}, OBLOUK, 40, 140, 260, 140, 150, 30, 52, "a", true, 70, 116},
-    {"beta", {218, 221, 0, 122, 4}, OBLOUK, 260, 140, 150, 30, 40, 140, 58, "b", true, 215, 116},
-    {"gama", {147, 152, 0, 52, 3}, OBLOUK, 150, 30, 40, 140, 260, 140, 40, "g", true, 146, 44},
-    {"va", {20, 130, -1, 140, 5}, CARA, 20, 120, 130, 10, 0, 0, 0, "va", false, 38, 72},
-    {"vb", {170, 280, 1, -160, 5}, CARA, 170, 10, 280, 120, 0, 0, 0, "vb", false, 243, 66},
-    {"vc", {5, 11, 0, 85, 55}, CARA, 8, 30, 8, 140, 0, 0, 0, "vc", false, 12, 78},
-    {"ta",
-     {90, 190, -1 / 3.0, 460 / 3.0, 4},
-     CARA,
-     40,
-     140,
-     205,
-     85,
-     0,
-     0,
-     0,
-     "ta",
-     false,
-     166,
-     76},
-    {"tb",
-     {110, 210, 1 / 3.0, 160 / 3.0, 4},
-     CARA,
-     260,
-     140,
-     95,
-     85,
-     0,
-     0,
-     0,
-     "tb",
-     false,
-     118,
-     76},
-    {"tc", {147, 153, 0, 97, 37}, CARA, 150, 30, 150, 140, 0, 0, 0, "tc", false, 155, 114}};
-constexpr PismenoNacrtu PISMENA[] = {{"A", 24, 138}, {"B", 266, 138}, {"C", 145, 10}};
+// The sketch has the heights and medians, too. In it the heights would lie on sides and on a
+// median, so each is drawn as a dimension line of the right length and direction outside. The zones
+// of the medians keep clear of the vertices and of the angles.
+constexpr auto NACRT = Spoj(
+    NACRT_STRAN,
+    std::array<PrvekNacrtu, 6>{
+        {{"va", {20, 130, -1, 140, 5}, CARA, 20, 120, 130, 10, 0, 0, 0, "va", false, 38, 72},
+         {"vb", {170, 280, 1, -160, 5}, CARA, 170, 10, 280, 120, 0, 0, 0, "vb", false, 243, 66},
+         {"vc", {5, 11, 0, 85, 55}, CARA, 8, 30, 8, 140, 0, 0, 0, "vc", false, 12, 78},
+         {"ta",
+          {90, 190, -1 / 3.0, 460 / 3.0, 4},
+          CARA,
+          40,
+          140,
+          205,
+          85,
+          0,
+          0,
+          0,
+          "ta",
+          false,
+          166,
+          76},
+         {"tb",
+          {110, 210, 1 / 3.0, 160 / 3.0, 4},
+          CARA,
+          260,
+          140,
+          95,
+          85,
+          0,
+          0,
+          0,
+          "tb",
+          false,
+          118,
+          76},
+         {"tc", {147, 153, 0, 97, 37}, CARA, 150, 30, 150, 140, 0, 0, 0, "tc", false, 155, 114}}});
 
-// The marks that are expected follow the names in the data, so no kind has a set of its own.
 constexpr PravidlaTrojuhelniku PRAVIDLA{
-    "Sestroj trojúhelník ABC:", STRANY, PAPRSKY, KRUZNICE_RADKY, CENY, {}, NACRT, PISMENA, true};
+    .Kruznice = KRUZNICE_RADKY, .Ceny = CENY, .Nacrt = NACRT, .ChybaRovnobezky = 0};
 
 // ---- Values of an example --------------------------------------------------------------------
 
@@ -136,64 +122,23 @@ constexpr PrvniStrana PRVNI_STRANA[] = {{4, &Priklad::Nazev2},
                                         {7, &Priklad::Nazev3},
                                         {8, &Priklad::Nazev2}};
 
-/// What the choice of a parallel costs when its height is not given.
-struct CenaVysky {
-    std::string_view Vyska;
-    int Chyba;
-};
-constexpr CenaVysky CENY_VYSEK[] = {{"va", 24}, {"vb", 25}, {"vc", 26}};
-
-constexpr int MEZERA = 2, MEZERA_UHLU = 4;  // px
-
 constexpr std::string_view STRED_USECKY = "Střed úsečky";
 constexpr int DOSAH_STREDU = 5;      // px, on either axis
 constexpr int ODSAZENI_STREDU = 15;  // px, of its name from the pointer
-
-constexpr char STRED_STRANY = 'S';
-
-// Numbers of the faces that the step buttons have here.
-constexpr int TVARY[] = {1, 3, 4, 5, 6, 12};
 
 }  // namespace
 
 Troj2Dialog::Troj2Dialog(Platna platna) : DialogTrojuhelniku(platna, PRAVIDLA) {}
 
-bool Troj2Dialog::VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) {
+bool Troj2Dialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
     for (const Losovani& l : LOSOVANI) {
         if (p.Druh < l.Od || p.Druh > l.Po) continue;
         do {
-            for (std::size_t i = 0; i < hodnoty.size(); ++i) {
-                hodnoty[i] = Generator.D(l.Vzorce[i].Rozpeti, l.Vzorce[i].Zaklad);
-            }
+            VylosujTri(l.Vzorce, hodnoty);
         } while (!l.Plati(hodnoty[0], hodnoty[1], hodnoty[2]));
         return true;
     }
     return false;
-}
-
-void Troj2Dialog::SestavZadani(const Priklad& p, const Hodnoty3& hodnoty,
-                               std::vector<PolozkaZadani>& zadani) {
-    const std::string* nazvy[] = {&p.Nazev1, &p.Nazev2, &p.Nazev3};
-    const std::string* jednotky[] = {&p.Jednotka1, &p.Jednotka2, &p.Jednotka3};
-    for (std::size_t i = 0; i < hodnoty.size(); ++i) {
-        const std::string_view pismeno = PismenoUhlu(*nazvy[i]);
-        const bool uhel = !pismeno.empty();
-        const bool novyRadek = i != 1;
-        zadani[2 * i] = uhel ? NazevUhlu(pismeno, MEZERA, novyRadek)
-                             : NazevStrany(*nazvy[i], MEZERA, novyRadek);
-        const bool posledni = i + 1 == hodnoty.size();
-        zadani[2 * i + 1] = HodnotaZadani(TextHodnoty(hodnoty[i], *jednotky[i], posledni),
-                                          uhel ? MEZERA_UHLU : MEZERA);
-    }
-}
-
-int Troj2Dialog::Hodnota(std::string_view velicina) const {
-    const Priklad& p = Hrany();
-    const std::string* nazvy[] = {&p.Nazev1, &p.Nazev2, &p.Nazev3};
-    for (std::size_t i = 0; i < std::size(nazvy); ++i) {
-        if (*nazvy[i] == velicina) return Hodnoty()[i];
-    }
-    return 0;
 }
 
 bool Troj2Dialog::PrvniStranaSpravna(std::string_view prvek) const {
@@ -207,24 +152,8 @@ bool Troj2Dialog::KruzniceJeChyba(bool krokCekal) const {
     return !krokCekal;
 }
 
-void Troj2Dialog::PosudVolbuRovnobezky(std::string_view vyska) {
-    StavProUpravu().KrokChybny = !JeZadana(vyska);
-    if (JeZadana(vyska)) return;
-    for (const CenaVysky& c : CENY_VYSEK) {
-        if (c.Vyska == vyska) ChybnaVolba(c.Chyba);
-    }
-}
-
 bool Troj2Dialog::DruhSedi(const Krok& krok, std::string_view druh) const {
     return !druh.empty() && (krok.Utvar == druh || krok.UtvarB == druh);
-}
-
-std::uint32_t Troj2Dialog::OcekavaneZnacky() const {
-    std::uint32_t znacky = 0;
-    for (std::size_t i = 0; i < std::size(NACRT); ++i) {
-        if (JeZadana(NACRT[i].Velicina)) znacky |= 1U << i;
-    }
-    return znacky;
 }
 
 bool Troj2Dialog::StredVDosahu(std::string_view stred) const {
@@ -261,7 +190,7 @@ std::unique_ptr<Dialog> Troj2Form::VyrobDialog(Platna platna) {
 }
 
 std::span<const int> Troj2Form::Tvary() const {
-    return TVARY;
+    return TVARY_TROJUHELNIKU;
 }
 
 }  // namespace rysovna

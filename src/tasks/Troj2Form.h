@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string_view>
 
@@ -20,16 +19,10 @@ public:
     [[nodiscard]] Gumicka Prejezd(float x, float y) const override;
 
 protected:
-    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, Hodnoty3& hodnoty) override;
-    void SestavZadani(const Priklad& p, const Hodnoty3& hodnoty,
-                      std::vector<PolozkaZadani>& zadani) override;
-    [[nodiscard]] int Hodnota(std::string_view velicina) const override;
+    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;
     [[nodiscard]] bool PrvniStranaSpravna(std::string_view prvek) const override;
     [[nodiscard]] bool KruzniceJeChyba(bool krokCekal) const override;
-    void PosudVolbuRovnobezky(std::string_view vyska) override;
-    void PosudStiskRovnobezky() override {}
     [[nodiscard]] bool DruhSedi(const Krok& krok, std::string_view druh) const override;
-    [[nodiscard]] std::uint32_t OcekavaneZnacky() const override;
     [[nodiscard]] bool StredVDosahu(std::string_view stred) const override;
     [[nodiscard]] bool ZacinaSpravne() const override;
 };

@@ -1,0 +1,155 @@
+// A drag on the plane: where it starts, what it reads, what it draws, by the kind of object.
+
+#include <cstdlib>
+
+#include "base/Cisla.h"
+#include "board/DialogKroku.h"
+#include "engine/Kresleni.h"
+#include "engine/Resitele.h"
+#include "shell/Misc.h"
+#include "shell/Soubory.h"
+
+namespace rysovna {
+
+namespace {
+
+// Waits after a release, ms: a segment shorter, since nothing of it needs to be seen first.
+constexpr std::uint32_t CEKANI_USECKA = 10;
+constexpr std::uint32_t CEKANI_OSTATNI = 100;
+
+Bod NaPixely(float x, float y) {
+    return {Zaokrouhli(x), Zaokrouhli(y)};
+}
+
+void NakresliKruznici(Plane& pic, int n, Bod p, Bod q) {
+    KresliKruznici(pic, KRUZNICE, n, p.X, p.Y, q.X, ANO);
+}
+void NakresliUsecku(Plane& pic, int n, Bod p, Bod q) {
+    const std::string jmeno1 = Utvary[n].Jmeno1;
+    const std::string jmeno2 = Utvary[n].Jmeno2;
+    const auto delka = static_cast<float>(DelkaVCm(Vzdalenost(p, q)));
+    KresliUsecku(pic, USECKA, n, p.X, p.Y, q.X, q.Y, delka, jmeno1, jmeno2, ANO, ANO, ANO);
+}
+void NakresliPoloprimku(Plane& pic, int n, Bod p, Bod q) {
+    const std::string jmeno2 = Utvary[n].Jmeno2;
+    KresliPoloprimku(pic, POLOPRIMKA, n, p.X, p.Y, q.X, q.Y, jmeno2, ANO);
+}
+void NakresliKolmici(Plane& pic, int n, Bod p, Bod q) {
+    KresliKolmici(pic, KOLMICE, n, p.X, p.Y, q.X, q.Y, ANO);
+}
+void NakresliRovnobezku(Plane& pic, int n, Bod p, Bod q) {
+    KresliPrimku(pic, ROVNOBEZKA, n, p.X, p.Y, q.X, q.Y, 0, ANO);
+}
+
+}  // namespace
+
+/// What a drag does with one kind of object in hand.
+struct DialogKroku::DruhTahu {
+    std::string_view Nazev;
+    Zachyt (DialogKroku::*Chyt)(float x, float y) const;        ///< the start of a press
+    std::string (DialogKroku::*Odecti)(Bod konec) const;        ///< null: none, or the circle's own
+    void (*Nakresli)(Plane& pic, int n, Bod prvni, Bod druhy);  ///< into row n
+};
+
+const DialogKroku::DruhTahu* DialogKroku::Druh() const {
+    using D = DialogKroku;
+    static constexpr DruhTahu DRUHY[] = {
+        {USECKA, &D::ChytPosledni, &D::OdectiUsecku, NakresliUsecku},
+        {POLOPRIMKA, &D::ChytPosledni, &D::OdectiPaprsek, NakresliPoloprimku},
+        {KRUZNICE, &D::ChytStred, nullptr, NakresliKruznici},
+        {KOLMICE, &D::ChytZakladnu, nullptr, NakresliKolmici},
+        {ROVNOBEZKA, &D::ChytZakladnu, &D::OdectiPosunuti, NakresliRovnobezku}};
+    for (const DruhTahu& d : DRUHY) {
+        if (d.Nazev == Stav().ZvolenyUtvar) return &d;
+    }
+    return nullptr;
+}
+
+const Utvar& DialogKroku::Zakladna() {
+    return Utvary[VybranyUtvar];
+}
+
+Zachyt DialogKroku::ChytPosledni(float x, float y) const {
+    return ZachytPosledni(x, y);
+}
+
+Zachyt DialogKroku::ChytStred(float x, float y) const {
+    return ZachytNejblizsi(x, y, Stav().ZvolenyPrvek.starts_with(STRED_STRANY));
+}
+
+Zachyt DialogKroku::ChytZakladnu(float x, float y) const {
+    return {false, BodNaZakladne(Zakladna(), x, y)};
+}
+
+std::string DialogKroku::OdectiUsecku(Bod konec) const {
+    return OdectiDelku(Vzdalenost(Stav().Start, konec));
+}
+
+std::string DialogKroku::OdectiPosunuti(Bod konec) const {
+    return OdectiVzdalenost(Zakladna(), Stav().Start, konec);
+}
+
+Dvojice DialogKroku::BodyPrimky(Bod konec) const {
+    const Bod start = Stav().Start;
+    if (Stav().ZvolenyUtvar == KOLMICE) return Kolme(Zakladna(), start, konec);
+    if (Stav().ZvolenyUtvar == ROVNOBEZKA) return Rovnobezne(Zakladna(), start, konec);
+    return {start, konec};
+}
+
+void DialogKroku::StiskPlochy(float x, float y) {
+    if (!CekaNaKresleni()) return;
+    const DruhTahu* druh = Druh();
+    const Zachyt zachyt =
+        druh == nullptr ? Zachyt{false, NaPixely(x, y)} : (this->*druh->Chyt)(x, y);
+    Upravit().Tazeni = true;
+    Upravit().Start = zachyt.Misto;
+    PosudStisk(zachyt);
+}
+
+Gumicka DialogKroku::Tah(float x, float y) const {
+    const DruhTahu* druh = Druh();
+    if (!CekaNaKresleni() || !Stav().Tazeni || druh == nullptr) return {};
+    const Bod konec = NaPixely(x, y);
+    const Bod start = Stav().Start;
+    if (druh->Nazev == KRUZNICE) {
+        const int r = std::abs(konec.X - start.X);
+        return {Gumicka::Tvar::Kruh, start.X - r, start.Y - r,
+                start.X + r,         start.Y + r, OdectiDelku(r)};
+    }
+    Dvojice body = BodyPrimky(konec);
+    if (druh->Nazev == KOLMICE) body.P2 = PataUkazatele(body, konec);
+    return {Gumicka::Tvar::Cara, body.P1.X,
+            body.P1.Y,           body.P2.X,
+            body.P2.Y,           druh->Odecti == nullptr ? "" : (this->*druh->Odecti)(konec)};
+}
+
+std::uint32_t DialogKroku::CekaniPoTahu() const {
+    return Stav().ZvolenyUtvar == USECKA ? CEKANI_USECKA : CEKANI_OSTATNI;
+}
+
+bool DialogKroku::ZacinaSpravne() const {
+    return ZacinaVBode(Stav().Start, Stav().ZvolenyPrvek.substr(0, 1));
+}
+
+void DialogKroku::PusteniPlochy(float x, float y) {
+    if (!CekaNaKresleni() || !Stav().Tazeni) return;
+    if (!Stav().KrokChybny) {
+        PosudOdecet(CisloZOdectu(Tah(x, y).Text));
+        for (const CenaPocatku& c : pravidlaKroku_.CenyPocatku) {
+            if (c.Druh != Stav().ZvolenyUtvar || ZacinaSpravne()) continue;
+            PridejChybu(Stav().Faze == 2 ? c.Prvni : c.Druhy, JEDEN_BOD, 1);
+        }
+    }
+    NakresliUtvar(NaPixely(x, y));
+    DalsiFaze();
+}
+
+void DialogKroku::NakresliUtvar(Bod konec) {
+    const DruhTahu* druh = Druh();
+    if (druh == nullptr) return;
+    platna_.Pic.DrawWidth = 1;
+    const Dvojice body = BodyPrimky(konec);
+    druh->Nakresli(platna_.Pic, ++PocetUtvaru, body.P1, body.P2);
+}
+
+}  // namespace rysovna

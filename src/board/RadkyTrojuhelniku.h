@@ -1,0 +1,44 @@
+#pragma once
+
+#include <array>
+
+#include "board/DialogTrojuhelniku.h"
+#include "board/Nacrt.h"
+#include "engine/Tabulky.h"
+
+namespace rysovna {
+
+// The rows that all triangle boards have; a board joins its own to them.
+
+/// Numbers of the faces that the step buttons have.
+constexpr std::array<int, 6> TVARY_TROJUHELNIKU = {1, 3, 4, 5, 6, 12};
+
+/// The circles about the vertices. The quantity by the first side: AB, AC, BC.
+constexpr std::array<RadekKruznice, 3> KRUZNICE_VRCHOLU = {
+    {{"A", "střed v bodě A", {{{"AkB", "b"}, {"AkC", "c"}, {}}}, 32},
+     {"B", "střed v bodě B", {{{"BkA", "a"}, {}, {"BkC", "c"}}}, 33},
+     {"C", "střed v bodě C", {{{}, {"CkA", "a"}, {"CkB", "b"}}}, 34}}};
+
+/// The prices of sides and angles.
+constexpr std::array<CenaVeliciny, 9> CENY_STRAN = {{{USECKA, "a", 7, 13},
+                                                     {USECKA, "b", 8, 14},
+                                                     {USECKA, "c", 9, 15},
+                                                     {POLOPRIMKA, "alfa", 10, 30},
+                                                     {POLOPRIMKA, "beta", 11, 30},
+                                                     {POLOPRIMKA, "gama", 12, 30},
+                                                     {KRUZNICE, "a", 7, 27},
+                                                     {KRUZNICE, "b", 8, 28},
+                                                     {KRUZNICE, "c", 9, 29}}};
+
+/// The sketch: the triangle A(40, 140), B(260, 140), C(150, 30). The angles' zones are the middles
+/// of their printed letters.
+constexpr std::array<PrvekNacrtu, 6> NACRT_STRAN = {{
+    {"c", {40, 260, 0, 140, 2}, CARA, 40, 140, 260, 140, 0, 0, 0, "c", false, 150, 145},
+    {"a", {150, 260, 1, -120, 5}, CARA, 150, 30, 260, 140, 0, 0, 0, "a", false, 210, 65},
+    {"b", {40, 150, -1, 180, 5}, CARA, 40, 140, 150, 30, 0, 0, 0, "b", false, 80, 65},
+    {"alfa", {72, 76, 0, 123.5, 2.5}, OBLOUK, 40, 140, 260, 140, 150, 30, 52, "a", true, 70, 116},
+    {"beta", {218, 221, 0, 122, 4}, OBLOUK, 260, 140, 150, 30, 40, 140, 58, "b", true, 215, 116},
+    {"gama", {147, 152, 0, 52, 3}, OBLOUK, 150, 30, 40, 140, 260, 140, 40, "g", true, 146, 44},
+}};
+
+}  // namespace rysovna
