@@ -32,7 +32,13 @@ struct PrvekNacrtu {
     float PX, PY;              ///< where
 };
 
-constexpr auto CARA = PrvekNacrtu::Tvar::Usecka;
+/// A segment, which bears the name of its quantity.
+[[nodiscard]] constexpr PrvekNacrtu CaraNacrtu(std::string_view velicina, PasNacrtu pas, float X1,
+                                               float Y1, float X2, float Y2, float PX, float PY) {
+    return {velicina, pas, PrvekNacrtu::Tvar::Usecka, X1, Y1, X2, Y2, 0, 0, 0, velicina, false,
+            PX,       PY};
+}
+
 constexpr auto OBLOUK = PrvekNacrtu::Tvar::Oblouk;
 
 /// A letter of the sketch that is no element: the name of a vertex.

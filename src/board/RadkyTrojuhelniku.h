@@ -33,9 +33,9 @@ constexpr std::array<CenaVeliciny, 9> CENY_STRAN = {{{USECKA, "a", 7, 13},
 /// The sketch: the triangle A(40, 140), B(260, 140), C(150, 30). The angles' zones are the middles
 /// of their printed letters.
 constexpr std::array<PrvekNacrtu, 6> NACRT_STRAN = {{
-    {"c", {40, 260, 0, 140, 2}, CARA, 40, 140, 260, 140, 0, 0, 0, "c", false, 150, 145},
-    {"a", {150, 260, 1, -120, 5}, CARA, 150, 30, 260, 140, 0, 0, 0, "a", false, 210, 65},
-    {"b", {40, 150, -1, 180, 5}, CARA, 40, 140, 150, 30, 0, 0, 0, "b", false, 80, 65},
+    CaraNacrtu("c", {40, 260, 0, 140, 2}, 40, 140, 260, 140, 150, 145),
+    CaraNacrtu("a", {150, 260, 1, -120, 5}, 150, 30, 260, 140, 210, 65),
+    CaraNacrtu("b", {40, 150, -1, 180, 5}, 40, 140, 150, 30, 80, 65),
     {"alfa", {72, 76, 0, 123.5, 2.5}, OBLOUK, 40, 140, 260, 140, 150, 30, 52, "a", true, 70, 116},
     {"beta", {218, 221, 0, 122, 4}, OBLOUK, 260, 140, 150, 30, 40, 140, 58, "b", true, 215, 116},
     {"gama", {147, 152, 0, 52, 3}, OBLOUK, 150, 30, 40, 140, 260, 140, 40, "g", true, 146, 44},
