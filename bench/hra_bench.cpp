@@ -25,7 +25,7 @@ void PrikladySss(benchmark::State& stav) {
     hrac::RukaNaDesce ruka(hra);
     std::uint32_t seminko = 0;
     for (auto _ : stav) {
-        hra.Host().SeminkoHry = ++seminko;
+        ++seminko;
         hrac::DokonalyTrojuhelnik(ruka, seminko, zasouvat).Sestroj();
         ruka.Zkontroluj();
         hra.Stiskni("picPokracuj");

@@ -4,27 +4,15 @@
 #include <string>
 
 #include "base/Plane.h"
+#include "board/Konstrukce.h"
 #include "board/Panel.h"
 
 namespace rysovna {
-
-/// The two planes of a board: what the pupil sees and its off-screen twin.
-struct Platna {
-    Plane& Pic;
-    Plane& HidenPic;
-};
 
 /// The arrows shift the figure by so much, px; how far it was shifted is tested before the step.
 constexpr int KROK_POSUNU = 20, MEZ_POSUNU = 120;
 /// So this far it can go, px.
 constexpr int NEJDAL_POSUNU = MEZ_POSUNU + KROK_POSUNU;
-
-/// Empties the construction for a new example: planes, counters, the rows of the construction and
-/// of the wrong steps, every done flag of every record. What the pupil entered goes with the choice
-/// of the new example.
-void VyprazdniKonstrukci(const Platna& platna);
-/// Clears what the pupil entered in the first ten phases.
-void ZapomenZadanePrvky();
 
 /// The step dialogue of a board: all its rules, as logic without controls. It takes what the pupil
 /// does, charges wrong steps, draws on the planes and keeps the construction; what is to be seen

@@ -54,9 +54,9 @@ constexpr int CHYBA_TROJUHELNIK = 133, CHYBA_VETA = 101;
 constexpr Bod PRVNI_VRCHOL{150, 210};
 // The same rule as for the meeting of two circles: a vertex closer to the edge gives way, px.
 constexpr int OKRAJ = 20;
-constexpr int DALEKO = 800;              // px from the origin, beyond it there is no triangle
-constexpr double NEJDELSI = 1e5;         // px that a typed length may make at all
-constexpr double DELKA_PAPRSKU = 10000;  // px, so that rounding does not bend the ray
+constexpr int DALEKO = 800;                  // px from the origin, beyond it there is no triangle
+constexpr double NEJDELSI = 1e5;             // px that a typed length may make at all
+constexpr double DALEKO_PO_PAPRSKU = 10000;  // px, so that rounding does not bend the ray
 
 constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhelník!";
 constexpr int SIRKA_NELZE = 274, VYSKA_NELZE = 12;  // px of that text as the plane prints it
@@ -96,8 +96,8 @@ std::optional<std::array<Bod, 3>> SpocitejTrojuhelnik(const Plane& plocha, std::
         paprsek.Druh = POLOPRIMKA;
         paprsek.X1 = p2.X;
         paprsek.Y1 = p2.Y;
-        paprsek.X2 = Zaokrouhli(p2.X - DELKA_PAPRSKU * std::cos(uhel));
-        paprsek.Y2 = Zaokrouhli(p2.Y + (dole ? 1 : -1) * DELKA_PAPRSKU * std::sin(uhel));
+        paprsek.X2 = Zaokrouhli(p2.X - DALEKO_PO_PAPRSKU * std::cos(uhel));
+        paprsek.Y2 = Zaokrouhli(p2.Y + (dole ? 1 : -1) * DALEKO_PO_PAPRSKU * std::sin(uhel));
         Utvar kruznice;
         kruznice.Druh = KRUZNICE;
         kruznice.X1 = p2.X;
@@ -151,6 +151,11 @@ void DialogCtyruhelniku::Prekresli() {
 }
 
 // ---- Tools and lists -------------------------------------------------------------------------
+
+/// The theorem and the confirmation go on with the step that the triangle began.
+bool DialogCtyruhelniku::ZacinaKrok(int i) const {
+    return stav_.Faze > 1 || i == NASTROJ_TROJUHELNIK;
+}
 
 void DialogCtyruhelniku::Nabidni(int i) {
     if (stav_.Faze > 1) return NabidniDalsi(i);

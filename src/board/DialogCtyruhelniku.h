@@ -80,6 +80,7 @@ protected:
     virtual void UkazDalsi(Panel& panel) const = 0;
 
     [[nodiscard]] StavCtyruhelniku& Upravit() override { return stav_; }
+    [[nodiscard]] bool ZacinaKrok(int i) const override;
     void Nabidni(int i) override;
     void ZvolRadek(std::size_t i) override;
     void VratFazi() override;

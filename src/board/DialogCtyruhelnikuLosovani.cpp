@@ -47,7 +47,7 @@ constexpr int NEJVETSI_UHEL = 360;
 constexpr double VULE_UHLU = 0.5;
 constexpr int NEJVETSI_ODECET = 179;
 
-constexpr double DELKA_PAPRSKU = 1000;  // px, to the second point of a drawn ray
+constexpr double TAH_PAPRSKU = 1000;  // px, to the second point of a drawn ray
 
 // A trapezoid is told from a parallelogram and from a crossed figure by at least this much, px.
 constexpr double NEJMENSI_ROZDIL = 8;
@@ -122,8 +122,8 @@ Utvar Idealni(const Trojuhelnik& t, const Krok& krok, int hodnota, double navic)
         u.Druh = POLOPRIMKA;
         u.X1 = v->X;
         u.Y1 = v->Y;
-        u.X2 = Zaokrouhli(v->X + DELKA_PAPRSKU * std::cos(smer));
-        u.Y2 = Zaokrouhli(v->Y - DELKA_PAPRSKU * std::sin(smer));
+        u.X2 = Zaokrouhli(v->X + TAH_PAPRSKU * std::cos(smer));
+        u.Y2 = Zaokrouhli(v->Y - TAH_PAPRSKU * std::sin(smer));
     } else if (krok.Utvar == ROVNOBEZKA) {
         // Parallel to the side of the triangle with this height, through its third vertex.
         for (std::size_t i = 0; i < 2; ++i) {

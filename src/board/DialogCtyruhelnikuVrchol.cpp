@@ -37,8 +37,7 @@ struct CenaOdectu {
 };
 constexpr CenaOdectu CENY_ODECTU[] = {{POLOPRIMKA, 30}, {KRUZNICE, 126}};
 
-constexpr int CHYBA_PAPRSEK_NECEKANY = 18, CHYBA_PAPRSEK_PRVEK = 49;
-constexpr int CHYBA_KOLMICE = 19, CHYBA_ROVNOBEZKA = 20, CHYBA_KRUZNICE_NECEKANA = 21;
+constexpr int CHYBA_PAPRSEK_PRVEK = 49;
 
 // These boards' own spelling for a perpendicular and a parallel.
 constexpr std::string_view TRI_BODY_PRIMKY = " - 3 body";
@@ -118,14 +117,14 @@ std::vector<RadekSeznamu> DialogCtyruhelnikuVrchol::Primky() const {
     std::vector<RadekSeznamu> radky;
     for (int i = 1; i <= PocetUtvaru; ++i) {
         const Utvar& u = Utvary[i];
-        RadekSeznamu r = RadekPrimky(u, Stav().ZvolenyUtvar == KOLMICE);
-        if (!r.Ziva || u.Druh == POLOPRIMKA) continue;
-        if (u.Druh == USECKA && vrchol_.HoleStrany) {
+        auto r = RadekPrimky(u, Stav().ZvolenyUtvar == KOLMICE);
+        if (!r || u.Druh == POLOPRIMKA) continue;
+        if (u.Druh == USECKA && vrchol_.Rovnobezky) {
             // A trapezoid's bases are sides; the starting triangle has a diagonal, too.
-            if (VyskaNaStranu(r.Tag).empty()) continue;
-            r.Text = r.Tag;
+            if (VyskaNaStranu(r->Tag).empty()) continue;
+            r->Text = r->Tag;
         }
-        radky.push_back(std::move(r));
+        radky.push_back(std::move(*r));
     }
     return radky;
 }
@@ -147,9 +146,9 @@ bool DialogCtyruhelnikuVrchol::JeOcekavany(std::string_view prvek) const {
 
 void DialogCtyruhelnikuVrchol::ZvolDalsi(std::size_t i) {
     const std::string kod = Stav().Combo.Radky[i].Tag;
-    for (const Nastroj& n : Nastroje()) {
-        if (n.Druh == Stav().ZvolenyUtvar) (this->*n.Zvol)(kod);
-    }
+    const auto n =
+        std::ranges::find(Nastroje(), std::string_view(Stav().ZvolenyUtvar), &Nastroj::Druh);
+    (this->*n->Zvol)(kod);
     Zapis(Stav().ZvolenyUtvar, Stav().ZvolenyPrvek);
 }
 
@@ -188,7 +187,7 @@ void DialogCtyruhelnikuVrchol::ZvolRovnobezku(const std::string& jmena) {
     Upravit().ZvolenyPrvek = VyskaNaStranu(jmena);
     ZacniPrimku(jmena, jmena);
     if (vrchol_.Rovnobezky) {
-        static_cast<void>(ObsadKrok(ROVNOBEZKA));
+        ObsadKrok(ROVNOBEZKA);
     } else {
         ChybnaVolba(CHYBA_ROVNOBEZKA, TRI_BODY_PRIMKY);
     }

@@ -11,8 +11,8 @@ namespace rysovna {
 
 /// What the boards that find the fourth vertex by two objects differ in.
 struct PravidlaVrcholu {
-    bool Rovnobezky;  ///< a parallel is an expected tool
-    bool HoleStrany;  ///< list lines name sides by their letters alone
+    /// A parallel is an expected tool; list lines then name sides by their letters alone.
+    bool Rovnobezky;
 };
 
 /// The step dialogue of the boards where the fourth vertex of a quadrilateral is the meeting point

@@ -99,7 +99,7 @@ void DialogKroku::StiskNastroje(int i) {
     ZavriSeznam();
     if (i == NASTROJ_ZPET) return Zpet();
     if (Stav().Faze >= PosledniFaze()) return;  // a full construction takes no further object
-    Upravit().KrokChybny = false;
+    if (ZacinaKrok(i)) Upravit().KrokChybny = false;
     Nabidni(i);
 }
 
@@ -122,11 +122,12 @@ void DialogKroku::OtevriSeznam(int sirka, std::vector<RadekSeznamu> radky) {
     Upravit().Combo = {true, sirka, vyska, sirka - Seznam::OKRAJ, std::move(radky)};
 }
 
-RadekSeznamu DialogKroku::RadekPrimky(const Utvar& u, bool kolmice) {
+std::optional<RadekSeznamu> DialogKroku::RadekPrimky(const Utvar& u, bool kolmice) {
     const std::string jmena = u.Jmeno1 + u.Jmeno2;
     const auto* uvod = std::ranges::find(UVODY, std::string_view(u.Druh), &UvodPrimky::Druh);
-    if (uvod == std::end(UVODY)) return {"", false, false, jmena};
-    return {std::string(kolmice ? uvod->Kolmice : uvod->Rovnobezka) + jmena, true, true, jmena};
+    if (uvod == std::end(UVODY)) return std::nullopt;
+    return RadekSeznamu{std::string(kolmice ? uvod->Kolmice : uvod->Rovnobezka) + jmena, true, true,
+                        jmena};
 }
 
 // ---- Choosing a line -------------------------------------------------------------------------

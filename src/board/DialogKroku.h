@@ -16,6 +16,10 @@
 
 namespace rysovna {
 
+/// Wrong steps that several boards charge: an object that no expected step asks for.
+constexpr int CHYBA_PAPRSEK_NECEKANY = 18, CHYBA_KOLMICE = 19, CHYBA_ROVNOBEZKA = 20,
+              CHYBA_KRUZNICE_NECEKANA = 21;
+
 /// The names of sides' midpoints, and so of the circles about them, begin with this letter.
 constexpr char STRED_STRANY = 'S';
 
@@ -42,7 +46,8 @@ struct PravidlaKroku {
     TvarBodu Zbytek;               ///< wording of an unfinished construction's charge
 };
 
-/// What changes from step to step besides the construction, as far as all boards have it.
+/// What changes from step to step besides the construction, as far as the boards of triangles and
+/// quadrilaterals share it.
 struct StavKroku {
     int Faze = 1;
     std::string ZvolenyUtvar;  ///< kind of the tool in hand; empty between steps
@@ -105,6 +110,8 @@ protected:
     [[nodiscard]] virtual bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) = 0;
     /// Sets the labels of the assignment, two a row; what has no unit has no value.
     virtual void SestavZadani(std::vector<PolozkaZadani>& zadani) const;
+    /// Whether tool i begins a step, which is not judged wrong yet.
+    [[nodiscard]] virtual bool ZacinaKrok(int /*i*/) const { return true; }
     /// Tool i, live, was pressed: opens its list. Not called for the step back.
     virtual void Nabidni(int i) = 0;
     /// Line i, from 0, of the list was chosen; the list is closed by now.
@@ -137,8 +144,9 @@ protected:
 
     /// Opens the list.
     void OtevriSeznam(int sirka, std::vector<RadekSeznamu> radky);
-    /// The list line of a straight object that a perpendicular or a parallel can go by.
-    [[nodiscard]] static RadekSeznamu RadekPrimky(const Utvar& u, bool kolmice);
+    /// The list line of a straight object that a perpendicular or a parallel can go by; none for
+    /// any other object.
+    [[nodiscard]] static std::optional<RadekSeznamu> RadekPrimky(const Utvar& u, bool kolmice);
     /// Name of the object in hand, by its kind and the phase.
     [[nodiscard]] std::string Jmeno() const;
     /// Prompts for a value.
@@ -153,8 +161,8 @@ protected:
     void ZacniUtvar(std::string jmeno1, std::string jmeno2);
     /// Charges a choice: 3 points, and the step is wrong from now on.
     void ChybnaVolba(int cislo, std::string_view text = TRI_BODY);
-    /// Takes the first expected step of this kind that was not taken yet.
-    [[nodiscard]] bool ObsadKrok(std::string_view druh);
+    /// Takes the first expected step of this kind that was not taken yet; false if there is none.
+    bool ObsadKrok(std::string_view druh);
     /// What the pupil chose in this phase, for the check.
     void Zapis(std::string_view druh, std::string_view prvek);
     /// The step is drawn: the next phase, or the end.

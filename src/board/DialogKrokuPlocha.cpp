@@ -17,10 +17,6 @@ namespace {
 constexpr std::uint32_t CEKANI_USECKA = 10;
 constexpr std::uint32_t CEKANI_OSTATNI = 100;
 
-Bod NaPixely(float x, float y) {
-    return {Zaokrouhli(x), Zaokrouhli(y)};
-}
-
 void NakresliKruznici(Plane& pic, int n, Bod p, Bod q) {
     KresliKruznici(pic, KRUZNICE, n, p.X, p.Y, q.X, ANO);
 }

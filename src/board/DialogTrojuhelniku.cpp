@@ -18,7 +18,6 @@ constexpr JmenaUtvaru JMENA[] = {
 constexpr CenaPocatku CENY_POCATKU[] = {{POLOPRIMKA, 31, 31}, {KRUZNICE, 22, 45}};
 
 constexpr int CHYBA_PAPRSEK_JINDE = 23;
-constexpr int CHYBA_KOLMICE = 19;
 
 constexpr int SIRKA_HOTOVYCH_STRAN = 2;  // px
 

@@ -35,9 +35,6 @@ struct VyskaStrany {
 };
 constexpr VyskaStrany VYSKY[] = {{"AB", "vc", 26}, {"AC", "vb", 25}, {"BC", "va", 24}};
 
-constexpr int CHYBA_PAPRSEK_NECEKANY = 18;
-constexpr int CHYBA_KRUZNICE_NECEKANA = 21;
-
 // The only lead-in that a perpendicular's line loses: the comparisons for the longer ones look at
 // the first nine characters alone and never match, so those captions stay whole.
 constexpr std::string_view UVOD_KOLMICE = "k úsečce ";
@@ -111,8 +108,8 @@ std::vector<RadekSeznamu> DialogTrojuhelniku::Paprsky() const {
 std::vector<RadekSeznamu> DialogTrojuhelniku::Primky() const {
     std::vector<RadekSeznamu> radky;
     for (int i = 1; i <= PocetUtvaru; ++i) {
-        RadekSeznamu r = RadekPrimky(Utvary[i], stav_.ZvolenyUtvar == KOLMICE);
-        if (r.Ziva) radky.push_back(std::move(r));
+        auto r = RadekPrimky(Utvary[i], stav_.ZvolenyUtvar == KOLMICE);
+        if (r) radky.push_back(std::move(*r));
     }
     return radky;
 }

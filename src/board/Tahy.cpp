@@ -7,6 +7,10 @@
 
 namespace rysovna {
 
+Bod NaPixely(float x, float y) {
+    return {Zaokrouhli(x), Zaokrouhli(y)};
+}
+
 Bod BodNaZakladne(const Utvar& zakladna, float x, float y) {
     if (zakladna.X1 == zakladna.X2) return {zakladna.X1, Zaokrouhli(y)};
     const double smernice = static_cast<double>(zakladna.Y2 - zakladna.Y1) /

@@ -17,6 +17,9 @@ namespace rysovna {
 /// its X at the press's Y.
 [[nodiscard]] Bod BodNaZakladne(const Utvar& zakladna, float x, float y);
 
+/// The pixel that the pointer is on.
+[[nodiscard]] Bod NaPixely(float x, float y);
+
 /// Two points of a straight object.
 struct Dvojice {
     Bod P1, P2;

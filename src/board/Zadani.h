@@ -20,7 +20,7 @@ struct Vzorec {
 using HodnotyPrikladu = std::array<int, 5>;
 
 /// After so many draws the last one holds, whatever it is: data whose quantities do not go together
-/// must not hold a board up for ever. A hundred at most are needed by others.
+/// must not hold a board up for ever.
 constexpr int NEJVIC_LOSOVANI = 20000;
 
 /// Draws the first three values.

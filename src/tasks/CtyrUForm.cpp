@@ -5,7 +5,7 @@ namespace rysovna {
 namespace {
 
 constexpr PravidlaCtyruhelniku PRAVIDLA{"Sestroj čtyřúhelník ABCD:", VETY_CELYCH};
-constexpr PravidlaVrcholu VRCHOL{.Rovnobezky = false, .HoleStrany = false};
+constexpr PravidlaVrcholu VRCHOL{.Rovnobezky = false};
 
 }  // namespace
 

@@ -5,7 +5,7 @@ namespace rysovna {
 namespace {
 
 constexpr PravidlaCtyruhelniku PRAVIDLA{"Sestroj lichoběžník ABCD:", VETY_CELYCH};
-constexpr PravidlaVrcholu VRCHOL{.Rovnobezky = true, .HoleStrany = true};
+constexpr PravidlaVrcholu VRCHOL{.Rovnobezky = true};
 
 }  // namespace
 

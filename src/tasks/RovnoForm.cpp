@@ -163,7 +163,8 @@ std::optional<Bod> RovnoDialog::Misto(std::string_view pismeno) const {
 // ---- Lists -----------------------------------------------------------------------------------
 
 void RovnoDialog::NabidniDalsi(int i) {
-    i == NASTROJ_STRED ? NabidniStredy() : NabidniObrazy();
+    if (i == NASTROJ_STRED) return NabidniStredy();
+    NabidniObrazy();
 }
 
 void RovnoDialog::NabidniStredy() {

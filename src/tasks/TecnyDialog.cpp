@@ -104,8 +104,9 @@ void TecnyDialog::KresliNacrt(Plane& plocha) const {
 
 void TecnyDialog::Zkontroluj() {
     const Cviceni* c = Hrane();
-    Odzbroj();
     stav_.Skontrolovano = true;
+    stav_.Tazeni = false;
+    ZavriSeznam();
     if (!stav_.HotovaKonstrukce) UctujNedokoncenou(TvarBodu::PodleCisla);
     if (c == nullptr) return;
     const bool oznaceno = (stav_.Znacky & c->PovinneZnacky) == c->PovinneZnacky;

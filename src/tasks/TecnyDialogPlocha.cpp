@@ -25,10 +25,6 @@ constexpr double TOLERANCE_POLOMERU = 4;
 
 constexpr int SIRKA_VYSLEDKU = 2;
 
-Bod NaPixely(float x, float y) {
-    return {Zaokrouhli(x), Zaokrouhli(y)};
-}
-
 bool VDosahu(float x, float y, Bod b, int dosah) {
     const auto d = static_cast<float>(dosah);
     return std::fabs(x - static_cast<float>(b.X)) <= d &&
@@ -370,20 +366,17 @@ void TecnyDialog::UkonciKrok(bool vlastni) {
     ZvyrazniReseni();
 }
 
-/// Draws the results thick, without their labels. A wrong object may bear a result's name: results
-/// are of the last step's kind.
+/// Draws the results thick, without their labels.
 void TecnyDialog::ZvyrazniReseni() {
     Plane& pic = platna_.Pic;
     pic.DrawWidth = SIRKA_VYSLEDKU;
     const Trojice posledni = Trojice_tab[PocetTrojic];
-    const bool kruznice = Hrane()->Kroky.back().Spravny == Nastroj::Kruznice;
     const auto& vysledky = Hrane()->Vysledky;
     for (int i = 1; i <= PocetUtvaru; ++i) {
         const Utvar u = Utvary[i];
-        if (u.Jmeno1.empty() || u.Druh == BOD || (u.Druh == KRUZNICE) != kruznice) continue;
-        if (std::ranges::find(vysledky, u.Jmeno1) == vysledky.end()) continue;
+        if (u.Jmeno1.empty() || std::ranges::find(vysledky, u.Jmeno1) == vysledky.end()) continue;
         Utvary[i].Jmeno1.clear();
-        if (kruznice) {
+        if (u.Druh == KRUZNICE) {
             KresliKruznici(pic, u.Druh, i, u.X1, u.Y1, u.X2, NE);
         } else {
             KresliPrimku(pic, u.Druh, i, u.X1, u.Y1, u.X2, u.Y2, u.Delka, NE);

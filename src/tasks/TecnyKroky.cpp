@@ -106,7 +106,8 @@ constexpr KrokTecny KROKY_02[] = {
     TECNA_02,
 };
 
-// "03": the tangents through A. The row "AS" draws a line that is no tangent, and costs nothing.
+// "03": the tangents through A. The row "AS" draws a line that is no tangent; by itself it costs
+// nothing.
 constexpr KrokTecny TECNA_03{.Tvary = S_PRIMKOU,
                              .Spravny = Primka,
                              .Jmena = {"t1", "t2"},

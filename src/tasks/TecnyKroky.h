@@ -53,7 +53,7 @@ struct KrokTecny {
     std::array<Volba, 3> Volby{};     ///< list of the right tool
     std::string_view SpravnaVolba{};  ///< empty: any row is right
     int ChybaVolby = 0;
-    std::string_view VedlejsiVolba{};  ///< a row that costs nothing and makes no result
+    std::string_view VedlejsiVolba{};  ///< a row that by itself costs nothing and makes no result
 
     /// Of a line the points through which it may go, of a midpoint the ends of its segment.
     std::array<std::string_view, 2> Body{};

@@ -9,8 +9,10 @@ namespace rysovna {
 
 namespace {
 
-constexpr PravidlaTrojuhelniku PRAVIDLA{
-    .Kruznice = KRUZNICE_VRCHOLU, .Ceny = CENY_STRAN, .Nacrt = NACRT_STRAN, .ChybaRovnobezky = 20};
+constexpr PravidlaTrojuhelniku PRAVIDLA{.Kruznice = KRUZNICE_VRCHOLU,
+                                        .Ceny = CENY_STRAN,
+                                        .Nacrt = NACRT_STRAN,
+                                        .ChybaRovnobezky = CHYBA_ROVNOBEZKA};
 
 // ---- Values of an example --------------------------------------------------------------------
 

@@ -9,8 +9,6 @@
 namespace rysovna {
 
 /// The dialogue of the triangle by SSS, SUS and USU: three kinds of task, seven kinds of example.
-/// The three values are bound to vertices: the first is that of a or alfa, the second of b or
-/// beta, the third of c or gama.
 class Troj1Dialog final : public DialogTrojuhelniku {
 public:
     explicit Troj1Dialog(Platna platna);

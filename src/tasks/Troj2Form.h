@@ -9,7 +9,7 @@
 namespace rysovna {
 
 /// The dialogue of the triangle by a height or a median: five kinds of task, 27 kinds of example.
-/// Values belong to quantities by their names in the data. A parallel to a side stands for the
+/// A parallel to a side stands for the
 /// height upon it, a circle about a side's midpoint for the median to it.
 class Troj2Dialog final : public DialogTrojuhelniku {
 public:

@@ -131,7 +131,7 @@ public:
     D dialog{Platna{pic_, hiden_}};
 };
 
-/// What the examples of a file played so far look like: every line often enough?
+/// Counts the examples played, by line of the file.
 class Pokryti {
 public:
     void Odehran(int radek) { ++pocty_[radek]; }

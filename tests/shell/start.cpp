@@ -58,11 +58,11 @@ TEST_F(Start, Cesty) {
         {"CD=X:\\Hra", "HD=DATA/", "X:\\Hra\\", koren + "\\DATA\\"},
         {"CD=\\Hra\\", "HD=" + koren + "/data", "\\Hra\\", koren + "/data\\"},
     };
-    host.SeminkoHry = 77;
     for (const auto& [cd, hd, cestaCD, cestaHD] : pripady) {
         for (const std::string konec : {"", "/", "\\"}) {
             host.SlozkaSystemu = koren + konec + std::string(3, '\0');
             Ini(cd, hd);
+            host.SeminkoHry = 77;
             EXPECT_TRUE(NactiKonfiguraci()) << hd;
             EXPECT_EQ(AdresarSystemu, koren + "\\");
             EXPECT_EQ(DiskSystemu, koren.substr(0, 3));

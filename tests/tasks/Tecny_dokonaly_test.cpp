@@ -119,6 +119,9 @@ TEST(Tecny, ZnackaJePodminkouZacatku) {
     EXPECT_FALSE(hra.P().cmd[1].Zive);
     EXPECT_TRUE(hra.dialog.StiskNacrtu(155, 55));  // the corner of the box
     EXPECT_FALSE(hra.dialog.StiskNacrtu(156, 45.9F));
+    for (const auto& [y, je] : {std::pair{147, false}, {148, true}, {152, true}, {153, false}}) {
+        EXPECT_EQ(hra.dialog.StiskNacrtu(20, static_cast<float>(y)), je) << y;
+    }
     hra.zak.Nastroj(4);
     hra.dialog.ZavriSeznam();
     EXPECT_TRUE(hra.dialog.StiskNacrtu(145, 45));

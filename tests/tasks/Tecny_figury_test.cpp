@@ -39,7 +39,6 @@ TEST_P(Figury, JsouResitelneACitelne) {
         const Figura f = VylosujFiguru(kod, 384, 335, Generator);
         pokusu += f.Pokusu;
         SmazKonstrukci();
-        PametovaPlocha p(1, 1);  // only the records matter here
         for (const DanyUtvar& d : f.Utvary) {
             Utvar& u = Utvary[++PocetUtvaru];
             u.Druh = d.Druh;

@@ -118,7 +118,7 @@ std::vector<Zadano> RukaNaDesce::Zadani() const {
 }
 
 bool RukaNaDesce::StiskNacrtu(Bod misto) {
-    // A mark changes the picture; what cannot be seen cannot be told.
+    // Whether it hit cannot be seen from outside; the check tells in the end.
     relace_.Stiskni("SamplePic", 0, misto.X, misto.Y);
     return true;
 }

@@ -161,7 +161,7 @@ constexpr PravidloCtvrteho CTVRTE[]{
     {Ctvrty::UhelDruhe, POLOPRIMKA, "úhel u krajního bodu strany z pole 4"},
 };
 
-/// Kinds Od, Od + Po kolika, ... to Po of one task or of two: theorem, starting triangles, what
+/// Kinds Od, Od + PoKolika, ... to Po of one task or of two: theorem, starting triangles, what
 /// the fourth and the fifth quantity are.
 struct PravidloSkupiny {
     int Ulohy[2];

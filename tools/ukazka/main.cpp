@@ -81,7 +81,7 @@ void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy) {
 int main(int pocet, char** slova) {
     const std::vector<std::string> argumenty(slova + 1, slova + pocet);
     if (argumenty.empty()) {
-        std::cerr << "Použití: ukazka SLOZKA_NA_OBRAZKY [CISLO_ULOHY...]\n"
+        std::cerr << "Použití: ukazka SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
                      "Bez čísel se hraje první úloha.\n";
         return 2;
     }

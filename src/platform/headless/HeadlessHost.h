@@ -47,7 +47,7 @@ public:
     /// Records the mode; when VysledekRezimu is 0 it becomes the present one.
     int ChangeDisplaySettings(const RezimObrazovky& rezim) override;
     [[nodiscard]] std::string WindowsDirectory() override { return SlozkaSystemu; }
-    [[nodiscard]] std::uint32_t Seminko() override { return SeminkoHry; }
+    [[nodiscard]] std::uint32_t Seminko() override { return SeminkoHry++; }
     [[nodiscard]] DatumACas Nyni() override { return Cas; }
     [[nodiscard]] std::string SchrankaText() override { return Schranka; }
     void DoSchranky(const std::string& text) override { Schranka = text; }
@@ -78,7 +78,7 @@ public:
     int VysledekRezimu = 0;               ///< what a switch of the mode answers
     RezimObrazovky Rezim{1024, 768, 32};  ///< present mode
     std::string SlozkaSystemu;
-    std::uint32_t SeminkoHry = 1;
+    std::uint32_t SeminkoHry = 1;  ///< the next one; each call counts it up
     DatumACas Cas;
     std::string Schranka;
     /// Message boxes are run as the window runs them: a form that the script must answer by keys

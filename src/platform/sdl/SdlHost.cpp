@@ -278,7 +278,7 @@ std::string SdlHost::WindowsDirectory() {
 }
 
 std::uint32_t SdlHost::Seminko() {
-    if (seminko_) return *seminko_;
+    if (seminko_) return (*seminko_)++;
     const auto ted = std::chrono::system_clock::now().time_since_epoch();
     return static_cast<std::uint32_t>(
         std::chrono::duration_cast<std::chrono::microseconds>(ted).count());

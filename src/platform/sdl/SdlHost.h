@@ -15,7 +15,7 @@ namespace rysovna {
 class SdlHost final : public Host {
 public:
     /// A display that cannot be opened is a run-time fault: ask MaDisplej() first. With a seed the
-    /// examples are drawn the same at each start; otherwise the clock seeds them.
+    /// same examples come in the same order at each start; otherwise the clock seeds them.
     explicit SdlHost(std::optional<std::uint32_t> seminko = std::nullopt);
     ~SdlHost() override;
 

@@ -1,4 +1,4 @@
-#include "board/Dialog.h"
+#include "board/Konstrukce.h"
 
 #include "engine/Tabulky.h"
 #include "shell/Misc.h"
@@ -17,14 +17,14 @@ void VyprazdniKonstrukci(const Platna& platna) {
     ChybneKroky.Smaz();
     for (int i = 1; i <= decltype(Priklady)::POSLEDNI; ++i) {
         for (int k = 1; k <= decltype(Priklad::Kroky)::POSLEDNI; ++k)
-            Priklady[i].Kroky[k].Hotovo = 0;
+            Priklady[i].Kroky[k].Hotovo = NE;
     }
     PocetUtvaru = 0;
     PocetTrojic = 0;
     SoucetZapornychBodu = 0;
     PocetChybnychKroku = 0;
     VybranyUtvar = 0;
-    KonstrukceZahajena = 0;
+    KonstrukceZahajena = NE;
     PosunX = 0;
     PosunY = 0;
 }

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/Plane.h"
+
+namespace rysovna {
+
+/// The two planes of a board: what the pupil sees and its off-screen twin.
+struct Platna {
+    Plane& Pic;
+    Plane& HidenPic;
+};
+
+/// Empties the construction for a new example: planes, counters, the rows of the construction and
+/// of the wrong steps, every done flag of every record. What the pupil entered goes with the choice
+/// of the new example.
+void VyprazdniKonstrukci(const Platna& platna);
+/// Clears what the pupil entered in the first ten phases.
+void ZapomenZadanePrvky();
+
+}  // namespace rysovna
