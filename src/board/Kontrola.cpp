@@ -10,7 +10,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int CHYBA_ZNACKY = 16;
 constexpr int CHYBA_NEDOKONCENA = 300;
 constexpr int CHYBA_PRVKY = 301;
 

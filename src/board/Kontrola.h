@@ -12,6 +12,9 @@ constexpr std::string_view TRI_BODY = "  -3 body";
 /// An example is worth this many points.
 constexpr int BODU_ZA_PRIKLAD = 10;
 
+/// The wrong step for marks of the sketch that are not those that are given.
+constexpr int CHYBA_ZNACKY = 16;
+
 /// How the remainder of an unfinished construction's charge is worded.
 enum class TvarBodu {
     VzdyBod,    ///< always "bod"

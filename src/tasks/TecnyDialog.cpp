@@ -17,7 +17,6 @@ namespace rysovna {
 namespace {
 
 constexpr int NASTROJ_ZPET = 5;
-constexpr int CHYBA_ZNACKY = 16;
 
 // Sizes of the list, px.
 constexpr int SIRKA_SEZNAMU = 200, SIRKA_RADKU = 196;

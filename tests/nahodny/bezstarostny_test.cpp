@@ -4,20 +4,15 @@
 
 #include "podpora/Bezstarostny.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
 
+#include "podpora/Prostredi.h"
 #include "shell/Ulohy.h"
 #include "tasks/Desky.h"
 
 namespace rysovna::testy {
 namespace {
-
-int Prostredi(const char* jmeno, int jinak) {
-    const char* text = std::getenv(jmeno);
-    return text == nullptr ? jinak : std::atoi(text);
-}
 
 TEST(BezstarostnyZak, NicNeshodiANicNeztrati) {
     NastavVyrobceDesek(VyrobDesku);

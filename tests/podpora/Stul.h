@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cmath>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <map>
 #include <stdexcept>
@@ -15,6 +14,7 @@
 #include "engine/Tabulky.h"
 #include "hrac/Ruka.h"
 #include "podpora/Konstrukce.h"
+#include "podpora/Prostredi.h"
 #include "shell/Kodovani.h"
 #include "shell/MapaPoli.h"
 #include "shell/Misc.h"
@@ -27,8 +27,7 @@ using namespace hrac;
 /// Examples of each line of a data file that the perfect pupil plays: 20 in CI, more by the
 /// environment.
 inline int Seminek() {
-    const char* text = std::getenv("RYSOVNA_SEMINEK");
-    return text == nullptr ? 20 : std::atoi(text);
+    return Prostredi("RYSOVNA_SEMINEK", 20);
 }
 
 /// A step of a table of cases: tool, line of the list, typed value, drag. A value -i is the i-th

@@ -96,7 +96,7 @@ protected:
     /// behind. The tool stands in the same build as this test.
     std::string Spust(const std::string& argumenty) {
         const fs::path sestaveni = fs::read_symlink("/proc/self/exe").parent_path().parent_path();
-        const fs::path nastroj = sestaveni / "tools/kodovani/kodovani ";
+        const fs::path nastroj = sestaveni / "staging/kodovani ";
         const int stav = std::system(
             ("cd " + Cesta("").string() + " && " + nastroj.string() + argumenty + " > vystup 2>&1")
                 .c_str());

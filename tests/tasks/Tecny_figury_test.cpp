@@ -1,7 +1,6 @@
 // The figures of the tangent exercises: solvable, readable, found soon; and the careless pupil.
 
 #include <cmath>
-#include <cstdlib>
 #include <gtest/gtest.h>
 
 #include "TecnyHra.h"
@@ -11,11 +10,6 @@
 
 namespace rysovna::testy {
 namespace {
-
-int Kolik(const char* promenna, int obvykle) {
-    const char* text = std::getenv(promenna);
-    return text == nullptr ? obvykle : std::atoi(text);
-}
 
 double Vzdal(Bod a, Bod b) {
     return std::hypot(a.X - b.X, a.Y - b.Y);
@@ -32,7 +26,7 @@ class Figury : public testing::TestWithParam<const char*> {};
 TEST_P(Figury, JsouResitelneACitelne) {
     const std::string kod = GetParam();
     TecnyHra hra(kod);
-    const int kolik = Kolik("RYSOVNA_FIGUR", 3000);
+    const int kolik = Prostredi("RYSOVNA_FIGUR", 3000);
     double pokusu = 0;
     for (int i = 0; i < kolik; ++i) {
         SCOPED_TRACE(i);
@@ -89,7 +83,7 @@ TEST_P(Figury, JsouResitelneACitelne) {
 TEST_P(Figury, NedbalyZak) {
     TecnyHra hra(GetParam());
     TecnyDialog& d = hra.dialog;
-    const int kolik = Kolik("RYSOVNA_FIGUR", 1000);
+    const int kolik = Prostredi("RYSOVNA_FIGUR", 1000);
     for (int i = 0; i < kolik; ++i) {
         hra.Znovu(static_cast<std::uint32_t>(i + 1));
         for (int udalost = 0; udalost < 40; ++udalost) {
