@@ -44,7 +44,7 @@ inline std::string RadekDat(const std::string& druh, const Zacatek& t, bool sus,
 }
 
 /// Triangle and theorem right and wrong, all three values typed wrong. Of a wrong triangle no value
-/// is compared; of a wrong theorem those are that the example has. A kind that the board does not
+/// is compared; of a wrong theorem those that the example has are. A kind that the board does not
 /// know leaves assignment and values as they were.
 template <class D>
 void OverZacatky(Stul<D>& s, const Zacatky& vse, const std::string& druhSss,
