@@ -145,7 +145,9 @@ void Relace::StiskniMisto(double x, double y) {
 void Relace::Stiskni(std::string_view jmeno, int index, int dx, int dy) {
     const Ovladac& prvek = Prvek(jmeno, index);
     const Bod roh = Roh(prvek);
-    StiskniMisto(roh.X + (dx < 0 ? prvek.Width / 2 : dx), roh.Y + (dy < 0 ? prvek.Height / 2 : dy));
+    const int x = dx < 0 ? prvek.Width / 2 : dx;
+    const int y = dy < 0 ? prvek.Height / 2 : dy;
+    StiskniMisto(roh.X + x, roh.Y + y);
 }
 
 void Relace::Zmackni(std::string_view jmeno, int index, Bod misto) {
@@ -159,8 +161,9 @@ void Relace::Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index) {
     const Bod roh = Roh(Prvek(jmeno, index));
     Zmackni(jmeno, index, odkud);
     for (int i = 1; i <= KROKU; ++i) {
-        Pohyb(roh.X + odkud.X + (kam.X - odkud.X) * i / KROKU,
-              roh.Y + odkud.Y + (kam.Y - odkud.Y) * i / KROKU, 1);
+        const int dx = (kam.X - odkud.X) * i / KROKU;
+        const int dy = (kam.Y - odkud.Y) * i / KROKU;
+        Pohyb(roh.X + odkud.X + dx, roh.Y + odkud.Y + dy, 1);
     }
     Stisk(roh.X + kam.X, roh.Y + kam.Y, false);
 }
@@ -168,7 +171,8 @@ void Relace::Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index) {
 void Relace::Najed(std::string_view jmeno, int index) {
     const Ovladac& prvek = Prvek(jmeno, index);
     const Bod roh = Roh(prvek);
-    NajedNaMisto(roh.X + prvek.Width / 2, roh.Y + prvek.Height / 2);
+    const Bod stred{prvek.Width / 2, prvek.Height / 2};
+    NajedNaMisto(roh.X + stred.X, roh.Y + stred.Y);
 }
 
 void Relace::NajedNaMisto(double x, double y) {
