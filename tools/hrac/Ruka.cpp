@@ -1,10 +1,8 @@
 #include "hrac/Ruka.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "base/Cisla.h"
-#include "board/DeskaForm.h"
 
 namespace rysovna::hrac {
 namespace {
@@ -103,13 +101,19 @@ Ruka& Ruka::Tahni(Bod odkud, Bod kam) {
 
 // ---- At the screen ---------------------------------------------------------------------------
 
+DeskaForm& RukaNaDesce::Deska() const {
+    auto* deska = dynamic_cast<DeskaForm*>(relace_.Vpredu());
+    if (deska == nullptr) Nejde("vpředu není deska", relace_.JmenoVpredu());
+    return *deska;
+}
+
 const Dialog& RukaNaDesce::Hrany() const {
-    return dynamic_cast<const DeskaForm&>(*relace_.Vpredu()).Dialogem();
+    return Deska().Dialogem();
 }
 
 std::vector<Zadano> RukaNaDesce::Zadani() const {
     std::vector<PolozkaZadani> popisky;
-    Form& deska = *relace_.Vpredu();
+    DeskaForm& deska = Deska();
     for (int i = 0;; ++i) {
         const auto* l = dynamic_cast<Label*>(deska.Najdi("lblZadani", i));
         if (l == nullptr || !l->Visible) return CtiZadani(popisky);

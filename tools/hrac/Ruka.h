@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/Bod.h"
-#include "board/Dialog.h"
+#include "board/DeskaForm.h"
 #include "hrac/Relace.h"
 
 namespace rysovna::hrac {
@@ -91,6 +91,9 @@ protected:
     [[nodiscard]] Relace& Hra() const { return relace_; }
 
 private:
+    /// The board in front.
+    [[nodiscard]] DeskaForm& Deska() const;
+
     Relace& relace_;
 };
 

@@ -1,6 +1,5 @@
 #include "hrac/Serie.h"
 
-#include <stdexcept>
 #include <string>
 
 #include "board/DialogCtyruhelnikuVrchol.h"
