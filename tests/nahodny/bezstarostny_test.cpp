@@ -35,8 +35,8 @@ TEST(BezstarostnyZak, NicNeshodiANicNeztrati) {
         for (const auto& [uloha, kolikrat] : s.Desky) std::cout << " " << uloha << ":" << kolikrat;
         std::cout << std::endl;
         // A pupil that gets nowhere would prove nothing.
-        EXPECT_GE(s.Serii * 2000, kazde);
-        EXPECT_GE(s.Uzavreni * 2000, kazde);
+        EXPECT_GE(s.Serii * 5000, kazde);
+        EXPECT_GE(s.Uzavreni * 5000, kazde);
         EXPECT_GE(s.Desky.size(), 2U);
     }
 }
