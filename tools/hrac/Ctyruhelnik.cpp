@@ -176,7 +176,9 @@ void DokonalyRovnobeznik::Obrazy() {
         // "hledaný bod D je obrazem vrcholu A": the pupil sees which point is looked for.
         const std::string radek = ruka_.Hrany().UkazPanel().Combo.Radky.back().Text;
         const char pres = "CDAB"[radek[UVOD.size()] - 'A'];
+        const int pred = Dialogem().Stav().Faze;
         ruka_.Vyber(radek.substr(0, radek.size() - 1) + pres).Klikni(Nekam());
+        if (Dialogem().Stav().Faze == pred) throw NejdeUdelat("obraz se nenakreslil");
     }
 }
 

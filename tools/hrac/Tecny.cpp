@@ -211,7 +211,12 @@ void DokonaleTecny::Proved(const KrokZaka& k, bool druhy) {
 }
 
 void DokonaleTecny::SpravneDo(int faze) {
-    while (Dialogem().Stav().Faze < faze) SpravnyKrok();
+    const auto ted = [this] { return Dialogem().Stav().Faze; };
+    while (ted() < faze) {
+        const int pred = ted();
+        SpravnyKrok();
+        if (ted() == pred) throw NejdeUdelat("krok " + std::to_string(pred) + " se nepodařil");
+    }
 }
 
 void DokonaleTecny::SpravneVse() {
