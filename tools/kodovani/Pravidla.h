@@ -205,8 +205,8 @@ constexpr PravidloVety VETY[]{
 /// An object that leads from a starting triangle to the fourth vertex: its quantity, kind, code.
 struct PravidloPrvku {
     std::string_view Trojuhelnik, Velicina, Utvar, Prvek;
-    char
-        Vrchol;  ///< of the triangle: the centre, the start, the one that the parallel goes through
+    /// Of the triangle: the centre, the start, the one that the parallel goes through.
+    char Vrchol;
 };
 constexpr PravidloPrvku PRVKY[]{
     {"ABC", "c", KRUZNICE, "KC", 'C'},         {"ABC", "d", KRUZNICE, "KA", 'A'},
