@@ -10,6 +10,8 @@
 #include "engine/Kresleni.h"
 #include "engine/Resitele.h"
 #include "engine/Sluzby.h"
+#include "platform/Pisma.h"
+#include "platform/Surface.h"
 #include "shell/Misc.h"
 #include "shell/Soubory.h"
 
@@ -18,7 +20,7 @@ namespace rysovna {
 namespace {
 
 // The sketch: a quadrilateral A(40, 150), B(250, 150), C(215, 40), D(75, 25) with its diagonals.
-// An angle's zone is the place of its letter.
+// An angle's zone is the place of its letter. The vertices' letters are PISMENA_VRCHOLU.
 constexpr PrvekNacrtu NACRT[] = {
     CaraNacrtu("a", {40, 250, 0, 150, 3}, 40, 150, 250, 150, 145, 151),
     CaraNacrtu("b", {215, 250, 22 / 7.0, -635.7, 13}, 250, 150, 215, 40, 238, 84),
@@ -30,8 +32,6 @@ constexpr PrvekNacrtu NACRT[] = {
     {"delta", {80, 94, 0, 59, 7}, OBLOUK, 75, 25, 40, 150, 215, 40, 46, "d", true, 83, 51},
     CaraNacrtu("e", {65, 200, -22 / 35.0, 175.1, 5}, 40, 150, 215, 40, 111, 82),
     CaraNacrtu("f", {100, 225, 5 / 7.0, -28.6, 5}, 250, 150, 75, 25, 196, 91)};
-constexpr PismenoNacrtu PISMENA[] = {
-    {"A", 26, 146}, {"B", 254, 146}, {"C", 219, 26}, {"D", 61, 10}};
 
 // What a release costs when a ray or a circle starts elsewhere.
 constexpr CenaPocatku CENY_POCATKU[] = {{POLOPRIMKA, 23, 23}, {KRUZNICE, 22, 45}};
@@ -59,7 +59,6 @@ constexpr double NEJDELSI = 1e5;             // px that a typed length may make 
 constexpr double DALEKO_PO_PAPRSKU = 10000;  // px, so that rounding does not bend the ray
 
 constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhelník!";
-constexpr int SIRKA_NELZE = 274, VYSKA_NELZE = 12;  // px of that text as the plane prints it
 
 constexpr int SIRKA_SEZNAMU_TROJUHELNIKU = 105, SIRKA_SEZNAMU_VET = 140;  // px
 
@@ -124,9 +123,13 @@ bool VejdouSe(const Plane& plocha, std::span<const Bod> body) {
 }
 
 DialogCtyruhelniku::DialogCtyruhelniku(Platna platna, const PravidlaCtyruhelniku& pravidla)
-    : DialogKroku(
-          platna,
-          {pravidla.Uvod, NACRT, PISMENA, JMENA, CENY_POCATKU, {1, 2}, TvarBodu::PodleCisla}),
+    : DialogKroku(platna, {pravidla.Uvod,
+                           NACRT,
+                           pravidla.PismenaNacrtu,
+                           JMENA,
+                           CENY_POCATKU,
+                           {1, 2},
+                           TvarBodu::PodleCisla}),
       pravidla_(pravidla) {}
 
 // ---- The life of an example ------------------------------------------------------------------
@@ -145,8 +148,8 @@ void DialogCtyruhelniku::Prekresli() {
     PrekresliVse(platna_.HidenPic, platna_.Pic);
     if (!stav_.Nesestrojen) return;
     Plane& pic = platna_.Pic;
-    pic.CurrentX = static_cast<float>(pic.Width() - SIRKA_NELZE) / 2;
-    pic.CurrentY = static_cast<float>(pic.Height() - VYSKA_NELZE) / 2;
+    pic.CurrentX = static_cast<float>((pic.Width() - PresnaSirka(pic.Font, NELZE)) / 2);
+    pic.CurrentY = static_cast<float>(pic.Height() - VyskaRadku(pic.Font)) / 2;
     pic.Print(NELZE);
 }
 

@@ -40,11 +40,16 @@ constexpr std::array<VetaTrojuhelniku, 8> VETY_CELYCH = {{
     {"sus", "DAB", "DAB", {{{"d", "d", 116}, {"a", "a", 113}, {"alfa", "alfa", 117}}}},
 }};
 
-/// What one quadrilateral board has of its own in its starting triangle.
+/// Letters of the sketch at its vertices.
+constexpr std::array<PismenoNacrtu, 4> PISMENA_VRCHOLU = {
+    {{"A", 26, 146}, {"B", 254, 146}, {"C", 219, 26}, {"D", 61, 10}}};
+
+/// What one quadrilateral board has of its own in its sketch and its starting triangle.
 struct PravidlaCtyruhelniku {
     std::string_view Uvod;  ///< lead-in of the assignment
     /// Each triangle once by "sss": the lines of the first list, in this order.
     std::span<const VetaTrojuhelniku> Vety;
+    std::span<const PismenoNacrtu> PismenaNacrtu = PISMENA_VRCHOLU;
 };
 
 /// The dialogue's own record. Faze: 1 starting triangle, then the board's own steps.

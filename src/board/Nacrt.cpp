@@ -77,7 +77,8 @@ void KresliPrvkyNacrtu(Plane& plocha, std::span<const PrvekNacrtu> prvky,
     }
     plocha.ForeColor = CERNA;
     for (const PismenoNacrtu& t : pismena) {
-        Tiskni(plocha, t.X, t.Y, t.Text, {Pismo::Rez::MsSansSerif, VELIKOST_PISMEN, false, true});
+        const auto rez = t.Symbol ? Pismo::Rez::Symbol : Pismo::Rez::MsSansSerif;
+        Tiskni(plocha, t.X, t.Y, t.Text, {rez, VELIKOST_PISMEN, false, !t.Symbol});
     }
 }
 

@@ -41,10 +41,11 @@ struct PrvekNacrtu {
 
 constexpr auto OBLOUK = PrvekNacrtu::Tvar::Oblouk;
 
-/// A letter of the sketch that is no element: the name of a vertex.
+/// A letter of the sketch that is no element: the name of a vertex, or of an angle without a mark.
 struct PismenoNacrtu {
     std::string_view Text;
     float X, Y;
+    bool Symbol = false;  ///< in the Symbol face; otherwise bold
 };
 
 /// The first element whose zone contains the press; -1 if none does.

@@ -32,7 +32,12 @@ constexpr auto VETY = Spoj(VETY_CELYCH, std::array<VetaTrojuhelniku, 8>{
                                             {"sus", "DAS", "DSA", {DS, AS, OMEG}},
                                         });
 
-constexpr PravidlaCtyruhelniku PRAVIDLA{"Sestroj rovnoběžník ABCD:", VETY};
+// The diagonals' angles have no mark, so the sketch says which they are: ASB and BSC.
+constexpr auto PISMENA = Spoj(
+    PISMENA_VRCHOLU,
+    std::array<PismenoNacrtu, 3>{{{"S", 147, 58}, {"e", 148, 88, true}, {"w", 164, 71, true}}});
+
+constexpr PravidlaCtyruhelniku PRAVIDLA{"Sestroj rovnoběžník ABCD:", VETY, PISMENA};
 
 /// How the three values are drawn, kinds from Od to Po (two digits, so text compares as numbers).
 /// The first two are lengths.
