@@ -14,9 +14,10 @@ struct Pruseciky {
 /// Where two drawn objects meet. A ray meets a circle only ahead of its start; two straight
 /// objects are taken for whole lines. A line whose two points coincide, and any other kind, meets
 /// nothing.
-/// Where the filter of a ray leaves neither of two real meeting points (a nearly upright or level
-/// ray loses its own by a rounded pixel), the one ahead of the ray's start is taken, so that a
-/// right drawing always closes.
+/// A right drawing always closes. Where the filter of a ray leaves neither of two real meeting
+/// points (a nearly upright or level ray loses its own by a rounded pixel), the one ahead of the
+/// ray's start is taken. Where two lines meet straight above both their first points, which the
+/// solver does not tell, they are asked for from their other ends.
 [[nodiscard]] Pruseciky PrusecikyUtvaru(const Plane& plocha, const Utvar& prvni,
                                         const Utvar& druhy);
 

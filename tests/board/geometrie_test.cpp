@@ -191,12 +191,22 @@ TEST(Uzavreni, PrimkySKruzniciANeshody) {
     EXPECT_EQ(body.P2, (Bod{104, 130}));
     EXPECT_EQ(PrusecikyUtvaru(plocha, k, r).P1, body.P1);
     // Nothing in common, parallels, one centre, a line whose points coincide.
-    const std::pair<Utvar, Utvar> nic[] = {{Primy(KOLMICE, {20, 20}, {300, 20}), k},
-                                           {r, Primy(ROVNOBEZKA, {0, 30}, {280, 30})},
-                                           {k, Kruh({150, 150}, 70)},
-                                           {k, Primy(KOLMICE, {150, 150}, {150, 150})},
-                                           {k, Primy(POLOPRIMKA, {250, 150}, {350, 150})}};
+    const std::pair<Utvar, Utvar> nic[] = {
+        {Primy(KOLMICE, {20, 20}, {300, 20}), k},
+        {r, Primy(ROVNOBEZKA, {0, 30}, {280, 30})},
+        {k, Kruh({150, 150}, 70)},
+        {k, Primy(KOLMICE, {150, 150}, {150, 150})},
+        {k, Primy(POLOPRIMKA, {250, 150}, {350, 150})},
+        {Primy(POLOPRIMKA, {100, 150}, {100, 10}), Primy(POLOPRIMKA, {100, 150}, {200, 10})}};
     for (const auto& [a, b] : nic) EXPECT_EQ(PrusecikyUtvaru(plocha, a, b).P1, BEZ_BODU);
+    // Straight above the first points of both, whichever of them is the upright one.
+    const Utvar svisla = Primy(POLOPRIMKA, {100, 250}, {100, 10});
+    const Utvar vodorovna = Primy(ROVNOBEZKA, {100, 170}, {300, 170});
+    for (const auto& [a, b] : {std::pair(svisla, vodorovna), std::pair(vodorovna, svisla)}) {
+        const Bod p = PrusecikyUtvaru(plocha, a, b).P1;
+        EXPECT_NEAR(p.X, 100, 1);
+        EXPECT_NEAR(p.Y, 170, 1);
+    }
 }
 
 }  // namespace
