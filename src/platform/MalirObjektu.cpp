@@ -105,8 +105,7 @@ void Namaluj(const Kresba& k, const Obdelnik& kde, const Label& l) {
 void NamalujRadkyTextu(const Kresba& k, const Obdelnik& kde, const TextBox& t) {
     const Obdelnik misto = k.NaCil(kde);
     int y = kde.Top + OKRAJ_TEXTU;
-    for (const std::string& radek :
-         RozdelNaRadky(t.Font, t.Text, std::max(t.Width - 2 * OKRAJ_TEXTU, 1))) {
+    for (const std::string& radek : t.Radky()) {
         Radek(k, kde.Left + OKRAJ_TEXTU, y, t.Font, radek, DoPixelu(CERNA), misto);
         y += VyskaRadku(t.Font);
     }

@@ -40,8 +40,8 @@ bool Dosazitelny(const Ovladac* o) {
 }
 
 bool BereMys(const Ovladac& o) {
-    return o.Druh == Ovladac::Typ::PictureBox || o.Druh == Ovladac::Typ::Image ||
-           o.Druh == Ovladac::Typ::Label || o.Druh == Ovladac::Typ::TextBox;
+    return o.ProMys && (o.Druh == Ovladac::Typ::PictureBox || o.Druh == Ovladac::Typ::Image ||
+                        o.Druh == Ovladac::Typ::Label || o.Druh == Ovladac::Typ::TextBox);
 }
 
 /// The uppermost object at a place of its parent, or the parent's own nothing (null).
@@ -114,21 +114,25 @@ struct Obrazovky::Vnitrek {
         while (o != nullptr && !Dosazitelny(o)) o = o->Rodic;
         return o;
     }
-    /// Whether this press is the second of a double click; remembers it.
-    bool Dvojklik(const Formular& f, Ovladac* o, double x, double y, int tlacitko) {
+    /// What a press is to the one before: the second of a double click, or of one whose first press
+    /// brought another form up or took its own away.
+    enum class Stisk { Prvni, Druhy, DruhyJinde };
+    /// Tells it, and remembers the press. A third press begins anew.
+    Stisk Zarad(const Formular& f, Ovladac* o, double x, double y, int tlacitko) {
         const std::uint32_t ted = Stroj().TickCount();
-        const bool druhy = MinulyPlati && tlacitko == LEVE && MinulyForm.lock() == f &&
-                           MinulyObjekt == o && ted - MinulyCas <= DVOJKLIK_MS &&
-                           std::abs(x - MinuleX) <= DVOJKLIK_PX &&
-                           std::abs(y - MinuleY) <= DVOJKLIK_PX;
-        // A third press begins anew.
+        const bool vzapeti = MinulyPlati && tlacitko == LEVE && ted - MinulyCas <= DVOJKLIK_MS &&
+                             std::abs(x - MinuleX) <= DVOJKLIK_PX &&
+                             std::abs(y - MinuleY) <= DVOJKLIK_PX;
+        const bool jinde = MinulyForm.lock() != f;
+        const bool druhy = vzapeti && (jinde || MinulyObjekt == o);
         MinulyPlati = tlacitko == LEVE && !druhy;
         MinulyForm = f;
         MinulyObjekt = o;
         MinulyCas = ted;
         MinuleX = x;
         MinuleY = y;
-        return druhy;
+        if (!druhy) return Stisk::Prvni;
+        return jinde ? Stisk::DruhyJinde : Stisk::Druhy;
     }
     /// The form that is in front now gets Activate if it was not the active one.
     void Aktivuj(const Formular& f) {
@@ -244,11 +248,14 @@ void Obrazovky::MysDolu(double x, double y, int tlacitko, int shift) {
         return;
     }
     Ovladac* o = Vnitrek::Najdi(*form, x, y);
+    const Vnitrek::Stisk stisk = v.Zarad(form, o, x, y, tlacitko);
+    // Who double-clicks the table's way back does not mean the board's, which lies below it.
+    if (stisk == Vnitrek::Stisk::DruhyJinde) return;
+    const bool dvojklik = stisk == Vnitrek::Stisk::Druhy;
     v.Drzi = true;
     v.DrziForm = form;
     v.DrziObjekt = o;
     v.DrziTlacitka = tlacitko;
-    const bool dvojklik = v.Dvojklik(form, o, x, y, tlacitko);
     const Mys m = Vnitrek::Udalost(*form, o, x, y, tlacitko, shift);
     if (o != nullptr && o->Druh == Ovladac::Typ::TextBox && tlacitko == LEVE) {
         auto& t = static_cast<TextBox&>(*o);
@@ -309,11 +316,6 @@ TextBox* Obrazovky::Psane() const {
 
 std::uint32_t Obrazovky::PosledniPsani() const {
     return vnitrek_->Psano;
-}
-
-Ovladac* Obrazovky::NaMiste(double x, double y) const {
-    const Formular form = vnitrek_->Cilovy();
-    return form == nullptr ? nullptr : Vnitrek::Najdi(*form, x, y);
 }
 
 void Obrazovky::Text(std::string_view utf8) {

@@ -58,9 +58,6 @@ public:
     [[nodiscard]] TextBox* Psane() const;
     /// Tick count of the last typing or caret move: the caret does not blink at once.
     [[nodiscard]] std::uint32_t PosledniPsani() const;
-    /// The object at a place of the form in front that would get the event, design pixels; null
-    /// where the form itself (or nothing) would.
-    [[nodiscard]] Ovladac* NaMiste(double x, double y) const;
 
     /// Typed text, UTF-8.
     void Text(std::string_view utf8);

@@ -1,5 +1,10 @@
 #include "platform/Ovladace.h"
 
+#include <algorithm>
+
+#include "platform/Pisma.h"
+#include "platform/PsaniTextu.h"
+
 namespace rysovna {
 
 Surface& PictureBox::Plocha() {
@@ -18,6 +23,14 @@ Surface& PictureBox::Plocha() {
 
 void Label::PodleTextu() {
     Width = SirkaTextu(Font, Caption);
+}
+
+std::vector<std::string> TextBox::Radky() const {
+    return RozdelNaRadky(Font, Text, std::max(Width - 2 * OKRAJ_TEXTU, 1));
+}
+
+bool TextBox::VejdeSe() const {
+    return static_cast<int>(Radky().size()) * VyskaRadku(Font) + 2 * OKRAJ_TEXTU <= Height;
 }
 
 }  // namespace rysovna

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "base/Bod.h"
 #include "base/Plane.h"
@@ -33,6 +34,7 @@ struct Ovladac {
     int Left = 0, Top = 0, Width = 0, Height = 0;
     bool Visible = true;
     bool Enabled = true;  ///< what is disabled leaves its presses to its parent
+    bool ProMys = true;   ///< false: the pointer goes through it to what lies beneath
     std::string Tag;
     Pismo Font;
 
@@ -99,6 +101,11 @@ struct TextBox : Ovladac {
     int SelStart = 0;        ///< the caret's end of the selection
     int SelAnchor = 0;       ///< the other end
     int Posun = 0;           ///< how far the text is scrolled, px
+
+    /// The rows in which a box of several lines shows its text.
+    [[nodiscard]] std::vector<std::string> Radky() const;
+    /// Whether its height takes them all.
+    [[nodiscard]] bool VejdeSe() const;
 };
 
 /// Rubber bands: shapes that the painter lays over a plane without drawing into it.

@@ -18,8 +18,6 @@ public:
     static constexpr std::uint8_t ZAHLAVI = 12;  ///< the banner
     static constexpr std::uint8_t KONEC = 20;    ///< the exit or back button
 
-    [[nodiscard]] std::uint8_t Cislo() const { return cislo_; }
-
     /// The pointer is over the control of this number. True, with the enter sound, when it was
     /// over another one before.
     bool Vstup(std::uint8_t cislo);

@@ -119,19 +119,15 @@ void SetupForm::ZvolPocet(std::size_t k) {
 void SetupForm::SpustDesku() {
     ZvukStisku();
     JmenoHrace = TJmeno.Text;
-    if (NajdiUlohu(CisloUlohy) == nullptr) return;
-    Host& stroj = Stroj();
     const std::shared_ptr<Form> deska = VyrobDeskuUlohy(CisloUlohy);
-    if (!deska) {
-        stroj.MsgBox("Tato úloha zatím není k dispozici.", "Rysovna 1", Styl::Ok);
-        return;
-    }
-    stroj.Okna().Zaved(deska);
-    stroj.Okna().Show(*deska);
+    if (!deska) return;
+    Obrazovky& okna = Stroj().Okna();
+    okna.Zaved(deska);
+    okna.Show(*deska);
     AktivniForm = deska;
     Cekej(100);
     if (Skoncil(*this) || deska->Zavreny()) return;
-    stroj.Okna().Hide(*this);
+    okna.Hide(*this);
 }
 
 void SetupForm::ZpetDoMenu() {

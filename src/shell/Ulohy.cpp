@@ -14,7 +14,8 @@ void NastavVyrobceDesek(VyrobceDesek vyrobce) {
 }
 
 std::shared_ptr<Form> VyrobDeskuUlohy(int cisloUlohy) {
-    return vyrobceDesek ? vyrobceDesek(cisloUlohy) : nullptr;
+    if (NajdiUlohu(cisloUlohy) == nullptr || !vyrobceDesek) return nullptr;
+    return vyrobceDesek(cisloUlohy);
 }
 
 }  // namespace rysovna

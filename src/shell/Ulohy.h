@@ -68,14 +68,14 @@ constexpr const Uloha* NajdiUlohu(int cislo) {
     return nullptr;
 }
 
-/// Makes the board of a task, not loaded yet; null when that board is not there.
+/// Makes the board of a task, not loaded yet. It is asked for tasks only.
 using VyrobceDesek = std::function<std::shared_ptr<Form>(int cisloUlohy)>;
 
 /// Hands the shell its maker of boards: the program its own, a test another. An empty one makes
 /// nothing.
 void NastavVyrobceDesek(VyrobceDesek vyrobce);
 
-/// A board from the maker that was handed over; null if there is none.
+/// A board from the maker that was handed over; null for a number that is no task.
 [[nodiscard]] std::shared_ptr<Form> VyrobDeskuUlohy(int cisloUlohy);
 
 }  // namespace rysovna
