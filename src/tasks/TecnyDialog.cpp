@@ -18,15 +18,14 @@ namespace {
 
 constexpr int NASTROJ_ZPET = 5;
 
-// Sizes of the list, px.
-constexpr int SIRKA_SEZNAMU = 200, SIRKA_RADKU = 196;
-constexpr int VYSKA_RADKU = 20, OKRAJ_SEZNAMU = 4;
+constexpr int SIRKA_SEZNAMU = 200;  // px
 
 bool JePrima(const Utvar& u) {
     return u.Druh == USECKA || u.Druh == PRIMKA || u.Druh == KOLMICE || u.Druh == ROVNOBEZKA;
 }
 
-/// "přímce a" or "úsečce AB" as the three lists word it; empty when there is no such object.
+/// The base's name behind the words that the list of perpendiculars or that of parallels has for
+/// its kind; empty when there is no such object.
 std::string SlovyPrimku(std::string_view jmeno, std::string_view uPrimky,
                         std::string_view uUsecky) {
     const int i = NajdiCaru(jmeno);
@@ -145,7 +144,6 @@ void TecnyDialog::StiskNastroje(int i) {
     const Panel panel = UkazPanel();
     if (i < 1 || i > NASTROJ_ZPET || !panel.cmd[static_cast<std::size_t>(i - 1)].Zive) return;
     KonstrukceZahajena = ANO;
-    ZavriSeznam();
     if (i == NASTROJ_ZPET) return Zpet();
     const KrokTecny* krok = KrokFaze();
     if (krok == nullptr) return;
@@ -209,8 +207,7 @@ void TecnyDialog::OtevriSeznam(std::vector<RadekSeznamu> radky) {
         stav_.CekaNaKresleni = true;
         return;
     }
-    const int vyska = static_cast<int>(radky.size()) * VYSKA_RADKU + OKRAJ_SEZNAMU;
-    stav_.Combo = {true, SIRKA_SEZNAMU, vyska, SIRKA_RADKU, std::move(radky)};
+    stav_.Combo = Seznam::SRadky(SIRKA_SEZNAMU, std::move(radky));
 }
 
 /// Perpendicular and parallel: the bases that there are.

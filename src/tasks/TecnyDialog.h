@@ -93,6 +93,7 @@ private:
         std::uint32_t Pouzite;
         int Utvaru, Radku;         ///< objects made, rows of ZadanePrvky written
         std::vector<int> Polozky;  ///< solution entries done
+        bool Cizi = false;         ///< the object was another than the step's own
     };
 
     [[nodiscard]] const KrokTecny* KrokFaze(int faze) const;

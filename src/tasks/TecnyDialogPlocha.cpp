@@ -299,7 +299,7 @@ void TecnyDialog::NakresliBod(Bod misto, const std::string& jmeno, std::string_v
 }
 
 void TecnyDialog::Pamatuj(int utvaru, int radku) {
-    minulost_.push_back({stav_.Faze, stav_.Pary, stav_.Pouzite, utvaru, radku, {}});
+    minulost_.push_back({stav_.Faze, stav_.Pary, stav_.Pouzite, utvaru, radku, {}, false});
 }
 
 void TecnyDialog::Zapis(int faze, std::string_view druh, std::string_view prvek) {
@@ -333,7 +333,9 @@ void TecnyDialog::SpocitejPruseciky(const KrokTecny& krok) {
     if (i != 0 && j != 0) {
         const Utvar& u = Utvary[i];
         const Utvar& v = Utvary[j];
-        const Bod u1{u.X1, u.Y1}, u2{u.X2, u.Y2}, v1{v.X1, v.Y1}, v2{v.X2, v.Y2};
+        const Bod u1{u.X1, u.Y1}, v1{v.X1, v.Y1}, v2{v.X2, v.Y2};
+        Bod u2{u.X2, u.Y2};
+        if (u2 == u1) u2.Y += 1;  // clicked, not dragged: it stands upright
         switch (krok.Pocita) {
             case Prunik::PrimkaKruznice:
                 PrunikPrimkyKruzniceVPlose(platna_.Pic, v1, v.Polomer, u1, u2, u1, u2, b1, b2);
@@ -355,6 +357,7 @@ void TecnyDialog::SpocitejPruseciky(const KrokTecny& krok) {
 /// The step is done, with the step's own kind of object (vlastni) or another. The finish comes
 /// with the last step's own object, when all results are there.
 void TecnyDialog::UkonciKrok(bool vlastni) {
+    minulost_.back().Cizi = !vlastni;
     Odzbroj();
     ++stav_.Faze;
     stav_.Zpatky = false;

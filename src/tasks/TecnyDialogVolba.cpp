@@ -1,6 +1,9 @@
 // The pick of a line of the list, and what the panel shows.
 
+#include <algorithm>
+
 #include "board/Kontrola.h"
+#include "board/Zadani.h"
 #include "engine/Kresleni.h"
 #include "shell/Misc.h"
 #include "shell/Soubory.h"
@@ -13,14 +16,10 @@ namespace {
 constexpr std::string_view VYZVA_STRED = "Zvol kliknutím na kreslící ploše střed úsečky.";
 constexpr std::string_view VYZVA_HOTOVO = "Proveď kontrolu hotové konstrukce.";
 
-constexpr float VELIKOST_ZADANI = 10;  // points
 constexpr int TVAR_ZPET = 12;
 constexpr std::size_t ZPET = 4;
 
-// Where the perpendicular sign stands behind lblText3, px: behind "přímka b, b", and more for each
-// further character of both names.
-constexpr int ODSAZENI_KOLMO = 66;
-constexpr int SIRKA_ZNAKU = 7;
+constexpr int SIRKA_ZNAKU = 7;  // px that a longer name pushes the sign of a perpendicular
 
 }  // namespace
 
@@ -69,7 +68,7 @@ void TecnyDialog::ZvolPrimku(const std::string& zaklad) {
     }
     stav_.lblText3 = zacatek + "      " + zaklad;
     const int navic = 2 * (static_cast<int>(stav_.Jmeno.size()) - 1);
-    stav_.lblText4 = {"^", true, true, ODSAZENI_KOLMO + navic * SIRKA_ZNAKU, true};
+    stav_.lblText4 = TextPanelu::Kolmo(navic * SIRKA_ZNAKU);
 }
 
 void TecnyDialog::ZvolKruznici(const KrokTecny& krok, const std::string& stred) {
@@ -124,10 +123,9 @@ std::array<Tlacitko, 6> TecnyDialog::Tlacitka(const Cviceni& c) const {
     }
     // Back stays live while a point is to be marked: a crossing that could not be computed cannot
     // be marked at all.
-    const bool mrtve = stav_.Zpatky && !zaKoncem && krok.MrtveZpet;
-    const bool stredNeni = stav_.Tvar == Nastroj::Stred && stav_.StredUsecky == BEZ_BODU;
-    const bool zpet =
-        stav_.Faze > 1 && !stav_.Skontrolovano && !mrtve && (!vRuce || Znaci() || stredNeni);
+    const bool mrtve = stav_.Zpatky && !zaKoncem && krok.MrtveZpet &&
+                       std::ranges::none_of(minulost_, &Minulost::Cizi);
+    const bool zpet = stav_.Faze > 1 && !stav_.Skontrolovano && !mrtve && (!vRuce || Znaci());
     cmd[ZPET] = {TVAR_ZPET, zpet, zpet};
     return cmd;
 }
@@ -138,8 +136,8 @@ Panel TecnyDialog::UkazPanel() const {
     p.PicZiva = false;
     if (c == nullptr) return p;
     p.Label1 = c->Zadani;
-    PolozkaZadani dano{.Text = std::string(c->Dano), .NovyRadek = true};
-    dano.Font = {Pismo::Rez::MsSansSerif, VELIKOST_ZADANI, false, false};
+    PolozkaZadani dano = HodnotaZadani(std::string(c->Dano), MEZERA);
+    dano.NovyRadek = true;
     p.lblZadani = {dano};
     p.cmd = Tlacitka(*c);
     const KrokTecny* krok = KrokFaze();

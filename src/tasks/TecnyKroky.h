@@ -70,7 +70,9 @@ struct KrokTecny {
     std::array<std::string_view, 3> Zakladny{};
     std::string_view JmenoChybnehoStredu{};  ///< of a midpoint that is a wrong choice
     std::array<Nastroj, 4> SedeTvary{};      ///< grey faces after the press; all Zadny: as Tvary
-    bool MrtveZpet = false;  ///< reached by back, the step leaves the back button dead
+    /// Reached by back, the step leaves the back button dead. Not where an earlier step holds
+    /// another object than its own: only back leads to what is then still to be drawn.
+    bool MrtveZpet = false;
 };
 
 /// Marks of the sketch: eight by number and the ninth, of the segment whose axis is built.

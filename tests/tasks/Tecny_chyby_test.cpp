@@ -319,6 +319,32 @@ TEST(TecnyChyby, BezObouVysledkuNeniHotovo) {
     EXPECT_TRUE(hra.dialog.Hotova());
 }
 
+/// Back is dead at the later steps of "09" that back has led to, but not where an object of another
+/// kind stands in place of a result: nothing but back leads to that one.
+TEST(TecnyChyby, MrtveZpetNikohoNezavre) {
+    TecnyHra hra("09", 6);
+    hra.zak.SpravneDo(6);
+    hra.zak.Nastroj(3).Tahni({20, 300}, {60, 200});
+    hra.zak.Nastroj(6).Vyber("kružnice l2, střed v bodě S2");
+    hra.Tahni(NajdiBod("S2"), NajdiBod("A"));
+    EXPECT_FALSE(hra.dialog.Hotova());
+    hra.Zpet();
+    EXPECT_TRUE(hra.P().cmd[4].Zive);
+    hra.Zpet();
+    EXPECT_EQ(hra.Faze(), 6);
+    EXPECT_FALSE(hra.P().cmd[4].Zive);
+    hra.zak.SpravneVse();
+    EXPECT_TRUE(hra.dialog.Hotova());
+}
+
+/// A line that was clicked and not dragged is drawn upright, and its crossings lie on it.
+TEST(TecnyChyby, KliknutaPrimkaSeProtinaTamKdeStoji) {
+    TecnyHra hra("09", 6);
+    hra.zak.Nastroj(2).Vyber("přímka AS").Klikni(NajdiBod("A"));
+    EXPECT_EQ(TecnyHra::Chyby(), Cisla{208});
+    for (const Bod& b : hra.dialog.Stav().Pary.Misto) EXPECT_NEAR(b.X, NajdiBod("A").X, 1);
+}
+
 TEST(TecnyChyby, Kontrola) {
     struct Pripad {
         int Krok;      ///< played without a fault up to here
