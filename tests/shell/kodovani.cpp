@@ -125,6 +125,9 @@ TEST_F(Nastroje, TamAZpet) {
     EXPECT_TRUE(Spust("zakoduj x.txt").ends_with("= 2"));
     Pis("01.txt", "; x\n1#α\n");
     EXPECT_EQ(Spust("zakoduj 01.txt 02.dat"), "Znak č. 3 nejde uložit (01.txt:2)\n= 1");
+    Pis("Errors.txt", "999 Ahoj.\n1000 Ahoj.\n");
+    EXPECT_EQ(Spust("zakoduj Errors.txt 02.dat"),
+              "Řádek nezačíná číslem kroku 1 až 999 (Errors.txt:2)\n= 1");
     EXPECT_NE(Cti("02.dat"), "");
 }
 
@@ -175,7 +178,7 @@ TEST_F(Nastroje, PravidlaUloh) {
         {"10.txt", "obrazbodu#D", "#", "chybí krok „obrazbodu“ se jménem „D“"},
         {"11.txt", "CD||AB##rovnobezka#vc", "c#cm#kruznice#KC", "rovnoběžnost, právě jednou"},
         {"11.txt", "d#cm#kruznice#KA", "c#cm#kruznice#KC", "neurčí, oba vycházejí z C"},
-        {"13.txt", "05", "06", "(Druh): je „06“, má být 05"},
+        {"13.txt", "05", "10", "(Druh): je „10“, má být 01 až 09"},
         {"13.txt", "#B", "#", "(Dalsi1): je „“, má být „B“"},
         {"13.txt", "e###", "e#l##", "(Kroky[4].Jmeno): je „l“, má být prázdné"}};
     for (const auto& [soubor, radek] : radky) EXPECT_EQ(Kontrola(soubor, radek), "= 0") << radek;
@@ -190,12 +193,14 @@ TEST_F(Nastroje, PravidlaUloh) {
 }
 
 TEST_F(Nastroje, ChybyVetZnamekATabulek) {
-    EXPECT_TRUE(Kontrola("Errors.txt", "2 Věta.\n2 Znovu.\n4 Cizí.\nx\n9\n")
+    EXPECT_TRUE(Kontrola("Errors.txt", "2 Věta.\n2 Znovu.\n4 Cizí.\nx\n9\n49 Začátek\n")
                     .starts_with("Errors.txt:2: číslo: krok 2 už je na řádku 1; body by se strhly "
                                  "dvakrát\n"
                                  "Errors.txt:3: číslo: krok 4 žádná úloha nezná\n"
                                  "Errors.txt:4: číslo: je „x“, má být 1 až 999\n"
                                  "Errors.txt:5: věta: chybí\n"
+                                 "Errors.txt:6: věta: musí končit mezerou: program k ní připojí "
+                                 "další slova\n"
                                  "Errors.txt: chybí věta ke kroku 1\n"));
     EXPECT_EQ(Kontrola("Znamky.txt", "90|99|1\n75|89|3\n50|75|2\n25|50|256\n0|25|5\n0|1|6\n"),
               "Znamky.txt:3: pole 3 (známka): známky nejdou od nejlepší k nejhorší\n"

@@ -137,14 +137,18 @@ private:
         for (const Radek& radek : radky) {
             const std::size_t mezera = std::min(radek.Text.find(' '), radek.Text.size());
             const std::string_view text = radek.Text;
-            const auto cislo = CeleCislo(text.substr(0, mezera));
-            if (!cislo || *cislo < 1 || *cislo > 999) {
+            const auto cislo = CisloVety(text);
+            if (!cislo) {
                 Pridej(radek.Cislo, "číslo",
                        "je " + Uvozovky(text.substr(0, mezera)) + ", má být 1 až 999");
                 continue;
             }
             if (text.find_first_not_of(' ', mezera) == std::string_view::npos) {
                 Pridej(radek.Cislo, "věta", "chybí");
+            } else if (std::ranges::find(UVODY_VET, *cislo) != std::end(UVODY_VET) &&
+                       !text.ends_with(' ')) {
+                Pridej(radek.Cislo, "věta",
+                       "musí končit mezerou: program k ní připojí další slova");
             }
             if (const auto [prvni, nova] = kde.emplace(*cislo, radek.Cislo); !nova) {
                 Pridej(radek.Cislo, "číslo",

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "Hlaseni.h"
 #include "base/Chyba.h"
 #include "base/Text.h"
 #include "shell/Kodovani.h"
@@ -12,6 +13,7 @@ namespace {
 
 constexpr std::string_view ZNACKA_UTF8 = "\xEF\xBB\xBF";
 constexpr std::size_t DELKA_CISLA = 3;
+constexpr int NEJVETSI_KROK = 999;
 constexpr char KONCOVY_ZNAK = '|';
 
 std::string Malymi(std::string text) {
@@ -59,6 +61,11 @@ std::vector<Radek> CtiCitelny(const std::filesystem::path& cesta) {
     return radky;
 }
 
+std::optional<int> CisloVety(std::string_view citelna) {
+    const auto cislo = CeleCislo(citelna.substr(0, citelna.find(' ')));
+    return cislo && *cislo >= 1 && *cislo <= NEJVETSI_KROK ? cislo : std::nullopt;
+}
+
 std::string CitelnaVeta(std::string_view ulozena) {
     std::string cislo(ulozena.substr(0, DELKA_CISLA));
     cislo.erase(0, std::min(cislo.find_first_not_of(" 0"), cislo.size()));
@@ -88,6 +95,9 @@ std::string Zakoduj(const std::filesystem::path& zdroj) {
                               Misto(zdroj, radek.Cislo));
         }
         const bool veta = soubor.obsah == Obsah::Chyby;
+        if (veta && !CisloVety(radek.Text)) {
+            throw BehovaChyba("Řádek nezačíná číslem kroku 1 až 999", Misto(zdroj, radek.Cislo));
+        }
         const std::string text = Do1250(veta ? UlozenaVeta(radek.Text) : radek.Text);
         ulozeny += MaKodovaneRadky(soubor) ? ZakodujRadek(text) : text;
         ulozeny += "\r\n";

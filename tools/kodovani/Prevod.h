@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,9 @@ struct Radek {
 /// The lines of a readable file, in UTF-8, without comments (";" at the beginning) and empty lines.
 [[nodiscard]] std::vector<Radek> CtiCitelny(const std::filesystem::path& cesta);
 
+/// The wrong step of a readable line; none unless it begins with a number from 1 to 999.
+[[nodiscard]] std::optional<int> CisloVety(std::string_view citelna);
+
 /// A wrong step's line in its readable form, "7 sentence", and in its stored form before the line
 /// coding, "007 sentence|". The first three characters are the number, one is ignored, the last is
 /// dropped.
@@ -34,7 +38,7 @@ struct Radek {
 [[nodiscard]] std::string UlozenaVeta(std::string_view citelna);
 
 /// The stored form of a readable file, Windows-1250. What cannot be stored (a character that the
-/// code page lacks) is a fault that names the line and the character.
+/// code page lacks, a sentence without a number) is a fault that names the line.
 [[nodiscard]] std::string Zakoduj(const std::filesystem::path& zdroj);
 /// The readable form of a stored file, UTF-8.
 [[nodiscard]] std::string Dekoduj(const std::filesystem::path& zdroj);

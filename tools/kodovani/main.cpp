@@ -43,7 +43,7 @@ int Zkontroluj(const Argumenty& soubory) {
         } catch (const BehovaChyba& chyba) {
             // The other files are still worth looking at.
             vysledek = CHYBY;
-            std::cout << chyba.Kde() << ": " << chyba.what() << '\n';
+            std::cout << chyba.what() << '\n';
         }
     }
     return vysledek;
