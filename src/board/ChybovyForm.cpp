@@ -14,8 +14,10 @@ namespace rysovna {
 namespace {
 
 constexpr Obdelnik MISTO{216, 89, 356, 250};  // px of the board
-constexpr int OKRAJ = 12;                     // px around the text
+constexpr int RAM = 3;                        // px around the text
 constexpr Barva PAPIR = Rgb(255, 252, 240);
+
+constexpr float NEJMENSI_PISMO = 7;  // points
 
 }  // namespace
 
@@ -31,7 +33,7 @@ ChybovyForm::ChybovyForm() {
     Top = MISTO.Top;
     Width = MISTO.Width;
     Height = MISTO.Height;
-    Pridej(Text1, "Text1", {OKRAJ, OKRAJ, Width - 2 * OKRAJ, Height - 2 * OKRAJ});
+    Pridej(Text1, "Text1", {RAM, RAM, Width - 2 * RAM, Height - 2 * RAM});
     Text1.MultiLine = true;
     Text1.BackColor = PAPIR;
 }
@@ -40,6 +42,8 @@ void ChybovyForm::Load() {
     PrizpusobForm(*this);
     Picture = NactiObrazek("Bitmap\\Games\\new_Hint.bmp");
     Text1.Text = TextChybnychKroku();
+    // Ten long sentences want a smaller face: the list cannot be scrolled.
+    while (!Text1.VejdeSe() && Text1.Font.Velikost > NEJMENSI_PISMO) Text1.Font.Velikost -= 1;
 }
 
 void ChybovyForm::MouseDown(Ovladac*, const Mys&) {

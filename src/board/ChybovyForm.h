@@ -16,7 +16,7 @@ public:
     ChybovyForm();
     [[nodiscard]] std::string_view Jmeno() const override { return "ChybovyForm"; }
 
-    TextBox Text1;  ///< fills the client area but for a margin
+    TextBox Text1;  ///< fills the client area but for its frame; all rows fit
 
     void Load() override;
     /// A press on the list closes it: only a release that got lost leaves it standing so long.

@@ -72,6 +72,7 @@ void DeskaForm::RozlozOvladace() {
     Text.WordWrap = false;
     Text.BackColor = PODKLAD_ODECTU;
     Text.Visible = false;
+    Text.ProMys = false;  // a quick move to the lower right would run into it
     Pridej(HidenPic, "HidenPic", {180, 20, 45, 41});
     HidenPic.Visible = false;
     PridejPole(picSipka, "picSipka", SIPKY[0].Misto);

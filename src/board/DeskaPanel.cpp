@@ -23,7 +23,7 @@ constexpr std::uint32_t DOBA_SNIMKU = 40;  // ms
 constexpr std::string_view NADPIS_STRANY = "Označ strany (resp. úhly), které jsou zadány:";
 constexpr std::string_view NADPIS_VSE =
     "Označ strany (resp. úhly, výšky, těžnice), které jsou zadány:";
-constexpr int ULOHA_STRANY = 1;  // the task whose sketch has no heights
+constexpr int ULOHA_STRANY = 1;  // the one task with the short heading
 constexpr float NADPIS_X = 21, NADPIS_Y = 6;
 
 }  // namespace

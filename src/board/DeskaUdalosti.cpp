@@ -37,6 +37,8 @@ void DeskaForm::SkryjSeznam() {
 
 void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
     if (o == nullptr) return SkryjSeznam();
+    // Between two examples there is nothing to work on yet.
+    if (cekaNaZadani_ && (Je(cmd, o) || Je(ComboLabel, o) || o == &Pic || o == &SamplePic)) return;
     if (Je(cmd, o)) return StiskNastroje(cmd[static_cast<std::size_t>(o->Index - 1)], m);
     if (Je(ComboLabel, o)) return VyberRadku(o->Index);
     if (o == &Pic) {
@@ -66,6 +68,8 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
 }
 
 void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
+    // What only passing over the plane showed.
+    if (o != &Pic && (m.Button & LEVE) == 0) SkryjTah();
     if (o == nullptr) {
         if (hover_.Opust()) {
             ZhasniSipky();
@@ -79,7 +83,6 @@ void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
         if (!poustiSe_ && dialog_->CekaNaKresleni()) UkazTah(dialog_->Tah(m.X, m.Y), m);
         return;
     }
-    if ((m.Button & LEVE) == 0) SkryjTah();  // what only passing over the plane showed
     const bool sipka = Je(picSipka, o);
     if (!sipka && !Je(PicTop, o)) return;
     const auto cislo = static_cast<std::uint8_t>(o->Index + (sipka ? HOVER_SIPKY : 0));

@@ -60,8 +60,9 @@ public:
 
     /// The arrows: shifts the whole figure by whole pixels and draws it again.
     virtual void Posun(int dx, int dy) = 0;
-    /// The judgements of the check (wrong elements, marks, an unfinished construction), charged in
-    /// this order. The dialogue takes no further step afterwards.
+    /// The judgements of the check: wrong elements, marks, an unfinished construction. Which of
+    /// them there are and in which order they are charged is the board's. The dialogue takes no
+    /// further step afterwards.
     virtual void Zkontroluj() = 0;
     /// Whether the construction is closed.
     [[nodiscard]] virtual bool Hotova() const = 0;

@@ -13,9 +13,8 @@ namespace {
 constexpr int NASTROJ_ZPET = 5;
 constexpr std::array<int, 6> TVARY_UTVARU = {3, 4, 5, 6, 12, 0};
 
-// Where lblText4 stands behind lblText3, px.
+// Where a unit stands behind its prompt, px.
 constexpr int ODSAZENI_JEDNOTKY = 142;
-constexpr int ODSAZENI_KOLMO = 66;
 
 /// What stands before the names of a base in the lists of perpendiculars and parallels.
 struct UvodPrimky {
@@ -118,8 +117,7 @@ void DialogKroku::Napis(int /*ktery*/, const std::string& text) {
 }
 
 void DialogKroku::OtevriSeznam(int sirka, std::vector<RadekSeznamu> radky) {
-    const int vyska = static_cast<int>(radky.size()) * Seznam::VYSKA_RADKU + Seznam::OKRAJ;
-    Upravit().Combo = {true, sirka, vyska, sirka - Seznam::OKRAJ, std::move(radky)};
+    Upravit().Combo = Seznam::SRadky(sirka, std::move(radky));
 }
 
 std::optional<RadekSeznamu> DialogKroku::RadekPrimky(const Utvar& u, bool kolmice) {
@@ -178,7 +176,7 @@ void DialogKroku::ZacniPrimku(const std::string& jmena, const std::string& nazev
             " cm");
     }
     s.lblText3 = "přímka " + jmeno + ", " + jmeno + "      " + nazev;
-    s.lblText4 = {"^", true, true, ODSAZENI_KOLMO, true};
+    s.lblText4 = TextPanelu::Kolmo();
     s.txtVstup = {};
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "base/Chyba.h"
 #include "base/Cisla.h"
 #include "board/DialogKroku.h"
 #include "engine/Kresleni.h"
@@ -142,7 +143,7 @@ void DialogKroku::PusteniPlochy(float x, float y) {
 
 void DialogKroku::NakresliUtvar(Bod konec) {
     const DruhTahu* druh = Druh();
-    if (druh == nullptr) return;
+    if (druh == nullptr) Selhani("Útvar se nedá narýsovat: " + Stav().ZvolenyUtvar);
     platna_.Pic.DrawWidth = 1;
     const Dvojice body = BodyPrimky(konec);
     druh->Nakresli(platna_.Pic, ++PocetUtvaru, body.P1, body.P2);

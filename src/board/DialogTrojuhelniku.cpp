@@ -2,6 +2,7 @@
 
 #include "base/Cisla.h"
 #include "board/Uzavreni.h"
+#include "engine/Kresleni.h"
 #include "engine/Sluzby.h"
 #include "shell/Misc.h"
 #include "shell/Soubory.h"
@@ -20,21 +21,6 @@ constexpr CenaPocatku CENY_POCATKU[] = {{POLOPRIMKA, 31, 31}, {KRUZNICE, 22, 45}
 constexpr int CHYBA_PAPRSEK_JINDE = 23;
 
 constexpr int SIRKA_HOTOVYCH_STRAN = 2;  // px
-
-// Where a vertex's letter is looked for, px.
-constexpr int ODSAZENI_X = -3;
-constexpr int ODSAZENI_Y = 10;
-constexpr int SIRKA_PISMENE = 12;
-constexpr int DOSAH_PISMENE = 10;
-
-/// Prints a vertex's letter beside it, in a free spot.
-void PopisVrchol(Plane& plocha, Bod vrchol, std::string_view pismeno) {
-    Bod misto{vrchol.X + ODSAZENI_X, vrchol.Y + ODSAZENI_Y};
-    VolneMisto(plocha, misto, SIRKA_PISMENE, DOSAH_PISMENE);
-    plocha.CurrentX = static_cast<float>(misto.X);
-    plocha.CurrentY = static_cast<float>(misto.Y);
-    plocha.Print(pismeno);
-}
 
 }  // namespace
 
@@ -142,7 +128,7 @@ void DialogTrojuhelniku::ObtahniStrany() {
     const auto y = static_cast<float>(stav_.Vrchol.Y);
     pic.Line(x, y, static_cast<float>(strana.X1), static_cast<float>(strana.Y1));
     pic.Line(x, y, static_cast<float>(strana.X2), static_cast<float>(strana.Y2));
-    PopisVrchol(pic, stav_.Vrchol, stav_.PismenoVrcholu);
+    PopisBod(pic, stav_.Vrchol, stav_.PismenoVrcholu);
 }
 
 /// The last snap record becomes the third vertex.

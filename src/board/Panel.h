@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Bod.h"
@@ -34,6 +35,12 @@ struct Seznam {
     int Sirka = 105, Vyska = 64;  ///< px
     int SirkaRadku = 101;         ///< px
     std::vector<RadekSeznamu> Radky;
+
+    /// An open list, so many px wide and as high as its lines want.
+    [[nodiscard]] static Seznam SRadky(int sirka, std::vector<RadekSeznamu> radky) {
+        const int vyska = static_cast<int>(radky.size()) * VYSKA_RADKU + OKRAJ;
+        return {true, sirka, vyska, sirka - OKRAJ, std::move(radky)};
+    }
     friend bool operator==(const Seznam&, const Seznam&) = default;
 };
 
@@ -44,6 +51,12 @@ struct TextPanelu {
     bool Symbol = false;        ///< set in the Symbol face
     int Odsazeni = 0;           ///< px to the right of lblText3
     bool NaRadkuVyzvy = false;  ///< stands on the prompt's own row, not on the value's
+
+    /// The sign of a perpendicular behind "přímka b, b" of the prompt; behind longer names so many
+    /// px more.
+    [[nodiscard]] static TextPanelu Kolmo(int navic = 0) {
+        return {"^", true, true, 66 + navic, true};
+    }
     friend bool operator==(const TextPanelu&, const TextPanelu&) = default;
 };
 
@@ -64,7 +77,8 @@ struct RadekVstupu {
     friend bool operator==(const RadekVstupu&, const RadekVstupu&) = default;
 };
 
-/// One label of the assignment. Labels stand in two rows, each placed behind the one before.
+/// One label of the assignment. Labels stand in up to three rows, each placed behind
+/// the one before.
 struct PolozkaZadani {
     std::string Text;
     Pismo Font{Pismo::Rez::MsSansSerif, 10};

@@ -390,4 +390,8 @@ void KresliKruznici(Plane& plane, std::string_view druh, int index, int X1, int 
     ZapisStred(utvar, NovaTrojice);
 }
 
+void PopisBod(Plane& plane, Bod bod, std::string_view pismeno) {
+    Vypis(plane, bod, NajdiSektor(0).popis, POPIS_USECKY, pismeno);
+}
+
 }  // namespace rysovna

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "base/Bod.h"
 #include "base/Plane.h"
 
 namespace rysovna {
@@ -45,5 +46,9 @@ void KresliKolmici(Plane& plane, std::string_view druh, int index, int X1, int Y
 /// on the circle that is inside the plane.
 void KresliKruznici(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2,
                     int NovaTrojice);
+
+/// A letter beside a point that no object labels, in a free spot looked for as at the ends of a
+/// level segment.
+void PopisBod(Plane& plane, Bod bod, std::string_view pismeno);
 
 }  // namespace rysovna

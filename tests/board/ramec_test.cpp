@@ -4,11 +4,16 @@
 #include <functional>
 #include <gtest/gtest.h>
 
+#include "board/ChybovyForm.h"
 #include "board/DeskaForm.h"
+#include "board/Kontrola.h"
 #include "engine/Tabulky.h"
+#include "hrac/Ruka.h"
+#include "hrac/Tecny.h"
 #include "podpora/Rysovac.h"
 #include "shell/Hover.h"
 #include "shell/Misc.h"
+#include "shell/Soubory.h"
 #include "shell/Ulohy.h"
 #include "tasks/Desky.h"
 
@@ -181,6 +186,7 @@ TEST_F(RamecDesky, CoSeStiskneBehemCekaniNeublizi) {
                 // From wherever that led, the way back is open and a new board starts clean.
                 if (r.Hra.JmenoVpredu() == "HelpForm") r.Hra.StiskniMisto(300, 200);
                 if (r.Hra.JmenoVpredu() == "TabulkaForm") r.Kdo.Stiskni("picKonec");
+                r.Hra.Cekej(1000);
                 if (r.Hra.JmenoVpredu() == "Troj1Form") r.Kdo.Stiskni("PicTop", 4);
                 ASSERT_EQ(r.Hra.JmenoVpredu(), "SetupForm");
                 EXPECT_EQ(r.Hra.Najdi("Troj1Form"), nullptr);
@@ -219,6 +225,54 @@ TEST_F(RamecDesky, NezSeLosujePrikladKontrolaAniNovyNicNedelaji) {
             EXPECT_EQ(KladneBody, 10);
         }
     }
+}
+
+/// What is pressed while the panel comes out is delivered before there is an example.
+TEST_F(RamecDesky, NezSeLosujePrikladNejdeZacit) {
+    Rysovac r(SSS, 1, 2);
+    r.Zacni().Rysuj("AB");
+    r.Hra.Host().NaplanujZa(1470, [&] { r.Kdo.Oznac("a"); });
+    r.Hra.Host().NaplanujZa(1480, [&] { r.Kdo.Stiskni("cmd", 1); });
+    r.Kdo.Stiskni("PicTop", 2);
+    r.Hra.Cekej(2000);
+    EXPECT_FALSE(r.Hra.Prvek("Combo").Visible);
+    EXPECT_FALSE(r.Hra.Prvek("cmd", 1).Enabled);
+    EXPECT_EQ(KonstrukceZahajena, NE);
+}
+
+/// The read-out that goes with the pointer stays on the plane with it: it neither takes its events
+/// nor is left behind.
+TEST_F(RamecDesky, UdajUUkazatelePatriJenNaPlochu) {
+    Relace hra;
+    hra.Start();
+    hra.SpustUlohu(20);
+    hrac::RukaNaDesce ruka(hra);
+    hrac::DokonaleTecny zak(ruka, 1);
+    zak.Oznac();
+    ruka.ZasunPanel();
+    zak.Nastroj(7);
+    const Ovladac& udaj = hra.Prvek("Text");
+    const Bod plocha = hra.Roh(hra.Prvek("Pic"));
+    hra.NajedNaMisto(plocha.X + 100, plocha.Y + 100);
+    EXPECT_TRUE(udaj.Visible);
+    const int vlevo = udaj.Left;
+    hra.NajedNaMisto(plocha.X + 115, plocha.Y + 106);
+    EXPECT_TRUE(udaj.Visible);
+    EXPECT_EQ(udaj.Left, vlevo + 15);
+    hra.NajedNaMisto(5, 470);
+    EXPECT_FALSE(udaj.Visible);
+}
+
+/// The list of wrong steps cannot be scrolled: ten rows of any length must be seen.
+TEST_F(RamecDesky, SeznamChybSeVejdeCely) {
+    Rysovac r(SSS, 1);
+    PridejChybu(301, JEDEN_BOD, 1);
+    const auto kratky = r.Hra.Host().Okna().Nacti<ChybovyForm>();
+    EXPECT_TRUE(kratky->Text1.VejdeSe());
+    EXPECT_EQ(kratky->Text1.Font.Velikost, 10);
+    PocetChybnychKroku = 0;
+    for (int i = 0; i < ChybovyForm::RADKU; ++i) PridejChybu(i % 2 == 0 ? 36 : 127, TRI_BODY, 3);
+    EXPECT_TRUE(r.Hra.Host().Okna().Nacti<ChybovyForm>()->Text1.VejdeSe());
 }
 
 TEST_F(RamecDesky, StiskVedleNezrusiVolbuASipkaNepohneTahem) {
