@@ -257,6 +257,17 @@ std::vector<double> Zacatky(const Pismo& pismo, std::string_view text) {
     return zacatky;
 }
 
+/// Whether a row may end at this blank: Czech leaves neither a number nor a preposition of one
+/// letter at the end of a row.
+static bool JdeZalomit(std::u32string_view znaky, std::size_t mezera) {
+    constexpr std::u32string_view PREDLOZKY = U"osvzV";
+    if (mezera == 0) return true;
+    const char32_t znak = znaky[mezera - 1];
+    if (znak >= U'0' && znak <= U'9') return false;
+    const bool samo = mezera == 1 || znaky[mezera - 2] == U' ' || znaky[mezera - 2] == U'\n';
+    return !(samo && PREDLOZKY.find(znak) != std::u32string_view::npos);
+}
+
 std::vector<std::string> RozdelNaRadky(const Pismo& pismo, std::string_view text, int sirka) {
     std::vector<std::string> radky;
     const std::u32string znaky = DoZnaku(text);
@@ -273,7 +284,7 @@ std::vector<std::string> RozdelNaRadky(const Pismo& pismo, std::string_view text
         if (znaky[i] == U'\n') {
             zalom(i > zacatek && znaky[i - 1] == U'\r' ? i - 1 : i, i + 1);
         } else if (znaky[i] == U' ') {
-            mezera = i;
+            if (JdeZalomit(znaky, i)) mezera = i;
         } else if (sirka > 0 && x[i + 1] - x[zacatek] > sirka && i > zacatek) {
             if (mezera != std::u32string::npos) {
                 zalom(mezera, mezera + 1);

@@ -283,6 +283,7 @@ bool SoustredneKruznice(Pokus& p, Utvary_& u) {
     for (const V b : {V(S), V(A), B1, B2}) {
         if (b.X < OKRAJ || b.Y < OKRAJ || b.X > p.W - OKRAJ || b.Y > p.H - OKRAJ) return false;
     }
+    // 2 px more: A stands on a whole pixel, and B1 will be taken down to one.
     if (!MimoOsy(podle) || Delka(B1 - A) < ROZESTUP_FIGURY + 2) return false;
     u = {DanaKruznice("k1", S, r1), DanaKruznice("k2", S, R), DanyBod("S", S), DanyBod("A", A)};
     return true;

@@ -177,6 +177,8 @@ TEST_F(SurfaceTest, ZalamovaniTextuARecke) {
     using Radky = std::vector<std::string>;
     const int sirka = SirkaTextu(p, "jedna dvě");
     EXPECT_EQ(RozdelNaRadky(p, "jedna dvě tři", sirka), (Radky{"jedna dvě", "tři"}));
+    EXPECT_EQ(RozdelNaRadky(p, "dvě z tří", SirkaTextu(p, "dvě z")), (Radky{"dvě", "z tří"}));
+    EXPECT_EQ(RozdelNaRadky(p, "tři -1 bod", SirkaTextu(p, "tři -1 bo")), (Radky{"tři", "-1 bod"}));
     EXPECT_EQ(RozdelNaRadky(p, "jedna\ndvě\r\n\ntři", 0), (Radky{"jedna", "dvě", "", "tři"}));
     for (const auto& r : RozdelNaRadky(p, "Nejnezdevětadevadesáteronásobitelnější", 50)) {
         EXPECT_LE(SirkaTextu(p, r), 51);

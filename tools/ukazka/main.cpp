@@ -54,8 +54,9 @@ void OdehrajUlohu(Relace& hra, Fotograf& foto, int uloha) {
     hra.Stiskni("picPokracuj");
     hra.Cekej(200);
     foto.Vyfot(cislo + "_tabulka");
+    // The buttons lie one over the other: what came sooner would be a double click.
     hra.Stiskni("picKonec");
-    hra.Cekej(200);
+    hra.Cekej(600);
     hra.Stiskni("picKonec");
     hra.Cekej(1200);
 }
