@@ -34,9 +34,9 @@ constexpr int VAHA_OSTATNICH = 4;
 constexpr int VAHA_UTEKU = 10'000;
 constexpr int VAHA_KONTROLY = 60;  // once the figure is closed
 constexpr VahaPrvku VAHY[] = {
-    {"ComboLabel", 60},  {"picPokracuj", 60}, {"Pic", 40},      {"cmd", 14},   {"SamplePic", 8},
-    {"ImgHodnoceni", 8}, {"Combo", 2},        {"PicTop", 1},    {"picTop", 3}, {"picKonec", 6},
-    {"INadpis", 1},      {"Image1", 1},       {"MalaSipka", 1}, {"RI", 20},    {"ICislo", 12}};
+    {"ComboLabel", 60},  {"picPokracuj", 60}, {"Pic", 40},   {"cmd", 14},     {"SamplePic", 8},
+    {"ImgHodnoceni", 8}, {"Combo", 2},        {"PicTop", 1}, {"picKonec", 6}, {"INadpis", 1},
+    {"Image1", 1},       {"MalaSipka", 1},    {"RI", 20},    {"ICislo", 12}};
 
 constexpr std::string_view TEXTY[] = {"Žofie", "12,5", "-3", "  ",  "řeřicha", "999999999999",
                                       "1e5",   ".5",   "x",  "0",   "Ω",       "18",
@@ -67,7 +67,7 @@ int Vaha(const Ovladac& o, bool uzavreno) {
     if (uzavreno && o.Name == "PicTop" && o.Index == 1) return VAHA_KONTROLY;
     const auto* v = std::ranges::find(VAHY, o.Name, &VahaPrvku::Jmeno);
     if (v == std::end(VAHY)) return o.Druh == Ovladac::Typ::Label ? 1 : VAHA_OSTATNICH;
-    const bool zpet = o.Index == 4 && o.Name.ends_with("icTop");
+    const bool zpet = o.Index == 4 && o.Name == "PicTop";
     if (zpet) return PocetChybnychKroku > DOST_CHYB ? VAHA_UTEKU : 1;
     return v->Vaha;
 }
