@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "base/Cisla.h"
+#include "board/Zadani.h"
 #include "engine/Tabulky.h"
 #include "hrac/Trojuhelnik.h"
 
@@ -20,6 +21,34 @@ constexpr MistoZnacky ZNACKY[] = {{"a", {145, 150}},   {"b", {230, 87}},     {"c
 bool MaZnacku(std::string_view velicina) {
     return std::ranges::find(ZNACKY, velicina, &MistoZnacky::Velicina) != std::end(ZNACKY);
 }
+
+/// What a pupil knows: which triangle three quantities make, in any order, and by which theorem.
+/// The angles epsi and omeg are ASB and BSC, as the sketch has them.
+struct UrcenyTrojuhelnik {
+    std::string_view Trojuhelnik, Veta;
+    std::array<std::string_view, 3> Veliciny;
+};
+constexpr std::string_view SSS = "podle věty SSS", SUS = "podle věty SUS";
+constexpr UrcenyTrojuhelnik TROJUHELNIKY[] = {
+    {"ABC", SSS, {"a", "b", "e"}},     {"BCD", SSS, {"b", "c", "f"}},
+    {"CDA", SSS, {"c", "d", "e"}},     {"DAB", SSS, {"d", "a", "f"}},
+    {"ABC", SUS, {"a", "b", "beta"}},  {"BCD", SUS, {"b", "c", "gama"}},
+    {"CDA", SUS, {"c", "d", "delta"}}, {"DAB", SUS, {"d", "a", "alfa"}},
+    {"ABS", SSS, {"e", "f", "a"}},     {"BCS", SSS, {"e", "f", "b"}},
+    {"CDS", SSS, {"e", "f", "c"}},     {"DAS", SSS, {"e", "f", "d"}},
+    {"ABS", SUS, {"e", "f", "epsi"}},  {"BCS", SUS, {"e", "f", "omeg"}},
+};
+
+/// A quantity at the fourth vertex: the ends of a side, or an angle's vertex and its neighbours.
+struct PrvekUVrcholu {
+    std::string_view Velicina, Vrchol, Sousede;
+};
+constexpr PrvekUVrcholu PRVKY[] = {
+    {"a", "", "AB"},     {"b", "", "BC"},     {"c", "", "CD"},     {"d", "", "DA"},
+    {"alfa", "A", "BD"}, {"beta", "B", "CA"}, {"gama", "C", "DB"}, {"delta", "D", "AC"},
+};
+
+constexpr std::string_view VRCHOLY = "ABCD";
 
 /// The quantity that a typed row asks for: "délka strany a = ", "vel. úhlu beta = ".
 std::string VelicinaRadku(const std::string& popis) {
@@ -47,9 +76,18 @@ void ZakCtyruhelniku::Oznac() {
     }
 }
 
+/// The first three quantities make the starting triangle.
 void ZakCtyruhelniku::Trojuhelnik() {
-    ruka_.Nastroj(1).Vyber(Priklad_().Text2);
-    ruka_.Nastroj(2).Vyber(Priklad_().Text1 == "sss" ? "podle věty SSS" : "podle věty SUS");
+    const std::vector<Zadano> zadano = ruka_.Zadani();
+    const auto* t = std::ranges::find_if(TROJUHELNIKY, [&](const UrcenyTrojuhelnik& u) {
+        return std::ranges::all_of(u.Veliciny, [&](std::string_view v) {
+            return std::any_of(zadano.begin(), zadano.begin() + 3,
+                               [v](const Zadano& z) { return StejnaVelicina(z.Velicina, v); });
+        });
+    });
+    if (t == std::end(TROJUHELNIKY)) throw NejdeUdelat("zadání neurčuje trojúhelník");
+    ruka_.Nastroj(1).Vyber(t->Trojuhelnik);
+    ruka_.Nastroj(2).Vyber(t->Veta);
     const auto radky = ruka_.Hrany().UkazPanel().Vstupy;
     for (std::size_t i = 0; i < radky.size(); ++i) {
         std::string velicina = VelicinaRadku(radky[i].Nazev);
@@ -83,16 +121,25 @@ void DokonalyCtyruhelnik::Sestroj() {
     }
 }
 
+/// The quantities behind the triangle's three say what meets in the fourth vertex: parallel sides a
+/// parallel to the one that stands, a side a circle about its known end, an angle a ray along the
+/// side that stands.
 void DokonalyCtyruhelnik::Narysuj(int n) {
-    const Krok& krok = Priklad_().Kroky[n];
-    const std::string prvek = krok.UtvarB;
-    if (krok.Utvar == KRUZNICE) {
-        NarysujKruznici(prvek.substr(1), ruka_.Hodnota(krok.Jmeno));
-    } else if (krok.Utvar == POLOPRIMKA) {
-        NarysujPaprsek(prvek.substr(0, 1), prvek.substr(3), ruka_.Hodnota(krok.Jmeno));
-    } else {
-        NarysujRovnobezku(krok.Jmeno.substr(0, 2));
+    const Zadano z = ruka_.Zadani().at(static_cast<std::size_t>(n) + 2);
+    const std::string& trojuhelnik = Dialogem().Stav().ZvolenyTrojuhelnik;
+    const char chybi = VRCHOLY[VRCHOLY.find_first_not_of(trojuhelnik)];
+    if (const std::size_t znak = z.Velicina.find("||"); znak != std::string::npos) {
+        const std::string prvni = z.Velicina.substr(0, znak);
+        const bool stoji = prvni.find(chybi) == std::string::npos;
+        return NarysujRovnobezku(stoji ? prvni : z.Velicina.substr(znak + 2));
     }
+    const auto* p = std::ranges::find_if(
+        PRVKY, [&z](const PrvekUVrcholu& u) { return StejnaVelicina(z.Velicina, u.Velicina); });
+    if (p == std::end(PRVKY)) throw NejdeUdelat("neurčuje vrchol: " + z.Velicina);
+    std::string znamy(p->Sousede);
+    std::erase(znamy, chybi);
+    if (p->Vrchol.empty()) return NarysujKruznici(znamy, z.Hodnota);
+    NarysujPaprsek(std::string(p->Vrchol), znamy, z.Hodnota);
 }
 
 void DokonalyCtyruhelnik::NarysujKruznici(const std::string& stred, int cm) {
@@ -144,7 +191,7 @@ bool DokonalyCtyruhelnik::VejdeSe() const {
 }
 
 Bod DokonalyCtyruhelnik::Treti(const std::string& a, const std::string& b) const {
-    for (const char c : Priklad_().Text2) {
+    for (const char c : Dialogem().Stav().ZvolenyTrojuhelnik) {
         if (c != a[0] && c != b[0]) return VrcholNaPlose({&c, 1});
     }
     return {};
@@ -158,7 +205,7 @@ Bod DokonalyRovnobeznik::Nekam() {
 }
 
 void DokonalyRovnobeznik::Stred() {
-    const std::string t = Priklad_().Text2;
+    const std::string& t = Dialogem().Stav().ZvolenyTrojuhelnik;
     ruka_.Nastroj(1);
     if (t[2] == 'S') {
         ruka_.Vyber("vrchol S");

@@ -10,21 +10,23 @@
 
 namespace rysovna::hrac {
 
-/// What the perfect pupils of the quadrilaterals share: the marks, the starting triangle.
+/// What the perfect pupils of the quadrilaterals share: the marks, the starting triangle. They go
+/// by what the screen says, never by what the data expect, so that an example which nobody could
+/// solve from its assignment costs them points.
 class ZakCtyruhelniku {
 public:
     ZakCtyruhelniku(Ruka& ruka, std::uint32_t seminko) : ruka_(ruka), nahoda_(seminko) {}
 
     /// Marks what is given; a second time takes the marks off.
     void Oznac();
-    /// Chooses the triangle and the theorem of the example, types the values in and has it drawn.
+    /// Chooses the triangle that the assignment begins with and its theorem, types the values in
+    /// and has it drawn.
     void Trojuhelnik();
 
 protected:
     [[nodiscard]] const DialogCtyruhelniku& Dialogem() const {
         return dynamic_cast<const DialogCtyruhelniku&>(ruka_.Hrany());
     }
-    [[nodiscard]] const Priklad& Priklad_() const { return Dialogem().Hrany(); }
     [[nodiscard]] int Cislo(int rozpeti) {
         return static_cast<int>(nahoda_() % static_cast<unsigned>(rozpeti));
     }
@@ -42,7 +44,7 @@ public:
     /// The whole example without the check. Where a vertex comes out off the plane, takes both
     /// objects back and scrolls until the figure fits.
     void Sestroj();
-    /// Draws the n-th of the two expected objects (1, 2).
+    /// Draws the object of the n-th quantity (1, 2) behind those of the triangle.
     void Narysuj(int n);
 
 private:
