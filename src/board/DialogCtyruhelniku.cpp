@@ -10,7 +10,6 @@
 #include "engine/Kresleni.h"
 #include "engine/Resitele.h"
 #include "engine/Sluzby.h"
-#include "platform/Pisma.h"
 #include "platform/Surface.h"
 #include "shell/Misc.h"
 #include "shell/Soubory.h"
@@ -148,7 +147,7 @@ void DialogCtyruhelniku::Prekresli() {
     PrekresliVse(platna_.HidenPic, platna_.Pic);
     if (!stav_.Nesestrojen) return;
     Plane& pic = platna_.Pic;
-    pic.CurrentX = static_cast<float>((pic.Width() - PresnaSirka(pic.Font, NELZE)) / 2);
+    pic.CurrentX = static_cast<float>(pic.Width() - SirkaTextu(pic.Font, NELZE)) / 2;
     pic.CurrentY = static_cast<float>(pic.Height() - VyskaRadku(pic.Font)) / 2;
     pic.Print(NELZE);
 }

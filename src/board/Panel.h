@@ -52,10 +52,10 @@ struct TextPanelu {
     int Odsazeni = 0;           ///< px to the right of lblText3
     bool NaRadkuVyzvy = false;  ///< stands on the prompt's own row, not on the value's
 
-    /// The sign of a perpendicular behind "přímka b, b" of the prompt; behind longer names so many
-    /// px more.
+    static constexpr int ODSAZENI_KOLMO = 66;  ///< px, behind "přímka b, b" of the prompt
+    /// The sign of a perpendicular; behind longer names so many px more.
     [[nodiscard]] static TextPanelu Kolmo(int navic = 0) {
-        return {"^", true, true, 66 + navic, true};
+        return {"^", true, true, ODSAZENI_KOLMO + navic, true};
     }
     friend bool operator==(const TextPanelu&, const TextPanelu&) = default;
 };

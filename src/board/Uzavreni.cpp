@@ -49,20 +49,18 @@ Pruseciky PaprsekAKruznice(const Utvar& p, const Utvar& k) {
     return v;
 }
 
-/// The solver finds no point that stands straight above both lines' first points. It is then asked
-/// for from their second ones: of two lines that meet no more than one is upright. Two lines from
-/// one point meet just there, which is no vertex.
+}  // namespace
+
 Bod PrusecikPrimek(const Utvar& a, const Utvar& b) {
     Bod p = BEZ_BODU;
     Bod zadny;
     PrunikPrimek(Prvni(a), Druhy(a), Prvni(b), Druhy(b), p, zadny);
-    if (Prvni(a) == Prvni(b)) return p;
+    // It may stand straight above both first points. Of two lines that meet no more than one is
+    // upright, so one of them has its second point elsewhere.
     if (p == BEZ_BODU) PrunikPrimek(Prvni(a), Druhy(a), Druhy(b), Prvni(b), p, zadny);
     if (p == BEZ_BODU) PrunikPrimek(Druhy(a), Prvni(a), Prvni(b), Druhy(b), p, zadny);
     return p;
 }
-
-}  // namespace
 
 bool JePred(const Utvar& utvar, Bod s) {
     return !JePaprsek(utvar) || PredZacatkem(utvar, s);
@@ -78,7 +76,7 @@ Pruseciky PrusecikyUtvaru(const Plane& plocha, const Utvar& prvni, const Utvar& 
     } else if (JeKruznice(prvni) && JePrimy(druhy)) {
         PrunikPrimkyKruzniceVPlose(plocha, Prvni(prvni), prvni.Polomer, Prvni(druhy), Druhy(druhy),
                                    Prvni(druhy), Druhy(druhy), v.P1, v.P2);
-    } else if (JePrimy(prvni) && JePrimy(druhy)) {
+    } else if (JePrimy(prvni) && JePrimy(druhy) && !(Prvni(prvni) == Prvni(druhy))) {
         v.P1 = PrusecikPrimek(prvni, druhy);
     }
     return v;

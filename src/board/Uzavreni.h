@@ -11,13 +11,17 @@ struct Pruseciky {
     Bod P1 = BEZ_BODU, P2 = BEZ_BODU;
 };
 
+/// Where two straight objects meet, taken for whole lines; BEZ_BODU if they do not. The solver does
+/// not tell a point that stands straight above both their first points: it is then asked for from
+/// their other ends.
+[[nodiscard]] Bod PrusecikPrimek(const Utvar& a, const Utvar& b);
+
 /// Where two drawn objects meet. A ray meets a circle only ahead of its start; two straight
 /// objects are taken for whole lines. A line whose two points coincide, and any other kind, meets
-/// nothing.
+/// nothing; nor do two straight objects from one point, which is no vertex.
 /// A right drawing always closes. Where the filter of a ray leaves neither of two real meeting
 /// points (a nearly upright or level ray loses its own by a rounded pixel), the one ahead of the
-/// ray's start is taken. Where two lines meet straight above both their first points, which the
-/// solver does not tell, they are asked for from their other ends.
+/// ray's start is taken.
 [[nodiscard]] Pruseciky PrusecikyUtvaru(const Plane& plocha, const Utvar& prvni,
                                         const Utvar& druhy);
 

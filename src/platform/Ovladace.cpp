@@ -30,7 +30,9 @@ std::vector<std::string> TextBox::Radky() const {
 }
 
 bool TextBox::VejdeSe() const {
-    return static_cast<int>(Radky().size()) * VyskaRadku(Font) + 2 * OKRAJ_TEXTU <= Height;
+    std::vector<std::string> radky = Radky();
+    while (!radky.empty() && radky.back().empty()) radky.pop_back();
+    return static_cast<int>(radky.size()) * VyskaRadku(Font) + 2 * OKRAJ_TEXTU <= Height;
 }
 
 }  // namespace rysovna

@@ -8,6 +8,7 @@
 #include "base/Cisla.h"
 #include "board/Kontrola.h"
 #include "board/Prichytavani.h"
+#include "board/Uzavreni.h"
 #include "engine/Kresleni.h"
 #include "engine/Resitele.h"
 #include "shell/Soubory.h"
@@ -333,7 +334,7 @@ void TecnyDialog::SpocitejPruseciky(const KrokTecny& krok) {
     if (i != 0 && j != 0) {
         const Utvar& u = Utvary[i];
         const Utvar& v = Utvary[j];
-        const Bod u1{u.X1, u.Y1}, v1{v.X1, v.Y1}, v2{v.X2, v.Y2};
+        const Bod u1{u.X1, u.Y1}, v1{v.X1, v.Y1};
         Bod u2{u.X2, u.Y2};
         if (u2 == u1) u2.Y += 1;  // clicked, not dragged: it stands upright
         switch (krok.Pocita) {
@@ -344,7 +345,7 @@ void TecnyDialog::SpocitejPruseciky(const KrokTecny& krok) {
                 PrunikKruznic(platna_.Pic, u1, u.Polomer, v1, v.Polomer, b1, b2);
                 break;
             case Prunik::Primky:
-                PrunikPrimek(u1, u2, v1, v2, b1, b2);
+                b1 = PrusecikPrimek(u, v);
                 break;
             case Prunik::Nic:
                 break;

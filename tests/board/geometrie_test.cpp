@@ -207,6 +207,10 @@ TEST(Uzavreni, PrimkySKruzniciANeshody) {
         EXPECT_NEAR(p.X, 100, 1);
         EXPECT_NEAR(p.Y, 170, 1);
     }
+    // Lines from one point meet there, which is a crossing though no vertex.
+    const Bod spolecny = PrusecikPrimek(svisla, Primy(PRIMKA, {100, 250}, {300, 200}));
+    EXPECT_NEAR(spolecny.X, 100, 1);
+    EXPECT_NEAR(spolecny.Y, 250, 1);
 }
 
 }  // namespace

@@ -179,6 +179,7 @@ TEST_F(SurfaceTest, ZalamovaniTextuARecke) {
     EXPECT_EQ(RozdelNaRadky(p, "jedna dvě tři", sirka), (Radky{"jedna dvě", "tři"}));
     EXPECT_EQ(RozdelNaRadky(p, "dvě z tří", SirkaTextu(p, "dvě z")), (Radky{"dvě", "z tří"}));
     EXPECT_EQ(RozdelNaRadky(p, "tři -1 bod", SirkaTextu(p, "tři -1 bo")), (Radky{"tři", "-1 bod"}));
+    EXPECT_EQ(RozdelNaRadky(p, "12 34", SirkaTextu(p, "12 ")), (Radky{"12", "34"})) << "it must";
     EXPECT_EQ(RozdelNaRadky(p, "jedna\ndvě\r\n\ntři", 0), (Radky{"jedna", "dvě", "", "tři"}));
     for (const auto& r : RozdelNaRadky(p, "Nejnezdevětadevadesáteronásobitelnější", 50)) {
         EXPECT_LE(SirkaTextu(p, r), 51);

@@ -145,7 +145,9 @@ constexpr PravidloStrany PATRI_KE_STRANE[]{
 constexpr std::string_view SSS = "sss", SUS = "sus";
 constexpr std::string_view CELE[]{"ABC", "BCD", "CDA", "DAB"};
 constexpr std::string_view SE_STREDEM[]{"ABS", "BCS", "CDS", "DAS"};
-constexpr std::string_view VSECHNY[]{"ABC", "BCD", "CDA", "DAB", "ABS", "BCS", "CDS", "DAS"};
+/// Of the triangles with the centre those by whose angle the sketch names epsi and omeg: who is
+/// given one begins with its triangle.
+constexpr std::string_view S_UHLEM[]{"ABC", "BCD", "CDA", "DAB", "ABS", "BCS"};
 
 /// What a quantity at the fourth vertex may be. An angle's value is drawn from that of an angle of
 /// the starting triangle, so the order of the given sides tells at which vertex it lies.
@@ -181,7 +183,7 @@ constexpr PravidloSkupiny SKUPINY[]{
     {{9, 11}, 20, 32, 4, SSS, CELE, true, Ctvrty::UhelPrvni, Ctvrty::UhelDruhe},
     {{10, 10}, 1, 24, 1, SSS, CELE, false, Ctvrty::Zadna, Ctvrty::Zadna},
     {{10, 10}, 25, 56, 1, SSS, SE_STREDEM, false, Ctvrty::Zadna, Ctvrty::Zadna},
-    {{10, 10}, 57, 60, 1, SUS, VSECHNY, true, Ctvrty::Zadna, Ctvrty::Zadna},
+    {{10, 10}, 57, 60, 1, SUS, S_UHLEM, true, Ctvrty::Zadna, Ctvrty::Zadna},
 };
 
 /// The quantities of a starting triangle. Of a whole triangle the first two are its sides in the
@@ -198,7 +200,6 @@ constexpr PravidloVety VETY[]{
     {SSS, "ABS", {"a", "e", "f"}},     {SSS, "BCS", {"b", "e", "f"}},
     {SSS, "CDS", {"c", "e", "f"}},     {SSS, "DAS", {"d", "e", "f"}},
     {SUS, "ABS", {"e", "f", "epsi"}},  {SUS, "BCS", {"e", "f", "omeg"}},
-    {SUS, "CDS", {"e", "f", "epsi"}},  {SUS, "DAS", {"e", "f", "omeg"}},
 };
 
 /// An object that leads from a starting triangle to the fourth vertex: its quantity, kind, code.
