@@ -319,7 +319,12 @@ void DialogCtyruhelniku::UkazFazi(Panel& p) const {
     UkazNastroje(
         p, {10, 13, 0, 0, 12, 14},
         {MuzeZacit(), !stav_.ZvolenyTrojuhelnik.empty(), false, false, false, veta != nullptr});
-    if (veta == nullptr) return;
+    if (veta == nullptr) {
+        if (!stav_.ZvolenyTrojuhelnik.empty()) {
+            p.lblText2 = "trojúhelník " + stav_.ZvolenyTrojuhelnik;
+        }
+        return;
+    }
     p.lblText2 = "Délky úseček a velikosti úhlů:";
     for (std::size_t i = 0; i < stav_.Vstupy.size(); ++i) {
         const bool uhel = i == 2 && veta->Veta == "sus";

@@ -44,6 +44,20 @@ bool BereMys(const Ovladac& o) {
                         o.Druh == Ovladac::Typ::Label || o.Druh == Ovladac::Typ::TextBox);
 }
 
+/// The box to type into that comes behind (before) this one on the form; this one if there is no
+/// other.
+TextBox* DalsiPole(const Form& form, TextBox* t, bool zpet) {
+    std::vector<TextBox*> pole;
+    for (Ovladac* o : form.Ovladace()) {
+        auto* p = dynamic_cast<TextBox*>(o);
+        if (p != nullptr && !p->MultiLine && Dosazitelny(p)) pole.push_back(p);
+    }
+    if (zpet) std::ranges::reverse(pole);
+    const auto ted = std::ranges::find(pole, t);
+    if (ted == pole.end()) return t;
+    return ted + 1 == pole.end() ? pole.front() : *(ted + 1);
+}
+
 /// The uppermost object at a place of its parent, or the parent's own nothing (null).
 Ovladac* Nejvyssi(const Form& form, Ovladac* rodic, double x, double y) {
     const std::vector<Ovladac*>& vse = form.Ovladace();
@@ -331,6 +345,13 @@ void Obrazovky::Klavesa(std::string_view jmeno, int shift) {
     if (form == nullptr) return;
     if (TextBox* t = Psane()) {
         bool vzal = false;
+        TextBox* dalsi = jmeno == "Tab" ? DalsiPole(*form, t, (shift & 1) != 0) : t;
+        if (dalsi != t) {
+            form->SetFocus(*dalsi);
+            PsaniTextu(*dalsi).Klavesa("a", 2, vzal);  // all of it is marked
+            vnitrek_->Psano = Stroj().TickCount();
+            return;
+        }
         const bool zmena = PsaniTextu(*t).Klavesa(jmeno, shift, vzal);
         if (vzal) vnitrek_->Psano = Stroj().TickCount();
         if (zmena) form->Change(*t);

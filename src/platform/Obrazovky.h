@@ -63,7 +63,8 @@ public:
     void Text(std::string_view utf8);
     /// A key by its name: "Left", "Right", "Up", "Down", "Home", "End", "BackSpace", "Delete",
     /// "Return", "Escape", "Tab", "Space", or a letter with ctrl ("a", "c", "v", "x"). shift: 1
-    /// Shift, 2 Ctrl. What a key types comes as Text besides.
+    /// Shift, 2 Ctrl. Where there are several text boxes to type into, Tab goes round them. What a
+    /// key types comes as Text besides.
     void Klavesa(std::string_view jmeno, int shift);
     /// The window's own close button.
     void ZadostOZavreni();

@@ -9,9 +9,9 @@ namespace {
 // Numbers of the faces that the step buttons have here.
 constexpr int TVARY[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 12};
 
-// The assignment is a whole sentence: three rows above the given objects.
-constexpr Obdelnik MISTO_ZADANI{16, 97, 198, 48};
-constexpr int RADEK_DANYCH = 146;  // px
+// The assignment is a whole sentence: three rows above the given objects; the prompt below them.
+constexpr Obdelnik MISTO_ZADANI{16, 103, 198, 48};
+constexpr int RADEK_DANYCH = 153, VYZVA_NAHORE = 178;  // px
 
 }  // namespace
 
@@ -20,6 +20,7 @@ TecnyForm::TecnyForm() {
     Label1.Top = MISTO_ZADANI.Top;
     Label1.Width = MISTO_ZADANI.Width;
     Label1.Height = MISTO_ZADANI.Height;
+    lblText1.Top = VYZVA_NAHORE;
 }
 
 std::unique_ptr<Dialog> TecnyForm::VyrobDialog(Platna platna) {

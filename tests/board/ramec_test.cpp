@@ -8,6 +8,7 @@
 #include "board/DeskaForm.h"
 #include "board/Kontrola.h"
 #include "engine/Tabulky.h"
+#include "hrac/Ctyruhelnik.h"
 #include "hrac/Ruka.h"
 #include "hrac/Tecny.h"
 #include "podpora/Rysovac.h"
@@ -261,6 +262,28 @@ TEST_F(RamecDesky, UdajUUkazatelePatriJenNaPlochu) {
     EXPECT_EQ(udaj.Left, vlevo + 15);
     hra.NajedNaMisto(5, 470);
     EXPECT_FALSE(udaj.Visible);
+}
+
+TEST_F(RamecDesky, TabulatorVedePolickyDokola) {
+    Relace hra;
+    hra.Start();
+    hra.SpustUlohu(9);
+    hrac::RukaNaDesce ruka(hra);
+    hrac::ZakCtyruhelniku(ruka, 1).Oznac();
+    ruka.ZasunPanel();
+    ruka.Nastroj(1).Vyber("CDA");
+    EXPECT_EQ(hra.Prvek<Label>("lblText2").Caption, "trojúhelník CDA");
+    ruka.Nastroj(2).Vyber("podle věty SSS");
+    for (const char* text : {"1", "23", "4", "5"}) {
+        hra.Napis(text);
+        hra.Klavesa("Tab");
+    }
+    hra.Klavesa("Tab", 1);
+    hra.Klavesa("Tab", 1);
+    hra.Napis("6");
+    EXPECT_EQ(hra.Prvek<TextBox>("txtVstup").Text, "5");
+    EXPECT_EQ(hra.Prvek<TextBox>("txtVstup2").Text, "23");
+    EXPECT_EQ(hra.Prvek<TextBox>("txtVstup3").Text, "6");
 }
 
 /// The list of wrong steps cannot be scrolled: ten rows of any length must be seen.
