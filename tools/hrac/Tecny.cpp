@@ -101,7 +101,10 @@ std::string DokonaleTecny::Kod() const {
 }
 
 const KrokZaka& DokonaleTecny::Krok() const {
-    return POSTUPY.at(Kod())[static_cast<std::size_t>(Dialogem().Stav().Faze - 1)];
+    const auto& postup = POSTUPY.at(Kod());
+    const auto i = static_cast<std::size_t>(Dialogem().Stav().Faze - 1);
+    if (i >= postup.size()) throw NejdeUdelat("za posledním krokem úlohy " + Kod());
+    return postup[i];
 }
 
 void DokonaleTecny::Oznac() {
@@ -178,7 +181,7 @@ void DokonaleTecny::SpravnyKrok() {
     // The other of two lines through points that were marked in turn.
     const bool dvojice = i + 2 >= postup.size() && kod < "04";
     const bool druhy = i > 0 && postup[i - 1].Tvar == PRUSECIK;
-    Proved(Obracene && dvojice ? postup[2 * postup.size() - 3 - i] : postup[i], druhy);
+    Proved(Obracene && dvojice ? postup[2 * postup.size() - 3 - i] : Krok(), druhy);
 }
 
 /// druhy: of two crossings this is the second.

@@ -37,7 +37,7 @@ public:
 
     /// Presses the live button that has this face; throws if there is none.
     Ruka& Nastroj(int tvar);
-    /// The row of the step in hand.
+    /// The row of the step in hand; throws past the last one.
     [[nodiscard]] const KrokZaka& Krok() const;
     /// Both places that the marking step could take.
     [[nodiscard]] std::vector<Bod> Kandidati() const;
