@@ -77,8 +77,8 @@ struct RadekVstupu {
     friend bool operator==(const RadekVstupu&, const RadekVstupu&) = default;
 };
 
-/// One label of the assignment. Labels stand in up to three rows, each placed behind
-/// the one before.
+/// One label of the assignment. Labels stand in up to three rows, each placed behind the one
+/// before.
 struct PolozkaZadani {
     std::string Text;
     Pismo Font{Pismo::Rez::MsSansSerif, 10};

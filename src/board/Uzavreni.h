@@ -19,9 +19,9 @@ struct Pruseciky {
 /// Where two drawn objects meet. A ray meets a circle only ahead of its start; two straight
 /// objects are taken for whole lines. A line whose two points coincide, and any other kind, meets
 /// nothing; nor do two straight objects from one point, which is no vertex.
-/// A right drawing always closes. Where the filter of a ray leaves neither of two real meeting
-/// points (a nearly upright or level ray loses its own by a rounded pixel), the one ahead of the
-/// ray's start is taken.
+/// Where the filter of a ray leaves neither of two real meeting points (a nearly upright or level
+/// ray loses its own by a rounded pixel), the one ahead of the ray's start is taken, so that a
+/// right drawing closes.
 [[nodiscard]] Pruseciky PrusecikyUtvaru(const Plane& plocha, const Utvar& prvni,
                                         const Utvar& druhy);
 

@@ -218,6 +218,17 @@ void Otiskni(const Vyhled& cil, const Obdelnik& orez, int x, int y, const Glyf& 
     }
 }
 
+/// Whether a row likes to end at this blank: Czech leaves neither a number nor a preposition of one
+/// letter at the end of a row.
+bool JdeZalomit(std::u32string_view znaky, std::size_t mezera) {
+    constexpr std::u32string_view PREDLOZKY = U"osvzV";
+    if (mezera == 0) return true;
+    const char32_t znak = znaky[mezera - 1];
+    if (znak >= U'0' && znak <= U'9') return false;
+    const bool samo = mezera == 1 || znaky[mezera - 2] == U' ' || znaky[mezera - 2] == U'\n';
+    return !(samo && PREDLOZKY.find(znak) != std::u32string_view::npos);
+}
+
 }  // namespace
 
 void KresliText(const Vyhled& cil, const Obdelnik& orez, double x, double y, double s,
@@ -255,17 +266,6 @@ std::vector<double> Zacatky(const Pismo& pismo, std::string_view text) {
     for (const char32_t znak : ZnakyPisma(pismo, text))
         zacatky.push_back(zacatky.back() + Pisma().Posuv(CisloRezu(pismo), znak) * Velikost(pismo));
     return zacatky;
-}
-
-/// Whether a row likes to end at this blank: Czech leaves neither a number nor a preposition of one
-/// letter at the end of a row.
-static bool JdeZalomit(std::u32string_view znaky, std::size_t mezera) {
-    constexpr std::u32string_view PREDLOZKY = U"osvzV";
-    if (mezera == 0) return true;
-    const char32_t znak = znaky[mezera - 1];
-    if (znak >= U'0' && znak <= U'9') return false;
-    const bool samo = mezera == 1 || znaky[mezera - 2] == U' ' || znaky[mezera - 2] == U'\n';
-    return !(samo && PREDLOZKY.find(znak) != std::u32string_view::npos);
 }
 
 std::vector<std::string> RozdelNaRadky(const Pismo& pismo, std::string_view text, int sirka) {

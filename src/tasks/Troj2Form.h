@@ -9,8 +9,8 @@
 namespace rysovna {
 
 /// The dialogue of the triangle by a height or a median: five kinds of task, 27 kinds of example.
-/// A parallel to a side stands for the
-/// height upon it, a circle about a side's midpoint for the median to it.
+/// A parallel to a side stands for the height upon it, a circle about a side's midpoint for the
+/// median to it.
 class Troj2Dialog final : public DialogTrojuhelniku {
 public:
     explicit Troj2Dialog(Platna platna);

@@ -14,6 +14,8 @@ class DokonaleTecny : public testing::TestWithParam<const char*> {};
 
 TEST_P(DokonaleTecny, KazdyObrazecDaDesetBodu) {
     TecnyHra hra(GetParam());
+    // A task's file holds its own exercise and no other.
+    for (int i = 1; i <= PocetPrikladu; ++i) EXPECT_EQ(Priklady[i].Druh, GetParam());
     for (int s = 1; s <= Seminek(); ++s) {
         for (const int zpusob : {0, 1, 2}) {
             hra.Znovu(static_cast<std::uint32_t>(s));
