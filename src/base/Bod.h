@@ -15,6 +15,12 @@ struct Bod {
 /// No such point: what a solver gives where there is no solution.
 constexpr Bod BEZ_BODU{BEZ, BEZ};
 
+/// Two points of a straight object.
+struct Dvojice {
+    Bod P1, P2;
+    friend constexpr bool operator==(const Dvojice&, const Dvojice&) = default;
+};
+
 /// A rectangle, design pixels (or pixels of a bitmap, where told).
 struct Obdelnik {
     int Left = 0, Top = 0, Width = 0, Height = 0;

@@ -15,6 +15,14 @@ int DelkaPosloupnosti(unsigned char prvni) {
     return 0;
 }
 
+/// Whether a sequence of so many bytes may stand for this number: not one that a shorter sequence
+/// could say, no half of a pair, none beyond the last character.
+bool JeZnak(char32_t kod, std::size_t bajtu) {
+    constexpr char32_t NEJMENSI[] = {0, 0, 0x80, 0x800, 0x10000};
+    constexpr char32_t PRVNI_PULKA = 0xD800, ZA_PULKAMI = 0xE000, POSLEDNI = 0x10FFFF;
+    return kod >= NEJMENSI[bajtu] && kod <= POSLEDNI && (kod < PRVNI_PULKA || kod >= ZA_PULKAMI);
+}
+
 }  // namespace
 
 std::u32string DoZnaku(std::string_view utf8) {
@@ -35,7 +43,7 @@ std::u32string DoZnaku(std::string_view utf8) {
                 platny = platny && (dalsi & 0xC0) == 0x80;
                 slozeny = (slozeny << 6) | (dalsi & 0x3Fu);
             }
-            if (platny) {
+            if (platny && JeZnak(slozeny, n)) {
                 kod = slozeny;
                 krok = n;
             }

@@ -285,6 +285,18 @@ std::optional<Bod> DialogCtyruhelniku::MistoVrcholu(std::string_view pismeno) {
     return {};
 }
 
+void DialogCtyruhelniku::ZapomenTrojuhelnik() {
+    stav_.ZvolenyTrojuhelnik.clear();
+    stav_.ZvolenaVeta.clear();
+    stav_.Vstupy = {};
+}
+
+void DialogCtyruhelniku::Zpet() {
+    if (stav_.Faze > 1) return DialogKroku::Zpet();
+    stav_.ZvolenyUtvar.clear();
+    ZapomenTrojuhelnik();
+}
+
 void DialogCtyruhelniku::VratFazi() {
     for (int n = 1; n <= decltype(Priklad::Kroky)::POSLEDNI; ++n) {
         HranyProUpravu().Kroky[n].Hotovo = NE;
@@ -293,9 +305,7 @@ void DialogCtyruhelniku::VratFazi() {
         // The whole triangle goes, and what it was chosen by.
         PocetUtvaru = PocetTrojic = 0;
         stav_.Nesestrojen = false;
-        stav_.ZvolenyTrojuhelnik.clear();
-        stav_.ZvolenaVeta.clear();
-        stav_.Vstupy = {};
+        ZapomenTrojuhelnik();
     } else {
         // Each step after the triangle made one object.
         PocetUtvaru = PocetTrojic = (stav_.Nesestrojen ? 0 : 3) + stav_.Faze - 2;
@@ -316,11 +326,11 @@ void DialogCtyruhelniku::UkazFazi(Panel& p) const {
     if (stav_.Faze > 1) return UkazDalsi(p);
     const VetaTrojuhelniku* veta = ZvolenaVetaRadek();
     p.lblText1 = "Nejprve zvol trojúhelník, kterým začneš konstrukci.";
-    UkazNastroje(
-        p, {10, 13, 0, 0, 12, 14},
-        {MuzeZacit(), !stav_.ZvolenyTrojuhelnik.empty(), false, false, false, veta != nullptr});
+    const bool zvolen = !stav_.ZvolenyTrojuhelnik.empty();
+    UkazNastroje(p, {10, 13, 0, 0, 12, 14},
+                 {MuzeZacit(), zvolen, false, false, zvolen, veta != nullptr});
     if (veta == nullptr) {
-        if (!stav_.ZvolenyTrojuhelnik.empty()) {
+        if (zvolen) {
             p.lblText2 = "trojúhelník " + stav_.ZvolenyTrojuhelnik;
         }
         return;

@@ -88,6 +88,9 @@ protected:
     [[nodiscard]] bool ZacinaKrok(int i) const override;
     void Nabidni(int i) override;
     void ZvolRadek(std::size_t i) override;
+    /// In the first phase, before the triangle is drawn, takes the choice of it back: triangle,
+    /// theorem and typed values. What was charged, and the row of what was chosen, stay.
+    void Zpet() override;
     void VratFazi() override;
     [[nodiscard]] int ChybnychPrvku() const override;
     void UkazFazi(Panel& panel) const override;
@@ -109,6 +112,7 @@ private:
     void ZvolVetu(const std::string& veta);
     void PotvrdHodnoty();
     void NakresliTrojuhelnik(const VetaTrojuhelniku& veta);
+    void ZapomenTrojuhelnik();
     void Prekresli();
 
     const PravidlaCtyruhelniku& pravidla_;

@@ -203,21 +203,19 @@ bool DialogCtyruhelnikuVrchol::PrvekSpravny(int faze) const {
 
 // ---- The plane -------------------------------------------------------------------------------
 
-/// The two points of the parallel or perpendicular that a drag to here makes. A parallel close to
-/// a vertex of the starting triangle that is not on its base goes through it, where parallels
-/// belong to the construction.
-Dvojice DialogCtyruhelnikuVrchol::BodyPrimky(Bod konec) const {
+/// A parallel close to a vertex of the starting triangle that is not on its base goes through it,
+/// where parallels belong to the construction.
+std::optional<Bod> DialogCtyruhelnikuVrchol::BodRovnobezky(Bod konec) const {
+    if (!vrchol_.Rovnobezky) return {};
     const Utvar& zakladna = Zakladna();
-    const Dvojice tazena = DialogCtyruhelniku::BodyPrimky(konec);
-    if (!vrchol_.Rovnobezky || Stav().ZvolenyUtvar != ROVNOBEZKA) return tazena;
+    const Dvojice tazena = Rovnobezne(zakladna, Stav().Start, konec);
     for (const char pismeno : Vrcholy()) {
         const std::string jmeno(1, pismeno);
         const std::optional<Bod> vrchol = MistoVrcholu(jmeno);
         if (!vrchol || jmeno == zakladna.Jmeno1 || jmeno == zakladna.Jmeno2) continue;
-        if (Vzdalenost(PataUkazatele(tazena, *vrchol), *vrchol) >= DOSAH_CHYTANI) continue;
-        return Rovnobezne(zakladna, {zakladna.X1, zakladna.Y1}, *vrchol);
+        if (Vzdalenost(PataUkazatele(tazena, *vrchol), *vrchol) < DOSAH_CHYTANI) return vrchol;
     }
-    return tazena;
+    return {};
 }
 
 /// The angle of a ray against the side that its list line names; against a level line where that

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -31,7 +32,7 @@ protected:
     void ZvolDalsi(std::size_t i) override;
     [[nodiscard]] bool PrvekSpravny(int faze) const override;
     void UkazDalsi(Panel& panel) const override;
-    [[nodiscard]] Dvojice BodyPrimky(Bod konec) const override;
+    [[nodiscard]] std::optional<Bod> BodRovnobezky(Bod konec) const override;
     [[nodiscard]] std::string OdectiPaprsek(Bod konec) const override;
     void PosudOdecet(double odecet) override;
     [[nodiscard]] bool ZacinaSpravne() const override;

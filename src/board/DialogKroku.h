@@ -118,8 +118,11 @@ protected:
     virtual void ZvolRadek(std::size_t i) = 0;
     /// Judges the press that begins a drag, by what it caught; its start is known by now.
     virtual void PosudStisk(const Zachyt& /*zachyt*/) {}
+    /// The named point that the parallel in hand is drawn through, when it is let go here; none: it
+    /// stays where it was pushed.
+    [[nodiscard]] virtual std::optional<Bod> BodRovnobezky(Bod /*konec*/) const { return {}; }
     /// The two points of the straight object that a drag to here makes.
-    [[nodiscard]] virtual Dvojice BodyPrimky(Bod konec) const;
+    [[nodiscard]] Dvojice BodyPrimky(Bod konec) const;
     /// The read-out of a ray.
     [[nodiscard]] virtual std::string OdectiPaprsek(Bod /*konec*/) const { return {}; }
     /// Judges the number of the read-out at the release, in a step that is right so far.
@@ -131,6 +134,8 @@ protected:
     [[nodiscard]] virtual int PosledniFaze() const { return 4; }
     /// The last phase was reached: closes the figure, if its objects meet.
     virtual void Uzavri() = 0;
+    /// Takes the last step back: an earlier phase.
+    virtual void Zpet();
     /// Back: the construction of the phase that holds now, drawn anew.
     virtual void VratFazi() = 0;
     /// Whether a kind of object is the one that an expected step asks for.
@@ -188,9 +193,13 @@ private:
     [[nodiscard]] Zachyt ChytPosledni(float x, float y) const;
     [[nodiscard]] Zachyt ChytStred(float x, float y) const;
     [[nodiscard]] Zachyt ChytZakladnu(float x, float y) const;
+    void NakresliUsecku(int n, Bod konec) const;
+    void NakresliPoloprimku(int n, Bod konec) const;
+    void NakresliKruznici(int n, Bod konec) const;
+    void NakresliKolmici(int n, Bod konec) const;
+    void NakresliRovnobezku(int n, Bod konec) const;
     [[nodiscard]] std::string OdectiUsecku(Bod konec) const;
     [[nodiscard]] std::string OdectiPosunuti(Bod konec) const;
-    void Zpet();
 
     PravidlaKroku pravidlaKroku_;
     std::vector<PolozkaZadani> zadani_;

@@ -18,44 +18,24 @@ namespace {
 constexpr std::uint32_t CEKANI_USECKA = 10;
 constexpr std::uint32_t CEKANI_OSTATNI = 100;
 
-void NakresliKruznici(Plane& pic, int n, Bod p, Bod q) {
-    KresliKruznici(pic, KRUZNICE, n, p.X, p.Y, q.X, ANO);
-}
-void NakresliUsecku(Plane& pic, int n, Bod p, Bod q) {
-    const std::string jmeno1 = Utvary[n].Jmeno1;
-    const std::string jmeno2 = Utvary[n].Jmeno2;
-    const auto delka = static_cast<float>(DelkaVCm(Vzdalenost(p, q)));
-    KresliUsecku(pic, USECKA, n, p.X, p.Y, q.X, q.Y, delka, jmeno1, jmeno2, ANO, ANO, ANO);
-}
-void NakresliPoloprimku(Plane& pic, int n, Bod p, Bod q) {
-    const std::string jmeno2 = Utvary[n].Jmeno2;
-    KresliPoloprimku(pic, POLOPRIMKA, n, p.X, p.Y, q.X, q.Y, jmeno2, ANO);
-}
-void NakresliKolmici(Plane& pic, int n, Bod p, Bod q) {
-    KresliKolmici(pic, KOLMICE, n, p.X, p.Y, q.X, q.Y, ANO);
-}
-void NakresliRovnobezku(Plane& pic, int n, Bod p, Bod q) {
-    KresliPrimku(pic, ROVNOBEZKA, n, p.X, p.Y, q.X, q.Y, 0, ANO);
-}
-
 }  // namespace
 
 /// What a drag does with one kind of object in hand.
 struct DialogKroku::DruhTahu {
     std::string_view Nazev;
-    Zachyt (DialogKroku::*Chyt)(float x, float y) const;        ///< the start of a press
-    std::string (DialogKroku::*Odecti)(Bod konec) const;        ///< null: none, or the circle's own
-    void (*Nakresli)(Plane& pic, int n, Bod prvni, Bod druhy);  ///< into row n
+    Zachyt (DialogKroku::*Chyt)(float x, float y) const;    ///< the start of a press
+    std::string (DialogKroku::*Odecti)(Bod konec) const;    ///< null: none, or the circle's own
+    void (DialogKroku::*Nakresli)(int n, Bod konec) const;  ///< into row n
 };
 
 const DialogKroku::DruhTahu* DialogKroku::Druh() const {
     using D = DialogKroku;
     static constexpr DruhTahu DRUHY[] = {
-        {USECKA, &D::ChytPosledni, &D::OdectiUsecku, NakresliUsecku},
-        {POLOPRIMKA, &D::ChytPosledni, &D::OdectiPaprsek, NakresliPoloprimku},
-        {KRUZNICE, &D::ChytStred, nullptr, NakresliKruznici},
-        {KOLMICE, &D::ChytZakladnu, nullptr, NakresliKolmici},
-        {ROVNOBEZKA, &D::ChytZakladnu, &D::OdectiPosunuti, NakresliRovnobezku}};
+        {USECKA, &D::ChytPosledni, &D::OdectiUsecku, &D::NakresliUsecku},
+        {POLOPRIMKA, &D::ChytPosledni, &D::OdectiPaprsek, &D::NakresliPoloprimku},
+        {KRUZNICE, &D::ChytStred, nullptr, &D::NakresliKruznici},
+        {KOLMICE, &D::ChytZakladnu, nullptr, &D::NakresliKolmici},
+        {ROVNOBEZKA, &D::ChytZakladnu, &D::OdectiPosunuti, &D::NakresliRovnobezku}};
     for (const DruhTahu& d : DRUHY) {
         if (d.Nazev == Stav().ZvolenyUtvar) return &d;
     }
@@ -89,7 +69,12 @@ std::string DialogKroku::OdectiPosunuti(Bod konec) const {
 Dvojice DialogKroku::BodyPrimky(Bod konec) const {
     const Bod start = Stav().Start;
     if (Stav().ZvolenyUtvar == KOLMICE) return Kolme(Zakladna(), start, konec);
-    if (Stav().ZvolenyUtvar == ROVNOBEZKA) return Rovnobezne(Zakladna(), start, konec);
+    if (Stav().ZvolenyUtvar == ROVNOBEZKA) {
+        const Utvar& zakladna = Zakladna();
+        const Dvojice tazena = Rovnobezne(zakladna, start, konec);
+        const std::optional<Bod> pres = BodRovnobezky(konec);
+        return pres ? Rovnobezne(zakladna, {zakladna.X1, zakladna.Y1}, *pres) : tazena;
+    }
     return {start, konec};
 }
 
@@ -145,8 +130,37 @@ void DialogKroku::NakresliUtvar(Bod konec) {
     const DruhTahu* druh = Druh();
     if (druh == nullptr) Selhani("Útvar se nedá narýsovat: " + Stav().ZvolenyUtvar);
     platna_.Pic.DrawWidth = 1;
-    const Dvojice body = BodyPrimky(konec);
-    druh->Nakresli(platna_.Pic, ++PocetUtvaru, body.P1, body.P2);
+    (this->*druh->Nakresli)(++PocetUtvaru, konec);
+}
+
+void DialogKroku::NakresliUsecku(int n, Bod konec) const {
+    const Bod p = Stav().Start;
+    const std::string jmeno1 = Utvary[n].Jmeno1;
+    const std::string jmeno2 = Utvary[n].Jmeno2;
+    const auto delka = static_cast<float>(DelkaVCm(Vzdalenost(p, konec)));
+    KresliUsecku(platna_.Pic, USECKA, n, p.X, p.Y, konec.X, konec.Y, delka, jmeno1, jmeno2, ANO,
+                 ANO, ANO);
+}
+
+void DialogKroku::NakresliPoloprimku(int n, Bod konec) const {
+    const Bod p = Stav().Start;
+    const std::string jmeno2 = Utvary[n].Jmeno2;
+    KresliPoloprimku(platna_.Pic, POLOPRIMKA, n, p.X, p.Y, konec.X, konec.Y, jmeno2, ANO);
+}
+
+void DialogKroku::NakresliKruznici(int n, Bod konec) const {
+    const Bod p = Stav().Start;
+    KresliKruznici(platna_.Pic, KRUZNICE, n, p.X, p.Y, konec.X, ANO);
+}
+
+void DialogKroku::NakresliKolmici(int n, Bod konec) const {
+    const auto& [p, q] = BodyPrimky(konec);
+    KresliKolmici(platna_.Pic, KOLMICE, n, p.X, p.Y, q.X, q.Y, ANO);
+}
+
+void DialogKroku::NakresliRovnobezku(int n, Bod konec) const {
+    const Dvojice p = BodyPrimky(konec);
+    KresliPosunutou(platna_.Pic, n, UlozRovnobezku(platna_.Pic, p, BodRovnobezky(konec), konec));
 }
 
 }  // namespace rysovna

@@ -14,27 +14,29 @@ struct Cil {
     const std::string* Jmeno;
 };
 
-/// The targets of a record in the order in which they are tried. The first point always is one:
-/// every object has it.
+/// The targets of a record in the order in which they are tried. The first point is one unless the
+/// record says otherwise: every object has it.
 std::array<Cil, 3> Cile(const Trojice& t) {
     return {Cil{{t.X1, t.Y1}, &t.Jmeno1}, Cil{{t.X2, t.Y2}, &t.Jmeno2},
             Cil{{t.X3, t.Y3}, &t.Jmeno3}};
 }
 
-bool JeCilem(const Cil& cil, std::size_t poradi, bool tretiBody) {
-    if (poradi == 0) return true;
+bool JeCilem(const Trojice& t, const Cil& cil, std::size_t poradi, bool tretiBody) {
+    if (poradi == 0) return !t.PrvniNechyta;
     if (poradi == 2 && !tretiBody) return false;
     return !cil.Jmeno->empty();
 }
 
-/// Goes through the snap records; vezmi(point) says whether a hit replaces what is kept.
+/// Goes through the snap records but one; vezmi(point) says whether a hit replaces what is kept.
 template <class F>
-Zachyt Projdi(float x, float y, bool tretiBody, F vezmi) {
+Zachyt Projdi(float x, float y, bool tretiBody, int kromeRadku, F vezmi) {
     Zachyt zachyt{false, {Zaokrouhli(x), Zaokrouhli(y)}};
     for (int i = 1; i <= PocetTrojic; ++i) {
+        if (i == kromeRadku) continue;
         const auto cile = Cile(Trojice_tab[i]);
         for (std::size_t j = 0; j < cile.size(); ++j) {
-            if (!JeCilem(cile[j], j, tretiBody) || !Zasah(x, y, cile[j].Misto)) continue;
+            if (!JeCilem(Trojice_tab[i], cile[j], j, tretiBody) || !Zasah(x, y, cile[j].Misto))
+                continue;
             if (!zachyt.Je || vezmi(zachyt.Misto, cile[j].Misto)) zachyt = {true, cile[j].Misto};
             break;
         }
@@ -51,12 +53,12 @@ bool Zasah(float x, float y, Bod bod) {
     return x > X - D && x < X + D && y > Y - D && y < Y + D;
 }
 
-Zachyt ZachytPosledni(float x, float y, bool tretiBody) {
-    return Projdi(x, y, tretiBody, [](Bod, Bod) { return true; });
+Zachyt ZachytPosledni(float x, float y, bool tretiBody, int kromeRadku) {
+    return Projdi(x, y, tretiBody, kromeRadku, [](Bod, Bod) { return true; });
 }
 
 Zachyt ZachytNejblizsi(float x, float y, bool tretiBody) {
-    return Projdi(x, y, tretiBody, [x, y](Bod stary, Bod novy) {
+    return Projdi(x, y, tretiBody, 0, [x, y](Bod stary, Bod novy) {
         const auto dal = [](float p, int a) { return std::fabs(p - static_cast<float>(a)); };
         return dal(x, novy.X) < dal(x, stary.X) && dal(y, novy.Y) < dal(y, stary.Y);
     });

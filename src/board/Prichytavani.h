@@ -17,9 +17,10 @@ struct Zachyt {
 [[nodiscard]] bool Zasah(float x, float y, Bod bod);
 
 /// The point of the last snap record that the press hits; of one record the first point goes
-/// before the second. A point that a record does not have (its name is empty) is no target. With
-/// tretiBody the third points are targets too, after the second.
-[[nodiscard]] Zachyt ZachytPosledni(float x, float y, bool tretiBody = false);
+/// before the second. A point that a record does not have (its name is empty) is no target, nor is
+/// a first point that was only looked for. With tretiBody the third points are targets too, after
+/// the second. kromeRadku: a record whose points are no targets; 0: none.
+[[nodiscard]] Zachyt ZachytPosledni(float x, float y, bool tretiBody = false, int kromeRadku = 0);
 
 /// As ZachytPosledni, but a later point replaces the one kept only if it is closer to the press in
 /// both X and Y: circles, whose centre must not jump to a neighbour.

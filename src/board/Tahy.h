@@ -20,11 +20,6 @@ namespace rysovna {
 /// The pixel that the pointer is on.
 [[nodiscard]] Bod NaPixely(float x, float y);
 
-/// Two points of a straight object.
-struct Dvojice {
-    Bod P1, P2;
-};
-
 /// The parallel that is pushed: the base line itself, shifted by the pointer's way from the start.
 [[nodiscard]] Dvojice Rovnobezne(const Utvar& zakladna, Bod start, Bod ukazatel);
 

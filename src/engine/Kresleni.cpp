@@ -7,6 +7,7 @@
 
 #include "base/Chyba.h"
 #include "base/Cisla.h"
+#include "engine/Okraj.h"
 #include "engine/Resitele.h"
 #include "engine/Sluzby.h"
 #include "engine/Tabulky.h"
@@ -160,41 +161,6 @@ struct JmenoStredu {
     std::string_view prvni, druhy, stred;
 };
 constexpr JmenoStredu JMENA_STREDU[] = {{"A", "B", "Sc"}, {"A", "C", "Sb"}, {"B", "C", "Sa"}};
-
-// The margin box, px from the plane's edges: where the second point of a ray or line is put, so
-// that there is room for its label.
-constexpr int OKRAJ_X = 15;
-constexpr int OKRAJ_NAHORE = 10;
-constexpr int OKRAJ_DOLE = 20;
-
-/// Y, or with the axes exchanged X, of the line through two points at the given coordinate.
-double NaPrimceV(double a1, double b1, double a2, double b2, double a) {
-    return (b2 - b1) * (a - a1) / (a2 - a1) + b1;
-}
-
-/// The second point moved along the object to the margin box. It stays where it was when the
-/// moved one would not lie ahead of the start: no drag at all, or a start beyond the box. A
-/// level object above or below the box keeps its X and gets the Y of the box's edge: it tilts.
-Bod NaOkraj(const Plane& plane, Bod od, Bod k) {
-    const int vpravo = plane.Width() - OKRAJ_X;
-    const int dole = plane.Height() - OKRAJ_DOLE;
-    Bod bod = k;
-    if (k.X != od.X) {
-        bod.X = k.X > od.X ? vpravo : OKRAJ_X;
-        bod.Y = Zaokrouhli(NaPrimceV(od.X, od.Y, k.X, k.Y, bod.X));
-    } else if (k.Y != od.Y) {
-        bod.Y = k.Y < od.Y ? OKRAJ_NAHORE : dole;
-    }
-    const auto doVysky = [&bod, od](int y) {
-        if (bod.Y != od.Y) bod.X = Zaokrouhli(NaPrimceV(od.Y, od.X, bod.Y, bod.X, y));
-        bod.Y = y;
-    };
-    if (bod.Y < OKRAJ_NAHORE) doVysky(OKRAJ_NAHORE);
-    if (bod.Y > dole) doVysky(dole);
-    const double vpred = (static_cast<double>(bod.X) - od.X) * (static_cast<double>(k.X) - od.X) +
-                         (static_cast<double>(bod.Y) - od.Y) * (static_cast<double>(k.Y) - od.Y);
-    return vpred > 0 ? bod : k;
-}
 
 /// What ray, line, parallel and perpendicular have in common: direction from the points as given,
 /// then the second point at the margin when the object is new, then the record.
@@ -367,6 +333,13 @@ void KresliPrimku(Plane& plane, std::string_view druh, int index, int X1, int Y1
     Utvar& utvar = UlozPrimy(plane, druh, index, {X1, Y1}, {X2, Y2}, NovaTrojice);
     utvar.Delka = delka;
     CaraPresPlochu(plane, utvar, NovaTrojice);
+}
+
+void KresliPosunutou(Plane& plane, int index, const PosunutaPrimka& primka) {
+    ++PocetTrojic;
+    Trojice_tab[PocetTrojic].PrvniNechyta = primka.Hledany;
+    KresliPrimku(plane, ROVNOBEZKA, index, primka.P1.X, primka.P1.Y, primka.P2.X, primka.P2.Y, 0,
+                 NE);
 }
 
 void KresliKolmici(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,

@@ -4,6 +4,7 @@
 
 #include "base/Bod.h"
 #include "base/Plane.h"
+#include "engine/Okraj.h"
 
 namespace rysovna {
 
@@ -37,6 +38,10 @@ void KresliPoloprimku(Plane& plane, std::string_view druh, int index, int X1, in
 /// delka: cm, stored as given.
 void KresliPrimku(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,
                   float delka, int NovaTrojice);
+
+/// A parallel that was pushed into its place: a line by the very points of its record, in a new
+/// snap row. Label and direction go by these points from the first drawing on.
+void KresliPosunutou(Plane& plane, int index, const PosunutaPrimka& primka);
 
 /// A perpendicular: as a line, without a length.
 void KresliKolmici(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,

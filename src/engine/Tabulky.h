@@ -65,6 +65,7 @@ struct Trojice {
     int X2 = 0, Y2 = 0;  ///< second point
     int X3 = 0, Y3 = 0;  ///< midpoint of a segment
     std::string Jmeno1, Jmeno2, Jmeno3;
+    bool PrvniNechyta = false;  ///< the first point was only looked for: it is no target
     friend bool operator==(const Trojice&, const Trojice&) = default;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -127,7 +128,7 @@ private:
     [[nodiscard]] Dvojice BodyPrimky(Bod konec) const;
     void NakresliKruznici(const KrokTecny& krok, Bod konec);
     void NakresliPrimku(const KrokTecny& krok, float x, float y);
-    void PosudPrimku(const KrokTecny& krok, Dvojice& body);
+    [[nodiscard]] std::optional<Bod> PosudPrimku(const KrokTecny& krok, Dvojice& body);
     void PosudKonce(const KrokTecny& krok, const Dvojice& body);
     void PosudPolomer(const KrokTecny& krok, Bod stred, int r);
     void Uctuj(int cislo);

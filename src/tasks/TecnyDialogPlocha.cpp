@@ -73,7 +73,11 @@ void TecnyDialog::StiskPlochy(float x, float y) {
     if (stav_.Tvar == Nastroj::Prusecik) return KlikniPrusecik(x, y);
     if (stav_.Tvar == Nastroj::Stred) return KlikniStred(x, y);
     stav_.Tazeni = true;
-    const Zachyt z = stav_.Tvar == Nastroj::Kruznice ? ZachytNejblizsi(x, y) : ZachytPosledni(x, y);
+    // A parallel from a point of its own base would be the base again. Every object of this board
+    // has its snap points in the row of the same number.
+    const int krome = stav_.Tvar == Nastroj::Rovnobezka ? stav_.Zakladna : 0;
+    const Zachyt z = stav_.Tvar == Nastroj::Kruznice ? ZachytNejblizsi(x, y)
+                                                     : ZachytPosledni(x, y, false, krome);
     stav_.Zachyceno = z.Je;
     stav_.Start = z.Misto;
     if (!z.Je && stav_.Zakladna != 0) stav_.Start = BodNaZakladne(Utvary[stav_.Zakladna], x, y);
@@ -143,13 +147,8 @@ Dvojice TecnyDialog::BodyPrimky(Bod konec) const {
     const Utvar& zakladna = Utvary[stav_.Zakladna];
     if (stav_.Tvar == Nastroj::Kolmice) return Kolme(zakladna, stav_.Start, konec);
     if (!stav_.Zachyceno) return Rovnobezne(zakladna, stav_.Start, konec);
-    // From a caught point a parallel stays on it; the pointer says which end gets the name.
-    const int dx = zakladna.X2 - zakladna.X1;
-    const int dy = zakladna.Y2 - zakladna.Y1;
-    const double kam = static_cast<double>(konec.X - stav_.Start.X) * dx +
-                       static_cast<double>(konec.Y - stav_.Start.Y) * dy;
-    const int smysl = kam < 0 ? -1 : 1;
-    return {stav_.Start, {stav_.Start.X + smysl * dx, stav_.Start.Y + smysl * dy}};
+    // From a caught point a parallel stays on it.
+    return Rovnobezne(zakladna, {zakladna.X1, zakladna.Y1}, stav_.Start);
 }
 
 Gumicka TecnyDialog::Tah(float x, float y) const {
@@ -208,15 +207,19 @@ void TecnyDialog::NakresliKruznici(const KrokTecny& krok, Bod konec) {
                    ANO);
 }
 
-/// Judged as drawn; only then does its second point go to the margin.
+/// Judged as drawn; only then are its points put where they are stored.
 void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
     const bool spojnice = stav_.Tvar == Nastroj::Primka;
-    Dvojice b = BodyPrimky(NaPixely(x, y));
+    const Bod konec = NaPixely(x, y);
+    Dvojice b = BodyPrimky(konec);
+    std::optional<Bod> pres;  // the named point that it passes
+    if (stav_.Zachyceno) pres = stav_.Start;
     if (spojnice) b.P2 = ZachytPosledni(x, y).Misto;
     if (krok.Jak == Soud::Konce) {
         if (spojnice) PosudKonce(krok, b);
     } else if (stav_.Spravny) {
-        PosudPrimku(krok, b);
+        const std::optional<Bod> posunuta = PosudPrimku(krok, b);
+        if (posunuta) pres = posunuta;
     }
     // A line through two points that bears their names has both; any other has its own.
     const bool podleBodu = spojnice && stav_.Jmeno == stav_.OcekavanyBod;
@@ -224,6 +227,8 @@ void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
                             : NovyRadek(stav_.Jmeno, "");
     if (stav_.Tvar == Nastroj::Kolmice) {
         KresliKolmici(platna_.Pic, stav_.ZvolenyUtvar, n, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, ANO);
+    } else if (stav_.Tvar == Nastroj::Rovnobezka && stav_.Zakladna != 0) {
+        KresliPosunutou(platna_.Pic, n, UlozRovnobezku(platna_.Pic, b, pres, konec));
     } else {
         KresliPrimku(platna_.Pic, stav_.ZvolenyUtvar, n, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, 0, ANO);
     }
@@ -237,9 +242,10 @@ void TecnyDialog::Uctuj(int cislo) {
 }
 
 /// Holds the line against the nearest of its points that is still free; under the 15-pixel rule it
-/// is moved onto it. A point that is not there is no measure.
-void TecnyDialog::PosudPrimku(const KrokTecny& krok, Dvojice& body) {
+/// is moved onto it: then that point. A point that is not there is no measure.
+std::optional<Bod> TecnyDialog::PosudPrimku(const KrokTecny& krok, Dvojice& body) {
     int bod = -1;
+    Bod misto;
     Odchylka o{std::numeric_limits<double>::infinity(), false, 0, 0};
     for (int i = 0; i < static_cast<int>(krok.Body.size()); ++i) {
         const std::string_view jmeno = krok.Body[static_cast<std::size_t>(i)];
@@ -250,8 +256,9 @@ void TecnyDialog::PosudPrimku(const KrokTecny& krok, Dvojice& body) {
         if (std::fabs(nova.O) >= std::fabs(o.O)) continue;
         o = nova;
         bod = i;
+        misto = b;
     }
-    if (bod < 0) return;
+    if (bod < 0) return {};
     if (!krok.Body[1].empty()) stav_.Pouzite |= 1U << bod;
     const bool pul = krok.Jak == Soud::Pul || (krok.Jak == Soud::PodleZacatku && stav_.Zachyceno);
     if (pul) {
@@ -259,9 +266,11 @@ void TecnyDialog::PosudPrimku(const KrokTecny& krok, Dvojice& body) {
     } else if (std::fabs(o.O) < DOSAH_PRIMKY) {
         const int posun = Zaokrouhli(o.O);
         for (Bod* b : {&body.P1, &body.P2}) (o.Svisla ? b->X : b->Y) += posun;
+        return misto;
     } else {
         Uctuj(krok.ChybaRysovani);
     }
+    return {};
 }
 
 /// A line from point to point: both ends are those that its row names.

@@ -45,6 +45,14 @@ TEST(Text, PocitajiSeZnakyNeBajty) {
     EXPECT_EQ(Dopln("Žák", 5) + Dopln("Žákyně", 3), "Žák  Žákyně");
     EXPECT_EQ(ZeZnaku(DoZnaku("α β ⊥ 😀 Ř")), "α β ⊥ 😀 Ř");
     EXPECT_EQ(DoZnaku("a\xFF\xC5"), (std::u32string{U'a', 0xFFFD, 0xFFFD}));
+    // Overlong forms, halves of pairs and what lies beyond the last character are no characters;
+    // their neighbours at the limits are.
+    for (const std::string_view spatne :
+         {"\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF", "\xED\xA0\x80", "\xED\xBF\xBF", "\xF4\x90\x80\x80"}) {
+        EXPECT_EQ(DoZnaku(spatne), std::u32string(spatne.size(), 0xFFFD));
+    }
+    EXPECT_EQ(DoZnaku("\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xF4\x8F\xBF\xBF"),
+              (std::u32string{0x800, 0xD7FF, 0xE000, 0x10FFFF}));
     EXPECT_EQ(BezUvodnichMezer("   a b ") + BezUvodnichMezer("   "), "a b ");
 }
 

@@ -94,12 +94,12 @@ class Nastroje : public Soubory {
 protected:
     /// Both outputs, the folder cut out of them, with a line "= exit status"
     /// behind. The tool stands in the same build as this test.
-    std::string Spust(const std::string& argumenty) {
+    std::string Spust(const std::string& argumenty, const std::string& napred = "") {
         const fs::path sestaveni = fs::read_symlink("/proc/self/exe").parent_path().parent_path();
         const fs::path nastroj = sestaveni / "staging/kodovani ";
-        const int stav = std::system(
-            ("cd " + Cesta("").string() + " && " + nastroj.string() + argumenty + " > vystup 2>&1")
-                .c_str());
+        const int stav = std::system(("cd " + Cesta("").string() + " && " + napred +
+                                      nastroj.string() + argumenty + " > vystup 2>&1")
+                                         .c_str());
         return Cti("vystup") + "= " + std::to_string(WEXITSTATUS(stav));
     }
     /// What the check says of a file with this content.
@@ -129,7 +129,22 @@ TEST_F(Nastroje, TamAZpet) {
     EXPECT_EQ(Spust("zakoduj Errors.txt 02.dat"),
               "Řádek nezačíná číslem kroku 1 až 999 (Errors.txt:2)\n= 1");
     EXPECT_NE(Cti("02.dat"), "");
+    // To itself, also by another name, nothing would be left of the text.
+    fs::create_symlink("Errors.txt", Cesta("jinak.dat"));
+    for (const std::string cil : {"Errors.txt", "jinak.dat"}) {
+        EXPECT_EQ(Spust("zakoduj Errors.txt " + cil), "Zdroj a cíl jsou týž soubor (" + cil + ")\n= 1");
+    }
+    EXPECT_EQ(Cti("Errors.txt"), "999 Ahoj.\n1000 Ahoj.\n");
 }
+
+#if !defined(__SANITIZE_ADDRESS__)  // its own memory is past any limit
+TEST_F(Nastroje, VelkySoubor) {
+    Pis("01.txt", "");
+    fs::resize_file(Cesta("01.txt"), std::uintmax_t{1} << 30);
+    EXPECT_EQ(Spust("zkontroluj 01.txt", "ulimit -v 200000 && "),
+              "Na tak velký soubor nestačí paměť\n= 1");
+}
+#endif
 
 TEST_F(Nastroje, ChybyUloh) {
     const std::string sss = "1##a#b#c#cm#cm#cm#usecka#kruznice#kruznice\n";
@@ -203,8 +218,8 @@ TEST_F(Nastroje, ChybyVetZnamekATabulek) {
                                  "Errors.txt:6: věta: musí končit mezerou: program k ní připojí "
                                  "další slova\n"
                                  "Errors.txt: chybí věta ke kroku 1\n"));
-    EXPECT_EQ(Kontrola("Znamky.txt", "90|99|1\n75|89|3\n50|75|2\n25|50|256\n0|25|5\n0|1|6\n"),
-              "Znamky.txt:3: pole 3 (známka): známky nejdou od nejlepší k nejhorší\n"
+    EXPECT_EQ(Kontrola("Znamky.txt", "0|25|5\n50|75|2\n75|89|3\n25|50|256\n90|99|1\n0|1|0\n"),
+              "Znamky.txt:3: pole 3 (známka): známky nejdou od nejhorší k nejlepší\n"
               "Znamky.txt:4: pole 3 (známka): je „256“, má být celé číslo 0 až 255\n"
               "Znamky.txt:6: řádků je více než pět\n"
               "Znamky.txt: mezi 25 a 50 % není žádná známka\n"

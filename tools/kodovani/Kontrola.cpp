@@ -191,8 +191,9 @@ private:
             if (cisla[0] > cisla[1]) {
                 Pridej(radek.Cislo, {}, "dolní mez je větší než horní");
             }
-            if (!meze.empty() && cisla[2] <= meze.back().Znamka) {
-                Pridej(radek.Cislo, "pole 3 (známka)", "známky nejdou od nejlepší k nejhorší");
+            // On a shared bound the lower line holds, and that is to be the better grade.
+            if (!meze.empty() && cisla[2] >= meze.back().Znamka) {
+                Pridej(radek.Cislo, "pole 3 (známka)", "známky nejdou od nejhorší k nejlepší");
             }
             meze.push_back({cisla[0], cisla[1], cisla[2]});
         }

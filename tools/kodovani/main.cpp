@@ -1,4 +1,7 @@
+#include <filesystem>
 #include <iostream>
+#include <new>
+#include <system_error>
 #include <string_view>
 #include <vector>
 
@@ -49,17 +52,27 @@ int Zkontroluj(const Argumenty& soubory) {
     return vysledek;
 }
 
+/// Converts a file to another one. To itself would leave nothing of the readable text.
+void Preved(std::string_view zdroj, std::string_view cil,
+            std::string (*jak)(const std::filesystem::path&)) {
+    std::error_code neexistuje;
+    if (std::filesystem::equivalent(zdroj, cil, neexistuje)) {
+        throw BehovaChyba("Zdroj a cíl jsou týž soubor", std::string(cil));
+    }
+    PrepisSoubor(cil, jak(zdroj));
+}
+
 int Spust(const Argumenty& a) {
     if (a.size() == 1 && (a[0] == "--help" || a[0] == "-h")) {
         std::cout << POUZITI;
         return V_PORADKU;
     }
     if (a.size() == 3 && a[0] == "zakoduj") {
-        PrepisSoubor(a[2], kodovani::Zakoduj(a[1]));
+        Preved(a[1], a[2], kodovani::Zakoduj);
         return V_PORADKU;
     }
     if (a.size() == 3 && a[0] == "dekoduj") {
-        PrepisSoubor(a[2], kodovani::Dekoduj(a[1]));
+        Preved(a[1], a[2], kodovani::Dekoduj);
         return V_PORADKU;
     }
     if (a.size() >= 2 && a[0] == "zkontroluj") {
@@ -76,6 +89,8 @@ int main(int pocet, char** argumenty) {
         return Spust(Argumenty(argumenty + 1, argumenty + pocet));
     } catch (const BehovaChyba& chyba) {
         std::cerr << chyba.what() << '\n';
-        return CHYBY;
+    } catch (const std::bad_alloc&) {
+        std::cerr << "Na tak velký soubor nestačí paměť\n";
     }
+    return CHYBY;
 }
