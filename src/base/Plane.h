@@ -54,6 +54,9 @@ public:
     virtual void Circle(float x, float y, float r) = 0;
     /// Prints UTF-8 text in Font and ForeColor, its top left corner at CurrentX, CurrentY.
     virtual void Print(std::string_view text) = 0;
+    /// Width of the text in Font, and height of one row of it, px.
+    [[nodiscard]] virtual int TextWidth(std::string_view text) const = 0;
+    [[nodiscard]] virtual int TextHeight() const = 0;
     /// Clears everything to BackColor; CurrentX and CurrentY go to 0.
     virtual void Cls() = 0;
 

@@ -1,36 +1,17 @@
 #include "board/DialogCtyruhelniku.h"
 
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <utility>
 
 #include "base/Cisla.h"
-#include "board/Uzavreni.h"
 #include "engine/Kresleni.h"
 #include "engine/Resitele.h"
 #include "engine/Sluzby.h"
-#include "platform/Surface.h"
 #include "shell/Misc.h"
 #include "shell/Soubory.h"
 
 namespace rysovna {
 
 namespace {
-
-// The sketch: a quadrilateral A(40, 150), B(250, 150), C(215, 40), D(75, 25) with its diagonals.
-// An angle's zone is the place of its letter. The vertices' letters are PISMENA_VRCHOLU.
-constexpr PrvekNacrtu NACRT[] = {
-    CaraNacrtu("a", {40, 250, 0, 150, 3}, 40, 150, 250, 150, 145, 151),
-    CaraNacrtu("b", {215, 250, 22 / 7.0, -635.7, 13}, 250, 150, 215, 40, 238, 84),
-    CaraNacrtu("c", {75, 215, 3 / 28.0, 17, 5}, 215, 40, 75, 25, 145, 14),
-    CaraNacrtu("d", {40, 75, -25 / 7.0, 292.9, 14}, 75, 25, 40, 150, 43, 76),
-    {"alfa", {68, 80, 0, 140, 6}, OBLOUK, 40, 150, 250, 150, 75, 25, 46, "a", true, 70, 132},
-    {"beta", {205, 219, 0, 138, 7}, OBLOUK, 250, 150, 40, 150, 215, 40, 50, "b", true, 208, 130},
-    {"gama", {196, 210, 0, 72, 7}, OBLOUK, 215, 40, 250, 150, 75, 25, 44, "g", true, 199, 64},
-    {"delta", {80, 94, 0, 59, 7}, OBLOUK, 75, 25, 40, 150, 215, 40, 46, "d", true, 83, 51},
-    CaraNacrtu("e", {65, 200, -22 / 35.0, 175.1, 5}, 40, 150, 215, 40, 111, 82),
-    CaraNacrtu("f", {100, 225, 5 / 7.0, -28.6, 5}, 250, 150, 75, 25, 196, 91)};
 
 // What a release costs when a ray or a circle starts elsewhere.
 constexpr CenaPocatku CENY_POCATKU[] = {{POLOPRIMKA, 23, 23}, {KRUZNICE, 22, 45}};
@@ -49,86 +30,18 @@ constexpr std::string_view PODLE_VETY = "podlevety";
 
 constexpr int CHYBA_TROJUHELNIK = 133, CHYBA_VETA = 101;
 
-// Where the starting triangle is drawn.
-constexpr Bod PRVNI_VRCHOL{150, 210};
-// The same rule as for the meeting of two circles: a vertex closer to the edge gives way, px.
-constexpr int OKRAJ = 20;
-constexpr int DALEKO = 800;                  // px from the origin, beyond it there is no triangle
-constexpr double NEJDELSI = 1e5;             // px that a typed length may make at all
-constexpr double DALEKO_PO_PAPRSKU = 10000;  // px, so that rounding does not bend the ray
-
 constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhelník!";
 
 constexpr int SIRKA_SEZNAMU_TROJUHELNIKU = 105, SIRKA_SEZNAMU_VET = 140;  // px
 
 constexpr int NASTROJ_TROJUHELNIK = 1, NASTROJ_VETA = 2;
 
-bool Blizko(Bod b) {
-    return std::abs(b.X) <= DALEKO && std::abs(b.Y) <= DALEKO;
-}
-
 }  // namespace
 
-std::optional<std::array<Bod, 3>> SpocitejTrojuhelnik(const Plane& plocha, std::string_view veta,
-                                                      const std::array<double, 3>& hodnoty) {
-    const double a = hodnoty[0] * PIXELU_NA_CM;
-    const double b = hodnoty[1] * PIXELU_NA_CM;
-    const double c = hodnoty[2] * PIXELU_NA_CM;
-    for (const double px : {a, b, c}) {
-        if (!(std::fabs(px) < NEJDELSI)) return {};
-    }
-    const Bod p1 = PRVNI_VRCHOL;
-    const Bod p2{Zaokrouhli(p1.X + a), p1.Y};
-    Bod p3 = BEZ_BODU;
-    Bod druhy = BEZ_BODU;
-    if (veta == "sss") {
-        PrunikKruznic(plocha, p1, static_cast<float>(c), p2, static_cast<float>(b), p3, druhy);
-    } else {
-        // Below the first side, as the circles would have it, if the vertex has room there.
-        const double uhel = hodnoty[2] * PI / STUPNU_PULOTACKY;
-        const double dolu = p2.Y + b * std::sin(uhel);
-        const double x = p2.X - b * std::cos(uhel);
-        const bool dole = x > OKRAJ && x < plocha.Width() - OKRAJ && dolu > OKRAJ &&
-                          dolu < plocha.Height() - OKRAJ;
-        Utvar paprsek;
-        paprsek.Druh = POLOPRIMKA;
-        paprsek.X1 = p2.X;
-        paprsek.Y1 = p2.Y;
-        paprsek.X2 = Zaokrouhli(p2.X - DALEKO_PO_PAPRSKU * std::cos(uhel));
-        paprsek.Y2 = Zaokrouhli(p2.Y + (dole ? 1 : -1) * DALEKO_PO_PAPRSKU * std::sin(uhel));
-        Utvar kruznice;
-        kruznice.Druh = KRUZNICE;
-        kruznice.X1 = p2.X;
-        kruznice.Y1 = p2.Y;
-        kruznice.Polomer = static_cast<float>(std::fabs(b));
-        p3 = b == 0 || a == 0 ? BEZ_BODU : PrusecikyUtvaru(plocha, paprsek, kruznice).P1;
-    }
-    if (p3 == BEZ_BODU || !Blizko(p2) || !Blizko(p3)) return {};
-    return std::array<Bod, 3>{p1, p2, p3};
-}
-
-bool VejdouSe(const Plane& plocha, std::span<const Bod> body) {
-    const auto vSmeru = [body](int Bod::*os, int rozmer) {
-        for (int d = -NEJDAL_POSUNU; d <= NEJDAL_POSUNU; d += KROK_POSUNU) {
-            if (std::ranges::all_of(body, [=](const Bod& b) {
-                    return b.*os + d >= OKRAJ && b.*os + d < rozmer - OKRAJ;
-                })) {
-                return true;
-            }
-        }
-        return false;
-    };
-    return vSmeru(&Bod::X, plocha.Width()) && vSmeru(&Bod::Y, plocha.Height());
-}
-
 DialogCtyruhelniku::DialogCtyruhelniku(Platna platna, const PravidlaCtyruhelniku& pravidla)
-    : DialogKroku(platna, {pravidla.Uvod,
-                           NACRT,
-                           pravidla.PismenaNacrtu,
-                           JMENA,
-                           CENY_POCATKU,
-                           {1, 2},
-                           TvarBodu::PodleCisla}),
+    : DialogKroku(
+          platna,
+          {pravidla.Uvod, pravidla.NacrtFigury, JMENA, CENY_POCATKU, {1, 2}, TvarBodu::PodleCisla}),
       pravidla_(pravidla) {}
 
 // ---- The life of an example ------------------------------------------------------------------
@@ -147,8 +60,8 @@ void DialogCtyruhelniku::Prekresli() {
     PrekresliVse(platna_.HidenPic, platna_.Pic);
     if (!stav_.Nesestrojen) return;
     Plane& pic = platna_.Pic;
-    pic.CurrentX = static_cast<float>(pic.Width() - SirkaTextu(pic.Font, NELZE)) / 2;
-    pic.CurrentY = static_cast<float>(pic.Height() - VyskaRadku(pic.Font)) / 2;
+    pic.CurrentX = static_cast<float>(pic.Width() - pic.TextWidth(NELZE)) / 2;
+    pic.CurrentY = static_cast<float>(pic.Height() - pic.TextHeight()) / 2;
     pic.Print(NELZE);
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "base/Cisla.h"
 #include "board/DialogCtyruhelnikuVrchol.h"
@@ -154,23 +155,29 @@ bool JeLichobeznik(const Trojuhelnik& t, const Krok& krok, Bod d) {
     return protejsi >= NEJMENSI_ROZDIL && std::fabs(protejsi - delka) >= NEJMENSI_ROZDIL;
 }
 
+/// Whether the figure of the exact values can be read, both solutions with it.
+bool FiguraCitelna(const Trojuhelnik& t, const Pruseciky& v) {
+    std::vector<Bod> body(t.Body.begin(), t.Body.end());
+    std::vector<std::array<Bod, 4>> ctyruhelniky;
+    for (const Bod d : {v.P1, v.P2}) {
+        if (d == BEZ_BODU || (d == v.P1 && !ctyruhelniky.empty())) continue;
+        body.push_back(d);
+        ctyruhelniky.push_back({t.Body[0], t.Body[1], t.Body[2], d});
+    }
+    return JeCitelna(body, ctyruhelniky);
+}
+
 bool JdeSestrojit(const Plane& plocha, const Priklad& p, const VetaTrojuhelniku& veta,
                   const HodnotyPrikladu& h) {
-    const std::string_view nazvy[] = {p.Nazev1, p.Nazev2, p.Nazev3};
-    std::array<double, 3> hodnoty{};
-    for (std::size_t i = 0; i < hodnoty.size(); ++i) {
-        for (std::size_t j = 0; j < hodnoty.size(); ++j) {
-            if (StejnaVelicina(nazvy[j], veta.Vstupy[i].Velicina)) hodnoty[i] = h[j];
-        }
-    }
-    const auto body = SpocitejTrojuhelnik(plocha, veta.Veta, hodnoty);
+    const auto body = SpocitejTrojuhelnik(plocha, veta.Veta, HodnotyVety(veta, p, h));
     if (!body) return false;
     const Trojuhelnik t{veta.Vrcholy, *body};
-    for (const double navic : {-VULE_UHLU, VULE_UHLU, 0.0}) {
+    for (const double navic : {0.0, -VULE_UHLU, VULE_UHLU}) {
         const Utvar prvni = Idealni(t, p.Kroky[1], h[3], navic);
         const Utvar druhy = Idealni(t, p.Kroky[2], h[4], navic);
         const Pruseciky v = PrusecikyUtvaru(plocha, prvni, druhy);
         if (v.P1 == BEZ_BODU) return false;
+        if (navic == 0 && !FiguraCitelna(t, v)) return false;
         const std::array<Bod, 4> vrcholy = {t.Body[0], t.Body[1], t.Body[2], v.P1};
         if (!VejdouSe(plocha, vrcholy)) return false;
         for (const int n : {1, 2}) {
@@ -185,20 +192,22 @@ bool JdeSestrojit(const Plane& plocha, const Priklad& p, const VetaTrojuhelniku&
 
 }  // namespace
 
-bool VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
-                        std::span<const VetaTrojuhelniku> vety, HodnotyPrikladu& hodnoty) {
+int VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
+                       std::span<const VetaTrojuhelniku> vety, HodnotyPrikladu& hodnoty) {
     const auto veta = std::ranges::find_if(vety, [&p](const VetaTrojuhelniku& v) {
         return v.Veta == p.Text1 && v.Trojuhelnik == p.Text2;
     });
     const bool rovnobeznost = p.Kroky[1].Utvar == ROVNOBEZKA || p.Kroky[2].Utvar == ROVNOBEZKA;
     for (const SkupinaDruhu& s : SKUPINY) {
         if (std::ranges::find(s.Druhy, p.Druh) == s.Druhy.end() || veta == vety.end()) continue;
-        for (int i = 0; i < NEJVIC_LOSOVANI; ++i) {
-            if (Vylosuj(s, rovnobeznost, hodnoty) && JdeSestrojit(plocha, p, *veta, hodnoty)) break;
+        for (int i = 1; i <= NEJVIC_LOSOVANI; ++i) {
+            if (Vylosuj(s, rovnobeznost, hodnoty) && JdeSestrojit(plocha, p, *veta, hodnoty)) {
+                return i;
+            }
         }
-        return true;
+        return NEJVIC_LOSOVANI;
     }
-    return false;
+    return 0;
 }
 
 }  // namespace rysovna

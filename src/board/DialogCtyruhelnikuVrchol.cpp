@@ -72,7 +72,7 @@ std::vector<Zadana> DialogCtyruhelnikuVrchol::Zadane() const {
 }
 
 bool DialogCtyruhelnikuVrchol::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
-    return VylosujCtyruhelnik(platna_.Pic, p, Pravidla().Vety, hodnoty);
+    return VylosujCtyruhelnik(platna_.Pic, p, Pravidla().Vety, hodnoty) > 0;
 }
 
 // ---- Lists -----------------------------------------------------------------------------------

@@ -78,14 +78,14 @@ void DialogKroku::SestavZadani(std::vector<PolozkaZadani>& zadani) const {
 }
 
 bool DialogKroku::StiskNacrtu(float x, float y) {
-    const int prvek = PrvekPod(pravidlaKroku_.Nacrt, x, y);
+    const int prvek = PrvekPod(NacrtPrikladu().Prvky, x, y);
     if (prvek < 0 || Stav().Skontrolovano) return false;
     Upravit().Znacky ^= 1U << prvek;
     return true;
 }
 
 void DialogKroku::KresliNacrt(Plane& plocha) const {
-    KresliPrvkyNacrtu(plocha, pravidlaKroku_.Nacrt, pravidlaKroku_.PismenaNacrtu, Stav().Znacky);
+    KresliPrvkyNacrtu(plocha, NacrtPrikladu(), Stav().Znacky);
 }
 
 // ---- Tools and lists -------------------------------------------------------------------------
@@ -236,8 +236,9 @@ void DialogKroku::Zkontroluj() {
     ZavriSeznam();
     UctujChybnePrvky(ChybnychPrvku());
     std::uint32_t ocekavane = 0;
-    for (std::size_t i = 0; i < pravidlaKroku_.Nacrt.size(); ++i) {
-        if (JeZadana(pravidlaKroku_.Nacrt[i].Velicina)) ocekavane |= 1U << i;
+    const auto prvky = NacrtPrikladu().Prvky;
+    for (std::size_t i = 0; i < prvky.size(); ++i) {
+        if (JeZadana(prvky[i].Velicina)) ocekavane |= 1U << i;
     }
     UctujZnacky(s.Znacky == ocekavane);
     if (!s.HotovaKonstrukce) UctujNedokoncenou(pravidlaKroku_.Zbytek);

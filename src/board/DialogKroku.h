@@ -38,8 +38,7 @@ struct CenaPocatku {
 /// What the boards of one figure have of their own in every step.
 struct PravidlaKroku {
     std::string_view Uvod;  ///< lead-in of the assignment
-    std::span<const PrvekNacrtu> Nacrt;
-    std::span<const PismenoNacrtu> PismenaNacrtu;
+    Nacrt NacrtFigury;
     std::span<const JmenaUtvaru> Jmena;
     std::span<const CenaPocatku> CenyPocatku;
     std::array<int, 2> Ocekavane;  ///< numbers of the data's steps with the two expected objects
@@ -103,6 +102,8 @@ public:
 protected:
     // What the boards answer each in its own way.
 
+    /// The sketch of the example in play.
+    [[nodiscard]] virtual Nacrt NacrtPrikladu() const { return pravidlaKroku_.NacrtFigury; }
     [[nodiscard]] virtual StavKroku& Upravit() = 0;
     /// The given quantities in their order: the three of the record.
     [[nodiscard]] virtual std::vector<Zadana> Zadane() const;

@@ -26,8 +26,7 @@ constexpr int SIRKA_HOTOVYCH_STRAN = 2;  // px
 
 DialogTrojuhelniku::DialogTrojuhelniku(Platna platna, const PravidlaTrojuhelniku& pravidla)
     : DialogKroku(platna, {"Sestroj trojúhelník ABC:",
-                           pravidla.Nacrt,
-                           PISMENA,
+                           {pravidla.Nacrt, PISMENA},
                            JMENA,
                            CENY_POCATKU,
                            {2, 3},

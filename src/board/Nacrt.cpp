@@ -1,5 +1,6 @@
 #include "board/Nacrt.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "engine/Tabulky.h"
@@ -9,14 +10,7 @@ namespace rysovna {
 namespace {
 
 constexpr float VELIKOST_PISMEN = 10;  // points
-constexpr int SIRKA_CARY = 2;          // px
-
-void Tiskni(Plane& p, float x, float y, std::string_view text, Pismo pismo) {
-    p.Font = pismo;
-    p.CurrentX = x;
-    p.CurrentY = y;
-    p.Print(text);
-}
+constexpr int SIRKA_OBLOUKU = 1;       // px
 
 /// An arc about the first point, between the directions to the second and to the third, drawn as
 /// short lines; the shorter way round.
@@ -46,15 +40,18 @@ void KresliOblouk(Plane& p, const PrvekNacrtu& e) {
 
 void KresliPrvek(Plane& p, const PrvekNacrtu& e, bool oznaceny) {
     p.ForeColor = oznaceny ? CERVENA : CERNA;
-    p.DrawWidth = SIRKA_CARY;
     if (e.Druh == PrvekNacrtu::Tvar::Usecka) {
+        p.DrawWidth = oznaceny ? SIRKA_OZNACENE : SIRKA_CARY_NACRTU;
         p.Line(e.X1, e.Y1, e.X2, e.Y2);
     } else {
-        p.DrawWidth = oznaceny ? SIRKA_CARY : 1;
+        p.DrawWidth = oznaceny ? SIRKA_OZNACENE : SIRKA_OBLOUKU;
         KresliOblouk(p, e);
     }
-    const auto rez = e.Symbol ? Pismo::Rez::Symbol : Pismo::Rez::MsSansSerif;
-    Tiskni(p, e.PX, e.PY, e.Pismeno, {rez, VELIKOST_PISMEN, !e.Symbol, false});
+}
+
+Pismo PismoPrvku(bool symbol, bool kurziva) {
+    const auto rez = symbol ? Pismo::Rez::Symbol : Pismo::Rez::MsSansSerif;
+    return {rez, VELIKOST_PISMEN, !symbol && kurziva, !symbol && !kurziva};
 }
 
 }  // namespace
@@ -66,19 +63,45 @@ int PrvekPod(std::span<const PrvekNacrtu> prvky, double x, double y) {
     return -1;
 }
 
-void KresliPrvkyNacrtu(Plane& plocha, std::span<const PrvekNacrtu> prvky,
-                       std::span<const PismenoNacrtu> pismena, std::uint32_t znacky) {
+void TiskniNaBilem(Plane& p, float x, float y, std::string_view text) {
+    // One thick stroke under the letters, as high as they are: of the row it leaves out what is
+    // above and below them, so that lines beside the text stay whole.
+    const auto sirka = static_cast<float>(p.TextWidth(text));
+    const auto vyska = static_cast<float>(p.TextHeight());
+    const Barva barva = p.ForeColor;
+    const float pero = vyska * 0.7F;
+    const float stred = y + vyska * 0.55F;
+    const float kraj = std::min(pero, sirka) / 2;
+    p.ForeColor = BILA;
+    p.DrawWidth = static_cast<int>(pero);
+    p.Line(x + kraj, stred, x + sirka - kraj, stred);
+    p.ForeColor = barva;
+    p.DrawWidth = 1;
+    p.CurrentX = x;
+    p.CurrentY = y;
+    p.Print(text);
+}
+
+void KresliPrvkyNacrtu(Plane& plocha, const Nacrt& nacrt, std::uint32_t znacky) {
+    const auto oznaceny = [znacky](std::size_t i) { return (znacky >> i & 1U) != 0; };
     plocha.Cls();
-    // Marked elements go last, so that at a shared vertex red stays on top.
+    // Marked elements go last, so that at a shared vertex red stays on top; all letters behind all
+    // lines, so that none is crossed.
     for (const bool oznacene : {false, true}) {
-        for (std::size_t i = 0; i < prvky.size(); ++i) {
-            if (((znacky >> i & 1U) != 0) == oznacene) KresliPrvek(plocha, prvky[i], oznacene);
+        for (std::size_t i = 0; i < nacrt.Prvky.size(); ++i) {
+            if (oznaceny(i) == oznacene) KresliPrvek(plocha, nacrt.Prvky[i], oznacene);
         }
     }
+    for (std::size_t i = 0; i < nacrt.Prvky.size(); ++i) {
+        const PrvekNacrtu& e = nacrt.Prvky[i];
+        plocha.ForeColor = oznaceny(i) ? CERVENA : CERNA;
+        plocha.Font = PismoPrvku(e.Symbol, true);
+        TiskniNaBilem(plocha, e.PX, e.PY, e.Pismeno);
+    }
     plocha.ForeColor = CERNA;
-    for (const PismenoNacrtu& t : pismena) {
-        const auto rez = t.Symbol ? Pismo::Rez::Symbol : Pismo::Rez::MsSansSerif;
-        Tiskni(plocha, t.X, t.Y, t.Text, {rez, VELIKOST_PISMEN, false, !t.Symbol});
+    for (const PismenoNacrtu& t : nacrt.Pismena) {
+        plocha.Font = PismoPrvku(t.Symbol, false);
+        TiskniNaBilem(plocha, t.X, t.Y, t.Text);
     }
 }
 

@@ -48,11 +48,23 @@ struct PismenoNacrtu {
     bool Symbol = false;  ///< in the Symbol face; otherwise bold
 };
 
+/// The sketch of a figure.
+struct Nacrt {
+    std::span<const PrvekNacrtu> Prvky;
+    std::span<const PismenoNacrtu> Pismena;
+};
+
 /// The first element whose zone contains the press; -1 if none does.
 [[nodiscard]] int PrvekPod(std::span<const PrvekNacrtu> prvky, double x, double y);
 
+/// Lines of a sketch, px. What is marked is red and wider, so that colour is not the only sign.
+constexpr int SIRKA_CARY_NACRTU = 2, SIRKA_OZNACENE = 3;
+
+/// Prints text in the plane's font, its top left corner at x, y, on a white ground: over lines it
+/// stays legible. The pen's width goes to 1.
+void TiskniNaBilem(Plane& plocha, float x, float y, std::string_view text);
+
 /// Draws the sketch: bit i of znacky says that element i is marked (red), the others are black.
-void KresliPrvkyNacrtu(Plane& plocha, std::span<const PrvekNacrtu> prvky,
-                       std::span<const PismenoNacrtu> pismena, std::uint32_t znacky);
+void KresliPrvkyNacrtu(Plane& plocha, const Nacrt& nacrt, std::uint32_t znacky);
 
 }  // namespace rysovna

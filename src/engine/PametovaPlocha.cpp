@@ -66,6 +66,10 @@ void PametovaPlocha::Print(std::string_view text) {
     }
 }
 
+int PametovaPlocha::TextWidth(std::string_view text) const {
+    return SIRKA_ZNAKU * PocetZnaku(text);
+}
+
 void PametovaPlocha::Cls() {
     std::ranges::fill(body_, jednobitova_ && BackColor != CERNA ? BILA : BackColor);
     CurrentX = CurrentY = 0;

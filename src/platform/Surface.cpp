@@ -104,6 +104,13 @@ void Surface::Print(std::string_view text) {
     vnitrek_->Pridej(PolozkaTextu{CurrentX, CurrentY, Font, std::string(text), barva});
 }
 
+int Surface::TextWidth(std::string_view text) const {
+    return SirkaTextu(Font, text);
+}
+int Surface::TextHeight() const {
+    return VyskaRadku(Font);
+}
+
 void Surface::Cls() {
     if (!AutoRedraw) return;
     CurrentX = 0;

@@ -22,6 +22,8 @@ public:
     void Line(float x1, float y1, float x2, float y2) override;
     void Circle(float x, float y, float r) override;
     void Print(std::string_view text) override;
+    [[nodiscard]] int TextWidth(std::string_view text) const override;
+    [[nodiscard]] int TextHeight() const override;
     void Cls() override;
     [[nodiscard]] Barva Point(int x, int y) const override;
     void Sloupec(int x, int y, std::span<std::uint8_t> cile) const override;

@@ -13,6 +13,9 @@ namespace rysovna {
 class LichoDialog final : public DialogCtyruhelnikuVrchol {
 public:
     explicit LichoDialog(Platna platna);
+
+protected:
+    [[nodiscard]] Nacrt NacrtPrikladu() const override;
 };
 
 /// The board of the trapezoid (task 11).

@@ -1,6 +1,7 @@
 #include "tasks/RovnoForm.h"
 
 #include <algorithm>
+#include <map>
 
 #include "base/Cisla.h"
 #include "board/Radky.h"
@@ -32,12 +33,25 @@ constexpr auto VETY = Spoj(VETY_CELYCH, std::array<VetaTrojuhelniku, 8>{
                                             {"sus", "DAS", "DSA", {DS, AS, OMEG}},
                                         });
 
-// The diagonals' angles have no mark, so the sketch says which they are: ASB and BSC.
-constexpr auto PISMENA = Spoj(
-    PISMENA_VRCHOLU,
-    std::array<PismenoNacrtu, 3>{{{"S", 147, 58}, {"e", 148, 88, true}, {"w", 164, 71, true}}});
+// The sketch: a parallelogram A(40, 150), B(200, 150), C(255, 40), D(95, 40) with its diagonals. An
+// angle's zone is the place of its letter. The diagonals' angles have no mark, so letters say which
+// they are: ASB and BSC.
+constexpr PrvekNacrtu NACRT[] = {
+    CaraNacrtu("a", {40, 200, 0, 150, 3}, 40, 150, 200, 150, 115, 151),
+    CaraNacrtu("b", {200, 255, -2, 550, 9}, 200, 150, 255, 40, 236, 88),
+    CaraNacrtu("c", {95, 255, 0, 40, 3}, 95, 40, 255, 40, 172, 23),
+    CaraNacrtu("d", {40, 95, -2, 230, 9}, 40, 150, 95, 40, 50, 80),
+    {"alfa", {68, 80, 0, 140, 6}, OBLOUK, 40, 150, 200, 150, 95, 40, 46, "a", true, 70, 132},
+    {"beta", {162, 176, 0, 138, 7}, OBLOUK, 200, 150, 40, 150, 255, 40, 44, "b", true, 165, 130},
+    {"gama", {222, 234, 0, 66, 6}, OBLOUK, 255, 40, 200, 150, 95, 40, 46, "g", true, 225, 58},
+    {"delta", {93, 107, 0, 73, 7}, OBLOUK, 95, 40, 40, 150, 255, 40, 44, "d", true, 96, 65},
+    CaraNacrtu("e", {85, 215, -22 / 43.0, 170.5, 5}, 40, 150, 255, 40, 92, 100),
+    CaraNacrtu("f", {108, 187, 22 / 21.0, -59.5, 6}, 200, 150, 95, 40, 121, 48)};
+constexpr PismenoNacrtu PISMENA[] = {{"A", 26, 146},      {"B", 204, 146}, {"C", 259, 26},
+                                     {"D", 82, 26},       {"S", 144, 70},  {"e", 141, 103, true},
+                                     {"w", 162, 88, true}};
 
-constexpr PravidlaCtyruhelniku PRAVIDLA{"Sestroj rovnoběžník ABCD:", VETY, PISMENA};
+constexpr PravidlaCtyruhelniku PRAVIDLA{"Sestroj rovnoběžník ABCD:", VETY, {NACRT, PISMENA}};
 
 /// How the three values are drawn, kinds from Od to Po (two digits, so text compares as numbers).
 /// The first two are lengths.
@@ -82,6 +96,13 @@ char Protejsi(char vrchol) {
     return i == std::string_view::npos ? vrchol : VRCHOLY[(i + 2) % 4];
 }
 
+Bod PulkaCesty(Bod p, Bod q) {
+    return {Zaokrouhli((p.X + q.X) / 2.0), Zaokrouhli((p.Y + q.Y) / 2.0)};
+}
+Bod ObrazVeStredu(Bod vzor, Bod stred) {
+    return {2 * stred.X - vzor.X, 2 * stred.Y - vzor.Y};
+}
+
 bool Vyhovuje(const Losovani& l, const std::string_view (&nazvy)[3], const HodnotyPrikladu& h) {
     if (l.Uhel) return h[0] > h[1] && Sude(h[0]) && Sude(h[1]);
     double delky[3];
@@ -93,22 +114,62 @@ bool Vyhovuje(const Losovani& l, const std::string_view (&nazvy)[3], const Hodno
     return Trojuhelnikova(delky[0], delky[1], delky[2]);
 }
 
+/// The whole parallelogram of these values, as the board would draw it, and its centre: four
+/// vertices in order, then S. None if they make no triangle.
+std::optional<std::array<Bod, 5>> SpocitejRovnobeznik(const Plane& plocha,
+                                                      const VetaTrojuhelniku& veta,
+                                                      const std::array<double, 3>& hodnoty) {
+    const auto body = SpocitejTrojuhelnik(plocha, veta.Veta, hodnoty);
+    if (!body) return {};
+    std::map<char, Bod> misto;
+    for (std::size_t i = 0; i < body->size(); ++i) misto[veta.Vrcholy[i]] = (*body)[i];
+    for (const char c : {'A', 'B'}) {
+        if (!misto.contains('S') && misto.contains(c) && misto.contains(Protejsi(c))) {
+            misto['S'] = PulkaCesty(misto[c], misto[Protejsi(c)]);
+        }
+    }
+    std::array<Bod, 5> vse{};
+    for (std::size_t i = 0; i < 4; ++i) {
+        const char c = "ABCD"[i];
+        vse[i] = misto.contains(c) ? misto[c] : ObrazVeStredu(misto[Protejsi(c)], misto['S']);
+    }
+    vse[4] = misto['S'];
+    return vse;
+}
+
+/// Whether the figure of the values can be read. Where the data name no triangle, any can.
+bool FiguraCitelna(const Plane& plocha, const Priklad& p, const HodnotyPrikladu& h) {
+    const auto* veta = std::ranges::find_if(VETY, [&p](const VetaTrojuhelniku& v) {
+        return v.Veta == p.Text1 && v.Trojuhelnik == p.Text2;
+    });
+    if (veta == VETY.end()) return true;
+    const auto body = SpocitejRovnobeznik(plocha, *veta, HodnotyVety(*veta, p, h));
+    if (!body) return false;
+    const auto& b = *body;
+    const std::array<Bod, 4> vrcholy = {b[0], b[1], b[2], b[3]};
+    return JeCitelna(b, {&vrcholy, 1});
+}
+
 }  // namespace
 
-RovnoDialog::RovnoDialog(Platna platna) : DialogCtyruhelniku(platna, PRAVIDLA) {}
-
-bool RovnoDialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
+int VylosujRovnobeznik(const Plane& plocha, const Priklad& p, HodnotyPrikladu& hodnoty) {
     const std::string_view nazvy[] = {p.Nazev1, p.Nazev2, p.Nazev3};
     for (const Losovani& l : LOSOVANI) {
         if (p.Druh < l.Od || p.Druh > l.Po) continue;
         const std::size_t lichy = p.Druh.back() % 2 == 0 ? 0 : 1;
-        for (int i = 0; i < NEJVIC_LOSOVANI; ++i) {
+        for (int i = 1; i <= NEJVIC_LOSOVANI; ++i) {
             VylosujTri({DELKA, DELKA, l.Treti[lichy]}, hodnoty);
-            if (Vyhovuje(l, nazvy, hodnoty)) break;
+            if (Vyhovuje(l, nazvy, hodnoty) && FiguraCitelna(plocha, p, hodnoty)) return i;
         }
-        return true;
+        return NEJVIC_LOSOVANI;
     }
-    return false;
+    return 0;
+}
+
+RovnoDialog::RovnoDialog(Platna platna) : DialogCtyruhelniku(platna, PRAVIDLA) {}
+
+bool RovnoDialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
+    return VylosujRovnobeznik(platna_.Pic, p, hodnoty) > 0;
 }
 
 bool RovnoDialog::SeStredem() const {
@@ -253,13 +314,13 @@ void RovnoDialog::NakresliUtvar(Bod /*konec*/) {
     if (Stav().ZvolenyUtvar == STRED_SOUMERNOSTI) {
         const auto p = Misto(prvek.substr(0, 1));
         const auto q = Misto(prvek.substr(1));
-        if (p && q) bod = {Zaokrouhli((p->X + q->X) / 2.0), Zaokrouhli((p->Y + q->Y) / 2.0)};
+        if (p && q) bod = PulkaCesty(*p, *q);
         NakresliStred(bod, false);
     } else {
         const std::string hledany = HledanyBod();
         const auto vzor = Misto(prvek);
         const auto stred = Misto(STRED);
-        if (vzor && stred) bod = {2 * stred->X - vzor->X, 2 * stred->Y - vzor->Y};
+        if (vzor && stred) bod = ObrazVeStredu(*vzor, *stred);
         const int n = NovyUtvar(hledany, "");
         KresliBod(platna_.Pic, BOD, hledany, n, bod.X, bod.Y, hledany, "", ANO);
     }

@@ -40,6 +40,11 @@ private:
     [[nodiscard]] bool SeStredem() const;
 };
 
+/// Draws the three values of a kind, again until they make a figure that can be read. How many
+/// draws it took; 0 for an unknown kind, whose values stay.
+[[nodiscard]] int VylosujRovnobeznik(const Plane& plocha, const Priklad& p,
+                                     HodnotyPrikladu& hodnoty);
+
 /// The board of the parallelogram (task 10).
 class RovnoForm final : public DeskaCtyruhelniku {
 public:

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "board/Nacrt.h"
 #include "engine/Tabulky.h"
 #include "tasks/TecnyKroky.h"
 
@@ -88,17 +89,16 @@ constexpr Pismeno PISMENA[] = {
 };
 
 constexpr float VELIKOST_PISMEN = 8;  // points
-constexpr int SIRKA_CARY = 2;         // px
 
 /// A small filled disc, as circles one in another.
 void KresliKotouc(Plane& p, float x, float y) {
-    p.DrawWidth = SIRKA_CARY;
+    p.DrawWidth = SIRKA_CARY_NACRTU;
     for (float r = 1; r <= 3; r += 1) p.Circle(x, y, r);
 }
 
 void KresliPrvek(Plane& p, const Prvek& e, bool oznaceny) {
     p.ForeColor = oznaceny ? CERVENA : CERNA;
-    p.DrawWidth = SIRKA_CARY;
+    p.DrawWidth = oznaceny ? SIRKA_OZNACENE : SIRKA_CARY_NACRTU;
     switch (e.Druh) {
         case Cara:
             p.Line(e.X1, e.Y1, e.X2, e.Y2);
@@ -118,9 +118,6 @@ void KresliPrvek(Plane& p, const Prvek& e, bool oznaceny) {
             if (oznaceny) KresliKotouc(p, e.X1, e.Y1);
             break;
     }
-    p.CurrentX = e.PX;
-    p.CurrentY = e.PY;
-    p.Print(e.Jmeno);
 }
 
 }  // namespace
@@ -154,19 +151,21 @@ std::span<const PrvekNacrtuTecny> NacrtTecny(std::string_view kod) {
 void KresliNacrtTecny(Plane& plocha, std::string_view kod, std::uint32_t znacky) {
     plocha.Cls();
     plocha.Font = {Pismo::Rez::MsSansSerif, VELIKOST_PISMEN};
-    // Marked elements go last, so that where elements meet red stays on top.
+    const auto jeOznaceny = [znacky](const Prvek& e) { return (znacky & Znacka(e.Znacka)) != 0; };
+    // Marked elements go last, so that where elements meet red stays on top; all names behind all
+    // lines, so that none is crossed.
     for (const bool oznacene : {false, true}) {
         for (const Prvek& e : NacrtTecny(kod)) {
-            if (((znacky & Znacka(e.Znacka)) != 0) == oznacene) KresliPrvek(plocha, e, oznacene);
+            if (jeOznaceny(e) == oznacene) KresliPrvek(plocha, e, oznacene);
         }
     }
+    for (const Prvek& e : NacrtTecny(kod)) {
+        plocha.ForeColor = jeOznaceny(e) ? CERVENA : CERNA;
+        TiskniNaBilem(plocha, e.PX, e.PY, e.Jmeno);
+    }
     plocha.ForeColor = CERNA;
-    plocha.DrawWidth = 1;
     for (const Pismeno& t : PISMENA) {
-        if (t.Kod != kod) continue;
-        plocha.CurrentX = t.X;
-        plocha.CurrentY = t.Y;
-        plocha.Print(t.Text);
+        if (t.Kod == kod) TiskniNaBilem(plocha, t.X, t.Y, t.Text);
     }
 }
 

@@ -269,7 +269,7 @@ TEST_F(RamecDesky, TabulatorVedePolickyDokola) {
     hra.Start();
     hra.SpustUlohu(9);
     hrac::RukaNaDesce ruka(hra);
-    hrac::ZakCtyruhelniku(ruka, 1).Oznac();
+    hrac::DokonalyCtyruhelnik(ruka, 1).Oznac();
     ruka.ZasunPanel();
     ruka.Nastroj(1).Vyber("CDA");
     EXPECT_EQ(hra.Prvek<Label>("lblText2").Caption, "trojúhelník CDA");

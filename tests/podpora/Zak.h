@@ -29,7 +29,7 @@ public:
 
     /// Presses the place of a quantity on the sketch.
     Zak& Oznac(std::string_view velicina) {
-        Ruka::Oznac(MistoNaNacrtu(velicina));
+        Ruka::Oznac(MistoNaNacrtu(velicina).Stred());
         return *this;
     }
     /// Presses a control.

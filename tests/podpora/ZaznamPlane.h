@@ -42,6 +42,10 @@ public:
         plocha.CurrentY = CurrentY;
         plocha.Print(text);
     }
+    [[nodiscard]] int TextWidth(std::string_view text) const override {
+        return plocha.TextWidth(text);
+    }
+    [[nodiscard]] int TextHeight() const override { return plocha.TextHeight(); }
     void Cls() override { plocha.Cls(); }
     [[nodiscard]] Barva Point(int x, int y) const override { return plocha.Point(x, y); }
     void Sloupec(int x, int y, std::span<std::uint8_t> cile) const override {

@@ -132,7 +132,8 @@ TEST_F(Nastroje, TamAZpet) {
     // To itself, also by another name, nothing would be left of the text.
     fs::create_symlink("Errors.txt", Cesta("jinak.dat"));
     for (const std::string cil : {"Errors.txt", "jinak.dat"}) {
-        EXPECT_EQ(Spust("zakoduj Errors.txt " + cil), "Zdroj a cíl jsou týž soubor (" + cil + ")\n= 1");
+        EXPECT_EQ(Spust("zakoduj Errors.txt " + cil),
+                  "Zdroj a cíl jsou týž soubor (" + cil + ")\n= 1");
     }
     EXPECT_EQ(Cti("Errors.txt"), "999 Ahoj.\n1000 Ahoj.\n");
 }

@@ -20,7 +20,7 @@ namespace rysovna::testy {
 template <class D>
 void ZacniRadek(Stul<D>& s, const std::string& radek) {
     s.Radek(radek).Zacni(3);
-    s.Oznac(MistoNaNacrtuCtyruhelniku("f"));
+    s.Oznac({120, 150});  // the side a, level on every sketch
 }
 
 /// A starting triangle, and what is typed for it: quantities, each with its wrong step (0: none).

@@ -16,7 +16,7 @@ namespace {
 using StulTroj2 = Stul<Troj2Dialog>;
 
 void Oznac(StulTroj2& s, const std::string& velicina) {
-    s.Oznac(MistoNaNacrtu(velicina));
+    s.Oznac(MistoNaNacrtu(velicina).Stred());
 }
 
 /// The closed figure against the given values. The pupil draws a radius up to 2 px off; the rest is

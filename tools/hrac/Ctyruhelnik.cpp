@@ -12,14 +12,36 @@
 namespace rysovna::hrac {
 namespace {
 
-constexpr MistoZnacky ZNACKY[] = {{"a", {145, 150}},   {"b", {230, 87}},     {"c", {145, 33}},
-                                  {"d", {60, 79}},     {"e", {120, 100}},    {"f", {210, 121}},
-                                  {"alfa", {74, 140}}, {"beta", {212, 138}}, {"gama", {203, 72}},
-                                  {"delta", {87, 59}}, {"delt", {87, 59}}};
+// The sketches as the boards show them. Along a side or a diagonal anywhere but near its ends.
+constexpr MistoZnacky CTYRUHELNIK[] = {
+    {"a", {50, 150}, {240, 150}},   {"b", {220, 56}, {245, 134}},
+    {"c", {80, 26}, {208, 39}},     {"d", {45, 132}, {70, 43}},
+    {"e", {85, 122}, {135, 90}},    {"f", {180, 100}, {224, 131}},
+    {"alfa", {70, 137}, {78, 143}}, {"beta", {207, 133}, {216, 143}},
+    {"gama", {198, 67}, {207, 77}}, {"delta", {82, 54}, {91, 64}}};
+constexpr MistoZnacky ROVNOBEZNIK[] = {
+    {"a", {50, 150}, {190, 150}},   {"b", {204, 142}, {251, 48}},
+    {"c", {105, 40}, {245, 40}},    {"d", {44, 142}, {91, 48}},
+    {"e", {90, 124}, {135, 101}},   {"f", {115, 61}, {138, 85}},
+    {"alfa", {70, 136}, {78, 144}}, {"beta", {164, 133}, {174, 143}},
+    {"gama", {224, 61}, {232, 71}}, {"delta", {95, 68}, {105, 78}},
+    {"delt", {95, 68}, {105, 78}}};
+constexpr MistoZnacky LICHOBEZNIK[] = {
+    {"a", {50, 150}, {240, 150}},   {"b", {204, 49}, {246, 141}},
+    {"c", {95, 40}, {190, 40}},     {"d", {44, 140}, {81, 50}},
+    {"e", {86, 118}, {125, 92}},    {"f", {165, 93}, {200, 117}},
+    {"alfa", {70, 136}, {78, 144}}, {"beta", {207, 133}, {217, 143}},
+    {"gama", {186, 69}, {195, 79}}, {"delta", {91, 68}, {100, 78}}};
+constexpr MistoZnacky LICHOBEZNIK_BC_DA[] = {
+    {"a", {50, 150}, {205, 150}},   {"b", {218, 140}, {248, 40}},
+    {"c", {75, 68}, {240, 32}},     {"d", {43, 140}, {61, 80}},
+    {"e", {145, 90}, {205, 56}},    {"f", {140, 110}, {180, 131}},
+    {"alfa", {70, 136}, {78, 144}}, {"beta", {197, 113}, {206, 123}},
+    {"gama", {221, 56}, {230, 66}}, {"delta", {73, 96}, {82, 106}}};
 
 /// Parallel sides and the angles at the centre have no mark.
-bool MaZnacku(std::string_view velicina) {
-    return std::ranges::find(ZNACKY, velicina, &MistoZnacky::Velicina) != std::end(ZNACKY);
+bool MaZnacku(std::span<const MistoZnacky> nacrt, std::string_view velicina) {
+    return std::ranges::find(nacrt, velicina, &MistoZnacky::Velicina) != nacrt.end();
 }
 
 /// What a pupil knows: which triangle three quantities make, in any order, and by which theorem.
@@ -49,6 +71,7 @@ constexpr PrvekUVrcholu PRVKY[] = {
 };
 
 constexpr std::string_view VRCHOLY = "ABCD";
+constexpr int POKUSU = 50;  // to find places on the plane
 
 /// The quantity that a typed row asks for: "délka strany a = ", "vel. úhlu beta = ".
 std::string VelicinaRadku(const std::string& popis) {
@@ -59,10 +82,6 @@ std::string VelicinaRadku(const std::string& popis) {
 
 }  // namespace
 
-Bod MistoNaNacrtuCtyruhelniku(std::string_view velicina) {
-    return NajdiMisto(ZNACKY, velicina);
-}
-
 Bod VrcholNaPlose(std::string_view pismeno) {
     for (int i = 1; i <= 3; ++i) {
         if (Utvary[i].Jmeno1 == pismeno) return {Utvary[i].X1, Utvary[i].Y1};
@@ -71,9 +90,27 @@ Bod VrcholNaPlose(std::string_view pismeno) {
 }
 
 void ZakCtyruhelniku::Oznac() {
-    for (const Zadano& z : ruka_.Zadani()) {
-        if (MaZnacku(z.Velicina)) ruka_.Oznac(MistoNaNacrtuCtyruhelniku(z.Velicina));
+    std::vector<Zadano> zadani = ruka_.Zadani();
+    los_.Zamichej(zadani);
+    for (const Zadano& z : zadani) {
+        if (!MaZnacku(NaNacrtu(), z.Velicina)) continue;
+        const MistoZnacky& kde = NajdiMisto(NaNacrtu(), z.Velicina);
+        ruka_.Oznac(los_.NaCeste(kde.Od, kde.Do));
     }
+}
+
+/// A trapezoid's assignment names its parallel sides; no other does.
+std::span<const MistoZnacky> DokonalyCtyruhelnik::NaNacrtu() const {
+    for (const Zadano& z : ruka_.Zadani()) {
+        if (z.Velicina.find("||") == std::string::npos) continue;
+        return z.Velicina.find("AB") != std::string::npos ? std::span(LICHOBEZNIK)
+                                                          : std::span(LICHOBEZNIK_BC_DA);
+    }
+    return CTYRUHELNIK;
+}
+
+std::span<const MistoZnacky> DokonalyRovnobeznik::NaNacrtu() const {
+    return ROVNOBEZNIK;
 }
 
 /// The first three quantities make the starting triangle.
@@ -89,7 +126,9 @@ void ZakCtyruhelniku::Trojuhelnik() {
     ruka_.Nastroj(1).Vyber(t->Trojuhelnik);
     ruka_.Nastroj(2).Vyber(t->Veta);
     const auto radky = ruka_.Hrany().UkazPanel().Vstupy;
-    for (std::size_t i = 0; i < radky.size(); ++i) {
+    std::vector<std::size_t> poradi = {0, 1, 2};
+    los_.Zamichej(poradi);
+    for (const std::size_t i : poradi) {
         std::string velicina = VelicinaRadku(radky[i].Nazev);
         // A half of a diagonal is asked for by the letters of its ends.
         const bool pulka = velicina.size() == 2 && velicina.find('S') != std::string::npos;
@@ -108,8 +147,8 @@ void DokonalyCtyruhelnik::Sestroj() {
     Oznac();
     ruka_.ZasunPanel();
     Trojuhelnik();
-    std::array<int, 2> poradi = {1, 2};
-    std::ranges::shuffle(poradi, nahoda_);
+    std::vector<int> poradi = {1, 2};
+    los_.Zamichej(poradi);
     for (const int n : poradi) Narysuj(n);
     Bod posunuto{};
     for (int i = 0; i < POSUNU * POSUNU && !VejdeSe(); ++i) {
@@ -145,39 +184,51 @@ void DokonalyCtyruhelnik::Narysuj(int n) {
 void DokonalyCtyruhelnik::NarysujKruznici(const std::string& stred, int cm) {
     const bool prvni = Dialogem().Stav().Faze == 2;
     const Bod b = VrcholNaPlose(stred);
+    const Bod stisk = los_.Vedle(b, CHYTNE);
     ruka_.Nastroj(4)
         .Vyber(std::string("kružnice ") + (prvni ? "k" : "l") + ", střed v bodě " + stred)
         .Napis(cm)
-        .Tahni(b, {b.X + (b.X > 180 ? -1 : 1) * cm * PIXELU_NA_CM, b.Y + Cislo(13) - 6});
+        .Tahni(stisk, NaKruznici(los_, b, cm * PIXELU_NA_CM));
 }
 
 void DokonalyCtyruhelnik::NarysujPaprsek(const std::string& vrchol, const std::string& rameno,
                                          int stupnu) {
     const bool prvni = Dialogem().Stav().Faze == 2;
-    const int posun = Cislo(13) - 6;  // the press snaps
     const Bod v = VrcholNaPlose(vrchol);
+    const Bod stisk = los_.Vedle(v, CHYTNE);
     const Bod r = VrcholNaPlose(rameno);
     const Bod t = Treti(vrchol, rameno);
     const bool vlevo = (r.X - v.X) * (t.Y - v.Y) - (r.Y - v.Y) * (t.X - v.X) < 0;
     ruka_.Nastroj(1)
         .Vyber(vrchol + (prvni ? "X" : "Y") + ", svírající úhel s úsečkou " + vrchol + rameno)
         .Napis(stupnu)
-        .Tahni({v.X - posun, v.Y + posun}, PodUhlem(v, r, vlevo ? stupnu : -stupnu));
+        .Tahni(stisk, PodUhlem(v, r, vlevo ? stupnu : -stupnu, los_.Mezi(50, 150)));
 }
 
-/// From the middle of the side to where the parallel misses the third vertex by a few pixels.
+/// From anywhere along the side to where the parallel misses the third vertex by a few pixels.
 void DokonalyCtyruhelnik::NarysujRovnobezku(const std::string& strana) {
     const std::string od = strana.substr(0, 1);
     const std::string k = strana.substr(1);
     const Bod p = VrcholNaPlose(od);
     const Bod q = VrcholNaPlose(k);
     const Bod t = Treti(od, k);
-    const Bod stred{(p.X + q.X) / 2, (p.Y + q.Y) / 2};
-    const double o = (Cislo(11) - 5) / std::hypot(q.X - p.X, q.Y - p.Y);
+    const auto kolem = [&](Bod b, double podel, double napric) {
+        const double d = std::hypot(q.X - p.X, q.Y - p.Y);
+        return Bod{b.X + Zaokrouhli(podel * (q.X - p.X) + napric * (q.Y - p.Y) / d),
+                   b.Y + Zaokrouhli(podel * (q.Y - p.Y) - napric * (q.X - p.X) / d)};
+    };
+    Bod stisk = kolem(p, 0.5, 0);
+    Bod kam = kolem(t, 0.5, 0);
+    for (int i = 0; i < POKUSU; ++i) {
+        const Bod odkud = kolem(p, los_.Mezi(-50, 150) / 100.0, 0);
+        const Bod pustit = kolem(t, los_.Mezi(-100, 100) / 100.0, los_.Mezi(-5, 5));
+        if (!NaPlose(odkud) || !NaPlose(pustit)) continue;
+        stisk = odkud;
+        kam = pustit;
+        break;
+    }
     ruka_.Nastroj(3);
-    ruka_.Vyber(ruka_.JeVSeznamu(strana) ? strana : "s úsečkou " + strana)
-        .Tahni(stred, {t.X + stred.X - p.X + Zaokrouhli(o * (q.Y - p.Y)),
-                       t.Y + stred.Y - p.Y - Zaokrouhli(o * (q.X - p.X))});
+    ruka_.Vyber(ruka_.JeVSeznamu(strana) ? strana : "s úsečkou " + strana).Tahni(stisk, kam);
 }
 
 /// Whether the closed figure lies on the plane.
@@ -201,7 +252,8 @@ Bod DokonalyCtyruhelnik::Treti(const std::string& a, const std::string& b) const
 
 /// A missed click costs nothing.
 Bod DokonalyRovnobeznik::Nekam() {
-    return {Cislo(360), Cislo(310)};  // px of the plane, off the arrows
+    const int x = los_.Cislo(360);  // px of the plane, off the arrows
+    return {x, los_.Cislo(310)};
 }
 
 void DokonalyRovnobeznik::Stred() {

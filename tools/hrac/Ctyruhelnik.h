@@ -1,21 +1,26 @@
 #pragma once
 
 #include <cstdint>
-#include <random>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "board/DialogCtyruhelniku.h"
+#include "hrac/Los.h"
 #include "hrac/Ruka.h"
 
 namespace rysovna::hrac {
 
 /// What the perfect pupils of the quadrilaterals share: the marks, the starting triangle. They go
 /// by what the screen says, never by what the data expect, so that an example which nobody could
-/// solve from its assignment costs them points.
+/// solve from its assignment costs them points. They have no habits: orders, places and sides that
+/// are all right go by a seed.
 class ZakCtyruhelniku {
 public:
-    ZakCtyruhelniku(Ruka& ruka, std::uint32_t seminko) : ruka_(ruka), nahoda_(seminko) {}
+    virtual ~ZakCtyruhelniku() = default;
+    ZakCtyruhelniku(const ZakCtyruhelniku&) = delete;
+    ZakCtyruhelniku& operator=(const ZakCtyruhelniku&) = delete;
+    ZakCtyruhelniku(Ruka& ruka, std::uint32_t seminko) : ruka_(ruka), los_(seminko) {}
 
     /// Marks what is given; a second time takes the marks off.
     void Oznac();
@@ -27,12 +32,11 @@ protected:
     [[nodiscard]] const DialogCtyruhelniku& Dialogem() const {
         return dynamic_cast<const DialogCtyruhelniku&>(ruka_.Hrany());
     }
-    [[nodiscard]] int Cislo(int rozpeti) {
-        return static_cast<int>(nahoda_() % static_cast<unsigned>(rozpeti));
-    }
+    /// The sketch that the board shows.
+    [[nodiscard]] virtual std::span<const MistoZnacky> NaNacrtu() const = 0;
 
     Ruka& ruka_;
-    std::mt19937 nahoda_;
+    Los los_;
 };
 
 /// The perfect pupil of the general quadrilateral and the trapezoid: the fourth vertex by two
@@ -46,6 +50,9 @@ public:
     void Sestroj();
     /// Draws the object of the n-th quantity (1, 2) behind those of the triangle.
     void Narysuj(int n);
+
+protected:
+    [[nodiscard]] std::span<const MistoZnacky> NaNacrtu() const override;
 
 private:
     void NarysujKruznici(const std::string& stred, int cm);
@@ -66,12 +73,12 @@ public:
     void Stred();
     void Obrazy();
 
+protected:
+    [[nodiscard]] std::span<const MistoZnacky> NaNacrtu() const override;
+
 private:
     [[nodiscard]] Bod Nekam();
 };
-
-/// Where the sketch of a quadrilateral is pressed for a quantity, px of the sketch.
-[[nodiscard]] Bod MistoNaNacrtuCtyruhelniku(std::string_view velicina);
 
 /// A vertex of the starting triangle as it stands on the plane; throws if there is none.
 [[nodiscard]] Bod VrcholNaPlose(std::string_view pismeno);

@@ -37,10 +37,14 @@ std::vector<Zadano> CtiZadani(const std::vector<PolozkaZadani>& popisky) {
     return vse;
 }
 
-Bod NajdiMisto(std::span<const MistoZnacky> nacrt, std::string_view velicina) {
+const MistoZnacky& NajdiMisto(std::span<const MistoZnacky> nacrt, std::string_view velicina) {
     const auto z = std::ranges::find(nacrt, velicina, &MistoZnacky::Velicina);
     if (z == nacrt.end()) Nejde("není na náčrtu", velicina);
-    return z->Misto;
+    return *z;
+}
+
+bool NaPlose(Bod b) {
+    return b.X >= 25 && b.Y >= 28 && b.X <= 365 && b.Y <= 310;
 }
 
 int Ruka::Hodnota(std::string_view velicina) const {

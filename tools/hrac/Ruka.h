@@ -97,13 +97,19 @@ private:
     Relace& relace_;
 };
 
-/// Where an element of a sketch is pressed, px of the sketch.
+/// Where an element of a sketch is pressed: anywhere between two points, px of the sketch.
 struct MistoZnacky {
     std::string_view Velicina;
-    Bod Misto;
+    Bod Od, Do;
+    [[nodiscard]] constexpr Bod Stred() const { return {(Od.X + Do.X) / 2, (Od.Y + Do.Y) / 2}; }
 };
 /// Throws for a quantity that is not on the sketch.
-[[nodiscard]] Bod NajdiMisto(std::span<const MistoZnacky> nacrt, std::string_view velicina);
+[[nodiscard]] const MistoZnacky& NajdiMisto(std::span<const MistoZnacky> nacrt,
+                                            std::string_view velicina);
+
+/// Whether a place is on the plane, far enough from its edges that a press near it misses the
+/// arrows. Plane px.
+[[nodiscard]] bool NaPlose(Bod b);
 
 /// Reads the labels of an assignment: name, value, name, value.
 [[nodiscard]] std::vector<Zadano> CtiZadani(const std::vector<PolozkaZadani>& popisky);

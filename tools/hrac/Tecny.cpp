@@ -6,16 +6,25 @@
 
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
+#include "hrac/Trojuhelnik.h"
 #include "tasks/TecnyNacrt.h"
 
 namespace rysovna::hrac {
 namespace {
 
 // Faces of the buttons.
-constexpr int PRIMKA_BODY = 2, KRUH = 6, STRED = 7, OSA = 8, PRUSECIK = 9;
+constexpr int PRIMKA_BODY = 2, KOLMO = 4, KRUH = 6, STRED = 7, OSA = 8, PRUSECIK = 9;
+
+constexpr int POKUSU = 60;     // to find a free line that is right
+constexpr double NEJDAL = 10;  // px along Y by which it may miss its point; the board allows 14
 
 const std::map<std::string_view, std::vector<KrokZaka>> POSTUPY{
-    {"01", {{4, "k přímce a", "S"}, {9}, {9}, {5, "s přímkou a", "A1"}, {5, "s přímkou a", "A2"}}},
+    {"01",
+     {{4, "k přímce a", "S", "", true},
+      {9},
+      {9},
+      {5, "s přímkou a", "A1"},
+      {5, "s přímkou a", "A2"}}},
     {"02", {{5, "s přímkou a", "S"}, {9}, {9}, {4, "k přímce b", "A1"}, {4, "k přímce b", "A2"}}},
     {"03",
      {{7, "", "S", "A"},
@@ -114,8 +123,9 @@ void DokonaleTecny::Oznac() {
     for (const PrvekNacrtuTecny& e : NacrtTecny(Kod())) {
         const std::uint32_t znacka = Znacka(e.Znacka);
         if ((c->PovinneZnacky & znacka) == 0) continue;
-        for (float k = 0.31F; (znacky() & znacka) == 0; k += 0.05F) {
-            if (k > 6) throw NejdeUdelat("nejde označit " + std::string(e.Jmeno));
+        for (float k = static_cast<float>(los_.Cislo(100)) / 100; (znacky() & znacka) == 0;
+             k += 0.05F) {
+            if (k > 8) throw NejdeUdelat("nejde označit " + std::string(e.Jmeno));
             const std::uint32_t pred = znacky();
             const Bod b = NaNacrtu(e, k);
             ruka_.Oznac(b);
@@ -188,29 +198,74 @@ void DokonaleTecny::SpravnyKrok() {
 void DokonaleTecny::Proved(const KrokZaka& k, bool druhy) {
     Nastroj(k.Tvar);
     if (!k.Radek.empty()) ruka_.Vyber(k.Radek);
-    const auto chvej = [this](Bod b, int o) {
-        return Bod{b.X + Cislo(2 * o + 1) - o, b.Y + Cislo(2 * o + 1) - o};
-    };
     if (k.Tvar == PRUSECIK) {
         const auto kam = Kandidati();
-        ruka_.Klikni(chvej(kam.size() == 2 && druhy != Obracene ? kam[1] : kam[0], 3));
+        ruka_.Klikni(los_.Vedle(kam.size() == 2 && druhy != Obracene ? kam[1] : kam[0], 3));
         return;
     }
     const Bod od = NajdiBod(k.Od);
     if (k.Tvar == STRED) {
         const Bod b = NajdiBod(k.K);
-        ruka_.Klikni(chvej(Pixel({(od.X + b.X) / 2.0, (od.Y + b.Y) / 2.0}), 4));
+        ruka_.Klikni(los_.Vedle(Pixel({(od.X + b.X) / 2.0, (od.Y + b.Y) / 2.0}), 4));
     } else if (k.Tvar == KRUH) {
         const Bod a = NajdiBod("A");
         const int r = Zaokrouhli(std::hypot(od.X - a.X, od.Y - a.Y));
-        // Towards the plane's middle, so that the pointer stays in the window.
-        const int smer = od.X > 190 ? -1 : 1;
-        ruka_.Tahni(Nahodne(), {od.X + smer * r + Cislo(5) - 2, Cislo(335)});
+        const Bod stisk = Nahodne();
+        ruka_.Tahni(stisk, NaKruznici(los_, od, r + los_.Mezi(-2, 2)));
     } else if (k.Tvar == PRIMKA_BODY) {
-        ruka_.Tahni(chvej(od, 6), chvej(NajdiBod(k.K), 6));
+        const Bod stisk = los_.Vedle(od, CHYTNE);
+        ruka_.Tahni(stisk, los_.Vedle(NajdiBod(k.K), CHYTNE));
     } else {
-        ruka_.Tahni(chvej(od, 6), Nahodne());
+        NarysujPrimku(k);
     }
+}
+
+/// A perpendicular or parallel: half of them free, where a free one is right.
+void DokonaleTecny::NarysujPrimku(const KrokZaka& k) {
+    Bod odkud = los_.Vedle(NajdiBod(k.Od), CHYTNE);
+    Bod kam = Nahodne();
+    if (!k.JenZBodu && los_.Ano()) (void)NajdiVolnyTah(k, odkud, kam);
+    ruka_.Tahni(odkud, kam);
+}
+
+/// A drag that catches no point and yet makes a line past its point by a few pixels. A
+/// perpendicular stands where the base has the press's X, a parallel goes to the pointer.
+bool DokonaleTecny::NajdiVolnyTah(const KrokZaka& k, Bod& odkud, Bod& kam) {
+    const V bod = Misto(k.Od);
+    const std::string_view radek = k.Radek;
+    const int cislo = NajdiCaru(radek.substr(radek.rfind(' ') + 1));
+    const Utvar& zakladna = Utvary[cislo];
+    const bool kolmo = k.Tvar == KOLMO;
+    const auto chyti = [cislo, kolmo](Bod b) {
+        const auto blizko = [b](int x, int y) {
+            return std::abs(b.X - x) <= CHYTNE && std::abs(b.Y - y) <= CHYTNE;
+        };
+        for (int i = 1; i <= PocetTrojic; ++i) {
+            const Trojice& t = Trojice_tab[i];
+            if (i == cislo && !kolmo) continue;  // no parallel from the points of its own base
+            if (blizko(t.X1, t.Y1) || (!t.Jmeno2.empty() && blizko(t.X2, t.Y2))) return true;
+        }
+        return false;
+    };
+    const V z{static_cast<double>(zakladna.X1), static_cast<double>(zakladna.Y1)};
+    const V smer = Smer(zakladna);
+    const V cara = kolmo ? Napric(smer) : smer;
+    if (std::fabs(smer.X) < 0.1 || std::fabs(cara.X) < 0.1) return false;  // nearly upright
+    const double pata = (bod.X - z.X) * smer.X + (bod.Y - z.Y) * smer.Y;
+    for (int i = 0; i < POKUSU; ++i) {
+        const int mimo = los_.Mezi(-6, 6);
+        const Bod stisk{kolmo ? Pixel(Dal(z, smer, pata + mimo)).X : los_.Mezi(30, 355),
+                        los_.Mezi(30, 305)};
+        const Bod pustit =
+            kolmo ? Nahodne()
+                  : Pixel(Dal(Dal(bod, smer, los_.Mezi(-150, 150)), Napric(smer), mimo));
+        if (std::abs(mimo) > NEJDAL * std::fabs(cara.X)) continue;
+        if (!NaPlose(stisk) || !NaPlose(pustit) || chyti(stisk)) continue;
+        odkud = stisk;
+        kam = pustit;
+        return true;
+    }
+    return false;
 }
 
 void DokonaleTecny::SpravneDo(int faze) {
@@ -227,6 +282,8 @@ void DokonaleTecny::SpravneVse() {
 }
 
 void DokonaleTecny::Sestroj() {
+    Osou = los_.Ano();
+    Obracene = los_.Ano();
     Oznac();
     ruka_.ZasunPanel();
     SpravneVse();

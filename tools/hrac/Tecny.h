@@ -1,11 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "hrac/Los.h"
 #include "hrac/Ruka.h"
 #include "tasks/TecnyDialog.h"
 
@@ -16,16 +16,18 @@ namespace rysovna::hrac {
 struct KrokZaka {
     int Tvar;  ///< number of the button's face
     std::string_view Radek = "", Od = "", K = "";
+    bool JenZBodu = false;  ///< a line that must start on its point: near it is not right
 };
 
 /// The perfect pupil of the tangents: the right tool, row and place at each step, a few pixels off
-/// where the board allows it. Its own geometry tells where.
+/// where the board allows it; a line from its point, or free so that it passes it. Its own geometry
+/// tells where, a seed which of what is right.
 class DokonaleTecny {
 public:
-    DokonaleTecny(Ruka& ruka, std::uint32_t seminko) : ruka_(ruka), nahoda_(seminko) {}
+    DokonaleTecny(Ruka& ruka, std::uint32_t seminko) : ruka_(ruka), los_(seminko) {}
 
     /// Begins the random choices anew.
-    void Zasej(std::uint32_t seminko) { nahoda_.seed(seminko); }
+    void Zasej(std::uint32_t seminko) { los_.Zasej(seminko); }
 
     /// Marks what has to be marked.
     void Oznac();
@@ -41,11 +43,12 @@ public:
     [[nodiscard]] const KrokZaka& Krok() const;
     /// Both places that the marking step could take.
     [[nodiscard]] std::vector<Bod> Kandidati() const;
-    [[nodiscard]] int Cislo(int rozpeti) {
-        return static_cast<int>(nahoda_() % static_cast<unsigned>(rozpeti));
-    }
+    [[nodiscard]] int Cislo(int pod) { return los_.Cislo(pod); }
     /// Somewhere on the plane off the arrows.
-    [[nodiscard]] Bod Nahodne() { return {Cislo(364), Cislo(315)}; }
+    [[nodiscard]] Bod Nahodne() {
+        const int x = los_.Cislo(364);
+        return {x, los_.Cislo(315)};
+    }
 
     bool Osou = false;      ///< in "05" and "06" the axis at once
     bool Obracene = false;  ///< of two results the other one first
@@ -56,9 +59,11 @@ private:
     }
     [[nodiscard]] std::string Kod() const;
     void Proved(const KrokZaka& krok, bool druhy);
+    void NarysujPrimku(const KrokZaka& krok);
+    [[nodiscard]] bool NajdiVolnyTah(const KrokZaka& krok, Bod& odkud, Bod& kam);
 
     Ruka& ruka_;
-    std::mt19937 nahoda_;
+    Los los_;
 };
 
 }  // namespace rysovna::hrac

@@ -10,19 +10,18 @@
 namespace rysovna::hrac {
 namespace {
 
-constexpr MistoZnacky ZNACKY[] = {{"a", {205, 85}},    {"b", {95, 85}},      {"c", {100, 140}},
-                                  {"alfa", {74, 123}}, {"beta", {220, 122}}, {"gama", {149, 52}},
-                                  {"va", {60, 80}},    {"vb", {240, 80}},    {"vc", {8, 85}},
-                                  {"ta", {120, 113}},  {"tb", {180, 113}},   {"tc", {150, 75}}};
+constexpr MistoZnacky ZNACKY[] = {{"a", {160, 40}, {250, 130}},     {"b", {50, 130}, {140, 40}},
+                                  {"c", {50, 140}, {250, 140}},     {"alfa", {72, 122}, {76, 125}},
+                                  {"beta", {218, 119}, {221, 125}}, {"gama", {147, 50}, {152, 54}},
+                                  {"va", {25, 115}, {120, 20}},     {"vb", {180, 20}, {270, 110}},
+                                  {"vc", {6, 40}, {10, 130}},       {"ta", {95, 122}, {135, 108}},
+                                  {"tb", {165, 108}, {205, 122}},   {"tc", {148, 64}, {152, 88}}};
 
 constexpr KonceStrany STRANY[] = {{"a", "B", "C", "A"}, {"b", "A", "C", "B"}, {"c", "A", "B", "C"}};
 constexpr std::pair<std::string_view, std::string_view> VRCHOLY[] = {
     {"alfa", "A"}, {"beta", "B"}, {"gama", "C"}};
 
-/// Far enough from the plane's edges that a press near the point, too, misses the arrows.
-bool NaPlose(Bod b) {
-    return b.X >= 25 && b.Y >= 28 && b.X <= 365 && b.Y <= 310;
-}
+constexpr int POKUSU = 50;  // to find places on the plane
 
 bool JeVyska(std::string_view velicina) {
     return velicina.size() == 2 && velicina[0] == 'v';
@@ -38,6 +37,13 @@ std::string RadekKruznice(const std::string& stred) {
 
 }  // namespace
 
+Bod NaKruznici(Los& los, Bod stred, int r) {
+    const int y = los.Mezi(30, 305);
+    const Bod strany[] = {{stred.X - r, y}, {stred.X + r, y}};
+    const std::size_t i = los.Ano() ? 1 : 0;
+    return NaPlose(strany[i]) || !NaPlose(strany[1 - i]) ? strany[i] : strany[1 - i];
+}
+
 const KonceStrany& Konce(std::string_view strana) {
     const auto* k = std::ranges::find(STRANY, strana, &KonceStrany::Nazev);
     if (k == std::end(STRANY)) throw NejdeUdelat("není strana: " + std::string(strana));
@@ -51,16 +57,16 @@ std::string_view VrcholUhlu(std::string_view uhel) {
     return {};
 }
 
-Bod MistoNaNacrtu(std::string_view velicina) {
+const MistoZnacky& MistoNaNacrtu(std::string_view velicina) {
     return NajdiMisto(ZNACKY, velicina);
 }
 
-Bod PodUhlem(Bod rameno1, Bod rameno2, int stupnu) {
+Bod PodUhlem(Bod rameno1, Bod rameno2, int stupnu, int daleko) {
     const double smer = std::atan2(rameno1.Y - rameno2.Y, rameno2.X - rameno1.X);
     // The pixel nearest to the exact angle, of several distances: the read-out rounds to degrees.
     Bod nejlepsi{};
     double odchylka = 1e9;
-    for (int r = 60; r <= 90; ++r) {
+    for (int r = daleko; r <= daleko + 30; ++r) {
         const double uhel = smer + stupnu * PI / STUPNU_PULOTACKY;
         const Bod b{rameno1.X + Zaokrouhli(r * std::cos(uhel)),
                     rameno1.Y - Zaokrouhli(r * std::sin(uhel))};
@@ -91,7 +97,7 @@ void DokonalyTrojuhelnik::ZvolPrvni() {
         if (z.Velicina.size() == 1) strany.push_back(z.Velicina);
     }
     const KonceStrany& k =
-        Konce(strany.at(static_cast<std::size_t>(Cislo(static_cast<int>(strany.size())))));
+        Konce(strany.at(static_cast<std::size_t>(los_.Cislo(static_cast<int>(strany.size())))));
     strana_ = {std::string(k.Nazev), std::string(k.Od), std::string(k.Do), {}, {}};
 }
 
@@ -100,22 +106,24 @@ void DokonalyTrojuhelnik::UmistiPrvni(int px) {
     Bod kam{};
     if (nahoru_) {
         // In the middle, level within 60 degrees, to either side: the parallel is pushed upward.
-        const double smer = (Cislo(1200) / 10.0 - 60 + (Cislo(2) == 0 ? 180 : 0)) * PI / 180;
+        const double smer = (los_.Mezi(-600, 600) / 10.0 + (los_.Ano() ? 180 : 0)) * PI / 180;
         od = {192 - Zaokrouhli(px / 2.0 * std::cos(smer)),
               170 + Zaokrouhli(px / 2.0 * std::sin(smer))};
         kam = {od.X + Zaokrouhli(px * std::cos(smer)), od.Y - Zaokrouhli(px * std::sin(smer))};
     } else if (zasunPanel_) {
         // All over the plane, in any direction.
         do {
-            od = {Cislo(384), Cislo(335)};  // px of the plane
-            const double smer = Cislo(3600) * PI / 1800;
+            od.X = los_.Cislo(384);  // px of the plane
+            od.Y = los_.Cislo(335);
+            const double smer = los_.Cislo(3600) * PI / 1800;
             kam = {od.X + Zaokrouhli(px * std::cos(smer)), od.Y + Zaokrouhli(px * std::sin(smer))};
         } while (!NaPlose(od) || !NaPlose(kam));
     } else {
-        od = {30 + Cislo(40), 320 - Cislo(8)};
-        const int dx = Cislo(21) - 10;
+        od.X = los_.Mezi(30, 69);
+        od.Y = los_.Mezi(313, 320);
+        const int dx = los_.Mezi(-10, 10);
         kam = {od.X + dx, od.Y - Zaokrouhli(std::sqrt(px * px - dx * dx))};
-        if (Cislo(2) == 0) std::swap(od, kam);
+        if (los_.Ano()) std::swap(od, kam);
     }
     strana_.OdBod = od;
     strana_.DoBod = kam;
@@ -131,12 +139,11 @@ void DokonalyTrojuhelnik::NarysujPaprsek(std::string_view uhel) {
     // The figure goes round to the left from A over B to C: on a side named A, C the third vertex
     // lies to the right. Upward is to the left of a way that goes to the right.
     const bool vlevo = nahoru_ ? druhy.X > start.X : zacatek == (strana_.Nazev != "b");
-    const Bod kam = PodUhlem(start, druhy, vlevo ? stupnu : -stupnu);
-    const int posun = Cislo(13) - 6;  // the press snaps
+    const Bod kam = PodUhlem(start, druhy, vlevo ? stupnu : -stupnu, los_.Mezi(50, 150));
     ruka_.Nastroj(1)
         .Vyber(vrchol + (prvni ? "X" : "Y"))
         .Napis(stupnu)
-        .Tahni({start.X + posun, start.Y - posun}, kam);
+        .Tahni(los_.Vedle(start, CHYTNE), kam);
 }
 
 /// A median is the radius about the first side's midpoint; a side that about its end that lies on
@@ -151,34 +158,53 @@ void DokonalyTrojuhelnik::NarysujKruznici(std::string_view velicina) {
         kde = "v bodě " + stred;
     }
     const int cm = ruka_.Hodnota(velicina);
-    const int smer = s.X > 180 ? -1 : 1;
     // A triangle by a median may be nearly flat: there two pixels decide whether it closes.
-    const int mimo = nahoru_ ? 0 : Cislo(5) - 2;
-    ruka_.Nastroj(4)
-        .Vyber(RadekKruznice(kde))
-        .Napis(cm)
-        .Tahni({s.X + Cislo(11) - 5, s.Y + Cislo(11) - 5},
-               {s.X + smer * (cm * PIXELU_NA_CM + mimo), s.Y});
+    const int r = cm * PIXELU_NA_CM + (nahoru_ ? 0 : los_.Mezi(-2, 2));
+    ruka_.Nastroj(4).Vyber(RadekKruznice(kde)).Napis(cm);
+    const Bod stisk = los_.Vedle(s, CHYTNE);
+    ruka_.Tahni(stisk, NaKruznici(los_, s, r));
 }
 
-/// A height is the distance of the parallel to the first side.
+/// A height is the distance of the parallel to the first side. It is pushed from anywhere on the
+/// side's line to anywhere at that distance.
 void DokonalyTrojuhelnik::NarysujVysku(std::string_view vyska) {
     const int cm = ruka_.Hodnota(vyska);
     const Bod smer{strana_.DoBod.X - strana_.OdBod.X, strana_.DoBod.Y - strana_.OdBod.Y};
     const double px = cm * PIXELU_NA_CM * (smer.X > 0 ? 1 : -1) / std::hypot(smer.X, smer.Y);
-    const Bod kam{Stred().X + Zaokrouhli(smer.Y * px), Stred().Y - Zaokrouhli(smer.X * px)};
-    ruka_.Nastroj(3).Vyber("s úsečkou " + strana_.Od + strana_.Do).Napis(cm).Tahni(Stred(), kam);
+    const Bod nahoru{Zaokrouhli(smer.Y * px), -Zaokrouhli(smer.X * px)};
+    Bod od = Stred();
+    Bod kam{od.X + nahoru.X, od.Y + nahoru.Y};
+    for (int i = 0; i < POKUSU; ++i) {
+        const double t = los_.Mezi(-100, 200) / 100.0;
+        const double u = los_.Mezi(-100, 200) / 100.0;
+        const auto naStrane = [&](double kde) {
+            return Bod{strana_.OdBod.X + Zaokrouhli(smer.X * kde),
+                       strana_.OdBod.Y + Zaokrouhli(smer.Y * kde)};
+        };
+        const Bod p = naStrane(t);
+        const Bod q{naStrane(u).X + nahoru.X, naStrane(u).Y + nahoru.Y};
+        // Upward: only there the read-out has no sign.
+        if (!NaPlose(p) || !NaPlose(q) || q.Y >= p.Y) continue;
+        od = p;
+        kam = q;
+        break;
+    }
+    ruka_.Nastroj(3).Vyber("s úsečkou " + strana_.Od + strana_.Do).Napis(cm).Tahni(od, kam);
 }
 
 void DokonalyTrojuhelnik::Sestroj() {
     std::vector<Zadano> zadani = ruka_.Zadani();
-    for (const Zadano& z : zadani) ruka_.Oznac(MistoNaNacrtu(z.Velicina));
+    los_.Zamichej(zadani);
+    for (const Zadano& z : zadani) {
+        const MistoZnacky& kde = MistoNaNacrtu(z.Velicina);
+        ruka_.Oznac(los_.NaCeste(kde.Od, kde.Do));
+    }
     if (zasunPanel_) ruka_.ZasunPanel();
     ZvolPrvni();
     const int cm = ruka_.Hodnota(strana_.Nazev);
     UmistiPrvni(cm * PIXELU_NA_CM);
     ruka_.Nastroj(1).Vyber(strana_.Od + strana_.Do).Napis(cm).Tahni(strana_.OdBod, strana_.DoBod);
-    std::ranges::shuffle(zadani, nahoda_);
+    los_.Zamichej(zadani);
     for (const Zadano& z : zadani) {
         if (z.Velicina == strana_.Nazev) continue;
         if (!VrcholUhlu(z.Velicina).empty()) {

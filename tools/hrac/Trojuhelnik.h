@@ -1,22 +1,23 @@
 #pragma once
 
 #include <cstdint>
-#include <random>
 #include <string>
 #include <string_view>
 
+#include "hrac/Los.h"
 #include "hrac/Ruka.h"
 
 namespace rysovna::hrac {
 
 /// The perfect pupil of the triangles (tasks 1 to 8): marks what is given, constructs it without a
-/// fault. Which side first, where, which object first: by a seed.
+/// fault. It has no habits: which side first and where, which object first, where it presses within
+/// what is right and to which side it drags go by a seed.
 class DokonalyTrojuhelnik {
 public:
     /// zasunPanel: slides the panel away first and draws all over the plane; otherwise keeps to
     /// the strip that the panel leaves free, which no height or median fits.
     DokonalyTrojuhelnik(Ruka& ruka, std::uint32_t seminko, bool zasunPanel = true)
-        : ruka_(ruka), nahoda_(seminko), zasunPanel_(zasunPanel) {}
+        : ruka_(ruka), los_(seminko), zasunPanel_(zasunPanel) {}
 
     /// The whole example up to the closed figure, without the check.
     void Sestroj();
@@ -32,16 +33,19 @@ private:
     void NarysujKruznici(std::string_view velicina);
     void NarysujVysku(std::string_view vyska);
     [[nodiscard]] Bod Stred() const;
-    [[nodiscard]] int Cislo(int rozpeti) {
-        return static_cast<int>(nahoda_() % static_cast<unsigned>(rozpeti));
-    }
 
     Ruka& ruka_;
-    std::mt19937 nahoda_;
+    Los los_;
     bool zasunPanel_;
     bool nahoru_ = false;  ///< the third vertex lies above the first side
     Strana strana_;
 };
+
+/// A press so many px off a point on either axis still catches it.
+constexpr int CHYTNE = 7;
+
+/// Where a circle of radius r is let go: to either side, at any height, on the plane if one is.
+[[nodiscard]] Bod NaKruznici(Los& los, Bod stred, int r);
 
 /// A side of the triangle: its ends and the vertex across.
 struct KonceStrany {
@@ -52,11 +56,11 @@ struct KonceStrany {
 /// The vertex of an angle, "alfa"; empty for what is no angle.
 [[nodiscard]] std::string_view VrcholUhlu(std::string_view uhel);
 
-/// Where the sketch of a triangle is pressed for a quantity, px of the sketch.
-[[nodiscard]] Bod MistoNaNacrtu(std::string_view velicina);
+/// Where the sketch of a triangle is pressed for a quantity: px of the sketch.
+[[nodiscard]] const MistoZnacky& MistoNaNacrtu(std::string_view velicina);
 
 /// A place at the given whole-number angle, degrees, from the direction rameno1 to rameno2, turned
-/// to the left, whose read-out is exactly that angle.
-[[nodiscard]] Bod PodUhlem(Bod rameno1, Bod rameno2, int stupnu);
+/// to the left, whose read-out is exactly that angle; about so far from rameno1, px.
+[[nodiscard]] Bod PodUhlem(Bod rameno1, Bod rameno2, int stupnu, int daleko = 60);
 
 }  // namespace rysovna::hrac

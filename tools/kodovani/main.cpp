@@ -1,8 +1,8 @@
 #include <filesystem>
 #include <iostream>
 #include <new>
-#include <system_error>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "Kontrola.h"

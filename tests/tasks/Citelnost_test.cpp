@@ -1,0 +1,100 @@
+// The figures that the boards of quadrilaterals draw by chance: readable, and found in few draws.
+
+#include <cmath>
+
+#include "board/DialogCtyruhelnikuVrchol.h"
+#include "hrac/Ctyruhelnik.h"
+#include "podpora/Stul.h"
+#include "tasks/CtyrUForm.h"
+#include "tasks/LichoForm.h"
+#include "tasks/RovnoForm.h"
+
+namespace rysovna::testy {
+namespace {
+
+constexpr double ROZESTUP = 30, UHEL = 12;  // px, degrees
+constexpr double VULE = 2.5;                // px, of the rounding of what the pupil draws
+constexpr int PRUMER_LOSU = 60, NEJVIC_LOSU = 2000;
+
+/// All letters of the finished figure with their places.
+std::map<std::string, Bod> Body() {
+    std::map<std::string, Bod> v;
+    for (int i = 1; i <= PocetUtvaru; ++i) {
+        const Utvar& u = Utvary[i];
+        if (u.Druh == BOD || u.Druh == USECKA) v[u.Jmeno1] = {u.X1, u.Y1};
+        if (u.Druh == USECKA) v[u.Jmeno2] = {u.X2, u.Y2};
+    }
+    return v;
+}
+
+/// The figure that the perfect pupil draws is, but for its pixels, that of the exact values.
+void OverFiguru() {
+    const auto body = Body();
+    for (const auto& [jmeno, p] : body) {
+        for (const auto& [jine, q] : body) {
+            if (jmeno >= jine) continue;
+            EXPECT_GE(Delka(p, q), ROZESTUP - VULE) << jmeno << " " << jine;
+        }
+    }
+    // The figure, and the one with the second solution in the place of its vertex.
+    for (const std::string carka : {"", "'"}) {
+        std::array<Bod, 4> v{};
+        bool jina = carka.empty();
+        for (std::size_t i = 0; i < 4; ++i) {
+            const std::string pismeno(1, "ABCD"[i]);
+            const auto druhy = body.find(pismeno + carka);
+            jina = jina || druhy != body.end();
+            v[i] = druhy != body.end() ? druhy->second : body.at(pismeno);
+        }
+        for (std::size_t i = 0; jina && i < 4; ++i) {
+            const double kratsi =
+                std::min(Delka(v[i], v[(i + 1) % 4]), Delka(v[i], v[(i + 3) % 4]));
+            EXPECT_GE(UhelPri(v[i], v[(i + 1) % 4], v[(i + 3) % 4]),
+                      UHEL - VULE / kratsi * STUPNU_PULOTACKY / PI)
+                << "ABCD"[i] << carka;
+        }
+    }
+}
+
+int Losuj(const Stul<RovnoDialog>&, const Plane& plocha, const Priklad& p, HodnotyPrikladu& h) {
+    return VylosujRovnobeznik(plocha, p, h);
+}
+template <class D>
+int Losuj(const Stul<D>&, const Plane& plocha, const Priklad& p, HodnotyPrikladu& h) {
+    return VylosujCtyruhelnik(plocha, p, VETY_CELYCH, h);
+}
+
+/// Draws of every row of the data: how many a readable figure takes.
+template <class D, class Zak>
+void OverRadky(int uloha) {
+    Stul<D> s(uloha);
+    constexpr int LOSU = 60;
+    for (int radek = 1; radek <= PocetPrikladu; ++radek) {
+        SCOPED_TRACE("row " + std::to_string(radek));
+        Generator.Zasej(static_cast<std::uint32_t>(radek));
+        HodnotyPrikladu h{};
+        int celkem = 0;
+        for (int i = 0; i < LOSU; ++i) {
+            const int losu = Losuj(s, s.Obraz(), Priklady[radek], h);
+            ASSERT_GE(losu, 1);
+            EXPECT_LT(losu, NEJVIC_LOSU);
+            celkem += losu;
+        }
+        EXPECT_LE(celkem, PRUMER_LOSU * LOSU) << Priklady[radek].Druh;
+    }
+    for (std::uint32_t seminko = 1; seminko <= 60 && !testing::Test::HasFailure(); ++seminko) {
+        SCOPED_TRACE("seed " + std::to_string(seminko) + ", kind " +
+                     s.Zacni(seminko).Zaznam().Druh);
+        Zak(s, seminko).Sestroj();
+        OverFiguru();
+    }
+}
+
+TEST(CitelneFigury, CtyruhelnikLichobeznikRovnobeznik) {
+    OverRadky<CtyrUDialog, DokonalyCtyruhelnik>(9);
+    OverRadky<LichoDialog, DokonalyCtyruhelnik>(11);
+    OverRadky<RovnoDialog, DokonalyRovnobeznik>(10);
+}
+
+}  // namespace
+}  // namespace rysovna::testy
