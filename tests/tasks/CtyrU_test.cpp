@@ -72,6 +72,41 @@ TEST(CtyrUTrojuhelnik, NesestrojenyNechaPrikladNedokoncenyAVseStisknutelne) {
     EXPECT_EQ(PocetUtvaru, 3);
 }
 
+TEST(CtyrUTrojuhelnik, ZpetPredNarysovanimVraciVolbu) {
+    StulCtyrU s(9);
+    ZacniRadek(s, SSS);
+    const auto zive = [&s] {
+        std::string ktere;
+        for (const Tlacitko& t : s.dialog.UkazPanel().cmd) ktere += t.Zive ? '1' : '0';
+        return ktere;
+    };
+    EXPECT_EQ(zive(), "100000");
+    s.Nastroj(1).Vyber("BCD");
+    EXPECT_EQ(zive(), "110010");
+    s.Nastroj(2).Vyber("podle věty SUS").Napis("7", 1);
+    EXPECT_EQ(zive(), "110011");
+    s.Nastroj(2);  // its list is open
+    for (const char* jak : {"with a list open", "with the triangle alone"}) {
+        s.Zpet();
+        StavCtyruhelniku ceka;
+        ceka.Znacky = s.dialog.Stav().Znacky;
+        ceka.KrokChybny = true;  // until the next choice
+        ceka.Combo = s.dialog.Stav().Combo;
+        EXPECT_FALSE(ceka.Combo.Otevreny);
+        EXPECT_EQ(s.dialog.Stav(), ceka) << jak;
+        EXPECT_EQ(zive(), "100000") << jak;
+        EXPECT_EQ(ZadanePrvky[1].Prvek, "BCD") << jak;
+        s.Nastroj(1).Vyber("BCD");
+    }
+    // What was charged stays; the right choice is then judged afresh.
+    EXPECT_EQ(s.Chyby(), "133/3 101/3 133/3 133/3");
+    s.Zpet();
+    DokonalyCtyruhelnik(s, 1).Trojuhelnik();
+    EXPECT_FALSE(s.dialog.Stav().KrokChybny);
+    EXPECT_EQ(s.Chyby(), "133/3 101/3 133/3 133/3");
+    EXPECT_EQ(s.dialog.Stav().Faze, 2);
+}
+
 TEST(CtyrUUzavreni, PaprskySeMusiProtnoutPredZacatkem) {
     StulCtyrU s(9);
     s.Radek(RadekDat("20", CELE[0], false, PAPRSKY_DAT[0]));

@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "shell/Kodovani.h"
 #include "shell/Misc.h"
+#include "shell/Soubory.h"
 #include "shell/Ulohy.h"
 #include "tasks/Desky.h"
 
@@ -41,6 +42,17 @@ TEST_P(SerieOdPeti, DaPadesatBoduRadekTabulkyACtyriRadkyLogu) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Ulohy, SerieOdPeti, testing::Range(1, 21));
+
+// Of the shipped grades the better one holds where two meet.
+TEST(DodaneZnamky, NaSpolecneMeziPlatiLepsi) {
+    Relace hra;
+    hra.StartDoTitulu();
+    const std::pair<int, std::string_view> pripady[] = {
+        {0, "5"},  {4, "5"},  {5, "4"},  {9, "4"},  {10, "3"},
+        {14, "3"}, {15, "2"}, {17, "2"}, {18, "1"}, {20, "1"},
+    };
+    for (const auto& [body, znamka] : pripady) EXPECT_EQ(UrciZnamku(body, 20), znamka) << body;
+}
 
 }  // namespace
 }  // namespace rysovna::hrac

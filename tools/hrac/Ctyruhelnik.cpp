@@ -37,7 +37,7 @@ constexpr MistoZnacky LICHOBEZNIK_BC_DA[] = {
     {"c", {75, 68}, {240, 32}},     {"d", {43, 140}, {61, 80}},
     {"e", {145, 90}, {205, 56}},    {"f", {140, 110}, {180, 131}},
     {"alfa", {70, 136}, {78, 144}}, {"beta", {197, 113}, {206, 123}},
-    {"gama", {221, 56}, {230, 66}}, {"delta", {73, 96}, {82, 106}}};
+    {"gama", {221, 56}, {230, 66}}, {"delta", {69, 89}, {79, 99}}};
 
 /// Parallel sides and the angles at the centre have no mark.
 bool MaZnacku(std::span<const MistoZnacky> nacrt, std::string_view velicina) {
