@@ -73,6 +73,16 @@ constexpr PrvekUVrcholu PRVKY[] = {
 constexpr std::string_view VRCHOLY = "ABCD";
 constexpr int POKUSU = 50;  // to find places on the plane
 
+/// How far the arrows can take a figure, px: seven steps either way.
+std::vector<Bod> CestySipek() {
+    constexpr int KROK = 20, NEJDAL = 140;
+    std::vector<Bod> cesty;
+    for (int y = -NEJDAL; y <= NEJDAL; y += KROK) {
+        for (int x = -NEJDAL; x <= NEJDAL; x += KROK) cesty.push_back({x, y});
+    }
+    return cesty;
+}
+
 /// The quantity that a typed row asks for: "délka strany a = ", "vel. úhlu beta = ".
 std::string VelicinaRadku(const std::string& popis) {
     const std::size_t konec = popis.find(" = ");
@@ -142,8 +152,6 @@ void ZakCtyruhelniku::Trojuhelnik() {
 // ---- By two objects --------------------------------------------------------------------------
 
 void DokonalyCtyruhelnik::Sestroj() {
-    constexpr int POSUNU = 15;  // an arrow goes seven steps either way
-    constexpr int KROK = 20;    // px
     Oznac();
     ruka_.ZasunPanel();
     Trojuhelnik();
@@ -151,13 +159,17 @@ void DokonalyCtyruhelnik::Sestroj() {
     los_.Zamichej(poradi);
     for (const int n : poradi) Narysuj(n);
     Bod posunuto{};
-    for (int i = 0; i < POSUNU * POSUNU && !VejdeSe(); ++i) {
-        const Bod kam{(i % POSUNU - POSUNU / 2) * KROK, (i / POSUNU - POSUNU / 2) * KROK};
+    const auto posun = [&](Bod kam) {
         ruka_.Zpet().Zpet();
         ruka_.Posun(kam.X - posunuto.X, kam.Y - posunuto.Y);
         posunuto = kam;
         for (const int n : poradi) Narysuj(n);
-    }
+    };
+    // Where the figure would fit if it only moved; the other solution may come first there, so all
+    // the other ways of the arrows remain.
+    std::vector<Bod> cesty = CestySipek();
+    std::ranges::stable_partition(cesty, [&](Bod kam) { return VejdeSe(kam); });
+    for (std::size_t i = 0; i < cesty.size() && !VejdeSe(); ++i) posun(cesty[i]);
 }
 
 /// The quantities behind the triangle's three say what meets in the fourth vertex: parallel sides a
@@ -231,13 +243,14 @@ void DokonalyCtyruhelnik::NarysujRovnobezku(const std::string& strana) {
     ruka_.Vyber(ruka_.JeVSeznamu(strana) ? strana : "s úsečkou " + strana).Tahni(stisk, kam);
 }
 
-/// Whether the closed figure lies on the plane.
-bool DokonalyCtyruhelnik::VejdeSe() const {
+/// Whether the closed figure lies on the plane, once it is moved so far, px.
+bool DokonalyCtyruhelnik::VejdeSe(Bod posun) const {
     constexpr int SIRKA = 384, VYSKA = 335, OKRAJ = 20;  // px
     if (!ruka_.Hrany().Hotova()) return false;
-    return std::ranges::all_of(std::array{1, 2, 3, 6}, [](int i) {
-        const Utvar& u = Utvary[i];
-        return u.X2 >= OKRAJ && u.Y2 >= OKRAJ && u.X2 < SIRKA - OKRAJ && u.Y2 < VYSKA - OKRAJ;
+    return std::ranges::all_of(std::array{1, 2, 3, 6}, [posun](int i) {
+        const int x = Utvary[i].X2 + posun.X;
+        const int y = Utvary[i].Y2 + posun.Y;
+        return x >= OKRAJ && y >= OKRAJ && x < SIRKA - OKRAJ && y < VYSKA - OKRAJ;
     });
 }
 

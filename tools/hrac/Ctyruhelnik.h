@@ -58,7 +58,7 @@ private:
     void NarysujKruznici(const std::string& stred, int cm);
     void NarysujPaprsek(const std::string& vrchol, const std::string& rameno, int stupnu);
     void NarysujRovnobezku(const std::string& strana);
-    [[nodiscard]] bool VejdeSe() const;
+    [[nodiscard]] bool VejdeSe(Bod posun = {}) const;
     [[nodiscard]] Bod Treti(const std::string& a, const std::string& b) const;
 };
 
