@@ -206,20 +206,23 @@ std::vector<CekajiciVysledek> Fronta::Cekajici(const std::string& koren) {
 
 void Fronta::Zarad(CekajiciVysledek& v) {
     const std::vector<std::string> jmena = Jmena();
-    const int posledni = jmena.empty() ? 0 : static_cast<int>(Cislo(jmena.back()));
+    const int posledni = jmena.empty() ? 0 : Podlaha(Cislo(jmena.back()));
     std::string poradi = std::to_string(posledni + 1);
     poradi.insert(0, SIRKA_PORADI - std::min<std::size_t>(poradi.size(), SIRKA_PORADI), '0');
     const fs::path cesta = slozka_ / (poradi + std::string(PRIPONA));
     const auto soubor = disk_.NovySoubor(cesta);
+    v.Soubor_ = cesta;
     try {
         soubor->Pis(0, TextCekajiciho(v));
         soubor->NaDisk();
         disk_.SlozkaNaDisk(slozka_);
+        v.Nejisty = false;
     } catch (const ChybaDisku&) {
-        if (Zmizel(disk_, cesta)) throw;
-        // It may be whole all the same: what is not known to be gone must keep being noted in.
+        // One that may be whole and cannot be taken away must keep being noted in.
+        v.Nejisty = !Zmizel(disk_, cesta);
+        if (!v.Nejisty) v.Soubor_.clear();
+        throw;
     }
-    v.Soubor_ = cesta;
 }
 
 void Fronta::Poznamenej(const CekajiciVysledek& v, bool naDisk) {

@@ -39,6 +39,7 @@ struct CekajiciVysledek {
     bool VTabulce = false;
     bool Ohlaseno = false;            ///< that it waits was told
     std::filesystem::path Soubor_{};  ///< its file in the queue; empty where it is in memory alone
+    bool Nejisty = false;  ///< nobody knows whether that file is whole: it is in memory as well
 };
 
 /// The text of a queue's file, and back; nothing for one that is not whole. A later state line
@@ -60,7 +61,8 @@ public:
     /// The entries of one folder of results, oldest first. What a program that was killed left of
     /// an entry is taken away. One that cannot be read is passed over.
     [[nodiscard]] std::vector<CekajiciVysledek> Cekajici(const std::string& koren);
-    /// Puts an entry in and notes its file; it is on the disk when this returns.
+    /// Puts an entry in and notes its file; it is on the disk when this returns. Of one that
+    /// failed nothing is left, or it is noted as Nejisty.
     void Zarad(CekajiciVysledek& v);
     /// Notes how far an entry came. naDisk: it must outlive a failure of power.
     void Poznamenej(const CekajiciVysledek& v, bool naDisk);

@@ -175,6 +175,7 @@ void OtevrenaTabulka::Vloz(const ZaznamTabulky& zaznam) {
     VlozZaznam(zaznamy, zaznam);
     const std::string nova = SlozTabulku(zaznamy);
     if (!Vymen(nova)) PrepisNaMiste(nova);
+    UklidVedle();
 }
 
 void OtevrenaTabulka::Potvrd() {
@@ -203,7 +204,6 @@ bool OtevrenaTabulka::Vymen(std::string_view nova) {
         if (chyba.Proc() != Pricina::Nepovoleno || !soubor_) throw;
         return false;
     }
-    UklidVedle();
     disk_.SlozkaNaDisk(cesta_.parent_path());
     return true;
 }

@@ -1,5 +1,6 @@
 #include "shell/Ukladani.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -42,6 +43,15 @@ void PoznamenejPotichu(const CekajiciVysledek& v, Fronta* fronta) {
     } catch (const ChybaDisku&) {
         // What stands in log and table tells it too.
     }
+}
+
+const std::string ULOZEN_STRANOU =
+    "Je uložen stranou a zapíše se s příštím výsledkem nebo při příštím spuštění programu.";
+
+std::string JenVPameti(const std::string& proc) {
+    return "Nelze jej ani uložit stranou: " + proc +
+           ". Program zkusí zápis znovu s příštím výsledkem. Kdyby byl předtím ukončen, výsledek "
+           "se ztratí.";
 }
 
 }  // namespace
@@ -100,14 +110,8 @@ std::string Ukladani::Zapis() {
         if (!v.Ohlaseno) {
             v.Ohlaseno = true;
             PoznamenejPotichu(v, fronta ? &*fronta : nullptr);
-            zprava = "Výsledek se nepodařilo zapsat: " + proc + ".\n\n";
-            zprava +=
-                v.Soubor_.empty()
-                    ? "Nelze jej ani uložit stranou: " + bezFronty +
-                          ". Program zkusí zápis znovu s příštím výsledkem. Kdyby byl předtím "
-                          "ukončen, výsledek se ztratí."
-                    : "Je uložen stranou a zapíše se s příštím výsledkem nebo při příštím "
-                      "spuštění programu.";
+            zprava = "Výsledek se nepodařilo zapsat: " + proc + ".\n\n" +
+                     (v.Soubor_.empty() || v.Nejisty ? JenVPameti(bezFronty) : ULOZEN_STRANOU);
         }
         cekaji_.push_back(std::move(v));
     }
@@ -128,7 +132,10 @@ std::vector<CekajiciVysledek> Ukladani::Serad(std::optional<Fronta>& fronta,
     }
     for (CekajiciVysledek& v : cekaji_) {
         // The queue's own are taken as they stand there: another program may have gone on.
-        if (!v.Soubor_.empty()) continue;
+        const bool tam = std::ranges::any_of(
+            vse, [&](const CekajiciVysledek& u) { return u.Soubor_ == v.Soubor_; });
+        if (!v.Soubor_.empty() && (!fronta || tam || !v.Nejisty)) continue;
+        v.Soubor_.clear();
         try {
             if (fronta) fronta->Zarad(v);
         } catch (const std::exception& chyba) {
