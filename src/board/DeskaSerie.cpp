@@ -11,6 +11,7 @@
 #include "shell/Rolovani.h"
 #include "shell/Soubory.h"
 #include "shell/TabulkaForm.h"
+#include "shell/Ukladani.h"
 
 namespace rysovna {
 
@@ -87,19 +88,26 @@ void DeskaForm::NoveZadani() {
 }
 
 void DeskaForm::UkonciSerii() {
-    Obrazovky& okna = Stroj().Okna();
-    const std::string plus = TextBezMezery(KladneBody);
-    const std::string minus = TextBezMezery(ZaporneBody);
-    const std::string znamka = UrciZnamku(KladneBody, Bajt(KladneBody + ZaporneBody));
+    Host& stroj = Stroj();
+    Obrazovky& okna = stroj.Okna();
+    const Vysledek vysledek{.CisloUlohy = CisloUlohy,
+                            .Jmeno = JmenoHrace,
+                            .Hra = NazevHry,
+                            .Typ = TypUlohy,
+                            .Prikladu = TextBezMezery(PocetPrikladuSerie),
+                            .Kladne = TextBezMezery(KladneBody),
+                            .Zaporne = TextBezMezery(ZaporneBody),
+                            .Znamka = UrciZnamku(KladneBody, Bajt(KladneBody + ZaporneBody)),
+                            .Konec = stroj.Nyni()};
+    const std::string zprava = Vysledky().Uloz(vysledek);
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
     const auto tabulka = okna.Nacti<TabulkaForm>();
-    tabulka->VlozNovyZaznam(JmenoHrace, plus, minus, znamka);
-    ZapisVysledek(JmenoHrace, NazevHry, TypUlohy, plus, minus, znamka);
     tabulka->Vlastnik = okna.Najdi("SetupForm");
     okna.Show(*tabulka);
     okna.Hide(*this);
     okna.Unload(*this);
     AktivniForm = tabulka;
+    if (!zprava.empty()) stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
 }
 
 void DeskaForm::UkazTabulku() {

@@ -5,6 +5,7 @@
 
 #include "base/Chyba.h"
 #include "platform/Obrazovky.h"
+#include "platform/PosixDisk.h"
 
 namespace rysovna {
 
@@ -36,9 +37,13 @@ std::string JmenoNaDisku(const std::filesystem::path& slozka, std::string_view j
 
 }  // namespace
 
-Host::Host() : okna_(std::make_unique<Obrazovky>()) {}
+Host::Host() : okna_(std::make_unique<Obrazovky>()), disk_(std::make_unique<PosixDisk>()) {}
 
 Host::~Host() = default;
+
+Disk& Host::Disk() {
+    return *disk_;
+}
 
 Host& Stroj() {
     if (g_stroj == nullptr) Selhani("Program nemá stroj, na kterém běží");

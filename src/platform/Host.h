@@ -6,6 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/DatumACas.h"
+#include "base/Disk.h"
+
 namespace rysovna {
 
 class Obrazovky;
@@ -14,11 +17,6 @@ class Obrazovky;
 struct RezimObrazovky {
     int Sirka = 0, Vyska = 0, Barvy = 0;
     friend bool operator==(const RezimObrazovky&, const RezimObrazovky&) = default;
-};
-
-/// Local date and time of day, as the log prints them.
-struct DatumACas {
-    int Rok = 2000, Mesic = 1, Den = 1, Hodina = 0, Minuta = 0;
 };
 
 /// Buttons and icon of a message box, and its answers.
@@ -58,6 +56,18 @@ public:
     /// The folder that holds Rysovna.ini, with a final separator or without.
     [[nodiscard]] virtual std::string WindowsDirectory() = 0;
 
+    /// Files as results need them.
+    [[nodiscard]] virtual rysovna::Disk& Disk();
+    /// Where the account keeps what the program remembers between runs, and its own data; real
+    /// paths, empty where it has no such place. Nothing is made by asking.
+    [[nodiscard]] virtual std::filesystem::path SlozkaStavu() = 0;
+    [[nodiscard]] virtual std::filesystem::path SlozkaDat() = 0;
+
+    /// Looks whether the game can be seen and heard here, and says what it found, in Czech. What
+    /// is not so is a run-time fault that says why.
+    [[nodiscard]] virtual std::string OverObrazovku() = 0;
+    [[nodiscard]] virtual std::string OverZvuk() = 0;
+
     /// A seed for the generator of examples.
     [[nodiscard]] virtual std::uint32_t Seminko() = 0;
     [[nodiscard]] virtual DatumACas Nyni() = 0;
@@ -72,6 +82,7 @@ public:
 
 private:
     std::unique_ptr<Obrazovky> okna_;
+    std::unique_ptr<rysovna::Disk> disk_;
 };
 
 /// The host of this process, set once by main (by each test for its own). Asking without one is a

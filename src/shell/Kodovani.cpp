@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <fstream>
 #include <ios>
+#include <limits>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -61,6 +62,7 @@ std::optional<unsigned char> BajtZnaku(char32_t znak) {
 }
 
 constexpr const char* NELZE_CIST = "Soubor nelze přečíst";
+constexpr std::size_t MEGABAJT = 1024 * 1024;
 constexpr const char* NELZE_ZAPSAT = "Do souboru nelze zapsat";
 
 /// Unbuffered, so that one call writes all at once and its failure is seen there.
@@ -141,7 +143,8 @@ bool PrepisNaMiste(const fs::path& soubor, const std::string& stary, std::string
     return true;
 }
 
-std::string CtiVse(const fs::path& soubor) {
+std::string CtiVse(const fs::path& soubor,
+                   std::size_t nejvyse = std::numeric_limits<std::size_t>::max()) {
     auto proud = Otevri<std::ifstream>(soubor, std::ios::in);
     if (!proud) ChybaSouboru(NELZE_CIST, soubor);
     std::string obsah;
@@ -149,6 +152,10 @@ std::string CtiVse(const fs::path& soubor) {
     do {
         proud.read(kus.data(), kus.size());
         obsah.append(kus.data(), static_cast<std::size_t>(proud.gcount()));
+        if (obsah.size() > nejvyse) {
+            const std::string mez = std::to_string(nejvyse / MEGABAJT);
+            ChybaSouboru(("Soubor je větší než " + mez + " MB").c_str(), soubor);
+        }
     } while (proud);
     if (!proud.eof() || proud.bad()) ChybaSouboru(NELZE_CIST, soubor);
     return obsah;
@@ -195,6 +202,17 @@ std::string Z1250(std::string_view bajty, const std::string& misto) {
     return ZeZnaku(znaky);
 }
 
+std::string Z1250Vzdy(std::string_view bajty) {
+    constexpr char32_t NEZNAMY = 0xFFFD;
+    std::u32string znaky;
+    znaky.reserve(bajty.size());
+    for (const char c : bajty) {
+        const char16_t znak = Znak(static_cast<unsigned char>(c));
+        znaky += znak == NIC && c != 0 ? NEZNAMY : znak;
+    }
+    return ZeZnaku(znaky);
+}
+
 std::string Do1250(std::string_view utf8) {
     std::string bajty;
     for (const char32_t znak : DoZnaku(utf8)) {
@@ -214,17 +232,20 @@ std::string Misto(const fs::path& soubor, int radek) {
     return soubor.string() + ":" + std::to_string(radek);
 }
 
-std::vector<std::string> CtiRadky(const fs::path& soubor) {
-    const std::string obsah = CtiVse(soubor);
+std::vector<std::string> NaRadky(std::string_view obsah) {
     std::vector<std::string> radky;
     for (std::size_t i = 0; i < obsah.size();) {
         const std::size_t konec = std::min(obsah.find('\n', i), obsah.size());
         std::size_t delka = konec - i;
         if (delka > 0 && obsah[konec - 1] == '\r') --delka;
-        radky.push_back(obsah.substr(i, delka));
+        radky.emplace_back(obsah.substr(i, delka));
         i = konec + 1;
     }
     return radky;
+}
+
+std::vector<std::string> CtiRadky(const fs::path& soubor, std::size_t nejvyse) {
+    return NaRadky(CtiVse(soubor, nejvyse));
 }
 
 void PrepisSoubor(const fs::path& soubor, std::string_view obsah) {
@@ -265,20 +286,6 @@ void PrepisSoubor(const fs::path& soubor, std::string_view obsah) {
         fs::remove(vedle, chyba);
         ChybaSouboru(NELZE_ZAPSAT, soubor);
     }
-}
-
-void PripisSoubor(const fs::path& soubor, std::string_view obsah) {
-    std::error_code bezVelikosti;
-    const std::uintmax_t delka = fs::file_size(soubor, bezVelikosti);
-    auto proud = Otevri<std::ofstream>(soubor, std::ios::out | std::ios::app);
-    if (!proud) ChybaSouboru(NELZE_ZAPSAT, soubor);
-    bool zapsano = Zapis(proud, obsah);
-    proud.close();
-    zapsano = zapsano && !proud.fail();
-    if (zapsano) return;
-    std::error_code nevadi;
-    if (!bezVelikosti) fs::resize_file(soubor, delka, nevadi);
-    ChybaSouboru(NELZE_ZAPSAT, soubor);
 }
 
 }  // namespace rysovna

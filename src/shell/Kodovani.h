@@ -1,6 +1,9 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <filesystem>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,6 +12,9 @@
 namespace rysovna {
 
 // Line coding, code page, and files read and written whole. Paths are real ones.
+
+/// How a line ends in every file that the program writes.
+constexpr std::string_view KONEC_RADKU = "\r\n";
 
 /// The text of a stored line: its characters 4, 8, 12, ... The rest is filler.
 [[nodiscard]] std::string DekodujRadek(std::string_view ulozeny);
@@ -20,6 +26,8 @@ namespace rysovna {
 /// Windows-1250 to UTF-8. misto: "file:line", for the fault at a byte that the page does not
 /// define.
 [[nodiscard]] std::string Z1250(std::string_view bajty, const std::string& misto);
+/// The same where nothing may fail: a byte that the page does not define is U+FFFD.
+[[nodiscard]] std::string Z1250Vzdy(std::string_view bajty);
 /// UTF-8 to Windows-1250; a character that the page lacks is written as "?".
 [[nodiscard]] std::string Do1250(std::string_view utf8);
 /// Position, from 0 and in characters, of the first character that the page lacks.
@@ -28,18 +36,35 @@ namespace rysovna {
 /// "file:line", the place that a fault names.
 [[nodiscard]] std::string Misto(const std::filesystem::path& soubor, int radek);
 
-/// Reads a file into lines. CR LF or LF ends one, at the end of the file a CR alone too; a last
-/// line without an end counts, an end makes no empty line behind it. A file that cannot be read is
-/// a fault.
-[[nodiscard]] std::vector<std::string> CtiRadky(const std::filesystem::path& soubor);
+/// The lines of a text. CR LF or LF ends one, at the end of the text a CR alone too; a last line
+/// without an end counts, an end makes no empty line behind it.
+[[nodiscard]] std::vector<std::string> NaRadky(std::string_view obsah);
+
+/// Splits a line at a separator into N fields; what stands behind the last is dropped, those that
+/// the line does not reach are empty. Lines that were cut short are read as they are here, in the
+/// task files too: the data tool is what reports them.
+template <std::size_t N>
+[[nodiscard]] std::array<std::string_view, N> Rozdel(std::string_view radek, char oddelovac) {
+    std::array<std::string_view, N> pole{};
+    for (std::string_view& p : pole) {
+        const std::size_t konec = radek.find(oddelovac);
+        p = radek.substr(0, konec);
+        if (konec == std::string_view::npos) break;
+        radek.remove_prefix(konec + 1);
+    }
+    return pole;
+}
+
+/// Reads a file into lines. One that cannot be read is a fault, and so is one of more than nejvyse
+/// bytes.
+[[nodiscard]] std::vector<std::string> CtiRadky(
+    const std::filesystem::path& soubor,
+    std::size_t nejvyse = std::numeric_limits<std::size_t>::max());
 
 /// Rewrites a file that exists or not: written beside and renamed over, so that it is the old one
 /// or the new one and never half. Owner, group and rights stay. Where no file may be made beside
 /// it, or none of that owner and group, it is written over in place, its growth first, so that a
 /// full disk leaves the old content. Any failure is a fault.
 void PrepisSoubor(const std::filesystem::path& soubor, std::string_view obsah);
-
-/// Appends in one write. On a failure, which is a fault, what was half written is taken back.
-void PripisSoubor(const std::filesystem::path& soubor, std::string_view obsah);
 
 }  // namespace rysovna

@@ -4,6 +4,7 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <string_view>
 
@@ -15,12 +16,16 @@
 #include "platform/Surface.h"
 #include "shell/Ini.h"
 #include "shell/Soubory.h"
+#include "shell/Ukladani.h"
 
 namespace rysovna {
 namespace {
 
 constexpr std::string_view SEKCE = "RYSOVNA1";
 constexpr std::string_view NENI_KLIC = "Chyba";
+constexpr std::string_view KLIC_VYSLEDKU = "VYSLEDKY";
+constexpr std::string_view UCET = "ucet";
+constexpr const char* JMENO_INI = "Rysovna.ini";
 constexpr int ULOH = 20;
 
 constexpr const char* CHYBI_INI = "Nelze nalézt soubor RYSOVNA.INI. Nainstalujte aplikaci znovu.";
@@ -45,6 +50,11 @@ std::string SeZpetnymLomitkem(std::string cesta) {
     return cesta;
 }
 
+/// A real folder in the spelling of the program's paths.
+std::string SlozkaSLomitkem(const std::filesystem::path& slozka) {
+    return slozka.empty() ? std::string() : SeZpetnymLomitkem(slozka.string());
+}
+
 bool JeAbsolutni(std::string_view cesta) {
     const bool odKorene = cesta.starts_with('\\') || cesta.starts_with('/');
     const bool sDiskem = cesta.size() >= 2 && cesta[1] == ':' &&
@@ -52,29 +62,50 @@ bool JeAbsolutni(std::string_view cesta) {
     return odKorene || sDiskem;
 }
 
-std::string ObsahIni() {
-    std::ifstream proud(NativniCesta(AdresarSystemu + "Rysovna.ini"), std::ios::binary);
-    return {std::istreambuf_iterator<char>(proud), std::istreambuf_iterator<char>()};
-}
-
-/// A relative path counts from the folder of the configuration, so that a copy on a stick runs
-/// wherever it is plugged in. Empty if the key is missing.
-std::string CestaZIni(std::string_view obsah, std::string_view klic) {
+/// A value of the configuration as a folder. A relative path counts from the folder of the
+/// configuration, so that a copy on a stick runs wherever it is plugged in. Empty if the key is
+/// missing.
+std::string CestaZIni(std::string_view obsah, std::string_view klic, const std::string& adresar) {
     const std::string cesta = SeZpetnymLomitkem(HodnotaIni(obsah, SEKCE, klic, NENI_KLIC));
     if (cesta == std::string(NENI_KLIC) + "\\") return {};
-    return JeAbsolutni(cesta) ? cesta : AdresarSystemu + cesta;
+    return JeAbsolutni(cesta) ? cesta : adresar + cesta;
 }
 
-bool JeVDatech(const std::string& jmeno) {
-    std::error_code chyba;
-    return std::filesystem::is_regular_file(NativniCesta(CestaHD + jmeno), chyba);
+void VypisChybejici(const std::string& co) {
+    std::cerr << "Rysovna: " << co << '\n';
 }
 
-bool DataUplna() {
-    for (int i = 1; i <= ULOH; ++i) {
-        if (!JeVDatech(DveCislice(i) + ".dat") || !JeVDatech(DveCislice(i) + ".res")) return false;
+bool JeTu(const std::string& cesta) {
+    if (Stroj().Disk().JeSoubor(NativniCesta(cesta))) return true;
+    VypisChybejici("chybí soubor " + NativniCesta(cesta).string());
+    return false;
+}
+
+/// Another program that starts now may be quicker: the look that follows will tell.
+void ZalozPrazdny(Disk& disk, const std::filesystem::path& soubor) {
+    try {
+        static_cast<void>(disk.NovySoubor(soubor));
+    } catch (const ChybaDisku& chyba) {
+        if (chyba.Proc() != Pricina::UzJe) throw;
     }
-    return JeVDatech("Vysledky.dat") && JeVDatech("Znamky.dat") && JeVDatech("Errors.dat");
+}
+
+/// Makes the files of results that are not there; the account's own folder too.
+bool ZalozVysledky() {
+    Disk& disk = Stroj().Disk();
+    try {
+        if (CestaVysledku.empty()) throw ChybaDisku(Pricina::Neni, "domovská složka účtu");
+        if (CestaVysledku == SlozkaSLomitkem(Stroj().SlozkaDat()))
+            disk.ZalozSlozku(Stroj().SlozkaDat());
+        for (const std::string& jmeno : JmenaVysledku()) {
+            const std::filesystem::path soubor = NativniCesta(CestaVysledku + jmeno);
+            if (!disk.JeSoubor(soubor)) ZalozPrazdny(disk, soubor);
+        }
+    } catch (const ChybaDisku& chyba) {
+        VypisChybejici(std::string("nelze založit ") + chyba.what());
+        return false;
+    }
+    return true;
 }
 
 /// Whether the object has a place that is scaled: a line and a timer have none.
@@ -84,6 +115,48 @@ bool MaRozmery(const Ovladac& o) {
 
 }  // namespace
 
+Cesty CtiCesty(const std::string& adresar, const std::filesystem::path& slozkaUctu) {
+    std::ifstream proud(NativniCesta(adresar + JMENO_INI), std::ios::binary);
+    const std::string obsah{std::istreambuf_iterator<char>(proud),
+                            std::istreambuf_iterator<char>()};
+    Cesty cesty;
+    cesty.CD = CestaZIni(obsah, "CD", adresar);
+    cesty.HD = CestaZIni(obsah, "HD", adresar);
+    const std::string kam = HodnotaIni(obsah, SEKCE, KLIC_VYSLEDKU, NENI_KLIC);
+    cesty.Oddelene = kam != NENI_KLIC;
+    cesty.Vysledky = cesty.HD;
+    if (kam == UCET) {
+        cesty.Vysledky = SlozkaSLomitkem(slozkaUctu);
+    } else if (cesty.Oddelene) {
+        cesty.Vysledky = CestaZIni(obsah, KLIC_VYSLEDKU, adresar);
+    }
+    return cesty;
+}
+
+std::vector<std::string> JmenaDat() {
+    std::vector<std::string> jmena;
+    for (int i = 1; i <= ULOH; ++i) jmena.push_back(DveCislice(i) + ".dat");
+    jmena.insert(jmena.end(), {"Znamky.dat", "Errors.dat"});
+    return jmena;
+}
+
+std::vector<std::string> JmenaVysledku() {
+    std::vector<std::string> jmena;
+    for (int i = 1; i <= ULOH; ++i) jmena.push_back(DveCislice(i) + ".res");
+    jmena.emplace_back(JMENO_DENIKU);
+    return jmena;
+}
+
+Ukladani& Vysledky() {
+    if (!UkladaniVysledku) {
+        const Hodiny hodiny{.Ted = [] { return Stroj().TickCount(); },
+                            .Spi = [](std::uint32_t ms) { Stroj().Spi(ms); }};
+        UkladaniVysledku = std::make_shared<Ukladani>(
+            Stroj().Disk(), hodiny, NativniCesta(CestaVysledku), Stroj().SlozkaStavu());
+    }
+    return *UkladaniVysledku;
+}
+
 bool NactiKonfiguraci() {
     Host& stroj = Stroj();
     std::string adresar = stroj.WindowsDirectory();
@@ -91,20 +164,30 @@ bool NactiKonfiguraci() {
     AdresarSystemu = SeZpetnymLomitkem(std::move(adresar));
     DiskSystemu = AdresarSystemu.substr(0, 3);
 
-    const std::string ini = ObsahIni();
-    CestaCD = CestaZIni(ini, "CD");
+    const Cesty cesty = CtiCesty(AdresarSystemu, stroj.SlozkaDat());
+    CestaCD = cesty.CD;
+    CestaHD = cesty.HD;
+    CestaVysledku = cesty.Vysledky;
+    UkladaniVysledku.reset();
     if (!CestaCD.empty()) NastavSlozkuPisem(CestaCD + "Fonts");
-    CestaHD = CestaZIni(ini, "HD");
     if (CestaCD.empty() || CestaHD.empty()) {
+        VypisChybejici("v souboru " + NativniCesta(AdresarSystemu + JMENO_INI).string() +
+                       " není klíč " + (CestaCD.empty() ? "CD" : "HD"));
         stroj.MsgBox(CHYBI_INI, "Chyba", Styl::Stop);
         return false;
     }
-    if (!DataUplna()) {
+    const bool zalozeno = !cesty.Oddelene || ZalozVysledky();
+    const auto jeVDatech = [](const std::string& jmeno) { return JeTu(CestaHD + jmeno); };
+    const auto jeVeVysledcich = [](const std::string& s) { return JeTu(CestaVysledku + s); };
+    if (!zalozeno || !std::ranges::all_of(JmenaDat(), jeVDatech) ||
+        !std::ranges::all_of(JmenaVysledku(), jeVeVysledcich)) {
         stroj.MsgBox(CHYBI_DATA, "Chyba", Styl::Stop);
         return false;
     }
     NactiZnamky(CestaHD + "Znamky.dat");
     Generator.Zasej(stroj.Seminko());
+    const std::string zprava = Vysledky().ZkusCekajici();
+    if (!zprava.empty()) stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
     return true;
 }
 
@@ -164,10 +247,11 @@ void SmazTabulky() {
 }
 
 void VychoziRelace() {
-    for (std::string* text :
-         {&AdresarSystemu, &DiskSystemu, &CestaCD, &CestaHD, &NazevHry, &TypUlohy, &JmenoHrace}) {
+    for (std::string* text : {&AdresarSystemu, &DiskSystemu, &CestaCD, &CestaHD, &CestaVysledku,
+                              &NazevHry, &TypUlohy, &JmenoHrace}) {
         text->clear();
     }
+    UkladaniVysledku.reset();
     for (int* cislo : {&PuvodniSirka, &PuvodniVyska, &PuvodniBarvy, &SoucetZapornychBodu,
                        &PocetChybnychKroku, &PosunX, &PosunY, &VybranyUtvar, &KonstrukceZahajena,
                        &PocetPrikladu, &PocetUtvaru, &PocetTrojic}) {

@@ -2,8 +2,10 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "base/Nahoda.h"
 #include "base/Tabulka.h"
@@ -13,13 +15,15 @@
 namespace rysovna {
 
 class Form;
+class Ukladani;
 
 // What all screens share, for the whole life of the process. Paths end in a backslash.
 
 inline std::string AdresarSystemu;  ///< folder of Rysovna.ini
 inline std::string DiskSystemu;     ///< its first three characters
 inline std::string CestaCD;         ///< asset root: pictures, sounds, fonts
-inline std::string CestaHD;         ///< data root: task files, score tables, log
+inline std::string CestaHD;         ///< data root: task files, sentences, grades
+inline std::string CestaVysledku;   ///< folder of results: score tables, log
 
 /// A row of the grade table: lower and upper percentage, both inclusive, and the grade.
 using RadekZnamek = std::array<std::uint8_t, 3>;
@@ -46,14 +50,38 @@ inline int PosunX = 0, PosunY = 0;  ///< how far the plane is scrolled, px
 inline int VybranyUtvar = 0;        ///< row of Utvary that a step refers to; 0 is none
 inline int KonstrukceZahajena = 0;  ///< -1 from the first press on a tool
 
+/// What stores the results of this session; ask Vysledky().
+inline std::shared_ptr<Ukladani> UkladaniVysledku;
+/// The same, made when it is first wanted.
+[[nodiscard]] Ukladani& Vysledky();
+
 /// The generator of examples. Sown with the host's seed at the start-up and before each
 /// example.
 inline Nahoda Generator;
 
-/// The first step of the start-up: paths from Rysovna.ini, a look whether all files of the data
-/// root are there, the grade table, the seed of the generator. False when something is missing: it
-/// was told in a message box, and the process must end; nothing else was touched. The font folder
-/// is set as soon as the asset root is known, so that the message can be printed.
+/// Where the configuration says that things are. Each with a backslash at its end, or empty where
+/// its key is missing.
+struct Cesty {
+    std::string CD;         ///< asset root
+    std::string HD;         ///< data root
+    std::string Vysledky;   ///< folder of results; without a key of its own the data root
+    bool Oddelene = false;  ///< results have a key of their own: missing files of theirs are made
+};
+
+/// Reads Rysovna.ini in a folder (with a backslash at its end). "ucet" as the folder of results is
+/// the account's own, slozkaUctu; one that cannot be read has no keys.
+[[nodiscard]] Cesty CtiCesty(const std::string& adresar, const std::filesystem::path& slozkaUctu);
+
+/// Files of game data and of results, in the order in which they are looked for.
+[[nodiscard]] std::vector<std::string> JmenaDat();
+[[nodiscard]] std::vector<std::string> JmenaVysledku();
+
+/// The first step of the start-up: paths from Rysovna.ini, a look whether all files of game data
+/// and of results are there (missing results are made, empty, where they have a folder of their
+/// own), the grade table, the seed of the generator, results that wait. False when something is
+/// missing: it was told in a message box, which file is meant on the error output, and the process
+/// must end; nothing else was touched. The font folder is set as soon as the asset root is known,
+/// so that the message can be printed.
 [[nodiscard]] bool NactiKonfiguraci();
 
 /// Remembers the screen mode, switches to 640 by 480 by 16 bits and shows the black background. A

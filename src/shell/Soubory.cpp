@@ -5,11 +5,10 @@
 #include <cmath>
 #include <cstdint>
 #include <filesystem>
-#include <utility>
+#include <vector>
 
 #include "base/Chyba.h"
 #include "base/Cisla.h"
-#include "base/Text.h"
 #include "platform/Host.h"
 #include "shell/Kodovani.h"
 #include "shell/MapaPoli.h"
@@ -18,21 +17,12 @@
 namespace rysovna {
 namespace {
 
-constexpr std::string_view KONEC_RADKU = "\r\n";
+/// No file of the game comes near it; what is larger was put there by mistake.
+constexpr std::size_t NEJVETSI_DATA = std::size_t{4} * 1024 * 1024;
 
-/// Splits a line at a separator into N fields; what stands behind the last is dropped, those that
-/// the line does not reach are empty. Lines that were cut short are read as they are here, in the
-/// task files too: the data tool is what reports them.
-template <std::size_t N>
-std::array<std::string_view, N> Rozdel(std::string_view radek, char oddelovac) {
-    std::array<std::string_view, N> pole{};
-    for (std::string_view& p : pole) {
-        const std::size_t konec = radek.find(oddelovac);
-        p = radek.substr(0, konec);
-        if (konec == std::string_view::npos) break;
-        radek.remove_prefix(konec + 1);
-    }
-    return pole;
+/// A file of game data by lines.
+std::vector<std::string> CtiData(const std::filesystem::path& cesta) {
+    return CtiRadky(cesta, NEJVETSI_DATA);
 }
 
 std::uint8_t BajtZnamky(std::string_view text, const std::string& misto) {
@@ -48,27 +38,13 @@ constexpr int DELKA_CISLA = 3;      // digits of a wrong step's number
 constexpr int ZACATEK_VETY = 4;     // a separator stands between
 constexpr int NEJKRATSI_RADEK = 5;  // number, separator, and the last character, which is dropped
 
-/// What the order of a score table compares: less stands before.
-std::array<double, 3> Klic(const ZaznamTabulky& z) {
-    return {std::trunc(Cislo(z.Znamka)), -std::trunc(Cislo(z.Spravne)),
-            std::trunc(Cislo(z.Spatne))};
-}
-
-// Widths of the log's values, characters. What is longer stays whole.
-constexpr int SIRKA_JMENA = 35;
-constexpr int SIRKA_DATA = 10;
-constexpr int SIRKA_HRY = 20;
-constexpr int SIRKA_TYPU = 30;
-constexpr int SIRKA_CISLA = 6;
-constexpr std::size_t DELKA_CARY = 75;
-
 }  // namespace
 
 void NactiZnamky(std::string_view soubor) {
     const std::filesystem::path cesta = NativniCesta(soubor);
     ZnamkyTab.Smaz();
     int i = 0;
-    for (const std::string& radek : CtiRadky(cesta)) {
+    for (const std::string& radek : CtiData(cesta)) {
         const std::string misto = Misto(cesta, ++i);
         if (i > decltype(ZnamkyTab)::POSLEDNI) {
             throw BehovaChyba("Tabulka známek má více než 5 řádků", misto);
@@ -104,14 +80,16 @@ void NactiPriklady(std::string_view soubor, Deska deska) {
     }
     PocetPrikladu = 0;
 
+    bool prazdny = true;
     const std::filesystem::path cesta = NativniCesta(soubor);
-    for (const std::string& ulozeny : CtiRadky(cesta)) {
+    for (const std::string& ulozeny : CtiData(cesta)) {
         const std::string misto = Misto(cesta, PocetPrikladu + 1);
         if (PocetPrikladu == RADKU) {
             throw BehovaChyba("Soubor úlohy má více než 100 řádků", misto);
         }
         Priklad& priklad = Priklady[++PocetPrikladu];
         const std::string text = Z1250(DekodujRadek(ulozeny), misto);
+        prazdny = prazdny && text.find_first_not_of(" #") == std::string::npos;
         std::string_view zbytek = text;
         for (const Slot& slot : mapa) {
             const std::size_t konec = zbytek.find('#');
@@ -120,16 +98,20 @@ void NactiPriklady(std::string_view soubor, Deska deska) {
             zbytek.remove_prefix(konec + 1);
         }
     }
+    if (prazdny) throw BehovaChyba("V souboru úlohy není žádný příklad", cesta.string());
 }
 
 void PridejChybu(int cislo, std::string_view text, int body) {
     const std::filesystem::path cesta = NativniCesta(CestaHD + "Errors.dat");
     int i = 0;
-    for (const std::string& ulozeny : CtiRadky(cesta)) {
+    int nalezeno = 0;
+    for (const std::string& ulozeny : CtiData(cesta)) {
         ++i;
         const std::string radek = DekodujRadek(ulozeny);
         if (Cislo(std::string_view(radek).substr(0, DELKA_CISLA)) != cislo) continue;
         const std::string misto = Misto(cesta, i);
+        if (++nalezeno > decltype(ChybneKroky)::POSLEDNI)
+            throw BehovaChyba("Krok má v souboru více než 100 vět", misto);
         if (radek.size() < NEJKRATSI_RADEK) throw BehovaChyba("Příliš krátký řádek", misto);
         SoucetZapornychBodu += body;
         ++PocetChybnychKroku;
@@ -140,65 +122,6 @@ void PridejChybu(int cislo, std::string_view text, int body) {
         krok.Vyhrazeno = 0;
         krok.Body = static_cast<std::int16_t>(body);
     }
-}
-
-std::vector<ZaznamTabulky> CtiTabulku(std::string_view soubor) {
-    const std::filesystem::path cesta = NativniCesta(soubor);
-    std::vector<ZaznamTabulky> zaznamy;
-    int i = 0;
-    for (const std::string& radek : CtiRadky(cesta)) {
-        const std::string text = Z1250(radek, Misto(cesta, ++i));
-        const auto pole = Rozdel<4>(text, '|');
-        zaznamy.push_back({.Jmeno = std::string(pole[0]),
-                           .Spravne = std::string(pole[1]),
-                           .Spatne = std::string(pole[2]),
-                           .Znamka = std::string(pole[3])});
-    }
-    return zaznamy;
-}
-
-void PisTabulku(std::string_view soubor, const std::vector<ZaznamTabulky>& zaznamy) {
-    std::string obsah;
-    for (const ZaznamTabulky& z : zaznamy) {
-        obsah += z.Jmeno + "|" + z.Spravne + "|" + z.Spatne + "|" + z.Znamka;
-        obsah += KONEC_RADKU;
-    }
-    PrepisSoubor(NativniCesta(soubor), Do1250(obsah));
-}
-
-bool JeLepsi(const ZaznamTabulky& a, const ZaznamTabulky& b) {
-    return Klic(a) < Klic(b);
-}
-
-void VlozZaznam(std::vector<ZaznamTabulky>& zaznamy, ZaznamTabulky novy) {
-    // A file that somebody edited may be out of order; then the whole list is sorted.
-    if (!std::ranges::is_sorted(zaznamy, JeLepsi)) std::ranges::stable_sort(zaznamy, JeLepsi);
-    const auto misto = std::ranges::upper_bound(zaznamy, novy, JeLepsi);
-    zaznamy.insert(misto, std::move(novy));
-}
-
-void ZapisVysledek(const std::string& jmeno, const std::string& hra, const std::string& typ,
-                   const std::string& kladne, const std::string& zaporne,
-                   const std::string& znamka) {
-    const DatumACas ted = Stroj().Nyni();
-    const std::string datum =
-        TextBezMezery(ted.Den) + "." + TextBezMezery(ted.Mesic) + "." + TextBezMezery(ted.Rok);
-    const std::string cas = DveCislice(ted.Hodina) + ":" + DveCislice(ted.Minuta);
-    const std::string radky[]{
-        "Jméno: " + Dopln(jmeno, SIRKA_JMENA) + "   Datum: " + Dopln(datum, SIRKA_DATA) +
-            "   Čas: " + cas,
-        "Hra: " + Dopln(hra, SIRKA_HRY) + " Typ úlohy: " + Dopln(typ, SIRKA_TYPU),
-        "Počet příkladů:  " + Dopln(TextBezMezery(PocetPrikladuSerie), SIRKA_CISLA) +
-            "   Klad. body: " + Dopln(kladne, SIRKA_CISLA) +
-            " Záp. body: " + Dopln(zaporne, SIRKA_CISLA) + "   Známka:  " + znamka,
-        std::string(DELKA_CARY, '='),
-    };
-    std::string zapis;
-    for (const std::string& radek : radky) {
-        zapis += radek;
-        zapis += KONEC_RADKU;
-    }
-    PripisSoubor(NativniCesta(CestaHD + "Vysledky.dat"), Do1250(zapis));
 }
 
 }  // namespace rysovna

@@ -1,10 +1,13 @@
 #include "shell/TabulkaForm.h"
 
+#include <utility>
+
 #include "base/Cisla.h"
 #include "platform/Host.h"
 #include "shell/HelpForm.h"
 #include "shell/Misc.h"
 #include "shell/Prechody.h"
+#include "shell/Ukladani.h"
 #include "shell/Zdroje.h"
 
 namespace rysovna {
@@ -14,7 +17,7 @@ constexpr int ROZTEC_RADKU = 30;      // px
 constexpr float PISMO_RADKU = 10.0F;  // points: a name of 35 letters fits its column
 
 std::string SouborTabulky() {
-    return CestaHD + DveCislice(CisloUlohy) + ".res";
+    return CestaVysledku + DveCislice(CisloUlohy) + ".res";
 }
 
 }  // namespace
@@ -51,7 +54,7 @@ void TabulkaForm::Load() {
     }
     for (Label& poradi : LPoradi) poradi.Caption = TextBezMezery(poradi.Index) + ".";
 
-    NactiTabulku(SouborTabulky());
+    NactiTabulku();
     VyplnRadky();
 }
 
@@ -64,22 +67,15 @@ void TabulkaForm::VyplnRadky() {
     }
 }
 
-void TabulkaForm::VlozNovyZaznam(const std::string& jmeno, const std::string& spravne,
-                                 const std::string& spatne, const std::string& znamka) {
-    VlozZaznam(zaznamy_, {.Jmeno = jmeno, .Spravne = spravne, .Spatne = spatne, .Znamka = znamka});
-    UlozTabulku(SouborTabulky());
-    for (auto* sloupec : {&LJmeno, &LSpravne, &LSpatne, &LZnamka}) {
-        for (Label& pole : *sloupec) pole.Caption.clear();
+void TabulkaForm::NactiTabulku() {
+    Disk& disk = Stroj().Disk();
+    try {
+        zaznamy_ = CtiTabulku(disk, disk.Skutecna(SouborTabulky()));
+    } catch (const ChybaDisku&) {
+        // What a result has to say of it, it says when it is stored.
+        zaznamy_.assign(1, {"Tabulku výsledků nelze přečíst", "", "", ""});
     }
-    VyplnRadky();
-}
-
-void TabulkaForm::NactiTabulku(const std::string& soubor) {
-    zaznamy_ = CtiTabulku(soubor);
-}
-
-void TabulkaForm::UlozTabulku(const std::string& soubor) const {
-    PisTabulku(soubor, zaznamy_);
+    for (ZaznamTabulky& z : Vysledky().Nezapsane(CisloUlohy)) VlozZaznam(zaznamy_, std::move(z));
 }
 
 void TabulkaForm::MouseDown(Ovladac* o, const Mys&) {

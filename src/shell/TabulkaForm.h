@@ -7,12 +7,13 @@
 
 #include "platform/Form.h"
 #include "shell/Hover.h"
-#include "shell/Soubory.h"
+#include "shell/TabulkaVysledku.h"
 
 namespace rysovna {
 
-/// The score table of the current task: the ten best results, and the place where a new one is
-/// taken in. More results than ten stay in the list and in the file.
+/// The score table of the current task: the ten best results of its file and of what could not be
+/// written into it yet. More results than ten stay in the list. A table that cannot be read says so
+/// and shows the latter alone.
 class TabulkaForm final : public Form {
 public:
     static constexpr int RADKU = 10;
@@ -27,14 +28,6 @@ public:
     /// The screen to show on leaving; set by whoever shows the table.
     std::weak_ptr<Form> Vlastnik;
 
-    /// Takes a result in at its place, rewrites the task's score file and shows the table anew.
-    /// All texts; a grade that came out empty sorts first.
-    void VlozNovyZaznam(const std::string& jmeno, const std::string& spravne,
-                        const std::string& spatne, const std::string& znamka);
-    /// Reads, writes the whole list. soubor: a path with backslashes.
-    void NactiTabulku(const std::string& soubor);
-    void UlozTabulku(const std::string& soubor) const;
-
     /// The results, best first.
     [[nodiscard]] const std::vector<ZaznamTabulky>& Zaznamy() const { return zaznamy_; }
 
@@ -45,6 +38,7 @@ public:
     bool Klavesa(std::string_view klavesa) override;
 
 private:
+    void NactiTabulku();
     void VyplnRadky();
     void Zpet();
 

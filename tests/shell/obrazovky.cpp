@@ -1,6 +1,7 @@
 #include "platform/Obrazovky.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
 
@@ -10,6 +11,7 @@
 #include "shell/SelectForm.h"
 #include "shell/SetupForm.h"
 #include "shell/TabulkaForm.h"
+#include "shell/Ukladani.h"
 #include "shell/Ulohy.h"
 
 namespace rysovna::testy {
@@ -128,24 +130,29 @@ TEST_F(Nabidka, KonecAZavreniOknaSePtaji) {
 TEST_F(Nabidka, TabulkaSJedenactiZaznamy) {
     std::string soubor;
     for (int i = 0; i < 9; ++i) soubor += "Z" + std::to_string(i) + "|20|0|1\r\n";
-    relace.PisSoubor("07.res", soubor);
+    relace.PisSoubor("07.res", soubor + "\x8E\x83neta|2|9|5\r\nPosledni|1|9|5\r\n");
     CisloUlohy = 7;
-    const auto t = host.Okna().Nacti<TabulkaForm>();
     const auto radek = [&](std::size_t i) {
+        const auto t = host.Okna().Nacti<TabulkaForm>();
+        EXPECT_EQ(t->LJmeno[9].Top, 9 * 30 + 165);
         return t->LPoradi[i].Caption + t->LJmeno[i].Caption + "|" + t->LSpravne[i].Caption + "|" +
                t->LSpatne[i].Caption + "|" + t->LZnamka[i].Caption;
     };
-    EXPECT_EQ(radek(9), "10.|||");
-    t->VlozNovyZaznam("Žaneta", "2", "9", "5");
-    t->VlozNovyZaznam("Posledni", "1", "9", "5");
-    EXPECT_EQ(radek(9), "10.Žaneta|2|9|5");
-    EXPECT_EQ(t->LJmeno[9].Top, 9 * 30 + 165);
-    EXPECT_EQ(relace.CtiSoubor("07.res"), soubor +
-                                              "\x8E"
-                                              "aneta|2|9|5\r\nPosledni|1|9|5\r\n");
-    // One without a grade beats all.
-    t->VlozNovyZaznam("Bez", "0", "0", "");
+    EXPECT_EQ(radek(9), "10.Ž\uFFFDneta|2|9|5");
+    // What cannot be written stands in it all the same; one without a grade beats all.
+    std::filesystem::rename(relace.DataDir() / "Vysledky.dat", relace.DataDir() / "stranou");
+    const Vysledek novy{.CisloUlohy = 7, .Jmeno = "Bez", .Kladne = "0", .Zaporne = "0"};
+    EXPECT_NE(Vysledky().Uloz(novy), "");
     EXPECT_EQ(radek(0) + radek(9), "1.Bez|0|0|10.Z8|20|0|1");
+    CisloUlohy = 8;
+    EXPECT_EQ(radek(0), "1.|||");
+    std::filesystem::remove(relace.DataDir() / "08.res");
+    EXPECT_EQ(radek(0), "1.Tabulku výsledků nelze přečíst|||");
+    std::filesystem::rename(relace.DataDir() / "stranou", relace.DataDir() / "Vysledky.dat");
+    EXPECT_EQ(Vysledky().ZkusCekajici(), "");
+    CisloUlohy = 7;
+    EXPECT_EQ(radek(0) + radek(1), "1.Bez|0|0|2.Z0|20|0|1");
+    EXPECT_TRUE(relace.CtiSoubor("07.res").starts_with("Bez|0|0|\r\nZ0|"));
 }
 
 /// A board with a way back, and nothing else.

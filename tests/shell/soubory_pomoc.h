@@ -19,7 +19,7 @@ using hrac::Relace;
 /// A data root to write into.
 class Soubory : public ::testing::Test {
 protected:
-    Soubory() { CestaHD = Cesta("").string(); }
+    Soubory() { CestaHD = CestaVysledku = Cesta("").string(); }
     std::filesystem::path Cesta(std::string_view s) const { return relace.DataDir() / s; }
     std::filesystem::path Pis(const std::string& soubor, std::string_view obsah) const {
         relace.PisSoubor(soubor, obsah);

@@ -80,6 +80,15 @@ int HeadlessHost::ChangeDisplaySettings(const RezimObrazovky& rezim) {
     return VysledekRezimu;
 }
 
+std::filesystem::path HeadlessHost::SlozkaUctu(const char* jmeno) const {
+    return SlozkaSystemu.empty() ? std::filesystem::path() : NativniCesta(SlozkaSystemu) / jmeno;
+}
+
+std::string HeadlessHost::Overeni(const std::string& neni) {
+    if (!neni.empty()) Selhani(neni);
+    return "bez obrazovky a zvuku";
+}
+
 void HeadlessHost::Stiskni(double x, double y) {
     Okna().MysDolu(x, y, 1, 0);
     Okna().MysNahoru(x, y, 1, 0);

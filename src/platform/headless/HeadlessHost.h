@@ -38,7 +38,10 @@ public:
     /// the whole nejvyseMs. 0 moves it by one millisecond, so that a busy wait comes to its end.
     void DoEvents(std::uint32_t nejvyseMs) override;
     /// Moves the clock; the script's events that fall due wait for the next DoEvents.
-    void Spi(std::uint32_t ms) override { cas_ += ms; }
+    void Spi(std::uint32_t ms) override {
+        cas_ += ms;
+        if (PriSpanku) PriSpanku(ms);
+    }
     /// Paints nothing: counts, and calls PriPrekresleni.
     void Prekresli() override;
     Odpoved MsgBox(const std::string& text, const std::string& titul, Styl styl) override;
@@ -47,6 +50,10 @@ public:
     /// Records the mode; when VysledekRezimu is 0 it becomes the present one.
     int ChangeDisplaySettings(const RezimObrazovky& rezim) override;
     [[nodiscard]] std::string WindowsDirectory() override { return SlozkaSystemu; }
+    [[nodiscard]] std::filesystem::path SlozkaStavu() override { return SlozkaUctu("stav"); }
+    [[nodiscard]] std::filesystem::path SlozkaDat() override { return SlozkaUctu("ucet"); }
+    [[nodiscard]] std::string OverObrazovku() override { return Overeni(NeniObrazovka); }
+    [[nodiscard]] std::string OverZvuk() override { return Overeni(NeniZvuk); }
     [[nodiscard]] std::uint32_t Seminko() override { return SeminkoHry++; }
     [[nodiscard]] DatumACas Nyni() override { return Cas; }
     [[nodiscard]] std::string SchrankaText() override { return Schranka; }
@@ -77,6 +84,7 @@ public:
     std::vector<RezimObrazovky> Rezimy;   ///< asked for so far
     int VysledekRezimu = 0;               ///< what a switch of the mode answers
     RezimObrazovky Rezim{1024, 768, 32};  ///< present mode
+    /// The folder of Rysovna.ini; those of the account are "stav" and "ucet" in it.
     std::string SlozkaSystemu;
     std::uint32_t SeminkoHry = 1;  ///< the next one; each call counts it up
     DatumACas Cas;
@@ -84,11 +92,17 @@ public:
     /// Message boxes are run as the window runs them: a form that the script must answer by keys
     /// or presses. A box that no planned event ever answers is a fault.
     bool SkutecneZpravy = false;
+    /// What the looks at screen and sound find fault with; empty: nothing.
+    std::string NeniObrazovka, NeniZvuk;
+    /// Called by Spi: to let other processes run in the meantime.
+    std::function<void(std::uint32_t)> PriSpanku;
     std::uint64_t Prekresleni = 0;         ///< how many times Prekresli was called
     std::function<void()> PriPrekresleni;  ///< to look at the frames of an animation
 
 private:
     void Dorucit();
+    [[nodiscard]] std::filesystem::path SlozkaUctu(const char* jmeno) const;
+    [[nodiscard]] static std::string Overeni(const std::string& neni);
 
     std::uint32_t cas_ = 0;
     std::uint32_t modalne_ = 0;  ///< how long a modal form has stood with nothing planned, ms

@@ -28,6 +28,8 @@ public:
     /// Puts it away for good.
     void Zavri();
     [[nodiscard]] bool Otevrene() const { return okno_ != nullptr; }
+    /// Whether there is anything to paint on.
+    [[nodiscard]] bool MaPlochu() { return Plocha() != nullptr; }
     void PrepniCelouObrazovku();
 
     /// Paints what changed and shows it.

@@ -266,7 +266,20 @@ int SdlHost::ChangeDisplaySettings(const RezimObrazovky& rezim) {
     return 0;
 }
 
-std::string SdlHost::WindowsDirectory() {
+std::string SdlHost::OverObrazovku() {
+    Okno zkusebni;
+    if (!zkusebni.Otevri(false) || !zkusebni.MaPlochu())
+        Selhani(std::string("Okno nejde otevřít: ") + SDL_GetError());
+    const RezimObrazovky rezim = GetDeviceCaps();
+    return std::to_string(rezim.Sirka) + " × " + std::to_string(rezim.Vyska) + ", " +
+           SDL_GetCurrentVideoDriver();
+}
+
+std::string SdlHost::OverZvuk() {
+    return vnitrek_->Zvuk_.Over();
+}
+
+std::string SdlHost::SlozkaNastaveni() {
     char* zaklad = SDL_GetBasePath();
     const std::string vlastni = zaklad == nullptr ? std::string() : std::string(zaklad);
     SDL_free(zaklad);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/Host.h"
+#include "platform/PosixDisk.h"
 
 namespace rysovna {
 
@@ -34,7 +35,15 @@ public:
     int ChangeDisplaySettings(const RezimObrazovky& rezim) override;
     /// The executable's folder if it holds Rysovna.ini (any case), else the user's configuration
     /// folder (rysovna below $XDG_CONFIG_HOME or ~/.config) if it holds one, else /etc/rysovna.
-    [[nodiscard]] std::string WindowsDirectory() override;
+    [[nodiscard]] std::string WindowsDirectory() override { return SlozkaNastaveni(); }
+    /// The same for a process without a display.
+    [[nodiscard]] static std::string SlozkaNastaveni();
+    [[nodiscard]] std::filesystem::path SlozkaStavu() override { return SlozkaStavuUctu(); }
+    [[nodiscard]] std::filesystem::path SlozkaDat() override { return SlozkaDatUctu(); }
+    /// Opens the window for a moment.
+    [[nodiscard]] std::string OverObrazovku() override;
+    /// Opens the sound device for a moment; one that does not answer is a fault after a while.
+    [[nodiscard]] std::string OverZvuk() override;
     [[nodiscard]] std::uint32_t Seminko() override;
     [[nodiscard]] DatumACas Nyni() override;
     [[nodiscard]] std::string SchrankaText() override;

@@ -11,7 +11,10 @@
 #include <optional>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
+
+#include "base/Chyba.h"
 
 namespace rysovna {
 
@@ -19,6 +22,8 @@ namespace {
 
 /// How long the end of the program waits for the thread.
 constexpr std::chrono::milliseconds NEJDELE_CEKA{300};
+/// How long a device may take to open before it is said not to answer.
+constexpr std::chrono::milliseconds NEJDELE_OTVIRA{2000};
 
 #ifdef __linux__
 bool MaPromennou(const char* jmeno) {
@@ -58,6 +63,8 @@ struct Zvuk::Prace {
     bool Zacala = false;  ///< the thread was started
     bool Konec = false;   ///< the thread is to end
     bool Hotovo = false;  ///< the thread has ended its work
+    /// Whether there is a device; nothing while it is being opened.
+    std::optional<bool> Otevreno;
 
     // The thread's own.
     std::uint32_t Zarizeni = 0;
@@ -86,8 +93,23 @@ void Zvuk::Zahraj(std::filesystem::path soubor) {
         zacina = !prace_->Zacala;
         prace_->Zacala = true;
     }
+    Zacni(zacina);
+}
+
+void Zvuk::Zacni(bool zacina) {
     if (zacina) std::thread([prace = prace_] { prace->Pracuj(); }).detach();
     prace_->Budik.notify_all();
+}
+
+std::string Zvuk::Over() {
+    std::unique_lock drzi(prace_->Zamek);
+    Zacni(!std::exchange(prace_->Zacala, true));
+    if (!prace_->Budik.wait_for(drzi, NEJDELE_OTVIRA,
+                                [this] { return prace_->Otevreno.has_value(); }))
+        Selhani("Zvukové zařízení neodpovídá");
+    if (!*prace_->Otevreno) Selhani("Zvukové zařízení není");
+    const char* ovladac = SDL_GetCurrentAudioDriver();
+    return ovladac == nullptr ? "otevřeno" : ovladac;
 }
 
 bool Zvuk::Skonci() {
@@ -102,6 +124,11 @@ bool Zvuk::Skonci() {
 
 void Zvuk::Prace::Pracuj() {
     const bool mame = MuzeZnit() && OtevriZarizeni();
+    {
+        const std::lock_guard drzi(Zamek);
+        Otevreno = mame;
+    }
+    Budik.notify_all();
     while (true) {
         std::filesystem::path soubor;
         {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <string>
 
 namespace rysovna {
 
@@ -18,11 +19,17 @@ public:
     /// Starts a sound; the one that is playing ends. One that waits still is forgotten.
     void Zahraj(std::filesystem::path soubor);
 
+    /// Opens the device if it is not open yet and says which one it is, in Czech. None, or one that
+    /// does not answer in two seconds, is a run-time fault.
+    [[nodiscard]] std::string Over();
+
     /// Ends the thread; later sounds are silent. False if it hangs in the device still: then it is
     /// left alone, and the audio part of the library must not be closed.
     bool Skonci();
 
 private:
+    void Zacni(bool zacina);
+
     struct Prace;
     std::shared_ptr<Prace> prace_;  ///< shared with the thread, which may outlive this object
     bool skoncil_ = true;           ///< what Skonci gave

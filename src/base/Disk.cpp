@@ -1,0 +1,30 @@
+#include "base/Disk.h"
+
+namespace rysovna {
+
+ChybaDisku::ChybaDisku(Pricina proc, const std::filesystem::path& soubor)
+    : std::runtime_error(soubor.string() + " (" + std::string(TextPriciny(proc)) + ")"),
+      proc_(proc),
+      soubor_(soubor) {}
+
+std::string_view TextPriciny(Pricina proc) {
+    switch (proc) {
+        case Pricina::Neni:
+            return "neexistuje";
+        case Pricina::UzJe:
+            return "už existuje";
+        case Pricina::Nepovoleno:
+            return "chybí oprávnění";
+        case Pricina::Plno:
+            return "na disku není místo";
+        case Pricina::NejdeZamek:
+            return "disk neumí soubory zamykat";
+        case Pricina::Zamceno:
+            return "zapisuje do něj jiný program";
+        case Pricina::Jina:
+            break;
+    }
+    return "disk hlásí chybu";
+}
+
+}  // namespace rysovna

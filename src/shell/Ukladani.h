@@ -1,0 +1,63 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Disk.h"
+#include "shell/Fronta.h"
+#include "shell/TabulkaVysledku.h"
+#include "shell/Vysledek.h"
+
+namespace rysovna {
+
+/// Name of the results log in the folder of results; its lock guards log and tables.
+constexpr std::string_view JMENO_DENIKU = "Vysledky.dat";
+
+/// Stores results so that none is lost and none is written twice, whatever fails and whenever the
+/// program is killed. Each result goes through the queue of the account: an entry there first, then
+/// under the lock of the folder of results the lines of the log, then the row of the table, and
+/// only then is the entry taken out. What did not go stays and is tried again with the next result
+/// and at the next start, only in its own folder, from where it stopped. Where the queue cannot be
+/// had, log and table are written all the same, and what then fails is kept in memory.
+class Ukladani {
+public:
+    /// koren: the folder of results. slozkaStavu: the account's state folder; may be empty.
+    Ukladani(Disk& disk, Hodiny hodiny, const std::filesystem::path& koren,
+             std::filesystem::path slozkaStavu);
+
+    /// Stores a result, and whatever waits. Never throws. What it returns is to be told to the
+    /// pupil: empty if all is well or was told before.
+    [[nodiscard]] std::string Uloz(const Vysledek& vysledek);
+    /// Stores whatever waits, at the start of the program.
+    [[nodiscard]] std::string ZkusCekajici();
+
+    /// Rows of this task's table that are not in its file yet, as texts for showing.
+    [[nodiscard]] std::vector<ZaznamTabulky> Nezapsane(int cisloUlohy) const;
+    /// Results that did not go at the last try, in the queue or in memory.
+    [[nodiscard]] const std::vector<CekajiciVysledek>& Cekaji() const { return cekaji_; }
+
+private:
+    /// A result that did not go, and why.
+    struct Neuspech {
+        CekajiciVysledek Co;
+        std::string Proc;
+    };
+
+    [[nodiscard]] std::string Zapis();
+    [[nodiscard]] std::vector<CekajiciVysledek> Serad(std::optional<Fronta>& fronta,
+                                                      std::string& bezFronty);
+    void ZapisJeden(CekajiciVysledek& v, Fronta* fronta);
+    void DoDeniku(CekajiciVysledek& v, Soubor& denik, Fronta* fronta);
+    void DoTabulky(CekajiciVysledek& v, Fronta* fronta);
+    [[nodiscard]] std::filesystem::path Cesta(std::string_view jmeno) const;
+
+    Disk& disk_;
+    Hodiny hodiny_;
+    std::filesystem::path koren_, slozkaStavu_;
+    std::vector<CekajiciVysledek> cekaji_;
+};
+
+}  // namespace rysovna
