@@ -66,6 +66,7 @@ void DeskaForm::RozlozOvladace() {
     Pridej(IHintS, "IHintS", {201, 413, 15, 13});
 
     Pridej(Pic, "Pic", {226, 98, 384, 335});
+    Pic.BereDvojklik = SamplePic.BereDvojklik = false;
     Pridej(Line1, "Line1", {}, &Pic);
     Pridej(Circle1, "Circle1", {}, &Pic);
     Pridej(Text, "Text", {0, 0, 60, 17}, &Pic);

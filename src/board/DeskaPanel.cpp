@@ -1,8 +1,11 @@
 // The panel of the dialogue as the controls show it, and the sliding panel with the sketch.
 
+#include <functional>
+
 #include "board/DeskaForm.h"
 #include "engine/Sluzby.h"
 #include "platform/Host.h"
+#include "platform/Obrazovky.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
 
@@ -143,19 +146,20 @@ void DeskaForm::Paint() {
     PolozPanel(0);
 }
 
-/// Slides the panel by frames; no event comes through until the last one. snimek(k) gives the
-/// push of frame k.
-template <class F>
-static void PosouvejPanel(F snimek) {
+/// Slides the panel by frames, with no event let through until the last one: what is pressed
+/// meanwhile was meant for the panel. snimek(k) gives the push of frame k.
+static void PosouvejPanel(const std::function<void(int)>& snimek) {
     Host& stroj = Stroj();
     const std::uint32_t zacatek = stroj.TickCount();
-    for (int k = 0; k < SNIMKU; ++k) {
-        snimek(k);
-        stroj.Prekresli();
-        const std::uint32_t konec = zacatek + static_cast<std::uint32_t>(k + 1) * DOBA_SNIMKU;
-        const std::uint32_t ted = stroj.TickCount();
-        if (ted < konec) stroj.Spi(konec - ted);
-    }
+    stroj.Okna().CekejZavrene([&] {
+        for (int k = 0; k < SNIMKU; ++k) {
+            snimek(k);
+            stroj.Prekresli();
+            const std::uint32_t konec = zacatek + static_cast<std::uint32_t>(k + 1) * DOBA_SNIMKU;
+            const std::uint32_t ted = stroj.TickCount();
+            stroj.Spi(ted < konec ? konec - ted : 0);
+        }
+    });
 }
 
 void DeskaForm::ZasunPanel() {

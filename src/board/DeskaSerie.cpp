@@ -99,7 +99,9 @@ void DeskaForm::UkonciSerii() {
                             .Zaporne = TextBezMezery(ZaporneBody),
                             .Znamka = UrciZnamku(KladneBody, Bajt(KladneBody + ZaporneBody)),
                             .Konec = stroj.Nyni()};
-    const std::string zprava = Vysledky().Uloz(vysledek);
+    std::string zprava;
+    // The lock of the results may have to be waited for: nothing is let through meanwhile.
+    okna.CekejZavrene([&] { zprava = Vysledky().Uloz(vysledek); });
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
     const auto tabulka = okna.Nacti<TabulkaForm>();
     tabulka->Vlastnik = okna.Najdi("SetupForm");

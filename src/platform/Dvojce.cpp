@@ -1,8 +1,8 @@
 #include <cairo.h>
 #include <cmath>
 
+#include "platform/DisplayList.h"
 #include "platform/Pisma.h"
-#include "platform/Seznam.h"
 
 namespace rysovna {
 
@@ -143,13 +143,13 @@ private:
     bool maluje_ = false;
 };
 
-Bitmapa Zaklad(const Seznam& seznam, double s) {
+Bitmapa Zaklad(const DisplayList& seznam, double s) {
     Bitmapa b(Zvetsi(seznam.Sirka, s), Zvetsi(seznam.Vyska, s), seznam.Pozadi);
     if (!seznam.Podklad.Prazdny()) Prehravac(b, s)(PolozkaObrazku{seznam.Podklad, 0, 0});
     return b;
 }
 
-void Prehraj(const Seznam& seznam, std::size_t od, std::size_t po, double s, Bitmapa& b) {
+void Prehraj(const DisplayList& seznam, std::size_t od, std::size_t po, double s, Bitmapa& b) {
     if (b.Prazdna()) return;
     Prehravac prehravac(b, s);
     for (std::size_t i = od; i < po; ++i) std::visit(prehravac, seznam.Polozky[i]);
@@ -160,7 +160,7 @@ void Prehraj(const Seznam& seznam, std::size_t od, std::size_t po, double s, Bit
 }  // namespace
 
 const Bitmapa& Vykresli(const Okamzik& okamzik, double s, Bitmapa& docasna) {
-    Seznam& seznam = *okamzik.Kde;
+    DisplayList& seznam = *okamzik.Kde;
     const bool platne = seznam.Meritko == s;
     if (platne && seznam.Vykresleno > okamzik.Pocet) {
         docasna = Zaklad(seznam, s);

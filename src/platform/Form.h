@@ -31,6 +31,7 @@ public:
     bool Maximised = false;
     Barva BackColor = CERNA;
     Obrazek Picture;
+    bool StiskVzdy = false;  ///< a press on it counts even if it was made in a closed wait
 
     [[nodiscard]] bool Viditelny() const { return viditelny_; }
     [[nodiscard]] bool Zavreny() const { return zavreny_; }

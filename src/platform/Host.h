@@ -37,7 +37,8 @@ public:
     /// Handles what is pending (input, timers), paints what changed, then waits for the next thing
     /// to happen, at most the given milliseconds. 0 never waits.
     virtual void DoEvents(std::uint32_t nejvyseMs) = 0;
-    /// Waits with no event let through: the pace of an animation.
+    /// Waits with no event let through: the pace of an animation. Within Obrazovky::CekejZavrene
+    /// it takes in and sorts what comes meanwhile; 0 only does that.
     virtual void Spi(std::uint32_t ms) = 0;
     /// Paints what changed, at once, with no event let through.
     virtual void Prekresli() = 0;

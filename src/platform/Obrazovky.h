@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -9,10 +10,20 @@
 
 namespace rysovna {
 
+/// When a press was made, tick counts: as early as it can have been, as late. Both the same where
+/// the machine knows.
+struct CasStisku {
+    std::uint32_t Nejdrive = 0, Nejpozdeji = 0;
+};
+
 /// The screens of the program on one window, and the dispatcher of events. A host feeds it with
 /// input in design pixels (0 to 640, 0 to 480); it finds the object under the pointer and calls
 /// the form. A press captures the pointer until the release, so that a drag that leaves its
 /// object goes on.
+///
+/// A press within 500 ms and 4 px on each axis of the one before acts only on the very object that
+/// the first of such a row hit, and not even there if that object takes no double clicks. What a
+/// dropped press drags along (moves, release) goes to nobody.
 class Obrazovky {
 public:
     Obrazovky();
@@ -50,7 +61,20 @@ public:
     void NastavModalni(const std::shared_ptr<Form>& form);
     [[nodiscard]] bool JeModalni() const;
 
+    /// Runs a piece of work that waits or paces itself by Host::Spi with nothing let through, as
+    /// the slide of a panel, or the waiting for a lock: presses made meanwhile are dropped with
+    /// their releases, no timer fires, and all other input (keys, the window's close, moves, a
+    /// press on a form that takes presses always) is delivered in its order when the program lets
+    /// events through again. A message box that comes up inside gets its input as ever.
+    void CekejZavrene(const std::function<void()>& prace);
+    /// Whether such a wait runs.
+    [[nodiscard]] bool JeZavreno() const;
+    /// For a host that lets events through: delivers what closed waits have kept.
+    void DorucOdlozene();
+
     // Input, design pixels.
+    void MysDolu(double x, double y, int tlacitko, int shift, CasStisku cas);
+    /// A press of this very moment.
     void MysDolu(double x, double y, int tlacitko, int shift);
     void MysPohyb(double x, double y, int drzena, int shift);
     void MysNahoru(double x, double y, int tlacitko, int shift);
@@ -88,6 +112,17 @@ public:
 
 private:
     struct Vnitrek;
+    struct Vstup;
+    void Prijmi(const Vstup& vstup);
+    void Odloz(const Vstup& vstup);
+    void Doruc(const Vstup& vstup);
+    void DorucStisk(const Vstup& s);
+    void DorucPohyb(const Vstup& s);
+    void DorucPusteni(const Vstup& s);
+    void DorucText(const Vstup& s);
+    void DorucKlavesu(const Vstup& s);
+    void DorucZavreni();
+    void DorucNavrat();
     std::unique_ptr<Vnitrek> vnitrek_;
     bool konec_ = false;
     int stavKonce_ = 0;

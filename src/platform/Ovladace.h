@@ -33,8 +33,9 @@ struct Ovladac {
     Ovladac* Rodic = nullptr;  ///< the picture box that it stands in; the form if null
     int Left = 0, Top = 0, Width = 0, Height = 0;
     bool Visible = true;
-    bool Enabled = true;  ///< what is disabled leaves its presses to its parent
-    bool ProMys = true;   ///< false: the pointer goes through it to what lies beneath
+    bool Enabled = true;       ///< what is disabled leaves its presses to its parent
+    bool ProMys = true;        ///< false: the pointer goes through it to what lies beneath
+    bool BereDvojklik = true;  ///< false: the second press of a double click does nothing to it
     std::string Tag;
     Pismo Font;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Seznam.h"
+#include "platform/DisplayList.h"
 #include "platform/Surface.h"
 
 namespace rysovna {

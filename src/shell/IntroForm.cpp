@@ -19,6 +19,7 @@ IntroForm::IntroForm() {
     Pridej(Timer1, "Timer1", {});
     Timer1.Interval = 1000;
     Timer1.Enabled = false;
+    StiskVzdy = true;
 }
 
 void IntroForm::Prednacti() {

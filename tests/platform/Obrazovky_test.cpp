@@ -34,15 +34,18 @@ TEST_F(ObrazovkyTest, UdalostDostaneNejvyssiObjektPodUkazatelem) {
     };
     for (const auto& [x, y, vypni, dostane] : PRIPADY) {
         *vypni = false;
+        Host_.Spi(1000);  // no double click
         Host_.Stiskni(x, y);
         EXPECT_EQ(Form_->Vezmi().at(0), dostane);
         *vypni = true;
     }
     // What is later in the order lies higher.
     Form_->cmd[1].Top = Form_->cmd[0].Top;
+    Host_.Spi(1000);
     Host_.Stiskni(410, 105);
     EXPECT_EQ(Form_->Vezmi().at(0), "Down cmd(2) 10,5");
     Form_->DoPopredi(Form_->cmd[0]);
+    Host_.Spi(1000);
     Host_.Stiskni(410, 105);
     EXPECT_EQ(Form_->Vezmi().at(0), "Down cmd(1) 10,5");
 }
@@ -92,8 +95,126 @@ TEST_F(ObrazovkyTest, DvojklikJeDvaStiskyAJednoNavic) {
     nahore->PriStisku = [&] { Okna().Hide(*nahore); };
     for (int i = 0; i < 2; ++i) Host_.Stiskni(410, 105);
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Activate"});
+    Host_.Spi(501);
     Host_.Stiskni(410, 105);
     EXPECT_EQ(Form_->Vezmi().size(), 3U);
+}
+
+/// A row of presses, each measured from the one before: all act on what the first one hit, or not
+/// at all.
+TEST_F(ObrazovkyTest, RadaStiskuPatriTomuCoZasahlPrvni) {
+    struct Stisk {
+        std::uint32_t Po;  // ms behind the one before
+        double X, Y;
+        int Tlacitko;
+        const char* Dostane;  // nobody if empty
+    };
+    const std::vector<Stisk> RADY[] = {
+        {{0, 410, 118, 1, "cmd(1)"}, {500, 410, 122, 1, ""}, {500, 410, 119, 1, "cmd(1)"}},
+        {{0, 410, 118, 1, "cmd(1)"}, {501, 410, 122, 1, "form"}},
+        {{0, 410, 118, 1, "cmd(1)"}, {100, 410, 123, 1, "form"}},
+        {{0, 402, 110, 1, "cmd(1)"}, {100, 398, 110, 1, ""}, {100, 394, 110, 1, ""}},
+        {{0, 410, 118, 1, "cmd(1)"}, {100, 410, 122, 2, ""}, {100, 410, 119, 2, "cmd(1)"}},
+        {{0, 202, 110, 1, "Pic"}, {400, 202, 110, 1, ""}, {400, 202, 110, 1, ""}},
+        {{0, 202, 110, 1, "Pic"}, {501, 202, 110, 1, "Pic"}},
+        {{0, 398, 110, 1, "form"}, {100, 402, 110, 1, ""}, {501, 402, 110, 1, "cmd(1)"}},
+    };
+    Form_->Pic.BereDvojklik = false;
+    for (const auto& rada : RADY) {
+        Host_.Spi(1000);
+        for (const Stisk& s : rada) {
+            SCOPED_TRACE(std::to_string(&rada - RADY) + ", press " +
+                         std::to_string(&s - rada.data()));
+            Host_.Spi(s.Po);
+            Okna().MysDolu(s.X, s.Y, s.Tlacitko, 0);
+            Okna().MysPohyb(s.X + 1, s.Y, s.Tlacitko, 0);
+            Okna().MysNahoru(s.X, s.Y, s.Tlacitko, 0);
+            const Seznam_t u = Form_->Vezmi();
+            const std::string kdo = s.Dostane;
+            ASSERT_EQ(u.empty(), kdo.empty()) << u.front();
+            for (const std::string& radek : u) EXPECT_NE(radek.find(" " + kdo), std::string::npos);
+        }
+    }
+    // Times that are known roughly are taken to be as near as they can be.
+    Host_.Spi(1000);
+    Okna().MysDolu(410, 118, 1, 0, {100, 700});
+    Okna().MysNahoru(410, 118, 1, 0);
+    Form_->Vezmi();
+    Okna().MysDolu(410, 122, 1, 0, {1200, 1900});
+    EXPECT_EQ(Form_->Vezmi(), Seznam_t{});
+    Okna().MysNahoru(410, 122, 1, 0);
+    Okna().MysDolu(410, 122, 1, 0, {2401, 2401});
+    EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Down form 410,122"});
+}
+
+TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
+    Form_->SetFocus(Form_->Pole);
+    Form_->Hodiny.Interval = 30;
+    Form_->Hodiny.Enabled = true;
+    // Each is done at its time in a closed wait of 100 ms, or after it; all that comes of them.
+    struct Pripad {
+        std::vector<std::pair<std::uint32_t, std::function<void()>>> Co;
+        Seznam_t Dostane;
+    };
+    const auto dolu = [&](int b) { return [&, b] { Okna().MysDolu(410, 105, b, 0); }; };
+    const auto nahoru = [&](int b) { return [&, b] { Okna().MysNahoru(410, 105, b, 0); }; };
+    const auto pohyb = [&](double x, int b) {
+        return [&, x, b] { Okna().MysPohyb(x, 300, b, 0); };
+    };
+    const auto klavesa = [&] { Okna().Klavesa("Return", 0); };
+    const Pripad PRIPADY[] = {
+        {{{20, dolu(1)}, {30, nahoru(1)}}, {}},
+        {{{20, dolu(1)}, {90, pohyb(350, 1)}, {110, pohyb(360, 1)}, {120, nahoru(1)}}, {}},
+        {{{20, dolu(1)}, {120, nahoru(1)}, {130, dolu(2)}, {140, nahoru(2)}},
+         {"Down cmd(1) 10,5", "Up cmd(1) 10,5"}},
+        {{{100, dolu(1)}, {101, nahoru(1)}}, {}},
+        {{{20, [&] { Okna().Text("x"); }},
+          {30, klavesa},
+          {40, dolu(1)},
+          {50, [&] { Okna().ZadostOZavreni(); }},
+          {60, pohyb(350, 1)},
+          {70, nahoru(1)},
+          {80, pohyb(370, 0)},
+          {81, pohyb(380, 0)}},
+         {"Change x", "Klavesa Return", "QueryUnload", "Move form 380,300"}},
+    };
+    for (const Pripad& p : PRIPADY) {
+        SCOPED_TRACE(&p - PRIPADY);
+        Host_.Spi(1000);
+        Form_->Pole.Text.clear();
+        const std::uint32_t zacatek = Host_.TickCount();
+        for (const auto& [kdy, co] : p.Co) Host_.NaplanujZa(kdy, co);
+        Okna().CekejZavrene([&] {
+            for (int i = 0; i < 10; ++i) Host_.Spi(10);
+        });
+        EXPECT_EQ(Host_.TickCount() - zacatek, 100U);
+        EXPECT_EQ(Form_->Vezmi(), Seznam_t{}) << "nothing comes through, nor does the timer";
+        Form_->Hodiny.Enabled = false;
+        while (Host_.Naplanovano() > 0) Host_.DoEvents(10);
+        Host_.DoEvents(0);
+        EXPECT_EQ(Form_->Vezmi(), p.Dostane);
+        Form_->Hodiny.Enabled = true;
+    }
+    // A release whose press came before the wait is its own; and some forms take presses always.
+    Form_->Hodiny.Enabled = false;
+    for (const bool vzdy : {false, true}) {
+        Host_.Spi(1000);
+        Form_->StiskVzdy = vzdy;
+        if (!vzdy) Okna().MysDolu(410, 105, 1, 0);
+        Okna().CekejZavrene([&] {
+            if (vzdy) Okna().MysDolu(410, 105, 1, 0);
+            Okna().MysNahoru(410, 105, 1, 0);
+        });
+        Host_.DoEvents(0);
+        EXPECT_EQ(Form_->Vezmi(), (Seznam_t{"Down cmd(1) 10,5", "Up cmd(1) 10,5", "Click cmd(1)"}));
+    }
+    // A fault in it leaves nothing closed; a message box in it is answered.
+    EXPECT_THROW(Okna().CekejZavrene([] { Selhani("x"); }), BehovaChyba);
+    EXPECT_FALSE(Okna().JeZavreno());
+    Host_.SkutecneZpravy = true;
+    Host_.NaplanujZa(20, [&] { Okna().Klavesa("Escape", 0); });
+    Okna().CekejZavrene(
+        [&] { EXPECT_EQ(Host_.MsgBox("Text", "Titul", Styl::OtazkaAnoNe), Odpoved::Ne); });
 }
 
 TEST_F(ObrazovkyTest, ActivateDostaneTenKdoPrijdeDoPopredi) {

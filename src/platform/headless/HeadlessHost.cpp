@@ -23,13 +23,30 @@ void HeadlessHost::Naplanuj(std::uint32_t cas, std::function<void()> co) {
     scenar_.emplace(cas, std::move(co));
 }
 
+void HeadlessHost::DorucPrvni() {
+    // Taken out first: what it does may pump events itself.
+    const auto udalost = std::move(scenar_.begin()->second);
+    scenar_.erase(scenar_.begin());
+    udalost();
+}
+
 void HeadlessHost::Dorucit() {
-    while (!scenar_.empty() && scenar_.begin()->first <= cas_) {
-        // Taken out first: what it does may pump events itself.
-        const auto udalost = std::move(scenar_.begin()->second);
-        scenar_.erase(scenar_.begin());
-        udalost();
+    Okna().DorucOdlozene();
+    while (!scenar_.empty() && scenar_.begin()->first <= cas_) DorucPrvni();
+}
+
+void HeadlessHost::Spi(std::uint32_t ms) {
+    if (PriSpanku) PriSpanku(ms);
+    if (!Okna().JeZavreno()) {
+        cas_ += ms;
+        return;
     }
+    const std::uint32_t konec = cas_ + ms;
+    while (!scenar_.empty() && scenar_.begin()->first <= konec) {
+        cas_ = std::max(cas_, scenar_.begin()->first);
+        DorucPrvni();
+    }
+    cas_ = std::max(cas_, konec);  // what the script did may have taken longer itself
 }
 
 void HeadlessHost::DoEvents(std::uint32_t nejvyseMs) {

@@ -37,11 +37,9 @@ public:
     /// happen, at most by nejvyseMs, and delivers that. With nothing to deliver the clock moves by
     /// the whole nejvyseMs. 0 moves it by one millisecond, so that a busy wait comes to its end.
     void DoEvents(std::uint32_t nejvyseMs) override;
-    /// Moves the clock; the script's events that fall due wait for the next DoEvents.
-    void Spi(std::uint32_t ms) override {
-        cas_ += ms;
-        if (PriSpanku) PriSpanku(ms);
-    }
+    /// Moves the clock; the script's events that fall due wait for the next DoEvents. Within
+    /// Obrazovky::CekejZavrene they come at their time.
+    void Spi(std::uint32_t ms) override;
     /// Paints nothing: counts, and calls PriPrekresleni.
     void Prekresli() override;
     Odpoved MsgBox(const std::string& text, const std::string& titul, Styl styl) override;
@@ -100,6 +98,7 @@ public:
     std::function<void()> PriPrekresleni;  ///< to look at the frames of an animation
 
 private:
+    void DorucPrvni();
     void Dorucit();
     [[nodiscard]] std::filesystem::path SlozkaUctu(const char* jmeno) const;
     [[nodiscard]] static std::string Overeni(const std::string& neni);

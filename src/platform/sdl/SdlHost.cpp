@@ -164,10 +164,15 @@ struct SdlHost::Vnitrek {
     /// Where text is typed, design pixels; BEZ_BODU where none is. Nothing before the first look.
     std::optional<Bod> Pise;
     bool MelZamereni = false;
+    /// Up to when all that came has been seen, tick count.
+    std::uint32_t Videno = 0;
     bool Prepnuto = false;  ///< the program has switched the mode: what follows restores it
 
-    void Zpracuj();
+    /// Handles what is pending. True if there was something.
+    bool Zpracuj();
     void Zpracuj(const SDL_Event& e);
+    /// Waits at most so long for something to come.
+    void Cekej(std::uint32_t nejvyseMs);
     void Klavesa(const SDL_KeyboardEvent& k);
     void Stisk(const SDL_MouseButtonEvent& b);
     void Pohyb(const SDL_MouseMotionEvent& m);
@@ -213,11 +218,13 @@ std::uint32_t SdlHost::TickCount() {
 }
 
 void SdlHost::DoEvents(std::uint32_t nejvyseMs) {
-    vnitrek_->Zpracuj();
+    Okna().DorucOdlozene();
+    const bool neco = vnitrek_->Zpracuj();
     Okna().Casovace(TickCount());
     vnitrek_->SrovnejPsani();
     Prekresli();
-    if (nejvyseMs == 0 || Okna().JeKonec()) return;
+    // Who waits for a press must hear of one that was pending; nothing else may come after it.
+    if (neco || nejvyseMs == 0 || Okna().JeKonec()) return;
 
     const std::uint32_t ted = TickCount();
     std::uint32_t cekat = nejvyseMs;
@@ -225,14 +232,26 @@ void SdlHost::DoEvents(std::uint32_t nejvyseMs) {
     if (Okna().PristiCasovac(ted, casovac)) cekat = std::min(cekat, casovac);
     if (Okna().Psane() != nullptr)
         cekat = std::min(cekat, BLIKANI - (ted - Okna().PosledniPsani()) % BLIKANI);
-    if (cekat > 0 && SDL_WaitEventTimeout(nullptr, static_cast<int>(cekat)) != 0)
+    if (cekat > 0) {
+        vnitrek_->Cekej(cekat);
         vnitrek_->Zpracuj();
+    }
     Okna().Casovace(TickCount());
     Prekresli();
 }
 
 void SdlHost::Spi(std::uint32_t ms) {
-    SDL_Delay(ms);
+    if (!Okna().JeZavreno()) {
+        SDL_Delay(ms);
+        return;
+    }
+    const std::uint32_t konec = TickCount() + ms;
+    for (;;) {
+        if (vnitrek_->Zpracuj()) Prekresli();
+        const auto zbyva = static_cast<std::int32_t>(konec - TickCount());
+        if (zbyva <= 0) return;
+        vnitrek_->Cekej(static_cast<std::uint32_t>(zbyva));
+    }
 }
 
 void SdlHost::Prekresli() {
@@ -340,9 +359,19 @@ void SdlHost::Vnitrek::SrovnejPsani() {
     Host_.PsaniTextu(t != nullptr, kde.X, kde.Y);
 }
 
-void SdlHost::Vnitrek::Zpracuj() {
+void SdlHost::Vnitrek::Cekej(std::uint32_t nejvyseMs) {
+    const std::uint32_t zacatek = SDL_GetTicks();
+    SDL_WaitEventTimeout(nullptr, static_cast<int>(nejvyseMs));
+    const std::uint32_t ted = SDL_GetTicks();
+    // What ends the wait at once may have been there before it.
+    if (ted != zacatek) Videno = ted;
+}
+
+bool SdlHost::Vnitrek::Zpracuj() {
     SDL_Event e;
+    bool neco = false;
     while (SDL_PollEvent(&e) != 0) {
+        neco = true;
         if (e.type == SDL_MOUSEMOTION) {
             // Of a row of moves the last one is enough.
             SDL_Event dalsi;
@@ -352,6 +381,8 @@ void SdlHost::Vnitrek::Zpracuj() {
         }
         Zpracuj(e);
     }
+    Videno = SDL_GetTicks();
+    return neco;
 }
 
 void SdlHost::Vnitrek::Zpracuj(const SDL_Event& e) {
@@ -412,7 +443,10 @@ void SdlHost::Vnitrek::Stisk(const SDL_MouseButtonEvent& b) {
     if (b.type == SDL_MOUSEBUTTONUP) {
         Host_.Okna().MysNahoru(x, y, tlacitko, shift);
     } else if (uvnitr) {
-        Host_.Okna().MysDolu(x, y, tlacitko, shift);
+        // The library dates an event by when it took it in. What came while the program was busy
+        // may be as old as the last look.
+        const bool driv = static_cast<std::int32_t>(b.timestamp - Videno) > 0;
+        Host_.Okna().MysDolu(x, y, tlacitko, shift, {driv ? Videno : b.timestamp, b.timestamp});
     } else {
         Host_.Okna().Navrat();
     }

@@ -10,12 +10,12 @@
 
 namespace rysovna {
 
-struct Seznam;
+struct DisplayList;
 
 /// A display list as it was at one moment: its first Pocet items. Lists only grow, and whoever
 /// wants to add to one of which others hold more takes a copy, so a moment once held never changes.
 struct Okamzik {
-    std::shared_ptr<Seznam> Kde;
+    std::shared_ptr<DisplayList> Kde;
     std::size_t Pocet = 0;
 };
 
@@ -66,7 +66,7 @@ using Polozka = std::variant<PolozkaUsecky, PolozkaKruznice, PolozkaTextu, Poloz
                              PolozkaObrazku, PolozkaKopie, PolozkaPixelu, PolozkaObraceni>;
 
 /// What was drawn on a surface since it was last empty, and the display bitmap that was made of it.
-struct Seznam {
+struct DisplayList {
     int Sirka = 0, Vyska = 0;
     Pixel Pozadi = DoPixelu(BILA);
     Obrazek Podklad;
@@ -85,7 +85,7 @@ struct Dosah {
     Obdelnik Kde;
     bool Kryje = false;
 };
-[[nodiscard]] Dosah DosahPolozky(const Polozka& p, const Seznam& s);
+[[nodiscard]] Dosah DosahPolozky(const Polozka& p, const DisplayList& s);
 
 /// The picture at scale s, width and height rounded. Paints only what was added since the last time
 /// at this scale. The bitmap stays with the list; a moment that lies behind what is painted already

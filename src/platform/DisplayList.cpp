@@ -1,4 +1,4 @@
-#include "platform/Seznam.h"
+#include "platform/DisplayList.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,13 +19,13 @@ int HloubkaPolozky(const Polozka& p) {
     return kopie == nullptr ? 0 : kopie->Zdroj.Kde->Hloubka + 1;
 }
 
-bool Skryje(const Dosah& nova, const Polozka& stara, const Seznam& s) {
+bool Skryje(const Dosah& nova, const Polozka& stara, const DisplayList& s) {
     return nova.Kryje && Pokryva(nova.Kde, DosahPolozky(stara, s).Kde);
 }
 
 /// Drops the items that the new one paints over, of a list that nobody else holds. The display
 /// bitmap stays right: what is dropped there gets painted over.
-void Uklid(Seznam& s, const Dosah& nova) {
+void Uklid(DisplayList& s, const Dosah& nova) {
     std::size_t zije = 0;
     std::size_t vykresleno = 0;
     for (std::size_t i = 0; i < s.Polozky.size(); ++i) {
@@ -40,7 +40,7 @@ void Uklid(Seznam& s, const Dosah& nova) {
 
 }  // namespace
 
-Dosah DosahPolozky(const Polozka& p, const Seznam& s) {
+Dosah DosahPolozky(const Polozka& p, const DisplayList& s) {
     const Obdelnik cely{0, 0, s.Sirka, s.Vyska};
     const auto v = [&](const Obdelnik& o, bool kryje) { return Dosah{Prunik(o, cely), kryje}; };
     struct Navstevnik {
@@ -72,7 +72,7 @@ void Surface::Vnitrek::NovaVerze() {
 }
 
 void Surface::Vnitrek::Vyprazdni(Pixel pozadi) {
-    auto novy = std::make_shared<Seznam>();
+    auto novy = std::make_shared<DisplayList>();
     novy->Sirka = Logicka.Sirka;
     novy->Vyska = Logicka.Vyska;
     novy->Pozadi = pozadi;
@@ -91,9 +91,9 @@ void Surface::Vnitrek::Pridej(Polozka p) {
     const bool pripsat = sam || (Obsah.Kde->Polozky.size() == Obsah.Pocet && hloubka < 2 &&
                                  (kopie == nullptr || kopie->Zdroj.Kde != Obsah.Kde));
     if (!pripsat) {
-        const Seznam& stary = *Obsah.Kde;
+        const DisplayList& stary = *Obsah.Kde;
         const bool platne = stary.Vykresleno <= Obsah.Pocet;
-        auto novy = std::make_shared<Seznam>();
+        auto novy = std::make_shared<DisplayList>();
         novy->Sirka = stary.Sirka;
         novy->Vyska = stary.Vyska;
         novy->Pozadi = stary.Pozadi;
@@ -108,7 +108,7 @@ void Surface::Vnitrek::Pridej(Polozka p) {
         }
         Obsah.Kde = std::move(novy);
     }
-    Seznam& s = *Obsah.Kde;
+    DisplayList& s = *Obsah.Kde;
     if (s.Polozky.size() > Obsah.Pocet) {
         // Nobody else is left who saw the rest.
         s.Polozky.resize(Obsah.Pocet, PolozkaObraceni{});

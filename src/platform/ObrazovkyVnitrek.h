@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Obrazovky.h"
+
+namespace rysovna {
+
+using Formular = std::shared_ptr<Form>;
+
+/// One piece of input as a host handed it in; design pixels.
+struct Obrazovky::Vstup {
+    enum class Druh { Dolu, Pohyb, Nahoru, Text, Klavesa, Zavreni, Navrat };
+    Druh Co;
+    double X = 0, Y = 0;
+    int Tlacitko = 0;  ///< of a move the sum of those held
+    int Shift = 0;
+    CasStisku Cas;
+    std::string Text;  ///< typed text, or the name of a key
+};
+
+/// What a press is to those right before it.
+enum class PoradiStisku {
+    Prvni,    ///< of no double click, or as good as that
+    Druhy,    ///< of a double click on one object
+    Zahodit,  ///< it is not for what lies under it
+};
+
+/// Double clicks. A press at the time and place of the one before acts only on the very object that
+/// the first of the row hit: who double-clicks a line of a list does not mean the plane, which is
+/// under it once the list has gone. Time and place are measured from press to press.
+class RadaStisku {
+public:
+    /// Places a press in the row, or begins a new one with it. o: the object under it, null for the
+    /// form itself.
+    PoradiStisku Zarad(const Formular& form, const Ovladac* o, double x, double y, int tlacitko,
+                       CasStisku cas);
+    /// A press that reached nobody: it goes on with a row, and begins none.
+    void Ztraceny(double x, double y, CasStisku cas);
+
+private:
+    [[nodiscard]] bool Navazuje(double x, double y, CasStisku cas) const;
+
+    bool plati_ = false;
+    std::weak_ptr<Form> form_;
+    const Ovladac* objekt_ = nullptr;  ///< what the first press hit
+    double x_ = 0, y_ = 0;             ///< of the last press
+    CasStisku cas_;
+    int tlacitko_ = 0;
+    bool druhy_ = false;  ///< the last press was the second of a double click
+};
+
+struct Obrazovky::Vnitrek {
+    std::vector<Formular> Nactene;
+    std::vector<Formular> Viditelne;  ///< modal ones at the end
+    std::vector<Formular> Modalni;
+    std::weak_ptr<Form> Aktivni;
+    bool Konci = false;
+
+    // The press that owns the pointer until all buttons are up. Its object may be gone meanwhile:
+    // then what comes until the release goes to nobody.
+    bool Drzi = false;
+    std::weak_ptr<Form> DrziForm;
+    Ovladac* DrziObjekt = nullptr;
+    int DrziTlacitka = 0;
+
+    RadaStisku Rada;
+    int Zahozena = 0;            ///< buttons held whose presses were dropped, their sum
+    int Zavreno = 0;             ///< closed waits that run, one in another
+    std::deque<Vstup> Odlozene;  ///< what came in them and is to be delivered
+
+    std::vector<const Timer*> BeziciCasovace;  ///< whose handlers are running
+    std::uint32_t Psano = 0;
+
+    [[nodiscard]] Formular Cilovy() const { return Viditelne.empty() ? nullptr : Viditelne.back(); }
+    [[nodiscard]] bool Modalne(const Form& f) const;
+    /// The form of the press, if it still gets events: it stays visible, and no modal form has come
+    /// up over it. A small form that its press brought up takes nothing from it.
+    [[nodiscard]] Formular Drzici() const;
+    [[nodiscard]] Formular VpreduPodModalnimi() const;
+    /// The form that is in front now gets Activate if it was not the active one.
+    void Aktivuj(const Formular& f);
+    static bool Vyrad(std::vector<Formular>& odkud, const Form& f) {
+        return std::erase_if(odkud, [&](const Formular& x) { return x.get() == &f; }) > 0;
+    }
+};
+
+}  // namespace rysovna

@@ -1,0 +1,404 @@
+// What comes from the machine: presses, moves, keys, and to whom each goes.
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/Host.h"
+#include "platform/ObrazovkyVnitrek.h"
+#include "platform/PsaniTextu.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr int LEVE = 1;
+/// A press within this time and distance of the one before, on each axis, goes with it.
+constexpr std::int32_t DVOJKLIK_MS = 500;
+constexpr double DVOJKLIK_PX = 4;
+
+Obdelnik MistoFormu(const Form& f) {
+    return {f.Maximised ? 0 : f.Left, f.Maximised ? 0 : f.Top, f.Width, f.Height};
+}
+
+/// Top left corner of the object on its form.
+Bod Roh(const Ovladac* o) {
+    Bod roh;
+    for (; o != nullptr; o = o->Rodic) {
+        roh.X += o->Left;
+        roh.Y += o->Top;
+    }
+    return roh;
+}
+
+/// Seen and enabled, with all that it stands in.
+bool Dosazitelny(const Ovladac* o) {
+    for (; o != nullptr; o = o->Rodic) {
+        if (!o->Visible || !o->Enabled) return false;
+    }
+    return true;
+}
+
+bool BereMys(const Ovladac& o) {
+    return o.ProMys && (o.Druh == Ovladac::Typ::PictureBox || o.Druh == Ovladac::Typ::Image ||
+                        o.Druh == Ovladac::Typ::Label || o.Druh == Ovladac::Typ::TextBox);
+}
+
+/// The box to type into that comes behind (before) this one on the form; this one if there is no
+/// other.
+TextBox* DalsiPole(const Form& form, TextBox* t, bool zpet) {
+    std::vector<TextBox*> pole;
+    for (Ovladac* o : form.Ovladace()) {
+        auto* p = dynamic_cast<TextBox*>(o);
+        if (p != nullptr && !p->MultiLine && Dosazitelny(p)) pole.push_back(p);
+    }
+    if (zpet) std::ranges::reverse(pole);
+    const auto ted = std::ranges::find(pole, t);
+    if (ted == pole.end()) return t;
+    return ted + 1 == pole.end() ? pole.front() : *(ted + 1);
+}
+
+/// The uppermost object at a place of its parent, or the parent's own nothing (null).
+Ovladac* Nejvyssi(const Form& form, Ovladac* rodic, double x, double y) {
+    const std::vector<Ovladac*>& vse = form.Ovladace();
+    for (auto i = vse.rbegin(); i != vse.rend(); ++i) {
+        Ovladac& o = **i;
+        if (o.Rodic != rodic || !o.Visible || !BereMys(o)) continue;
+        if (!Obdelnik{o.Left, o.Top, o.Width, o.Height}.Obsahuje(x, y)) continue;
+        if (o.Druh == Ovladac::Typ::PictureBox) {
+            if (Ovladac* dite = Nejvyssi(form, &o, x - o.Left, y - o.Top)) return dite;
+        }
+        return &o;
+    }
+    return nullptr;
+}
+
+Mys Udalost(const Form& f, const Ovladac* o, double x, double y, int tlacitko, int shift) {
+    const Obdelnik misto = MistoFormu(f);
+    const Bod roh = Roh(o);
+    return {tlacitko, shift, static_cast<float>(x - misto.Left - roh.X),
+            static_cast<float>(y - misto.Top - roh.Y)};
+}
+
+/// The object that gets the events of a place of the design area; null is the form itself.
+Ovladac* NajdiObjekt(const Form& f, double x, double y) {
+    const Obdelnik misto = MistoFormu(f);
+    Ovladac* o = Nejvyssi(f, nullptr, x - misto.Left, y - misto.Top);
+    while (o != nullptr && !Dosazitelny(o)) o = o->Rodic;
+    return o;
+}
+
+}  // namespace
+
+bool RadaStisku::Navazuje(double x, double y, CasStisku cas) const {
+    // Where the times are not known to the millisecond, they are taken to be as near as can be.
+    return plati_ && static_cast<std::int32_t>(cas.Nejdrive - cas_.Nejpozdeji) <= DVOJKLIK_MS &&
+           std::abs(x - x_) <= DVOJKLIK_PX && std::abs(y - y_) <= DVOJKLIK_PX;
+}
+
+void RadaStisku::Ztraceny(double x, double y, CasStisku cas) {
+    plati_ = Navazuje(x, y, cas);
+    x_ = x;
+    y_ = y;
+    cas_ = cas;
+    druhy_ = true;  // no half of a double click
+}
+
+PoradiStisku RadaStisku::Zarad(const Formular& form, const Ovladac* o, double x, double y,
+                               int tlacitko, CasStisku cas) {
+    const bool navazuje = Navazuje(x, y, cas);
+    const bool dvojice = navazuje && !druhy_ && tlacitko == LEVE && tlacitko_ == LEVE;
+    plati_ = true;
+    x_ = x;
+    y_ = y;
+    cas_ = cas;
+    tlacitko_ = tlacitko;
+    druhy_ = dvojice;
+    if (!navazuje) {
+        form_ = form;
+        objekt_ = o;
+        return PoradiStisku::Prvni;
+    }
+    if (form_.lock() != form || objekt_ != o || (o != nullptr && !o->BereDvojklik))
+        return PoradiStisku::Zahodit;
+    return dvojice ? PoradiStisku::Druhy : PoradiStisku::Prvni;
+}
+
+// ---- Taking in -------------------------------------------------------------------------------
+
+void Obrazovky::MysDolu(double x, double y, int tlacitko, int shift, CasStisku cas) {
+    Prijmi({.Co = Vstup::Druh::Dolu,
+            .X = x,
+            .Y = y,
+            .Tlacitko = tlacitko,
+            .Shift = shift,
+            .Cas = cas,
+            .Text = {}});
+}
+
+void Obrazovky::MysDolu(double x, double y, int tlacitko, int shift) {
+    const std::uint32_t ted = Stroj().TickCount();
+    MysDolu(x, y, tlacitko, shift, {ted, ted});
+}
+
+void Obrazovky::MysPohyb(double x, double y, int drzena, int shift) {
+    Prijmi({.Co = Vstup::Druh::Pohyb,
+            .X = x,
+            .Y = y,
+            .Tlacitko = drzena,
+            .Shift = shift,
+            .Cas = {},
+            .Text = {}});
+}
+
+void Obrazovky::MysNahoru(double x, double y, int tlacitko, int shift) {
+    Prijmi({.Co = Vstup::Druh::Nahoru,
+            .X = x,
+            .Y = y,
+            .Tlacitko = tlacitko,
+            .Shift = shift,
+            .Cas = {},
+            .Text = {}});
+}
+
+void Obrazovky::Text(std::string_view utf8) {
+    Prijmi({.Co = Vstup::Druh::Text, .Cas = {}, .Text = std::string(utf8)});
+}
+
+void Obrazovky::Klavesa(std::string_view jmeno, int shift) {
+    Prijmi({.Co = Vstup::Druh::Klavesa, .Shift = shift, .Cas = {}, .Text = std::string(jmeno)});
+}
+
+void Obrazovky::ZadostOZavreni() {
+    Prijmi({.Co = Vstup::Druh::Zavreni, .Cas = {}, .Text = {}});
+}
+
+void Obrazovky::Navrat() {
+    Prijmi({.Co = Vstup::Druh::Navrat, .Cas = {}, .Text = {}});
+}
+
+void Obrazovky::Prijmi(const Vstup& vstup) {
+    if (JeZavreno()) {
+        Odloz(vstup);
+        return;
+    }
+    DorucOdlozene();
+    Doruc(vstup);
+}
+
+void Obrazovky::Odloz(const Vstup& vstup) {
+    Vnitrek& v = *vnitrek_;
+    if (vstup.Co == Vstup::Druh::Dolu) {
+        const Formular form = v.Cilovy();
+        if (form == nullptr || !form->StiskVzdy) {
+            v.Zahozena |= vstup.Tlacitko;
+            v.Rada.Ztraceny(vstup.X, vstup.Y, vstup.Cas);
+            return;
+        }
+    } else if (vstup.Co == Vstup::Druh::Nahoru && (v.Zahozena & vstup.Tlacitko) != 0) {
+        v.Zahozena &= ~vstup.Tlacitko;
+        return;
+    } else if (vstup.Co == Vstup::Druh::Pohyb) {
+        if (v.Zahozena != 0) return;
+        // Of a row of moves the last one is enough.
+        if (!v.Odlozene.empty() && v.Odlozene.back().Co == Vstup::Druh::Pohyb)
+            v.Odlozene.pop_back();
+    }
+    v.Odlozene.push_back(vstup);
+}
+
+void Obrazovky::DorucOdlozene() {
+    Vnitrek& v = *vnitrek_;
+    while (!v.Odlozene.empty() && !JeZavreno()) {
+        // Taken out first: its handler may wait, and the wait delivers the rest.
+        const Vstup vstup = std::move(v.Odlozene.front());
+        v.Odlozene.pop_front();
+        Doruc(vstup);
+    }
+}
+
+bool Obrazovky::JeZavreno() const {
+    return vnitrek_->Zavreno > 0 && !JeModalni();
+}
+
+void Obrazovky::CekejZavrene(const std::function<void()>& prace) {
+    struct Zavreni {
+        explicit Zavreni(int& kolik) : Kolik(kolik) { ++Kolik; }
+        ~Zavreni() { --Kolik; }
+        Zavreni(const Zavreni&) = delete;
+        Zavreni& operator=(const Zavreni&) = delete;
+        int& Kolik;
+    };
+    const Zavreni zavreni(vnitrek_->Zavreno);
+    prace();
+    Stroj().Spi(0);  // what has come since the last look belongs to this wait too
+}
+
+// ---- Delivering ------------------------------------------------------------------------------
+
+void Obrazovky::Doruc(const Vstup& vstup) {
+    switch (vstup.Co) {
+        case Vstup::Druh::Dolu:
+            return DorucStisk(vstup);
+        case Vstup::Druh::Pohyb:
+            return DorucPohyb(vstup);
+        case Vstup::Druh::Nahoru:
+            return DorucPusteni(vstup);
+        case Vstup::Druh::Text:
+            return DorucText(vstup);
+        case Vstup::Druh::Klavesa:
+            return DorucKlavesu(vstup);
+        case Vstup::Druh::Zavreni:
+            return DorucZavreni();
+        case Vstup::Druh::Navrat:
+            return DorucNavrat();
+    }
+}
+void Obrazovky::DorucStisk(const Vstup& s) {
+    Vnitrek& v = *vnitrek_;
+    v.Zahozena &= ~s.Tlacitko;
+    const Formular form = v.Cilovy();
+    if (form == nullptr) return;
+    // The same button again: its release got lost outside.
+    if (v.Drzi && (v.DrziTlacitka & s.Tlacitko) != 0) v.Drzi = false;
+    if (v.Drzi) {
+        v.DrziTlacitka |= s.Tlacitko;
+        if (v.Drzici() == form && Dosazitelny(v.DrziObjekt))
+            form->MouseDown(v.DrziObjekt,
+                            Udalost(*form, v.DrziObjekt, s.X, s.Y, s.Tlacitko, s.Shift));
+        return;
+    }
+    if (!MistoFormu(*form).Obsahuje(s.X, s.Y)) {
+        DorucNavrat();
+        return;
+    }
+    Ovladac* o = NajdiObjekt(*form, s.X, s.Y);
+    const PoradiStisku poradi = v.Rada.Zarad(form, o, s.X, s.Y, s.Tlacitko, s.Cas);
+    if (poradi == PoradiStisku::Zahodit) {
+        v.Zahozena |= s.Tlacitko;
+        return;
+    }
+    const bool dvojklik = poradi == PoradiStisku::Druhy;
+    v.Drzi = true;
+    v.DrziForm = form;
+    v.DrziObjekt = o;
+    v.DrziTlacitka = s.Tlacitko;
+    const Mys m = Udalost(*form, o, s.X, s.Y, s.Tlacitko, s.Shift);
+    if (o != nullptr && o->Druh == Ovladac::Typ::TextBox && s.Tlacitko == LEVE) {
+        auto& t = static_cast<TextBox&>(*o);
+        if (!t.MultiLine) {
+            form->SetFocus(t);
+            PsaniTextu psani(t);
+            psani.Stisk(static_cast<double>(m.X), (s.Shift & 1) != 0);
+            if (dvojklik) psani.VyberSlovo();
+            v.Psano = Stroj().TickCount();
+        }
+    }
+    form->MouseDown(o, m);
+    if (dvojklik && form->Viditelny() && Dosazitelny(o)) form->DblClick(o);
+}
+
+void Obrazovky::DorucPohyb(const Vstup& s) {
+    Vnitrek& v = *vnitrek_;
+    const int drzena = s.Tlacitko & ~v.Zahozena;
+    if (v.Drzi) {
+        const Formular form = v.Drzici();
+        if (form == nullptr || !Dosazitelny(v.DrziObjekt)) return;
+        const Mys m = Udalost(*form, v.DrziObjekt, s.X, s.Y, drzena, s.Shift);
+        if (v.DrziObjekt != nullptr && v.DrziObjekt == form->Zamereni() &&
+            (v.DrziTlacitka & LEVE) != 0) {
+            PsaniTextu(*form->Zamereni()).Stisk(static_cast<double>(m.X), true);
+            v.Psano = Stroj().TickCount();
+        }
+        form->MouseMove(v.DrziObjekt, m);
+        return;
+    }
+    if (v.Zahozena != 0) return;  // a drag of nobody
+    const Formular form = v.Cilovy();
+    if (form == nullptr || !MistoFormu(*form).Obsahuje(s.X, s.Y)) return;
+    Ovladac* o = NajdiObjekt(*form, s.X, s.Y);
+    form->MouseMove(o, Udalost(*form, o, s.X, s.Y, drzena, s.Shift));
+}
+
+void Obrazovky::DorucPusteni(const Vstup& s) {
+    Vnitrek& v = *vnitrek_;
+    if ((v.Zahozena & s.Tlacitko) != 0) {
+        v.Zahozena &= ~s.Tlacitko;
+        return;
+    }
+    if (!v.Drzi || (v.DrziTlacitka & s.Tlacitko) == 0) return;
+    v.DrziTlacitka &= ~s.Tlacitko;
+    v.Drzi = v.DrziTlacitka != 0;
+    const Formular form = v.Drzici();
+    Ovladac* o = v.DrziObjekt;
+    if (form == nullptr || !Dosazitelny(o)) return;
+    const Mys m = Udalost(*form, o, s.X, s.Y, s.Tlacitko, s.Shift);
+    form->MouseUp(o, m);
+    if (s.Tlacitko != LEVE || v.Cilovy() != form || !Dosazitelny(o)) return;
+    const Obdelnik misto = o != nullptr ? Obdelnik{0, 0, o->Width, o->Height}
+                                        : Obdelnik{0, 0, form->Width, form->Height};
+    if (misto.Obsahuje(static_cast<double>(m.X), static_cast<double>(m.Y))) form->Click(o);
+}
+
+TextBox* Obrazovky::Psane() const {
+    const Formular form = vnitrek_->Cilovy();
+    if (form == nullptr || form->Zamereni() == nullptr) return nullptr;
+    TextBox* t = form->Zamereni();
+    return Dosazitelny(t) && !t->MultiLine ? t : nullptr;
+}
+
+std::uint32_t Obrazovky::PosledniPsani() const {
+    return vnitrek_->Psano;
+}
+
+void Obrazovky::DorucText(const Vstup& s) {
+    const Formular form = vnitrek_->Cilovy();
+    TextBox* t = Psane();
+    if (t == nullptr) return;
+    vnitrek_->Psano = Stroj().TickCount();
+    if (PsaniTextu(*t).Napis(s.Text)) form->Change(*t);
+}
+
+void Obrazovky::DorucKlavesu(const Vstup& s) {
+    const std::string& jmeno = s.Text;
+    const Formular form = vnitrek_->Cilovy();
+    if (form == nullptr) return;
+    if (TextBox* t = Psane()) {
+        bool vzal = false;
+        TextBox* dalsi = jmeno == "Tab" ? DalsiPole(*form, t, (s.Shift & 1) != 0) : t;
+        if (dalsi != t) {
+            form->SetFocus(*dalsi);
+            PsaniTextu(*dalsi).Klavesa("a", 2, vzal);  // all of it is marked
+            vnitrek_->Psano = Stroj().TickCount();
+            return;
+        }
+        const bool zmena = PsaniTextu(*t).Klavesa(jmeno, s.Shift, vzal);
+        if (vzal) vnitrek_->Psano = Stroj().TickCount();
+        if (zmena) form->Change(*t);
+        if (vzal) return;
+    }
+    form->Klavesa(jmeno);
+}
+
+void Obrazovky::DorucZavreni() {
+    const std::vector<Formular> vse = vnitrek_->Nactene;
+    if (JeModalni()) {
+        vnitrek_->Modalni.back()->QueryUnload();
+        return;
+    }
+    for (const Formular& f : vse) {
+        if (!f->Zavreny() && !JeModalni()) f->QueryUnload();
+    }
+}
+
+void Obrazovky::DorucNavrat() {
+    Vnitrek& v = *vnitrek_;
+    if (JeModalni() || v.Viditelne.empty()) return;
+    const Formular vzadu = v.Viditelne.front();
+    if (vzadu == v.Cilovy()) return;
+    v.Aktivni = vzadu;
+    vzadu->Activate();
+    // It showed nobody else, so the one in front is the active one again.
+    if (v.Aktivni.lock() == vzadu) v.Aktivni = v.VpreduPodModalnimi();
+}
+
+}  // namespace rysovna
