@@ -131,13 +131,27 @@ bool RukaNaDesce::StiskNacrtu(Bod misto) {
     return true;
 }
 
+void RukaNaDesce::Klepni(std::string_view jmeno, int index, int dx, int dy) {
+    constexpr int KDY = 3, CHVENI = 4;  // one in so many; px
+    const Ovladac& prvek = relace_.Prvek(jmeno, index);
+    const Bod roh = relace_.Roh(prvek);
+    const Bod kde{roh.X + (dx < 0 ? prvek.Width / 2 : dx),
+                  roh.Y + (dy < 0 ? prvek.Height / 2 : dy)};
+    relace_.Stiskni(jmeno, index, dx, dy);
+    if (!dvojkliky_ || dvojkliky_->Cislo(KDY) != 0) return;
+    const Bod podruhe = dvojkliky_->Vedle(kde, CHVENI);
+    relace_.StiskniMisto(podruhe.X, podruhe.Y);
+}
+
 void RukaNaDesce::StiskNastroje(int i) {
-    relace_.Stiskni("cmd", i);
+    constexpr int ZPET = 5;  // there the second press is one more step back
+    if (i == ZPET) return relace_.Stiskni("cmd", i);
+    Klepni("cmd", i);
 }
 
 void RukaNaDesce::StiskRadku(int i, std::string_view text) {
     if (relace_.Prvek<Label>("ComboLabel", i).Caption != text) Nejde("seznam neukazuje", text);
-    relace_.Stiskni("ComboLabel", i, 8, 8);
+    Klepni("ComboLabel", i, 8, 8);
     relace_.Cekej(PO_VOLBE);
 }
 
@@ -164,11 +178,11 @@ void RukaNaDesce::Posun(int dx, int dy) {
 }
 
 void RukaNaDesce::ZasunPanel() {
-    if (relace_.Prvek<Image>("Image1").Tag == "1") relace_.Stiskni("Image1");
+    if (relace_.Prvek<Image>("Image1").Tag == "1") Klepni("Image1", 0);
 }
 
 void RukaNaDesce::Zkontroluj() {
-    relace_.Stiskni("PicTop", 1);
+    Klepni("PicTop", 1);
     relace_.Cekej(PO_KONTROLE);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -8,6 +9,7 @@
 
 #include "base/Bod.h"
 #include "board/DeskaForm.h"
+#include "hrac/Los.h"
 #include "hrac/Relace.h"
 
 namespace rysovna::hrac {
@@ -74,6 +76,8 @@ private:
 class RukaNaDesce : public Ruka {
 public:
     explicit RukaNaDesce(Relace& relace) : relace_(relace) {}
+    /// One that double-clicks now and then where a click would do, by chance of this seed.
+    RukaNaDesce(Relace& relace, std::uint32_t dvojkliky) : relace_(relace), dvojkliky_(dvojkliky) {}
 
     [[nodiscard]] const Dialog& Hrany() const override;
     [[nodiscard]] std::vector<Zadano> Zadani() const override;
@@ -93,8 +97,11 @@ protected:
 private:
     /// The board in front.
     [[nodiscard]] DeskaForm& Deska() const;
+    /// Presses a control, as Relace::Stiskni; now and then twice, the hand shaking a little.
+    void Klepni(std::string_view jmeno, int index, int dx = -1, int dy = -1);
 
     Relace& relace_;
+    std::optional<Los> dvojkliky_;
 };
 
 /// Where an element of a sketch is pressed: anywhere between two points, px of the sketch.

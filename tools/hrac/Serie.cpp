@@ -29,7 +29,7 @@ void OdehrajSerii(Relace& hra, int uloha, std::string_view jmeno, int prikladu,
                   std::uint32_t seminko) {
     constexpr std::uint32_t PO_POKRACOVANI = 200, NEZ_JE_ZADANI = 1600;  // ms
     hra.SpustUlohu(uloha, jmeno, prikladu);
-    RukaNaDesce ruka(hra);
+    RukaNaDesce ruka(hra, seminko);
     for (int i = 1; i <= prikladu; ++i) {
         Sestroj(ruka, seminko + static_cast<std::uint32_t>(i));
         ruka.Zkontroluj();
