@@ -52,7 +52,7 @@ void ZkontrolujData(const std::string& slozka, std::vector<Nalez>& nalezy) {
             throw BehovaChyba("V souboru není žádná věta", NativniCesta(soubor).string());
     });
     if (vadnych == 0)
-        nalezy.push_back({VPoradku, "Data", std::to_string(JmenaDat().size()) + " souborů"});
+        nalezy.push_back({VPoradku, "Data", "souborů: " + std::to_string(JmenaDat().size())});
 }
 
 }  // namespace
@@ -82,13 +82,13 @@ void ZkontrolujAssety(const std::string& slozka, std::vector<Nalez>& nalezy) {
     }
     for (const Druh& druh : druhy) {
         if (druh.Vadnych == 0)
-            nalezy.push_back({VPoradku, druh.Co, std::to_string(druh.Dobrych) + " souborů"});
+            nalezy.push_back({VPoradku, druh.Co, "souborů: " + std::to_string(druh.Dobrych)});
     }
 }
 
 std::vector<Nalez> ZkontrolujPocitac(const KontrolovanyStroj& stroj) {
     std::vector<Nalez> nalezy;
-    const Cesty cesty = CtiCesty(stroj.SlozkaNastaveni + "\\", stroj.SlozkaDat);
+    const Cesty cesty = CtiCesty(stroj.SlozkaNastaveni, stroj.SlozkaDat);
     CestaCD = cesty.CD;
     CestaHD = cesty.HD;
     CestaVysledku = cesty.Vysledky;

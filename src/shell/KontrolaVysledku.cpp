@@ -16,12 +16,15 @@ using enum Nalez::Jak;
 constexpr std::uint64_t NEJMENE_MISTA = 16 << 20;
 constexpr std::uint64_t MEGABAJT = 1 << 20;
 
-/// Whether files can be made in a folder; where it is not there yet, in the one that it would be
-/// made in.
-bool PujdeZakladat(Disk& disk, fs::path slozka) {
-    while (!slozka.empty() && !disk.JeSlozka(slozka) && slozka != slozka.parent_path())
-        slozka = slozka.parent_path();
-    return disk.SmiZakladat(slozka);
+/// The folder, or where it is not there yet the one that it would be made in.
+fs::path NejblizsiSlozka(Disk& disk, fs::path slozka) {
+    if (!slozka.has_filename()) slozka = slozka.parent_path();  // a separator at the end
+    while (!disk.JeSlozka(slozka) && slozka != slozka.parent_path()) slozka = slozka.parent_path();
+    return slozka;
+}
+
+bool PujdeZakladat(Disk& disk, const fs::path& slozka) {
+    return disk.SmiZakladat(NejblizsiSlozka(disk, slozka));
 }
 
 /// What is wrong with one file of results; empty if nothing is. A file that is not there is no
@@ -88,14 +91,12 @@ void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Cesty& cesty,
     }
     if (vadnych == 0) {
         nalezy.push_back({VPoradku, "Soubory výsledků",
-                          std::to_string(JmenaVysledku().size()) +
+                          "souborů: " + std::to_string(JmenaVysledku().size()) +
                               (disk.JeSlozka(slozka) && !disk.SmiZakladat(slozka)
                                    ? ", ve složce nelze zakládat další"
                                    : "")});
     }
-    fs::path jeTu = slozka;
-    while (!disk.JeSlozka(jeTu) && jeTu != jeTu.parent_path()) jeTu = jeTu.parent_path();
-    nalezy.push_back(Misto(disk, jeTu, "Místo na výsledky"));
+    nalezy.push_back(Misto(disk, NejblizsiSlozka(disk, slozka), "Místo na výsledky"));
     const fs::path denik = disk.Skutecna(cesty.Vysledky + std::string(JMENO_DENIKU));
     if (disk.JeSoubor(denik)) nalezy.push_back(Zamek(disk, denik));
     nalezy.push_back(Fronta_(disk, stroj.SlozkaStavu));
