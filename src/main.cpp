@@ -4,12 +4,16 @@
 #include <iostream>
 #include <optional>
 #include <span>
+#include <stdexcept>
 #include <string_view>
 #include <vector>
 
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
+#include "platform/PosixDisk.h"
 #include "platform/sdl/SdlHost.h"
+#include "platform/sdl/Zvuk.h"
+#include "shell/KontrolaPocitace.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
 #include "shell/Ulohy.h"
@@ -20,6 +24,8 @@ namespace {
 constexpr int STAV_CHYBA = 1;
 constexpr int STAV_BEZ_OBRAZOVKY = 2;
 constexpr int STAV_POUZITI = 3;
+
+constexpr const char* NENI_OBRAZOVKA = "Není k dispozici žádná obrazovka.";
 
 /// False if they are no arguments of the program.
 bool CtiArgumenty(std::span<const std::string_view> argumenty,
@@ -51,6 +57,26 @@ void OznamChybu(rysovna::Host& host, const std::exception& chyba) {
     }
 }
 
+/// The check before a lesson. Without a display everything else is looked at all the same.
+int Zkontroluj() {
+    using namespace rysovna;
+    std::optional<SdlHost> host;
+    if (SdlHost::MaDisplej()) host.emplace();
+    PosixDisk disk;
+    return VypisKontrolu(
+        std::cout,
+        ZkontrolujPocitac({.SlozkaNastaveni = SdlHost::SlozkaNastaveni(),
+                           .SlozkaStavu = SlozkaStavuUctu(),
+                           .SlozkaDat = SlozkaDatUctu(),
+                           .disk = disk,
+                           .Obrazovka =
+                               [&] {
+                                   return host ? host->OverObrazovku()
+                                               : throw std::runtime_error(NENI_OBRAZOVKA);
+                               },
+                           .Zvuk = [&] { return host ? host->OverZvuk() : Zvuk().Over(); }}));
+}
+
 int Hraj(rysovna::Host& host) {
     using namespace rysovna;
     try {
@@ -70,14 +96,17 @@ int Hraj(rysovna::Host& host) {
 int main(int pocet, char** slova) {
     std::optional<std::uint32_t> seminko;
     const std::vector<std::string_view> argumenty(slova + 1, slova + pocet);
-    if (!argumenty.empty() && !CtiArgumenty(argumenty, seminko)) {
-        std::cerr << "Použití: rysovna [--seminko ČÍSLO]\n"
-                     "Se semínkem vylosuje hra při každém spuštění stejné příklady.\n";
+    const bool kontrola = argumenty.size() == 1 && argumenty[0] == "--kontrola";
+    if (!argumenty.empty() && !kontrola && !CtiArgumenty(argumenty, seminko)) {
+        std::cerr << "Použití: rysovna [--seminko ČÍSLO | --kontrola]\n"
+                     "Se semínkem vylosuje hra při každém spuštění stejné příklady. Kontrola "
+                     "prohlédne počítač před hodinou a hru nespustí.\n";
         return STAV_POUZITI;
     }
     try {
+        if (kontrola) return Zkontroluj();
         if (!rysovna::SdlHost::MaDisplej()) {
-            std::cerr << "Není k dispozici žádná obrazovka.\n";
+            std::cerr << NENI_OBRAZOVKA << '\n';
             return STAV_BEZ_OBRAZOVKY;
         }
         rysovna::SdlHost host(seminko);

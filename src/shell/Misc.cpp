@@ -115,7 +115,8 @@ bool MaRozmery(const Ovladac& o) {
 
 }  // namespace
 
-Cesty CtiCesty(const std::string& adresar, const std::filesystem::path& slozkaUctu) {
+Cesty CtiCesty(const std::string& slozka, const std::filesystem::path& slozkaUctu) {
+    const std::string adresar = SeZpetnymLomitkem(slozka);
     std::ifstream proud(NativniCesta(adresar + JMENO_INI), std::ios::binary);
     const std::string obsah{std::istreambuf_iterator<char>(proud),
                             std::istreambuf_iterator<char>()};

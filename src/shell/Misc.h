@@ -68,9 +68,9 @@ struct Cesty {
     bool Oddelene = false;  ///< results have a key of their own: missing files of theirs are made
 };
 
-/// Reads Rysovna.ini in a folder (with a backslash at its end). "ucet" as the folder of results is
-/// the account's own, slozkaUctu; one that cannot be read has no keys.
-[[nodiscard]] Cesty CtiCesty(const std::string& adresar, const std::filesystem::path& slozkaUctu);
+/// Reads Rysovna.ini in a folder. "ucet" as the folder of results is the account's own, slozkaUctu;
+/// a file that cannot be read has no keys.
+[[nodiscard]] Cesty CtiCesty(const std::string& slozka, const std::filesystem::path& slozkaUctu);
 
 /// Files of game data and of results, in the order in which they are looked for.
 [[nodiscard]] std::vector<std::string> JmenaDat();

@@ -38,6 +38,23 @@ constexpr int DELKA_CISLA = 3;      // digits of a wrong step's number
 constexpr int ZACATEK_VETY = 4;     // a separator stands between
 constexpr int NEJKRATSI_RADEK = 5;  // number, separator, and the last character, which is dropped
 
+/// Calls co(number, decoded line, place) for each line; a number that is none is 0.
+template <class Akce>
+void ProjdiVety(const std::filesystem::path& cesta, Akce&& co) {
+    int i = 0;
+    for (const std::string& ulozeny : CtiData(cesta)) {
+        const std::string radek = DekodujRadek(ulozeny);
+        const double cislo = Cislo(std::string_view(radek).substr(0, DELKA_CISLA));
+        co(cislo, radek, Misto(cesta, ++i));
+    }
+}
+
+/// The sentence of a decoded line.
+std::string Veta(std::string_view radek, const std::string& misto) {
+    if (radek.size() < NEJKRATSI_RADEK) throw BehovaChyba("Příliš krátký řádek", misto);
+    return Z1250(radek.substr(ZACATEK_VETY, radek.size() - NEJKRATSI_RADEK), misto);
+}
+
 }  // namespace
 
 void NactiZnamky(std::string_view soubor) {
@@ -103,25 +120,32 @@ void NactiPriklady(std::string_view soubor, Deska deska) {
 
 void PridejChybu(int cislo, std::string_view text, int body) {
     const std::filesystem::path cesta = NativniCesta(CestaHD + "Errors.dat");
-    int i = 0;
     int nalezeno = 0;
-    for (const std::string& ulozeny : CtiData(cesta)) {
-        ++i;
-        const std::string radek = DekodujRadek(ulozeny);
-        if (Cislo(std::string_view(radek).substr(0, DELKA_CISLA)) != cislo) continue;
-        const std::string misto = Misto(cesta, i);
+    ProjdiVety(cesta, [&](double toto, std::string_view veta, const std::string& misto) {
+        if (toto != cislo) return;
         if (++nalezeno > decltype(ChybneKroky)::POSLEDNI)
             throw BehovaChyba("Krok má v souboru více než 100 vět", misto);
-        if (radek.size() < NEJKRATSI_RADEK) throw BehovaChyba("Příliš krátký řádek", misto);
+        const std::string cela = Veta(veta, misto);
         SoucetZapornychBodu += body;
         ++PocetChybnychKroku;
         ChybnyKrok& krok = ChybneKroky[PocetChybnychKroku];
         krok.Cislo = TextBezMezery(cislo);
-        krok.Text = Z1250(radek.substr(ZACATEK_VETY, radek.size() - NEJKRATSI_RADEK), misto);
+        krok.Text = cela;
         krok.Text += text;
         krok.Vyhrazeno = 0;
         krok.Body = static_cast<std::int16_t>(body);
-    }
+    });
+}
+
+int PocetVet(std::string_view soubor) {
+    int pocet = 0;
+    ProjdiVety(NativniCesta(soubor),
+               [&](double cislo, std::string_view veta, const std::string& misto) {
+                   if (cislo == 0) return;
+                   static_cast<void>(Veta(veta, misto));
+                   ++pocet;
+               });
+    return pocet;
 }
 
 }  // namespace rysovna

@@ -32,4 +32,7 @@ void NactiPriklady(std::string_view soubor, Deska deska);
 /// The file is read anew each time.
 void PridejChybu(int cislo, std::string_view text, int body);
 
+/// How many sentences of wrong steps the file holds, each read as PridejChybu reads it.
+[[nodiscard]] int PocetVet(std::string_view soubor);
+
 }  // namespace rysovna

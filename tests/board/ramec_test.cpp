@@ -1,6 +1,7 @@
 // The frame of a board: panel, buttons, list, waits, series. Played on the triangle board.
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -344,6 +345,36 @@ TEST_F(RamecDesky, SmiseneTriPrikladyDajiSoucetZaznamALog) {
     EXPECT_EQ(std::ranges::count(r.Hra.CtiSoubor("Vysledky.dat"), '\n'), 4);
     r.Kdo.Stiskni("picKonec");
     EXPECT_EQ(r.Hra.JmenoVpredu(), "SetupForm");
+}
+
+/// A result that cannot be written ends nothing: it is told over the table, stands in it, and goes
+/// with the next one.
+TEST_F(RamecDesky, VysledekKteryNejdeZapsatHruNeukonci) {
+    const auto hraj = [](Rysovac& r) {
+        r.Zacni().Rysuj("vse").Zkontroluj();
+        r.Kdo.Stiskni("picPokracuj");
+        r.Hra.Cekej(2000);
+        EXPECT_EQ(r.Hra.JmenoVpredu(), "TabulkaForm");
+        EXPECT_EQ(AktivniForm.lock().get(), r.Hra.Vpredu());
+        EXPECT_EQ(r.Hra.Prvek<Label>("LSpravne", 1).Caption, "10");
+    };
+    Rysovac r(SSS, 1);
+    const auto denik = r.Hra.DataDir() / "Vysledky.dat", stranou = r.Hra.DataDir() / "stranou";
+    std::filesystem::rename(denik, stranou);
+    hraj(r);
+    ASSERT_EQ(r.Hra.Host().Zpravy.size(), 1U);
+    EXPECT_NE(r.Hra.Host().Zpravy[0].Text.find(denik.string() + " (neexistuje)"),
+              std::string::npos);
+    EXPECT_EQ(r.Hra.CtiSoubor("01.res"), "");
+    std::filesystem::rename(stranou, denik);
+    r.Kdo.Stiskni("picKonec");
+    r.Hra.Cekej(1000);
+    r.Hra.Stiskni("picPokracuj");
+    r.Hra.Cekej(200);
+    hraj(r);
+    EXPECT_EQ(r.Hra.Host().Zpravy.size(), 1U);
+    EXPECT_EQ(r.Hra.CtiSoubor("01.res"), "\x8E\xE1k|10|0|1\r\n\x8E\xE1k|10|0|1\r\n");
+    EXPECT_EQ(std::ranges::count(r.Hra.CtiSoubor("Vysledky.dat"), '\n'), 8);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "shell/Ini.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
+#include "shell/Ukladani.h"
 
 namespace rysovna::testy {
 
@@ -102,6 +103,62 @@ TEST_F(Start, ChybejiciSouborKonciPredPrepnutimObrazovky) {
     EXPECT_EQ(host.Okna().StavKonce(), 1);
     EXPECT_EQ(host.Zpravy, Zpravy{CHYBI_INI});
     EXPECT_TRUE(host.Rezimy.empty());
+}
+
+/// Data where nobody writes, results where the pupil may.
+TEST_F(Start, VysledkyMajiSvouSlozku) {
+    const fs::path koren = host.SlozkaSystemu;
+    const auto ini = [&](const std::string& vysledky) {
+        Ini("CD=assets", "HD=data\r\nVYSLEDKY=" + vysledky);
+    };
+    for (const auto& jmeno : JmenaVysledku()) fs::remove(relace.DataDir() / jmeno);
+    ini("vysledky");
+    EXPECT_FALSE(NactiKonfiguraci());  // the folder itself is not made
+    EXPECT_EQ(host.Zpravy.back(), CHYBI_DATA);
+    fs::create_directory(koren / "vysledky");
+    relace.PisSoubor("../vysledky/07.RES", "Eva|10|0|1\r\n");
+    const std::pair<std::string, fs::path> pripady[]{{"vysledky", koren / "vysledky"},
+                                                     {"ucet", host.SlozkaDat()}};
+    for (const auto& [klic, slozka] : pripady) {
+        ini(klic);
+        EXPECT_TRUE(NactiKonfiguraci()) << klic;
+        EXPECT_EQ(NativniCesta(CestaVysledku), slozka / "");
+        EXPECT_EQ(NativniCesta(CestaHD), relace.DataDir() / "");
+        EXPECT_EQ(std::distance(fs::directory_iterator(slozka), {}), 21) << klic;
+        EXPECT_EQ(Vysledky().Uloz({.CisloUlohy = 7, .Jmeno = "A", .Kladne = "1"}), "");
+    }
+    EXPECT_EQ(relace.CtiSoubor("../vysledky/07.RES"), "A|1||\r\nEva|10|0|1\r\n");
+    EXPECT_EQ(relace.CtiSoubor("../ucet/07.res"), "A|1||\r\n");
+    EXPECT_FALSE(fs::exists(relace.DataDir() / "07.res"));
+    // A missing key, or the value of one: the data root holds both, and nothing is made.
+    for (const char* klic : {"", "Chyba"}) {
+        ini(klic);
+        EXPECT_FALSE(NactiKonfiguraci());
+        EXPECT_EQ(CestaVysledku, CestaHD);
+    }
+}
+
+/// What could not be told when it happened is told at the next start, once.
+TEST_F(Start, CekajiciVysledkySeZapisiPriStartu) {
+    EXPECT_TRUE(NactiKonfiguraci());
+    fs::rename(relace.DataDir() / "01.res", relace.DataDir() / "stranou");
+    fs::create_directory(relace.DataDir() / "01.res");
+    EXPECT_NE(Vysledky().Uloz({.CisloUlohy = 1, .Jmeno = "A"}), "");
+    fs::remove(relace.DataDir() / "01.res");
+    fs::rename(relace.DataDir() / "stranou", relace.DataDir() / "01.res");
+    EXPECT_TRUE(NactiKonfiguraci());
+    EXPECT_EQ(relace.CtiSoubor("01.res"), "A|||\r\n");
+    EXPECT_EQ(host.Zpravy, Zpravy{});
+    // One of a program that was killed: nobody heard of it yet.
+    const CekajiciVysledek v{.Koren = fs::canonical(relace.DataDir()).string(),
+                             .Co = {.CisloUlohy = 1, .Jmeno = "B"}};
+    relace.PisSoubor("../stav/fronta/0000000009.vysledek", TextCekajiciho(v));
+    const auto cizi = host.Disk().Otevri(relace.DataDir() / "Vysledky.dat", Disk::Jak::Zapis);
+    ASSERT_TRUE(cizi->Zamkni());
+    for (int i = 0; i < 2; ++i) EXPECT_TRUE(NactiKonfiguraci());
+    ASSERT_EQ(host.Zpravy.size(), 1U);
+    EXPECT_EQ(host.Zpravy[0].Titul, "Upozornění");
+    EXPECT_NE(host.Zpravy[0].Text.find("Vysledky.dat"), std::string::npos);
 }
 
 TEST_F(Start, Obrazovka) {

@@ -102,7 +102,7 @@ std::filesystem::path HeadlessHost::SlozkaUctu(const char* jmeno) const {
 }
 
 std::string HeadlessHost::Overeni(const std::string& neni) {
-    if (!neni.empty()) Selhani(neni);
+    if (!neni.empty()) throw BehovaChyba(neni, "headless");
     return "bez obrazovky a zvuku";
 }
 

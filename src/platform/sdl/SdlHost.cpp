@@ -288,7 +288,7 @@ int SdlHost::ChangeDisplaySettings(const RezimObrazovky& rezim) {
 std::string SdlHost::OverObrazovku() {
     Okno zkusebni;
     if (!zkusebni.Otevri(false) || !zkusebni.MaPlochu())
-        Selhani(std::string("Okno nejde otevřít: ") + SDL_GetError());
+        throw BehovaChyba("Okno nejde otevřít", SDL_GetError());
     const RezimObrazovky rezim = GetDeviceCaps();
     return std::to_string(rezim.Sirka) + " × " + std::to_string(rezim.Vyska) + ", " +
            SDL_GetCurrentVideoDriver();

@@ -106,8 +106,8 @@ std::string Zvuk::Over() {
     Zacni(!std::exchange(prace_->Zacala, true));
     if (!prace_->Budik.wait_for(drzi, NEJDELE_OTVIRA,
                                 [this] { return prace_->Otevreno.has_value(); }))
-        Selhani("Zvukové zařízení neodpovídá");
-    if (!*prace_->Otevreno) Selhani("Zvukové zařízení není");
+        throw BehovaChyba("Neodpovídá", "hra může být bez zvuku");
+    if (!*prace_->Otevreno) throw BehovaChyba("Není", "hra bude bez zvuku");
     const char* ovladac = SDL_GetCurrentAudioDriver();
     return ovladac == nullptr ? "otevřeno" : ovladac;
 }

@@ -1,0 +1,133 @@
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <sstream>
+
+#include "platform/Host.h"
+#include "shell/Fronta.h"
+#include "shell/KontrolaPocitace.h"
+#include "shell/Ukladani.h"
+#include "shell/soubory_pomoc.h"
+
+namespace rysovna::testy {
+namespace {
+
+namespace fs = std::filesystem;
+
+class KontrolaHodiny : public Soubory {
+protected:
+    KontrolovanyStroj Stroj_() {
+        return {.SlozkaNastaveni = host.SlozkaSystemu,
+                .SlozkaStavu = host.SlozkaStavu(),
+                .SlozkaDat = host.SlozkaDat(),
+                .disk = host.Disk(),
+                .Obrazovka = [this] { return host.OverObrazovku(); },
+                .Zvuk = [this] { return host.OverZvuk(); }};
+    }
+    /// What is not in order, the folder cut out.
+    std::string Vady(const std::vector<Nalez>& nalezy) const {
+        std::string text;
+        for (const Nalez& n : nalezy) {
+            if (n.Stav == Nalez::Jak::VPoradku) continue;
+            text += (n.Stav == Nalez::Jak::Chyba ? "! " : "? ") + n.Co + ": " + n.Zjisteno + "\n";
+        }
+        for (const std::string& co :
+             {Cesta("").string(), fs::canonical(Cesta("")).string() + "/"}) {
+            for (auto i = text.find(co); i != std::string::npos; i = text.find(co))
+                text.erase(i, co.size());
+        }
+        return text;
+    }
+    std::string VadyVysledku() {
+        std::vector<Nalez> nalezy;
+        ZkontrolujVysledky(Stroj_(), CtiCesty(host.SlozkaSystemu, host.SlozkaDat()), nalezy);
+        return Vady(nalezy);
+    }
+};
+
+TEST_F(KontrolaHodiny, VseVPoradkuAKazdaVadaSvymJmenem) {
+    const std::vector<Nalez> dobre = ZkontrolujPocitac(Stroj_());
+    EXPECT_EQ(Vady(dobre), "");
+    EXPECT_EQ(dobre.size(), 11U);
+    std::ostringstream vypis;
+    EXPECT_EQ(VypisKontrolu(vypis, dobre), 0);
+    EXPECT_EQ(std::ranges::count(vypis.str(), '\n'), 12);
+
+    // Another folder of assets, the same files but for a few.
+    const fs::path spravne = NativniCesta(CestaCD), nase = Cesta("../assets");
+    for (const auto& soubor : fs::recursive_directory_iterator(spravne)) {
+        const fs::path sem = nase / fs::relative(soubor, spravne);
+        fs::create_directories(sem.parent_path());
+        if (!soubor.is_directory()) fs::create_symlink(soubor, sem);
+    }
+    const auto zmen = [&](const std::string& jmeno, const std::string& obsah) {
+        fs::remove(nase / jmeno);
+        Pis("../assets/" + jmeno, obsah);
+    };
+    fs::remove(nase / "Bitmap/Help/17.png");
+    fs::remove(nase / "Sound/enter.wav");
+    fs::remove(nase / "Bitmap/Tab/bckg.bmp");
+    zmen("Bitmap/Help/18.bmp", "BM");
+    zmen("Bitmap/Help/19.png", "png");
+    zmen("Sound/click.wav", "RIFF");
+    zmen("Fonts/DejaVuSans.ttf", "");
+    Pis("../Rysovna.ini", "[RYSOVNA1]\r\nCD=assets\r\nHD=data\r\n");
+    Pis("03.dat", "\r\n");
+    Pis("Znamky.dat", "");
+    Pis("Errors.dat", "xxx0xxx0xxx2\r\n");
+    fs::remove(Cesta("05.dat"));
+    host.NeniObrazovka = "Okno nejde otevřít";
+    host.NeniZvuk = "Není";
+    const std::vector<Nalez> vadne = ZkontrolujPocitac(Stroj_());
+    std::string vady = Vady(vadne);
+    for (const std::string radek : {
+             "! Obrazovka: Okno nejde otevřít (headless)",
+             "? Zvukové zařízení: Není (headless)",
+             "Help/17.bmp: chybí velké dvojče",
+             "Help/18.bmp: Vadný obrázek: je useknutý",
+             "Help/19.bmp: velké dvojče nelze přečíst",
+             "Tab/bckg.bmp: chybí",
+             "Sound/enter.wav: chybí",
+             "Sound/click.wav: není zvuk",
+             "Fonts/DejaVuSans.ttf: není písmo s českými znaky",
+             "! Data 03.dat: V souboru úlohy není žádný příklad",
+             "! Data 05.dat: Soubor nelze přečíst",
+             "! Data Znamky.dat: V souboru není žádná známka",
+             "! Data Errors.dat: Příliš krátký řádek",
+         }) {
+        EXPECT_NE(vady.find(radek), std::string::npos) << radek << " v\n" << vady;
+    }
+    EXPECT_EQ(std::ranges::count(vady, '\n'), 13) << vady;
+    EXPECT_EQ(VypisKontrolu(vypis, vadne), 1);
+}
+
+TEST_F(KontrolaHodiny, Vysledky) {
+    EXPECT_EQ(VadyVysledku(), "");
+    fs::remove(Cesta("05.res"));
+    fs::remove(Cesta("06.res"));
+    fs::create_directory(Cesta("06.res"));
+    EXPECT_EQ(VadyVysledku(),
+              "! Soubor výsledků: 05.res (neexistuje)\n! Soubor výsledků: 06.res (neexistuje)\n");
+    fs::remove(Cesta("06.res"));
+    for (const char* s : {"05.res", "06.res"}) Pis(s, "");
+    {
+        const auto cizi = host.Disk().Otevri(Cesta("Vysledky.dat"), Disk::Jak::Zapis);
+        ASSERT_TRUE(cizi->Zamkni());
+        EXPECT_EQ(VadyVysledku(), "! Zámek výsledků: Vysledky.dat: drží jej jiný program\n");
+        const std::uint32_t od = host.TickCount();
+        EXPECT_NE(Vysledky().Uloz({.CisloUlohy = 1}), "");
+        EXPECT_GT(host.TickCount(), od);
+    }
+    const std::string fronta = Fronta::Slozka(host.SlozkaStavu()).string();
+    EXPECT_EQ(VadyVysledku(), "? Výsledky uložené stranou: " + fronta + ": čeká jich 1\n");
+    fs::remove_all(fronta);
+    // Nothing is made, not even what the game would make.
+    Pis("../Rysovna.ini", "[RYSOVNA1]\r\nCD=assets\r\nHD=data\r\nVYSLEDKY=ucet\r\n");
+    EXPECT_EQ(VadyVysledku(), "");
+    EXPECT_FALSE(fs::exists(host.SlozkaDat()));
+    EXPECT_FALSE(fs::exists(fronta));
+    Pis("../Rysovna.ini", "[RYSOVNA1]\r\nCD=assets\r\nHD=data\r\nVYSLEDKY=neni\r\n");
+    EXPECT_TRUE(VadyVysledku().starts_with("! Soubor výsledků: "));
+}
+
+}  // namespace
+}  // namespace rysovna::testy
