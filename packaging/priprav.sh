@@ -4,7 +4,8 @@
 
 BALICKY_HRA="g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libfreetype-dev
     librsvg2-dev fonts-liberation fonts-dejavu-core"
-BALICKY_TESTY="libgtest-dev xvfb xdotool x11-utils imagemagick clang-format clang-tidy-16"
+BALICKY_TESTY="libgtest-dev xvfb xdotool x11-utils imagemagick sway grim
+    clang-format clang-tidy-16"
 BALICKY_BENCH="libbenchmark-dev xvfb xdotool x11-utils"
 
 # Czech letters are typed, printed and compared in UTF-8, whatever the machine is set to.

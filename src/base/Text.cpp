@@ -94,4 +94,8 @@ std::string BezUvodnichMezer(std::string_view text) {
     return zacatek == std::string_view::npos ? std::string() : std::string(text.substr(zacatek));
 }
 
+std::string BezKrajnichMezer(std::string_view text) {
+    return BezUvodnichMezer(text.substr(0, text.find_last_not_of(' ') + 1));
+}
+
 }  // namespace rysovna

@@ -19,4 +19,7 @@ std::string Dopln(std::string_view utf8, int sirka);
 /// Without the blanks at its beginning.
 std::string BezUvodnichMezer(std::string_view text);
 
+/// Without the blanks at both its ends.
+std::string BezKrajnichMezer(std::string_view text);
+
 }  // namespace rysovna

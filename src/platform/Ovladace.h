@@ -97,11 +97,13 @@ struct TextBox : Ovladac {
     TextBox() : Ovladac(Typ::TextBox) {}
     std::string Text;
     Barva BackColor = BILA;
-    bool MultiLine = false;  ///< shown in rows, with no editing
-    int MaxLength = 0;       ///< characters; 0 is no limit
-    int SelStart = 0;        ///< the caret's end of the selection
-    int SelAnchor = 0;       ///< the other end
-    int Posun = 0;           ///< how far the text is scrolled, px
+    bool MultiLine = false;         ///< shown in rows, with no editing
+    int MaxLength = 0;              ///< characters; 0 is no limit
+    std::u32string Zakazane;        ///< what cannot be typed or pasted, besides control characters
+    bool BezUvodnichMezer = false;  ///< blanks at the beginning are left out
+    int SelStart = 0;               ///< the caret's end of the selection
+    int SelAnchor = 0;              ///< the other end
+    int Posun = 0;                  ///< how far the text is scrolled, px
 
     /// The rows in which a box of several lines shows its text.
     [[nodiscard]] std::vector<std::string> Radky() const;

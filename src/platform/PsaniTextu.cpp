@@ -77,24 +77,33 @@ int PsaniTextu::Delka() const {
 }
 
 bool PsaniTextu::Nahrad(const std::u32string& novy) {
-    std::u32string znaky = DoZnaku(t_.Text);
+    const std::u32string znaky = DoZnaku(t_.Text);
     const int od = std::min(t_.SelStart, t_.SelAnchor);
     const int po = std::max(t_.SelStart, t_.SelAnchor);
+    const std::u32string pred = znaky.substr(0, Z(od));
+    std::u32string za = znaky.substr(Z(po));
     std::u32string vejde = novy;
-    if (t_.MaxLength > 0) {
-        const int zbyva = t_.MaxLength - (static_cast<int>(znaky.size()) - (po - od));
-        vejde.resize(std::min(vejde.size(), Z(std::max(zbyva, 0))));
+    if (t_.BezUvodnichMezer && pred.empty()) {
+        vejde.erase(0, vejde.find_first_not_of(U' '));
+        if (vejde.empty()) za.erase(0, za.find_first_not_of(U' '));
     }
-    if (vejde.empty() && (od == po || !novy.empty())) return false;
-    znaky.replace(Z(od), Z(po - od), vejde);
-    t_.Text = ZeZnaku(znaky);
+    if (t_.MaxLength > 0) {
+        const bool neco = !vejde.empty();
+        const int zbyva = t_.MaxLength - static_cast<int>(pred.size() + za.size());
+        vejde.resize(std::min(vejde.size(), Z(std::max(zbyva, 0))));
+        if (neco && vejde.empty()) return false;  // no room: what is selected stays
+    }
+    if (vejde.empty() && od == po) return false;
+    t_.Text = ZeZnaku(pred + vejde + za);
     Posad(od + static_cast<int>(vejde.size()), false);
     return true;
 }
 
 bool PsaniTextu::Napis(std::string_view utf8) {
     std::u32string znaky = DoZnaku(utf8);
-    std::erase_if(znaky, [](char32_t z) { return z < U' ' || (z >= 0x7F && z < 0xA0); });
+    std::erase_if(znaky, [this](char32_t z) {
+        return z < U' ' || (z >= 0x7F && z < 0xA0) || t_.Zakazane.find(z) != std::u32string::npos;
+    });
     if (znaky.empty()) return false;
     // A mark that comes alone belongs to the letter before the caret.
     if (t_.SelStart == t_.SelAnchor && t_.SelStart > 0) {

@@ -12,9 +12,9 @@ class PsaniTextu {
 public:
     explicit PsaniTextu(TextBox& t);
 
-    /// Typed or pasted text in place of the selection; control characters are left out, and what
-    /// is over MaxLength. A letter and a mark behind it that have one letter in the code page of
-    /// the files become that one.
+    /// Typed or pasted text in place of the selection; control characters are left out, what the
+    /// box forbids, and what is over MaxLength. A letter and a mark behind it that have one letter
+    /// in the code page of the files become that one.
     bool Napis(std::string_view utf8);
     /// A key by its name, as Obrazovky::Klavesa. vzal: whether the key means something here.
     bool Klavesa(std::string_view jmeno, int shift, bool& vzal);

@@ -32,6 +32,11 @@ SetupForm::SetupForm() {
         ICislo[k].Top = MISTA_CISLIC[k].Y;
     }
     Pridej(TJmeno, "TJmeno", {406, 413, 195, 20});
+    // A name cannot begin with blanks, so a name of blanks alone is none; "|" stands between the
+    // fields of a record.
+    TJmeno.BezUvodnichMezer = true;
+    TJmeno.MaxLength = NEJDELSI_JMENO;
+    TJmeno.Zakazane = U"|";
     Pridej(picPokracuj, "picPokracuj", {526, 457, 94, 23});
     picPokracuj.Visible = false;
     Pridej(picKonec, "picKonec", {546, 5, 91, 75});
@@ -80,15 +85,7 @@ void SetupForm::Kontrola() {
     Roluj(*this, picPokracuj, [this, moje] { return pokracujNahore_ && rolovani_ == moje; });
 }
 
-/// A name cannot begin with blanks, so a name of blanks alone is none.
-void SetupForm::Change(TextBox& t) {
-    const std::string bez = BezUvodnichMezer(t.Text);
-    const int ubylo = PocetZnaku(t.Text) - PocetZnaku(bez);
-    if (ubylo > 0) {
-        t.Text = bez;
-        t.SelStart = std::max(t.SelStart - ubylo, 0);
-        t.SelAnchor = std::max(t.SelAnchor - ubylo, 0);
-    }
+void SetupForm::Change(TextBox& /*t*/) {
     Kontrola();
 }
 
@@ -118,7 +115,7 @@ void SetupForm::ZvolPocet(std::size_t k) {
 /// shows: a press on it during the wait may already lead on to another screen.
 void SetupForm::SpustDesku() {
     ZvukStisku();
-    JmenoHrace = TJmeno.Text;
+    JmenoHrace = BezKrajnichMezer(TJmeno.Text);
     const std::shared_ptr<Form> deska = VyrobDeskuUlohy(CisloUlohy);
     if (!deska) return;
     Obrazovky& okna = Stroj().Okna();

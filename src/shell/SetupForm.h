@@ -11,6 +11,8 @@ namespace rysovna {
 /// choice of a task; only hidden while its board is up.
 class SetupForm final : public Form {
 public:
+    static constexpr int NEJDELSI_JMENO = 60;  ///< characters
+
     SetupForm();
     [[nodiscard]] std::string_view Jmeno() const override { return "SetupForm"; }
 

@@ -22,17 +22,21 @@ na_obrazovku() {
 }
 fotka() { [ -z "$obrazky" ] || { mkdir -p "$obrazky"; import -window root "$obrazky/${sirka}_$1.png"; }; }
 
-# A display with a number that nobody has; the game with no results in it, in a full-screen window.
-#   spust [arguments of the game...]
-spust() {
+# A display with a number that nobody has.
+displej() {
     exec 3<>"$prace/cislo"
-    Xvfb -displayfd 3 -screen 0 "${sirka}x${vyska}x24" -nolisten tcp >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "${sirka}x${vyska}x24" -nolisten tcp -noreset >/dev/null 2>&1 &
     pid_x=$!
     for _ in $(seq 100); do [ -s "$prace/cislo" ] && break; sleep 0.1; done
     DISPLAY=":$(cat "$prace/cislo")"
     export DISPLAY
     [ "$DISPLAY" != ":" ] || selhani "Xvfb se nespustil"
+}
 
+# A display, and on it the game with no results in it, in a full-screen window.
+#   spust [arguments of the game...]
+spust() {
+    displej
     cp -r "$staging" "$prace/hra"
     for i in $(seq -w 20); do : >"$prace/hra/data/$i.res"; done
     : >"$prace/hra/data/Vysledky.dat"

@@ -74,6 +74,30 @@ TEST_F(PsaniTest, NejvetsiDelkaPocitaZnaky) {
     EXPECT_EQ(Stav(Pole()), "ěš|uť") << "as much as there is room for";
 }
 
+TEST_F(PsaniTest, CoPoleNedovoliSeNenapise) {
+    Pole().MaxLength = 5;
+    Pole().Zakazane = U"|#";
+    Pole().BezUvodnichMezer = true;
+    Host_.Schranka = "  a|b\x07#c\tdefg";
+    const std::pair<Seznam_t, const char*> PRIPADY[] = {
+        {{"C-v"}, "abcde|"},           // the blanks take no room
+        {{"+|", "+#", "+\x7F"}, "|"},  // nothing of it
+        {{"+a|b|"}, "ab|"},
+        {{"+ ", "+ b"}, "b|"},
+        {{"+ab", "Home", "+ "}, "|ab"},
+        {{"+a  b", "Home", "Delete"}, "|b"},  // what comes to be the beginning
+        {{"+a b", "S-Home", "+ "}, "|"},
+        {{"+abcde", "S-Left", "S-Left", "+xyz"}, "abcxy|"},
+        {{"+abcde", "Left", "+x"}, "abcd|e"},
+        {{"+abc", "Home", "C-v"}, "ab|abc"},
+    };
+    for (const auto& [kroky, ceka] : PRIPADY) {
+        Hraj({"C-a", "Delete"});
+        Hraj(kroky);
+        EXPECT_EQ(Stav(Pole()), ceka);
+    }
+}
+
 TEST_F(PsaniTest, ChangePrijdeJenPriZmeneACoNelzeVidetNelzePsat) {
     Hraj({"+a", "Left", "BackSpace", "C-c", "C-x", "Delete", "Return"});
     EXPECT_EQ(Form_->Vezmi(), (Seznam_t{"Change a", "Change ", "Klavesa Return"}));

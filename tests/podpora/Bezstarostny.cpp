@@ -40,7 +40,7 @@ constexpr VahaPrvku VAHY[] = {
 
 constexpr std::string_view TEXTY[] = {"Žofie", "12,5", "-3", "  ",  "řeřicha", "999999999999",
                                       "1e5",   ".5",   "x",  "0",   "Ω",       "18",
-                                      "180",   "25",   "#",  "\"'", "60"};
+                                      "180",   "25",   "#",  "\"'", "60",      "a|b"};
 constexpr std::string_view KLAVESY[] = {"Return", "Escape", "BackSpace", "Delete", "Left", "Right",
                                         "Home",   "End",    "Tab",       "Space",  "Up",   "Down",
                                         "a",      "c",      "v",         "x"};

@@ -21,8 +21,8 @@ using hrac::Relace;
 /// it looks whether the score tables and the log are whole. Every run with the same seed is the
 /// same.
 ///
-/// It keeps from two things that are settled to end badly: a "|" in a name shifts the fields of
-/// its record, and the hundred and first wrong step of one example is a fault.
+/// It keeps from one thing that is settled to end badly: the hundred and first wrong step of one
+/// example is a fault.
 class Bezstarostny {
 public:
     /// rodina: the family of tasks that it keeps to, but for a slip now and then, in the order of

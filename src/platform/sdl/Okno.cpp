@@ -3,7 +3,9 @@
 #include <SDL.h>
 #include <algorithm>
 #include <cmath>
+#include <string>
 
+#include "base/Chyba.h"
 #include "platform/Obrazovky.h"
 #include "platform/sdl/OknoX11.h"
 
@@ -110,15 +112,15 @@ void Okno::Rozmer() {
     malir_->Znovu();
 }
 
-SDL_Surface* Okno::Plocha() {
-    return okno_ == nullptr ? nullptr : SDL_GetWindowSurface(okno_);
+bool Okno::MaPlochu() {
+    return okno_ != nullptr && SDL_GetWindowSurface(okno_) != nullptr;
 }
 
 void Okno::Prekresli(const Obrazovky& okna, std::uint32_t ted) {
     // Nothing to show yet: an empty window would only flash.
     if (okno_ == nullptr || (!ukazane_ && okna.Viditelne().empty())) return;
-    SDL_Surface* plocha = Plocha();
-    if (plocha == nullptr) return;
+    SDL_Surface* plocha = SDL_GetWindowSurface(okno_);
+    if (plocha == nullptr) Selhani(std::string("Do okna hry se nedá kreslit. ") + SDL_GetError());
     const bool primo = plocha->format->BytesPerPixel == 4 && plocha->format->Rmask == 0xFF0000u &&
                        plocha->format->Gmask == 0xFF00u && plocha->format->Bmask == 0xFFu &&
                        !SDL_MUSTLOCK(plocha);

@@ -6,7 +6,6 @@
 #include "platform/Malir.h"
 
 struct SDL_Window;
-struct SDL_Surface;
 
 namespace rysovna {
 
@@ -32,7 +31,10 @@ public:
     [[nodiscard]] bool MaPlochu() { return Plocha() != nullptr; }
     void PrepniCelouObrazovku();
 
-    /// Paints what changed and shows it.
+    /// Whether it is open and its pixels can be had.
+    [[nodiscard]] bool MaPlochu();
+    /// Paints what changed and shows it. Pixels that cannot be had are a run-time fault: the game
+    /// would run and never be seen.
     void Prekresli(const Obrazovky& okna, std::uint32_t ted);
     /// Shows all again: the system lost what was shown.
     void Odkryto();
@@ -46,7 +48,6 @@ public:
 
 private:
     void Umisti(const Obdelnik& kde);
-    SDL_Surface* Plocha();
 
     SDL_Window* okno_ = nullptr;
     bool cela_ = false;

@@ -115,8 +115,6 @@ void NastavSdl() {
 #if !defined(_WIN32) && !defined(__APPLE__)
     NastavJazykKlaves();
 #endif
-    // The software surface opens in half the time of the accelerated one and needs less memory.
-    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
     SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
@@ -130,7 +128,20 @@ void NastavSdl() {
 #endif
 }
 
-/// The system's own message box, for when ours cannot be drawn.
+std::string ObrazovyOvladac() {
+    const char* jmeno = SDL_GetCurrentVideoDriver();
+    return jmeno == nullptr ? "" : jmeno;
+}
+
+/// How the window's pixels get to the screen: settled before the first window asks for them. The
+/// library's own software surface opens in half the time of one that goes through the graphics
+/// card and needs less memory; under Wayland there is none.
+void ZvolPlochuOkna() {
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, ObrazovyOvladac() == "wayland" ? "1" : "0");
+}
+
+/// The system's own message box, for when ours cannot be drawn; on the error output besides, which
+/// is where it stays if there is no such box.
 Odpoved SystemovaZprava(const std::string& text, const std::string& titul, Styl styl) {
     constexpr SDL_MessageBoxButtonData ANO{SDL_MESSAGEBOX_BUTTON_RETURNKEY_DEFAULT,
                                            static_cast<int>(Odpoved::Ano), "Ano"};
@@ -148,7 +159,8 @@ Odpoved SystemovaZprava(const std::string& text, const std::string& titul, Styl 
     data.numbuttons = otazka ? 2 : 1;
     data.buttons = otazka ? anoNe : &OK;
     int stisknute = 0;
-    if (SDL_ShowMessageBox(&data, &stisknute) != 0) std::cerr << titul << ": " << text << '\n';
+    std::cerr << titul << ": " << text << '\n';
+    SDL_ShowMessageBox(&data, &stisknute);
     if (!otazka) return Odpoved::Ok;
     return stisknute == static_cast<int>(Odpoved::Ano) ? Odpoved::Ano : Odpoved::Ne;
 }
@@ -208,9 +220,9 @@ bool SdlHost::MaDisplej() {
         if (!Promenna("DISPLAY").empty()) SnesPozdniZpravy();
         if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return false;
     }
-    const char* ovladac = SDL_GetCurrentVideoDriver();
-    const std::string jmeno = ovladac == nullptr ? "" : ovladac;
-    return !jmeno.empty() && jmeno != "offscreen" && jmeno != "dummy";
+    ZvolPlochuOkna();
+    const std::string ovladac = ObrazovyOvladac();
+    return !ovladac.empty() && ovladac != "offscreen" && ovladac != "dummy";
 }
 
 std::uint32_t SdlHost::TickCount() {
@@ -259,7 +271,8 @@ void SdlHost::Prekresli() {
 }
 
 Odpoved SdlHost::MsgBox(const std::string& text, const std::string& titul, Styl styl) {
-    if (!MamePisma() || (!vnitrek_->Okno_.Otevrene() && !vnitrek_->Okno_.Otevri(false)))
+    Okno& okno = vnitrek_->Okno_;
+    if (!MamePisma() || (!okno.Otevrene() && !okno.Otevri(false)) || !okno.MaPlochu())
         return SystemovaZprava(text, titul, styl);
     return UkazZpravu(*this, text, titul, styl);
 }

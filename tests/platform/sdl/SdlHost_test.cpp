@@ -1,0 +1,211 @@
+// The host of the window on a display without a window manager, fed by the library's own queue of
+// events: what comes in one batch must not get lost.
+
+#include "platform/sdl/SdlHost.h"
+
+#include <SDL.h>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <vector>
+
+#include "platform/Form.h"
+#include "platform/Obrazovky.h"
+#include "shell/Misc.h"
+#include "shell/SelectForm.h"
+
+namespace rysovna::testy {
+namespace {
+
+namespace fs = std::filesystem;
+using Hodiny = std::chrono::steady_clock;
+
+constexpr int STRED_X = 320, STRED_Y = 240;
+constexpr std::uint32_t DLOUHO = 3000;  // ms, that nothing here may take
+
+long long Ms(Hodiny::time_point od) {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(Hodiny::now() - od).count();
+}
+
+SDL_Event Tlacitko(bool dolu, int x = STRED_X, int y = STRED_Y) {
+    SDL_Event e{};
+    e.type = dolu ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP;
+    e.button.timestamp = SDL_GetTicks();
+    e.button.button = SDL_BUTTON_LEFT;
+    e.button.state = dolu ? SDL_PRESSED : SDL_RELEASED;
+    e.button.x = x;
+    e.button.y = y;
+    return e;
+}
+SDL_Event Zamereni() {
+    SDL_Event e{};
+    e.type = SDL_WINDOWEVENT;
+    e.window.event = SDL_WINDOWEVENT_FOCUS_GAINED;
+    return e;
+}
+SDL_Event Pohyb() {
+    SDL_Event e{};
+    e.type = SDL_MOUSEMOTION;
+    e.motion.x = STRED_X;
+    e.motion.y = STRED_Y;
+    return e;
+}
+SDL_Event Klavesa(SDL_Keycode kod) {
+    SDL_Event e{};
+    e.type = SDL_KEYDOWN;
+    e.key.keysym.sym = kod;
+    return e;
+}
+
+/// All of them stand in the queue at once.
+void Davka(std::vector<SDL_Event> udalosti) {
+    SDL_PeepEvents(udalosti.data(), static_cast<int>(udalosti.size()), SDL_ADDEVENT, 0, 0);
+}
+
+/// Counts what reaches it.
+class PocitadloForm final : public Form {
+public:
+    std::string_view Jmeno() const override { return "PocitadloForm"; }
+    void Load() override { Maximised = true; }
+    void MouseDown(Ovladac* /*o*/, const Mys& /*m*/) override { ++Stisku; }
+    void Click(Ovladac* /*o*/) override { ++Kliku; }
+    bool Klavesa(std::string_view /*klavesa*/) override { return ++Klaves > 0; }
+    int Stisku = 0, Kliku = 0, Klaves = 0;
+};
+
+class NaOkne : public testing::Test {
+protected:
+    ~NaOkne() override { Host_.Okna().UnloadVse(); }
+    /// Paints, and takes what the window itself has to say.
+    void Ustal() {
+        for (int i = 0; i < 10; ++i) Host_.DoEvents(20);
+    }
+
+    SdlHost Host_{1};
+    HostNaDobu NaDobu_{Host_};
+};
+
+/// The move is taken alone, the press and the release come after it in one batch, and then nothing
+/// more: no window manager, no focus, no caret that blinks.
+TEST_F(NaOkne, CoCekaNaStiskNecekaAzNaDalsiUdalost) {
+    ASSERT_EQ(Host_.ChangeDisplaySettings({640, 480, 16}), 0);
+    const auto form = Host_.Okna().Nacti<PocitadloForm>();
+    Host_.Okna().Show(*form);
+    Ustal();
+    const std::vector<SDL_Event> klik = {Tlacitko(true), Tlacitko(false)};
+    std::vector<SDL_Event> seZamerenim = klik;
+    seZamerenim.insert(seZamerenim.begin(), Zamereni());
+    int kliku = 0;
+    for (const auto& davka : {klik, seZamerenim, klik}) {
+        Davka(davka);
+        const auto zacatek = Hodiny::now();
+        Host_.DoEvents(DLOUHO);
+        EXPECT_LT(Ms(zacatek), DLOUHO / 2) << "batch " << kliku;
+        EXPECT_EQ(form->Kliku, ++kliku);
+        Host_.Spi(600);  // no double click
+    }
+}
+
+/// A click on the title: ms from its showing, a move just ahead of it, in one batch with the focus.
+struct KlikNaTitul {
+    std::uint32_t Kdy;
+    bool Pohyb, Zamereni;
+};
+
+class Titul : public NaOkne, public testing::WithParamInterface<KlikNaTitul> {
+protected:
+    Titul() {
+        const std::string staging = std::getenv("RYSOVNA_STAGING");
+        fs::create_directories(Nastaveni_ / "rysovna");
+        std::ofstream(Nastaveni_ / "rysovna" / "Rysovna.ini")
+            << "[RYSOVNA1]\r\nCD=" << staging << "/assets\r\nHD=" << staging << "/data\r\n";
+        setenv("XDG_CONFIG_HOME", Nastaveni_.c_str(), 1);
+        VychoziRelace();
+    }
+    ~Titul() override { fs::remove_all(Nastaveni_); }
+
+    fs::path Nastaveni_ = fs::temp_directory_path() / ("rysovna_" + std::to_string(getpid()));
+};
+
+TEST_P(Titul, SkonciPoKratkemKliku) {
+    Host_.Okna().Nacti<SelectForm>();
+    ASSERT_EQ(Host_.Okna().Vpredu()->Jmeno(), "IntroForm");
+    const auto zacatek = Hodiny::now();
+    // From another thread, while the program waits.
+    std::vector<SDL_Event> klik = {Tlacitko(true), Tlacitko(false)};
+    if (GetParam().Zamereni) klik.insert(klik.begin(), Zamereni());
+    if (GetParam().Pohyb) klik.insert(klik.begin(), Pohyb());
+    const SDL_TimerID casovac = SDL_AddTimer(
+        std::max(GetParam().Kdy, 1U),
+        [](Uint32, void* data) -> Uint32 {
+            for (SDL_Event& e : *static_cast<std::vector<SDL_Event>*>(data)) SDL_PushEvent(&e);
+            return 0;
+        },
+        &klik);
+    while (Host_.Okna().Vpredu()->Jmeno() == "IntroForm") Host_.DoEvents(100);
+    SDL_RemoveTimer(casovac);
+    EXPECT_LT(Ms(zacatek), std::max(GetParam().Kdy, 1000U) + 1000) << "ten seconds by itself";
+    EXPECT_EQ(Host_.Okna().Vpredu()->Jmeno(), "SelectForm");
+}
+
+INSTANTIATE_TEST_SUITE_P(KlikyNaTitul, Titul,
+                         testing::Values(KlikNaTitul{0, false, false}, KlikNaTitul{300, true, true},
+                                         KlikNaTitul{1300, true, false},
+                                         KlikNaTitul{1700, true, true},
+                                         KlikNaTitul{1700, false, false}));
+
+/// What is pressed in a closed wait is lost, what is typed is not, and the wait keeps its time.
+TEST_F(NaOkne, ZavreneCekaniBereVstupZaBehu) {
+    ASSERT_EQ(Host_.ChangeDisplaySettings({640, 480, 16}), 0);
+    const auto form = Host_.Okna().Nacti<PocitadloForm>();
+    Host_.Okna().Show(*form);
+    Ustal();
+    const auto zacatek = Hodiny::now();
+    Host_.Okna().CekejZavrene([&] {
+        Davka({Tlacitko(true), Tlacitko(false), Klavesa(SDLK_RETURN)});
+        for (int i = 0; i < 5; ++i) Host_.Spi(40);
+        Davka({Tlacitko(true)});
+    });
+    EXPECT_GE(Ms(zacatek), 200);
+    EXPECT_LT(Ms(zacatek), 400);
+    EXPECT_EQ(form->Stisku + form->Klaves, 0);
+    Davka({Tlacitko(false), Tlacitko(true, 100, 100), Tlacitko(false, 100, 100)});
+    Ustal();
+    EXPECT_EQ(form->Klaves, 1);
+    EXPECT_EQ(form->Stisku, 1);
+    EXPECT_EQ(form->Kliku, 1);
+}
+
+/// A press that was made while the program was busy may be older than the library says.
+TEST_F(NaOkne, DvojklikPlatiIKdyzProgramMeziTimPracoval) {
+    ASSERT_EQ(Host_.ChangeDisplaySettings({640, 480, 16}), 0);
+    const auto form = Host_.Okna().Nacti<PocitadloForm>();
+    Host_.Okna().Show(*form);
+    Ustal();
+    const auto dvakrat = [&](bool pracoval) {
+        const auto nahore = Host_.Okna().Nacti<PocitadloForm>();
+        Host_.Okna().Show(*nahore);
+        Davka({Tlacitko(true), Tlacitko(false)});
+        Host_.DoEvents(0);
+        Host_.Okna().Unload(*nahore);
+        if (pracoval) {
+            SDL_Delay(700);
+        } else {
+            const auto zacatek = Hodiny::now();
+            while (Ms(zacatek) < 700) Host_.DoEvents(20);
+        }
+        form->Stisku = 0;
+        Davka({Tlacitko(true), Tlacitko(false)});
+        Host_.DoEvents(0);
+        return form->Stisku;
+    };
+    EXPECT_EQ(dvakrat(true), 0);
+    SDL_Delay(600);
+    Ustal();
+    EXPECT_EQ(dvakrat(false), 1);
+}
+
+}  // namespace
+}  // namespace rysovna::testy
