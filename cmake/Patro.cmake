@@ -14,6 +14,21 @@ endif()
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "i[3-6]86")
     target_compile_options(prisnost INTERFACE -msse2 -mfpmath=sse)
 endif()
+# A mistake in the handling of memory ends the program and gives nobody a hold: guarded stacks,
+# checked copies (these want optimisation, and would be in the sanitizers' way), addresses that
+# differ each time, and tables of them that are read only once all is linked, at the start.
+target_compile_options(prisnost INTERFACE -fstack-protector-strong)
+if(NOT RYSOVNA_SANITIZE)
+    target_compile_options(prisnost INTERFACE
+        $<$<CONFIG:Release>:-U_FORTIFY_SOURCE> $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+endif()
+if(NOT WIN32 AND NOT APPLE)
+    target_link_options(prisnost INTERFACE LINKER:-z,relro LINKER:-z,now)
+endif()
+if(RYSOVNA_ODR)
+    # Objects for either kind of link: few programs are linked with all their parts at hand.
+    target_compile_options(prisnost INTERFACE -flto -ffat-lto-objects)
+endif()
 if(RYSOVNA_SANITIZE)
     # Instrumented code makes the compiler see uninitialized values in the library where none are.
     target_compile_options(prisnost INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all

@@ -42,11 +42,12 @@ zdroje() {
     echo "$seznam"
 }
 
-# sestav FOLDER [cmake options...]: configures and builds everything there.
+# sestav FOLDER [cmake options...]: configures and builds everything there, or what CILE names.
 sestav() {
     slozka="$1"
     shift
     cmake -S . -B "$slozka" -G Ninja "$@" >"$slozka.cmake.log" 2>&1 ||
         { cat "$slozka.cmake.log" >&2; return 1; }
-    ninja -C "$slozka"
+    # shellcheck disable=SC2086
+    ninja -C "$slozka" ${CILE:-}
 }

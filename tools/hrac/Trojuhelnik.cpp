@@ -171,18 +171,16 @@ void DokonalyTrojuhelnik::NarysujVysku(std::string_view vyska) {
     const int cm = ruka_.Hodnota(vyska);
     const Bod smer{strana_.DoBod.X - strana_.OdBod.X, strana_.DoBod.Y - strana_.OdBod.Y};
     const double px = cm * PIXELU_NA_CM * (smer.X > 0 ? 1 : -1) / std::hypot(smer.X, smer.Y);
-    const Bod nahoru{Zaokrouhli(smer.Y * px), -Zaokrouhli(smer.X * px)};
-    Bod od = Stred();
-    Bod kam{od.X + nahoru.X, od.Y + nahoru.Y};
+    /// So many ways of the side from its beginning, and so many heights up.
+    const auto misto = [&](double podel, int nahoru) {
+        return Bod{Zaokrouhli(strana_.OdBod.X + smer.X * podel + nahoru * smer.Y * px),
+                   Zaokrouhli(strana_.OdBod.Y + smer.Y * podel - nahoru * smer.X * px)};
+    };
+    Bod od = misto(0.5, 0);
+    Bod kam = misto(0.5, 1);
     for (int i = 0; i < POKUSU; ++i) {
-        const double t = los_.Mezi(-100, 200) / 100.0;
-        const double u = los_.Mezi(-100, 200) / 100.0;
-        const auto naStrane = [&](double kde) {
-            return Bod{strana_.OdBod.X + Zaokrouhli(smer.X * kde),
-                       strana_.OdBod.Y + Zaokrouhli(smer.Y * kde)};
-        };
-        const Bod p = naStrane(t);
-        const Bod q{naStrane(u).X + nahoru.X, naStrane(u).Y + nahoru.Y};
+        const Bod p = misto(los_.Mezi(-100, 200) / 100.0, 0);
+        const Bod q = misto(los_.Mezi(-100, 200) / 100.0, 1);
         // Upward: only there the read-out has no sign.
         if (!NaPlose(p) || !NaPlose(q) || q.Y >= p.Y) continue;
         od = p;

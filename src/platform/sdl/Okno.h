@@ -27,8 +27,6 @@ public:
     /// Puts it away for good.
     void Zavri();
     [[nodiscard]] bool Otevrene() const { return okno_ != nullptr; }
-    /// Whether there is anything to paint on.
-    [[nodiscard]] bool MaPlochu() { return Plocha() != nullptr; }
     void PrepniCelouObrazovku();
 
     /// Whether it is open and its pixels can be had.
