@@ -136,6 +136,12 @@ TEST_P(Procesy, KazdyVysledekPraveJednou) {
     }
     EXPECT_EQ(VTabulce(), ocekavane);
     EXPECT_EQ(VDeniku(), ocekavane);
+    struct stat stav {};
+    ASSERT_EQ(stat((data / "01.res").c_str(), &stav), 0);
+    EXPECT_EQ(stav.st_mode & 07777, 0666U);
+    if (geteuid() == 0) {
+        EXPECT_EQ(stav.st_gid, SKUPINA);
+    }
     std::cout << GetParam().Jmeno << ": " << programu << " programů, " << programu * vysledku
               << " výsledků, hned uložených " << ulozenych << ", "
               << std::chrono::duration_cast<std::chrono::milliseconds>(trvalo).count() << " ms\n";
