@@ -70,7 +70,7 @@ void TabulkaForm::VyplnRadky() {
 void TabulkaForm::NactiTabulku() {
     Disk& disk = Stroj().Disk();
     try {
-        zaznamy_ = CtiTabulku(disk, disk.Skutecna(SouborTabulky()));
+        zaznamy_ = rysovna::NactiTabulku(disk, disk.Skutecna(SouborTabulky()));
     } catch (const ChybaDisku&) {
         // What a result has to say of it, it says when it is stored.
         zaznamy_.assign(1, {"Tabulku výsledků nelze přečíst", "", "", ""});

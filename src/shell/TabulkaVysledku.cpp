@@ -104,7 +104,7 @@ std::string SlozTabulku(const std::vector<ZaznamTabulky>& zaznamy) {
     return obsah;
 }
 
-std::vector<ZaznamTabulky> CtiTabulku(Disk& disk, const std::filesystem::path& soubor) {
+std::vector<ZaznamTabulky> NactiTabulku(Disk& disk, const std::filesystem::path& soubor) {
     // A writer may be changing the file in place. Twice the same is no mixture: while the old
     // table is being written over, the whole new one stands behind it.
     constexpr int NEJVYSE = 20;
@@ -170,10 +170,13 @@ int OtevrenaTabulka::Kolikrat(const ZaznamTabulky& zaznam) const {
     return static_cast<int>(std::ranges::count(RozdelTabulku(platna_), cteny));
 }
 
-void OtevrenaTabulka::Vloz(const ZaznamTabulky& zaznam) {
+void OtevrenaTabulka::VlozNovyZaznam(const ZaznamTabulky& zaznam) {
     std::vector<ZaznamTabulky> zaznamy = RozdelTabulku(platna_);
     VlozZaznam(zaznamy, zaznam);
-    const std::string nova = SlozTabulku(zaznamy);
+    UlozTabulku(SlozTabulku(zaznamy));
+}
+
+void OtevrenaTabulka::UlozTabulku(std::string_view nova) {
     if (!Vymen(nova)) PrepisNaMiste(nova);
     UklidVedle();
 }

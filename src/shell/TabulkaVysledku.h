@@ -33,8 +33,8 @@ void VlozZaznam(std::vector<ZaznamTabulky>& zaznamy, ZaznamTabulky novy);
 /// The table of a file as it stands, for showing it, without the lock: what was there before a
 /// writer that is at work or broke off, or what it wrote, never anything between. Texts are UTF-8;
 /// a byte that the code page does not define shows as U+FFFD. Throws ChybaDisku.
-[[nodiscard]] std::vector<ZaznamTabulky> CtiTabulku(Disk& disk,
-                                                    const std::filesystem::path& soubor);
+[[nodiscard]] std::vector<ZaznamTabulky> NactiTabulku(Disk& disk,
+                                                      const std::filesystem::path& soubor);
 
 // Where no file can be made beside the table, the new one is written down behind the old one in the
 // same file, and only when that is on the disk is the old one written over and the file cut. A
@@ -58,12 +58,13 @@ public:
     /// Takes a row in at its place and stores the table: by a new file in the place of the old one,
     /// or, where none may be made, in the old one. A table that this account may not write into is
     /// a fault in either case. Whatever happens meanwhile, the file is the old table or the new.
-    void Vloz(const ZaznamTabulky& zaznam);
+    void VlozNovyZaznam(const ZaznamTabulky& zaznam);
     /// Waits until the table as it stands is on the disk, and puts it in order if a writer broke
     /// off in it.
     void Potvrd();
 
 private:
+    void UlozTabulku(std::string_view nova);
     /// False if no file may be made there, or not with the same rights.
     bool Vymen(std::string_view nova);
     void PrepisNaMiste(std::string_view nova);

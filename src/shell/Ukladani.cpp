@@ -151,7 +151,7 @@ void Ukladani::ZapisJeden(CekajiciVysledek& v, Fronta* fronta) {
         const fs::path cesta = Cesta(JMENO_DENIKU);
         const auto denik = disk_.Otevri(cesta, Disk::Jak::Pripisek);
         PockejNaZamek(*denik, cesta, hodiny_);
-        if (!v.VDeniku) DoDeniku(v, *denik, fronta);
+        if (!v.VDeniku) ZapisVysledek(v, *denik, fronta);
         if (!v.VTabulce) DoTabulky(v, fronta);
     }
     try {
@@ -161,7 +161,7 @@ void Ukladani::ZapisJeden(CekajiciVysledek& v, Fronta* fronta) {
     }
 }
 
-void Ukladani::DoDeniku(CekajiciVysledek& v, Soubor& denik, Fronta* fronta) {
+void Ukladani::ZapisVysledek(CekajiciVysledek& v, Soubor& denik, Fronta* fronta) {
     const std::string text = RadkyDeniku(v.Co);
     const std::uint64_t delka = denik.Delka();
     std::optional<std::string> zbyva;
@@ -194,7 +194,7 @@ void Ukladani::DoTabulky(CekajiciVysledek& v, Fronta* fronta) {
         v.StejnychRadku = stejnych;
         Poznamenej(v, fronta);
         try {
-            tabulka.Vloz(radek);
+            tabulka.VlozNovyZaznam(radek);
         } catch (const ChybaDisku&) {
             // It is not there: the same row of somebody else, later, must not pass for this one.
             if (OtevrenaTabulka(disk_, cesta).Kolikrat(radek) == stejnych) {

@@ -50,7 +50,7 @@ private:
     [[nodiscard]] std::vector<CekajiciVysledek> Serad(std::optional<Fronta>& fronta,
                                                       std::string& bezFronty);
     void ZapisJeden(CekajiciVysledek& v, Fronta* fronta);
-    void DoDeniku(CekajiciVysledek& v, Soubor& denik, Fronta* fronta);
+    void ZapisVysledek(CekajiciVysledek& v, Soubor& denik, Fronta* fronta);
     void DoTabulky(CekajiciVysledek& v, Fronta* fronta);
     [[nodiscard]] std::filesystem::path Cesta(std::string_view jmeno) const;
 

@@ -144,7 +144,7 @@ private:
 TEST(Tabulka, SmesSeNikomuNeukaze) {
     const std::string nova = "Nov|50|0|1\r\nEva|7|3|3\r\n", smes = "Eva|7|3|3\r\n|7|3|3\r\n";
     MenivyDisk disk({smes, nova});
-    EXPECT_EQ(CtiTabulku(disk, "01.res"), RozdelTabulku(nova));
+    EXPECT_EQ(NactiTabulku(disk, "01.res"), RozdelTabulku(nova));
 }
 
 TEST(Fronta, ZaznamTamAZpet) {

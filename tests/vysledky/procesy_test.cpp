@@ -53,7 +53,7 @@ protected:
         PosixDisk disk;
         std::size_t bylo = 0;
         while (!fs::exists(koren / "konec")) {
-            const auto zaznamy = CtiTabulku(disk, data / "01.res");
+            const auto zaznamy = NactiTabulku(disk, data / "01.res");
             const bool dobre = std::ranges::all_of(zaznamy, [](const ZaznamTabulky& z) {
                 return z.Jmeno.starts_with("zak") && z.Spravne == "10" && z.Spatne == "0" &&
                        z.Znamka == "1";
