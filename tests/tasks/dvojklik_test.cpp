@@ -149,7 +149,7 @@ private:
             kde = {kde.X + r->Left, kde.Y + r->Top};
         }
         const Vysledek jednou = Nanecisto([&] { return Klikni(kde, nullptr, 0); });
-        for (const int tresni : {0, 3, 4}) {
+        for (const int tresni : {0, 4}) {
             const Bod podruhe{kde.X + Cislo(-tresni, tresni), kde.Y + Cislo(-tresni, tresni)};
             const auto za = static_cast<std::uint32_t>(Cislo(50, 500));
             const Vysledek dvakrat = Nanecisto([&] { return Klikni(kde, &podruhe, za); });

@@ -292,7 +292,11 @@ int SdlHost::ChangeDisplaySettings(const RezimObrazovky& rezim) {
     // from its restoring.
     if (rezim == REZIM_PROGRAMU && !vnitrek_->Prepnuto) {
         vnitrek_->Prepnuto = true;
-        return vnitrek_->Okno_.Otevri(true) ? 0 : -1;
+        if (vnitrek_->Okno_.Otevri(true)) return 0;
+        // Without any window the game would run and never be seen.
+        if (!vnitrek_->Okno_.Otevri(false))
+            Selhani(std::string("Okno hry se nedá otevřít. ") + SDL_GetError());
+        return -1;
     }
     vnitrek_->Okno_.Zavri();
     return 0;

@@ -31,7 +31,7 @@ public:
     void SndPlaySound(std::string_view cesta) override;
     [[nodiscard]] RezimObrazovky GetDeviceCaps() override;
     /// 640 by 480 fills the screen, the first time; any other mode, and any later call, puts the
-    /// window away. 0 unless no window can be opened.
+    /// window away. 0 unless only an ordinary window can be opened; none at all is a fault.
     int ChangeDisplaySettings(const RezimObrazovky& rezim) override;
     /// The executable's folder if it holds Rysovna.ini (any case), else the user's configuration
     /// folder (rysovna below $XDG_CONFIG_HOME or ~/.config) if it holds one, else /etc/rysovna.
