@@ -99,17 +99,18 @@ void DeskaForm::UkonciSerii() {
                             .Zaporne = TextBezMezery(ZaporneBody),
                             .Znamka = UrciZnamku(KladneBody, Bajt(KladneBody + ZaporneBody)),
                             .Konec = stroj.Nyni()};
-    std::string zprava;
+    Ukladani::Ulozeni zprava;
     // The lock of the results may have to be waited for: nothing is let through meanwhile.
     okna.CekejZavrene([&] { zprava = Vysledky().Uloz(vysledek); });
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
     const auto tabulka = okna.Nacti<TabulkaForm>();
     tabulka->Vlastnik = okna.Najdi("SetupForm");
+    tabulka->UkazVysledek(zprava.Misto);
     okna.Show(*tabulka);
     okna.Hide(*this);
     okna.Unload(*this);
     AktivniForm = tabulka;
-    if (!zprava.empty()) stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
+    if (!zprava.Text.empty()) stroj.MsgBox(zprava.Text, "Upozornění", Styl::Ok);
 }
 
 void DeskaForm::UkazTabulku() {

@@ -39,6 +39,7 @@ struct CekajiciVysledek {
     bool VTabulce = false;
     bool Ohlaseno = false;            ///< that it waits was told
     std::filesystem::path Soubor_{};  ///< its file in the queue; empty where it is in memory alone
+    int Misto = 0;                    ///< place of its row when the table was stored; 0: not now
     bool Nejisty = false;  ///< nobody knows whether that file is whole: it is in memory as well
 };
 

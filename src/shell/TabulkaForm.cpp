@@ -1,9 +1,12 @@
 #include "shell/TabulkaForm.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/Cisla.h"
+#include "base/Text.h"
 #include "platform/Host.h"
+#include "platform/Surface.h"
 #include "shell/HelpForm.h"
 #include "shell/Misc.h"
 #include "shell/Prechody.h"
@@ -16,6 +19,36 @@ namespace {
 constexpr int ROZTEC_RADKU = 30;      // px
 constexpr float PISMO_RADKU = 10.0F;  // points: a name of 35 letters fits its column
 
+constexpr float PISMO_STUPNICE = 8.0F;
+constexpr Barva VLASTNI = Rgb(252, 223, 203);  // behind the pupil's own row
+
+/// "Známky: 1 od 90 %, 2 od 75 %": the rows of the grade table, the best grade first.
+std::string TextStupnice() {
+    std::vector<RadekZnamek> radky;
+    for (int i = 1; i <= decltype(ZnamkyTab)::POSLEDNI; ++i) {
+        if (ZnamkyTab[i] != RadekZnamek{}) radky.push_back(ZnamkyTab[i]);
+    }
+    std::ranges::stable_sort(radky, {}, [](const RadekZnamek& r) { return r[2]; });
+    std::string text;
+    for (const auto& [dolni, horni, znamka] : radky) {
+        text += (text.empty() ? "Známky: " : ", ") + TextBezMezery(znamka) + " od " +
+                TextBezMezery(dolni) + " %";
+    }
+    return text;
+}
+
+/// The text, or as much of it as the width takes, px, with "…" behind.
+std::string Vejde(const std::string& text, const Pismo& pismo, int sirka) {
+    if (SirkaTextu(pismo, text) <= sirka) return text;
+    std::u32string znaky = DoZnaku(text);
+    std::string kratsi;
+    do {
+        znaky.pop_back();
+        kratsi = ZeZnaku(znaky) + "…";
+    } while (!znaky.empty() && SirkaTextu(pismo, kratsi) > sirka);
+    return kratsi;
+}
+
 std::string SouborTabulky() {
     return CestaVysledku + DveCislice(CisloUlohy) + ".res";
 }
@@ -23,6 +56,7 @@ std::string SouborTabulky() {
 }  // namespace
 
 TabulkaForm::TabulkaForm() {
+    Pridej(LVlastni, "LVlastni", {24, 160, 592, 28});
     Pridej(INadpis, "INadpis", {0, 0, 238, 80});
     PridejPole(LPoradi, "LPoradi", {32, 165, 50, 20});
     PridejPole(LJmeno, "LJmeno", {91, 165, 260, 20});
@@ -30,6 +64,10 @@ TabulkaForm::TabulkaForm() {
     PridejPole(LSpatne, "LSpatne", {464, 165, 70, 20});
     PridejPole(LZnamka, "LZnamka", {544, 165, 70, 20});
     Pridej(picKonec, "picKonec", {546, 5, 91, 75});
+    Pridej(LVysledek, "LVysledek", {32, 106, 336, 18});
+    Pridej(LStupnice, "LStupnice", {32, 454, 576, 14});
+    LVlastni.BackColor = VLASTNI;
+    LVlastni.Visible = LVysledek.Visible = false;
 }
 
 void TabulkaForm::Load() {
@@ -48,19 +86,43 @@ void TabulkaForm::Load() {
         for (Label& pole : *sloupec) {
             pole.Top = prvni + Zaokrouhli(meritko * ROZTEC_RADKU * (pole.Index - 1));
             pole.Font.Velikost = static_cast<float>(meritko) * PISMO_RADKU;
-            // A name of any length stays on its row and is cut at the column's edge.
+            // A name of any length stays on its row.
             pole.WordWrap = false;
         }
     }
     for (Label& poradi : LPoradi) poradi.Caption = TextBezMezery(poradi.Index) + ".";
 
+    LStupnice.Font.Velikost = static_cast<float>(meritko) * PISMO_STUPNICE;
+    LStupnice.Caption = TextStupnice();
+
     NactiTabulku();
     VyplnRadky();
 }
 
+void TabulkaForm::UkazVysledek(int misto) {
+    if (misto == 0 && !nezapsane_.empty()) {
+        misto = nezapsane_.back();
+    } else {
+        // What waits was taken in among the rows of the file.
+        for (const int n : nezapsane_) misto += n <= misto ? 1 : 0;
+    }
+    if (misto < 1 || misto > static_cast<int>(zaznamy_.size())) return;
+    const auto k = static_cast<std::size_t>(misto - 1);
+    LVlastni.Visible = misto <= RADKU;
+    LVysledek.Visible = !LVlastni.Visible;
+    if (LVlastni.Visible) {
+        constexpr int NAD_RADKEM = 5;  // px
+        LVlastni.Top = LJmeno[k].Top - NAD_RADKEM;
+        return;
+    }
+    const ZaznamTabulky& z = zaznamy_[k];
+    LVysledek.Caption = "Tvoje místo: " + TextBezMezery(misto) + ". Body: " + z.Spravne +
+                        (z.Znamka.empty() ? "" : ", známka: " + z.Znamka);
+}
+
 void TabulkaForm::VyplnRadky() {
     for (std::size_t k = 0; k < zaznamy_.size() && k < LPoradi.size(); ++k) {
-        LJmeno[k].Caption = zaznamy_[k].Jmeno;
+        LJmeno[k].Caption = Vejde(zaznamy_[k].Jmeno, LJmeno[k].Font, LJmeno[k].Width);
         LSpravne[k].Caption = zaznamy_[k].Spravne;
         LSpatne[k].Caption = zaznamy_[k].Spatne;
         LZnamka[k].Caption = zaznamy_[k].Znamka;
@@ -75,7 +137,10 @@ void TabulkaForm::NactiTabulku() {
         // What a result has to say of it, it says when it is stored.
         zaznamy_.assign(1, {"Tabulku výsledků nelze přečíst", "", "", ""});
     }
-    for (ZaznamTabulky& z : Vysledky().Nezapsane(CisloUlohy)) VlozZaznam(zaznamy_, std::move(z));
+    nezapsane_.clear();
+    for (ZaznamTabulky& z : Vysledky().Nezapsane(CisloUlohy)) {
+        nezapsane_.push_back(VlozZaznam(zaznamy_, std::move(z)));
+    }
 }
 
 void TabulkaForm::MouseDown(Ovladac* o, const Mys&) {

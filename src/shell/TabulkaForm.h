@@ -21,12 +21,19 @@ public:
     TabulkaForm();
     [[nodiscard]] std::string_view Jmeno() const override { return "TabulkaForm"; }
 
+    Label LVlastni;  ///< lights the row of the result that was just taken in
     std::array<Label, RADKU> LPoradi, LJmeno, LSpravne, LSpatne, LZnamka;
     Image INadpis;  ///< heading of the task: help
     PictureBox picKonec;
+    Label LVysledek;  ///< that result in words, where it is not among the ten
+    Label LStupnice;  ///< the grades and from how many percent each is given, the best first
 
     /// The screen to show on leaving; set by whoever shows the table.
     std::weak_ptr<Form> Vlastnik;
+
+    /// Shows which result is the pupil's own. misto: its place in the stored table, from 1; 0: it
+    /// could not be stored, and is the last of those that wait.
+    void UkazVysledek(int misto);
 
     /// The results, best first.
     [[nodiscard]] const std::vector<ZaznamTabulky>& Zaznamy() const { return zaznamy_; }
@@ -45,6 +52,8 @@ private:
     Hover hover_;  ///< 20 picKonec
     DvojiceObrazku konec_;
     std::vector<ZaznamTabulky> zaznamy_;
+    std::vector<int>
+        nezapsane_;  ///< places, from 1, at which rows that wait were taken in, in turn
 };
 
 }  // namespace rysovna

@@ -79,11 +79,11 @@ bool JeLepsi(const ZaznamTabulky& a, const ZaznamTabulky& b) {
     return Klic(a) < Klic(b);
 }
 
-void VlozZaznam(std::vector<ZaznamTabulky>& zaznamy, ZaznamTabulky novy) {
+int VlozZaznam(std::vector<ZaznamTabulky>& zaznamy, ZaznamTabulky novy) {
     // A file that somebody edited may be out of order; then the whole list is sorted.
     if (!std::ranges::is_sorted(zaznamy, JeLepsi)) std::ranges::stable_sort(zaznamy, JeLepsi);
     const auto misto = std::ranges::upper_bound(zaznamy, novy, JeLepsi);
-    zaznamy.insert(misto, std::move(novy));
+    return static_cast<int>(zaznamy.insert(misto, std::move(novy)) - zaznamy.begin()) + 1;
 }
 
 std::vector<ZaznamTabulky> RozdelTabulku(std::string_view obsah) {
@@ -170,10 +170,11 @@ int OtevrenaTabulka::Kolikrat(const ZaznamTabulky& zaznam) const {
     return static_cast<int>(std::ranges::count(RozdelTabulku(platna_), cteny));
 }
 
-void OtevrenaTabulka::VlozNovyZaznam(const ZaznamTabulky& zaznam) {
+int OtevrenaTabulka::VlozNovyZaznam(const ZaznamTabulky& zaznam) {
     std::vector<ZaznamTabulky> zaznamy = RozdelTabulku(platna_);
-    VlozZaznam(zaznamy, zaznam);
+    const int misto = VlozZaznam(zaznamy, zaznam);
     UlozTabulku(SlozTabulku(zaznamy));
+    return misto;
 }
 
 void OtevrenaTabulka::UlozTabulku(std::string_view nova) {

@@ -23,8 +23,8 @@ struct ZaznamTabulky {
 [[nodiscard]] bool JeLepsi(const ZaznamTabulky& a, const ZaznamTabulky& b);
 
 /// Adds a result and puts the list in order. Equal results keep the order in which they came, the
-/// new one behind the old ones.
-void VlozZaznam(std::vector<ZaznamTabulky>& zaznamy, ZaznamTabulky novy);
+/// new one behind the old ones. The place of the new one, from 1.
+int VlozZaznam(std::vector<ZaznamTabulky>& zaznamy, ZaznamTabulky novy);
 
 /// The rows of a table's bytes, and back. Bytes of any value go through unchanged.
 [[nodiscard]] std::vector<ZaznamTabulky> RozdelTabulku(std::string_view obsah);
@@ -58,7 +58,8 @@ public:
     /// Takes a row in at its place and stores the table: by a new file in the place of the old one,
     /// or, where none may be made, in the old one. A table that this account may not write into is
     /// a fault in either case. Whatever happens meanwhile, the file is the old table or the new.
-    void VlozNovyZaznam(const ZaznamTabulky& zaznam);
+    /// The place of the row in the table, from 1.
+    int VlozNovyZaznam(const ZaznamTabulky& zaznam);
     /// Waits until the table as it stands is on the disk, and puts it in order if a writer broke
     /// off in it.
     void Potvrd();

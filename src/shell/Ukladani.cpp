@@ -62,7 +62,7 @@ Ukladani::Ukladani(Disk& disk, Hodiny hodiny, const fs::path& koren, fs::path sl
       koren_(disk.Jednoznacna(koren)),
       slozkaStavu_(std::move(slozkaStavu)) {}
 
-std::string Ukladani::Uloz(const Vysledek& vysledek) {
+Ukladani::Ulozeni Ukladani::Uloz(const Vysledek& vysledek) {
     cekaji_.push_back({.Koren = koren_.string(), .Co = vysledek});
     return Zapis();
 }
@@ -73,7 +73,7 @@ std::string Ukladani::ZkusCekajici() {
     } catch (const ChybaDisku&) {
         return {};  // a queue that cannot be looked into; the next result will tell
     }
-    return Zapis();
+    return Zapis().Text;
 }
 
 std::vector<ZaznamTabulky> Ukladani::Nezapsane(int cisloUlohy) const {
@@ -84,13 +84,13 @@ std::vector<ZaznamTabulky> Ukladani::Nezapsane(int cisloUlohy) const {
     return zaznamy;
 }
 
-std::string Ukladani::Zapis() {
+Ukladani::Ulozeni Ukladani::Zapis() {
     std::optional<Fronta> fronta;
     std::string bezFronty;
     std::vector<CekajiciVysledek> vse = Serad(fronta, bezFronty);
     // What stands in a queue that cannot be had now stays as it is known.
     std::erase_if(cekaji_, [&](const auto& v) { return fronta || v.Soubor_.empty(); });
-    std::string zprava;
+    Ulozeni zprava;
     std::string zamceno;  // waited for once, not for each result
     for (CekajiciVysledek& v : vse) {
         std::string proc = zamceno;
@@ -99,6 +99,7 @@ std::string Ukladani::Zapis() {
         try {
             if (zamceno.empty()) {
                 ZapisJeden(v, fronta ? &*fronta : nullptr);
+                zprava.Misto = v.Misto;  // the newest is the last
                 continue;
             }
         } catch (const ChybaDisku& chyba) {
@@ -107,11 +108,12 @@ std::string Ukladani::Zapis() {
         } catch (const std::exception& chyba) {
             proc = chyba.what();
         }
+        zprava.Misto = 0;
         if (!v.Ohlaseno) {
             v.Ohlaseno = true;
             PoznamenejPotichu(v, fronta ? &*fronta : nullptr);
-            zprava = "Výsledek se nepodařilo zapsat: " + proc + ".\n\n" +
-                     (v.Soubor_.empty() || v.Nejisty ? JenVPameti(bezFronty) : ULOZEN_STRANOU);
+            zprava.Text = "Výsledek se nepodařilo zapsat: " + proc + ".\n\n" +
+                          (v.Soubor_.empty() || v.Nejisty ? JenVPameti(bezFronty) : ULOZEN_STRANOU);
         }
         cekaji_.push_back(std::move(v));
     }
@@ -194,7 +196,7 @@ void Ukladani::DoTabulky(CekajiciVysledek& v, Fronta* fronta) {
         v.StejnychRadku = stejnych;
         Poznamenej(v, fronta);
         try {
-            tabulka.VlozNovyZaznam(radek);
+            v.Misto = tabulka.VlozNovyZaznam(radek);
         } catch (const ChybaDisku&) {
             // It is not there: the same row of somebody else, later, must not pass for this one.
             if (OtevrenaTabulka(disk_, cesta).Kolikrat(radek) == stejnych) {

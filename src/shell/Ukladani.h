@@ -24,17 +24,23 @@ constexpr std::string_view JMENO_DENIKU = "Vysledky.dat";
 /// had, log and table are written all the same, and what then fails is kept in memory.
 class Ukladani {
 public:
+    /// What became of a result.
+    struct Ulozeni {
+        std::string Text;  ///< to be told to the pupil; empty if all is well or was told before
+        int Misto = 0;     ///< of its row in the stored table, from 1; 0: it is not there yet
+    };
+
     /// koren: the folder of results. slozkaStavu: the account's state folder; may be empty.
     Ukladani(Disk& disk, Hodiny hodiny, const std::filesystem::path& koren,
              std::filesystem::path slozkaStavu);
 
-    /// Stores a result, and whatever waits. Never throws. What it returns is to be told to the
-    /// pupil: empty if all is well or was told before.
-    [[nodiscard]] std::string Uloz(const Vysledek& vysledek);
+    /// Stores a result, and whatever waits. Never throws.
+    [[nodiscard]] Ulozeni Uloz(const Vysledek& vysledek);
     /// Stores whatever waits, at the start of the program.
     [[nodiscard]] std::string ZkusCekajici();
 
-    /// Rows of this task's table that are not in its file yet, as texts for showing.
+    /// Rows of this task's table that are not in its file yet, as texts for showing; the latest
+    /// last.
     [[nodiscard]] std::vector<ZaznamTabulky> Nezapsane(int cisloUlohy) const;
     /// Results that did not go at the last try, in the queue or in memory.
     [[nodiscard]] const std::vector<CekajiciVysledek>& Cekaji() const { return cekaji_; }
@@ -46,7 +52,7 @@ private:
         std::string Proc;
     };
 
-    [[nodiscard]] std::string Zapis();
+    [[nodiscard]] Ulozeni Zapis();
     [[nodiscard]] std::vector<CekajiciVysledek> Serad(std::optional<Fronta>& fronta,
                                                       std::string& bezFronty);
     void ZapisJeden(CekajiciVysledek& v, Fronta* fronta);

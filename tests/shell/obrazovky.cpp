@@ -6,6 +6,7 @@
 #include <map>
 
 #include "hrac/Relace.h"
+#include "platform/Surface.h"
 #include "shell/HelpForm.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
@@ -142,7 +143,7 @@ TEST_F(Nabidka, TabulkaSJedenactiZaznamy) {
     // What cannot be written stands in it all the same; one without a grade beats all.
     std::filesystem::rename(relace.DataDir() / "Vysledky.dat", relace.DataDir() / "stranou");
     const Vysledek novy{.CisloUlohy = 7, .Jmeno = "Bez", .Kladne = "0", .Zaporne = "0"};
-    EXPECT_NE(Vysledky().Uloz(novy), "");
+    EXPECT_NE(Vysledky().Uloz(novy).Text, "");
     EXPECT_EQ(radek(0) + radek(9), "1.Bez|0|0|10.Z8|20|0|1");
     CisloUlohy = 8;
     EXPECT_EQ(radek(0), "1.|||");
@@ -153,6 +154,49 @@ TEST_F(Nabidka, TabulkaSJedenactiZaznamy) {
     CisloUlohy = 7;
     EXPECT_EQ(radek(0) + radek(1), "1.Bez|0|0|2.Z0|20|0|1");
     EXPECT_TRUE(relace.CtiSoubor("07.res").starts_with("Bez|0|0|\r\nZ0|"));
+}
+
+TEST_F(Nabidka, TabulkaUkazeVlastniVysledekAStupnici) {
+    CisloUlohy = 7;
+    std::string stejne;
+    for (int i = 0; i < 9; ++i) stejne += "A|10|0|1\r\n";
+    relace.PisSoubor("07.res", stejne + "B|1|9|5\r\n");
+    const auto ukaz = [&](const Vysledek& v) {
+        const int misto = Vysledky().Uloz(v).Misto;
+        const auto t = host.Okna().Nacti<TabulkaForm>();
+        t->UkazVysledek(misto);
+        EXPECT_NE(t->LVlastni.Visible, t->LVysledek.Visible);
+        if (t->LVysledek.Visible) return std::to_string(misto) + ": " + t->LVysledek.Caption;
+        return std::to_string(misto) + ": row " + std::to_string((t->LVlastni.Top - 160) / 30 + 1);
+    };
+    const auto vysledek = [](const char* jmeno, const char* plus, const char* znamka) {
+        return Vysledek{
+            .CisloUlohy = 7, .Jmeno = jmeno, .Kladne = plus, .Zaporne = "0", .Znamka = znamka};
+    };
+    // The place is told, not looked for: the rows before it read the same.
+    EXPECT_EQ(ukaz(vysledek("A", "10", "1")), "10: row 10");
+    EXPECT_EQ(ukaz(vysledek("C", "20", "1")), "1: row 1");
+    EXPECT_EQ(ukaz(vysledek("A", "10", "1")), "12: Tvoje místo: 12. Body: 10, známka: 1");
+    // What cannot be stored is shown among the others too, and moves those that can.
+    std::filesystem::rename(relace.DataDir() / "Vysledky.dat", relace.DataDir() / "stranou");
+    EXPECT_EQ(ukaz(vysledek("D", "30", "1")), "0: row 1");
+    EXPECT_EQ(ukaz(vysledek("E", "15", "1")), "0: row 3");
+    const auto t = host.Okna().Nacti<TabulkaForm>();
+    t->UkazVysledek(2);  // in the file behind C; D and E stand before it here
+    EXPECT_EQ(t->LVlastni.Top, t->LJmeno[3].Top - 5);
+    EXPECT_EQ(t->LStupnice.Caption, "Známky: 1 od 90 %, 2 od 75 %, 3 od 50 %, 4 od 25 %, 5 od 0 %");
+    EXPECT_LE(SirkaTextu(t->LStupnice.Font, t->LStupnice.Caption), t->LStupnice.Width);
+
+    relace.PisSoubor("08.res",
+                     std::string(60, 'W') + "|1|9|5\r\n" + std::string(20, 'W') + "|1|9|5\r\n");
+    CisloUlohy = 8;
+    const auto dlouha = host.Okna().Nacti<TabulkaForm>();
+    for (const std::size_t i : {0U, 1U}) {
+        const Label& l = dlouha->LJmeno[i];
+        EXPECT_LE(SirkaTextu(l.Font, l.Caption), l.Width);
+        EXPECT_EQ(l.Caption.ends_with("…"), i == 0) << l.Caption;
+    }
+    EXPECT_FALSE(dlouha->LVlastni.Visible || dlouha->LVysledek.Visible);
 }
 
 /// A board with a way back, and nothing else.

@@ -125,7 +125,7 @@ TEST_F(Start, VysledkyMajiSvouSlozku) {
         EXPECT_EQ(NativniCesta(CestaVysledku), slozka / "");
         EXPECT_EQ(NativniCesta(CestaHD), relace.DataDir() / "");
         EXPECT_EQ(std::distance(fs::directory_iterator(slozka), {}), 21) << klic;
-        EXPECT_EQ(Vysledky().Uloz({.CisloUlohy = 7, .Jmeno = "A", .Kladne = "1"}), "");
+        EXPECT_EQ(Vysledky().Uloz({.CisloUlohy = 7, .Jmeno = "A", .Kladne = "1"}).Text, "");
     }
     EXPECT_EQ(relace.CtiSoubor("../vysledky/07.RES"), "A|1||\r\nEva|10|0|1\r\n");
     EXPECT_EQ(relace.CtiSoubor("../ucet/07.res"), "A|1||\r\n");
@@ -143,7 +143,7 @@ TEST_F(Start, CekajiciVysledkySeZapisiPriStartu) {
     EXPECT_TRUE(NactiKonfiguraci());
     fs::rename(relace.DataDir() / "01.res", relace.DataDir() / "stranou");
     fs::create_directory(relace.DataDir() / "01.res");
-    EXPECT_NE(Vysledky().Uloz({.CisloUlohy = 1, .Jmeno = "A"}), "");
+    EXPECT_NE(Vysledky().Uloz({.CisloUlohy = 1, .Jmeno = "A"}).Text, "");
     fs::remove(relace.DataDir() / "01.res");
     fs::rename(relace.DataDir() / "stranou", relace.DataDir() / "01.res");
     EXPECT_TRUE(NactiKonfiguraci());

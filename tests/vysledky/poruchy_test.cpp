@@ -70,12 +70,12 @@ protected:
             PosixDisk disk;
             Ukladani ukladani(disk, Virtualni(), data, Stav());
             NastavPoruchu(druh.Co, kolikate, druh.Trvale);
-            const std::string zprava = ukladani.Uloz(Drivejsi(jmeno));
+            const std::string zprava = ukladani.Uloz(Drivejsi(jmeno)).Text;
             sdelene->Volani = PocetVolani();
             NastavPoruchu(Porucha::Zadna, 0);
             std::strncpy(sdelene->Zprava, zprava.c_str(), sizeof sdelene->Zprava - 1);
             if (zprava.find("ztratí") != std::string::npos)
-                _exit(ukladani.Uloz(Drivejsi("Zuzana")).empty() ? 0 : 98);
+                _exit(ukladani.Uloz(Drivejsi("Zuzana")).Text.empty() ? 0 : 98);
         }));
     }
     /// The next start of the program, whole or killed on the way.

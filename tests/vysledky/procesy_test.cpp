@@ -44,7 +44,7 @@ protected:
         Ukladani ukladani(disk, SkutecneHodiny(), data, StavUctu(program));
         for (int i = 0; i < vysledku; ++i) {
             const std::string jmeno = JmenoZaka(program, i);
-            const bool ulozen = ukladani.Uloz(Drivejsi(jmeno)).empty();
+            const bool ulozen = ukladani.Uloz(Drivejsi(jmeno)).Text.empty();
             receno << jmeno << ' ' << ulozen << '\n';
         }
     }
