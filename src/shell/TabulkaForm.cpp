@@ -19,7 +19,7 @@ namespace {
 constexpr int ROZTEC_RADKU = 30;      // px
 constexpr float PISMO_RADKU = 10.0F;  // points: a name of 35 letters fits its column
 
-constexpr float PISMO_STUPNICE = 8.0F;
+constexpr float PISMO_STUPNICE = 8.0F, PISMO_VYSLEDKU = 9.0F;
 constexpr Barva VLASTNI = Rgb(252, 223, 203);  // behind the pupil's own row
 
 /// "Známky: 1 od 90 %, 2 od 75 %": the rows of the grade table, the best grade first.
@@ -64,8 +64,8 @@ TabulkaForm::TabulkaForm() {
     PridejPole(LSpatne, "LSpatne", {464, 165, 70, 20});
     PridejPole(LZnamka, "LZnamka", {544, 165, 70, 20});
     Pridej(picKonec, "picKonec", {546, 5, 91, 75});
-    Pridej(LVysledek, "LVysledek", {32, 106, 336, 18});
-    Pridej(LStupnice, "LStupnice", {32, 454, 576, 14});
+    Pridej(LVysledek, "LVysledek", {32, 452, 576, 16});
+    Pridej(LStupnice, "LStupnice", {32, 105, 336, 13});
     LVlastni.BackColor = VLASTNI;
     LVlastni.Visible = LVysledek.Visible = false;
 }
@@ -93,6 +93,8 @@ void TabulkaForm::Load() {
     for (Label& poradi : LPoradi) poradi.Caption = TextBezMezery(poradi.Index) + ".";
 
     LStupnice.Font.Velikost = static_cast<float>(meritko) * PISMO_STUPNICE;
+    LVysledek.Font.Velikost = static_cast<float>(meritko) * PISMO_VYSLEDKU;
+    LVysledek.Font.Tucne = true;
     LStupnice.Caption = TextStupnice();
 
     NactiTabulku();

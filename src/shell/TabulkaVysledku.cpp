@@ -83,7 +83,9 @@ int VlozZaznam(std::vector<ZaznamTabulky>& zaznamy, ZaznamTabulky novy) {
     // A file that somebody edited may be out of order; then the whole list is sorted.
     if (!std::ranges::is_sorted(zaznamy, JeLepsi)) std::ranges::stable_sort(zaznamy, JeLepsi);
     const auto misto = std::ranges::upper_bound(zaznamy, novy, JeLepsi);
-    return static_cast<int>(zaznamy.insert(misto, std::move(novy)) - zaznamy.begin()) + 1;
+    const auto poradi = static_cast<int>(misto - zaznamy.begin()) + 1;
+    zaznamy.insert(misto, std::move(novy));
+    return poradi;
 }
 
 std::vector<ZaznamTabulky> RozdelTabulku(std::string_view obsah) {
