@@ -105,12 +105,15 @@ void DeskaForm::UkonciSerii() {
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
     const auto tabulka = okna.Nacti<TabulkaForm>();
     tabulka->Vlastnik = okna.Najdi("SetupForm");
-    tabulka->UkazVysledek(zprava.Misto);
+    tabulka->UkazVysledek(zprava.Misto, vysledek);
     okna.Show(*tabulka);
     okna.Hide(*this);
     okna.Unload(*this);
     AktivniForm = tabulka;
-    if (!zprava.Text.empty()) stroj.MsgBox(zprava.Text, "Upozornění", Styl::Ok);
+    if (zprava.Text.empty()) return;
+    // Keys that came while the lock was waited for are not for the message.
+    okna.DorucOdlozene();
+    stroj.MsgBox(zprava.Text, "Upozornění", Styl::Ok);
 }
 
 void DeskaForm::UkazTabulku() {

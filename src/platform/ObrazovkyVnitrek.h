@@ -21,6 +21,8 @@ struct Obrazovky::Vstup {
     int Shift = 0;
     CasStisku Cas;
     std::string Text;  ///< typed text, or the name of a key
+    /// Kept from a closed wait: presses that were dropped since are none of its.
+    bool Odlozeny = false;
 };
 
 /// What a press is to those right before it.

@@ -194,9 +194,13 @@ void Obrazovky::Odloz(const Vstup& vstup) {
             v.Rada.Ztraceny(vstup.X, vstup.Y, vstup.Cas);
             return;
         }
-    } else if (vstup.Co == Vstup::Druh::Nahoru && (v.Zahozena & vstup.Tlacitko) != 0) {
-        v.Zahozena &= ~vstup.Tlacitko;
-        return;
+    } else if (vstup.Co == Vstup::Druh::Nahoru) {
+        if ((v.Zahozena & vstup.Tlacitko) != 0) {
+            v.Zahozena &= ~vstup.Tlacitko;
+            return;
+        }
+    } else if (vstup.Co == Vstup::Druh::Navrat) {
+        return;  // a press too, only beside the picture
     } else if (vstup.Co == Vstup::Druh::Pohyb) {
         if (v.Zahozena != 0) return;
         // Of a row of moves the last one is enough.
@@ -204,6 +208,7 @@ void Obrazovky::Odloz(const Vstup& vstup) {
             v.Odlozene.pop_back();
     }
     v.Odlozene.push_back(vstup);
+    v.Odlozene.back().Odlozeny = true;
 }
 
 void Obrazovky::DorucOdlozene() {
@@ -299,6 +304,8 @@ void Obrazovky::DorucStisk(const Vstup& s) {
 
 void Obrazovky::DorucPohyb(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
+    // The release of one that is held no more got lost outside.
+    if (!s.Odlozeny) v.Zahozena &= s.Tlacitko;
     const int drzena = s.Tlacitko & ~v.Zahozena;
     if (v.Drzi) {
         const Formular form = v.Drzici();
@@ -321,7 +328,7 @@ void Obrazovky::DorucPohyb(const Vstup& s) {
 
 void Obrazovky::DorucPusteni(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
-    if ((v.Zahozena & s.Tlacitko) != 0) {
+    if (!s.Odlozeny && (v.Zahozena & s.Tlacitko) != 0) {
         v.Zahozena &= ~s.Tlacitko;
         return;
     }

@@ -101,14 +101,19 @@ void TabulkaForm::Load() {
     VyplnRadky();
 }
 
-void TabulkaForm::UkazVysledek(int misto) {
+void TabulkaForm::UkazVysledek(int misto, const Vysledek& vysledek) {
     if (misto == 0 && !nezapsane_.empty()) {
         misto = nezapsane_.back();
     } else {
         // What waits was taken in among the rows of the file.
         for (const int n : nezapsane_) misto += n <= misto ? 1 : 0;
+        const ZaznamTabulky radek{vysledek.Jmeno, vysledek.Kladne, vysledek.Zaporne,
+                                  vysledek.Znamka};
+        const auto odMista = zaznamy_.begin() + std::clamp(misto - 1, 0, PocetZaznamu());
+        const auto stejny = std::find(odMista, zaznamy_.end(), radek);
+        if (misto > 0 && stejny != zaznamy_.end()) misto += static_cast<int>(stejny - odMista);
     }
-    if (misto < 1 || misto > static_cast<int>(zaznamy_.size())) return;
+    if (misto < 1 || misto > PocetZaznamu()) return;
     const auto k = static_cast<std::size_t>(misto - 1);
     LVlastni.Visible = misto <= RADKU;
     LVysledek.Visible = !LVlastni.Visible;

@@ -8,6 +8,7 @@
 #include "platform/Form.h"
 #include "shell/Hover.h"
 #include "shell/TabulkaVysledku.h"
+#include "shell/Vysledek.h"
 
 namespace rysovna {
 
@@ -31,9 +32,10 @@ public:
     /// The screen to show on leaving; set by whoever shows the table.
     std::weak_ptr<Form> Vlastnik;
 
-    /// Shows which result is the pupil's own. misto: its place in the stored table, from 1; 0: it
-    /// could not be stored, and is the last of those that wait.
-    void UkazVysledek(int misto);
+    /// Shows which result is the pupil's own. misto: its place when the table was stored, from 1;
+    /// 0: it could not be stored, and is the last of those that wait. Rows of other programs that
+    /// came above it since moved it down: from its place on the first that reads like it is taken.
+    void UkazVysledek(int misto, const Vysledek& vysledek);
 
     /// The results, best first.
     [[nodiscard]] const std::vector<ZaznamTabulky>& Zaznamy() const { return zaznamy_; }
@@ -45,6 +47,7 @@ public:
     bool Klavesa(std::string_view klavesa) override;
 
 private:
+    [[nodiscard]] int PocetZaznamu() const { return static_cast<int>(zaznamy_.size()); }
     void NactiTabulku();
     void VyplnRadky();
     void Zpet();

@@ -164,7 +164,7 @@ TEST_F(Nabidka, TabulkaUkazeVlastniVysledekAStupnici) {
     const auto ukaz = [&](const Vysledek& v) {
         const int misto = Vysledky().Uloz(v).Misto;
         const auto t = host.Okna().Nacti<TabulkaForm>();
-        t->UkazVysledek(misto);
+        t->UkazVysledek(misto, v);
         EXPECT_NE(t->LVlastni.Visible, t->LVysledek.Visible);
         if (t->LVysledek.Visible) return std::to_string(misto) + ": " + t->LVysledek.Caption;
         return std::to_string(misto) + ": row " + std::to_string((t->LVlastni.Top - 160) / 30 + 1);
@@ -182,7 +182,9 @@ TEST_F(Nabidka, TabulkaUkazeVlastniVysledekAStupnici) {
     EXPECT_EQ(ukaz(vysledek("D", "30", "1")), "0: row 1");
     EXPECT_EQ(ukaz(vysledek("E", "15", "1")), "0: row 3");
     const auto t = host.Okna().Nacti<TabulkaForm>();
-    t->UkazVysledek(2);  // in the file behind C; D and E stand before it here
+    t->UkazVysledek(2, vysledek("A", "10", "1"));  // behind C in the file; D, E before it here
+    EXPECT_EQ(t->LVlastni.Top, t->LJmeno[3].Top - 5);
+    t->UkazVysledek(1, vysledek("A", "10", "1"));  // C came above it since
     EXPECT_EQ(t->LVlastni.Top, t->LJmeno[3].Top - 5);
     EXPECT_EQ(t->LStupnice.Caption, "Známky: 1 od 90 %, 2 od 75 %, 3 od 50 %, 4 od 25 %, 5 od 0 %");
     EXPECT_LE(SirkaTextu(t->LStupnice.Font, t->LStupnice.Caption), t->LStupnice.Width);

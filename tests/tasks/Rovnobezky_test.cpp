@@ -157,8 +157,11 @@ TEST(Vysky, RovnobezkaJeTamKdeUkazatel) {
         OverPosun(strana, 2);
         if (testing::Test::HasFatalFailure()) return;
         const Cara cara = Z(Utvary[2]);
-        const double cm = OdPrimky(kam, {strana.X1, strana.Y1}, {strana.X2, strana.Y2}) / 8;
-        // Measured beside the pointer, where the pupil put it.
+        // The height that is judged is the pointer's own distance from the side.
+        const Bod A{strana.X1, strana.Y1};
+        const Bod B{strana.X2, strana.Y2};
+        const double cm = OdPrimky(kam, A, B) / 8;
+        for (const Bod b : {cara.P1, cara.P2}) ASSERT_NEAR(OdPrimky(b, A, B) / 8, cm, NEJVIC_CM);
         ASSERT_LE(OdPrimky(kam, cara.P1, cara.P2) / 8, NEJVIC_CM) << cm;
         if (Trojice_tab[2].PrvniNechyta) ++daleko;
     }
