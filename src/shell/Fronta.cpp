@@ -182,6 +182,10 @@ fs::path Fronta::Slozka(const fs::path& slozkaStavu) {
     return slozkaStavu / "fronta";
 }
 
+fs::path Fronta::Zamek(const fs::path& slozkaStavu) {
+    return Slozka(slozkaStavu) / JMENO_ZAMKU;
+}
+
 Fronta::Fronta(Disk& disk, const fs::path& slozkaStavu)
     : disk_(disk), slozka_(Slozka(slozkaStavu)) {
     // An account without a home has no queue either.

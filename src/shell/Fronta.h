@@ -59,6 +59,9 @@ public:
     /// The folder of the queue below the account's state folder.
     [[nodiscard]] static std::filesystem::path Slozka(const std::filesystem::path& slozkaStavu);
 
+    /// The file of its lock.
+    [[nodiscard]] static std::filesystem::path Zamek(const std::filesystem::path& slozkaStavu);
+
     /// Makes the queue where there is none.
     Fronta(Disk& disk, const std::filesystem::path& slozkaStavu);
 
