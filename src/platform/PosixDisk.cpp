@@ -23,10 +23,10 @@ constexpr struct {
     int Cislo;
     Pricina Proc;
 } PRICINY[] = {
-    {ENOENT, Pricina::Neni},       {ENOTDIR, Pricina::Neni},          {EEXIST, Pricina::UzJe},
-    {EACCES, Pricina::Nepovoleno}, {EPERM, Pricina::Nepovoleno},      {EROFS, Pricina::Nepovoleno},
-    {ENOSPC, Pricina::Plno},       {EDQUOT, Pricina::Plno},           {EFBIG, Pricina::Plno},
-    {ENOLCK, Pricina::NejdeZamek}, {EOPNOTSUPP, Pricina::NejdeZamek}, {ENOSYS, Pricina::NejdeZamek},
+    {ENOENT, Pricina::Neni},       {ENOTDIR, Pricina::Neni},     {EEXIST, Pricina::UzJe},
+    {EACCES, Pricina::Nepovoleno}, {EPERM, Pricina::Nepovoleno}, {EROFS, Pricina::Nepovoleno},
+    {ENOSPC, Pricina::Plno},       {EDQUOT, Pricina::Plno},      {EFBIG, Pricina::Plno},
+    {ENOLCK, Pricina::NejdeZamek},
 };
 
 /// Call at once after what failed.
@@ -34,6 +34,18 @@ constexpr struct {
     const int cislo = errno;
     const auto* const i = std::ranges::find(PRICINY, cislo, [](const auto& p) { return p.Cislo; });
     throw ChybaDisku(i == std::end(PRICINY) ? Pricina::Jina : i->Proc, co);
+}
+
+/// Whether the last call failed because the file system does not know such a thing.
+bool Neumi() {
+    return errno == EINVAL || errno == EOPNOTSUPP || errno == ENOTSUP || errno == ENOSYS;
+}
+
+/// The same for a call without which the file can be written in place: what is not known there, or
+/// not now, is as good as not allowed.
+[[noreturn]] void SelhalaVymena(const fs::path& co) {
+    if (Neumi() || errno == EBUSY || errno == ETXTBSY) errno = EPERM;
+    Selhal(co);
 }
 
 /// Repeats a call that a signal broke off.
@@ -44,8 +56,10 @@ auto Znovu(Volani&& volani) {
     return vysledek;
 }
 
-/// Far beyond any log, and small enough for servers that count places in 63 bits or less.
-constexpr off_t MISTO_ZAMKU = off_t{1} << (sizeof(off_t) > 4 ? 40 : 30);
+/// Far beyond any log, and small enough for servers that count places in 63 bits or less. The same
+/// on every computer that shares the folder.
+static_assert(sizeof(off_t) == 8);
+constexpr off_t MISTO_ZAMKU = off_t{1} << 40;
 
 constexpr mode_t PRAVA = 07777;
 constexpr mode_t PRAVA_SOUBORU = 0666;
@@ -117,11 +131,11 @@ public:
         // The lock of this very opening: closing another one of the same file does not free it.
         if (Znovu([&] { return ::fcntl(cislo_, F_OFD_SETLK, &zamek); }) == 0) return true;
         if (errno == EAGAIN || errno == EACCES) return false;
-        if (errno != EINVAL) Selhal(cesta_);
+        if (!Neumi()) Selhal(cesta_);
 #endif
         if (Znovu([&] { return ::fcntl(cislo_, F_SETLK, &zamek); }) == 0) return true;
         if (errno == EAGAIN || errno == EACCES) return false;
-        if (errno == EINVAL) errno = ENOLCK;
+        if (Neumi()) errno = ENOLCK;
         Selhal(cesta_);
     }
 
@@ -130,8 +144,11 @@ public:
         const struct stat vzor = static_cast<PosixSoubor&>(od).Stav();
         // Group first: a change of it takes some rights away.
         if (Stav().st_gid != vzor.st_gid && ::fchown(cislo_, KDO_JE, vzor.st_gid) != 0)
-            Selhal(cesta_);
-        if (::fchmod(cislo_, vzor.st_mode & PRAVA) != 0) Selhal(cesta_);
+            SelhalaVymena(cesta_);
+        // Where nothing differs nothing is asked: some file systems refuse even that.
+        if ((Stav().st_mode & PRAVA) != (vzor.st_mode & PRAVA) &&
+            ::fchmod(cislo_, vzor.st_mode & PRAVA) != 0)
+            SelhalaVymena(cesta_);
     }
 
     /// Who may write into the folder may write into the file. One that cannot be made so is as the
@@ -228,7 +245,7 @@ std::unique_ptr<Soubor> PosixDisk::NovySoubor(const fs::path& co) {
 }
 
 void PosixDisk::Nahrad(const fs::path& novy, const fs::path& stary) {
-    if (::rename(novy.c_str(), stary.c_str()) != 0) Selhal(stary);
+    if (::rename(novy.c_str(), stary.c_str()) != 0) SelhalaVymena(stary);
 }
 
 void PosixDisk::Odstran(const fs::path& soubor) {
@@ -255,6 +272,7 @@ void PosixDisk::ZalozSlozku(const fs::path& slozka) {
     // Another program of the account may have been quicker.
     if (::mkdir(slozka.c_str(), PRAVA_SLOZKY) != 0 && !(errno == EEXIST && JeSlozka(slozka)))
         Selhal(slozka);
+    SlozkaNaDisk(slozka.has_parent_path() ? slozka.parent_path() : fs::path("."));
 }
 
 void PosixDisk::SlozkaNaDisk(const fs::path& slozka) {
@@ -264,7 +282,10 @@ void PosixDisk::SlozkaNaDisk(const fs::path& slozka) {
         if (errno == EACCES || errno == EPERM) return;
         Selhal(slozka);
     }
-    PosixSoubor(cislo, slozka).NaDisk();
+    const PosixSoubor drzi(cislo, slozka);
+    if (Znovu([&] { return ::fsync(cislo); }) == 0 || Neumi()) return;
+    // Some file systems say so of folders, or have nothing to wait for.
+    if (errno != EBADF && errno != EROFS) Selhal(slozka);
 }
 
 bool PosixDisk::SmiZakladat(const fs::path& slozka) {

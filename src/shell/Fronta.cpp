@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
+#include <chrono>
+#include <random>
 #include <utility>
 
-#include "base/Cisla.h"
 #include "shell/Kodovani.h"
 
 namespace rysovna {
@@ -14,10 +14,11 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view PRVNI_RADEK = "RYSOVNA1 VYSLEDEK 1";
-constexpr std::string_view CELY = "cely";  // closes what does not change any more
+constexpr std::string_view CELY = "cely";  // the last line of a new entry: all of it is there
 constexpr std::string_view PRIPONA = ".vysledek";
 constexpr const char* JMENO_ZAMKU = "zamek";
-constexpr int SIRKA_PORADI = 10;
+constexpr std::string_view PRIPONA_NOVEHO = ".novy";  // of an entry that is being written
+constexpr std::size_t SIRKA_CASU = 20;
 constexpr std::uint32_t KROK_CEKANI = 20;  // ms
 
 /// The texts of a result by their names in the file.
@@ -28,7 +29,7 @@ constexpr std::pair<std::string_view, std::string Vysledek::*> TEXTY[] = {
     {"znamka", &Vysledek::Znamka},
 };
 
-/// Numbers of a result, all that is neither text nor state.
+/// The date and time of a result by their names in the file.
 constexpr std::pair<std::string_view, int DatumACas::*> CASY[] = {
     {"rok", &DatumACas::Rok},       {"mesic", &DatumACas::Mesic},   {"den", &DatumACas::Den},
     {"hodina", &DatumACas::Hodina}, {"minuta", &DatumACas::Minuta},
@@ -79,10 +80,11 @@ std::string Stav(const CekajiciVysledek& v) {
     const auto ano = [](bool je) { return std::string(je ? "1" : "0"); };
     return "delka-deniku=" + cislo(v.DelkaDeniku) + "\nv-deniku=" + ano(v.VDeniku) +
            "\nstejnych-radku=" + cislo(v.StejnychRadku) + "\nv-tabulce=" + ano(v.VTabulce) +
-           "\nohlaseno=" + ano(v.Ohlaseno) + "\n";
+           // What was told never becomes untold, and who notes it may not have the lock.
+           (v.Ohlaseno ? "\nohlaseno=1\n" : "\n");
 }
 
-/// Whether this line closes what does not change any more.
+/// Takes a line of the file in. Whether it is the one that says that the entry is whole.
 bool Prirad(CekajiciVysledek& v, std::string_view klic, std::string_view hodnota) {
     for (const auto& [jmeno, kam] : TEXTY) {
         if (klic == jmeno) v.Co.*kam = ZRadku(hodnota);
@@ -107,13 +109,31 @@ bool JeNase(std::string_view text) {
     return text.substr(0, radek.size()) == radek.substr(0, text.size());
 }
 
+/// Whether a file is certainly not there any more.
 bool Zmizel(Disk& disk, const fs::path& soubor) {
     try {
         disk.Odstran(soubor);
         return true;
-    } catch (const ChybaDisku&) {
-        return false;
+    } catch (const ChybaDisku& chyba) {
+        return chyba.Proc() == Pricina::Neni;
     }
+}
+
+using Cas = std::chrono::system_clock::time_point;
+
+/// The beginning of a name: the names of entries stand in the order in which they were made.
+std::string ZacatekJmena(Cas cas) {
+    const auto ns =
+        std::chrono::duration_cast<std::chrono::nanoseconds>(cas.time_since_epoch()).count();
+    std::string text = std::to_string(ns);
+    text.insert(0, SIRKA_CASU - std::min(text.size(), SIRKA_CASU), '0');
+    return text;
+}
+
+/// An entry that nobody can be writing any more: the program was killed over it.
+bool JeOpusteny(const std::string& jmeno) {
+    return jmeno.ends_with(PRIPONA_NOVEHO) &&
+           jmeno < ZacatekJmena(std::chrono::system_clock::now() - std::chrono::days(1));
 }
 
 bool JeZaznam(const std::string& jmeno) {
@@ -122,10 +142,9 @@ bool JeZaznam(const std::string& jmeno) {
 
 }  // namespace
 
-void PockejNaZamek(Soubor& soubor, const fs::path& cesta, const Hodiny& hodiny) {
-    const std::uint32_t zacatek = hodiny.Ted();
+void PockejNaZamek(Soubor& soubor, const fs::path& cesta, const Hodiny& hodiny, std::uint32_t od) {
     while (!soubor.Zamkni()) {
-        if (hodiny.Ted() - zacatek + KROK_CEKANI > NEJDELE_NA_ZAMEK)
+        if (hodiny.Ted() - od + KROK_CEKANI > NEJDELE_NA_ZAMEK)
             throw ChybaDisku(Pricina::Zamceno, cesta);
         hodiny.Spi(KROK_CEKANI);
     }
@@ -163,11 +182,18 @@ fs::path Fronta::Slozka(const fs::path& slozkaStavu) {
     return slozkaStavu / "fronta";
 }
 
-Fronta::Fronta(Disk& disk, const fs::path& slozkaStavu, const Hodiny& hodiny)
+fs::path Fronta::Zamek(const fs::path& slozkaStavu) {
+    return Slozka(slozkaStavu) / JMENO_ZAMKU;
+}
+
+Fronta::Fronta(Disk& disk, const fs::path& slozkaStavu)
     : disk_(disk), slozka_(Slozka(slozkaStavu)) {
     // An account without a home has no queue either.
     if (slozkaStavu.empty()) throw ChybaDisku(Pricina::Neni, slozka_);
     disk_.ZalozSlozku(slozka_);
+}
+
+void Fronta::Zamkni(const Hodiny& hodiny, std::uint32_t od) {
     const fs::path zamek = slozka_ / JMENO_ZAMKU;
     try {
         if (!disk_.JeSoubor(zamek)) zamek_ = disk_.NovySoubor(zamek);
@@ -175,19 +201,15 @@ Fronta::Fronta(Disk& disk, const fs::path& slozkaStavu, const Hodiny& hodiny)
         if (chyba.Proc() != Pricina::UzJe) throw;
     }
     if (!zamek_) zamek_ = disk_.Otevri(zamek, Disk::Jak::Zapis);
-    PockejNaZamek(*zamek_, zamek, hodiny);
-}
-
-std::vector<std::string> Fronta::Jmena() {
-    std::vector<std::string> jmena = disk_.Jmena(slozka_);
-    std::erase_if(jmena, [](const std::string& jmeno) { return !JeZaznam(jmeno); });
-    return jmena;
+    PockejNaZamek(*zamek_, zamek, hodiny, od);
 }
 
 std::vector<CekajiciVysledek> Fronta::Cekajici(const std::string& koren) {
     std::vector<CekajiciVysledek> cekajici;
-    for (const std::string& jmeno : Jmena()) {
+    for (const std::string& jmeno : disk_.Jmena(slozka_)) {
         const fs::path cesta = slozka_ / jmeno;
+        if (JeOpusteny(jmeno)) static_cast<void>(Zmizel(disk_, cesta));
+        if (!JeZaznam(jmeno)) continue;
         try {
             const std::string text = disk_.Otevri(cesta, Disk::Jak::Cteni)->Cti();
             auto v = CtiCekajiciho(text);
@@ -205,24 +227,38 @@ std::vector<CekajiciVysledek> Fronta::Cekajici(const std::string& koren) {
 }
 
 void Fronta::Zarad(CekajiciVysledek& v) {
-    const std::vector<std::string> jmena = Jmena();
-    const int posledni = jmena.empty() ? 0 : Podlaha(Cislo(jmena.back()));
-    std::string poradi = std::to_string(posledni + 1);
-    poradi.insert(0, SIRKA_PORADI - std::min<std::size_t>(poradi.size(), SIRKA_PORADI), '0');
-    const fs::path cesta = slozka_ / (poradi + std::string(PRIPONA));
-    const auto soubor = disk_.NovySoubor(cesta);
-    v.Soubor_ = cesta;
+    // A name that was never there and never will be again: who finds it gone knows that another
+    // program of the account has stored the result.
+    const std::string jmeno = ZacatekJmena(std::chrono::system_clock::now()) + "-" +
+                              std::to_string(std::random_device{}()) + std::string(PRIPONA);
+    const fs::path cesta = slozka_ / jmeno;
+    const fs::path novy = slozka_ / (jmeno + std::string(PRIPONA_NOVEHO));
+    const auto soubor = disk_.NovySoubor(novy);
+    bool nahrazeno = false;
     try {
         soubor->Pis(0, TextCekajiciho(v));
         soubor->NaDisk();
-        disk_.SlozkaNaDisk(slozka_);
-        v.Nejisty = false;
+        nahrazeno = true;
+        // Others see it whole or not at all.
+        disk_.Nahrad(novy, cesta);
     } catch (const ChybaDisku&) {
-        // One that may be whole and cannot be taken away must keep being noted in.
-        v.Nejisty = !Zmizel(disk_, cesta);
-        if (!v.Nejisty) v.Soubor_.clear();
+        static_cast<void>(Zmizel(disk_, novy));
+        // One that may be there and cannot be taken away must keep being noted in.
+        v.Nejisty = nahrazeno && !Zmizel(disk_, cesta);
+        if (v.Nejisty) v.Soubor_ = cesta;
         throw;
     }
+    v.Soubor_ = cesta;
+    v.Nejisty = false;
+    try {
+        disk_.SlozkaNaDisk(slozka_);
+    } catch (const ChybaDisku&) {
+        // It is there for all who look; only a failure of power might still take it.
+    }
+}
+
+void Fronta::PoznamenejOhlaseni(const CekajiciVysledek& v) {
+    disk_.Otevri(v.Soubor_, Disk::Jak::Pripisek)->Pripis("\nohlaseno=1\n");
 }
 
 void Fronta::Poznamenej(const CekajiciVysledek& v, bool naDisk) {
@@ -233,7 +269,7 @@ void Fronta::Poznamenej(const CekajiciVysledek& v, bool naDisk) {
 }
 
 void Fronta::Vyrad(const CekajiciVysledek& v) {
-    disk_.Odstran(v.Soubor_);
+    if (!Zmizel(disk_, v.Soubor_)) throw ChybaDisku(Pricina::Jina, v.Soubor_);
 }
 
 int PocetCekajicich(Disk& disk, const fs::path& slozkaStavu) {

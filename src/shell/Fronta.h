@@ -24,9 +24,11 @@ struct Hodiny {
 /// How long a lock is waited for, ms.
 constexpr std::uint32_t NEJDELE_NA_ZAMEK = 3000;
 
-/// Waits for the lock of an open file, at most NEJDELE_NA_ZAMEK. ChybaDisku (Zamceno, that names
-/// the file) if another program keeps it for so long.
-void PockejNaZamek(Soubor& soubor, const std::filesystem::path& cesta, const Hodiny& hodiny);
+/// Waits for the lock of an open file until NEJDELE_NA_ZAMEK has passed since od (as Hodiny::Ted
+/// says), and asks once at least. ChybaDisku (Zamceno, that names the file) if another program
+/// keeps it for so long.
+void PockejNaZamek(Soubor& soubor, const std::filesystem::path& cesta, const Hodiny& hodiny,
+                   std::uint32_t od);
 
 /// A result on its way into log and table, and how far it came.
 struct CekajiciVysledek {
@@ -49,29 +51,36 @@ struct CekajiciVysledek {
 [[nodiscard]] std::optional<CekajiciVysledek> CtiCekajiciho(std::string_view text);
 
 /// The queue of results that are not written yet, of one account: a file an entry, in the account's
-/// state folder, under a lock of its own among the account's programs. Every call throws
-/// ChybaDisku.
+/// state folder. Putting an entry in needs no lock, so a program that waits for somebody else keeps
+/// nobody from it; what is in is read, noted and taken out under a lock of the account's programs.
+/// Every call throws ChybaDisku.
 class Fronta {
 public:
     /// The folder of the queue below the account's state folder.
     [[nodiscard]] static std::filesystem::path Slozka(const std::filesystem::path& slozkaStavu);
 
-    /// Makes the queue where there is none and waits for its lock, which it keeps for life.
-    Fronta(Disk& disk, const std::filesystem::path& slozkaStavu, const Hodiny& hodiny);
+    /// The file of its lock.
+    [[nodiscard]] static std::filesystem::path Zamek(const std::filesystem::path& slozkaStavu);
+
+    /// Makes the queue where there is none.
+    Fronta(Disk& disk, const std::filesystem::path& slozkaStavu);
+
+    /// Puts an entry in and notes its file; it is on the disk when this returns. Needs no lock. Of
+    /// one that failed nothing is left, or it is noted as Nejisty.
+    void Zarad(CekajiciVysledek& v);
+    /// Waits for the lock as PockejNaZamek does, and keeps it for life.
+    void Zamkni(const Hodiny& hodiny, std::uint32_t od);
 
     /// The entries of one folder of results, oldest first. What a program that was killed left of
     /// an entry is taken away. One that cannot be read is passed over.
     [[nodiscard]] std::vector<CekajiciVysledek> Cekajici(const std::string& koren);
-    /// Puts an entry in and notes its file; it is on the disk when this returns. Of one that
-    /// failed nothing is left, or it is noted as Nejisty.
-    void Zarad(CekajiciVysledek& v);
     /// Notes how far an entry came. naDisk: it must outlive a failure of power.
     void Poznamenej(const CekajiciVysledek& v, bool naDisk);
+    /// Notes that it was told, and nothing else: this needs no lock.
+    void PoznamenejOhlaseni(const CekajiciVysledek& v);
     void Vyrad(const CekajiciVysledek& v);
 
 private:
-    [[nodiscard]] std::vector<std::string> Jmena();
-
     Disk& disk_;
     std::filesystem::path slozka_;
     std::unique_ptr<Soubor> zamek_;

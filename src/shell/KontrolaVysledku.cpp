@@ -65,9 +65,14 @@ Nalez Fronta_(Disk& disk, const fs::path& stav) {
     const fs::path slozka = Fronta::Slozka(stav);
     if (!PujdeZakladat(disk, slozka)) return {Pozor, co, slozka.string() + ": nelze zapisovat"};
     try {
+        const fs::path zamek = Fronta::Zamek(stav);
+        if (disk.JeSoubor(zamek) && !disk.Otevri(zamek, Disk::Jak::Zapis)->Zamkni())
+            return {Pozor, co, zamek.string() + ": drží jej jiný program"};
         const int ceka = PocetCekajicich(disk, stav);
-        return {ceka == 0 ? VPoradku : Pozor, co,
-                slozka.string() + ": čeká jich " + std::to_string(ceka)};
+        const std::uint64_t volno = disk.Volno(NejblizsiSlozka(disk, slozka));
+        return {ceka == 0 && volno >= NEJMENE_MISTA ? VPoradku : Pozor, co,
+                slozka.string() + ": čeká jich " + std::to_string(ceka) + ", volno " +
+                    std::to_string(volno / MEGABAJT) + " MB"};
     } catch (const ChybaDisku& chyba) {
         return {Pozor, co, chyba.what()};
     }

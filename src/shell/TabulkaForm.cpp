@@ -1,6 +1,7 @@
 #include "shell/TabulkaForm.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 #include "base/Cisla.h"
@@ -140,8 +141,9 @@ void TabulkaForm::NactiTabulku() {
     Disk& disk = Stroj().Disk();
     try {
         zaznamy_ = rysovna::NactiTabulku(disk, disk.Skutecna(SouborTabulky()));
-    } catch (const ChybaDisku&) {
-        // What a result has to say of it, it says when it is stored.
+    } catch (const std::exception&) {
+        // A table too large for the memory must not end the game either. What a result has to say
+        // of it, it says when it is stored.
         zaznamy_.assign(1, {"Tabulku výsledků nelze přečíst", "", "", ""});
     }
     nezapsane_.clear();

@@ -203,25 +203,33 @@ bool OtevrenaTabulka::Vymen(std::string_view nova) {
         if (soubor_) soubor->PrevezmiPrava(*soubor_);
         soubor->Pis(0, nova);
         soubor->NaDisk();
+        mohlaSeZmenit_ = true;
         disk_.Nahrad(vedle, cesta_);
     } catch (const ChybaDisku& chyba) {
         if (vyrobeno) OdstranPotichu(disk_, vedle);
         // A table that is there and is open to this account can be written into.
         if (chyba.Proc() != Pricina::Nepovoleno || !soubor_) throw;
+        mohlaSeZmenit_ = false;
         return false;
     }
-    disk_.SlozkaNaDisk(cesta_.parent_path());
+    try {
+        disk_.SlozkaNaDisk(cesta_.parent_path());
+    } catch (const ChybaDisku&) {
+        // The new table is there for all who look, and the row must not be put in again.
+    }
     return true;
 }
 
 void OtevrenaTabulka::PrepisNaMiste(std::string_view nova) {
     Uzdrav();
+    mohlaSeZmenit_ = true;
     try {
         soubor_->Pis(platna_.size(), Zurnal(platna_.size(), nova));
         soubor_->NaDisk();
     } catch (const ChybaDisku&) {
         try {
             soubor_->Zkrat(platna_.size());
+            mohlaSeZmenit_ = false;
         } catch (const ChybaDisku&) {
             // Readers know a journal that is not whole, and the next writer takes it away.
         }

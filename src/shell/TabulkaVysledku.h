@@ -60,6 +60,9 @@ public:
     /// a fault in either case. Whatever happens meanwhile, the file is the old table or the new.
     /// The place of the row in the table, from 1.
     int VlozNovyZaznam(const ZaznamTabulky& zaznam);
+    /// Whether a change that failed may have taken effect all the same; false: the file certainly
+    /// holds the table of before.
+    [[nodiscard]] bool MohlaSeZmenit() const { return mohlaSeZmenit_; }
     /// Waits until the table as it stands is on the disk, and puts it in order if a writer broke
     /// off in it.
     void Potvrd();
@@ -77,6 +80,7 @@ private:
     std::unique_ptr<Soubor> soubor_;  ///< null: there is none yet
     std::string bajty_;               ///< of the file
     std::string platna_;              ///< the table in them
+    bool mohlaSeZmenit_ = false;
 };
 
 }  // namespace rysovna

@@ -46,24 +46,32 @@ public:
     [[nodiscard]] const std::vector<CekajiciVysledek>& Cekaji() const { return cekaji_; }
 
 private:
-    /// A result that did not go, and why.
-    struct Neuspech {
-        CekajiciVysledek Co;
-        std::string Proc;
+    /// What is to become of all that waits.
+    struct Rozvrh {
+        std::optional<rysovna::Fronta> Fronta{};  ///< with its lock; none: it cannot be had now
+        std::vector<CekajiciVysledek> Zapsat{};   ///< oldest first
+        std::vector<CekajiciVysledek> Nechat{};   ///< stays in the queue for now
+        std::string Proc{};                       ///< why the latter
     };
 
     [[nodiscard]] Ulozeni Zapis();
-    [[nodiscard]] std::vector<CekajiciVysledek> Serad(std::optional<Fronta>& fronta,
-                                                      std::string& bezFronty);
+    [[nodiscard]] Rozvrh Rozvrhni();
+    void Zarad(Rozvrh& rozvrh, std::vector<std::filesystem::path>& nove);
+    void Prevezmi(Rozvrh& rozvrh);
+    void Stahni(Rozvrh& rozvrh, const std::vector<std::filesystem::path>& nove);
+    void Neuspel(CekajiciVysledek v, const std::string& proc, Fronta* fronta, Ulozeni& zprava);
     void ZapisJeden(CekajiciVysledek& v, Fronta* fronta);
     void ZapisVysledek(CekajiciVysledek& v, Soubor& denik, Fronta* fronta);
     void DoTabulky(CekajiciVysledek& v, Fronta* fronta);
+    void Poznamenej(CekajiciVysledek& v, Fronta* fronta);
     [[nodiscard]] std::filesystem::path Cesta(std::string_view jmeno) const;
 
     Disk& disk_;
     Hodiny hodiny_;
     std::filesystem::path koren_, slozkaStavu_;
     std::vector<CekajiciVysledek> cekaji_;
+    std::uint32_t od_ = 0;   ///< since when locks are waited for, all of them together
+    std::string bezFronty_;  ///< why what is in memory alone is not in the queue
 };
 
 }  // namespace rysovna

@@ -41,7 +41,7 @@ spust() {
     for i in $(seq -w 20); do : >"$prace/hra/data/$i.res"; done
     : >"$prace/hra/data/Vysledky.dat"
     # What a result leaves aside must not come to the account that runs the tests.
-    XDG_STATE_HOME="$prace/stav" "$prace/hra/rysovna" "$@" 2>"$prace/chyby" &
+    XDG_STATE_HOME="$prace/stav" XDG_DATA_HOME="$prace/ucet" "$prace/hra/rysovna" "$@" 2>"$prace/chyby" &
     pid_hra=$!
     for _ in $(seq 100); do
         xdotool search --name 'Rysovna 1' >/dev/null 2>&1 && break

@@ -10,6 +10,7 @@ export LC_ALL=C.UTF-8
 unset DISPLAY
 
 prace="$(mktemp -d)"
+export XDG_STATE_HOME="$prace/stav" XDG_DATA_HOME="$prace/ucet"
 pid_hra=""
 pid_sway=""
 uklid() {

@@ -118,7 +118,14 @@ TEST_F(KontrolaHodiny, Vysledky) {
         EXPECT_GT(host.TickCount(), od);
     }
     const std::string fronta = Fronta::Slozka(host.SlozkaStavu()).string();
-    EXPECT_EQ(VadyVysledku(), "? Výsledky uložené stranou: " + fronta + ": čeká jich 1\n");
+    const std::string stranou = "? Výsledky uložené stranou: " + fronta;
+    EXPECT_TRUE(VadyVysledku().starts_with(stranou + ": čeká jich 1, volno ")) << VadyVysledku();
+    {
+        const fs::path zamek = Fronta::Zamek(host.SlozkaStavu());
+        const auto cizi = host.Disk().Otevri(zamek, Disk::Jak::Zapis);
+        ASSERT_TRUE(cizi->Zamkni());
+        EXPECT_EQ(VadyVysledku(), stranou + "/zamek: drží jej jiný program\n");
+    }
     fs::remove_all(fronta);
     // Nothing is made, not even what the game would make.
     Pis("../Rysovna.ini", "[RYSOVNA1]\r\nCD=assets\r\nHD=data\r\nVYSLEDKY=ucet\r\n");

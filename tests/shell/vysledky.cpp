@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "base/Cisla.h"
+#include "platform/PosixDisk.h"
 #include "shell/Fronta.h"
 #include "shell/Kodovani.h"
 #include "shell/TabulkaVysledku.h"
@@ -202,6 +203,14 @@ protected:
         UkladaniVysledku.reset();
         return Vysledky().ZkusCekajici();
     }
+    /// Another program of the account, on a disk of its own.
+    Ukladani Program(Disk& disk) {
+        return {disk,
+                {.Ted = [this] { return host.TickCount(); },
+                 .Spi = [this](std::uint32_t ms) { host.Spi(ms); }},
+                Cesta(""),
+                host.SlozkaStavu()};
+    }
     fs::path Fronta_() { return Fronta::Slozka(host.SlozkaStavu()); }
     int Ceka() { return PocetCekajicich(host.Disk(), host.SlozkaStavu()); }
     /// Names in the log, in their order.
@@ -273,6 +282,106 @@ TEST_F(Ulozeni, PlnyDiskNechaDenikCelyAVysledekPocka) {
     EXPECT_EQ(Start(), "");
     EXPECT_EQ(Denik(), "A B ");
     EXPECT_EQ(Cti("01.res"), "A|50|0|1\r\nB|50|0|1\r\n");
+    EXPECT_EQ(Ceka(), 0);
+}
+
+/// A disk that refuses one kind of work as long as a test wants.
+class VadnyDisk final : public PosixDisk {
+public:
+    enum class Co { Nic, NovaTabulkaAPakStara, Poznamky, SlozkaVysledku };
+    Co Vada = Co::Nic;
+
+    std::unique_ptr<Soubor> NovySoubor(const fs::path& co) override {
+        if (Vada == Co::NovaTabulkaAPakStara && co.extension() == ".nove") {
+            rozbita_ = true;
+            throw ChybaDisku(Pricina::Plno, co);
+        }
+        return PosixDisk::NovySoubor(co);
+    }
+    std::unique_ptr<Soubor> Otevri(const fs::path& co, Jak jak) override {
+        if (Vada == Co::NovaTabulkaAPakStara && rozbita_ && co.extension() == ".res")
+            throw ChybaDisku(Pricina::Jina, co);
+        if (Vada == Co::Poznamky && jak == Jak::Pripisek && co.extension() == ".vysledek")
+            throw ChybaDisku(Pricina::Plno, co);
+        return PosixDisk::Otevri(co, jak);
+    }
+    void SlozkaNaDisk(const fs::path& slozka) override {
+        if (Vada == Co::SlozkaVysledku && JeSoubor(slozka / "Vysledky.dat"))
+            throw ChybaDisku(Pricina::Jina, slozka);
+        PosixDisk::SlozkaNaDisk(slozka);
+    }
+
+private:
+    bool rozbita_ = false;
+};
+
+/// A fault that leaves the table as it was: the same row of somebody else, later, is not ours, even
+/// where the table could not be looked at again.
+TEST_F(Ulozeni, CiziStejnyRadekPoChybeNeniTen) {
+    VadnyDisk disk;
+    Ukladani ukladani = Program(disk);
+    disk.Vada = VadnyDisk::Co::NovaTabulkaAPakStara;
+    EXPECT_NE(ukladani.Uloz(Novy("A")).Text, "");
+    Pis("01.res", "A|50|0|1\r\n");
+    disk.Vada = VadnyDisk::Co::Nic;
+    EXPECT_EQ(ukladani.ZkusCekajici(), "");
+    EXPECT_EQ(Cti("01.res"), "A|50|0|1\r\nA|50|0|1\r\n");
+    EXPECT_EQ(Denik(), "A ");
+}
+
+/// The same of the lines of the log that were taken back.
+TEST_F(Ulozeni, CiziStejneRadkyDenikuNejsouTy) {
+    const std::string zacatek = std::string(3998, 'd') + "\r\n";
+    Pis("Vysledky.dat", zacatek);
+    EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { EXPECT_NE(Vysledky().Uloz(Novy("A")).Text, ""); }), "");
+    ASSERT_EQ(Cti("Vysledky.dat"), zacatek);
+    Pis("Vysledky.dat", zacatek + RadkyDeniku(Novy("A")));
+    EXPECT_EQ(Start(), "");
+    EXPECT_EQ(Denik(), "A A ");
+}
+
+/// A home that fills up between the entry and its first note; and a folder that cannot be waited
+/// for once its new table is there.
+TEST_F(Ulozeni, VadyKtereNicNezdrzi) {
+    for (const auto vada : {VadnyDisk::Co::Poznamky, VadnyDisk::Co::SlozkaVysledku}) {
+        Pis("Vysledky.dat", "");
+        Pis("01.res", "");
+        VadnyDisk disk;
+        disk.Vada = vada;
+        const auto ulozeni = Program(disk).Uloz(Novy("A"));
+        EXPECT_EQ(ulozeni.Text, "");
+        EXPECT_EQ(ulozeni.Misto, 1);
+        EXPECT_EQ(Denik(), "A ");
+        EXPECT_EQ(Cti("01.res"), "A|50|0|1\r\n");
+        EXPECT_EQ(Ceka(), 0);
+    }
+}
+
+/// Whoever waits for the log keeps the queue's lock; the account's other programs put their results
+/// in all the same, and nobody waits longer than for one lock.
+TEST_F(Ulozeni, TriProgramyUctuZaCizimZamkem) {
+    auto cizi = host.Disk().Otevri(Cesta("Vysledky.dat"), Disk::Jak::Zapis);
+    ASSERT_TRUE(cizi->Zamkni());
+    int program = 0;
+    const std::function<void()> dalsi = [&] {
+        Ukladani ukladani = Program(host.Disk());
+        const std::string jmeno(1, static_cast<char>('A' + program++));
+        const std::string zprava = ukladani.Uloz(Novy(jmeno)).Text;
+        EXPECT_NE(zprava.find("Je uložen stranou"), std::string::npos) << zprava;
+        EXPECT_EQ(ukladani.Cekaji().size(), 1U) << jmeno;
+    };
+    host.PriSpanku = [&](std::uint32_t) {
+        if (program < 3) dalsi();
+    };
+    const std::uint32_t od = host.TickCount();
+    dalsi();
+    EXPECT_EQ(program, 3);
+    EXPECT_LE(host.TickCount() - od, NEJDELE_NA_ZAMEK + 100);
+    host.PriSpanku = nullptr;
+    EXPECT_EQ(Ceka(), 3);
+    cizi.reset();
+    EXPECT_EQ(Start(), "");  // each was told once
+    EXPECT_EQ(Denik(), "A B C ");
     EXPECT_EQ(Ceka(), 0);
 }
 

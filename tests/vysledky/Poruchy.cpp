@@ -43,6 +43,10 @@ int Cislo(Porucha druh) {
             return EIO;
         case Porucha::Prava:
             return EACCES;
+        case Porucha::Neumi:
+            return EOPNOTSUPP;
+        case Porucha::Zaneprazdneno:
+            return EBUSY;
         default:
             return 0;
     }

@@ -15,7 +15,9 @@ enum class Porucha {
     KratkyAPlno,   ///< half is written, the next write finds the disk full
     Plno,          ///< ENOSPC
     Io,            ///< EIO
-    Prava          ///< EACCES
+    Prava,         ///< EACCES
+    Neumi,         ///< EOPNOTSUPP
+    Zaneprazdneno  ///< EBUSY
 };
 
 /// From now on calls are counted from 1, and this one fails; trvale: all later ones too. Short

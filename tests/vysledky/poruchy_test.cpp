@@ -34,9 +34,12 @@ constexpr Druh DRUHY[] = {
     {"plno", Porucha::Plno},
     {"chyba disku", Porucha::Io},
     {"práva", Porucha::Prava},
+    {"neumí", Porucha::Neumi},
+    {"zaneprázdněno", Porucha::Zaneprazdneno},
     {"plno napořád", Porucha::Plno, true},
     {"chyba disku napořád", Porucha::Io, true},
     {"práva napořád", Porucha::Prava, true},
+    {"neumí napořád", Porucha::Neumi, true},
 };
 
 /// Folder open: a new file in the place of the old one. Closed: the journal in the old one.
@@ -94,13 +97,14 @@ protected:
         static std::uint32_t cas = 0;
         return {.Ted = [] { return cas; }, .Spi = [](std::uint32_t ms) { cas += ms; }};
     }
-    /// Whole entries of the queue.
+    /// Whole entries of the queue, not those that were still being made.
     int Ceka() const {
         const fs::path fronta = Fronta::Slozka(Stav());
         if (!fs::exists(fronta)) return 0;
         return static_cast<int>(
-            std::count_if(fs::directory_iterator(fronta), {},
-                          [](const auto& s) { return CtiCekajiciho(Cti(s.path())).has_value(); }));
+            std::count_if(fs::directory_iterator(fronta), {}, [](const auto& s) {
+                return s.path().extension() == ".vysledek" && CtiCekajiciho(Cti(s.path()));
+            }));
     }
     std::string Nova(const std::string& dalsi = "") const {
         return staraTabulka + Do1250(RadekTabulky(NOVY)) + dalsi;

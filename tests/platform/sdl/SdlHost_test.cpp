@@ -121,7 +121,8 @@ protected:
         fs::create_directories(Nastaveni_ / "rysovna");
         std::ofstream(Nastaveni_ / "rysovna" / "Rysovna.ini")
             << "[RYSOVNA1]\r\nCD=" << staging << "/assets\r\nHD=" << staging << "/data\r\n";
-        setenv("XDG_CONFIG_HOME", Nastaveni_.c_str(), 1);
+        for (const char* slozka : {"XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_DATA_HOME"})
+            setenv(slozka, Nastaveni_.c_str(), 1);
         VychoziRelace();
     }
     ~Titul() override { fs::remove_all(Nastaveni_); }
