@@ -147,7 +147,7 @@ TEST_P(Titul, SkonciPoKratkemKliku) {
         &klik);
     while (Host_.Okna().Vpredu()->Jmeno() == "IntroForm") Host_.DoEvents(100);
     SDL_RemoveTimer(casovac);
-    EXPECT_LT(Ms(zacatek), std::max(GetParam().Kdy, 1000U) + 1000) << "ten seconds by itself";
+    EXPECT_LT(Ms(zacatek), std::max(GetParam().Kdy, 1000U) + 4000) << "ten seconds by itself";
     EXPECT_EQ(Host_.Okna().Vpredu()->Jmeno(), "SelectForm");
 }
 
@@ -169,7 +169,7 @@ TEST_F(NaOkne, ZavreneCekaniBereVstupZaBehu) {
         for (int i = 0; i < 5; ++i) Host_.Spi(40);
         Davka({Tlacitko(true)});
     });
-    EXPECT_GE(Ms(zacatek), 150);  // it slept: clocks may round
+    EXPECT_GE(Ms(zacatek), 150);   // it slept: clocks may round
     EXPECT_LT(Ms(zacatek), 5000);  // it came back at all: the machine may be busy
     EXPECT_EQ(form->Stisku + form->Klaves, 0);
     Davka({Tlacitko(false), Tlacitko(true, 100, 100), Tlacitko(false, 100, 100)});
