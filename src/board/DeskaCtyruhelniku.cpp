@@ -59,9 +59,9 @@ void DeskaCtyruhelniku::Load() {
 
 void DeskaCtyruhelniku::Change(TextBox& t) {
     if (&t == &txtVstup2) {
-        DialogKZmene().Napis(2, t.Text);
+        Napis(2, t);
     } else if (&t == &txtVstup3) {
-        DialogKZmene().Napis(3, t.Text);
+        Napis(3, t);
     } else {
         DeskaForm::Change(t);
     }

@@ -92,6 +92,7 @@ void DeskaForm::RozlozOvladace() {
     Pridej(Image1, "Image1", {0, 80, 18, 44}, &VPImage);
     Image1.Tag = "1";
 
+    RozlozRadu();
     Pridej(Combo, "Combo", {372, 444, 105, 64});
     Combo.Ramecek = true;
     Combo.Visible = false;
@@ -138,6 +139,7 @@ void DeskaForm::Load() {
     }
     PrizpusobForm(*this);
     VPImage.Font.Velikost = PISMO_PANELU;
+    PicRada.Visible = RadyUkazovat;
     lblText2.Font.Tucne = true;
     NactiObrazky();
     HidenPic.Width = Pic.Width;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "board/Dialog.h"
+#include "board/Rada.h"
 #include "platform/Form.h"
 #include "shell/Hover.h"
 
@@ -45,6 +46,9 @@ public:
     Label lblText1, lblText2, lblText3, lblText4;
     Label Label1;
 
+    PictureBox PicRada;  ///< the guide line, over the decorative ruler
+    std::array<Label, 2> lblRada;
+
     void Load() override;
     void Unload() override;
     void Activate() override;
@@ -60,6 +64,11 @@ public:
     [[nodiscard]] const Dialog& Dialogem() const { return *dialog_; }
     /// Examples of the series still to be played, this one included.
     [[nodiscard]] int ZbyvaPrikladu() const { return zbyvaPrikladu_; }
+    /// What the guide line says, and what it was computed from.
+    [[nodiscard]] const Rada& RadaTed() const { return rada_; }
+    [[nodiscard]] const Videne& VidenoTed() const { return videne_; }
+    /// Something is being handled while a wait runs: the guide keeps its words until it is done.
+    [[nodiscard]] bool JeUprostred() const { return vybiraSe_ || poustiSe_ || posouvaSe_; }
 
 protected:
     [[nodiscard]] virtual std::unique_ptr<Dialog> VyrobDialog(Platna platna) = 0;
@@ -67,9 +76,9 @@ protected:
     [[nodiscard]] virtual std::span<const int> Tvary() const = 0;
     /// Shows what a board's panel has beyond the common controls.
     virtual void UkazDalsi(const Panel& /*panel*/) {}
-    /// The dialogue, for a board's own controls; Ukaz after each change of it.
-    [[nodiscard]] Dialog& DialogKZmene() { return *dialog_; }
     void Ukaz();
+    /// What now stands in box ktery, from 1.
+    void Napis(int ktery, const TextBox& box);
 
 private:
     // DeskaForm.cpp: making and loading
@@ -94,6 +103,10 @@ private:
     void PolozPanel(int odsunuti);
     void ZasunPanel();
     void VysunPanel();
+    // DeskaRada.cpp: the guide line
+    void RozlozRadu();
+    void ObnovRadu();
+    [[nodiscard]] int MrtvyNastrojPod(const Mys& m) const;
     // DeskaSerie.cpp: check, verdict, series
     void Zkontroluj();
     void NovyPriklad();
@@ -116,6 +129,8 @@ private:
     bool vybiraSe_ = false;      ///< a line was picked and its wait runs
     bool posouvaSe_ = false;     ///< the panel is sliding
     bool poustiSe_ = false;      ///< a release on the plane is being handled
+    Videne videne_;
+    Rada rada_;
     std::uint64_t podklad_ = 0;  ///< version of the plane that the resting panel lies on
 };
 

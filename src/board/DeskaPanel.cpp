@@ -66,6 +66,9 @@ void DeskaForm::Ukaz() {
     UkazZadani(p.lblZadani);
     UkazSeznam(p.Combo);
     UkazDalsi(p);
+    if (!(p == videne_.Krok)) videne_.MrtvyNastroj = 0;
+    videne_.Krok = p;
+    ObnovRadu();
 }
 
 void DeskaForm::UkazZadani(const std::vector<PolozkaZadani>& zadani) {
@@ -172,6 +175,7 @@ void DeskaForm::ZasunPanel() {
     MalaSipka.Visible = true;
     VPImage.Visible = false;
     posouvaSe_ = false;
+    ObnovRadu();
     Cekej(20);
 }
 
@@ -186,6 +190,7 @@ void DeskaForm::VysunPanel() {
     MalaSipka.Visible = false;
     SamplePic.Visible = Image1.Visible = true;
     posouvaSe_ = false;
+    ObnovRadu();
 }
 
 }  // namespace rysovna

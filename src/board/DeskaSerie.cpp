@@ -36,10 +36,17 @@ void DeskaForm::Zkontroluj() {
     SkryjTah();
     Ukaz();
 
+    const int kladne = KladneBody;
     const bool bezchybne = Vyuctuj(dialog_->Hotova()) == Verdikt::Bezchybne;
     ImgHodnoceni.Picture = bezchybne ? hodnoceniDobre_ : hodnoceniSpatne_;
     ImgHodnoceni.Visible = true;
     ImgHodnoceni.Enabled = !bezchybne;
+    videne_.Vysledek = {.Bodu = KladneBody - kladne,
+                        .BoduSerie = KladneBody,
+                        .Poradi = PocetPrikladuSerie - zbyvaPrikladu_ + 1,
+                        .Prikladu = PocetPrikladuSerie,
+                        .Bezchybny = bezchybne};
+    ObnovRadu();
     Cekej(PO_VERDIKTU);
     if (Skoncil(*this)) return;
     picPokracuj.Enabled = true;

@@ -36,7 +36,11 @@ void DeskaForm::SkryjSeznam() {
 }
 
 void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
-    if (o == nullptr) return SkryjSeznam();
+    if (o == nullptr) {
+        SkryjSeznam();
+        videne_.MrtvyNastroj = MrtvyNastrojPod(m);
+        return ObnovRadu();
+    }
     // Between two examples there is nothing to work on yet.
     if (cekaNaZadani_ && (Je(cmd, o) || Je(ComboLabel, o) || o == &Pic || o == &SamplePic)) return;
     if (Je(cmd, o)) return StiskNastroje(cmd[static_cast<std::size_t>(o->Index - 1)], m);
@@ -68,6 +72,10 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
 }
 
 void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
+    if (videne_.MrtvyNastroj != 0 && (o != nullptr || MrtvyNastrojPod(m) != videne_.MrtvyNastroj)) {
+        videne_.MrtvyNastroj = 0;
+        ObnovRadu();
+    }
     // What only passing over the plane showed.
     if (o != &Pic && (m.Button & LEVE) == 0) SkryjTah();
     if (o == nullptr) {
@@ -125,7 +133,13 @@ void DeskaForm::Click(Ovladac* o) {
 }
 
 void DeskaForm::Change(TextBox& t) {
-    if (&t == &txtVstup) dialog_->Napis(1, t.Text);
+    if (&t == &txtVstup) Napis(1, t);
+}
+
+void DeskaForm::Napis(int ktery, const TextBox& box) {
+    dialog_->Napis(ktery, box.Text);
+    videne_.Krok = dialog_->UkazPanel();
+    ObnovRadu();
 }
 
 bool DeskaForm::Klavesa(std::string_view klavesa) {
@@ -178,6 +192,9 @@ void DeskaForm::UkazTah(const Gumicka& g, const Mys& m) {
         Circle1.Width = g.X2 - g.X1;
         Circle1.Height = g.Y2 - g.Y1;
     }
+    videne_.Tahne = (m.Button & LEVE) != 0 && g.Druh != Gumicka::Tvar::Nic;
+    videne_.Odecet = g.Text;
+    ObnovRadu();
     Text.Visible = !g.Text.empty();
     if (!Text.Visible) return;
     Text.Caption = g.Text;
@@ -188,12 +205,16 @@ void DeskaForm::UkazTah(const Gumicka& g, const Mys& m) {
 
 void DeskaForm::SkryjTah() {
     Line1.Visible = Circle1.Visible = Text.Visible = false;
+    videne_.Tahne = false;
+    videne_.Odecet.clear();
+    ObnovRadu();
 }
 
 void DeskaForm::PustPlochu(const Mys& m) {
+    const bool kresli = !poustiSe_ && dialog_->CekaNaKresleni();
+    poustiSe_ = poustiSe_ || kresli;
     SkryjTah();
-    if (poustiSe_ || !dialog_->CekaNaKresleni()) return;
-    poustiSe_ = true;
+    if (!kresli) return;
     Cekej(dialog_->CekaniPoTahu());
     poustiSe_ = false;
     if (Skoncil(*this)) return;

@@ -236,6 +236,7 @@ int DialogCtyruhelniku::ChybnychPrvku() const {
 // ---- The panel -------------------------------------------------------------------------------
 
 void DialogCtyruhelniku::UkazFazi(Panel& p) const {
+    p.Nesestrojen = stav_.Nesestrojen;
     if (stav_.Faze > 1) return UkazDalsi(p);
     const VetaTrojuhelniku* veta = ZvolenaVetaRadek();
     p.lblText1 = "Nejprve zvol trojúhelník, kterým začneš konstrukci.";

@@ -151,17 +151,20 @@ void DialogKroku::ZacniUtvar(std::string jmeno1, std::string jmeno2) {
     novy.Jmeno1 = std::move(jmeno1);
     novy.Jmeno2 = std::move(jmeno2);
     Upravit().CekaNaKresleni = true;
+    Upravit().BodVyzvy.clear();
 }
 
 void DialogKroku::ZacniPaprsek(const std::string& rameno, const std::string& vrchol) {
     const std::string bod = Jmeno();
     ZacniUtvar(vrchol, bod);
+    Upravit().BodVyzvy = vrchol;
     Vyzvi("polopřímka " + vrchol + bod + ", |<" + rameno + vrchol + bod + "| = ", "°");
 }
 
 void DialogKroku::ZacniKruznici(std::string_view stred) {
     const std::string jmeno = Jmeno();
     ZacniUtvar(jmeno, "");
+    Upravit().BodVyzvy = stred;
     Vyzvi("kružnice " + jmeno + "(" + std::string(stred) + ", r = ", ") cm");
 }
 
@@ -264,6 +267,26 @@ void DialogKroku::UkazVolbuUtvaru(Panel& panel, std::string_view vyzva) const {
     UkazNastroje(panel, TVARY_UTVARU, {true, true, true, true, true, true});
 }
 
+Gesto DialogKroku::GestoKroku() const {
+    using Tvar = Gesto::Tvar;
+    struct TahDruhu {
+        std::string_view Druh;
+        Tvar Jak;
+    };
+    static constexpr TahDruhu RADKY[] = {{USECKA, Tvar::Usecka},
+                                         {POLOPRIMKA, Tvar::Poloprimka},
+                                         {KRUZNICE, Tvar::Kruznice},
+                                         {KOLMICE, Tvar::Kolmice},
+                                         {ROVNOBEZKA, Tvar::Rovnobezka}};
+    const StavKroku& s = Stav();
+    if (!CekaNaKresleni()) return {};
+    const auto* r = std::ranges::find(RADKY, std::string_view(s.ZvolenyUtvar), &TahDruhu::Druh);
+    if (r == std::end(RADKY)) return {Tvar::Bod, {}, {}};  // the board computes it, wherever
+    if (r->Jak != Tvar::Usecka) return {r->Jak, s.BodVyzvy, {}};
+    const Utvar& nova = Utvary[PocetUtvaru + 1];
+    return {r->Jak, nova.Jmeno1, nova.Jmeno2};
+}
+
 Panel DialogKroku::UkazPanel() const {
     const StavKroku& s = Stav();
     Panel p;
@@ -274,6 +297,8 @@ Panel DialogKroku::UkazPanel() const {
     p.Combo = s.Combo;
     p.lblZadani = zadani_;
     p.PicZiva = !s.HotovaKonstrukce && !s.Skontrolovano;
+    p.Kresleni = GestoKroku();
+    p.Nezavrena = s.Faze >= PosledniFaze() && !s.HotovaKonstrukce;
     UkazFazi(p);
     p.txtVstup.Ziva = !s.Skontrolovano;
     if (!s.Skontrolovano) return p;

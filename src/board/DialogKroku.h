@@ -57,6 +57,7 @@ struct StavKroku {
     bool Skontrolovano = false;  ///< the check took the example
     bool Tazeni = false;         ///< the button is held over the plane
     Bod Start;
+    std::string BodVyzvy;      ///< the vertex or centre that the prompt names; empty: none
     std::uint32_t Znacky = 0;  ///< marks of the sketch, bits in the order of its elements
     Seznam Combo;
     std::string lblText3;
@@ -178,6 +179,8 @@ protected:
     [[nodiscard]] bool JeZadana(std::string_view velicina) const {
         return Hodnota(velicina).has_value();
     }
+    /// What the plane waits for with the object in hand.
+    [[nodiscard]] Gesto GestoKroku() const;
     /// Whether the first step may begin: it waits for a mark on the sketch until then.
     [[nodiscard]] bool MuzeZacit() const;
     /// Faces of the tools; one without a face, out of turn or beside an awaited drag is not live.

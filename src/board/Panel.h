@@ -87,6 +87,25 @@ struct PolozkaZadani {
     friend bool operator==(const PolozkaZadani&, const PolozkaZadani&) = default;
 };
 
+/// What the plane waits for, as the pressed tool, the prompt and the chosen line tell it. A point
+/// is named only where one of these names it.
+struct Gesto {
+    enum class Tvar {
+        Zadny,
+        Utvar,  ///< of a tool that neither prompt nor line names
+        Usecka,
+        Primka,
+        Poloprimka,
+        Kolmice,
+        Rovnobezka,
+        Kruznice,
+        Bod  ///< a whole click; all others are drags
+    };
+    Tvar Druh = Tvar::Zadny;
+    std::string Od, Kam;  ///< names of the points; empty: none is named
+    friend bool operator==(const Gesto&, const Gesto&) = default;
+};
+
 /// What the step dialogue shows. Computed from the construction and the dialogue, never patched,
 /// so that going back is an earlier phase shown again.
 struct Panel {
@@ -100,6 +119,9 @@ struct Panel {
     Seznam Combo;
     std::vector<PolozkaZadani> lblZadani;
     bool PicZiva = true;  ///< the plane takes the mouse
+    Gesto Kresleni;
+    bool Nezavrena = false;    ///< all objects are drawn, and they do not close the figure
+    bool Nesestrojen = false;  ///< the plane says that there is no triangle of the typed values
     friend bool operator==(const Panel&, const Panel&) = default;
 };
 

@@ -25,6 +25,8 @@ constexpr std::string_view SEKCE = "RYSOVNA1";
 constexpr std::string_view NENI_KLIC = "Chyba";
 constexpr std::string_view KLIC_VYSLEDKU = "VYSLEDKY";
 constexpr std::string_view UCET = "ucet";
+constexpr std::string_view KLIC_RAD = "Rady";
+constexpr std::string_view BEZ_RAD = "ne";
 constexpr const char* JMENO_INI = "Rysovna.ini";
 constexpr int ULOH = 20;
 
@@ -131,6 +133,7 @@ Cesty CtiCesty(const std::string& slozka, const std::filesystem::path& slozkaUct
     } else if (cesty.Oddelene) {
         cesty.Vysledky = CestaZIni(obsah, KLIC_VYSLEDKU, adresar);
     }
+    cesty.Rady = HodnotaIni(obsah, SEKCE, KLIC_RAD, "") != BEZ_RAD;
     return cesty;
 }
 
@@ -169,6 +172,7 @@ bool NactiKonfiguraci() {
     CestaCD = cesty.CD;
     CestaHD = cesty.HD;
     CestaVysledku = cesty.Vysledky;
+    RadyUkazovat = cesty.Rady;
     UkladaniVysledku.reset();
     if (!CestaCD.empty()) NastavSlozkuPisem(CestaCD + "Fonts");
     if (CestaCD.empty() || CestaHD.empty()) {
@@ -261,6 +265,7 @@ void VychoziRelace() {
     for (std::uint8_t* bajt : {&CisloUlohy, &PocetPrikladuSerie, &KladneBody, &ZaporneBody}) {
         *bajt = 0;
     }
+    RadyUkazovat = true;
     ZnamkyTab.Smaz();
     Priklady.Smaz();
     ZadanePrvky.Smaz();

@@ -55,17 +55,20 @@ inline std::shared_ptr<Ukladani> UkladaniVysledku;
 /// The same, made when it is first wanted.
 [[nodiscard]] Ukladani& Vysledky();
 
+inline bool RadyUkazovat = true;  ///< boards say what to do next; off by the configuration
+
 /// The generator of examples. Sown with the host's seed at the start-up and before each
 /// example.
 inline Nahoda Generator;
 
-/// Where the configuration says that things are. Each with a backslash at its end, or empty where
-/// its key is missing.
+/// Where the configuration says that things are, each with a backslash at its end or empty where
+/// its key is missing, and what else it says.
 struct Cesty {
     std::string CD;         ///< asset root
     std::string HD;         ///< data root
     std::string Vysledky;   ///< folder of results; without a key of its own the data root
     bool Oddelene = false;  ///< results have a key of their own: missing files of theirs are made
+    bool Rady = true;       ///< boards say what to do next; "ne" turns it off
 };
 
 /// Reads Rysovna.ini in a folder. "ucet" as the folder of results is the account's own, slozkaUctu;

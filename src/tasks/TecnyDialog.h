@@ -120,6 +120,7 @@ private:
     void ZvolKruznici(const KrokTecny& krok, const std::string& stred);
     void ZvolOsu();
     [[nodiscard]] std::array<Tlacitko, 6> Tlacitka(const Cviceni& c) const;
+    [[nodiscard]] Gesto GestoKroku() const;
 
     // TecnyDialogPlocha.cpp: the plane
     void KlikniStred(float x, float y);

@@ -130,6 +130,35 @@ std::array<Tlacitko, 6> TecnyDialog::Tlacitka(const Cviceni& c) const {
     return cmd;
 }
 
+/// A line through two points names both in its row; a ray and a circle name theirs in the prompt.
+Gesto TecnyDialog::GestoKroku() const {
+    using Tvar = Gesto::Tvar;
+    struct TahDruhu {
+        Nastroj Nastroj_;
+        Tvar Jak;
+    };
+    static constexpr TahDruhu RADKY[] = {
+        {Nastroj::Primka, Tvar::Primka},     {Nastroj::Poloprimka, Tvar::Poloprimka},
+        {Nastroj::Kolmice, Tvar::Kolmice},   {Nastroj::Rovnobezka, Tvar::Rovnobezka},
+        {Nastroj::Kruznice, Tvar::Kruznice}, {Nastroj::Stred, Tvar::Bod},
+        {Nastroj::Prusecik, Tvar::Bod}};
+    if (!stav_.CekaNaKresleni || stav_.Skontrolovano) return {};
+    const auto* r = std::ranges::find(RADKY, stav_.Tvar, &TahDruhu::Nastroj_);
+    if (r == std::end(RADKY)) return {};
+    // With nothing to pick by, the tool in hand is not named anywhere.
+    if (r->Jak != Tvar::Bod && stav_.lblText3.empty()) return {Tvar::Utvar, {}, {}};
+    Gesto g{r->Jak, {}, {}};
+    if (g.Druh == Tvar::Primka && !stav_.OcekavanyBod.empty()) {
+        g.Od = stav_.OcekavanyBod.substr(0, 1);
+        g.Kam = stav_.OcekavanyBod.substr(1);
+    } else if (g.Druh == Tvar::Poloprimka) {
+        g.Od = stav_.Jmeno;
+    } else if (g.Druh == Tvar::Kruznice) {
+        g.Od = stav_.StredKruznice;
+    }
+    return g;
+}
+
 Panel TecnyDialog::UkazPanel() const {
     Panel p;
     const Cviceni* c = Hrane();
@@ -154,6 +183,8 @@ Panel TecnyDialog::UkazPanel() const {
     p.lblText4 = stav_.lblText4;
     p.Combo = stav_.Combo;
     p.PicZiva = !stav_.HotovaKonstrukce && !stav_.Skontrolovano;
+    p.Kresleni = GestoKroku();
+    p.Nezavrena = krok == nullptr && !stav_.HotovaKonstrukce;
     return p;
 }
 

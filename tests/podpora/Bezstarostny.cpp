@@ -298,6 +298,9 @@ void Bezstarostny::Sleduj() {
     const bool uzavreno = JeUzavreno(vpredu.get());
     if (uzavreno && !uzavreno_) ++souhrn_.Uzavreni;
     uzavreno_ = uzavreno;
+    if (const auto* deska = dynamic_cast<const DeskaForm*>(vpredu.get())) {
+        if (const std::string vada = hlidac_.Zkontroluj(*deska); !vada.empty()) Vadne(vada);
+    }
 }
 
 void Bezstarostny::ZkontrolujStav() {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "hrac/Relace.h"
+#include "podpora/HlidacRady.h"
 
 namespace rysovna::testy {
 
@@ -74,6 +75,7 @@ private:
     std::unique_ptr<Relace> relace_;
     std::deque<std::string> stopa_;  ///< the last events
     Souhrn souhrn_;
+    HlidacRady hlidac_;
     int planovano_ = 0;  ///< planned events still to come
     int konce_ = 0;      ///< ends of series seen in this run
     bool uzavreno_ = false;

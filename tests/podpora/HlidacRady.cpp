@@ -1,0 +1,124 @@
+#include "podpora/HlidacRady.h"
+
+#include <algorithm>
+#include <sstream>
+
+#include "board/RadaCesky.h"
+#include "engine/Tabulky.h"
+#include "shell/Misc.h"
+
+namespace rysovna::testy {
+
+namespace {
+
+using Co = Rada::Co;
+
+bool Zije(const Ovladac& o) {
+    for (const Ovladac* p = &o; p != nullptr; p = p->Rodic) {
+        if (!p->Visible || !p->Enabled) return false;
+    }
+    return true;
+}
+
+constexpr std::size_t ZPET = 4, SESTROJ = 5;
+
+bool ZijeNastroj(const DeskaForm& d) {
+    for (std::size_t i = 0; i < d.cmd.size(); ++i) {
+        if (i != ZPET && Zije(d.cmd[i])) return true;
+    }
+    return false;
+}
+bool ZijeZpet(const DeskaForm& d) {
+    return Zije(d.cmd[ZPET]);
+}
+bool ZijeRadek(const DeskaForm& d) {
+    return std::ranges::any_of(d.ComboLabel, [](const Label& l) { return Zije(l); });
+}
+bool ZijePlocha(const DeskaForm& d) {
+    return Zije(d.Pic) && !ZijeNastroj(d) && !d.Combo.Visible;
+}
+bool JeMrtvy(const DeskaForm& d) {
+    const PictureBox& t = d.cmd[static_cast<std::size_t>(d.VidenoTed().MrtvyNastroj - 1)];
+    return t.Visible && !t.Enabled;
+}
+
+/// What must be so when the guide says this.
+struct Podminka {
+    Co Druh;
+    bool (*Plati)(const DeskaForm&);
+};
+constexpr Podminka PODMINKY[] = {
+    {Co::OznacZadane, [](const DeskaForm& d) { return Zije(d.SamplePic) && !ZijeNastroj(d); }},
+    {Co::VysunNacrt, [](const DeskaForm& d) { return Zije(d.MalaSipka) && !ZijeNastroj(d); }},
+    {Co::ZvolPrvni, ZijeNastroj},
+    {Co::ZvolTrojuhelnik, ZijeNastroj},
+    {Co::ZvolNastroj, ZijeNastroj},
+    {Co::VyberRadek, ZijeRadek},
+    {Co::VyplnHodnoty, [](const DeskaForm& d) { return Zije(d.txtVstup); }},
+    {Co::PotvrdHodnoty, [](const DeskaForm& d) { return Zije(d.cmd[SESTROJ]); }},
+    {Co::NapisHodnotu, [](const DeskaForm& d) { return ZijePlocha(d) && Zije(d.txtVstup); }},
+    {Co::Kresli, ZijePlocha},
+    {Co::Tahni,
+     [](const DeskaForm& d) { return ZijePlocha(d) && (d.Line1.Visible || d.Circle1.Visible); }},
+    {Co::Zkontroluj, [](const DeskaForm& d) { return Zije(d.PicTop[0]) && !d.Pic.Enabled; }},
+    {Co::VratNezavrenou, ZijeZpet},
+    {Co::VratNesestrojeny, ZijeZpet},
+    {Co::MrtvyBezZnacek, JeMrtvy},
+    {Co::MrtvySUtvarem, JeMrtvy},
+    {Co::MrtvySeSeznamem, [](const DeskaForm& d) { return JeMrtvy(d) && ZijeRadek(d); }},
+    {Co::MrtveZpet, JeMrtvy},
+    {Co::MrtvaVeta, JeMrtvy},
+    {Co::MrtveHodnoty, JeMrtvy},
+    {Co::Vysledek,
+     [](const DeskaForm& d) {
+         return d.ImgHodnoceni.Visible && d.ImgHodnoceni.Enabled != d.RadaTed().Priklad.Bezchybny;
+     }},
+};
+
+/// All that is seen of the dialogue, as text: neither its phase nor which object it waits for. That
+/// a press would draw is seen by the pointer.
+std::string CoJeVidet(const DeskaForm& d) {
+    const Videne& v = d.VidenoTed();
+    const Panel& p = v.Krok;
+    std::ostringstream s;
+    s << int{CisloUlohy} << '|' << PocetUtvaru << '|' << v.NacrtVysunuty << v.Tahne << '|'
+      << v.Odecet << '|' << v.MrtvyNastroj << '|' << (p.Kresleni.Druh != Gesto::Tvar::Zadny)
+      << p.PicZiva << p.Nesestrojen << '|';
+    for (const Tlacitko& t : p.cmd) s << t.Tvar << (t.Barevne ? 'b' : 's') << t.Zive << ' ';
+    s << '|' << p.lblText1 << '|' << p.lblText2 << '|' << p.lblText3 << '|' << p.lblText4.Text;
+    s << '|' << p.txtVstup.Videt << p.txtVstup.Ziva << p.txtVstup.Text;
+    for (const RadekVstupu& r : p.Vstupy) s << '|' << r.Nazev << r.Box.Text;
+    if (p.Combo.Otevreny) {
+        for (const RadekSeznamu& r : p.Combo.Radky) s << '|' << r.Text << r.Videt << r.Ziva;
+    }
+    return s.str();
+}
+
+}  // namespace
+
+std::string HlidacRady::Zkontroluj(const DeskaForm& deska) {
+    if (deska.JeUprostred()) return {};
+    if (!(deska.VidenoTed().Krok == deska.Dialogem().UkazPanel())) {
+        return "the guide was computed from an older panel";
+    }
+    const Rada& r = deska.RadaTed();
+    const RadkyRady radky = RadaCesky(r);
+    const std::string slova = radky[0] + " / " + radky[1];
+    if (deska.PicRada.Visible != RadyUkazovat) return "the guide's strip is not as configured";
+    for (std::size_t i = 0; i < radky.size(); ++i) {
+        if (deska.lblRada[i].Caption != radky[i]) return "the guide does not show: " + slova;
+    }
+    if (r.Druh == Co::Nic) return {};
+    const auto* p = std::ranges::find(PODMINKY, r.Druh, &Podminka::Druh);
+    if (p == std::end(PODMINKY)) return "the guide says what nobody checks: " + slova;
+    if (!p->Plati(deska)) return "the guide names what is not live: " + slova;
+    if (deska.VidenoTed().Kdy != Videne::Doba::Hraje) return {};
+    const auto [kde, novy] = videno_.try_emplace(CoJeVidet(deska), slova);
+    if (!novy && kde->second != slova) {
+        return "the guide tells what cannot be seen: " + kde->second + " <> " + slova + " at " +
+               kde->first;
+    }
+    return {};
+}
+
+}  // namespace rysovna::testy
