@@ -50,4 +50,10 @@ void ChybovyForm::MouseDown(Ovladac*, const Mys&) {
     Stroj().Okna().Unload(*this);
 }
 
+bool ChybovyForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    if (klavesa != "Escape" && klavesa != "Return" && klavesa != "Space") return false;
+    Stroj().Okna().Unload(*this);
+    return true;
+}
+
 }  // namespace rysovna

@@ -43,6 +43,8 @@ DeskaCtyruhelniku::DeskaCtyruhelniku() {
     };
     Pridej(txtVstup2, "txtVstup2", box(1));
     Pridej(txtVstup3, "txtVstup3", box(2));
+    txtVstup2.Zastavka = txtVstup.Zastavka + 1;
+    txtVstup3.Zastavka = txtVstup.Zastavka + 2;
     Pridej(lblText8, "lblText8", jednotka(1));
     Pridej(lblText9, "lblText9", jednotka(2));
 }

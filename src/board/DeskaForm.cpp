@@ -101,6 +101,7 @@ void DeskaForm::RozlozOvladace() {
         ComboLabel[i].Top = 2 + static_cast<int>(i) * Seznam::VYSKA_RADKU;
         ComboLabel[i].WordWrap = false;
     }
+    OcislujZastavky();
 }
 
 void DeskaForm::NactiObrazky() {

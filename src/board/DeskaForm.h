@@ -18,8 +18,14 @@ namespace rysovna {
 /// The frame that all six boards share: window, top buttons, arrows, the sliding panel with the
 /// sketch, the plane, the step dialogue's controls, the check and the series. It passes events to
 /// the dialogue of the board and shows the panel that the dialogue computes; the rules are there.
+///
+/// Played by keys, arrows go from element to element of the sketch; on the plane a cross stands for
+/// the pointer: arrows move it by 1 px (with Shift by 10), a letter takes it to the next point of
+/// that name. Digits choose a line of the open list or a step button, Return in a box goes on.
 class DeskaForm : public Form {
 public:
+    static constexpr int ZASTAVKA_PLOCHY = 9;  ///< of the plane, where it is one
+
     DeskaForm();
 
     PictureBox Pic;       ///< the drawing plane, 384 by 335 px
@@ -58,7 +64,12 @@ public:
     void MouseUp(Ovladac* o, const Mys& m) override;
     void Click(Ovladac* o) override;
     void Change(TextBox& t) override;
-    bool Klavesa(std::string_view klavesa) override;
+    bool Klavesa(std::string_view klavesa, int shift) override;
+    bool KlavesaNa(Ovladac& o, std::string_view klavesa, int shift) override;
+    void PriselPrsten(Ovladac& o) override;
+    [[nodiscard]] Ovladac* PrvniZastavka() override;
+    [[nodiscard]] Ovladac* Napoveda() override { return &INadpis; }
+    [[nodiscard]] UkazatelKlaves Ukazatel(const Ovladac& o) const override;
 
     /// The dialogue of this board; made by Load.
     [[nodiscard]] const Dialog& Dialogem() const { return *dialog_; }
@@ -95,6 +106,11 @@ private:
     void StiskMaleSipky();
     void ZhasniHorni();
     void ZhasniSipky();
+    // DeskaKlavesy.cpp: keys
+    void OcislujZastavky();
+    bool EnterVPoli();
+    void UkazSeznamKlavesam();
+    [[nodiscard]] Bod VRozsahu(Bod kriz) const;
     // DeskaPanel.cpp: the panel as it is shown, and its slide
     void UkazZadani(const std::vector<PolozkaZadani>& zadani);
     void UkazSeznam(const Seznam& seznam);
@@ -131,6 +147,9 @@ private:
     bool poustiSe_ = false;      ///< a release on the plane is being handled
     Videne videne_;
     Rada rada_;
+    Bod kriz_{192, 167};         ///< px of the plane: where the pointer of the keys is
+    int zona_ = 0;               ///< element of the sketch that the keys are at, from 0
+    int nastroj_ = 1;            ///< step button that opened the list
     std::uint64_t podklad_ = 0;  ///< version of the plane that the resting panel lies on
 };
 

@@ -63,6 +63,8 @@ void DeskaForm::Ukaz() {
     if (ukazatVstup) SetFocus(txtVstup);
 
     Pic.Enabled = p.PicZiva;
+    Pic.Zastavka = dialog_->StaciKlik() || dialog_->CekaNaKresleni() ? ZASTAVKA_PLOCHY : 0;
+    Pic.Klavesou = dialog_->StaciKlik() ? StiskKlavesou::Klik : StiskKlavesou::Tah;
     UkazZadani(p.lblZadani);
     UkazSeznam(p.Combo);
     UkazDalsi(p);

@@ -142,12 +142,6 @@ void DeskaForm::Napis(int ktery, const TextBox& box) {
     ObnovRadu();
 }
 
-bool DeskaForm::Klavesa(std::string_view klavesa) {
-    if (klavesa != "Escape" || !Combo.Visible) return false;
-    SkryjSeznam();
-    return true;
-}
-
 void DeskaForm::StiskMaleSipky() {
     ZvukStisku();
     SkryjSeznam();
@@ -161,6 +155,8 @@ void DeskaForm::StiskNastroje(const PictureBox& tlacitko, const Mys& m) {
     Combo.Top = tlacitko.Top + Zaokrouhli(m.Y);
     DoPopredi(Combo);
     Ukaz();
+    nastroj_ = tlacitko.Index;
+    UkazSeznamKlavesam();
 }
 
 void DeskaForm::VyberRadku(int i) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "base/Plane.h"
 #include "board/Konstrukce.h"
@@ -53,6 +54,13 @@ public:
     /// Whether a press on the plane begins a drag now.
     [[nodiscard]] virtual bool CekaNaKresleni() const = 0;
 
+    /// Whether the plane waits for a click: nothing is drawn from here to there.
+    [[nodiscard]] virtual bool StaciKlik() const { return false; }
+
+    /// A place in each element of the sketch where a press hits it, px of the sketch.
+    [[nodiscard]] virtual std::vector<Bod> MistaNacrtu() const = 0;
+    /// The element, from 0, that a press here hits; -1: none.
+    [[nodiscard]] virtual int PrvekNacrtu(float x, float y) const = 0;
     /// The press on the sketch. True if it hit something.
     virtual bool StiskNacrtu(float x, float y) = 0;
     /// Draws the sketch with its marks.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Cisla.h"
 #include "shell/Misc.h"
 #include "shell/Soubory.h"
 
@@ -77,8 +78,23 @@ void DialogKroku::SestavZadani(std::vector<PolozkaZadani>& zadani) const {
     }
 }
 
+std::vector<Bod> DialogKroku::MistaNacrtu() const {
+    const Nacrt nacrt = NacrtPrikladu();
+    const auto kde = [&](std::size_t i, double podel) {
+        const PasNacrtu& p = nacrt.Prvky[i].Pas;
+        const double x = p.X1 + podel * (p.X2 - p.X1);
+        return Bod{Zaokrouhli(x), Zaokrouhli(p.K * x + p.Q)};
+    };
+    return MistaPrvku(nacrt.Prvky.size(), kde,
+                      [&](Bod b) { return PrvekPod(nacrt.Prvky, b.X, b.Y); });
+}
+
+int DialogKroku::PrvekNacrtu(float x, float y) const {
+    return PrvekPod(NacrtPrikladu().Prvky, x, y);
+}
+
 bool DialogKroku::StiskNacrtu(float x, float y) {
-    const int prvek = PrvekPod(NacrtPrikladu().Prvky, x, y);
+    const int prvek = PrvekNacrtu(x, y);
     if (prvek < 0 || Stav().Skontrolovano) return false;
     Upravit().Znacky ^= 1U << prvek;
     return true;

@@ -86,6 +86,8 @@ public:
     [[nodiscard]] bool CekaNaKresleni() const override {
         return Stav().CekaNaKresleni && !Stav().Skontrolovano;
     }
+    [[nodiscard]] std::vector<Bod> MistaNacrtu() const override;
+    [[nodiscard]] int PrvekNacrtu(float x, float y) const override;
     bool StiskNacrtu(float x, float y) override;
     void KresliNacrt(Plane& plocha) const override;
     void Zkontroluj() override;

@@ -63,6 +63,22 @@ int PrvekPod(std::span<const PrvekNacrtu> prvky, double x, double y) {
     return -1;
 }
 
+std::vector<Bod> MistaPrvku(std::size_t pocet, const std::function<Bod(std::size_t, double)>& kde,
+                            const std::function<int(Bod)>& prvek) {
+    constexpr int DILKU = 20;
+    std::vector<Bod> mista;
+    for (std::size_t i = 0; i < pocet; ++i) {
+        Bod misto = kde(i, 0.5);
+        // To both sides from the middle, further and further.
+        for (int k = 1; k < DILKU && prvek(misto) != static_cast<int>(i); ++k) {
+            const int posun = k % 2 == 0 ? k / 2 : -(k + 1) / 2;
+            misto = kde(i, 0.5 + posun / static_cast<double>(DILKU));
+        }
+        mista.push_back(misto);
+    }
+    return mista;
+}
+
 void TiskniNaBilem(Plane& p, float x, float y, std::string_view text) {
     // One thick stroke under the letters, as high as they are: of the row it leaves out what is
     // above and below them, so that lines beside the text stay whole.

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string_view>
+#include <vector>
 
+#include "base/Bod.h"
 #include "base/Plane.h"
 
 namespace rysovna {
@@ -56,6 +60,13 @@ struct Nacrt {
 
 /// The first element whose zone contains the press; -1 if none does.
 [[nodiscard]] int PrvekPod(std::span<const PrvekNacrtu> prvky, double x, double y);
+
+/// A place for a press in each of so many elements: the middle of an element, or the nearest to it
+/// that no other one lies over. kde(i, podel): the place of an element so far along it, 0 to 1;
+/// prvek(place): the element that a press there hits.
+[[nodiscard]] std::vector<Bod> MistaPrvku(std::size_t pocet,
+                                          const std::function<Bod(std::size_t, double)>& kde,
+                                          const std::function<int(Bod)>& prvek);
 
 /// Lines of a sketch, px. What is marked is red and wider, so that colour is not the only sign.
 constexpr int SIRKA_CARY_NACRTU = 2, SIRKA_OZNACENE = 3;

@@ -13,6 +13,14 @@ namespace rysovna {
 /// The design area, design pixels: what every screen is laid out for.
 constexpr int NAVRH_SIRKA = 640, NAVRH_VYSKA = 480;
 
+/// The pointer of the keys on the object that has the ring, px of the object: what the ring goes
+/// round, and where a press falls.
+struct UkazatelKlaves {
+    Obdelnik Ram;
+    Bod Hrot;
+    bool Kriz = false;  ///< that place is shown by a cross
+};
+
 /// A screen: a record of its own with its objects, and the calls by which events reach it. One
 /// class per screen derives from it. Made and destroyed by Obrazovky alone.
 ///
@@ -42,9 +50,11 @@ public:
     [[nodiscard]] Ovladac* Najdi(std::string_view jmeno, int index = 0) const;
     void DoPopredi(Ovladac& o);
     /// Gives a text box the keyboard.
-    void SetFocus(TextBox& t) { zamereni_ = &t; }
+    void SetFocus(TextBox& t) { prsten_ = zamereni_ = &t; }
     [[nodiscard]] TextBox* Zamereni() const { return zamereni_; }
     void ZrusZamereni() { zamereni_ = nullptr; }
+    /// Puts the ring of the keys on an object; whether it is shown is not changed.
+    void Prsten(Ovladac& o) { prsten_ = &o; }
 
     // Events. o is the object; null is the form itself. A subclass takes those that it wants.
     virtual void Load() {}
@@ -64,8 +74,22 @@ public:
     /// The person edited the text. What the program itself writes into a text box gives no event.
     virtual void Change(TextBox& /*t*/) {}
     virtual void TimerTick(Timer& /*t*/) {}
-    /// A key that no text box took: "Return", "Escape", ... True if the form used it.
-    virtual bool Klavesa(std::string_view /*klavesa*/) { return false; }
+    /// A key that no text box took: "Return", "Escape", ... (shift: 1 Shift, 2 Ctrl). True if the
+    /// form used it; what is left moves the ring or presses what it is on.
+    virtual bool Klavesa(std::string_view /*klavesa*/, int /*shift*/) { return false; }
+    /// A key for the object that has the shown ring, before it moves the ring. True if it was used.
+    virtual bool KlavesaNa(Ovladac& /*o*/, std::string_view /*klavesa*/, int /*shift*/) {
+        return false;
+    }
+    /// The shown ring came to an object.
+    virtual void PriselPrsten(Ovladac& /*o*/) {}
+    /// Where the ring is when its object is none or not live any more; null: the first live one.
+    [[nodiscard]] virtual Ovladac* PrvniZastavka() { return nullptr; }
+    /// What F1 presses; null if there is no help to this screen.
+    [[nodiscard]] virtual Ovladac* Napoveda() { return nullptr; }
+    [[nodiscard]] virtual UkazatelKlaves Ukazatel(const Ovladac& o) const {
+        return {{0, 0, o.Width, o.Height}, {o.Width / 2, o.Height / 2}};
+    }
     /// The window is being closed from outside. The shell's root screen asks its exit question.
     virtual void QueryUnload() {}
 
@@ -93,8 +117,10 @@ protected:
 
 private:
     friend class Obrazovky;
+    friend Ovladac* MistoPrstenu(Form& form);
     std::vector<Ovladac*> ovladace_;
     TextBox* zamereni_ = nullptr;
+    Ovladac* prsten_ = nullptr;
     bool viditelny_ = false;
     bool zavreny_ = false;
 };

@@ -145,6 +145,7 @@ struct Malir::Vnitrek {
     int Sirka = 0, Vyska = 0;
     std::uint64_t Verze = 0;
     std::vector<Zaznam> Radky;
+    std::optional<Obrazovky::Prsten> Prsten;
 };
 
 Umisteni Umisteni::Vejdi(int sirka, int vyska) {
@@ -170,6 +171,7 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
     const Umisteni umisteni = Umisteni::Vejdi(cil.Sirka, cil.Vyska);
     const bool kurzor = (ted - okna.PosledniPsani()) / BLIKANI % 2 == 0;
     Soupis soupis(okna, kurzor);
+    const std::optional<Obrazovky::Prsten> prsten = okna.PrstenVpredu();
 
     Kresba k;
     k.Cil = {cil.Body, cil.Sirka, cil.Vyska, cil.Krok};
@@ -191,6 +193,10 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
         spinave = {okraje ? k.Cil.Meze() : navrh};
     } else {
         spinave = Rozdily(v.Radky, soupis.Radky);
+        if (prsten != v.Prsten) {
+            if (v.Prsten) spinave.push_back(DosahPrstenu(*v.Prsten));
+            if (prsten) spinave.push_back(DosahPrstenu(*prsten));
+        }
         Spoj(spinave);
         for (Obdelnik& o : spinave) o = Prunik(k.NaCil(o), k.NaCil(NAVRH));
         std::erase_if(spinave, [](const Obdelnik& o) { return JePrazdny(o); });
@@ -204,8 +210,9 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
                 NamalujObjekt(k, z.Objekt);
             }
         }
+        if (prsten) NamalujPrsten(k, *prsten);
     }
-    v = {false, cil.Sirka, cil.Vyska, okna.Verze(), std::move(soupis.Radky)};
+    v = {false, cil.Sirka, cil.Vyska, okna.Verze(), std::move(soupis.Radky), prsten};
     return spinave;
 }
 

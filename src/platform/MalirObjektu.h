@@ -2,6 +2,7 @@
 
 #include "platform/Bitmapa.h"
 #include "platform/Form.h"
+#include "platform/Obrazovky.h"
 
 namespace rysovna {
 
@@ -34,6 +35,10 @@ struct Umisteny {
 
 /// Paints one object, within k.Orez and what of it can be seen.
 void NamalujObjekt(const Kresba& k, const Umisteny& u);
+/// Paints the ring of the keys, and the cross where it has one, over all else.
+void NamalujPrsten(const Kresba& k, const Obrazovky::Prsten& p);
+/// The rectangle that they reach, design pixels.
+[[nodiscard]] Obdelnik DosahPrstenu(const Obrazovky::Prsten& p);
 /// Paints the ground of a form: its picture over its colour.
 void NamalujForm(const Kresba& k, const Form& form, const Obdelnik& kde);
 

@@ -13,8 +13,7 @@ bool Obrazovky::Vnitrek::Modalne(const Form& f) const {
 
 Formular Obrazovky::Vnitrek::Drzici() const {
     Formular f = DrziForm.lock();
-    const bool dostava = f != nullptr && f->Viditelny() && (Modalni.empty() || f == Modalni.back());
-    return dostava ? f : nullptr;
+    return f != nullptr && Dostava(*f) ? f : nullptr;
 }
 
 Formular Obrazovky::Vnitrek::VpreduPodModalnimi() const {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -85,11 +86,34 @@ public:
 
     /// Typed text, UTF-8.
     void Text(std::string_view utf8);
-    /// A key by its name: "Left", "Right", "Up", "Down", "Home", "End", "BackSpace", "Delete",
-    /// "Return", "Escape", "Tab", "Space", or a letter with ctrl ("a", "c", "v", "x"). shift: 1
-    /// Shift, 2 Ctrl. Where there are several text boxes to type into, Tab goes round them. What a
-    /// key types comes as Text besides.
+    /// A key goes down, by its name: "Left", "Right", "Up", "Down", "Home", "End", "BackSpace",
+    /// "Delete", "Return", "Escape", "Tab", "Space", "F1", a letter ("a" to "z"; with ctrl "a",
+    /// "c", "v", "x" edit a text box), a digit by its place on the keyboard ("1" to "9"). shift: 1
+    /// Shift, 2 Ctrl. What a key types comes as Text besides. See Klavesnice.h for what keys do.
     void Klavesa(std::string_view jmeno, int shift);
+    /// "Space" or "Return" went up again.
+    void KlavesaNahoru(std::string_view jmeno);
+
+    /// The ring of the keys on the screen in front, design pixels.
+    struct Prsten {
+        const Ovladac* Co = nullptr;
+        Obdelnik Ram;
+        Bod Hrot;
+        bool Kriz = false;
+        friend bool operator==(const Prsten&, const Prsten&) = default;
+    };
+    /// None while it is not shown: it comes with a key and goes with the mouse.
+    [[nodiscard]] std::optional<Prsten> PrstenVpredu() const;
+    /// Whether a press that a key made still holds its object.
+    [[nodiscard]] bool DrziKlavesa() const;
+    // For forms, in their handlers of keys:
+    /// Shows the ring on an object; a text box gets the keyboard, all of it marked.
+    void DejPrsten(Form& form, Ovladac& o);
+    /// Shows the ring on a live object and clicks it. False if it is not live.
+    bool StiskniZastavku(Form& form, Ovladac& o);
+    /// The form's pointer of the keys moved on the object that has the ring.
+    void PosunutUkazatel(Form& form, Ovladac& o);
+
     /// The window's own close button.
     void ZadostOZavreni();
     /// A press beside the design area, or the return from another application.
@@ -121,6 +145,14 @@ private:
     void DorucPusteni(const Vstup& s);
     void DorucText(const Vstup& s);
     void DorucKlavesu(const Vstup& s);
+    void DorucPusteniKlavesy(const Vstup& s);
+    bool PosunDrzenouMys(const Vstup& s);
+    bool ZaDrzeni(const Vstup& s);
+    void KlavesaPrstenu(const std::shared_ptr<Form>& form, std::string_view jmeno, int shift);
+    void ZmackniKlavesou(Form& form, Ovladac& o, std::string_view jmeno);
+    void PustKlavesou();
+    void Klepni(Form& form, Ovladac& o);
+    void UkazPrsten();
     void DorucZavreni();
     void DorucNavrat();
     std::unique_ptr<Vnitrek> vnitrek_;

@@ -14,7 +14,7 @@ using Formular = std::shared_ptr<Form>;
 
 /// One piece of input as a host handed it in; design pixels.
 struct Obrazovky::Vstup {
-    enum class Druh { Dolu, Pohyb, Nahoru, Text, Klavesa, Zavreni, Navrat };
+    enum class Druh { Dolu, Pohyb, Nahoru, Text, Klavesa, KlavesaNahoru, Zavreni, Navrat };
     Druh Co;
     double X = 0, Y = 0;
     int Tlacitko = 0;  ///< of a move the sum of those held
@@ -69,6 +69,14 @@ struct Obrazovky::Vnitrek {
     std::weak_ptr<Form> DrziForm;
     Ovladac* DrziObjekt = nullptr;
     int DrziTlacitka = 0;
+    std::string DrziKlavesa;  ///< the key that made it; empty: the mouse
+    StiskKlavesou DrziJak = StiskKlavesou::Klik;
+    double MysX = 0, MysY = 0;  ///< where the mouse was last, and whether it was anywhere
+    bool ZnaMys = false;
+    Bod Posun;  ///< how far arrows have carried the mouse that is held
+
+    bool PrstenVidet = false;
+    double MysPriPrstenuX = 0, MysPriPrstenuY = 0;  ///< the mouse when the last key came
 
     RadaStisku Rada;
     int Zahozena = 0;            ///< buttons held whose presses were dropped, their sum
@@ -83,6 +91,14 @@ struct Obrazovky::Vnitrek {
     /// The form of the press, if it still gets events: it stays visible, and no modal form has come
     /// up over it. A small form that its press brought up takes nothing from it.
     [[nodiscard]] Formular Drzici() const;
+    /// The form gets the events of a press on it: it is visible and has no modal form over it.
+    [[nodiscard]] bool Dostava(const Form& f) const {
+        return f.Viditelny() && (Modalni.empty() || Modalni.back().get() == &f);
+    }
+    void PustDrzeni() {
+        Drzi = false;
+        DrziKlavesa.clear();
+    }
     [[nodiscard]] Formular VpreduPodModalnimi() const;
     /// The form that is in front now gets Activate if it was not the active one.
     void Aktivuj(const Formular& f);

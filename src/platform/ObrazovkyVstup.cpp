@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "platform/Host.h"
+#include "platform/Klavesnice.h"
 #include "platform/ObrazovkyVnitrek.h"
 #include "platform/PsaniTextu.h"
 
@@ -15,46 +16,12 @@ constexpr int LEVE = 1;
 /// A press within this time and distance of the one before, on each axis, goes with it.
 constexpr std::int32_t DVOJKLIK_MS = 500;
 constexpr double DVOJKLIK_PX = 4;
-
-Obdelnik MistoFormu(const Form& f) {
-    return {f.Maximised ? 0 : f.Left, f.Maximised ? 0 : f.Top, f.Width, f.Height};
-}
-
-/// Top left corner of the object on its form.
-Bod Roh(const Ovladac* o) {
-    Bod roh;
-    for (; o != nullptr; o = o->Rodic) {
-        roh.X += o->Left;
-        roh.Y += o->Top;
-    }
-    return roh;
-}
-
-/// Seen and enabled, with all that it stands in.
-bool Dosazitelny(const Ovladac* o) {
-    for (; o != nullptr; o = o->Rodic) {
-        if (!o->Visible || !o->Enabled) return false;
-    }
-    return true;
-}
+/// A move so far takes the ring away, design px.
+constexpr double POHNULA_SE = 4;
 
 bool BereMys(const Ovladac& o) {
     return o.ProMys && (o.Druh == Ovladac::Typ::PictureBox || o.Druh == Ovladac::Typ::Image ||
                         o.Druh == Ovladac::Typ::Label || o.Druh == Ovladac::Typ::TextBox);
-}
-
-/// The box to type into that comes behind (before) this one on the form; this one if there is no
-/// other.
-TextBox* DalsiPole(const Form& form, TextBox* t, bool zpet) {
-    std::vector<TextBox*> pole;
-    for (Ovladac* o : form.Ovladace()) {
-        auto* p = dynamic_cast<TextBox*>(o);
-        if (p != nullptr && !p->MultiLine && Dosazitelny(p)) pole.push_back(p);
-    }
-    if (zpet) std::ranges::reverse(pole);
-    const auto ted = std::ranges::find(pole, t);
-    if (ted == pole.end()) return t;
-    return ted + 1 == pole.end() ? pole.front() : *(ted + 1);
 }
 
 /// The uppermost object at a place of its parent, or the parent's own nothing (null).
@@ -168,6 +135,10 @@ void Obrazovky::Klavesa(std::string_view jmeno, int shift) {
     Prijmi({.Co = Vstup::Druh::Klavesa, .Shift = shift, .Cas = {}, .Text = std::string(jmeno)});
 }
 
+void Obrazovky::KlavesaNahoru(std::string_view jmeno) {
+    Prijmi({.Co = Vstup::Druh::KlavesaNahoru, .Cas = {}, .Text = std::string(jmeno)});
+}
+
 void Obrazovky::ZadostOZavreni() {
     Prijmi({.Co = Vstup::Druh::Zavreni, .Cas = {}, .Text = {}});
 }
@@ -199,6 +170,11 @@ void Obrazovky::Odloz(const Vstup& vstup) {
             v.Zahozena &= ~vstup.Tlacitko;
             return;
         }
+    } else if (vstup.Co == Vstup::Druh::Klavesa) {
+        // A press too, unless it edits a text.
+        const Formular form = v.Cilovy();
+        const bool vzdy = form != nullptr && form->StiskVzdy;
+        if (!vzdy && (Psane() == nullptr || !PsaniTextu::Bere(vstup.Text, vstup.Shift))) return;
     } else if (vstup.Co == Vstup::Druh::Navrat) {
         return;  // a press too, only beside the picture
     } else if (vstup.Co == Vstup::Druh::Pohyb) {
@@ -252,6 +228,8 @@ void Obrazovky::Doruc(const Vstup& vstup) {
             return DorucText(vstup);
         case Vstup::Druh::Klavesa:
             return DorucKlavesu(vstup);
+        case Vstup::Druh::KlavesaNahoru:
+            return DorucPusteniKlavesy(vstup);
         case Vstup::Druh::Zavreni:
             return DorucZavreni();
         case Vstup::Druh::Navrat:
@@ -261,6 +239,11 @@ void Obrazovky::Doruc(const Vstup& vstup) {
 void Obrazovky::DorucStisk(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     v.Zahozena &= ~s.Tlacitko;
+    v.ZnaMys = true;
+    v.MysX = s.X;
+    v.MysY = s.Y;
+    v.PrstenVidet = false;
+    if (!v.DrziKlavesa.empty()) v.PustDrzeni();
     const Formular form = v.Cilovy();
     if (form == nullptr) return;
     // The same button again: its release got lost outside.
@@ -268,8 +251,8 @@ void Obrazovky::DorucStisk(const Vstup& s) {
     if (v.Drzi) {
         v.DrziTlacitka |= s.Tlacitko;
         if (v.Drzici() == form && Dosazitelny(v.DrziObjekt))
-            form->MouseDown(v.DrziObjekt,
-                            Udalost(*form, v.DrziObjekt, s.X, s.Y, s.Tlacitko, s.Shift));
+            form->MouseDown(v.DrziObjekt, Udalost(*form, v.DrziObjekt, s.X + v.Posun.X,
+                                                  s.Y + v.Posun.Y, s.Tlacitko, s.Shift));
         return;
     }
     if (!MistoFormu(*form).Obsahuje(s.X, s.Y)) {
@@ -287,6 +270,8 @@ void Obrazovky::DorucStisk(const Vstup& s) {
     v.DrziForm = form;
     v.DrziObjekt = o;
     v.DrziTlacitka = s.Tlacitko;
+    v.Posun = {};
+    if (o != nullptr && o->Zastavka != 0) form->prsten_ = o;
     const Mys m = Udalost(*form, o, s.X, s.Y, s.Tlacitko, s.Shift);
     if (o != nullptr && o->Druh == Ovladac::Typ::TextBox && s.Tlacitko == LEVE) {
         auto& t = static_cast<TextBox&>(*o);
@@ -304,13 +289,25 @@ void Obrazovky::DorucStisk(const Vstup& s) {
 
 void Obrazovky::DorucPohyb(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
+    if (!v.ZnaMys) {
+        v.MysPriPrstenuX = s.X;
+        v.MysPriPrstenuY = s.Y;
+    }
+    v.ZnaMys = true;
+    v.MysX = s.X;
+    v.MysY = s.Y;
+    if (!v.DrziKlavesa.empty()) return;
+    // A hand that rests on the mouse while the other one is at the keys takes nothing over.
+    if (std::hypot(s.X - v.MysPriPrstenuX, s.Y - v.MysPriPrstenuY) >= POHNULA_SE)
+        v.PrstenVidet = false;
     // The release of one that is held no more got lost outside.
     if (!s.Odlozeny) v.Zahozena &= s.Tlacitko;
     const int drzena = s.Tlacitko & ~v.Zahozena;
     if (v.Drzi) {
         const Formular form = v.Drzici();
         if (form == nullptr || !Dosazitelny(v.DrziObjekt)) return;
-        const Mys m = Udalost(*form, v.DrziObjekt, s.X, s.Y, drzena, s.Shift);
+        const Mys m =
+            Udalost(*form, v.DrziObjekt, s.X + v.Posun.X, s.Y + v.Posun.Y, drzena, s.Shift);
         if (v.DrziObjekt != nullptr && v.DrziObjekt == form->Zamereni() &&
             (v.DrziTlacitka & LEVE) != 0) {
             PsaniTextu(*form->Zamereni()).Stisk(static_cast<double>(m.X), true);
@@ -332,13 +329,13 @@ void Obrazovky::DorucPusteni(const Vstup& s) {
         v.Zahozena &= ~s.Tlacitko;
         return;
     }
-    if (!v.Drzi || (v.DrziTlacitka & s.Tlacitko) == 0) return;
+    if (!v.Drzi || !v.DrziKlavesa.empty() || (v.DrziTlacitka & s.Tlacitko) == 0) return;
     v.DrziTlacitka &= ~s.Tlacitko;
     v.Drzi = v.DrziTlacitka != 0;
     const Formular form = v.Drzici();
     Ovladac* o = v.DrziObjekt;
     if (form == nullptr || !Dosazitelny(o)) return;
-    const Mys m = Udalost(*form, o, s.X, s.Y, s.Tlacitko, s.Shift);
+    const Mys m = Udalost(*form, o, s.X + v.Posun.X, s.Y + v.Posun.Y, s.Tlacitko, s.Shift);
     form->MouseUp(o, m);
     if (s.Tlacitko != LEVE || v.Cilovy() != form || !Dosazitelny(o)) return;
     const Obdelnik misto = o != nullptr ? Obdelnik{0, 0, o->Width, o->Height}
@@ -350,7 +347,8 @@ TextBox* Obrazovky::Psane() const {
     const Formular form = vnitrek_->Cilovy();
     if (form == nullptr || form->Zamereni() == nullptr) return nullptr;
     TextBox* t = form->Zamereni();
-    return Dosazitelny(t) && !t->MultiLine ? t : nullptr;
+    if (!Dosazitelny(t) || t->MultiLine) return nullptr;
+    return !vnitrek_->PrstenVidet || MistoPrstenu(*form) == t ? t : nullptr;
 }
 
 std::uint32_t Obrazovky::PosledniPsani() const {
@@ -363,27 +361,6 @@ void Obrazovky::DorucText(const Vstup& s) {
     if (t == nullptr) return;
     vnitrek_->Psano = Stroj().TickCount();
     if (PsaniTextu(*t).Napis(s.Text)) form->Change(*t);
-}
-
-void Obrazovky::DorucKlavesu(const Vstup& s) {
-    const std::string& jmeno = s.Text;
-    const Formular form = vnitrek_->Cilovy();
-    if (form == nullptr) return;
-    if (TextBox* t = Psane()) {
-        bool vzal = false;
-        TextBox* dalsi = jmeno == "Tab" ? DalsiPole(*form, t, (s.Shift & 1) != 0) : t;
-        if (dalsi != t) {
-            form->SetFocus(*dalsi);
-            PsaniTextu(*dalsi).Klavesa("a", 2, vzal);  // all of it is marked
-            vnitrek_->Psano = Stroj().TickCount();
-            return;
-        }
-        const bool zmena = PsaniTextu(*t).Klavesa(jmeno, s.Shift, vzal);
-        if (vzal) vnitrek_->Psano = Stroj().TickCount();
-        if (zmena) form->Change(*t);
-        if (vzal) return;
-    }
-    form->Klavesa(jmeno);
 }
 
 void Obrazovky::DorucZavreni() {

@@ -19,6 +19,10 @@ struct Mys {
     float X = 0, Y = 0;
 };
 
+/// What a key that presses an object does: a whole click; a press that lasts as long as the key is
+/// held; the beginning of a drag, which the next press of the blank ends.
+enum class StiskKlavesou { Klik, Drzeni, Tah };
+
 /// A screen object: a plain record that a painter paints and a dispatcher of events reads. Nothing
 /// is told of a change: the painter compares. Places are pixels of the parent.
 struct Ovladac {
@@ -36,6 +40,9 @@ struct Ovladac {
     bool Enabled = true;       ///< what is disabled leaves its presses to its parent
     bool ProMys = true;        ///< false: the pointer goes through it to what lies beneath
     bool BereDvojklik = true;  ///< false: the second press of a double click does nothing to it
+    int Zastavka = 0;  ///< place in the round of the keys from 1; 0: it is no stop of theirs
+    StiskKlavesou Klavesou = StiskKlavesou::Klik;
+    bool JemneSipkami = false;  ///< arrows carry a pointer that is held on it a pixel further
     std::string Tag;
     Pismo Font;
 
@@ -94,7 +101,7 @@ struct Label : Ovladac {
 
 /// A line of text to edit: caret, selection, clipboard. Positions count characters.
 struct TextBox : Ovladac {
-    TextBox() : Ovladac(Typ::TextBox) {}
+    TextBox() : Ovladac(Typ::TextBox) { Zastavka = 1; }
     std::string Text;
     Barva BackColor = BILA;
     bool MultiLine = false;         ///< shown in rows, with no editing

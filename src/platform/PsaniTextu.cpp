@@ -142,13 +142,21 @@ int PsaniTextu::Slovo(int od, int smer) const {
     return i;
 }
 
+bool PsaniTextu::Bere(std::string_view jmeno, int shift) {
+    constexpr std::string_view KLAVESY[] = {"Left", "Right", "Home", "End", "BackSpace", "Delete"};
+    constexpr std::string_view POVELY[] = {"a", "c", "v", "x"};
+    return std::ranges::find(KLAVESY, jmeno) != std::end(KLAVESY) ||
+           ((shift & CTRL) != 0 && std::ranges::find(POVELY, jmeno) != std::end(POVELY));
+}
+
 bool PsaniTextu::Klavesa(std::string_view jmeno, int shift, bool& vzal) {
     const bool vybirat = (shift & SHIFT) != 0;
     const bool ctrl = (shift & CTRL) != 0;
     const int od = std::min(t_.SelStart, t_.SelAnchor);
     const int po = std::max(t_.SelStart, t_.SelAnchor);
     const bool vyber = od != po;
-    vzal = true;
+    vzal = Bere(jmeno, shift);
+    if (!vzal) return false;
     if (jmeno == "Left") {
         Posad(ctrl ? Slovo(t_.SelStart, -1) : vyber && !vybirat ? od : t_.SelStart - 1, vybirat);
     } else if (jmeno == "Right") {
@@ -161,17 +169,15 @@ bool PsaniTextu::Klavesa(std::string_view jmeno, int shift, bool& vzal) {
         return Smaz(ctrl ? Slovo(t_.SelStart, -1) : t_.SelStart - 1);
     } else if (jmeno == "Delete") {
         return Smaz(ctrl ? Slovo(t_.SelStart, 1) : t_.SelStart + 1);
-    } else if (ctrl && jmeno == "a") {
+    } else if (jmeno == "a") {
         t_.SelAnchor = 0;
         Posad(Delka(), true);
-    } else if (ctrl && (jmeno == "c" || jmeno == "x")) {
+    } else if (jmeno == "c" || jmeno == "x") {
         if (!vyber) return false;
         Stroj().DoSchranky(ZeZnaku(DoZnaku(t_.Text).substr(Z(od), Z(po - od))));
         return jmeno == "x" && Nahrad({});
-    } else if (ctrl && jmeno == "v") {
+    } else if (jmeno == "v") {
         return Napis(Stroj().SchrankaText());
-    } else {
-        vzal = false;
     }
     return false;
 }

@@ -18,6 +18,8 @@ public:
     bool Napis(std::string_view utf8);
     /// A key by its name, as Obrazovky::Klavesa. vzal: whether the key means something here.
     bool Klavesa(std::string_view jmeno, int shift, bool& vzal);
+    /// Whether a key edits a text or moves its caret.
+    [[nodiscard]] static bool Bere(std::string_view jmeno, int shift);
     /// A press sets the caret (with Shift it selects up to there), a drag selects. x: pixels of
     /// the box.
     void Stisk(double x, bool vybirat);

@@ -104,6 +104,7 @@ ZpravaForm::ZpravaForm(const std::string& text, const std::string& titul, Styl s
                {x, Height - OKRAJ - VYSKA_TLACITKA, SIRKA_TLACITKA, VYSKA_TLACITKA});
         t.Tag = popis.Napis;
         t.Font = PismoZpravy(10, false);
+        t.Zastavka = static_cast<int>(Tlacitka.size());
         odpovedi_.push_back(popis.Odpovi);
         x += SIRKA_TLACITKA + MEZERA_TLACITEK;
     }
@@ -166,6 +167,7 @@ void ZpravaForm::MouseMove(Ovladac* o, const Mys& /*m*/) {
     for (std::size_t i = 0; i < Tlacitka.size(); ++i) {
         if (Tlacitka[i].get() != o || vybrane_ == i) continue;
         vybrane_ = i;
+        Prsten(*Tlacitka[i]);
         NakresliTlacitka();
     }
 }
@@ -178,13 +180,18 @@ void ZpravaForm::Click(Ovladac* o) {
     }
 }
 
-bool ZpravaForm::Klavesa(std::string_view klavesa) {
+bool ZpravaForm::Klavesa(std::string_view klavesa, int shift) {
     const std::size_t pocet = Tlacitka.size();
+    const bool tabZpet = klavesa == "Tab" && (shift & 1) != 0;
     if (klavesa == "Escape") {
         Odpovez(odpovedi_.back());
-    } else if (klavesa == "Return" || klavesa == "Space") {
+        return true;
+    }
+    if (klavesa == "Return" || klavesa == "Space") {
         Odpovez(odpovedi_[vybrane_]);
-    } else if (klavesa == "Left" || klavesa == "Up") {
+        return true;
+    }
+    if (klavesa == "Left" || klavesa == "Up" || tabZpet) {
         vybrane_ = (vybrane_ + pocet - 1) % pocet;
     } else if (klavesa == "Right" || klavesa == "Down" || klavesa == "Tab") {
         vybrane_ = (vybrane_ + 1) % pocet;
@@ -192,6 +199,7 @@ bool ZpravaForm::Klavesa(std::string_view klavesa) {
         return false;
     }
     NakresliTlacitka();
+    Stroj().Okna().DejPrsten(*this, *Tlacitka[vybrane_]);
     return true;
 }
 

@@ -10,8 +10,8 @@
 namespace rysovna {
 
 /// The message box: a form in the middle of the window, modal, drawn without any picture. Keys:
-/// Return and the blank press the lit button, the arrows and Tab move the light, Escape is the
-/// answer that changes nothing (OK or Ne).
+/// Return and the blank press the lit button, the arrows and Tab move the light and the ring
+/// with it, Escape is the answer that changes nothing (OK or Ne).
 class ZpravaForm final : public Form {
 public:
     ZpravaForm(const std::string& text, const std::string& titul, Styl styl);
@@ -20,7 +20,7 @@ public:
     void MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
     void Click(Ovladac* o) override;
-    bool Klavesa(std::string_view klavesa) override;
+    bool Klavesa(std::string_view klavesa, int shift) override;
     void QueryUnload() override;
 
     /// What was chosen; the answer of Escape until something is.

@@ -17,8 +17,8 @@ void HelpForm::Click(Ovladac*) {
     VratSeK(Vlastnik, *this);
 }
 
-bool HelpForm::Klavesa(std::string_view klavesa) {
-    if (klavesa != "Escape" && klavesa != "Return") return false;
+bool HelpForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    if (klavesa != "Escape" && klavesa != "Return" && klavesa != "Space") return false;
     Click(nullptr);
     return true;
 }

@@ -20,7 +20,7 @@ public:
 
     void Load() override;
     void Click(Ovladac* o) override;
-    bool Klavesa(std::string_view klavesa) override;
+    bool Klavesa(std::string_view klavesa, int shift) override;
 };
 
 /// Shows a help picture (below the asset root) on top of a screen and hides that screen; the click

@@ -39,7 +39,7 @@ void IntroForm::MouseDown(Ovladac*, const Mys&) {
     Preskoc();
 }
 
-bool IntroForm::Klavesa(std::string_view) {
+bool IntroForm::Klavesa(std::string_view, int) {
     Preskoc();
     return true;
 }

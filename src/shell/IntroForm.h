@@ -22,7 +22,7 @@ public:
 
     void Load() override;
     void MouseDown(Ovladac* o, const Mys& m) override;
-    bool Klavesa(std::string_view klavesa) override;
+    bool Klavesa(std::string_view klavesa, int shift) override;
     void TimerTick(Timer& t) override;
 
 private:

@@ -1,5 +1,7 @@
 #include "shell/SelectForm.h"
 
+#include <algorithm>
+
 #include "base/Chyba.h"
 #include "base/Cisla.h"
 #include "platform/Host.h"
@@ -36,6 +38,10 @@ SelectForm::SelectForm() {
     Pridej(Kopie2, "Kopie2", {325, 492, 315, 204});
     Pridej(PicClip, "PicClip", {});
     PicClip.Cols = BUNEK_PASU;
+    Image1.Zastavka = 1;
+    picKonec.Zastavka = 2;
+    for (Image& li : LI) li.Zastavka = 3;
+    for (Image& ri : RI) ri.Zastavka = 4;
 }
 
 void SelectForm::Load() {
@@ -166,6 +172,17 @@ void SelectForm::Click(Ovladac* o) {
     if (o != &Image1) return;
     ZvukStisku();
     UkazNapovedu("Bitmap\\Help\\credits.bmp", *this);
+}
+
+bool SelectForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    if (klavesa != "Escape") return false;
+    MouseDown(&picKonec, {});
+    return true;
+}
+
+Ovladac* SelectForm::PrvniZastavka() {
+    const auto zvolena = std::ranges::find_if(LI, Zvoleny);
+    return zvolena != LI.end() ? &*zvolena : &LI.front();
 }
 
 void SelectForm::QueryUnload() {

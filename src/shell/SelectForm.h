@@ -30,6 +30,9 @@ public:
     void MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
     void Click(Ovladac* o) override;
+    bool Klavesa(std::string_view klavesa, int shift) override;
+    [[nodiscard]] Ovladac* PrvniZastavka() override;
+    [[nodiscard]] Ovladac* Napoveda() override { return &Image1; }
     void QueryUnload() override;
 
 private:

@@ -40,6 +40,11 @@ SetupForm::SetupForm() {
     Pridej(picPokracuj, "picPokracuj", {526, 457, 94, 23});
     picPokracuj.Visible = false;
     Pridej(picKonec, "picKonec", {546, 5, 91, 75});
+    Image1.Zastavka = 1;
+    picKonec.Zastavka = 2;
+    for (Image& cislo : ICislo) cislo.Zastavka = 3;
+    TJmeno.Zastavka = 4;
+    picPokracuj.Zastavka = 5;
 }
 
 void SetupForm::Load() {
@@ -157,8 +162,14 @@ void SetupForm::Click(Ovladac* o) {
     UkazNapovedu("Bitmap\\Help\\setup.bmp", *this);
 }
 
-bool SetupForm::Klavesa(std::string_view klavesa) {
-    if (klavesa == "Return" && picPokracuj.Visible) {
+bool SetupForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    Obrazovky& okna = Stroj().Okna();
+    const std::size_t cislice =
+        klavesa.size() == 1 ? std::string_view("12345").find(klavesa) : std::string_view::npos;
+    if (cislice != std::string_view::npos) {
+        okna.StiskniZastavku(*this, ICislo[cislice]);
+    } else if (klavesa == "Return" && picPokracuj.Visible &&
+               (!okna.PrstenVpredu() || okna.Psane() == &TJmeno)) {
         SpustDesku();
     } else if (klavesa == "Escape" && TJmeno.Text.empty()) {
         // With a name there, one key by mistake must not throw it away.

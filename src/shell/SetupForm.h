@@ -29,7 +29,9 @@ public:
     void MouseMove(Ovladac* o, const Mys& m) override;
     void Click(Ovladac* o) override;
     void Change(TextBox& t) override;
-    bool Klavesa(std::string_view klavesa) override;
+    bool Klavesa(std::string_view klavesa, int shift) override;
+    [[nodiscard]] Ovladac* PrvniZastavka() override { return &TJmeno; }
+    [[nodiscard]] Ovladac* Napoveda() override { return &Image1; }
 
 private:
     void Kontrola();

@@ -69,6 +69,8 @@ TabulkaForm::TabulkaForm() {
     Pridej(LStupnice, "LStupnice", {32, 105, 336, 13});
     LVlastni.BackColor = VLASTNI;
     LVlastni.Visible = LVysledek.Visible = false;
+    INadpis.Zastavka = 1;
+    picKonec.Zastavka = 2;
 }
 
 void TabulkaForm::Load() {
@@ -175,7 +177,7 @@ void TabulkaForm::Click(Ovladac* o) {
     UkazNapovedu("Bitmap\\Help\\tab.bmp", *this);
 }
 
-bool TabulkaForm::Klavesa(std::string_view klavesa) {
+bool TabulkaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     if (klavesa != "Escape") return false;
     Zpet();
     return true;

@@ -44,7 +44,9 @@ public:
     void MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
     void Click(Ovladac* o) override;
-    bool Klavesa(std::string_view klavesa) override;
+    bool Klavesa(std::string_view klavesa, int shift) override;
+    [[nodiscard]] Ovladac* PrvniZastavka() override { return &picKonec; }
+    [[nodiscard]] Ovladac* Napoveda() override { return &INadpis; }
 
 private:
     [[nodiscard]] int PocetZaznamu() const { return static_cast<int>(zaznamy_.size()); }

@@ -87,12 +87,20 @@ void TecnyDialog::NoveZadani() {
 bool TecnyDialog::StiskNacrtu(float x, float y) {
     const Cviceni* c = Hrane();
     if (c == nullptr || !zadano_ || stav_.Skontrolovano) return false;
-    const auto prvky = NacrtTecny(c->Kod);
-    const auto p =
-        std::ranges::find_if(prvky, [&](const PrvekNacrtuTecny& e) { return e.Obsahuje(x, y); });
-    if (p == prvky.end()) return false;
-    stav_.Znacky ^= Znacka(p->Znacka);
+    const int prvek = PrvekNacrtu(x, y);
+    if (prvek < 0) return false;
+    stav_.Znacky ^= Znacka(NacrtTecny(c->Kod)[static_cast<std::size_t>(prvek)].Znacka);
     return true;
+}
+
+std::vector<Bod> TecnyDialog::MistaNacrtu() const {
+    const Cviceni* c = Hrane();
+    return c == nullptr ? std::vector<Bod>{} : MistaNacrtuTecny(c->Kod);
+}
+
+int TecnyDialog::PrvekNacrtu(float x, float y) const {
+    const Cviceni* c = Hrane();
+    return c == nullptr ? -1 : PrvekNacrtuPod(c->Kod, x, y);
 }
 
 void TecnyDialog::KresliNacrt(Plane& plocha) const {

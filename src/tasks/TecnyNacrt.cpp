@@ -1,7 +1,9 @@
 #include "tasks/TecnyNacrt.h"
 
+#include <algorithm>
 #include <cmath>
 
+#include "base/Cisla.h"
 #include "board/Nacrt.h"
 #include "engine/Tabulky.h"
 #include "tasks/TecnyKroky.h"
@@ -146,6 +148,30 @@ std::span<const PrvekNacrtuTecny> NacrtTecny(std::string_view kod) {
         if (r.Kod == kod) return r.Prvky;
     }
     return {};
+}
+
+int PrvekNacrtuPod(std::string_view kod, double x, double y) {
+    const auto prvky = NacrtTecny(kod);
+    const auto p = std::ranges::find_if(prvky, [&](const Prvek& e) { return e.Obsahuje(x, y); });
+    return p == prvky.end() ? -1 : static_cast<int>(p - prvky.begin());
+}
+
+std::vector<Bod> MistaNacrtuTecny(std::string_view kod) {
+    const auto prvky = NacrtTecny(kod);
+    const auto kde = [&](std::size_t i, double podel) {
+        const Prvek& e = prvky[i];
+        double x = e.X1;
+        double y = e.Y1;
+        if (e.Druh == Cara) {
+            x += podel * (e.X2 - e.X1);
+            y += podel * (e.Y2 - e.Y1);
+        } else if (e.Druh == Kruh) {
+            x += e.X2 * std::cos(podel * DVE_PI);
+            y += e.X2 * std::sin(podel * DVE_PI);
+        }
+        return Bod{Zaokrouhli(x), Zaokrouhli(y)};
+    };
+    return MistaPrvku(prvky.size(), kde, [&](Bod b) { return PrvekNacrtuPod(kod, b.X, b.Y); });
 }
 
 void KresliNacrtTecny(Plane& plocha, std::string_view kod, std::uint32_t znacky) {

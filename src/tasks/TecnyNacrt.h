@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
+#include "base/Bod.h"
 #include "base/Plane.h"
 
 namespace rysovna {
@@ -29,6 +31,11 @@ struct PrvekNacrtuTecny {
 /// The sketch of an exercise; empty for an unknown code. Where zones overlap, the first one wins:
 /// points go first.
 [[nodiscard]] std::span<const PrvekNacrtuTecny> NacrtTecny(std::string_view kod);
+
+/// The element of the exercise, from 0, that a press hits; -1: none.
+[[nodiscard]] int PrvekNacrtuPod(std::string_view kod, double x, double y);
+/// A place for a press in each element.
+[[nodiscard]] std::vector<Bod> MistaNacrtuTecny(std::string_view kod);
 
 /// Draws the sketch, marks by bits: a marked element in red, with a small disc at its zone's end.
 void KresliNacrtTecny(Plane& plocha, std::string_view kod, std::uint32_t znacky);

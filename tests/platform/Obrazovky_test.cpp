@@ -176,7 +176,7 @@ TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
           {70, nahoru(1)},
           {80, pohyb(370, 0)},
           {81, pohyb(380, 0)}},
-         {"Change x", "Klavesa Return", "QueryUnload", "Move form 380,300"}},
+         {"Change x", "QueryUnload", "Move form 380,300"}},
     };
     for (const Pripad& p : PRIPADY) {
         SCOPED_TRACE(&p - PRIPADY);

@@ -80,7 +80,8 @@ public:
         Udalosti.push_back("Tick " + std::to_string(Stroj().TickCount()));
         Zavolej(PriTiku);
     }
-    bool Klavesa(std::string_view k) override {
+    bool Klavesa(std::string_view k, int /*shift*/) override {
+        if (!BereKlavesy) return false;
         Udalosti.push_back("Klavesa " + std::string(k));
         return true;
     }
@@ -92,6 +93,7 @@ public:
     Label Uvnitr;
     CircleShape Guma;
     TextBox Pole;
+    bool BereKlavesy = true;  ///< false: keys go to the ring
     Timer Hodiny;
     std::array<PictureBox, 2> cmd;
     std::vector<std::string> Udalosti;

@@ -31,8 +31,8 @@ fs::path NovaSlozka() {
 
 }  // namespace
 
-Relace::Relace(std::uint32_t seminko)
-    : naDobu_(host_), koren_(NovaSlozka()), data_(koren_ / "data") {
+Relace::Relace(std::uint32_t seminko, Cim cim)
+    : cim_(cim), naDobu_(host_), koren_(NovaSlozka()), data_(koren_ / "data") {
     fs::copy(STAGING / "data", data_, fs::copy_options::recursive);
     // The staged copy may have been played with: a run begins with no results.
     for (const auto& soubor : fs::directory_iterator(data_)) {
@@ -58,10 +58,18 @@ void Relace::StartDoTitulu() {
     host_.Okna().Nacti<SelectForm>();
 }
 
+void Relace::PreskocTitul() {
+    if (cim_ == Cim::Klavesami) {
+        Klavesa("Space");
+    } else {
+        StiskniMisto(320, 240);
+    }
+    Cekej(1200);
+}
+
 void Relace::Start() {
     StartDoTitulu();
-    StiskniMisto(320, 240);
-    Cekej(1200);
+    PreskocTitul();
     if (JmenoVpredu() != "SelectForm") {
         throw NejdeUdelat("po titulu je vpředu " + JmenoVpredu());
     }
@@ -143,6 +151,7 @@ void Relace::StiskniMisto(double x, double y) {
 }
 
 void Relace::Stiskni(std::string_view jmeno, int index, int dx, int dy) {
+    if (cim_ == Cim::Klavesami) return StiskniKlavesami(jmeno, index, dx, dy);
     const Ovladac& prvek = Prvek(jmeno, index);
     const Bod roh = Roh(prvek);
     const int x = dx < 0 ? prvek.Width / 2 : dx;
@@ -158,6 +167,7 @@ void Relace::Zmackni(std::string_view jmeno, int index, Bod misto) {
 
 void Relace::Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index) {
     constexpr int KROKU = 4;
+    if (cim_ == Cim::Klavesami) return TahniKlavesami(jmeno, odkud, kam);
     const Bod roh = Roh(Prvek(jmeno, index));
     Zmackni(jmeno, index, odkud);
     for (int i = 1; i <= KROKU; ++i) {
@@ -188,8 +198,12 @@ void Relace::Napis(std::string_view text) {
 }
 
 void Relace::Prepis(std::string_view jmeno, std::string_view text) {
-    Stiskni(jmeno);
-    Klavesa("a", 2);
+    if (cim_ == Cim::Klavesami) {
+        NaZastavku(jmeno);
+    } else {
+        Stiskni(jmeno);
+        Klavesa("a", 2);
+    }
     Klavesa("Delete");
     Napis(text);
 }

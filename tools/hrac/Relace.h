@@ -10,6 +10,7 @@
 
 #include "base/Bod.h"
 #include "platform/Form.h"
+#include "platform/Obrazovky.h"
 #include "platform/headless/HeadlessHost.h"
 
 namespace rysovna::hrac {
@@ -25,19 +26,28 @@ struct NejdeUdelat : std::runtime_error {
 /// that is not in front) throws NejdeUdelat.
 class Relace {
 public:
+    /// What the player plays with: by keys, whatever it presses or drags is reached by the ring,
+    /// and what has no place in that round cannot be done.
+    enum class Cim { Mysi, Klavesami };
+
     /// The data root is a copy of the staged one, with no results in it. seminko: of the generator
     /// of examples.
-    explicit Relace(std::uint32_t seminko = 1);
+    explicit Relace(std::uint32_t seminko = 1, Cim cim = Cim::Mysi);
     ~Relace();
     Relace(const Relace&) = delete;
     Relace& operator=(const Relace&) = delete;
 
     [[nodiscard]] HeadlessHost& Host() { return host_; }
 
+    /// From now on plays so.
+    void HrajOdTed(Cim cim) { cim_ = cim; }
+
     /// The start-up and a press on the title: up to the menu.
     void Start();
     /// The start-up alone: the title is up.
     void StartDoTitulu();
+    /// The press on the title, and the wait for the menu.
+    void PreskocTitul();
     /// The menu, a task of it, name and number of examples, and the press that starts the board.
     /// Call after Start().
     void SpustUlohu(int cisloUlohy, std::string_view jmeno = "Žák", int priklady = 1);
@@ -79,6 +89,8 @@ public:
     void Prepis(std::string_view jmeno, std::string_view text);
     /// A key by its name ("Return", "Escape", "BackSpace"); shift: 1 Shift, 2 Ctrl.
     void Klavesa(std::string_view klavesa, int shift = 0);
+    /// Goes round the screen in front by Tab until the ring is on a control.
+    void NaZastavku(std::string_view jmeno, int index = 0);
     /// Lets the program run: the virtual clock moves by so many milliseconds.
     void Cekej(std::uint32_t ms);
 
@@ -101,8 +113,16 @@ private:
     void Pohyb(double x, double y, int tlacitka);
     void Stisk(double x, double y, bool dolu);
     void Zapis(const std::string& udalost);
+    // RelaceKlavesami.cpp
+    void StiskniKlavesami(std::string_view jmeno, int index, int dx, int dy);
+    void TahniKlavesami(std::string_view jmeno, Bod odkud, Bod kam);
+    void KrizNa(Bod kam);
+    void SipkyNa(Bod kam);
+    [[nodiscard]] Obrazovky::Prsten Ring();
 
     HeadlessHost host_;
+    Cim cim_;
+    int stisku_ = 0;  ///< presses by keys so far: they take turns at the ways there are
     HostNaDobu naDobu_;
     std::filesystem::path koren_, data_;
     std::size_t slysenych_ = 0;

@@ -61,17 +61,16 @@ void OdehrajUlohu(Relace& hra, Fotograf& foto, int uloha) {
     hra.Cekej(1200);
 }
 
-void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy) {
+void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy, Relace::Cim cim) {
     NastavVyrobceDesek(VyrobDesku);
-    Relace hra(SEMINKO);
+    Relace hra(SEMINKO, cim);
     std::ofstream zaznam(kam / "udalosti.txt");
     hra.Zaznamenavej(zaznam);
     hra.Poznamenej("seminko " + std::to_string(SEMINKO));
     Fotograf foto(hra, kam);
     hra.StartDoTitulu();
     foto.Vyfot("titul");
-    hra.StiskniMisto(320, 240);
-    hra.Cekej(1200);
+    hra.PreskocTitul();
     foto.Vyfot("nabidka");
     for (const int uloha : ulohy) OdehrajUlohu(hra, foto, uloha);
     std::cout << Z1250(hra.CtiSoubor("Vysledky.dat"), "Vysledky.dat");
@@ -80,9 +79,11 @@ void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy) {
 }  // namespace
 
 int main(int pocet, char** slova) {
-    const std::vector<std::string> argumenty(slova + 1, slova + pocet);
+    std::vector<std::string> argumenty(slova + 1, slova + pocet);
+    const bool klavesami = !argumenty.empty() && argumenty[0] == "--klavesami";
+    if (klavesami) argumenty.erase(argumenty.begin());
     if (argumenty.empty()) {
-        std::cerr << "Použití: ukazka SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
+        std::cerr << "Použití: ukazka [--klavesami] SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
                      "Bez čísel se hraje první úloha.\n";
         return 2;
     }
@@ -93,7 +94,7 @@ int main(int pocet, char** slova) {
         }
         if (ulohy.empty()) ulohy.push_back(1);
         std::filesystem::create_directories(argumenty[0]);
-        Odehraj(argumenty[0], ulohy);
+        Odehraj(argumenty[0], ulohy, klavesami ? Relace::Cim::Klavesami : Relace::Cim::Mysi);
         return 0;
     } catch (const std::exception& chyba) {
         std::cerr << "Ukázka selhala: " << chyba.what() << "\n";

@@ -34,12 +34,29 @@ constexpr struct {
     SDL_Keycode Kod;
     const char* Jmeno;
 } KLAVESY[] = {
-    {SDLK_LEFT, "Left"},     {SDLK_RIGHT, "Right"},         {SDLK_UP, "Up"},
-    {SDLK_DOWN, "Down"},     {SDLK_HOME, "Home"},           {SDLK_END, "End"},
-    {SDLK_TAB, "Tab"},       {SDLK_BACKSPACE, "BackSpace"}, {SDLK_DELETE, "Delete"},
-    {SDLK_RETURN, "Return"}, {SDLK_KP_ENTER, "Return"},     {SDLK_ESCAPE, "Escape"},
-    {SDLK_SPACE, "Space"},
+    {SDLK_LEFT, "Left"},       {SDLK_RIGHT, "Right"},
+    {SDLK_UP, "Up"},           {SDLK_DOWN, "Down"},
+    {SDLK_HOME, "Home"},       {SDLK_END, "End"},
+    {SDLK_TAB, "Tab"},         {SDLK_BACKSPACE, "BackSpace"},
+    {SDLK_DELETE, "Delete"},   {SDLK_RETURN, "Return"},
+    {SDLK_KP_ENTER, "Return"}, {SDLK_ESCAPE, "Escape"},
+    {SDLK_SPACE, "Space"},     {SDLK_F1, "F1"},
 };
+
+/// Digits by their place on the keyboard: the row above the letters types other signs in Czech.
+/// The first of each row of nine.
+constexpr SDL_Scancode CISLICE[] = {SDL_SCANCODE_1, SDL_SCANCODE_KP_1};
+constexpr int CISLIC = 9;
+
+/// Name of a key of one character, empty of any other.
+std::string ZnakKlavesy(const SDL_Keysym& k) {
+    for (const SDL_Scancode prvni : CISLICE) {
+        if (k.scancode >= prvni && k.scancode < prvni + CISLIC)
+            return {static_cast<char>('1' + (k.scancode - prvni))};
+    }
+    if (k.sym >= SDLK_a && k.sym <= SDLK_z) return {static_cast<char>(k.sym)};
+    return {};
+}
 
 /// Key and modifiers of an editing command, as the letter with ctrl that means the same.
 constexpr struct {
@@ -408,6 +425,7 @@ void SdlHost::Vnitrek::Zpracuj(const SDL_Event& e) {
             Host_.Okna().ZadostOZavreni();
             break;
         case SDL_KEYDOWN:
+        case SDL_KEYUP:
             Klavesa(e.key);
             break;
         case SDL_TEXTINPUT:
@@ -433,21 +451,33 @@ void SdlHost::Vnitrek::Klavesa(const SDL_KeyboardEvent& k) {
     const int drzeno = Modifikatory(k.keysym.mod);
     const bool enter = kod == SDLK_RETURN || kod == SDLK_KP_ENTER;
     if (kod == SDLK_F11 || (enter && drzeno == ALT)) {
-        if (k.repeat == 0) Okno_.PrepniCelouObrazovku();
+        if (k.type == SDL_KEYDOWN && k.repeat == 0) Okno_.PrepniCelouObrazovku();
         return;
     }
-    // One press of these may lead through one screen only.
-    if (k.repeat != 0 && (enter || kod == SDLK_ESCAPE)) return;
+    if (k.type == SDL_KEYUP) {
+        if (enter) Host_.Okna().KlavesaNahoru("Return");
+        if (kod == SDLK_SPACE) Host_.Okna().KlavesaNahoru("Space");
+        return;
+    }
+    // One press leads through one screen only. What edits a text is repeated, and arrows are.
+    const bool sipka = kod == SDLK_LEFT || kod == SDLK_RIGHT || kod == SDLK_UP || kod == SDLK_DOWN;
+    const bool psani = Host_.Okna().Psane() != nullptr && kod != SDLK_TAB && kod != SDLK_F1 &&
+                       kod != SDLK_ESCAPE && !enter;
+    if (k.repeat != 0 && !sipka && !psani) return;
     for (const auto& p : POVELY) {
         if (p.Kod != kod || p.Drzeno != drzeno) continue;
         Host_.Okna().Klavesa(p.Jmeno, CTRL);
         return;
     }
+    // With Alt they belong to the desktop.
+    if ((drzeno & ALT) != 0) return;
     for (const auto& p : KLAVESY) {
         if (p.Kod != kod) continue;
         Host_.Okna().Klavesa(p.Jmeno, drzeno & (SHIFT | CTRL));
         return;
     }
+    const std::string znak = ZnakKlavesy(k.keysym);
+    if (!znak.empty() && drzeno <= SHIFT) Host_.Okna().Klavesa(znak, drzeno);
 }
 
 void SdlHost::Vnitrek::Stisk(const SDL_MouseButtonEvent& b) {

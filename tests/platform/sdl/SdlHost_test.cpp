@@ -71,7 +71,7 @@ public:
     void Load() override { Maximised = true; }
     void MouseDown(Ovladac* /*o*/, const Mys& /*m*/) override { ++Stisku; }
     void Click(Ovladac* /*o*/) override { ++Kliku; }
-    bool Klavesa(std::string_view /*klavesa*/) override { return ++Klaves > 0; }
+    bool Klavesa(std::string_view /*klavesa*/, int /*shift*/) override { return ++Klaves > 0; }
     int Stisku = 0, Kliku = 0, Klaves = 0;
 };
 
