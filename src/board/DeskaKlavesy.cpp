@@ -17,7 +17,7 @@ namespace {
 constexpr int SHIFT = 1;
 constexpr int KROK_S_SHIFTEM = 10;     // px of the cross
 constexpr int PRVNI_POD_HODNOTOU = 5;  // of the step buttons, those below the box for a value
-constexpr int OKOLI_ZONY = 11;         // px of the ring around a place of the sketch
+constexpr int OKOLI_ZONY = 6;          // px of the ring around a place of the sketch
 
 /// Which points of an object bear a letter: the others' names are those of lines.
 constexpr struct {
