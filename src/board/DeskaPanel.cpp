@@ -63,8 +63,9 @@ void DeskaForm::Ukaz() {
     if (ukazatVstup) SetFocus(txtVstup);
 
     Pic.Enabled = p.PicZiva;
-    Pic.Zastavka = dialog_->StaciKlik() || dialog_->CekaNaKresleni() ? ZASTAVKA_PLOCHY : 0;
-    Pic.Klavesou = dialog_->StaciKlik() ? StiskKlavesou::Klik : StiskKlavesou::Tah;
+    const Gesto::Tvar gesto = p.Kresleni.Druh;
+    Pic.Zastavka = gesto != Gesto::Tvar::Zadny ? ZASTAVKA_PLOCHY : 0;
+    Pic.Klavesou = gesto == Gesto::Tvar::Bod ? StiskKlavesou::Klik : StiskKlavesou::Tah;
     UkazZadani(p.lblZadani);
     UkazSeznam(p.Combo);
     UkazDalsi(p);

@@ -54,9 +54,6 @@ public:
     /// Whether a press on the plane begins a drag now.
     [[nodiscard]] virtual bool CekaNaKresleni() const = 0;
 
-    /// Whether the plane waits for a click: nothing is drawn from here to there.
-    [[nodiscard]] virtual bool StaciKlik() const { return false; }
-
     /// A place in each element of the sketch where a press hits it, px of the sketch.
     [[nodiscard]] virtual std::vector<Bod> MistaNacrtu() const = 0;
     /// The element, from 0, that a press here hits; -1: none.

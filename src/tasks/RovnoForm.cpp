@@ -307,11 +307,6 @@ void RovnoDialog::NakresliStred(Bod stred, bool maPismeno) {
     KresliBod(platna_.Pic, BOD, STRED, n, stred.X, stred.Y, maPismeno ? "" : STRED, "", ANO);
 }
 
-bool RovnoDialog::StaciKlik() const {
-    return CekaNaKresleni() &&
-           (Stav().ZvolenyUtvar == STRED_SOUMERNOSTI || Stav().ZvolenyUtvar == OBRAZ_BODU);
-}
-
 /// The click marks the computed point, near or far: where the triangle is missing, its own place.
 void RovnoDialog::NakresliUtvar(Bod /*konec*/) {
     const std::string prvek = Stav().ZvolenyPrvek;

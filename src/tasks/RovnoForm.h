@@ -16,7 +16,6 @@ namespace rysovna {
 class RovnoDialog final : public DialogCtyruhelniku {
 public:
     explicit RovnoDialog(Platna platna);
-    [[nodiscard]] bool StaciKlik() const override;
 
 protected:
     [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;

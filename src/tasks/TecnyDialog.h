@@ -74,7 +74,6 @@ public:
     [[nodiscard]] std::uint32_t CekaniPoTahu() const override { return 100; }
     void PusteniPlochy(float x, float y) override;
     [[nodiscard]] bool CekaNaKresleni() const override;
-    [[nodiscard]] bool StaciKlik() const override;
     [[nodiscard]] std::vector<Bod> MistaNacrtu() const override;
     [[nodiscard]] int PrvekNacrtu(float x, float y) const override;
     bool StiskNacrtu(float x, float y) override;

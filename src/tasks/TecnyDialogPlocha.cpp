@@ -66,10 +66,6 @@ bool TecnyDialog::CekaNaKresleni() const {
            stav_.Tvar != Nastroj::Stred;
 }
 
-bool TecnyDialog::StaciKlik() const {
-    return stav_.CekaNaKresleni && !stav_.Skontrolovano && !CekaNaKresleni();
-}
-
 // ---- Clicks ----------------------------------------------------------------------------------
 
 void TecnyDialog::StiskPlochy(float x, float y) {
