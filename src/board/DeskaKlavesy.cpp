@@ -119,8 +119,9 @@ bool DeskaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     Obrazovky& okna = Stroj().Okna();
     if (Combo.Visible) {
         if (i < ComboLabel.size()) okna.StiskniZastavku(*this, ComboLabel[i]);
-    } else if (i < cmd.size()) {
-        okna.StiskniZastavku(*this, cmd[i]);
+    } else if (i < cmd.size() && !okna.StiskniZastavku(*this, cmd[i])) {
+        // The guide says why, as to a press beside what is live.
+        MouseDown(nullptr, {1, 0, static_cast<float>(cmd[i].Left), static_cast<float>(cmd[i].Top)});
     }
     return true;
 }

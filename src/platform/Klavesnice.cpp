@@ -245,8 +245,8 @@ bool Obrazovky::ZaDrzeni(const Vstup& s) {
 bool Obrazovky::PosunDrzenouMys(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     const std::optional<Bod> smer = SmerSipky(s.Text);
-    if (!smer || !v.Drzi || v.DrziObjekt == nullptr || !v.DrziObjekt->JemneSipkami) return false;
-    if (v.Drzici() == nullptr) return false;
+    if (!smer || !v.Drzi || v.DrziObjekt == nullptr || v.Drzici() == nullptr) return false;
+    if (!v.DrziObjekt->JemneSipkami) return false;
     v.Posun.X += smer->X;
     v.Posun.Y += smer->Y;
     DorucPohyb({.Co = Vstup::Druh::Pohyb,

@@ -7,6 +7,7 @@
 #include "board/DeskaForm.h"
 #include "engine/Tabulky.h"
 #include "hrac/Serie.h"
+#include "platform/Klavesnice.h"
 #include "platform/Obrazovky.h"
 #include "shell/Misc.h"
 #include "shell/TabulkaForm.h"
@@ -44,6 +45,10 @@ constexpr std::string_view TEXTY[] = {"Žofie", "12,5", "-3", "  ",  "řeřicha"
 constexpr std::string_view KLAVESY[] = {"Return", "Escape", "BackSpace", "Delete", "Left", "Right",
                                         "Home",   "End",    "Tab",       "Space",  "Up",   "Down",
                                         "a",      "c",      "v",         "x"};
+/// Of one who plays by them: what moves the ring and the cross, and presses.
+constexpr std::string_view HRACI[] = {"Tab", "Tab",  "Space", "Space",  "Return", "Left", "Right",
+                                      "Up",  "Down", "a",     "b",      "c",      "s",    "1",
+                                      "2",   "3",    "6",     "Escape", "F1"};
 
 bool JeZivy(const Ovladac& prvek) {
     using Typ = Ovladac::Typ;
@@ -106,7 +111,7 @@ void Bezstarostny::Zapamatuj(const std::string& co, Bod kde) {
 
 void Bezstarostny::ZacniRelaci() {
     relace_.reset();
-    relace_ = std::make_unique<Relace>(static_cast<std::uint32_t>(nahoda_()));
+    relace_ = std::make_unique<Relace>(static_cast<std::uint32_t>(nahoda_()), cim_);
     planovano_ = konce_ = 0;
     zaznamy_.clear();
     HeadlessHost& host = relace_->Host();
@@ -187,7 +192,11 @@ void Bezstarostny::Udalost() {
     if (los < 8) {
         Cekej();
     } else if (los < 84) {
-        Mys();
+        if (cim_ == Cim::Klavesami && !Jednou(10)) {
+            Klavesami();
+        } else {
+            Mys();
+        }
     } else if (los < 94) {
         Pis();
     } else if (los < 99) {
@@ -217,8 +226,8 @@ Bod Bezstarostny::Uvnitr(const Ovladac& o) {
     return {roh.X + Cislo(std::max(o.Width, 1)), roh.Y + Cislo(std::max(o.Height, 1))};
 }
 
-/// The pointer goes somewhere, mostly to a live control, and mostly presses there.
-void Bezstarostny::Mys() {
+/// A live control that it has a mind to press; null if there is none.
+const Ovladac* Bezstarostny::Vyhlednuty() {
     const auto form = relace_->Host().Okna().Vpredu();
     std::vector<int> vahy;
     const bool uzavreno = JeUzavreno(form.get());
@@ -227,14 +236,48 @@ void Bezstarostny::Mys() {
         const bool cizi = rodina_ != 0 && o->Name == "LI" && o->Index != rodina_;
         vahy.push_back(cizi ? 0 : Vaha(*o, uzavreno));
     }
+    if (std::ranges::count(vahy, 0) == std::ssize(vahy)) return nullptr;
+    std::discrete_distribution<std::size_t> ktery(vahy.begin(), vahy.end());
+    const Ovladac* o = form->Ovladace()[ktery(nahoda_)];
+    // A slide of the panel takes as long as a hundred other events.
+    const bool posouva = o->Name == "Image1" || o->Name == "MalaSipka";
+    return posouva && !Jednou(8) ? nullptr : o;
+}
+
+void Bezstarostny::Klavesami() {
+    const Ovladac* o = Jednou(2) ? Vyhlednuty() : nullptr;
+    if (o == nullptr || relace_->Host().Okna().DrziKlavesa()) {
+        const std::string_view klavesa = Neco(HRACI);
+        Zapamatuj("presses " + std::string(klavesa), {});
+        relace_->Klavesa(klavesa, Cislo(2));
+        if (klavesa == "Space" && !Jednou(20)) relace_->Host().Okna().KlavesaNahoru(klavesa);
+        return;
+    }
+    Zapamatuj("goes to " + o->Name, {o->Index, 0});
+    const bool ziva = JeZivaZastavka(*o);
+    try {
+        if (o->Name == "Pic") {
+            const auto misto = [this] { return Bod{Cislo(384), Cislo(335)}; };
+            relace_->Tahni("Pic", misto(), misto());
+        } else if (o->Name == "SamplePic") {
+            relace_->NaZastavku(o->Name);
+            for (int i = Cislo(4); i > 0; --i) relace_->Klavesa("Right");
+            relace_->Klavesa("Space");
+        } else {
+            relace_->Stiskni(o->Name, o->Index);
+        }
+    } catch (const NejdeUdelat&) {
+        // It is no stop, or another event came in between.
+        if (ziva) ++souhrn_.Nedojde;
+    }
+}
+
+/// The pointer goes somewhere, mostly to a live control, and mostly presses there.
+void Bezstarostny::Mys() {
     Bod kde{Cislo(720) - 40, Cislo(560) - 40};
-    if (!Jednou(6) && std::ranges::count(vahy, 0) < std::ssize(vahy)) {
-        std::discrete_distribution<std::size_t> ktery(vahy.begin(), vahy.end());
-        const Ovladac& o = *form->Ovladace()[ktery(nahoda_)];
-        // A slide of the panel takes as long as a hundred other events.
-        if ((o.Name == "Image1" || o.Name == "MalaSipka") && !Jednou(8)) return;
-        if (o.Name == "Pic" && !Jednou(6)) return Tah(o);
-        kde = Uvnitr(o);
+    if (const Ovladac* o = Jednou(6) ? nullptr : Vyhlednuty()) {
+        if (o->Name == "Pic" && !Jednou(6)) return Tah(*o);
+        kde = Uvnitr(*o);
     }
     Zapamatuj("mouse", kde);
     if (Jednou(4)) return relace_->NajedNaMisto(kde.X, kde.Y);
@@ -298,6 +341,7 @@ void Bezstarostny::Sleduj() {
     const bool uzavreno = JeUzavreno(vpredu.get());
     if (uzavreno && !uzavreno_) ++souhrn_.Uzavreni;
     uzavreno_ = uzavreno;
+    if (okna.JeKonec()) return;  // nothing is brought up to date any more
     if (const auto* deska = dynamic_cast<const DeskaForm*>(vpredu.get())) {
         if (const std::string vada = hlidac_.Zkontroluj(*deska); !vada.empty()) Vadne(vada);
     }

@@ -22,14 +22,19 @@ using hrac::Relace;
 /// it looks whether the score tables and the log are whole. Every run with the same seed is the
 /// same.
 ///
+/// One that plays by keys goes by the ring to what it wants, as often presses whatever key there
+/// is, and takes the mouse now and then.
+///
 /// It keeps from one thing that is settled to end badly: the hundred and first wrong step of one
 /// example is a fault.
 class Bezstarostny {
 public:
+    using Cim = Relace::Cim;
+
     /// rodina: the family of tasks that it keeps to, but for a slip now and then, in the order of
     /// the menu from 1; 0: any.
-    explicit Bezstarostny(std::uint32_t seminko, int rodina = 0)
-        : nahoda_(seminko), rodina_(rodina) {
+    explicit Bezstarostny(std::uint32_t seminko, int rodina = 0, Cim cim = Cim::Mysi)
+        : nahoda_(seminko), rodina_(rodina), cim_(cim) {
         ZacniRelaci();
     }
 
@@ -40,6 +45,7 @@ public:
     /// What it has come through so far.
     struct Souhrn {
         int Udalosti = 0, Relaci = 0, Serii = 0, Uzavreni = 0;
+        int Nedojde = 0;  ///< of what was wanted and live, that the ring did not come to it
         std::map<int, int> Desky;  ///< task -> how many times its board was opened
     };
     [[nodiscard]] const Souhrn& Prozito() const { return souhrn_; }
@@ -59,6 +65,8 @@ private:
     void Krok();
     void Udalost();
     void Mys();
+    void Klavesami();
+    [[nodiscard]] const Ovladac* Vyhlednuty();
     void Tah(const Ovladac& pic);
     void Pis();
     void Cekej();
@@ -72,6 +80,7 @@ private:
 
     std::mt19937 nahoda_;
     int rodina_;
+    Cim cim_;
     std::unique_ptr<Relace> relace_;
     std::deque<std::string> stopa_;  ///< the last events
     Souhrn souhrn_;
