@@ -85,6 +85,8 @@ TEST_F(MalirTest, PoKouscichJeTotezCoNaraz) {
     std::mt19937 stroj(7);
     const auto d = [&](int n) { return static_cast<int>(stroj() % static_cast<unsigned>(n)); };
     ZapisForm& f = *Form_;
+    f.BereKlavesy = false;
+    f.Pic.Zastavka = f.cmd[0].Zastavka = f.cmd[1].Zastavka = 2;
     const std::vector<std::function<void()>> zmeny = {
         [&] { f.Uvnitr.Caption = std::string(static_cast<std::size_t>(d(9)), 'm'); },
         [&] { f.Uvnitr.Visible = !f.Uvnitr.Visible; },
@@ -98,6 +100,9 @@ TEST_F(MalirTest, PoKouscichJeTotezCoNaraz) {
         [&] { Okna().Klavesa("Left", d(2)); },
         [&] { Host_.Spi(300); },
         [&] { f.cmd[0].Ramecek = !f.cmd[0].Ramecek; },
+        [&] { Okna().Klavesa("Tab", d(2)); },
+        [&] { Okna().Klavesa("Down", 0); },
+        [&] { Okna().MysPohyb(d(640), d(480), 0, 0); },
     };
     for (const auto& [w, h] : {std::pair{640, 480}, {1000, 700}}) {
         Bitmapa b(w, h, 0);

@@ -161,7 +161,7 @@ TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
     const auto pohyb = [&](double x, int b) {
         return [&, x, b] { Okna().MysPohyb(x, 300, b, 0); };
     };
-    const auto klavesa = [&] { Okna().Klavesa("Return", 0); };
+    const auto klavesa = [&](const char* k) { return [&, k] { Okna().Klavesa(k, 0); }; };
     const Pripad PRIPADY[] = {
         {{{20, dolu(1)}, {30, nahoru(1)}}, {}},
         {{{20, dolu(1)}, {90, pohyb(350, 1)}, {110, pohyb(360, 1)}, {120, nahoru(1)}}, {}},
@@ -169,14 +169,18 @@ TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
          {"Down cmd(1) 10,5", "Up cmd(1) 10,5"}},
         {{{100, dolu(1)}, {101, nahoru(1)}}, {}},
         {{{20, [&] { Okna().Text("x"); }},
-          {30, klavesa},
+          {21, klavesa("Return")},
+          {22, klavesa("Space")},
+          {23, klavesa("Tab")},
+          {24, [&] { Okna().Text("y"); }},
+          {25, klavesa("BackSpace")},
           {40, dolu(1)},
           {50, [&] { Okna().ZadostOZavreni(); }},
           {60, pohyb(350, 1)},
           {70, nahoru(1)},
           {80, pohyb(370, 0)},
           {81, pohyb(380, 0)}},
-         {"Change x", "QueryUnload", "Move form 380,300"}},
+         {"Change x", "Change xy", "Change x", "QueryUnload", "Move form 380,300"}},
     };
     for (const Pripad& p : PRIPADY) {
         SCOPED_TRACE(&p - PRIPADY);

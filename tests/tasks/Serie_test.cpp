@@ -3,6 +3,7 @@
 #include "hrac/Serie.h"
 
 #include <gtest/gtest.h>
+#include <sstream>
 
 #include "base/Cisla.h"
 #include "base/Text.h"
@@ -42,6 +43,27 @@ TEST_P(SerieOdPeti, DaPadesatBoduRadekTabulkyACtyriRadkyLogu) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Ulohy, SerieOdPeti, testing::Range(1, 21));
+
+class SerieKlavesami : public testing::TestWithParam<int> {};
+
+/// The mouse is not touched, from the title to the score table.
+TEST_P(SerieKlavesami, DaDesetBodu) {
+    const int uloha = GetParam();
+    NastavVyrobceDesek(VyrobDesku);
+    Relace hra(static_cast<std::uint32_t>(uloha), Relace::Cim::Klavesami);
+    std::ostringstream udalosti;
+    hra.Zaznamenavej(udalosti);
+    hra.Start();
+    OdehrajSerii(hra, uloha, "Žák", 1, 1);
+    EXPECT_EQ(hra.JmenoVpredu(), "TabulkaForm");
+    EXPECT_EQ(hra.CtiSoubor(DveCislice(uloha) + ".res"), "\x8E\xE1k|10|0|1\r\n");
+    EXPECT_NE(udalosti.str().find("klavesa Space"), std::string::npos);
+    for (const char* mysi : {"mys ", "dolu", "nahoru"}) {
+        EXPECT_EQ(udalosti.str().find(mysi), std::string::npos) << mysi;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Ulohy, SerieKlavesami, testing::Range(1, 21));
 
 // Of the shipped grades the better one holds where two meet.
 TEST(DodaneZnamky, NaSpolecneMeziPlatiLepsi) {

@@ -139,6 +139,7 @@ void RukaNaDesce::Klepni(std::string_view jmeno, int index, int dx, int dy) {
                   roh.Y + (dy < 0 ? prvek.Height / 2 : dy)};
     relace_.Stiskni(jmeno, index, dx, dy);
     if (!dvojkliky_ || dvojkliky_->Cislo(KDY) != 0) return;
+    if (relace_.Hraje() == Relace::Cim::Klavesami) return;  // keys know none
     const Bod podruhe = dvojkliky_->Vedle(kde, CHVENI);
     relace_.StiskniMisto(podruhe.X, podruhe.Y);
 }

@@ -52,10 +52,24 @@ SDL_Event Pohyb() {
     e.motion.y = STRED_Y;
     return e;
 }
-SDL_Event Klavesa(SDL_Keycode kod) {
+SDL_Event Klavesa(SDL_Keycode kod, bool opakovana = false) {
     SDL_Event e{};
     e.type = SDL_KEYDOWN;
+    e.key.repeat = opakovana ? 1 : 0;
     e.key.keysym.sym = kod;
+    e.key.keysym.scancode = SDL_GetScancodeFromKey(kod);
+    return e;
+}
+/// The key of a digit types a Czech letter, or nothing at all.
+SDL_Event Cislice(SDL_Scancode misto) {
+    SDL_Event e = Klavesa(SDLK_UNKNOWN);
+    e.key.keysym.scancode = misto;
+    return e;
+}
+SDL_Event Psano(const char* text) {
+    SDL_Event e{};
+    e.type = SDL_TEXTINPUT;
+    SDL_strlcpy(e.text.text, text, sizeof e.text.text);
     return e;
 }
 
@@ -68,11 +82,19 @@ void Davka(std::vector<SDL_Event> udalosti) {
 class PocitadloForm final : public Form {
 public:
     std::string_view Jmeno() const override { return "PocitadloForm"; }
-    void Load() override { Maximised = true; }
+    void Load() override {
+        Maximised = true;
+        Pridej(Pole, "Pole", {10, 10, 100, 20});
+    }
     void MouseDown(Ovladac* /*o*/, const Mys& /*m*/) override { ++Stisku; }
     void Click(Ovladac* /*o*/) override { ++Kliku; }
-    bool Klavesa(std::string_view /*klavesa*/, int /*shift*/) override { return ++Klaves > 0; }
-    int Stisku = 0, Kliku = 0, Klaves = 0;
+    bool Klavesa(std::string_view klavesa, int /*shift*/) override {
+        Klavesy += std::string(klavesa) + ' ';
+        return true;
+    }
+    TextBox Pole;
+    int Stisku = 0, Kliku = 0;
+    std::string Klavesy;
 };
 
 class NaOkne : public testing::Test {
@@ -162,21 +184,45 @@ TEST_F(NaOkne, ZavreneCekaniBereVstupZaBehu) {
     ASSERT_EQ(Host_.ChangeDisplaySettings({640, 480, 16}), 0);
     const auto form = Host_.Okna().Nacti<PocitadloForm>();
     Host_.Okna().Show(*form);
+    form->SetFocus(form->Pole);
     Ustal();
     const auto zacatek = Hodiny::now();
     Host_.Okna().CekejZavrene([&] {
-        Davka({Tlacitko(true), Tlacitko(false), Klavesa(SDLK_RETURN)});
+        Davka({Tlacitko(true), Tlacitko(false), Klavesa(SDLK_RETURN), Psano("x")});
         for (int i = 0; i < 5; ++i) Host_.Spi(40);
         Davka({Tlacitko(true)});
     });
     EXPECT_GE(Ms(zacatek), 150);   // it slept: clocks may round
     EXPECT_LT(Ms(zacatek), 5000);  // it came back at all: the machine may be busy
-    EXPECT_EQ(form->Stisku + form->Klaves, 0);
+    EXPECT_EQ(std::to_string(form->Stisku) + form->Pole.Text, "0");
     Davka({Tlacitko(false), Tlacitko(true, 100, 100), Tlacitko(false, 100, 100)});
     Ustal();
-    EXPECT_EQ(form->Klaves, 1);
+    EXPECT_EQ(form->Klavesy, "");
+    EXPECT_EQ(form->Pole.Text, "x");
     EXPECT_EQ(form->Stisku, 1);
     EXPECT_EQ(form->Kliku, 1);
+}
+
+/// Held keys repeat where they edit a text, else only arrows do; digits go by their place.
+TEST_F(NaOkne, KlavesySeOpakujiJenSipkamAPsani) {
+    ASSERT_EQ(Host_.ChangeDisplaySettings({640, 480, 16}), 0);
+    const auto form = Host_.Okna().Nacti<PocitadloForm>();
+    Host_.Okna().Show(*form);
+    Ustal();
+    const auto stiskni = [&] {
+        for (const SDL_Keycode kod : {SDLK_SPACE, SDLK_RETURN, SDLK_TAB, SDLK_a, SDLK_UP, SDLK_F1})
+            Davka({Klavesa(kod), Klavesa(kod, true)});
+        Davka({Cislice(SDL_SCANCODE_2), Cislice(SDL_SCANCODE_KP_9), Cislice(SDL_SCANCODE_0)});
+        Ustal();
+        return std::exchange(form->Klavesy, {});
+    };
+    EXPECT_EQ(stiskni(), "Space Return Tab a Up Up F1 2 9 ");
+    form->SetFocus(form->Pole);
+    form->Pole.Text = "xyz";
+    EXPECT_EQ(stiskni(), "Return Tab Up Up F1 ") << "what the box types is its own";
+    Davka({Klavesa(SDLK_END), Klavesa(SDLK_BACKSPACE), Klavesa(SDLK_BACKSPACE, true)});
+    Ustal();
+    EXPECT_EQ(form->Pole.Text, "x");
 }
 
 /// A press that was made while the program was busy may be older than the library says.
