@@ -13,6 +13,7 @@
 
 #include "platform/Form.h"
 #include "platform/Obrazovky.h"
+#include "platform/Surface.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
 
@@ -99,6 +100,10 @@ public:
 
 class NaOkne : public testing::Test {
 protected:
+    NaOkne() {
+        const std::string staging = std::getenv("RYSOVNA_STAGING");
+        NastavSlozkuPisem(staging + "/assets/Fonts");
+    }
     ~NaOkne() override { Host_.Okna().UnloadVse(); }
     /// Paints, and takes what the window itself has to say.
     void Ustal() {
