@@ -17,6 +17,8 @@ namespace {
 constexpr int SHIFT = 1;
 constexpr int KROK_S_SHIFTEM = 10;     // px of the cross
 constexpr int PRVNI_POD_HODNOTOU = 5;  // of the step buttons, those below the box for a value
+constexpr int OKRAJ_PLOCHY = 4;        // px, so that the ring leaves the arrows out
+constexpr int ODSAZENI_RADKU = 3;      // px, so that the ring leaves the next line out
 constexpr int OKOLI_ZONY = 6;          // px of the ring around a place of the sketch
 
 /// Which points of an object bear a letter: the others' names are those of lines.
@@ -87,6 +89,11 @@ UkazatelKlaves DeskaForm::Ukazatel(const Ovladac& o) const {
     if (&o == &Pic) {
         u.Hrot = kriz_;
         u.Kriz = true;
+        u.Ram = {-OKRAJ_PLOCHY, -OKRAJ_PLOCHY, Pic.Width + 2 * OKRAJ_PLOCHY,
+                 Pic.Height + 2 * OKRAJ_PLOCHY};
+    } else if (Je(ComboLabel, &o)) {
+        u.Ram = {ODSAZENI_RADKU, ODSAZENI_RADKU, o.Width - 2 * ODSAZENI_RADKU,
+                 o.Height - 2 * ODSAZENI_RADKU};
     } else if (&o == &SamplePic) {
         const std::vector<Bod> mista = dialog_->MistaNacrtu();
         if (mista.empty()) return u;

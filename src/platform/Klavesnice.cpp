@@ -125,7 +125,8 @@ std::optional<Bod> SmerSipky(std::string_view klavesa) {
 
 std::optional<Obrazovky::Prsten> Obrazovky::PrstenVpredu() const {
     const Formular form = vnitrek_->Cilovy();
-    if (form == nullptr || !vnitrek_->PrstenVidet) return std::nullopt;
+    // In a closed wait no key would do anything.
+    if (form == nullptr || !vnitrek_->PrstenVidet || JeZavreno()) return std::nullopt;
     const Ovladac* o = MistoPrstenu(*form);
     if (o == nullptr) return std::nullopt;
     const UkazatelKlaves u = form->Ukazatel(*o);
