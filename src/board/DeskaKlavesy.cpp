@@ -18,7 +18,7 @@ constexpr int SHIFT = 1;
 constexpr int KROK_S_SHIFTEM = 10;     // px of the cross
 constexpr int PRVNI_POD_HODNOTOU = 5;  // of the step buttons, those below the box for a value
 constexpr int OKRAJ_PLOCHY = 4;        // px, so that the ring leaves the arrows out
-constexpr int ODSAZENI_RADKU = 3;      // px, so that the ring leaves the next line out
+constexpr int POD_RADKEM = 5;          // px, so that the ring leaves the next line out
 constexpr int OKOLI_ZONY = 6;          // px of the ring around a place of the sketch
 
 /// Which points of an object bear a letter: the others' names are those of lines.
@@ -92,8 +92,8 @@ UkazatelKlaves DeskaForm::Ukazatel(const Ovladac& o) const {
         u.Ram = {-OKRAJ_PLOCHY, -OKRAJ_PLOCHY, Pic.Width + 2 * OKRAJ_PLOCHY,
                  Pic.Height + 2 * OKRAJ_PLOCHY};
     } else if (Je(ComboLabel, &o)) {
-        u.Ram = {ODSAZENI_RADKU, ODSAZENI_RADKU, o.Width - 2 * ODSAZENI_RADKU,
-                 o.Height - 2 * ODSAZENI_RADKU};
+        u.Ram.Width -= POD_RADKEM;
+        u.Ram.Height -= POD_RADKEM;
     } else if (&o == &SamplePic) {
         const std::vector<Bod> mista = dialog_->MistaNacrtu();
         if (mista.empty()) return u;
