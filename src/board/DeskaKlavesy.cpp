@@ -16,6 +16,7 @@ namespace {
 
 constexpr int SHIFT = 1;
 constexpr int KROK_S_SHIFTEM = 10;     // px of the cross
+constexpr int ZPET = 5;                // step button that takes a step back
 constexpr int PRVNI_POD_HODNOTOU = 5;  // of the step buttons, those below the box for a value
 constexpr int OKRAJ_PLOCHY = 4;        // px, so that the ring leaves the arrows out
 constexpr int POD_RADKEM = 5;          // px, so that the ring leaves the next line out
@@ -71,14 +72,18 @@ void DeskaForm::OcislujZastavky() {
     vse(ComboLabel, ZASTAVKA_PLOCHY + 5);
 }
 
-/// What is to be done next; never the check or the way out, which a press too many would do.
+/// What is to be done next; never what a press too many would do harm with: the check, the way out,
+/// the step back, the sketch of a figure that is done.
 Ovladac* DeskaForm::PrvniZastavka() {
     std::vector<Ovladac*> poradi;
     for (Label& l : ComboLabel) poradi.push_back(&l);
     poradi.push_back(&txtVstup);
     poradi.push_back(&Pic);
-    for (PictureBox& c : cmd) poradi.push_back(&c);
-    poradi.insert(poradi.end(), {&picPokracuj, &SamplePic});
+    for (PictureBox& c : cmd) {
+        if (c.Index != ZPET) poradi.push_back(&c);
+    }
+    poradi.push_back(&picPokracuj);
+    if (Pic.Enabled) poradi.push_back(&SamplePic);
     const auto zivy =
         std::ranges::find_if(poradi, [](const Ovladac* o) { return JeZivaZastavka(*o); });
     return zivy == poradi.end() ? nullptr : *zivy;

@@ -6,6 +6,7 @@
 #include "board/DeskaForm.h"
 #include "engine/Tabulky.h"
 #include "hrac/Ctyruhelnik.h"
+#include "hrac/Serie.h"
 #include "platform/Obrazovky.h"
 #include "podpora/Rysovac.h"
 #include "shell/Misc.h"
@@ -159,6 +160,7 @@ TEST_F(KlavesyDesky, TahKlavesamiPustiJenMezernik) {
     hra.Klavesa("Space");
     hra.Cekej(50);
     ASSERT_EQ(PocetUtvaru, 1);
+    EXPECT_EQ(Prsten(hra), "cmd1");
     EXPECT_EQ((Bod{Utvary[1].X1, Utvary[1].Y1}), odkud);
     EXPECT_EQ((Bod{Utvary[1].X2, Utvary[1].Y2}), (Bod{odkud.X + 96, odkud.Y}));
     EXPECT_NE(bitmapa(), pred);
@@ -175,6 +177,18 @@ TEST_F(KlavesyDesky, TahKlavesamiPustiJenMezernik) {
     Klavesy(hra, {"Space", "a"});
     EXPECT_EQ(Kriz(hra), odkud);
     EXPECT_TRUE(hra.Prvek("Circle1").Visible);
+}
+
+/// The figure is done: under the ring is no step back, no mark, that one press more would spoil.
+TEST_F(KlavesyDesky, HotovouFiguruNicNezkazi) {
+    Relace hra(7, Relace::Cim::Klavesami);
+    hra.Start();
+    hra.SpustUlohu(18);
+    hrac::RukaNaDesce ruka(hra);
+    hrac::Sestroj(ruka, 7);
+    ASSERT_FALSE(hra.Prvek("Pic").Enabled);
+    ASSERT_TRUE(hra.Prvek("cmd", 5).Enabled);
+    EXPECT_EQ(Prsten(hra), "INadpis");
 }
 
 TEST_F(KlavesyDesky, SeznamChybStojiDokudSeDrziMezernik) {
