@@ -48,8 +48,9 @@ Rada::Co CoDal(const Videne& v) {
     using enum Rada::Co;
     const Panel& p = v.Krok;
     const bool zpet = JeZivy(p, TVAR_ZPET);
-    if (p.Nezavrena) return VratNezavrenou;
+    // Before the other: how many steps were done since cannot be seen.
     if (p.Nesestrojen) return VratNesestrojeny;
+    if (p.Nezavrena) return VratNezavrenou;
     if (!p.Vstupy.empty()) return Vyplneno(p) ? PotvrdHodnoty : VyplnHodnoty;
     if (!MuzeZacit(p)) return v.NacrtVysunuty ? OznacZadane : VysunNacrt;
     if (JeZivy(p, TVAR_VETA)) return ZvolTrojuhelnik;
