@@ -39,9 +39,7 @@ public:
 
     [[nodiscard]] HeadlessHost& Host() { return host_; }
 
-    /// What it plays with now, and from now on.
     [[nodiscard]] Cim Hraje() const { return cim_; }
-    void HrajOdTed(Cim cim) { cim_ = cim; }
 
     /// The start-up and a press on the title: up to the menu.
     void Start();

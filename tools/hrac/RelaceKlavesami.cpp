@@ -13,7 +13,7 @@
 namespace rysovna::hrac {
 namespace {
 
-/// Controls that a digit presses, and the screen's condition for it.
+/// Controls that a digit presses.
 constexpr std::string_view CISLICEMI[] = {"cmd", "ComboLabel", "ICislo"};
 
 int Daleko(Bod a, Bod b) {
