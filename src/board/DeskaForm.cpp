@@ -102,6 +102,10 @@ void DeskaForm::RozlozOvladace() {
         ComboLabel[i].WordWrap = false;
     }
     OcislujZastavky();
+    for (PictureBox& t : cmd) t.Ramovat = true;
+    for (Label& l : ComboLabel) l.Ramovat = true;
+    for (PictureBox& s : picSipka) s.DalPrstem = true;
+    Image1.DalPrstem = MalaSipka.DalPrstem = true;
 }
 
 void DeskaForm::NactiObrazky() {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -70,6 +71,9 @@ public:
     [[nodiscard]] Ovladac* PrvniZastavka() override;
     [[nodiscard]] Ovladac* Napoveda() override { return &INadpis; }
     [[nodiscard]] UkazatelKlaves Ukazatel(const Ovladac& o) const override;
+    [[nodiscard]] int CastProPrst(const Ovladac& o, float x, float y) const override;
+    [[nodiscard]] Kurzor KurzorNad(const Ovladac* o, float x, float y) const override;
+    [[nodiscard]] std::optional<Bod> Zachytne() const override;
 
     /// The dialogue of this board; made by Load.
     [[nodiscard]] const Dialog& Dialogem() const { return *dialog_; }
@@ -106,6 +110,7 @@ private:
     void StiskMaleSipky();
     void ZhasniHorni();
     void ZhasniSipky();
+    void UkazOdecet(const Gumicka& g, const Mys& m);
     // DeskaKlavesy.cpp: keys
     void OcislujZastavky();
     bool EnterVPoli();
@@ -147,10 +152,11 @@ private:
     bool poustiSe_ = false;      ///< a release on the plane is being handled
     Videne videne_;
     Rada rada_;
-    Bod kriz_{192, 167};         ///< px of the plane: where the pointer of the keys is
-    int zona_ = 0;               ///< element of the sketch that the keys are at, from 0
-    int nastroj_ = 1;            ///< step button that opened the list
-    std::uint64_t podklad_ = 0;  ///< version of the plane that the resting panel lies on
+    std::optional<Bod> zachytne_;  ///< px of the plane: the point that a press would catch
+    Bod kriz_{192, 167};           ///< px of the plane: where the pointer of the keys is
+    int zona_ = 0;                 ///< element of the sketch that the keys are at, from 0
+    int nastroj_ = 1;              ///< step button that opened the list
+    std::uint64_t podklad_ = 0;    ///< version of the plane that the resting panel lies on
 };
 
 }  // namespace rysovna

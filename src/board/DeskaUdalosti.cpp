@@ -1,5 +1,7 @@
 // The events of a board: what the pupil presses goes to the dialogue, what it answers is shown.
 
+#include <algorithm>
+
 #include "base/Cisla.h"
 #include "board/DeskaForm.h"
 #include "shell/HelpForm.h"
@@ -14,6 +16,8 @@ constexpr int LEVE = 1;
 
 // How far below the pointer the read-out stands, px.
 constexpr int ODECET_Y = 2;
+// How far above a finger, which hides what is below it, px.
+constexpr int NAD_PRSTEM = 48;
 
 constexpr std::uint32_t CEKANI_PO_VOLBE = 50;  // ms
 
@@ -47,6 +51,7 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
     if (Je(ComboLabel, o)) return VyberRadku(o->Index);
     if (o == &Pic) {
         SkryjSeznam();
+        zachytne_.reset();
         if (m.Button != LEVE || poustiSe_) return;
         dialog_->StiskPlochy(m.X, m.Y);
         Ukaz();
@@ -87,7 +92,11 @@ void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
     }
     if (o == &Pic) {
         ZhasniSipky();
-        if ((m.Button & LEVE) == 0) return UkazTah(dialog_->Prejezd(m.X, m.Y), m);
+        if ((m.Button & LEVE) == 0) {
+            UkazTah(dialog_->Prejezd(m.X, m.Y), m);
+            if (!cekaNaZadani_ && !poustiSe_) zachytne_ = dialog_->ChytilBy(m.X, m.Y);
+            return;
+        }
         if (!poustiSe_ && dialog_->CekaNaKresleni()) UkazTah(dialog_->Tah(m.X, m.Y), m);
         return;
     }
@@ -189,19 +198,31 @@ void DeskaForm::UkazTah(const Gumicka& g, const Mys& m) {
         Circle1.Height = g.Y2 - g.Y1;
     }
     videne_.Tahne = (m.Button & LEVE) != 0 && g.Druh != Gumicka::Tvar::Nic;
+    videne_.Podlozka = m.Zvednut;
     videne_.Odecet = g.Text;
+    zachytne_.reset();
     ObnovRadu();
+    UkazOdecet(g, m);
+}
+
+/// Beside the pointer; a finger hides what is there, so above it then, within the plane.
+void DeskaForm::UkazOdecet(const Gumicka& g, const Mys& m) {
     Text.Visible = !g.Text.empty();
     if (!Text.Visible) return;
     Text.Caption = g.Text;
     Text.PodleTextu();
     Text.Left = Zaokrouhli(m.X) + g.Odsazeni;
     Text.Top = Zaokrouhli(m.Y) + ODECET_Y;
+    if (!m.Prst && !m.Zvednut) return;
+    Text.Left = std::clamp(Text.Left, 0, Pic.Width - Text.Width);
+    const int nad = Zaokrouhli(m.Y) - NAD_PRSTEM;
+    Text.Top = nad >= 0 ? std::min(nad, Pic.Height - Text.Height) : Zaokrouhli(m.Y) + NAD_PRSTEM;
 }
 
 void DeskaForm::SkryjTah() {
     Line1.Visible = Circle1.Visible = Text.Visible = false;
-    videne_.Tahne = false;
+    zachytne_.reset();
+    videne_.Tahne = videne_.Podlozka = false;
     videne_.Odecet.clear();
     ObnovRadu();
 }
@@ -226,6 +247,33 @@ void DeskaForm::StiskSipky(int i) {
     if (krok > 0 ? posun > MEZ_POSUNU : posun < -MEZ_POSUNU) return;
     dialog_->Posun(s.Dx, s.Dy);
     posun += krok;
+}
+
+int DeskaForm::CastProPrst(const Ovladac& o, float x, float y) const {
+    if (&o == &SamplePic) {
+        const int prvek = dialog_->PrvekNacrtu(x, y);
+        return prvek < 0 ? -1 : prvek + 1;
+    }
+    if (&o != &Pic) return Form::CastProPrst(o, x, y);
+    const auto bod =
+        Pic.Klavesou == StiskKlavesou::Klik ? dialog_->TrefilBy(x, y) : dialog_->ChytilBy(x, y);
+    if (!bod) return -1;
+    // A number for each point, also for those off the plane.
+    constexpr int ZACATEK = 1 << 14;
+    return (bod->Y + ZACATEK) * 2 * ZACATEK + bod->X + ZACATEK;
+}
+
+Kurzor DeskaForm::KurzorNad(const Ovladac* o, float x, float y) const {
+    const bool kresliSe = o == &Pic || o == &SamplePic;
+    if (kresliSe && cekaNaZadani_) return Kurzor::Sipka;
+    if (o == &SamplePic && dialog_->PrvekNacrtu(x, y) < 0) return Kurzor::Sipka;
+    const Kurzor kurzor = Form::KurzorNad(o, x, y);
+    return o == &Pic && kurzor == Kurzor::Ruka ? Kurzor::Kriz : kurzor;
+}
+
+std::optional<Bod> DeskaForm::Zachytne() const {
+    if (!zachytne_ || Pic.Zastavka == 0) return std::nullopt;
+    return Bod{Pic.Left + zachytne_->X, Pic.Top + zachytne_->Y};
 }
 
 void DeskaForm::ZhasniHorni() {

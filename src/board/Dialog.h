@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,15 @@ public:
     virtual void PusteniPlochy(float x, float y) = 0;
     /// Whether a press on the plane begins a drag now.
     [[nodiscard]] virtual bool CekaNaKresleni() const = 0;
+
+    /// The point that a press here would catch for a drag to begin in.
+    [[nodiscard]] virtual std::optional<Bod> ChytilBy(float /*x*/, float /*y*/) const {
+        return std::nullopt;
+    }
+    /// The place that a click here would be taken for, where it must be met.
+    [[nodiscard]] virtual std::optional<Bod> TrefilBy(float /*x*/, float /*y*/) const {
+        return std::nullopt;
+    }
 
     /// A place in each element of the sketch where a press hits it, px of the sketch.
     [[nodiscard]] virtual std::vector<Bod> MistaNacrtu() const = 0;

@@ -80,6 +80,7 @@ public:
     void ZavriSeznam() override { Upravit().Combo.Otevreny = false; }
     void Napis(int ktery, const std::string& text) override;
     void StiskPlochy(float x, float y) override;
+    [[nodiscard]] std::optional<Bod> ChytilBy(float x, float y) const override;
     [[nodiscard]] Gumicka Tah(float x, float y) const override;
     [[nodiscard]] std::uint32_t CekaniPoTahu() const override;
     void PusteniPlochy(float x, float y) override;
@@ -197,6 +198,7 @@ private:
     struct DruhTahu;
     [[nodiscard]] const DruhTahu* Druh() const;
     [[nodiscard]] Zachyt ChytPosledni(float x, float y) const;
+    [[nodiscard]] Zachyt Chyt(float x, float y) const;
     [[nodiscard]] Zachyt ChytStred(float x, float y) const;
     [[nodiscard]] Zachyt ChytZakladnu(float x, float y) const;
     void NakresliUsecku(int n, Bod konec) const;

@@ -78,11 +78,20 @@ Dvojice DialogKroku::BodyPrimky(Bod konec) const {
     return {start, konec};
 }
 
+Zachyt DialogKroku::Chyt(float x, float y) const {
+    const DruhTahu* druh = Druh();
+    return druh == nullptr ? Zachyt{false, NaPixely(x, y)} : (this->*druh->Chyt)(x, y);
+}
+
+std::optional<Bod> DialogKroku::ChytilBy(float x, float y) const {
+    if (!CekaNaKresleni()) return std::nullopt;
+    const Zachyt zachyt = Chyt(x, y);
+    return zachyt.Je ? std::optional(zachyt.Misto) : std::nullopt;
+}
+
 void DialogKroku::StiskPlochy(float x, float y) {
     if (!CekaNaKresleni()) return;
-    const DruhTahu* druh = Druh();
-    const Zachyt zachyt =
-        druh == nullptr ? Zachyt{false, NaPixely(x, y)} : (this->*druh->Chyt)(x, y);
+    const Zachyt zachyt = Chyt(x, y);
     Upravit().Tazeni = true;
     Upravit().Start = zachyt.Misto;
     PosudStisk(zachyt);

@@ -91,7 +91,10 @@ Rada UrciRadu(const Videne& v) {
         r.ZasunNacrt = v.NacrtVysunuty;
         r.Zpet = JeZivy(v.Krok, TVAR_ZPET);
     }
-    if (r.Druh == Tahni) r.Odecet = v.Odecet;
+    if (r.Druh == Tahni) {
+        r.Odecet = v.Odecet;
+        r.Podlozka = v.Podlozka;
+    }
     return r;
 }
 

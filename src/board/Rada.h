@@ -23,6 +23,7 @@ struct Videne {
     Panel Krok;
     bool NacrtVysunuty = true;  ///< the sketch is out, and over a part of the plane
     bool Tahne = false;         ///< the button is held over the plane, and a rubber band follows
+    bool Podlozka = false;      ///< a finger has left the drag, and the pad is up
     std::string Odecet;         ///< the live read-out; empty: there is none
     int MrtvyNastroj = 0;       ///< cmd(i) under the pointer that cannot be pressed; 0: none
     VysledekPrikladu Vysledek;  ///< after the check
@@ -63,6 +64,7 @@ struct Rada {
     Co Druh = Co::Nic;
     Gesto Kresleni;
     bool ZasunNacrt = false;  ///< the sketch lies over the plane that is to be drawn on
+    bool Podlozka = false;    ///< the drag is ended by the pad
     bool Zpet = false;        ///< the step in hand can be laid down by a step back
     std::string Odecet;
     VysledekPrikladu Priklad;

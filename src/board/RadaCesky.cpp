@@ -65,6 +65,8 @@ constexpr std::string_view ZASUN_NACRT = "Náčrtek v cestě zasuneš šipkou na
 constexpr std::string_view ZPET_BEZ_BODU = "Nejde-li bod označit, vrať se o krok zpět.";
 constexpr std::string_view TAH_BEZ_ODECTU = "Pusť, až bude útvar na svém místě.";
 constexpr std::string_view TAH_S_ODECTEM = " – pusť, až bude velikost souhlasit.";
+constexpr std::string_view POSUN_KONEC = "Posuň konec šipkami a klepni na „hotovo“.";
+constexpr std::string_view POSUN_K_MIRE = " – dolaď šipkami a klepni na „hotovo“.";
 constexpr std::string_view UKAZ_CHYBY =
     "Dokud držíš stisknutý křížek, ukazuje se seznam chybných kroků.";
 constexpr std::string_view BEZ_CHYBY = "Bez chyby! Dál vede tlačítko vpravo.";
@@ -107,6 +109,8 @@ RadkyRady RadaCesky(const Rada& r) {
         case Co::NapisHodnotu:
             return {std::string(NAPIS_HODNOTU), JakKreslit(r.Kresleni)};
         case Co::Tahni:
+            if (r.Podlozka)
+                return {r.Odecet + std::string(r.Odecet.empty() ? POSUN_KONEC : POSUN_K_MIRE), ""};
             if (r.Odecet.empty()) return {std::string(TAH_BEZ_ODECTU), ""};
             return {r.Odecet + std::string(TAH_S_ODECTEM), ""};
         case Co::Kresli: {

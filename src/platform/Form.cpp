@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/Klavesnice.h"
+
 namespace rysovna {
 
 Ovladac* Form::Najdi(std::string_view jmeno, int index) const {
@@ -14,6 +16,11 @@ Ovladac* Form::Najdi(std::string_view jmeno, int index) const {
 void Form::DoPopredi(Ovladac& o) {
     const auto kde = std::find(ovladace_.begin(), ovladace_.end(), &o);
     if (kde != ovladace_.end()) std::rotate(kde, kde + 1, ovladace_.end());
+}
+
+Kurzor Form::KurzorNad(const Ovladac* o, float /*x*/, float /*y*/) const {
+    if (o == nullptr || !JeZivaZastavka(*o)) return Kurzor::Sipka;
+    return o->Druh == Ovladac::Typ::TextBox ? Kurzor::Text : Kurzor::Ruka;
 }
 
 void Form::Pridej(Ovladac& o, std::string_view jmeno, Obdelnik misto, Ovladac* rodic) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -90,6 +91,15 @@ public:
     [[nodiscard]] virtual UkazatelKlaves Ukazatel(const Ovladac& o) const {
         return {{0, 0, o.Width, o.Height}, {o.Width / 2, o.Height / 2}};
     }
+    /// Which part of a live object, from 1, is at a place of it, so that a finger finds the
+    /// nearest; 0: the object has no parts; -1: it has, and none is there.
+    [[nodiscard]] virtual int CastProPrst(const Ovladac& /*o*/, float /*x*/, float /*y*/) const {
+        return 0;
+    }
+    /// The pointer over an object (null: the form), px of it.
+    [[nodiscard]] virtual Kurzor KurzorNad(const Ovladac* o, float x, float y) const;
+    /// The point that a press would catch where the pointer is, design px.
+    [[nodiscard]] virtual std::optional<Bod> Zachytne() const { return std::nullopt; }
     /// The window is being closed from outside. The shell's root screen asks its exit question.
     virtual void QueryUnload() {}
 

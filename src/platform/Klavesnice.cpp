@@ -201,12 +201,7 @@ void Obrazovky::PustKlavesou() {
     const Formular form = v.Drzici();
     Ovladac* o = v.DrziObjekt;
     if (form == nullptr || !Dosazitelny(o)) return;
-    const Mys m = UdalostKlaves(*form, *o, LEVE);
-    form->MouseUp(o, m);
-    if (v.Cilovy() != form || !Dosazitelny(o)) return;
-    if (Obdelnik{0, 0, o->Width, o->Height}.Obsahuje(static_cast<double>(m.X),
-                                                     static_cast<double>(m.Y)))
-        form->Click(o);
+    Pust(form, o, UdalostKlaves(*form, *o, LEVE));
 }
 
 void Obrazovky::PosunutUkazatel(Form& form, Ovladac& o) {
@@ -263,7 +258,7 @@ bool Obrazovky::PosunDrzenouMys(const Vstup& s) {
 
 void Obrazovky::DorucKlavesu(const Vstup& s) {
     const std::string& jmeno = s.Text;
-    if (ZaDrzeni(s) || PosunDrzenouMys(s)) return;
+    if (vnitrek_->Zvednuty() != nullptr || ZaDrzeni(s) || PosunDrzenouMys(s)) return;
     const Formular form = vnitrek_->Cilovy();
     if (form == nullptr) return;
     if (TextBox* t = Psane()) {

@@ -146,6 +146,7 @@ struct Malir::Vnitrek {
     std::uint64_t Verze = 0;
     std::vector<Zaznam> Radky;
     std::optional<Obrazovky::Prsten> Prsten;
+    std::vector<Obrazovky::Ohlas> Ohlasy;
 };
 
 Umisteni Umisteni::Vejdi(int sirka, int vyska) {
@@ -172,6 +173,7 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
     const bool kurzor = (ted - okna.PosledniPsani()) / BLIKANI % 2 == 0;
     Soupis soupis(okna, kurzor);
     const std::optional<Obrazovky::Prsten> prsten = okna.PrstenVpredu();
+    std::vector<Obrazovky::Ohlas> ohlasy = okna.OhlasyVpredu();
 
     Kresba k;
     k.Cil = {cil.Body, cil.Sirka, cil.Vyska, cil.Krok};
@@ -197,6 +199,11 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
             if (v.Prsten) spinave.push_back(DosahPrstenu(*v.Prsten));
             if (prsten) spinave.push_back(DosahPrstenu(*prsten));
         }
+        if (ohlasy != v.Ohlasy) {
+            for (const auto* kdy : {&v.Ohlasy, &ohlasy}) {
+                for (const Obrazovky::Ohlas& o : *kdy) spinave.push_back(DosahOhlasu(o));
+            }
+        }
         Spoj(spinave);
         for (Obdelnik& o : spinave) o = Prunik(k.NaCil(o), k.NaCil(NAVRH));
         std::erase_if(spinave, [](const Obdelnik& o) { return JePrazdny(o); });
@@ -210,9 +217,11 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
                 NamalujObjekt(k, z.Objekt);
             }
         }
+        for (const Obrazovky::Ohlas& ohlas : ohlasy) NamalujOhlas(k, ohlas);
         if (prsten) NamalujPrsten(k, *prsten);
     }
-    v = {false, cil.Sirka, cil.Vyska, okna.Verze(), std::move(soupis.Radky), prsten};
+    v = {false,  cil.Sirka,        cil.Vyska, okna.Verze(), std::move(soupis.Radky),
+         prsten, std::move(ohlasy)};
     return spinave;
 }
 

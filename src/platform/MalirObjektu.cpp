@@ -7,6 +7,7 @@
 #include "platform/Pisma.h"
 #include "platform/PsaniTextu.h"
 #include "platform/SurfaceVnitrek.h"
+#include "platform/TahNad.h"
 
 namespace rysovna {
 
@@ -151,36 +152,6 @@ void Namaluj(const Kresba& k, const Obdelnik& kde, const TextBox& t, bool zamere
     }
 }
 
-/// Strokes over what stands below: lines and circles lie in no bitmap.
-class Tah {
-public:
-    Tah(const Kresba& k, Barva barva, int sirka) {
-        plocha_ = cairo_image_surface_create_for_data(reinterpret_cast<unsigned char*>(k.Cil.Body),
-                                                      CAIRO_FORMAT_RGB24, k.Cil.Sirka, k.Cil.Vyska,
-                                                      k.Cil.Krok * static_cast<int>(sizeof(Pixel)));
-        cairo_ = cairo_create(plocha_);
-        cairo_rectangle(cairo_, k.Orez.Left, k.Orez.Top, k.Orez.Width, k.Orez.Height);
-        cairo_clip(cairo_);
-        const Pixel p = DoPixelu(barva);
-        const auto kanal = [p](unsigned posun) { return ((p >> posun) & 0xFFu) / 255.0; };
-        cairo_set_source_rgb(cairo_, kanal(16), kanal(8), kanal(0));
-        cairo_set_line_width(cairo_, std::max(1.0, std::round(std::max(sirka, 1) * k.S)));
-        cairo_set_line_cap(cairo_, CAIRO_LINE_CAP_ROUND);
-    }
-    ~Tah() {
-        cairo_stroke(cairo_);
-        cairo_destroy(cairo_);
-        cairo_surface_destroy(plocha_);
-    }
-    Tah(const Tah&) = delete;
-    Tah& operator=(const Tah&) = delete;
-    [[nodiscard]] cairo_t* Kde() const { return cairo_; }
-
-private:
-    cairo_surface_t* plocha_;
-    cairo_t* cairo_;
-};
-
 void Namaluj(const Kresba& k, Bod posun, const LineShape& l) {
     const auto x = [&](int n) { return k.X0 + (posun.X + n + 0.5) * k.S; };
     const auto y = [&](int n) { return k.Y0 + (posun.Y + n + 0.5) * k.S; };
@@ -198,65 +169,7 @@ void Namaluj(const Kresba& k, Bod posun, const CircleShape& c) {
               2 * 3.14159265358979323846);
 }
 
-constexpr int ODSTUP_PRSTENU = 2;                  // px, of its middle from what it goes round
-constexpr int SIRKA_PRSTENU = 2, LEM_PRSTENU = 4;  // px, of its line and of the light one below
-constexpr int ROH_PRSTENU = 3;                     // px
-constexpr int RAMENO_KRIZE = 9, MEZERA_KRIZE = 2;  // px from the middle
-constexpr Barva BARVA_PRSTENU = Rgb(196, 72, 0);
-
-/// What the ring goes round, kept on the design area.
-Obdelnik RamPrstenu(const Obdelnik& o) {
-    const int kraj = LEM_PRSTENU / 2;
-    const int x1 = std::max(o.Left - ODSTUP_PRSTENU, kraj);
-    const int y1 = std::max(o.Top - ODSTUP_PRSTENU, kraj);
-    const int x2 = std::min(o.Left + o.Width + ODSTUP_PRSTENU, NAVRH_SIRKA - kraj);
-    const int y2 = std::min(o.Top + o.Height + ODSTUP_PRSTENU, NAVRH_VYSKA - kraj);
-    return {x1, y1, x2 - x1, y2 - y1};
-}
-
 }  // namespace
-
-Obdelnik DosahPrstenu(const Obrazovky::Prsten& p) {
-    const auto okoli = [](const Obdelnik& o, int okraj) {
-        return Obdelnik{o.Left - okraj, o.Top - okraj, o.Width + 2 * okraj, o.Height + 2 * okraj};
-    };
-    const Obdelnik ram = okoli(RamPrstenu(p.Ram), LEM_PRSTENU);
-    if (!p.Kriz) return ram;
-    return Obal(ram, okoli({p.Hrot.X, p.Hrot.Y, 1, 1}, RAMENO_KRIZE + LEM_PRSTENU));
-}
-
-void NamalujPrsten(const Kresba& k, const Obrazovky::Prsten& p) {
-    constexpr double PRAVY_UHEL = 3.14159265358979323846 / 2;
-    const Obdelnik ram = RamPrstenu(p.Ram);
-    const double x = k.X0 + ram.Left * k.S;
-    const double y = k.Y0 + ram.Top * k.S;
-    const double w = ram.Width * k.S;
-    const double h = ram.Height * k.S;
-    const double r = ROH_PRSTENU * k.S;
-    const double sx = k.X0 + (p.Hrot.X + 0.5) * k.S;
-    const double sy = k.Y0 + (p.Hrot.Y + 0.5) * k.S;
-    // Light below, so that it is seen on any ground.
-    for (const auto& [barva, sirka] :
-         {std::pair{BILA, LEM_PRSTENU}, std::pair{BARVA_PRSTENU, SIRKA_PRSTENU}}) {
-        const Tah tah(k, barva, sirka);
-        cairo_t* c = tah.Kde();
-        cairo_arc(c, x + w - r, y + r, r, -PRAVY_UHEL, 0);
-        cairo_arc(c, x + w - r, y + h - r, r, 0, PRAVY_UHEL);
-        cairo_arc(c, x + r, y + h - r, r, PRAVY_UHEL, 2 * PRAVY_UHEL);
-        cairo_arc(c, x + r, y + r, r, 2 * PRAVY_UHEL, 3 * PRAVY_UHEL);
-        cairo_close_path(c);
-    }
-    if (!p.Kriz) return;
-    for (const auto& [barva, sirka] : {std::pair{BILA, 3}, std::pair{BARVA_PRSTENU, 1}}) {
-        const Tah tah(k, barva, sirka);
-        for (const Bod smer : {Bod{1, 0}, Bod{-1, 0}, Bod{0, 1}, Bod{0, -1}}) {
-            cairo_move_to(tah.Kde(), sx + smer.X * MEZERA_KRIZE * k.S,
-                          sy + smer.Y * MEZERA_KRIZE * k.S);
-            cairo_line_to(tah.Kde(), sx + smer.X * RAMENO_KRIZE * k.S,
-                          sy + smer.Y * RAMENO_KRIZE * k.S);
-        }
-    }
-}
 
 Obdelnik DosahTvaru(const Ovladac& o) {
     Obdelnik dosah{o.Left, o.Top, o.Width, o.Height};

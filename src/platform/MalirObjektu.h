@@ -39,6 +39,9 @@ void NamalujObjekt(const Kresba& k, const Umisteny& u);
 void NamalujPrsten(const Kresba& k, const Obrazovky::Prsten& p);
 /// The rectangle that they reach, design pixels.
 [[nodiscard]] Obdelnik DosahPrstenu(const Obrazovky::Prsten& p);
+/// Paints what answers the pointer, and the rectangle that it reaches, design pixels.
+void NamalujOhlas(const Kresba& k, const Obrazovky::Ohlas& o);
+[[nodiscard]] Obdelnik DosahOhlasu(const Obrazovky::Ohlas& o);
 /// Paints the ground of a form: its picture over its colour.
 void NamalujForm(const Kresba& k, const Form& form, const Obdelnik& kde);
 

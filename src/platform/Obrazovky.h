@@ -79,6 +79,11 @@ public:
     void MysDolu(double x, double y, int tlacitko, int shift);
     void MysPohyb(double x, double y, int drzena, int shift);
     void MysNahoru(double x, double y, int tlacitko, int shift);
+    // A finger, design pixels, tick count; a second one that is down is the host's to leave out.
+    // See Dotyk.h for what fingers do.
+    void PrstDolu(double x, double y, std::uint32_t cas);
+    void PrstPohyb(double x, double y, std::uint32_t cas);
+    void PrstNahoru(double x, double y, std::uint32_t cas);
     /// The text box that typed text would go to; null if none has the focus or it cannot be seen.
     [[nodiscard]] TextBox* Psane() const;
     /// Tick count of the last typing or caret move: the caret does not blink at once.
@@ -104,6 +109,23 @@ public:
     };
     /// None while it is not shown: it comes with a key and goes with the mouse.
     [[nodiscard]] std::optional<Prsten> PrstenVpredu() const;
+    /// What is painted over the screen in front to answer the pointer. Design pixels.
+    struct Ohlas {
+        enum class Druh {
+            Najeto,     ///< a frame: the pointer is over something that can be pressed
+            Stisknuto,  ///< a frame: it is pressed
+            Zachytne,   ///< a ring around the point that a press would catch
+            Podlozka,   ///< the pad of a drag that a finger has left
+            Konec,      ///< a cross: where that drag ends so far
+        };
+        Druh Co;
+        Obdelnik Kde;
+        friend bool operator==(const Ohlas&, const Ohlas&) = default;
+    };
+    [[nodiscard]] std::vector<Ohlas> OhlasyVpredu() const;
+    /// What the mouse pointer looks like where it is.
+    [[nodiscard]] Kurzor KurzorMysi() const;
+
     /// Whether a press that a key made still holds its object.
     [[nodiscard]] bool DrziKlavesa() const;
     // For forms, in their handlers of keys:
@@ -143,6 +165,17 @@ private:
     void DorucStisk(const Vstup& s);
     void DorucPohyb(const Vstup& s);
     void DorucPusteni(const Vstup& s);
+    void Pust(const std::shared_ptr<Form>& form, Ovladac* o, const Mys& m);
+    // ObrazovkyDotyk.cpp
+    void DorucPrst(const Vstup& s);
+    void PrstSeDotkl(Bod kde, const Vstup& s);
+    void PrstSeHnul(Bod kde, const Vstup& s);
+    void PrstSeZvedl(Bod kde, const Vstup& s);
+    void PrstNaZvednutem(Bod kde, const Vstup& s);
+    void PresunKonec(Bod kam);
+    void NechTah(Bod konec);
+    void DokonciTah();
+    [[nodiscard]] Bod KamKlepl(const Form& form, Bod kde) const;
     void DorucText(const Vstup& s);
     void DorucKlavesu(const Vstup& s);
     void DorucPusteniKlavesy(const Vstup& s);

@@ -3,9 +3,11 @@
 #include <cstdint>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/Dotyk.h"
 #include "platform/Obrazovky.h"
 
 namespace rysovna {
@@ -14,7 +16,19 @@ using Formular = std::shared_ptr<Form>;
 
 /// One piece of input as a host handed it in; design pixels.
 struct Obrazovky::Vstup {
-    enum class Druh { Dolu, Pohyb, Nahoru, Text, Klavesa, KlavesaNahoru, Zavreni, Navrat };
+    enum class Druh {
+        Dolu,
+        Pohyb,
+        Nahoru,
+        PrstDolu,
+        PrstPohyb,
+        PrstNahoru,
+        Text,
+        Klavesa,
+        KlavesaNahoru,
+        Zavreni,
+        Navrat
+    };
     Druh Co;
     double X = 0, Y = 0;
     int Tlacitko = 0;  ///< of a move the sum of those held
@@ -23,6 +37,30 @@ struct Obrazovky::Vstup {
     std::string Text;  ///< typed text, or the name of a key
     /// Kept from a closed wait: presses that were dropped since are none of its.
     bool Odlozeny = false;
+    bool Prst = false;  ///< a press, move or release that a finger made
+};
+
+/// The object that gets the events of a place of the design area; null is the form itself.
+[[nodiscard]] Ovladac* NajdiObjekt(const Form& f, double x, double y);
+/// An event at a place of the design area, as the object gets it.
+[[nodiscard]] Mys Udalost(const Form& f, const Ovladac* o, double x, double y, int tlacitko,
+                          int shift);
+
+/// What the finger that is down does.
+enum class PracePrstu {
+    Zadna,  ///< none is down
+    Klepa,  ///< it presses an object
+    Tahne,  ///< it draws on a plane
+    Znovu,  ///< it moves the end of a drag that is held
+    Mrtva,  ///< nobody's, until it is lifted
+};
+
+/// A drag that a finger has left for a while: it goes on until "hotovo".
+struct ZvednutyTah {
+    std::weak_ptr<Form> Formular_;
+    Ovladac* Objekt = nullptr;
+    Bod Zacatek, Konec;  ///< design px
+    Podlozka Pad;
 };
 
 /// What a press is to those right before it.
@@ -75,6 +113,13 @@ struct Obrazovky::Vnitrek {
     bool ZnaMys = false;
     Bod Posun;  ///< how far arrows have carried the mouse that is held
 
+    PracePrstu Prst = PracePrstu::Zadna;
+    Bod PrstOd;                ///< where it went down, design px
+    Bod PosunPrstu;            ///< from there to what it counted as
+    StopaPrstu Stopa;          ///< of one that draws
+    bool PrstZahozen = false;  ///< its press was dropped
+    std::optional<ZvednutyTah> Zvednuty_;
+
     bool PrstenVidet = false;
     double MysPriPrstenuX = 0, MysPriPrstenuY = 0;  ///< the mouse when the last key came
 
@@ -91,6 +136,8 @@ struct Obrazovky::Vnitrek {
     /// The form of the press, if it still gets events: it stays visible, and no modal form has come
     /// up over it. A small form that its press brought up takes nothing from it.
     [[nodiscard]] Formular Drzici() const;
+    /// The form of the drag that is held, if it goes on: there is one, and nothing came over it.
+    [[nodiscard]] Formular Zvednuty() const;
     /// The form gets the events of a press on it: it is visible and has no modal form over it.
     [[nodiscard]] bool Dostava(const Form& f) const {
         return f.Viditelny() && (Modalni.empty() || Modalni.back().get() == &f);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/Host.h"
 #include "platform/Klavesnice.h"
@@ -39,6 +40,8 @@ Ovladac* Nejvyssi(const Form& form, Ovladac* rodic, double x, double y) {
     return nullptr;
 }
 
+}  // namespace
+
 Mys Udalost(const Form& f, const Ovladac* o, double x, double y, int tlacitko, int shift) {
     const Obdelnik misto = MistoFormu(f);
     const Bod roh = Roh(o);
@@ -46,15 +49,12 @@ Mys Udalost(const Form& f, const Ovladac* o, double x, double y, int tlacitko, i
             static_cast<float>(y - misto.Top - roh.Y)};
 }
 
-/// The object that gets the events of a place of the design area; null is the form itself.
 Ovladac* NajdiObjekt(const Form& f, double x, double y) {
     const Obdelnik misto = MistoFormu(f);
     Ovladac* o = Nejvyssi(f, nullptr, x - misto.Left, y - misto.Top);
     while (o != nullptr && !Dosazitelny(o)) o = o->Rodic;
     return o;
 }
-
-}  // namespace
 
 bool RadaStisku::Navazuje(double x, double y, CasStisku cas) const {
     // Where the times are not known to the millisecond, they are taken to be as near as can be.
@@ -127,6 +127,18 @@ void Obrazovky::MysNahoru(double x, double y, int tlacitko, int shift) {
             .Text = {}});
 }
 
+void Obrazovky::PrstDolu(double x, double y, std::uint32_t cas) {
+    Prijmi({.Co = Vstup::Druh::PrstDolu, .X = x, .Y = y, .Cas = {cas, cas}, .Text = {}});
+}
+
+void Obrazovky::PrstPohyb(double x, double y, std::uint32_t cas) {
+    Prijmi({.Co = Vstup::Druh::PrstPohyb, .X = x, .Y = y, .Cas = {cas, cas}, .Text = {}});
+}
+
+void Obrazovky::PrstNahoru(double x, double y, std::uint32_t cas) {
+    Prijmi({.Co = Vstup::Druh::PrstNahoru, .X = x, .Y = y, .Cas = {cas, cas}, .Text = {}});
+}
+
 void Obrazovky::Text(std::string_view utf8) {
     Prijmi({.Co = Vstup::Druh::Text, .Cas = {}, .Text = std::string(utf8)});
 }
@@ -170,6 +182,17 @@ void Obrazovky::Odloz(const Vstup& vstup) {
             v.Zahozena &= ~vstup.Tlacitko;
             return;
         }
+    } else if (vstup.Co == Vstup::Druh::PrstDolu) {
+        const Formular form = v.Cilovy();
+        if (form == nullptr || !form->StiskVzdy) {
+            v.PrstZahozen = true;
+            v.Rada.Ztraceny(vstup.X, vstup.Y, vstup.Cas);
+            return;
+        }
+    } else if (vstup.Co == Vstup::Druh::PrstPohyb) {
+        if (v.PrstZahozen) return;
+    } else if (vstup.Co == Vstup::Druh::PrstNahoru) {
+        if (std::exchange(v.PrstZahozen, false)) return;
     } else if (vstup.Co == Vstup::Druh::Klavesa) {
         // A press too, unless it edits a text.
         const Formular form = v.Cilovy();
@@ -224,6 +247,10 @@ void Obrazovky::Doruc(const Vstup& vstup) {
             return DorucPohyb(vstup);
         case Vstup::Druh::Nahoru:
             return DorucPusteni(vstup);
+        case Vstup::Druh::PrstDolu:
+        case Vstup::Druh::PrstPohyb:
+        case Vstup::Druh::PrstNahoru:
+            return DorucPrst(vstup);
         case Vstup::Druh::Text:
             return DorucText(vstup);
         case Vstup::Druh::Klavesa:
@@ -238,8 +265,9 @@ void Obrazovky::Doruc(const Vstup& vstup) {
 }
 void Obrazovky::DorucStisk(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
+    if (!s.Prst && v.Zvednuty() != nullptr) return DorucPrst(s);
     v.Zahozena &= ~s.Tlacitko;
-    v.ZnaMys = true;
+    v.ZnaMys = !s.Prst;
     v.MysX = s.X;
     v.MysY = s.Y;
     v.PrstenVidet = false;
@@ -272,7 +300,8 @@ void Obrazovky::DorucStisk(const Vstup& s) {
     v.DrziTlacitka = s.Tlacitko;
     v.Posun = {};
     if (o != nullptr && o->Zastavka != 0) form->prsten_ = o;
-    const Mys m = Udalost(*form, o, s.X, s.Y, s.Tlacitko, s.Shift);
+    Mys m = Udalost(*form, o, s.X, s.Y, s.Tlacitko, s.Shift);
+    m.Prst = s.Prst;
     if (o != nullptr && o->Druh == Ovladac::Typ::TextBox && s.Tlacitko == LEVE) {
         auto& t = static_cast<TextBox&>(*o);
         if (!t.MultiLine) {
@@ -289,11 +318,12 @@ void Obrazovky::DorucStisk(const Vstup& s) {
 
 void Obrazovky::DorucPohyb(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
+    if (!s.Prst && v.Zvednuty() != nullptr) return DorucPrst(s);
     if (!v.ZnaMys) {
         v.MysPriPrstenuX = s.X;
         v.MysPriPrstenuY = s.Y;
     }
-    v.ZnaMys = true;
+    v.ZnaMys = !s.Prst;
     v.MysX = s.X;
     v.MysY = s.Y;
     if (!v.DrziKlavesa.empty()) return;
@@ -306,8 +336,8 @@ void Obrazovky::DorucPohyb(const Vstup& s) {
     if (v.Drzi) {
         const Formular form = v.Drzici();
         if (form == nullptr || !Dosazitelny(v.DrziObjekt)) return;
-        const Mys m =
-            Udalost(*form, v.DrziObjekt, s.X + v.Posun.X, s.Y + v.Posun.Y, drzena, s.Shift);
+        Mys m = Udalost(*form, v.DrziObjekt, s.X + v.Posun.X, s.Y + v.Posun.Y, drzena, s.Shift);
+        m.Prst = s.Prst;
         if (v.DrziObjekt != nullptr && v.DrziObjekt == form->Zamereni() &&
             (v.DrziTlacitka & LEVE) != 0) {
             PsaniTextu(*form->Zamereni()).Stisk(static_cast<double>(m.X), true);
@@ -325,6 +355,7 @@ void Obrazovky::DorucPohyb(const Vstup& s) {
 
 void Obrazovky::DorucPusteni(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
+    if (!s.Prst && v.Zvednuty() != nullptr) return DorucPrst(s);
     if (!s.Odlozeny && (v.Zahozena & s.Tlacitko) != 0) {
         v.Zahozena &= ~s.Tlacitko;
         return;
@@ -335,9 +366,15 @@ void Obrazovky::DorucPusteni(const Vstup& s) {
     const Formular form = v.Drzici();
     Ovladac* o = v.DrziObjekt;
     if (form == nullptr || !Dosazitelny(o)) return;
-    const Mys m = Udalost(*form, o, s.X + v.Posun.X, s.Y + v.Posun.Y, s.Tlacitko, s.Shift);
+    Mys m = Udalost(*form, o, s.X + v.Posun.X, s.Y + v.Posun.Y, s.Tlacitko, s.Shift);
+    m.Prst = s.Prst;
+    Pust(form, o, m);
+}
+
+void Obrazovky::Pust(const Formular& form, Ovladac* o, const Mys& m) {
+    const Vnitrek& v = *vnitrek_;
     form->MouseUp(o, m);
-    if (s.Tlacitko != LEVE || v.Cilovy() != form || !Dosazitelny(o)) return;
+    if (m.Button != LEVE || v.Cilovy() != form || !Dosazitelny(o)) return;
     const Obdelnik misto = o != nullptr ? Obdelnik{0, 0, o->Width, o->Height}
                                         : Obdelnik{0, 0, form->Width, form->Height};
     if (misto.Obsahuje(static_cast<double>(m.X), static_cast<double>(m.Y))) form->Click(o);
@@ -358,7 +395,7 @@ std::uint32_t Obrazovky::PosledniPsani() const {
 void Obrazovky::DorucText(const Vstup& s) {
     const Formular form = vnitrek_->Cilovy();
     TextBox* t = Psane();
-    if (t == nullptr) return;
+    if (t == nullptr || vnitrek_->Zvednuty() != nullptr) return;
     vnitrek_->Psano = Stroj().TickCount();
     if (PsaniTextu(*t).Napis(s.Text)) form->Change(*t);
 }

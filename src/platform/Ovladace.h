@@ -17,7 +17,13 @@ struct Mys {
     int Button = 1;  ///< 1 left, 2 right, 4 middle; of a move, the sum of those held
     int Shift = 0;
     float X = 0, Y = 0;
+    bool Prst = false;     ///< by a finger, which hides what lies under it
+    bool Zvednut = false;  ///< the finger is lifted and the drag goes on
 };
+
+/// Looks of the mouse pointer: an arrow; a hand over what can be pressed; a cross where a press
+/// draws; a bar where text is typed.
+enum class Kurzor { Sipka, Ruka, Kriz, Text };
 
 /// What a key that presses an object does: a whole click; a press that lasts as long as the key is
 /// held; the beginning of a drag, which the next press of the blank ends.
@@ -42,6 +48,8 @@ struct Ovladac {
     bool BereDvojklik = true;  ///< false: the second press of a double click does nothing to it
     int Zastavka = 0;  ///< place in the round of the keys from 1; 0: it is no stop of theirs
     StiskKlavesou Klavesou = StiskKlavesou::Klik;
+    bool DalPrstem = false;     ///< a tap of a finger a little beside it counts as on it
+    bool Ramovat = false;       ///< it answers the pointer by a frame, having no picture for that
     bool JemneSipkami = false;  ///< arrows carry a pointer that is held on it a pixel further
     std::string Tag;
     Pismo Font;

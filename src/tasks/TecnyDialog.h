@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "board/Dialog.h"
+#include "board/Prichytavani.h"
 #include "board/Tahy.h"
 #include "engine/Tabulky.h"
 #include "shell/Zaznamy.h"
@@ -74,6 +75,8 @@ public:
     [[nodiscard]] std::uint32_t CekaniPoTahu() const override { return 100; }
     void PusteniPlochy(float x, float y) override;
     [[nodiscard]] bool CekaNaKresleni() const override;
+    [[nodiscard]] std::optional<Bod> ChytilBy(float x, float y) const override;
+    [[nodiscard]] std::optional<Bod> TrefilBy(float x, float y) const override;
     [[nodiscard]] std::vector<Bod> MistaNacrtu() const override;
     [[nodiscard]] int PrvekNacrtu(float x, float y) const override;
     bool StiskNacrtu(float x, float y) override;
@@ -125,6 +128,8 @@ private:
     [[nodiscard]] Gesto GestoKroku() const;
 
     // TecnyDialogPlocha.cpp: the plane
+    [[nodiscard]] Zachyt Chyt(float x, float y) const;
+    [[nodiscard]] int ZasazenyPar(float x, float y) const;
     void KlikniStred(float x, float y);
     void KlikniPrusecik(float x, float y);
     [[nodiscard]] Bod StredTahu() const;

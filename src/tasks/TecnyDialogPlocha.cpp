@@ -68,16 +68,46 @@ bool TecnyDialog::CekaNaKresleni() const {
 
 // ---- Clicks ----------------------------------------------------------------------------------
 
+Zachyt TecnyDialog::Chyt(float x, float y) const {
+    if (stav_.Tvar == Nastroj::Kruznice) return ZachytNejblizsi(x, y);
+    // A parallel from a point of its own base would be the base again. Every object of this board
+    // has its snap points in the row of the same number.
+    return ZachytPosledni(x, y, false, stav_.Tvar == Nastroj::Rovnobezka ? stav_.Zakladna : 0);
+}
+
+std::optional<Bod> TecnyDialog::ChytilBy(float x, float y) const {
+    if (!CekaNaKresleni()) return std::nullopt;
+    const Zachyt z = Chyt(x, y);
+    return z.Je ? std::optional(z.Misto) : std::nullopt;
+}
+
+std::optional<Bod> TecnyDialog::TrefilBy(float x, float y) const {
+    if (!stav_.CekaNaKresleni || stav_.Skontrolovano || CekaNaKresleni()) return std::nullopt;
+    if (stav_.Tvar == Nastroj::Stred) {
+        const bool zasah =
+            stav_.StredUsecky != BEZ_BODU && VDosahu(x, y, stav_.StredUsecky, DOSAH_STREDU);
+        return zasah ? std::optional(stav_.StredUsecky) : std::nullopt;
+    }
+    const int par = ZasazenyPar(x, y);
+    return par < 0 ? std::nullopt : std::optional(stav_.Pary.Misto[static_cast<std::size_t>(par)]);
+}
+
+/// The free crossing that a click here hits, the first one before the second; -1: none.
+int TecnyDialog::ZasazenyPar(float x, float y) const {
+    const DvaPruseciky& p = stav_.Pary;
+    for (std::size_t i = 0; i < p.Misto.size(); ++i) {
+        const bool volny = p.Misto[i] != BEZ_BODU && !p.Hotovo[i];
+        if (volny && VDosahu(x, y, p.Misto[i], DOSAH_PRUSECIKU)) return static_cast<int>(i);
+    }
+    return -1;
+}
+
 void TecnyDialog::StiskPlochy(float x, float y) {
     if (!stav_.CekaNaKresleni || stav_.Skontrolovano) return;
     if (stav_.Tvar == Nastroj::Prusecik) return KlikniPrusecik(x, y);
     if (stav_.Tvar == Nastroj::Stred) return KlikniStred(x, y);
     stav_.Tazeni = true;
-    // A parallel from a point of its own base would be the base again. Every object of this board
-    // has its snap points in the row of the same number.
-    const int krome = stav_.Tvar == Nastroj::Rovnobezka ? stav_.Zakladna : 0;
-    const Zachyt z = stav_.Tvar == Nastroj::Kruznice ? ZachytNejblizsi(x, y)
-                                                     : ZachytPosledni(x, y, false, krome);
+    const Zachyt z = Chyt(x, y);
     stav_.Zachyceno = z.Je;
     stav_.Start = z.Misto;
     if (!z.Je && stav_.Zakladna != 0) stav_.Start = BodNaZakladne(Utvary[stav_.Zakladna], x, y);
@@ -101,14 +131,12 @@ void TecnyDialog::KlikniPrusecik(float x, float y) {
     if (ObeHotove()) return PridejChybu(CHYBA_OBA_HOTOVE, TRI_BODY, 3);
     const DvaPruseciky& p = stav_.Pary;
     int volny = -1;
-    int zasazeny = -1;
     for (int i = 1; i >= 0; --i) {
         const auto j = static_cast<std::size_t>(i);
-        if (p.Misto[j] == BEZ_BODU || p.Hotovo[j]) continue;
-        volny = i;
-        if (VDosahu(x, y, p.Misto[j], DOSAH_PRUSECIKU)) zasazeny = i;
+        if (p.Misto[j] != BEZ_BODU && !p.Hotovo[j]) volny = i;
     }
     if (volny < 0) return;
+    const int zasazeny = ZasazenyPar(x, y);
     const bool zasah = zasazeny >= 0;
     if (!zasah) Uctuj(krok->ChybaRysovani);
     const auto par = static_cast<std::size_t>(zasah ? zasazeny : volny);

@@ -81,8 +81,8 @@ std::string CoJeVidet(const DeskaForm& d) {
     const Videne& v = d.VidenoTed();
     const Panel& p = v.Krok;
     std::ostringstream s;
-    s << int{CisloUlohy} << '|' << PocetUtvaru << '|' << v.NacrtVysunuty << v.Tahne << '|'
-      << v.Odecet << '|' << v.MrtvyNastroj << '|' << (p.Kresleni.Druh != Gesto::Tvar::Zadny)
+    s << int{CisloUlohy} << '|' << PocetUtvaru << '|' << v.NacrtVysunuty << v.Tahne << v.Podlozka
+      << '|' << v.Odecet << '|' << v.MrtvyNastroj << '|' << (p.Kresleni.Druh != Gesto::Tvar::Zadny)
       << p.PicZiva << p.Nesestrojen << '|';
     for (const Tlacitko& t : p.cmd) s << t.Tvar << (t.Barevne ? 'b' : 's') << t.Zive << ' ';
     s << '|' << p.lblText1 << '|' << p.lblText2 << '|' << p.lblText3 << '|' << p.lblText4.Text;

@@ -32,7 +32,7 @@ fs::path NovaSlozka() {
 }  // namespace
 
 Relace::Relace(std::uint32_t seminko, Cim cim)
-    : cim_(cim), naDobu_(host_), koren_(NovaSlozka()), data_(koren_ / "data") {
+    : cim_(cim), los_(seminko), naDobu_(host_), koren_(NovaSlozka()), data_(koren_ / "data") {
     fs::copy(STAGING / "data", data_, fs::copy_options::recursive);
     // The staged copy may have been played with: a run begins with no results.
     for (const auto& soubor : fs::directory_iterator(data_)) {
@@ -145,6 +145,7 @@ void Relace::Stisk(double x, double y, bool dolu) {
 }
 
 void Relace::StiskniMisto(double x, double y) {
+    if (cim_ == Cim::Prstem) return Klepni({Zaokrouhli(x), Zaokrouhli(y)});
     Pohyb(x, y, 0);
     Stisk(x, y, true);
     Stisk(x, y, false);
@@ -168,6 +169,7 @@ void Relace::Zmackni(std::string_view jmeno, int index, Bod misto) {
 void Relace::Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index) {
     constexpr int KROKU = 4;
     if (cim_ == Cim::Klavesami) return TahniKlavesami(jmeno, odkud, kam);
+    if (cim_ == Cim::Prstem && jmeno == "Pic") return TahniPrstem(odkud, kam);
     const Bod roh = Roh(Prvek(jmeno, index));
     Zmackni(jmeno, index, odkud);
     for (int i = 1; i <= KROKU; ++i) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/Bod.h"
+#include "hrac/Los.h"
 #include "platform/Form.h"
 #include "platform/Obrazovky.h"
 #include "platform/headless/HeadlessHost.h"
@@ -27,8 +28,9 @@ struct NejdeUdelat : std::runtime_error {
 class Relace {
 public:
     /// What the player plays with: by keys, whatever it presses or drags is reached by the ring,
-    /// and what has no place in that round cannot be done.
-    enum class Cim { Mysi, Klavesami };
+    /// and what has no place in that round cannot be done; by a finger, nothing is met exactly, and
+    /// a drag is ended by the pad.
+    enum class Cim { Mysi, Klavesami, Prstem };
 
     /// The data root is a copy of the staged one, with no results in it. seminko: of the generator
     /// of examples.
@@ -118,10 +120,17 @@ private:
     void KrizNa(Bod kam);
     void SipkyNa(Bod kam);
     [[nodiscard]] Obrazovky::Prsten Ring();
+    // RelacePrstem.cpp
+    void Klepni(Bod kam);
+    void TahniPrstem(Bod odkud, Bod kam);
+    void DotahniPodlozkou(Bod kam);
+    void Prst(std::string_view co, Bod kde);
 
     HeadlessHost host_;
     Cim cim_;
-    int stisku_ = 0;  ///< presses by keys so far: they take turns at the ways there are
+    Los los_;          ///< how a finger errs
+    Bod posunFigury_;  ///< px: what its first press on the plane erred by
+    int stisku_ = 0;   ///< presses by keys so far: they take turns at the ways there are
     HostNaDobu naDobu_;
     std::filesystem::path koren_, data_;
     std::size_t slysenych_ = 0;

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Cisla.h"
@@ -80,10 +81,16 @@ void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy, Re
 
 int main(int pocet, char** slova) {
     std::vector<std::string> argumenty(slova + 1, slova + pocet);
-    const bool klavesami = !argumenty.empty() && argumenty[0] == "--klavesami";
-    if (klavesami) argumenty.erase(argumenty.begin());
+    using Cim = Relace::Cim;
+    Cim cim = Cim::Mysi;
+    for (const auto& [volba, jak] :
+         {std::pair{"--klavesami", Cim::Klavesami}, std::pair{"--prstem", Cim::Prstem}}) {
+        if (argumenty.empty() || argumenty[0] != volba) continue;
+        cim = jak;
+        argumenty.erase(argumenty.begin());
+    }
     if (argumenty.empty()) {
-        std::cerr << "Použití: ukazka [--klavesami] SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
+        std::cerr << "Použití: ukazka [--klavesami | --prstem] SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
                      "Bez čísel se hraje první úloha.\n";
         return 2;
     }
@@ -94,7 +101,7 @@ int main(int pocet, char** slova) {
         }
         if (ulohy.empty()) ulohy.push_back(1);
         std::filesystem::create_directories(argumenty[0]);
-        Odehraj(argumenty[0], ulohy, klavesami ? Relace::Cim::Klavesami : Relace::Cim::Mysi);
+        Odehraj(argumenty[0], ulohy, cim);
         return 0;
     } catch (const std::exception& chyba) {
         std::cerr << "Ukázka selhala: " << chyba.what() << "\n";

@@ -171,6 +171,12 @@ bool Okno::NaNavrh(int x, int y, double& nx, double& ny) const {
     return nx >= 0 && ny >= 0 && nx < NAVRH_SIRKA && ny < NAVRH_VYSKA;
 }
 
+bool Okno::NaNavrhDotyk(double x, double y, double& nx, double& ny) const {
+    nx = std::floor(umisteni_.NavrhX(x * sirkaPlochy_));
+    ny = std::floor(umisteni_.NavrhY(y * vyskaPlochy_));
+    return okno_ != nullptr && nx >= 0 && ny >= 0 && nx < NAVRH_SIRKA && ny < NAVRH_VYSKA;
+}
+
 Obdelnik Okno::NaOkno(const Obdelnik& o) const {
     Obdelnik r = o;
     r.Left = umisteni_.X + static_cast<int>(std::lround(o.Left * umisteni_.S));

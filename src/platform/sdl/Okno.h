@@ -41,6 +41,8 @@ public:
 
     /// The design pixel, whole numbers, at a place of the window; false beside the design area.
     bool NaNavrh(int x, int y, double& nx, double& ny) const;
+    /// The same for a place in fractions of the window's size, as fingers are told.
+    bool NaNavrhDotyk(double x, double y, double& nx, double& ny) const;
     /// A design rectangle in units of the window, for the place of an input method.
     [[nodiscard]] Obdelnik NaOkno(const Obdelnik& o) const;
 

@@ -2,11 +2,13 @@
 
 #include <SDL.h>
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <clocale>
 #include <cstdlib>
 #include <ctime>
 #include <iostream>
+#include <memory>
 #include <optional>
 #if !defined(_WIN32) && !defined(__APPLE__)
 #include <langinfo.h>
@@ -57,6 +59,14 @@ std::string ZnakKlavesy(const SDL_Keysym& k) {
     if (k.sym >= SDLK_a && k.sym <= SDLK_z) return {static_cast<char>(k.sym)};
     return {};
 }
+
+/// The system's pointers, by Kurzor.
+constexpr SDL_SystemCursor KURZORY[] = {SDL_SYSTEM_CURSOR_ARROW, SDL_SYSTEM_CURSOR_HAND,
+                                        SDL_SYSTEM_CURSOR_CROSSHAIR, SDL_SYSTEM_CURSOR_IBEAM};
+
+struct UvolniKurzor {
+    void operator()(SDL_Cursor* k) const { SDL_FreeCursor(k); }
+};
 
 /// Key and modifiers of an editing command, as the letter with ctrl that means the same.
 constexpr struct {
@@ -135,6 +145,9 @@ void NastavSdl() {
     SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
     SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+    // A finger is a finger: it makes no mouse events besides, nor the mouse a finger's.
+    SDL_SetHint(SDL_HINT_TOUCH_MOUSE_EVENTS, "0");
+    SDL_SetHint(SDL_HINT_MOUSE_TOUCH_EVENTS, "0");
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_APP_NAME, "Rysovna 1");
 #ifdef SDL_HINT_IME_SHOW_UI
@@ -192,6 +205,9 @@ struct SdlHost::Vnitrek {
     Zvuk Zvuk_;
     /// Where text is typed, design pixels; BEZ_BODU where none is. Nothing before the first look.
     std::optional<Bod> Pise;
+    std::array<std::unique_ptr<SDL_Cursor, UvolniKurzor>, std::size(KURZORY)> Kurzory;
+    Kurzor Ukazany = Kurzor::Sipka;
+    std::optional<SDL_FingerID> Prst;  ///< the one that plays
     bool MelZamereni = false;
     /// Up to when all that came has been seen, tick count.
     std::uint32_t Videno = 0;
@@ -206,7 +222,9 @@ struct SdlHost::Vnitrek {
     void Stisk(const SDL_MouseButtonEvent& b);
     void Pohyb(const SDL_MouseMotionEvent& m);
     void Okenni(const SDL_WindowEvent& w);
+    void Dotyk(const SDL_TouchFingerEvent& d);
     void SrovnejPsani();
+    void SrovnejKurzor();
 };
 
 SdlHost::SdlHost(std::optional<std::uint32_t> seminko) : seminko_(seminko) {
@@ -251,6 +269,7 @@ void SdlHost::DoEvents(std::uint32_t nejvyseMs) {
     const bool neco = vnitrek_->Zpracuj();
     Okna().Casovace(TickCount());
     vnitrek_->SrovnejPsani();
+    vnitrek_->SrovnejKurzor();
     Prekresli();
     // Who waits for a press must hear of one that was pending; nothing else may come after it.
     if (neco || nejvyseMs == 0 || Okna().JeKonec()) return;
@@ -438,6 +457,11 @@ void SdlHost::Vnitrek::Zpracuj(const SDL_Event& e) {
         case SDL_MOUSEMOTION:
             Pohyb(e.motion);
             break;
+        case SDL_FINGERDOWN:
+        case SDL_FINGERMOTION:
+        case SDL_FINGERUP:
+            Dotyk(e.tfinger);
+            break;
         case SDL_WINDOWEVENT:
             Okenni(e.window);
             break;
@@ -504,6 +528,36 @@ void SdlHost::Vnitrek::Pohyb(const SDL_MouseMotionEvent& m) {
     double y = 0;
     Okno_.NaNavrh(m.x, m.y, x, y);
     Host_.Okna().MysPohyb(x, y, Drzena(m.state), Modifikatory(SDL_GetModState()) & (SHIFT | CTRL));
+}
+
+void SdlHost::Vnitrek::Dotyk(const SDL_TouchFingerEvent& d) {
+    if (d.type == SDL_FINGERDOWN && !Prst) Prst = d.fingerId;
+    if (Prst != d.fingerId) return;
+    double x = 0;
+    double y = 0;
+    const bool uvnitr =
+        Okno_.NaNavrhDotyk(static_cast<double>(d.x), static_cast<double>(d.y), x, y);
+    if (d.type == SDL_FINGERDOWN) {
+        // Black beside the picture is nobody's.
+        if (uvnitr) return Host_.Okna().PrstDolu(x, y, d.timestamp);
+        Prst.reset();
+        Host_.Okna().Navrat();
+    } else if (d.type == SDL_FINGERMOTION) {
+        Host_.Okna().PrstPohyb(x, y, d.timestamp);
+    } else {
+        Prst.reset();
+        Host_.Okna().PrstNahoru(x, y, d.timestamp);
+    }
+}
+
+/// The pointer looks like what it is over. What the system has no picture of leaves it as it is.
+void SdlHost::Vnitrek::SrovnejKurzor() {
+    const Kurzor chce = Host_.Okna().KurzorMysi();
+    if (chce == Ukazany) return;
+    Ukazany = chce;
+    const auto i = static_cast<std::size_t>(chce);
+    if (Kurzory[i] == nullptr) Kurzory[i].reset(SDL_CreateSystemCursor(KURZORY[i]));
+    if (Kurzory[i] != nullptr) SDL_SetCursor(Kurzory[i].get());
 }
 
 void SdlHost::Vnitrek::Okenni(const SDL_WindowEvent& w) {

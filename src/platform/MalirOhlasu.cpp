@@ -1,0 +1,168 @@
+// What is painted over the screens and lies in no bitmap: the ring of the keys, and what answers
+// the pointer.
+
+#include <algorithm>
+#include <cairo.h>
+#include <string_view>
+#include <utility>
+
+#include "platform/Dotyk.h"
+#include "platform/MalirObjektu.h"
+#include "platform/Pisma.h"
+#include "platform/TahNad.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr int ODSTUP_PRSTENU = 2;                  // px, of its middle from what it goes round
+constexpr int SIRKA_PRSTENU = 2, LEM_PRSTENU = 4;  // px, of its line and of the light one below
+constexpr int ROH_PRSTENU = 3;                     // px
+constexpr int RAMENO_KRIZE = 9, MEZERA_KRIZE = 2;  // px from the middle
+constexpr Barva BARVA_PRSTENU = Rgb(196, 72, 0);
+constexpr double PI = 3.14159265358979323846;
+
+constexpr Barva BARVA_OHLASU = Rgb(36, 60, 120);
+constexpr int POLOMER_ZACHYTNEHO = 6;  // px
+constexpr int LEM_ZACHYTNEHO = 3;      // px, of the light ring below
+constexpr int PLNOST_STISKU = 2;       // px, of the frame of what is pressed
+constexpr int ROH_PODLOZKY = 6;        // px
+constexpr int VYSKA_SIPKY = 8;         // px, of an arrow from its base to its tip
+constexpr std::string_view HOTOVO = "hotovo";
+
+/// What the ring goes round, kept on the design area.
+Obdelnik RamPrstenu(const Obdelnik& o) {
+    const int kraj = LEM_PRSTENU / 2;
+    const int x1 = std::max(o.Left - ODSTUP_PRSTENU, kraj);
+    const int y1 = std::max(o.Top - ODSTUP_PRSTENU, kraj);
+    const int x2 = std::min(o.Left + o.Width + ODSTUP_PRSTENU, NAVRH_SIRKA - kraj);
+    const int y2 = std::min(o.Top + o.Height + ODSTUP_PRSTENU, NAVRH_VYSKA - kraj);
+    return {x1, y1, x2 - x1, y2 - y1};
+}
+
+/// A frame just inside a rectangle of the design.
+void Ramecek(const Kresba& k, const Obdelnik& kde, int sirka) {
+    const Tah tah(k, BARVA_OHLASU, sirka);
+    const double pul = sirka / 2.0;
+    cairo_rectangle(tah.Kde(), k.X0 + (kde.Left + pul) * k.S, k.Y0 + (kde.Top + pul) * k.S,
+                    (kde.Width - sirka) * k.S, (kde.Height - sirka) * k.S);
+}
+
+void Zachytne(const Kresba& k, Bod bod) {
+    for (const auto& [barva, sirka] :
+         {std::pair{BILA, LEM_ZACHYTNEHO}, std::pair{BARVA_OHLASU, 1}}) {
+        const Tah tah(k, barva, sirka);
+        cairo_arc(tah.Kde(), k.X0 + (bod.X + 0.5) * k.S, k.Y0 + (bod.Y + 0.5) * k.S,
+                  POLOMER_ZACHYTNEHO * k.S, 0, 2 * PI);
+    }
+}
+
+void NamalujKriz(const Kresba& k, Bod hrot) {
+    const double sx = k.X0 + (hrot.X + 0.5) * k.S;
+    const double sy = k.Y0 + (hrot.Y + 0.5) * k.S;
+    for (const auto& [barva, sirka] : {std::pair{BILA, 3}, std::pair{BARVA_PRSTENU, 1}}) {
+        const Tah tah(k, barva, sirka);
+        for (const Bod smer : {Bod{1, 0}, Bod{-1, 0}, Bod{0, 1}, Bod{0, -1}}) {
+            cairo_move_to(tah.Kde(), sx + smer.X * MEZERA_KRIZE * k.S,
+                          sy + smer.Y * MEZERA_KRIZE * k.S);
+            cairo_line_to(tah.Kde(), sx + smer.X * RAMENO_KRIZE * k.S,
+                          sy + smer.Y * RAMENO_KRIZE * k.S);
+        }
+    }
+}
+
+void NamalujPodlozku(const Kresba& k, Bod roh) {
+    constexpr int POLE = Podlozka::POLE;
+    const auto x = [&](double n) { return k.X0 + (roh.X + n) * k.S; };
+    const auto y = [&](double n) { return k.Y0 + (roh.Y + n) * k.S; };
+    for (const Bod pole : {Bod{0, 0}, Bod{1, 0}, Bod{-1, 0}, Bod{0, 1}, Bod{0, -1}}) {
+        const double px = (pole.X + 1) * POLE;
+        const double py = (pole.Y + 1) * POLE;
+        const Tah tah(k, BARVA_OHLASU, 1);
+        cairo_t* c = tah.Kde();
+        const double r = ROH_PODLOZKY * k.S;
+        const double x1 = x(px + 1), y1 = y(py + 1), x2 = x(px + POLE - 1), y2 = y(py + POLE - 1);
+        cairo_arc(c, x2 - r, y1 + r, r, -PI / 2, 0);
+        cairo_arc(c, x2 - r, y2 - r, r, 0, PI / 2);
+        cairo_arc(c, x1 + r, y2 - r, r, PI / 2, PI);
+        cairo_arc(c, x1 + r, y1 + r, r, PI, 3 * PI / 2);
+        cairo_close_path(c);
+        tah.Vyplnit(BILA);
+        if (pole == Bod{}) continue;
+        // A triangle whose tip points that way.
+        const Tah sipka(k, BARVA_OHLASU, 1);
+        cairo_t* s = sipka.Kde();
+        const double sx = px + POLE / 2.0, sy = py + POLE / 2.0;
+        cairo_move_to(s, x(sx + pole.X * VYSKA_SIPKY), y(sy + pole.Y * VYSKA_SIPKY));
+        for (const int strana : {1, -1}) {
+            cairo_line_to(s, x(sx - pole.X * VYSKA_SIPKY / 2.0 + strana * pole.Y * VYSKA_SIPKY),
+                          y(sy - pole.Y * VYSKA_SIPKY / 2.0 + strana * pole.X * VYSKA_SIPKY));
+        }
+        cairo_close_path(s);
+        sipka.Vyplnit(BARVA_OHLASU);
+    }
+    Pismo pismo;
+    pismo.Velikost = 8;
+    pismo.Tucne = true;
+    const double volno = Podlozka::STRANA - PresnaSirka(pismo, HOTOVO);
+    KresliText(k.Cil, k.Orez, x(volno / 2), y((Podlozka::STRANA - VyskaRadku(pismo)) / 2.0), k.S,
+               pismo, HOTOVO, DoPixelu(BARVA_OHLASU), Hladkost::Seda);
+}
+
+}  // namespace
+
+Obdelnik DosahOhlasu(const Obrazovky::Ohlas& o) {
+    using Druh = Obrazovky::Ohlas::Druh;
+    if (o.Co != Druh::Zachytne && o.Co != Druh::Konec) return o.Kde;
+    constexpr int OKRAJ = std::max(POLOMER_ZACHYTNEHO, RAMENO_KRIZE) + LEM_PRSTENU;
+    return {o.Kde.Left - OKRAJ, o.Kde.Top - OKRAJ, o.Kde.Width + 2 * OKRAJ,
+            o.Kde.Height + 2 * OKRAJ};
+}
+
+void NamalujOhlas(const Kresba& k, const Obrazovky::Ohlas& o) {
+    switch (o.Co) {
+        case Obrazovky::Ohlas::Druh::Najeto:
+            return Ramecek(k, o.Kde, 1);
+        case Obrazovky::Ohlas::Druh::Stisknuto:
+            return Ramecek(k, o.Kde, PLNOST_STISKU);
+        case Obrazovky::Ohlas::Druh::Zachytne:
+            return Zachytne(k, {o.Kde.Left, o.Kde.Top});
+        case Obrazovky::Ohlas::Druh::Konec:
+            return NamalujKriz(k, {o.Kde.Left, o.Kde.Top});
+        case Obrazovky::Ohlas::Druh::Podlozka:
+            return NamalujPodlozku(k, {o.Kde.Left, o.Kde.Top});
+    }
+}
+
+Obdelnik DosahPrstenu(const Obrazovky::Prsten& p) {
+    const auto okoli = [](const Obdelnik& o, int okraj) {
+        return Obdelnik{o.Left - okraj, o.Top - okraj, o.Width + 2 * okraj, o.Height + 2 * okraj};
+    };
+    const Obdelnik ram = okoli(RamPrstenu(p.Ram), LEM_PRSTENU);
+    if (!p.Kriz) return ram;
+    return Obal(ram, okoli({p.Hrot.X, p.Hrot.Y, 1, 1}, RAMENO_KRIZE + LEM_PRSTENU));
+}
+
+void NamalujPrsten(const Kresba& k, const Obrazovky::Prsten& p) {
+    constexpr double PRAVY_UHEL = PI / 2;
+    const Obdelnik ram = RamPrstenu(p.Ram);
+    const double x = k.X0 + ram.Left * k.S;
+    const double y = k.Y0 + ram.Top * k.S;
+    const double w = ram.Width * k.S;
+    const double h = ram.Height * k.S;
+    const double r = ROH_PRSTENU * k.S;
+    // Light below, so that it is seen on any ground.
+    for (const auto& [barva, sirka] :
+         {std::pair{BILA, LEM_PRSTENU}, std::pair{BARVA_PRSTENU, SIRKA_PRSTENU}}) {
+        const Tah tah(k, barva, sirka);
+        cairo_t* c = tah.Kde();
+        cairo_arc(c, x + w - r, y + r, r, -PRAVY_UHEL, 0);
+        cairo_arc(c, x + w - r, y + h - r, r, 0, PRAVY_UHEL);
+        cairo_arc(c, x + r, y + h - r, r, PRAVY_UHEL, 2 * PRAVY_UHEL);
+        cairo_arc(c, x + r, y + r, r, 2 * PRAVY_UHEL, 3 * PRAVY_UHEL);
+        cairo_close_path(c);
+    }
+    if (p.Kriz) NamalujKriz(k, p.Hrot);
+}
+
+}  // namespace rysovna

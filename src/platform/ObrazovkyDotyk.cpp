@@ -1,0 +1,226 @@
+// Fingers: what they hit, and the drag that goes on when they are lifted.
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+#include "platform/Klavesnice.h"
+#include "platform/ObrazovkyVnitrek.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr int LEVE = 1;
+
+bool Blizko(Bod a, Bod b) {
+    return std::abs(a.X - b.X) <= DOSAH_PRSTU && std::abs(a.Y - b.Y) <= DOSAH_PRSTU;
+}
+
+Obdelnik NaNavrhu(const Form& form, const Ovladac& o) {
+    const Obdelnik misto = MistoFormu(form);
+    const Bod roh = Roh(&o);
+    return {misto.Left + roh.X, misto.Top + roh.Y, o.Width, o.Height};
+}
+
+}  // namespace
+
+Formular Obrazovky::Vnitrek::Zvednuty() const {
+    if (!Zvednuty_ || !Dosazitelny(Zvednuty_->Objekt)) return nullptr;
+    Formular f = Zvednuty_->Formular_.lock();
+    return f != nullptr && f == Cilovy() ? f : nullptr;
+}
+
+/// The mouse comes here too while a drag is held: it plays the finger then.
+void Obrazovky::DorucPrst(const Vstup& s) {
+    Vnitrek& v = *vnitrek_;
+    const Bod kde{static_cast<int>(std::floor(s.X)), static_cast<int>(std::floor(s.Y))};
+    switch (s.Co) {
+        case Vstup::Druh::PrstDolu:
+            v.PrstZahozen = false;
+            return PrstSeDotkl(kde, s);
+        case Vstup::Druh::Dolu:
+            if (s.Tlacitko == LEVE) PrstSeDotkl(kde, s);
+            return;
+        case Vstup::Druh::PrstNahoru:
+            if (!s.Odlozeny && std::exchange(v.PrstZahozen, false)) return;
+            return PrstSeZvedl(kde, s);
+        case Vstup::Druh::Nahoru:
+            if (s.Tlacitko == LEVE) PrstSeZvedl(kde, s);
+            return;
+        default:
+            if (s.Odlozeny || !v.PrstZahozen) PrstSeHnul(kde, s);
+            return;
+    }
+}
+
+/// What a tap there counts as: the place itself, or one of something small beside it. Nothing
+/// outside is looked for from within something that takes presses itself, as an armed plane.
+Bod Obrazovky::KamKlepl(const Form& form, Bod kde) const {
+    const Ovladac* pod = NajdiObjekt(form, kde.X, kde.Y);
+    const bool uvnitr = pod != nullptr && JeZivaZastavka(*pod);
+    const auto coTamJe = [&](Bod b) -> CilPrstu {
+        const Ovladac* o = NajdiObjekt(form, b.X, b.Y);
+        if (o == nullptr || !JeZivaZastavka(*o) || (uvnitr && o != pod)) return {};
+        const Obdelnik misto = NaNavrhu(form, *o);
+        const int cast = form.CastProPrst(*o, static_cast<float>(b.X - misto.Left),
+                                          static_cast<float>(b.Y - misto.Top));
+        if (cast < 0 || (b != kde && cast == 0 && !o->DalPrstem)) return {};
+        return {o, cast};
+    };
+    return NajdiCil(kde, coTamJe).value_or(kde);
+}
+
+void Obrazovky::PrstSeDotkl(Bod kde, const Vstup& s) {
+    Vnitrek& v = *vnitrek_;
+    v.ZnaMys = false;
+    v.PrstOd = kde;
+    if (v.Zvednuty() != nullptr) return PrstNaZvednutem(kde, s);
+    v.Prst = PracePrstu::Mrtva;
+    const Formular form = v.Cilovy();
+    if (form == nullptr || (v.Drzi && v.DrziKlavesa.empty())) return;
+    // A message box may stand over the screen of a drag; any other screen has ended it.
+    if (!JeModalni()) v.Zvednuty_.reset();
+    const Bod kam = KamKlepl(*form, kde);
+    v.PosunPrstu = {kam.X - kde.X, kam.Y - kde.Y};
+    const Ovladac* o = NajdiObjekt(*form, kam.X, kam.Y);
+    const bool kresli = o != nullptr && JeZivaZastavka(*o) && o->Klavesou == StiskKlavesou::Tah;
+    v.Prst = kresli ? PracePrstu::Tahne : PracePrstu::Klepa;
+    v.Stopa.Zacni(kde, s.Cas.Nejpozdeji);
+    DorucStisk({.Co = Vstup::Druh::Dolu,
+                .X = static_cast<double>(kam.X),
+                .Y = static_cast<double>(kam.Y),
+                .Tlacitko = LEVE,
+                .Cas = s.Cas,
+                .Text = {},
+                .Prst = true});
+}
+
+void Obrazovky::PrstSeHnul(Bod kde, const Vstup& s) {
+    Vnitrek& v = *vnitrek_;
+    if (v.Prst != PracePrstu::Tahne && v.Prst != PracePrstu::Znovu) return;
+    v.Stopa.Pridej(kde, s.Cas.Nejpozdeji);
+    if (v.Prst == PracePrstu::Znovu) return PresunKonec(kde);
+    DorucPohyb({.Co = Vstup::Druh::Pohyb,
+                .X = static_cast<double>(kde.X),
+                .Y = static_cast<double>(kde.Y),
+                .Tlacitko = LEVE,
+                .Cas = s.Cas,
+                .Text = {},
+                .Odlozeny = true,
+                .Prst = true});
+}
+
+void Obrazovky::PrstSeZvedl(Bod kde, const Vstup& s) {
+    Vnitrek& v = *vnitrek_;
+    const PracePrstu prace = std::exchange(v.Prst, PracePrstu::Zadna);
+    if (prace == PracePrstu::Zadna || prace == PracePrstu::Mrtva) return;
+    if (prace == PracePrstu::Znovu) {
+        if (v.Zvednuty() != nullptr) NechTah(v.Stopa.Konec(s.Cas.Nejpozdeji));
+        return;
+    }
+    const Formular form = v.Drzi ? v.Drzici() : nullptr;
+    if (prace == PracePrstu::Tahne && form != nullptr && Dosazitelny(v.DrziObjekt)) {
+        v.PustDrzeni();
+        v.Zvednuty_ = {form, v.DrziObjekt, v.PrstOd, {}, {}};
+        return NechTah(v.Stopa.Konec(s.Cas.Nejpozdeji));
+    }
+    // Slid away, it takes nothing; the shake of a tap counts as none.
+    const Bod pustil = Blizko(kde, v.PrstOd) ? v.PrstOd : kde;
+    DorucPusteni({.Co = Vstup::Druh::Nahoru,
+                  .X = static_cast<double>(pustil.X + v.PosunPrstu.X),
+                  .Y = static_cast<double>(pustil.Y + v.PosunPrstu.Y),
+                  .Tlacitko = LEVE,
+                  .Cas = s.Cas,
+                  .Text = {},
+                  .Odlozeny = s.Odlozeny,
+                  .Prst = true});
+}
+
+// ---- The drag that is held -------------------------------------------------------------------
+
+/// The finger is lifted: the pad comes up.
+void Obrazovky::NechTah(Bod konec) {
+    Vnitrek& v = *vnitrek_;
+    const Formular form = v.Zvednuty();
+    if (form == nullptr) return;
+    ZvednutyTah& tah = *v.Zvednuty_;
+    tah.Pad = Podlozka::VRohu(NaNavrhu(*form, *tah.Objekt), tah.Zacatek, konec);
+    PresunKonec(konec);
+}
+
+void Obrazovky::PresunKonec(Bod kam) {
+    Vnitrek& v = *vnitrek_;
+    const Formular form = v.Zvednuty();
+    if (form == nullptr) return;
+    ZvednutyTah& tah = *v.Zvednuty_;
+    tah.Konec = {std::clamp(kam.X, 0, NAVRH_SIRKA - 1), std::clamp(kam.Y, 0, NAVRH_VYSKA - 1)};
+    Mys m = Udalost(*form, tah.Objekt, tah.Konec.X, tah.Konec.Y, LEVE, 0);
+    m.Prst = v.Prst == PracePrstu::Znovu;
+    m.Zvednut = !m.Prst;
+    form->MouseMove(tah.Objekt, m);
+}
+
+void Obrazovky::PrstNaZvednutem(Bod kde, const Vstup& s) {
+    Vnitrek& v = *vnitrek_;
+    const ZvednutyTah& tah = *v.Zvednuty_;
+    v.Prst = PracePrstu::Mrtva;
+    if (tah.Pad.Obsahuje(kde)) {
+        const std::optional<Bod> smer = tah.Pad.Pole(kde);
+        if (!smer) return;
+        if (*smer == Bod{}) return DokonciTah();
+        PresunKonec({tah.Konec.X + smer->X, tah.Konec.Y + smer->Y});
+    } else if (NajdiObjekt(*v.Zvednuty(), kde.X, kde.Y) == tah.Objekt) {
+        v.Prst = PracePrstu::Znovu;
+        v.Stopa.Zacni(kde, s.Cas.Nejpozdeji);
+        PresunKonec(kde);
+    }
+}
+
+void Obrazovky::DokonciTah() {
+    Vnitrek& v = *vnitrek_;
+    const Formular form = v.Zvednuty();
+    const ZvednutyTah tah = *v.Zvednuty_;
+    v.Zvednuty_.reset();
+    Pust(form, tah.Objekt, Udalost(*form, tah.Objekt, tah.Konec.X, tah.Konec.Y, LEVE, 0));
+}
+
+// ---- What answers the pointer ----------------------------------------------------------------
+
+std::vector<Obrazovky::Ohlas> Obrazovky::OhlasyVpredu() const {
+    const Vnitrek& v = *vnitrek_;
+    std::vector<Ohlas> ohlasy;
+    const Formular form = v.Cilovy();
+    if (form == nullptr) return ohlasy;
+    if (v.Zvednuty() != nullptr) {
+        const auto& [roh] = v.Zvednuty_->Pad;
+        const Bod konec = v.Zvednuty_->Konec;
+        ohlasy.push_back({Ohlas::Druh::Konec, {konec.X, konec.Y, 1, 1}});
+        ohlasy.push_back(
+            {Ohlas::Druh::Podlozka, {roh.X, roh.Y, Podlozka::STRANA, Podlozka::STRANA}});
+        return ohlasy;
+    }
+    if (const std::optional<Bod> bod = form->Zachytne())
+        ohlasy.push_back({Ohlas::Druh::Zachytne, {bod->X, bod->Y, 1, 1}});
+    const bool drzi = v.Drzi && v.DrziKlavesa.empty();
+    if (JeZavreno() || (!drzi && (!v.ZnaMys || v.PrstenVidet))) return ohlasy;
+    const Ovladac* o = NajdiObjekt(*form, v.MysX, v.MysY);
+    if (o == nullptr || !o->Ramovat || !JeZivaZastavka(*o) || (drzi && v.DrziObjekt != o))
+        return ohlasy;
+    ohlasy.push_back({drzi ? Ohlas::Druh::Stisknuto : Ohlas::Druh::Najeto, NaNavrhu(*form, *o)});
+    return ohlasy;
+}
+
+Kurzor Obrazovky::KurzorMysi() const {
+    const Vnitrek& v = *vnitrek_;
+    const Formular form = v.Cilovy();
+    if (form == nullptr || !v.ZnaMys || JeZavreno() || v.Zvednuty() != nullptr)
+        return Kurzor::Sipka;
+    const bool drzi = v.Drzi && v.DrziKlavesa.empty() && v.Drzici() == form;
+    const Ovladac* o = drzi ? v.DrziObjekt : NajdiObjekt(*form, v.MysX, v.MysY);
+    const Mys m = Udalost(*form, o, v.MysX, v.MysY, 0, 0);
+    return form->KurzorNad(o, m.X, m.Y);
+}
+
+}  // namespace rysovna
