@@ -274,6 +274,10 @@ void Bezstarostny::Klavesami() {
 
 /// The pointer goes somewhere, mostly to a live control, and mostly presses there.
 void Bezstarostny::Mys() {
+    if (const auto pole = NaPodlozce()) {
+        Zapamatuj("pad", *pole);
+        return Klepni(*pole, *pole);
+    }
     Bod kde{Cislo(720) - 40, Cislo(560) - 40};
     if (const Ovladac* o = Jednou(6) ? nullptr : Vyhlednuty()) {
         if (o->Name == "Pic" && !Jednou(6)) return Tah(*o);
@@ -288,11 +292,33 @@ void Bezstarostny::Mys() {
 
 void Bezstarostny::Stisk(Bod kde, int tlacitko) {
     Obrazovky& okna = relace_->Host().Okna();
+    if (cim_ == Cim::Prstem && !Jednou(10)) return Klepni(kde, kde);
     if (!Jednou(4)) relace_->NajedNaMisto(kde.X, kde.Y);
     if (!Jednou(60)) okna.MysDolu(kde.X, kde.Y, tlacitko, Cislo(2));
     if (Jednou(30)) Cekej();
     // A release may get lost outside the window.
     if (!Jednou(60)) okna.MysNahoru(kde.X, kde.Y, tlacitko, 0);
+}
+
+/// A finger comes down, slides, is lifted; or its lifting gets lost, as a second finger's would.
+void Bezstarostny::Klepni(Bod odkud, Bod kam) {
+    Obrazovky& okna = relace_->Host().Okna();
+    const auto ted = [this] { return relace_->Host().TickCount(); };
+    okna.PrstDolu(odkud.X, odkud.Y, ted());
+    if (odkud != kam || Jednou(6))
+        okna.PrstPohyb((odkud.X + kam.X) / 2, (odkud.Y + kam.Y) / 2, ted());
+    if (Jednou(30)) Cekej();
+    if (odkud != kam) okna.PrstPohyb(kam.X, kam.Y, ted());
+    if (!Jednou(60)) okna.PrstNahoru(kam.X + Cislo(5) - 2, kam.Y + Cislo(5) - 2, ted());
+}
+
+/// Where on the pad of a drag that is held it has a mind to tap; none if there is no pad.
+std::optional<Bod> Bezstarostny::NaPodlozce() {
+    for (const Obrazovky::Ohlas& o : relace_->Host().Okna().OhlasyVpredu()) {
+        if (o.Co == Obrazovky::Ohlas::Druh::Podlozka && !Jednou(4))
+            return Bod{o.Kde.Left + Cislo(o.Kde.Width), o.Kde.Top + Cislo(o.Kde.Height)};
+    }
+    return std::nullopt;
 }
 
 /// A drag on the plane, mostly from a point of the construction.
@@ -314,6 +340,7 @@ void Bezstarostny::Tah(const Ovladac& pic) {
     if (Jednou(25)) kam = od;
     Zapamatuj("drag from", od);
     Zapamatuj("drag to", kam);
+    if (cim_ == Cim::Prstem && !Jednou(10)) return Klepni(od, kam);
     relace_->NajedNaMisto(od.X, od.Y);
     okna.MysDolu(od.X, od.Y, 1, 0);
     if (!Jednou(3)) okna.MysPohyb((od.X + kam.X) / 2.0, (od.Y + kam.Y) / 2.0, 1, 0);

@@ -4,6 +4,7 @@
 #include <deque>
 #include <map>
 #include <memory>
+#include <optional>
 #include <random>
 #include <string>
 #include <string_view>
@@ -23,7 +24,7 @@ using hrac::Relace;
 /// same.
 ///
 /// One that plays by keys goes by the ring to what it wants, as often presses whatever key there
-/// is, and takes the mouse now and then.
+/// is, and takes the mouse now and then. So does one that plays by finger.
 ///
 /// It keeps from one thing that is settled to end badly: the hundred and first wrong step of one
 /// example is a fault.
@@ -68,6 +69,8 @@ private:
     void Klavesami();
     [[nodiscard]] const Ovladac* Vyhlednuty();
     void Tah(const Ovladac& pic);
+    void Klepni(Bod odkud, Bod kam);
+    [[nodiscard]] std::optional<Bod> NaPodlozce();
     void Pis();
     void Cekej();
     void Sestroj();

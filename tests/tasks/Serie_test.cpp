@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <sstream>
+#include <tuple>
 
 #include "base/Cisla.h"
 #include "base/Text.h"
@@ -44,26 +45,30 @@ TEST_P(SerieOdPeti, DaPadesatBoduRadekTabulkyACtyriRadkyLogu) {
 
 INSTANTIATE_TEST_SUITE_P(Ulohy, SerieOdPeti, testing::Range(1, 21));
 
-class SerieKlavesami : public testing::TestWithParam<int> {};
+class SerieBezMysi : public testing::TestWithParam<std::tuple<Relace::Cim, int>> {};
 
 /// The mouse is not touched, from the title to the score table.
-TEST_P(SerieKlavesami, DaDesetBodu) {
-    const int uloha = GetParam();
+TEST_P(SerieBezMysi, DaDesetBodu) {
+    const auto [cim, uloha] = GetParam();
     NastavVyrobceDesek(VyrobDesku);
-    Relace hra(static_cast<std::uint32_t>(uloha), Relace::Cim::Klavesami);
+    Relace hra(static_cast<std::uint32_t>(uloha), cim);
     std::ostringstream udalosti;
     hra.Zaznamenavej(udalosti);
     hra.Start();
     OdehrajSerii(hra, uloha, "Žák", 1, 1);
     EXPECT_EQ(hra.JmenoVpredu(), "TabulkaForm");
     EXPECT_EQ(hra.CtiSoubor(DveCislice(uloha) + ".res"), "\x8E\xE1k|10|0|1\r\n");
-    EXPECT_NE(udalosti.str().find("klavesa Space"), std::string::npos);
-    for (const char* mysi : {"mys ", "dolu", "nahoru"}) {
+    const char* stopa = cim == Relace::Cim::Prstem ? "prst nahoru" : "klavesa Space";
+    EXPECT_NE(udalosti.str().find(stopa), std::string::npos);
+    for (const char* mysi : {"mys ", "\ndolu", "\nnahoru"}) {
         EXPECT_EQ(udalosti.str().find(mysi), std::string::npos) << mysi;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Ulohy, SerieKlavesami, testing::Range(1, 21));
+INSTANTIATE_TEST_SUITE_P(Ulohy, SerieBezMysi,
+                         testing::Combine(testing::Values(Relace::Cim::Klavesami,
+                                                          Relace::Cim::Prstem),
+                                          testing::Range(1, 21)));
 
 // Of the shipped grades the better one holds where two meet.
 TEST(DodaneZnamky, NaSpolecneMeziPlatiLepsi) {
