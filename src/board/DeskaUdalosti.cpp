@@ -255,8 +255,14 @@ int DeskaForm::CastProPrst(const Ovladac& o, float x, float y) const {
         return prvek < 0 ? -1 : prvek + 1;
     }
     if (&o != &Pic) return Form::CastProPrst(o, x, y);
-    const auto bod =
-        Pic.Klavesou == StiskKlavesou::Klik ? dialog_->TrefilBy(x, y) : dialog_->ChytilBy(x, y);
+    // Of what a drag may begin in only the centre of a circle: a line is as often meant to begin
+    // beside a point as in it.
+    std::optional<Bod> bod;
+    if (Pic.Klavesou == StiskKlavesou::Klik) {
+        bod = dialog_->TrefilBy(x, y);
+    } else if (videne_.Krok.Kresleni.Druh == Gesto::Tvar::Kruznice) {
+        bod = dialog_->ChytilBy(x, y);
+    }
     if (!bod) return -1;
     // A number for each point, also for those off the plane.
     constexpr int ZACATEK = 1 << 14;

@@ -159,6 +159,7 @@ public:
 private:
     struct Vnitrek;
     struct Vstup;
+    friend class RadaStisku;
     void Prijmi(const Vstup& vstup);
     void Odloz(const Vstup& vstup);
     void Doruc(const Vstup& vstup);

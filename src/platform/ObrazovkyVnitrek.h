@@ -77,13 +77,12 @@ class RadaStisku {
 public:
     /// Places a press in the row, or begins a new one with it. o: the object under it, null for the
     /// form itself.
-    PoradiStisku Zarad(const Formular& form, const Ovladac* o, double x, double y, int tlacitko,
-                       CasStisku cas);
+    PoradiStisku Zarad(const Formular& form, const Ovladac* o, const Obrazovky::Vstup& s);
     /// A press that reached nobody: it goes on with a row, and begins none.
-    void Ztraceny(double x, double y, CasStisku cas);
+    void Ztraceny(const Obrazovky::Vstup& s);
 
 private:
-    [[nodiscard]] bool Navazuje(double x, double y, CasStisku cas) const;
+    [[nodiscard]] bool Navazuje(const Obrazovky::Vstup& s) const;
 
     bool plati_ = false;
     std::weak_ptr<Form> form_;

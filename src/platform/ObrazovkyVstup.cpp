@@ -17,6 +17,8 @@ constexpr int LEVE = 1;
 /// A press within this time and distance of the one before, on each axis, goes with it.
 constexpr std::int32_t DVOJKLIK_MS = 500;
 constexpr double DVOJKLIK_PX = 4;
+/// A finger does not come down where it was: the list that its first tap opened is not meant yet.
+constexpr double DVOJKLIK_PRSTEM_PX = 16;
 /// A move so far takes the ring away, design px.
 constexpr double POHNULA_SE = 4;
 
@@ -56,29 +58,29 @@ Ovladac* NajdiObjekt(const Form& f, double x, double y) {
     return o;
 }
 
-bool RadaStisku::Navazuje(double x, double y, CasStisku cas) const {
+bool RadaStisku::Navazuje(const Obrazovky::Vstup& s) const {
+    const double dosah = s.Prst ? DVOJKLIK_PRSTEM_PX : DVOJKLIK_PX;
     // Where the times are not known to the millisecond, they are taken to be as near as can be.
-    return plati_ && static_cast<std::int32_t>(cas.Nejdrive - cas_.Nejpozdeji) <= DVOJKLIK_MS &&
-           std::abs(x - x_) <= DVOJKLIK_PX && std::abs(y - y_) <= DVOJKLIK_PX;
+    return plati_ && static_cast<std::int32_t>(s.Cas.Nejdrive - cas_.Nejpozdeji) <= DVOJKLIK_MS &&
+           std::abs(s.X - x_) <= dosah && std::abs(s.Y - y_) <= dosah;
 }
 
-void RadaStisku::Ztraceny(double x, double y, CasStisku cas) {
-    plati_ = Navazuje(x, y, cas);
-    x_ = x;
-    y_ = y;
-    cas_ = cas;
+void RadaStisku::Ztraceny(const Obrazovky::Vstup& s) {
+    plati_ = Navazuje(s);
+    x_ = s.X;
+    y_ = s.Y;
+    cas_ = s.Cas;
     druhy_ = true;  // no half of a double click
 }
 
-PoradiStisku RadaStisku::Zarad(const Formular& form, const Ovladac* o, double x, double y,
-                               int tlacitko, CasStisku cas) {
-    const bool navazuje = Navazuje(x, y, cas);
-    const bool dvojice = navazuje && !druhy_ && tlacitko == LEVE && tlacitko_ == LEVE;
+PoradiStisku RadaStisku::Zarad(const Formular& form, const Ovladac* o, const Obrazovky::Vstup& s) {
+    const bool navazuje = Navazuje(s);
+    const bool dvojice = navazuje && !druhy_ && s.Tlacitko == LEVE && tlacitko_ == LEVE;
     plati_ = true;
-    x_ = x;
-    y_ = y;
-    cas_ = cas;
-    tlacitko_ = tlacitko;
+    x_ = s.X;
+    y_ = s.Y;
+    cas_ = s.Cas;
+    tlacitko_ = s.Tlacitko;
     druhy_ = dvojice;
     if (!navazuje) {
         form_ = form;
@@ -128,15 +130,26 @@ void Obrazovky::MysNahoru(double x, double y, int tlacitko, int shift) {
 }
 
 void Obrazovky::PrstDolu(double x, double y, std::uint32_t cas) {
-    Prijmi({.Co = Vstup::Druh::PrstDolu, .X = x, .Y = y, .Cas = {cas, cas}, .Text = {}});
+    Prijmi(
+        {.Co = Vstup::Druh::PrstDolu, .X = x, .Y = y, .Cas = {cas, cas}, .Text = {}, .Prst = true});
 }
 
 void Obrazovky::PrstPohyb(double x, double y, std::uint32_t cas) {
-    Prijmi({.Co = Vstup::Druh::PrstPohyb, .X = x, .Y = y, .Cas = {cas, cas}, .Text = {}});
+    Prijmi({.Co = Vstup::Druh::PrstPohyb,
+            .X = x,
+            .Y = y,
+            .Cas = {cas, cas},
+            .Text = {},
+            .Prst = true});
 }
 
 void Obrazovky::PrstNahoru(double x, double y, std::uint32_t cas) {
-    Prijmi({.Co = Vstup::Druh::PrstNahoru, .X = x, .Y = y, .Cas = {cas, cas}, .Text = {}});
+    Prijmi({.Co = Vstup::Druh::PrstNahoru,
+            .X = x,
+            .Y = y,
+            .Cas = {cas, cas},
+            .Text = {},
+            .Prst = true});
 }
 
 void Obrazovky::Text(std::string_view utf8) {
@@ -174,7 +187,7 @@ void Obrazovky::Odloz(const Vstup& vstup) {
         const Formular form = v.Cilovy();
         if (form == nullptr || !form->StiskVzdy) {
             v.Zahozena |= vstup.Tlacitko;
-            v.Rada.Ztraceny(vstup.X, vstup.Y, vstup.Cas);
+            v.Rada.Ztraceny(vstup);
             return;
         }
     } else if (vstup.Co == Vstup::Druh::Nahoru) {
@@ -186,7 +199,7 @@ void Obrazovky::Odloz(const Vstup& vstup) {
         const Formular form = v.Cilovy();
         if (form == nullptr || !form->StiskVzdy) {
             v.PrstZahozen = true;
-            v.Rada.Ztraceny(vstup.X, vstup.Y, vstup.Cas);
+            v.Rada.Ztraceny(vstup);
             return;
         }
     } else if (vstup.Co == Vstup::Druh::PrstPohyb) {
@@ -288,7 +301,7 @@ void Obrazovky::DorucStisk(const Vstup& s) {
         return;
     }
     Ovladac* o = NajdiObjekt(*form, s.X, s.Y);
-    const PoradiStisku poradi = v.Rada.Zarad(form, o, s.X, s.Y, s.Tlacitko, s.Cas);
+    const PoradiStisku poradi = v.Rada.Zarad(form, o, s);
     if (poradi == PoradiStisku::Zahodit) {
         v.Zahozena |= s.Tlacitko;
         return;

@@ -153,6 +153,7 @@ void Relace::StiskniMisto(double x, double y) {
 
 void Relace::Stiskni(std::string_view jmeno, int index, int dx, int dy) {
     if (cim_ == Cim::Klavesami) return StiskniKlavesami(jmeno, index, dx, dy);
+    if (cim_ == Cim::Prstem) Rozmysli();
     const Ovladac& prvek = Prvek(jmeno, index);
     const Bod roh = Roh(prvek);
     const int x = dx < 0 ? prvek.Width / 2 : dx;

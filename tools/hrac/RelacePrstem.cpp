@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
 
+#include "board/DeskaForm.h"
 #include "engine/Tabulky.h"
 #include "hrac/Relace.h"
 #include "platform/Dotyk.h"
@@ -12,6 +14,26 @@ namespace {
 
 constexpr int CHYBA = 6;   // px on each axis, of a tap
 constexpr int CHVENI = 2;  // px, of the lifting
+
+/// Where a drag ends that is to end there: a finger cannot leave the screen. The other side is as
+/// far from the middle of a circle; a ray is let go sooner, on the pixel that lies best in its way.
+Bod VDosahu(Bod odkud, Bod kam, Gesto::Tvar tvar) {
+    const Obdelnik obrazovka{0, 0, NAVRH_SIRKA, NAVRH_VYSKA};
+    if (obrazovka.Obsahuje(kam.X, kam.Y)) return kam;
+    if (tvar == Gesto::Tvar::Kruznice) return {2 * odkud.X - kam.X, odkud.Y};
+    constexpr int DILKU = 100;
+    Bod nejlepsi = kam;
+    int nejmin = std::numeric_limits<int>::max();
+    const Bod d{kam.X - odkud.X, kam.Y - odkud.Y};
+    for (int i = DILKU / 3; i < DILKU; ++i) {
+        const Bod b{odkud.X + d.X * i / DILKU, odkud.Y + d.Y * i / DILKU};
+        const int vedle = std::abs(d.X * (b.Y - odkud.Y) - d.Y * (b.X - odkud.X));
+        if (!obrazovka.Obsahuje(b.X, b.Y) || vedle >= nejmin) continue;
+        nejmin = vedle;
+        nejlepsi = b;
+    }
+    return nejlepsi;
+}
 
 const Obrazovky::Ohlas* NajdiOhlas(const std::vector<Obrazovky::Ohlas>& ohlasy,
                                    Obrazovky::Ohlas::Druh co) {
@@ -36,6 +58,11 @@ void Relace::Prst(std::string_view co, Bod kde) {
     }
 }
 
+/// Before a tap: one that follows at once is the second of a double one.
+void Relace::Rozmysli() {
+    Cekej(600);
+}
+
 void Relace::Klepni(Bod kam) {
     const Bod kde = los_.Vedle(kam, CHYBA);
     Prst("dolu", kde);
@@ -43,24 +70,28 @@ void Relace::Klepni(Bod kam) {
     Prst("nahoru", los_.Vedle(kde, CHVENI));
 }
 
-/// A drag on the plane. The first one begins where it happens to: the figure that the player has in
-/// mind goes with it.
+/// A drag on the plane. Who points by finger points at the point itself; on the empty plane there
+/// is nothing to miss.
 void Relace::TahniPrstem(Bod odkud, Bod kam) {
     constexpr int KROKU = 4;
     const Ovladac& pic = Prvek("Pic");
     const bool klik = pic.Klavesou == StiskKlavesou::Klik;  // a click is asked for
     const Bod roh = Roh(pic);
-    const auto naNavrhu = [&](Bod b) {
-        return Bod{roh.X + b.X + posunFigury_.X, roh.Y + b.Y + posunFigury_.Y};
-    };
-    if (PocetUtvaru == 0) posunFigury_ = los_.Vedle({}, CHYBA);
-    const Bod zacatek = PocetUtvaru == 0 ? naNavrhu(odkud) : los_.Vedle(naNavrhu(odkud), CHYBA);
+    const Dialog& dialog = dynamic_cast<const DeskaForm&>(*Vpredu()).Dialogem();
+    const auto bod =
+        dialog.ChytilBy(static_cast<float>(odkud.X), static_cast<float>(odkud.Y)).value_or(odkud);
+    const Bod mirim{roh.X + bod.X, roh.Y + bod.Y};
+    Bod zacatek = PocetUtvaru == 0 ? mirim : los_.Vedle(mirim, CHYBA);
+    zacatek.X = std::clamp(zacatek.X, roh.X, roh.X + pic.Width - 1);
+    zacatek.Y = std::clamp(zacatek.Y, roh.Y, roh.Y + pic.Height - 1);
+    Rozmysli();
     Prst("dolu", zacatek);
     if (klik || pic.Zastavka == 0) {
         Prst("pohyb", los_.Vedle(zacatek, CHVENI));
         return Prst("nahoru", los_.Vedle(zacatek, CHVENI));
     }
-    const Bod cil = naNavrhu(kam);
+    const Bod cil =
+        VDosahu(mirim, {roh.X + kam.X, roh.Y + kam.Y}, dialog.UkazPanel().Kresleni.Druh);
     for (int i = 1; i <= KROKU; ++i) {
         const Bod cestou{zacatek.X + (cil.X - zacatek.X) * i / KROKU,
                          zacatek.Y + (cil.Y - zacatek.Y) * i / KROKU};

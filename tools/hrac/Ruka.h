@@ -34,6 +34,8 @@ public:
     [[nodiscard]] virtual const Dialog& Hrany() const = 0;
     /// What the assignment says.
     [[nodiscard]] virtual std::vector<Zadano> Zadani() const = 0;
+    /// Whether a press meets the very pixel that it aims at.
+    [[nodiscard]] virtual bool Presna() const { return true; }
     /// The value of a given quantity; throws if it is not given.
     [[nodiscard]] int Hodnota(std::string_view velicina) const;
     [[nodiscard]] bool JeZadano(std::string_view velicina) const;
@@ -81,6 +83,7 @@ public:
 
     [[nodiscard]] const Dialog& Hrany() const override;
     [[nodiscard]] std::vector<Zadano> Zadani() const override;
+    [[nodiscard]] bool Presna() const override { return relace_.CimHraje() != Relace::Cim::Prstem; }
     void Posun(int dx, int dy) override;
     void ZasunPanel() override;
     /// Presses the check and waits until the continue button is up.

@@ -224,7 +224,8 @@ void DokonaleTecny::Proved(const KrokZaka& k, bool druhy) {
 void DokonaleTecny::NarysujPrimku(const KrokZaka& k) {
     Bod odkud = los_.Vedle(NajdiBod(k.Od), CHYTNE);
     Bod kam = Nahodne();
-    if (!k.JenZBodu && los_.Ano()) (void)NajdiVolnyTah(k, odkud, kam);
+    const bool volne = los_.Ano() && ruka_.Presna();  // beside a point, a pixel may decide
+    if (!k.JenZBodu && volne) (void)NajdiVolnyTah(k, odkud, kam);
     ruka_.Tahni(odkud, kam);
 }
 
