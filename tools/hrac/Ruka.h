@@ -83,7 +83,7 @@ public:
 
     [[nodiscard]] const Dialog& Hrany() const override;
     [[nodiscard]] std::vector<Zadano> Zadani() const override;
-    [[nodiscard]] bool Presna() const override { return relace_.CimHraje() != Relace::Cim::Prstem; }
+    [[nodiscard]] bool Presna() const override { return relace_.Hraje() != Relace::Cim::Prstem; }
     void Posun(int dx, int dy) override;
     void ZasunPanel() override;
     /// Presses the check and waits until the continue button is up.
