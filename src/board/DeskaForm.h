@@ -52,7 +52,6 @@ public:
     void Load() override;
     void Unload() override;
     void Activate() override;
-    void Paint() override;
     void MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
     void MouseUp(Ovladac* o, const Mys& m) override;
@@ -101,6 +100,7 @@ private:
     void KresliNacrt();
     void SlozPanel();
     void PolozPanel(int odsunuti);
+    void PolozKlidnyPanel();
     void ZasunPanel();
     void VysunPanel();
     // DeskaRada.cpp: the guide line
@@ -131,7 +131,6 @@ private:
     bool poustiSe_ = false;      ///< a release on the plane is being handled
     Videne videne_;
     Rada rada_;
-    std::uint64_t podklad_ = 0;  ///< version of the plane that the resting panel lies on
 };
 
 }  // namespace rysovna

@@ -86,18 +86,16 @@ Bitmapa Zprumeruj(const PohledKeCteni& zdroj, int sirka, int vyska) {
     return cil;
 }
 
-/// As the average, but the key colour neither mixes nor is mixed.
+/// As the average, but the key colour neither mixes nor is mixed: what part of a pixel it takes
+/// goes to the pixel's highest byte.
 Bitmapa ZprumerujSKlicem(const PohledKeCteni& zdroj, int sirka, int vyska) {
     const Zdroje sloupce = RozpocitejZdroje(zdroj.Sirka, sirka);
     const Zdroje radky = RozpocitejZdroje(zdroj.Vyska, vyska);
     Bitmapa cil(sirka, vyska, 0);
     for (int y = 0; y < vyska; ++y) {
-        const int stredY = std::min((2 * y + 1) * zdroj.Vyska / (2 * vyska), zdroj.Vyska - 1);
         Pixel* c = cil.Pohled().Radka(y);
         for (int x = 0; x < sirka; ++x) {
-            const int stredX = std::min((2 * x + 1) * zdroj.Sirka / (2 * sirka), zdroj.Sirka - 1);
-            c[x] = zdroj.Radka(stredY)[stredX] | 0xFF000000u;
-            if (c[x] == KLIC) continue;
+            c[x] = KLIC;
             std::uint64_t cerv = 0, zel = 0, modr = 0, vaha = 0;
             for (int j = 0; j < radky.NaBod; ++j) {
                 const Pixel* z = zdroj.Radka(radky.Od[static_cast<std::size_t>(y)] + j) +
@@ -112,28 +110,45 @@ Bitmapa ZprumerujSKlicem(const PohledKeCteni& zdroj, int sirka, int vyska) {
                     vaha += v;
                 }
             }
-            if (vaha == 0) continue;
+            constexpr std::uint64_t PLNA = 256 * 256;
+            const std::uint64_t kryti = (vaha * 255 + PLNA / 2) / PLNA;
+            if (kryti == 0) continue;
             const auto stred = [&](std::uint64_t k) {
                 return static_cast<Pixel>((k + vaha / 2) / vaha);
             };
-            c[x] = 0xFF000000u | (stred(cerv) << 16) | (stred(zel) << 8) | stred(modr);
+            c[x] = (static_cast<Pixel>(kryti) << 24) | (stred(cerv) << 16) | (stred(zel) << 8) |
+                   stred(modr);
         }
     }
     return cil;
 }
 
+/// The three channels of two pixels, taken together one by one.
+template <class F>
+Pixel PoKanalech(Pixel a, Pixel b, F f) {
+    Pixel p = 0xFF000000u;
+    for (const unsigned posun : {0u, 8u, 16u})
+        p |= f((a >> posun) & 0xFFu, (b >> posun) & 0xFFu) << posun;
+    return p;
+}
+
 Pixel Spoj(Prenos jak, Pixel cil, Pixel zdroj, Pixel klic) {
+    const unsigned kryti = zdroj >> 24;
     switch (jak) {
         case Prenos::Kopie:
             return zdroj;
         case Prenos::BezKlice:
-            return zdroj == KLIC ? cil : zdroj;
+            return zdroj == KLIC ? cil : kryti == 255 ? zdroj : Smichej(cil, zdroj, kryti);
         case Prenos::Soucin:
             return (cil & zdroj) | 0xFF000000u;
         case Prenos::Soucet:
             return cil | zdroj;
+        case Prenos::SoucinPodilu:
+            return PoKanalech(cil, zdroj, [](Pixel a, Pixel b) { return (a * b + 127) / 255; });
+        case Prenos::SoucetPodilu:
+            return PoKanalech(cil, zdroj, [](Pixel a, Pixel b) { return std::min(a + b, 255u); });
         case Prenos::NaJednobitovou:
-            return zdroj == klic ? DoPixelu(BILA) : DoPixelu(CERNA);
+            return zdroj == klic ? DoPixelu(BILA) : 0xFF000000u | (255u - kryti) * 0x10101u;
     }
     return zdroj;
 }

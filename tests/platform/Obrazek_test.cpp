@@ -93,7 +93,14 @@ TEST_F(NaStroji, PreskalovaniDrziBarvyAKlic) {
     Bitmapa plna(30, 20, DoPixelu(Rgb(12, 200, 77)));
     plna.Pohled().Vypln({0, 0, 15, 20}, KLIC);
     const Bitmapa b = Preskaluj(plna.KeCteni(), 67, 45, true);
-    for (const Pixel p : b.Body) ASSERT_TRUE(p == KLIC || p == DoPixelu(Rgb(12, 200, 77)));
+    // Neither mixes: at the edge the colour is the whole one, and the highest byte tells its share.
+    double podil = 0;
+    for (const Pixel p : b.Body) {
+        if (p == KLIC) continue;
+        ASSERT_EQ(p | 0xFF000000u, DoPixelu(Rgb(12, 200, 77)));
+        podil += (p >> 24) / 255.0;
+    }
+    EXPECT_NEAR(podil, 67 * 45 / 2.0, 5) << "the edge stays in the middle";
     // Without the key the edge is smooth, and halving averages exactly.
     Bitmapa pruhy(4, 1, DoPixelu(CERNA));
     pruhy.Pohled().Vypln({1, 0, 1, 1}, DoPixelu(BILA));
