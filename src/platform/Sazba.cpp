@@ -24,7 +24,7 @@ constexpr std::u32string_view BEZE_ZMENY = U"";
 
 /// The first rule that fits holds.
 constexpr Pravidlo PRAVIDLA[] = {
-    {Okoli::Mimo, U"vt", U"abcd", Okoli::Mimo, BEZE_ZMENY},        // heights, medians
+    {Okoli::Mimo, U"vtS", U"abcd", Okoli::Mimo, BEZE_ZMENY},       // heights, medians, midpoints
     {Okoli::Cokoli, PISMENA, CISLICE, Okoli::Cokoli, BEZE_ZMENY},  // A1, k2
     {Okoli::Cokoli, U"<", PISMENA, Okoli::Cokoli, U"∢"},           // |<ABC|
     {Okoli::Mimo, U"-", CISLICE, Okoli::Cokoli, U"\u2212"},        // a minus, no hyphen

@@ -24,6 +24,7 @@ TEST(Sazba, CteSeJakoVUcebnici) {
     } PRIPADY[] = {
         {"va", "v_a"},
         {"p||AB, |p,AB| = vc, tb", "p||AB, |p,AB| = v_c, t_b"},
+        {"kružnice k(Sa, r = ), úsečka SA", "kružnice k(S_a, r = ), úsečka SA"},
         {"polopřímka AX, |<BAX| = ", "polopřímka AX, |∢BAX| = "},
         {"polopřímka BY, |<kBY| = ", "polopřímka BY, |∢kBY| = "},
         {"kružnice l1(S1, r = |AS1|)", "kružnice l_1(S_1, r = |AS_1|)"},
