@@ -9,7 +9,8 @@
 namespace rysovna::hrac {
 namespace {
 
-constexpr int KONEC_KARTY = 217;  // px, the right edge of the card with the panel's texts
+constexpr int NEJVIC_ZA_JMENEM = 6;  // px, of the sign of a perpendicular, as untypeset
+constexpr int KONEC_KARTY = 217;     // px, the right edge of the card with the panel's texts
 
 /// Looks at the board at each list and each prompt.
 class Korektor : public RukaNaDesce {
@@ -54,8 +55,9 @@ private:
         const auto od = text.find("   ");
         ASSERT_NE(od, std::string::npos) << text;
         const auto po = text.find_first_not_of(' ', od);
-        // Within its own box the sign keeps a pixel from the edge.
-        EXPECT_GE(znak.Left + 1, vyzva.Left + PresnaSirka(vyzva.Font, text.substr(0, od))) << text;
+        const double konecJmena = vyzva.Left + PresnaSirka(vyzva.Font, text.substr(0, od));
+        EXPECT_GE(znak.Left, konecJmena - 1) << text;
+        EXPECT_LE(znak.Left, konecJmena + NEJVIC_ZA_JMENEM) << text;
         EXPECT_LE(znak.Left + PresnaSirka(znak.Font, znak.Caption),
                   vyzva.Left + PresnaSirka(vyzva.Font, text.substr(0, po)))
             << text;
