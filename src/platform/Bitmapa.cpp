@@ -1,6 +1,7 @@
 #include "platform/Bitmapa.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace rysovna {
@@ -144,14 +145,37 @@ Pixel Spoj(Prenos jak, Pixel cil, Pixel zdroj, Pixel klic) {
         case Prenos::Soucet:
             return cil | zdroj;
         case Prenos::SoucinPodilu:
+            // Masks are all or nothing nearly everywhere.
+            if (zdroj == DoPixelu(BILA)) return cil;
+            if (zdroj == DoPixelu(CERNA)) return zdroj;
             return PoKanalech(cil, zdroj, [](Pixel a, Pixel b) { return (a * b + 127) / 255; });
         case Prenos::SoucetPodilu:
+            if (zdroj == DoPixelu(CERNA)) return cil;
+            if (cil == DoPixelu(CERNA)) return zdroj;
             return PoKanalech(cil, zdroj, [](Pixel a, Pixel b) { return std::min(a + b, 255u); });
         case Prenos::NaJednobitovou:
             return zdroj == klic ? DoPixelu(BILA) : 0xFF000000u | (255u - kryti) * 0x10101u;
     }
     return zdroj;
 }
+
+/// One row; the way is known to the compiler, so that nothing is decided for each pixel.
+template <Prenos JAK>
+void SpojRadek(Pixel* cil, const Pixel* zdroj, int n, Pixel klic) {
+    if constexpr (JAK == Prenos::Kopie) {
+        std::copy_n(zdroj, n, cil);
+    } else {
+        for (int i = 0; i < n; ++i) cil[i] = Spoj(JAK, cil[i], zdroj[i], klic);
+    }
+}
+
+/// By Prenos.
+constexpr std::array SPOJ_RADEK = {
+    &SpojRadek<Prenos::Kopie>,          &SpojRadek<Prenos::BezKlice>,
+    &SpojRadek<Prenos::Soucin>,         &SpojRadek<Prenos::Soucet>,
+    &SpojRadek<Prenos::SoucinPodilu>,   &SpojRadek<Prenos::SoucetPodilu>,
+    &SpojRadek<Prenos::NaJednobitovou>,
+};
 
 }  // namespace
 
@@ -212,17 +236,16 @@ void Prenes(const Vyhled& cil, const Obdelnik& kam, const Obdelnik& orez, const 
     const Obdelnik o = Prunik(Prunik(kam, orez), cil.Meze());
     if (JePrazdny(o)) return;
     const int posunX = zx - kam.Left;
-    const int prvni = std::max(o.Left, -posunX);
-    const int konec = std::min(o.Left + o.Width, zdroj.Sirka - posunX);
+    const int prvni = std::clamp(-posunX, o.Left, o.Left + o.Width);
+    const int konec = std::clamp(zdroj.Sirka - posunX, prvni, o.Left + o.Width);
+    const auto spoj = SPOJ_RADEK[static_cast<std::size_t>(jak)];
     for (int y = o.Top; y < o.Top + o.Height; ++y) {
         const Pixel* z = zdroj.Radka(std::clamp(y - kam.Top + zy, 0, zdroj.Vyska - 1));
         Pixel* c = cil.Radka(y);
-        if (jak == Prenos::Kopie && prvni == o.Left && konec == o.Left + o.Width) {
-            std::copy_n(z + prvni + posunX, konec - prvni, c + prvni);
-            continue;
-        }
-        for (int x = o.Left; x < o.Left + o.Width; ++x)
-            c[x] = Spoj(jak, c[x], z[std::clamp(x + posunX, 0, zdroj.Sirka - 1)], klic);
+        for (int x = o.Left; x < prvni; ++x) c[x] = Spoj(jak, c[x], z[0], klic);
+        spoj(c + prvni, z + prvni + posunX, konec - prvni, klic);
+        for (int x = konec; x < o.Left + o.Width; ++x)
+            c[x] = Spoj(jak, c[x], z[zdroj.Sirka - 1], klic);
     }
 }
 
