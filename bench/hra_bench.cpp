@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "hrac/Trojuhelnik.h"
-#include "shell/Soubory.h"
+#include "shell/TabulkaVysledku.h"
 #include "shell/Ulohy.h"
 #include "tasks/Desky.h"
 

@@ -5,6 +5,7 @@
 #include "base/Cisla.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
+#include "platform/Paleta.h"
 #include "shell/Hover.h"
 #include "shell/Misc.h"
 #include "shell/Zaznamy.h"
@@ -15,7 +16,6 @@ namespace {
 
 constexpr Obdelnik MISTO{216, 89, 356, 250};  // px of the board
 constexpr int RAM = 3;                        // px around the text
-constexpr Barva PAPIR = Rgb(255, 252, 240);
 
 constexpr float NEJMENSI_PISMO = 7;  // points
 
@@ -35,7 +35,7 @@ ChybovyForm::ChybovyForm() {
     Height = MISTO.Height;
     Pridej(Text1, "Text1", {RAM, RAM, Width - 2 * RAM, Height - 2 * RAM});
     Text1.MultiLine = true;
-    Text1.BackColor = PAPIR;
+    Text1.BackColor = paleta::CHYBY;
 }
 
 void ChybovyForm::Load() {

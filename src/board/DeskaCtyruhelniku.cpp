@@ -34,6 +34,7 @@ DeskaCtyruhelniku::DeskaCtyruhelniku() {
         Pridej(*nazvy[i], jmena[i],
                {NAZEV_VLEVO, RADEK_NAHORE + 2 + i * RADEK_VYSKA, NAZEV_SIRKA, 18});
         nazvy[i]->WordWrap = false;
+        nazvy[i]->Sazba = true;
     }
     const auto box = [](int i) {
         return Obdelnik{BOX_VLEVO, RADEK_NAHORE + i * RADEK_VYSKA, BOX_SIRKA, BOX_VYSKA};

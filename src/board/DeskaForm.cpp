@@ -3,6 +3,7 @@
 #include "base/Cisla.h"
 #include "board/Kontrola.h"
 #include "platform/Host.h"
+#include "platform/Paleta.h"
 #include "shell/MapaPoli.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
@@ -35,9 +36,6 @@ constexpr std::array<Obdelnik, 6> TLACITKA = {{{16, 280, 94, 32},
 
 constexpr float PISMO_PANELU = 8;  // points, at 15 twips a pixel
 
-// The read-out stands on a tinted ground, so that it can be read over lines.
-constexpr Barva PODKLAD_ODECTU = Rgb(255, 250, 225);
-
 }  // namespace
 
 DeskaForm::DeskaForm() {
@@ -61,6 +59,7 @@ void DeskaForm::RozlozOvladace() {
     lblText3.WordWrap = false;
     Pridej(lblText4, "lblText4", {158, 374, 50, 18});
     lblText4.WordWrap = false;
+    for (Label* l : {&Label1, &lblText1, &lblText2, &lblText3, &lblText4}) l->Sazba = true;
     Pridej(txtVstup, "txtVstup", {98, 371, 56, 20});
     Pridej(ImgHodnoceni, "ImgHodnoceni", {173, 404, 32, 32});
     Pridej(IHintS, "IHintS", {201, 413, 15, 13});
@@ -71,7 +70,7 @@ void DeskaForm::RozlozOvladace() {
     Pridej(Circle1, "Circle1", {}, &Pic);
     Pridej(Text, "Text", {0, 0, 60, 17}, &Pic);
     Text.WordWrap = false;
-    Text.BackColor = PODKLAD_ODECTU;
+    Text.BackColor = paleta::ODECET;  // so that it can be read over lines
     Text.Visible = false;
     Text.ProMys = false;  // a quick move to the lower right would run into it
     Pridej(HidenPic, "HidenPic", {180, 20, 45, 41});
@@ -100,6 +99,7 @@ void DeskaForm::RozlozOvladace() {
     for (std::size_t i = 0; i < ComboLabel.size(); ++i) {
         ComboLabel[i].Top = 2 + static_cast<int>(i) * Seznam::VYSKA_RADKU;
         ComboLabel[i].WordWrap = false;
+        ComboLabel[i].Sazba = true;
     }
     OcislujZastavky();
     for (PictureBox& t : cmd) t.Ramovat = true;
@@ -151,6 +151,7 @@ void DeskaForm::Load() {
     HidenPic.Height = Pic.Height;
     Pic.Plocha().Font = Pic.Font;
     HidenPic.Plocha().Font = HidenPic.Font;
+    Pic.Plocha().Svatozar = HidenPic.Plocha().Svatozar = true;
 
     SmazTabulky();
     KladneBody = ZaporneBody = 0;
@@ -159,8 +160,7 @@ void DeskaForm::Load() {
     NactiPriklady(CestaHD + DveCislice(CisloUlohy) + ".dat", DeskaUlohy(CisloUlohy));
     dialog_->NovyPriklad();
     NoveZadani();
-    SlozPanel();
-    PolozPanel(0);
+    PolozKlidnyPanel();
 }
 
 void DeskaForm::Unload() {
@@ -171,8 +171,7 @@ void DeskaForm::Unload() {
 void DeskaForm::Activate() {
     SkryjChyby();
     ZhasniSipky();
-    SlozPanel();
-    if (Image1.Tag == "1") PolozPanel(0);
+    if (Image1.Tag == "1") PolozKlidnyPanel();
 }
 
 }  // namespace rysovna

@@ -59,7 +59,6 @@ public:
     void Load() override;
     void Unload() override;
     void Activate() override;
-    void Paint() override;
     void MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
     void MouseUp(Ovladac* o, const Mys& m) override;
@@ -122,6 +121,7 @@ private:
     void KresliNacrt();
     void SlozPanel();
     void PolozPanel(int odsunuti);
+    void PolozKlidnyPanel();
     void ZasunPanel();
     void VysunPanel();
     // DeskaRada.cpp: the guide line
@@ -156,7 +156,6 @@ private:
     Bod kriz_{192, 167};           ///< px of the plane: where the pointer of the keys is
     int zona_ = 0;                 ///< element of the sketch that the keys are at, from 0
     int nastroj_ = 1;              ///< step button that opened the list
-    std::uint64_t podklad_ = 0;    ///< version of the plane that the resting panel lies on
 };
 
 }  // namespace rysovna

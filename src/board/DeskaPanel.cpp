@@ -29,6 +29,16 @@ constexpr std::string_view NADPIS_VSE =
 constexpr int ULOHA_STRANY = 1;  // the one task with the short heading
 constexpr float NADPIS_X = 21, NADPIS_Y = 6;
 
+/// By how many px the prompt is painted shorter before its gap than it was measured for: the sign
+/// of a perpendicular moves with the gap.
+int ZkraceniSazbou(const Label& vyzva) {
+    constexpr std::string_view MEZERA = "  ";
+    Label pred = vyzva;
+    pred.Caption = vyzva.Caption.substr(0, vyzva.Caption.find(MEZERA));
+    pred.PodleTextu();
+    return SirkaTextu(pred.Font, pred.Caption) - pred.Width;
+}
+
 }  // namespace
 
 void DeskaForm::Ukaz() {
@@ -49,7 +59,8 @@ void DeskaForm::Ukaz() {
     lblText4.Visible = p.lblText4.Videt;
     lblText4.Caption = p.lblText4.Text;
     lblText4.Font.Nazev = p.lblText4.Symbol ? Pismo::Rez::Symbol : Pismo::Rez::MsSansSerif;
-    lblText4.Left = lblText3.Left + p.lblText4.Odsazeni;
+    lblText4.Left = lblText3.Left + p.lblText4.Odsazeni -
+                    (p.lblText4.NaRadkuVyzvy ? ZkraceniSazbou(lblText3) : 0);
     lblText4.Top = p.lblText4.NaRadkuVyzvy ? lblText3.Top : JEDNOTKA_NAHORE;
 
     const bool ukazatVstup = p.txtVstup.Videt && !txtVstup.Visible;
@@ -83,6 +94,7 @@ void DeskaForm::UkazZadani(const std::vector<PolozkaZadani>& zadani) {
         const PolozkaZadani& z = zadani[i];
         l.Caption = z.Text;
         l.Font = z.Font;
+        l.Sazba = z.Sazba;
         l.PodleTextu();
         if (z.NovyRadek && radek < RADKY_ZADANI.size()) ++radek;
         l.Top = RADKY_ZADANI[radek == 0 ? 0 : radek - 1];
@@ -119,7 +131,6 @@ void DeskaForm::SlozPanel() {
     pozadi.PaintPicture(Picture, -VPImage.Left, -VPImage.Top);
     pozadi.BitBlt(0, 0, Pic.Left + Pic.Width - VPImage.Left, VPImage.Height, Pic.Plocha(),
                   VPImage.Left - Pic.Left, VPImage.Top - Pic.Top, Rop::SrcCopy);
-    podklad_ = Pic.Plocha().Verze();
 
     KresliNacrt();
     Surface& celek = menu.Kopie2.Plocha();
@@ -145,11 +156,12 @@ void DeskaForm::PolozPanel(int odsunuti) {
     VPImage.Plocha().BitBlt(0, 0, w, h, menu.Vysledek.Plocha(), 0, 0, Rop::SrcCopy);
 }
 
-/// Before the board is painted: the resting panel lies on the plane as it is now.
-void DeskaForm::Paint() {
-    if (posouvaSe_ || !VPImage.Visible || podklad_ == Pic.Plocha().Verze()) return;
+/// The resting panel: the picture with its see-through parts, so that the plane and what is dragged
+/// over it show beside it as they are, whatever the scale.
+void DeskaForm::PolozKlidnyPanel() {
     SlozPanel();
-    PolozPanel(0);
+    VPImage.Plocha().BitBlt(0, 0, VPImage.Width, VPImage.Height, Menu().Kopie2.Plocha(), 0, 0,
+                            Rop::SrcCopy);
 }
 
 /// Slides the panel by frames, with no event let through until the last one: what is pressed
@@ -189,6 +201,7 @@ void DeskaForm::VysunPanel() {
     SamplePic.Visible = Image1.Visible = false;
     VPImage.Visible = true;
     PosouvejPanel([this](int k) { PolozPanel(KROK_SNIMKU * (SNIMKU - 1 - k)); });
+    PolozKlidnyPanel();
     Image1.Tag = "1";
     MalaSipka.Visible = false;
     SamplePic.Visible = Image1.Visible = true;

@@ -3,6 +3,7 @@
 
 #include "board/DeskaForm.h"
 #include "board/RadaCesky.h"
+#include "platform/Paleta.h"
 
 namespace rysovna {
 
@@ -13,20 +14,19 @@ constexpr int ODSAZENI = 6;                         // px, of the text from the 
 constexpr int RADEK = 13;                           // px, of two rows
 constexpr int JEDINY_NAHORE = 5;                    // px, of a row that stands alone
 constexpr float PISMO_DVOU = 8, PISMO_JEDINE = 10;  // points
-constexpr Barva PODKLAD = Rgb(253, 250, 242);
-constexpr Barva INKOUST = Rgb(34, 51, 92);
 
 }  // namespace
 
 void DeskaForm::RozlozRadu() {
     Pridej(PicRada, "PicRada", PRUH);
-    PicRada.BackColor = PODKLAD;
+    PicRada.BackColor = paleta::KARTA;
     PicRada.Ramecek = true;
     PicRada.ProMys = false;  // a press there goes to the board, as on the ruler
     PridejPole(lblRada, "lblRada", {ODSAZENI, 0, PRUH.Width - 2 * ODSAZENI, RADEK}, &PicRada);
     for (Label& l : lblRada) {
         l.WordWrap = false;
-        l.ForeColor = INKOUST;
+        l.ForeColor = paleta::INKOUST;
+        l.Sazba = true;
         l.ProMys = false;
     }
 }

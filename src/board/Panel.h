@@ -84,6 +84,7 @@ struct PolozkaZadani {
     Pismo Font{Pismo::Rez::MsSansSerif, 10};
     int Mezera = 2;          ///< px behind the label before
     bool NovyRadek = false;  ///< begins a row
+    bool Sazba = true;       ///< painted as a textbook prints it
     friend bool operator==(const PolozkaZadani&, const PolozkaZadani&) = default;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/Bitmapa.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace rysovna {
@@ -86,18 +87,16 @@ Bitmapa Zprumeruj(const PohledKeCteni& zdroj, int sirka, int vyska) {
     return cil;
 }
 
-/// As the average, but the key colour neither mixes nor is mixed.
+/// As the average, but the key colour neither mixes nor is mixed: what part of a pixel it takes
+/// goes to the pixel's highest byte.
 Bitmapa ZprumerujSKlicem(const PohledKeCteni& zdroj, int sirka, int vyska) {
     const Zdroje sloupce = RozpocitejZdroje(zdroj.Sirka, sirka);
     const Zdroje radky = RozpocitejZdroje(zdroj.Vyska, vyska);
     Bitmapa cil(sirka, vyska, 0);
     for (int y = 0; y < vyska; ++y) {
-        const int stredY = std::min((2 * y + 1) * zdroj.Vyska / (2 * vyska), zdroj.Vyska - 1);
         Pixel* c = cil.Pohled().Radka(y);
         for (int x = 0; x < sirka; ++x) {
-            const int stredX = std::min((2 * x + 1) * zdroj.Sirka / (2 * sirka), zdroj.Sirka - 1);
-            c[x] = zdroj.Radka(stredY)[stredX] | 0xFF000000u;
-            if (c[x] == KLIC) continue;
+            c[x] = KLIC;
             std::uint64_t cerv = 0, zel = 0, modr = 0, vaha = 0;
             for (int j = 0; j < radky.NaBod; ++j) {
                 const Pixel* z = zdroj.Radka(radky.Od[static_cast<std::size_t>(y)] + j) +
@@ -112,31 +111,71 @@ Bitmapa ZprumerujSKlicem(const PohledKeCteni& zdroj, int sirka, int vyska) {
                     vaha += v;
                 }
             }
-            if (vaha == 0) continue;
+            constexpr std::uint64_t PLNA = 256 * 256;
+            const std::uint64_t kryti = (vaha * 255 + PLNA / 2) / PLNA;
+            if (kryti == 0) continue;
             const auto stred = [&](std::uint64_t k) {
                 return static_cast<Pixel>((k + vaha / 2) / vaha);
             };
-            c[x] = 0xFF000000u | (stred(cerv) << 16) | (stred(zel) << 8) | stred(modr);
+            c[x] = (static_cast<Pixel>(kryti) << 24) | (stred(cerv) << 16) | (stred(zel) << 8) |
+                   stred(modr);
         }
     }
     return cil;
 }
 
+/// The three channels of two pixels, taken together one by one.
+template <class F>
+Pixel PoKanalech(Pixel a, Pixel b, F f) {
+    Pixel p = 0xFF000000u;
+    for (const unsigned posun : {0u, 8u, 16u})
+        p |= f((a >> posun) & 0xFFu, (b >> posun) & 0xFFu) << posun;
+    return p;
+}
+
 Pixel Spoj(Prenos jak, Pixel cil, Pixel zdroj, Pixel klic) {
+    const unsigned kryti = zdroj >> 24;
     switch (jak) {
         case Prenos::Kopie:
             return zdroj;
         case Prenos::BezKlice:
-            return zdroj == KLIC ? cil : zdroj;
+            return zdroj == KLIC ? cil : kryti == 255 ? zdroj : Smichej(cil, zdroj, kryti);
         case Prenos::Soucin:
             return (cil & zdroj) | 0xFF000000u;
         case Prenos::Soucet:
             return cil | zdroj;
+        case Prenos::SoucinPodilu:
+            // Masks are all or nothing nearly everywhere.
+            if (zdroj == DoPixelu(BILA)) return cil;
+            if (zdroj == DoPixelu(CERNA)) return zdroj;
+            return PoKanalech(cil, zdroj, [](Pixel a, Pixel b) { return (a * b + 127) / 255; });
+        case Prenos::SoucetPodilu:
+            if (zdroj == DoPixelu(CERNA)) return cil;
+            if (cil == DoPixelu(CERNA)) return zdroj;
+            return PoKanalech(cil, zdroj, [](Pixel a, Pixel b) { return std::min(a + b, 255u); });
         case Prenos::NaJednobitovou:
-            return zdroj == klic ? DoPixelu(BILA) : DoPixelu(CERNA);
+            return zdroj == klic ? DoPixelu(BILA) : 0xFF000000u | (255u - kryti) * 0x10101u;
     }
     return zdroj;
 }
+
+/// One row; the way is known to the compiler, so that nothing is decided for each pixel.
+template <Prenos JAK>
+void SpojRadek(Pixel* cil, const Pixel* zdroj, int n, Pixel klic) {
+    if constexpr (JAK == Prenos::Kopie) {
+        std::copy_n(zdroj, n, cil);
+    } else {
+        for (int i = 0; i < n; ++i) cil[i] = Spoj(JAK, cil[i], zdroj[i], klic);
+    }
+}
+
+/// By Prenos.
+constexpr std::array SPOJ_RADEK = {
+    &SpojRadek<Prenos::Kopie>,          &SpojRadek<Prenos::BezKlice>,
+    &SpojRadek<Prenos::Soucin>,         &SpojRadek<Prenos::Soucet>,
+    &SpojRadek<Prenos::SoucinPodilu>,   &SpojRadek<Prenos::SoucetPodilu>,
+    &SpojRadek<Prenos::NaJednobitovou>,
+};
 
 }  // namespace
 
@@ -197,17 +236,16 @@ void Prenes(const Vyhled& cil, const Obdelnik& kam, const Obdelnik& orez, const 
     const Obdelnik o = Prunik(Prunik(kam, orez), cil.Meze());
     if (JePrazdny(o)) return;
     const int posunX = zx - kam.Left;
-    const int prvni = std::max(o.Left, -posunX);
-    const int konec = std::min(o.Left + o.Width, zdroj.Sirka - posunX);
+    const int prvni = std::clamp(-posunX, o.Left, o.Left + o.Width);
+    const int konec = std::clamp(zdroj.Sirka - posunX, prvni, o.Left + o.Width);
+    const auto spoj = SPOJ_RADEK[static_cast<std::size_t>(jak)];
     for (int y = o.Top; y < o.Top + o.Height; ++y) {
         const Pixel* z = zdroj.Radka(std::clamp(y - kam.Top + zy, 0, zdroj.Vyska - 1));
         Pixel* c = cil.Radka(y);
-        if (jak == Prenos::Kopie && prvni == o.Left && konec == o.Left + o.Width) {
-            std::copy_n(z + prvni + posunX, konec - prvni, c + prvni);
-            continue;
-        }
-        for (int x = o.Left; x < o.Left + o.Width; ++x)
-            c[x] = Spoj(jak, c[x], z[std::clamp(x + posunX, 0, zdroj.Sirka - 1)], klic);
+        for (int x = o.Left; x < prvni; ++x) c[x] = Spoj(jak, c[x], z[0], klic);
+        spoj(c + prvni, z + prvni + posunX, konec - prvni, klic);
+        for (int x = konec; x < o.Left + o.Width; ++x)
+            c[x] = Spoj(jak, c[x], z[zdroj.Sirka - 1], klic);
     }
 }
 

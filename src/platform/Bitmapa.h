@@ -8,7 +8,8 @@
 
 namespace rysovna {
 
-/// A pixel as it is painted: 0xFFRRGGBB.
+/// A pixel as it is painted: 0xFFRRGGBB. On display bitmaps a pixel at the edge of the key colour
+/// is 0xAARRGGBB: its own colour, unmixed, and how much of the pixel that covers.
 using Pixel = std::uint32_t;
 
 constexpr Pixel DoPixelu(Barva b) {
@@ -83,11 +84,13 @@ struct Bitmapa {
 
 /// How pixels get from one bitmap to another.
 enum class Prenos {
-    Kopie,          ///< as they are
-    BezKlice,       ///< those of the key colour are left out
-    Soucin,         ///< and
-    Soucet,         ///< or
-    NaJednobitovou  ///< the key to white, all else to black
+    Kopie,           ///< as they are
+    BezKlice,        ///< those of the key colour are left out, those at its edge mixed in
+    Soucin,          ///< and
+    Soucet,          ///< or
+    SoucinPodilu,    ///< what "and" is for masks with greys at their edges
+    SoucetPodilu,    ///< what "or" is for such
+    NaJednobitovou,  ///< the key to white, all else to black, the key's edge to grey
 };
 
 /// Brings the pixels of the source at zx, zy to the rectangle kam, one to one; where the source
@@ -97,9 +100,9 @@ void Prenes(const Vyhled& cil, const Obdelnik& kam, const Obdelnik& orez, const 
             int zx, int zy, Prenos jak, Pixel klic = KLIC);
 
 /// The picture in another size. Averages when it gets smaller, mixes neighbours when it gets
-/// larger. A picture with the key colour keeps it pure: a pixel whose middle falls on the key is
-/// the key, all others are mixed of the other colours alone.
-/// The highest byte of the source's pixels does not matter.
+/// larger. A picture with the key colour keeps it pure: what is all key is the key, all other
+/// pixels are mixed of the other colours alone and say how much of them is not key. The highest
+/// byte of the source's pixels does not matter.
 [[nodiscard]] Bitmapa Preskaluj(const PohledKeCteni& zdroj, int sirka, int vyska, bool sKlicem);
 
 }  // namespace rysovna

@@ -35,6 +35,7 @@ struct PolozkaTextu {
     Pismo Font;
     std::string Text;
     Pixel Barva;
+    bool Svatozar = false;  ///< above the lines, on a ground of its own
 };
 struct PolozkaVyplne {
     Obdelnik Kam;

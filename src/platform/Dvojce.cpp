@@ -1,5 +1,6 @@
 #include <cairo.h>
 #include <cmath>
+#include <span>
 
 #include "platform/DisplayList.h"
 #include "platform/Pisma.h"
@@ -7,6 +8,9 @@
 namespace rysovna {
 
 namespace {
+
+/// How far the ground of a label reaches beyond its letters, design pixels.
+constexpr double SVATOZAR = 1.4;
 
 /// Paints items of a display list over a bitmap at a scale. Strokes go through Cairo, everything
 /// else is done on the pixels.
@@ -26,8 +30,9 @@ public:
         Tah(u.Barva, sirka);
         const bool svisla = u.X1 == u.X2;
         const bool vodorovna = u.Y1 == u.Y2;
+        // A line of no length is a dot, which Cairo draws with round ends alone.
         cairo_set_line_cap(cairo_,
-                           svisla || vodorovna ? CAIRO_LINE_CAP_SQUARE : CAIRO_LINE_CAP_ROUND);
+                           svisla != vodorovna ? CAIRO_LINE_CAP_SQUARE : CAIRO_LINE_CAP_ROUND);
         const double x1 = svisla ? NaMrizku(u.X1, sirka) : Stred(u.X1);
         const double x2 = svisla ? x1 : Stred(u.X2);
         const double y1 = vodorovna ? NaMrizku(u.Y1, sirka) : Stred(u.Y1);
@@ -52,8 +57,35 @@ public:
 
     void operator()(const PolozkaTextu& t) {
         Dokonci();
-        KresliText(cil_.Pohled(), cil_.Pohled().Meze(), static_cast<double>(t.X) * s_,
-                   static_cast<double>(t.Y) * s_, s_, t.Font, t.Text, t.Barva, Hladkost::Seda);
+        if (MaSvatozar(t)) return;  // printed by Popisky
+        Vytiskni(t);
+    }
+
+    /// Prints the labels among the items: first the grounds of all, so that none takes a bit of
+    /// another's letters.
+    void Popisky(std::span<const Polozka> polozky, Pixel podklad) {
+        Dokonci();
+        const int polomer = std::max(1, static_cast<int>(std::lround(SVATOZAR * s_)));
+        for (const bool pismena : {false, true}) {
+            for (const Polozka& p : polozky) {
+                const auto* t = std::get_if<PolozkaTextu>(&p);
+                if (t == nullptr || !MaSvatozar(*t)) continue;
+                if (pismena) {
+                    Vytiskni(*t);
+                } else {
+                    KresliSvatozar(cil_.Pohled(), static_cast<double>(t->X) * s_,
+                                   static_cast<double>(t->Y) * s_, s_, t->Font, t->Text, podklad,
+                                   polomer);
+                }
+            }
+        }
+    }
+
+    /// Whether what lies over the labels may leave them above it.
+    static bool JePodPopisky(const Polozka& p) {
+        return std::holds_alternative<PolozkaUsecky>(p) ||
+               std::holds_alternative<PolozkaKruznice>(p) ||
+               std::holds_alternative<PolozkaTextu>(p);
     }
 
     void operator()(const PolozkaVyplne& v) {
@@ -74,7 +106,8 @@ public:
         Dokonci();
         Bitmapa docasna;
         Prenes(cil_.Pohled(), Zvetsi(k.Kam, s_), cil_.Pohled().Meze(),
-               Vykresli(k.Zdroj, s_, docasna), Zvetsi(k.ZX, s_), Zvetsi(k.ZY, s_), k.Jak, k.Klic);
+               Vykresli(k.Zdroj, s_, docasna), Zvetsi(k.ZX, s_), Zvetsi(k.ZY, s_), Podily(k.Jak),
+               k.Klic);
     }
 
     void operator()(const PolozkaPixelu& p) {
@@ -85,7 +118,7 @@ public:
         const bool ostre = p.Jak != Prenos::Kopie;
         const Bitmapa vetsi =
             ostre ? Zopakuj(*p.Co, kam) : Preskaluj(p.Co->KeCteni(), kam.Width, kam.Height, true);
-        Prenes(cil_.Pohled(), kam, cil_.Pohled().Meze(), vetsi, 0, 0, p.Jak, p.Klic);
+        Prenes(cil_.Pohled(), kam, cil_.Pohled().Meze(), vetsi, 0, 0, Podily(p.Jak), p.Klic);
     }
 
     void operator()(const PolozkaObraceni& o) {
@@ -93,7 +126,17 @@ public:
         cil_.Pohled().Obrat(Zvetsi(o.Kde, s_));
     }
 
+    /// Whether Cairo painted anything.
+    [[nodiscard]] bool Tahl() const { return cairo_ != nullptr; }
+
 private:
+    [[nodiscard]] bool MaSvatozar(const PolozkaTextu& t) const { return t.Svatozar && s_ > 1; }
+
+    void Vytiskni(const PolozkaTextu& t) {
+        KresliText(cil_.Pohled(), cil_.Pohled().Meze(), static_cast<double>(t.X) * s_,
+                   static_cast<double>(t.Y) * s_, s_, t.Font, t.Text, t.Barva, Hladkost::Seda);
+    }
+
     static Bitmapa Zopakuj(const Bitmapa& zdroj, const Obdelnik& kam) {
         Bitmapa cil(kam.Width, kam.Height, 0);
         for (int y = 0; y < cil.Vyska; ++y) {
@@ -102,6 +145,14 @@ private:
                 cil.Pohled().Radka(y)[x] = z[x * zdroj.Sirka / cil.Sirka];
         }
         return cil;
+    }
+
+    /// Masks have greys at their edges once they are enlarged.
+    [[nodiscard]] Prenos Podily(Prenos jak) const {
+        if (s_ == 1) return jak;
+        return jak == Prenos::Soucin   ? Prenos::SoucinPodilu
+               : jak == Prenos::Soucet ? Prenos::SoucetPodilu
+                                       : jak;
     }
 
     /// The middle of a design pixel.
@@ -152,8 +203,21 @@ Bitmapa Zaklad(const DisplayList& seznam, double s) {
 void Prehraj(const DisplayList& seznam, std::size_t od, std::size_t po, double s, Bitmapa& b) {
     if (b.Prazdna()) return;
     Prehravac prehravac(b, s);
-    for (std::size_t i = od; i < po; ++i) std::visit(prehravac, seznam.Polozky[i]);
+    // The labels since the last item that is more than lines and text go over all that came since.
+    std::size_t popisky = od;
+    while (popisky > 0 && Prehravac::JePodPopisky(seznam.Polozky[popisky - 1])) --popisky;
+    const auto vytiskni = [&](std::size_t az) {
+        const std::span<const Polozka> vse(seznam.Polozky);
+        prehravac.Popisky(vse.subspan(popisky, az - popisky), seznam.Pozadi);
+        popisky = az + 1;
+    };
+    for (std::size_t i = od; i < po; ++i) {
+        if (!Prehravac::JePodPopisky(seznam.Polozky[i])) vytiskni(i);
+        std::visit(prehravac, seznam.Polozky[i]);
+    }
+    if (popisky < po) vytiskni(po);
     // What Cairo leaves in the unused byte is not ours to rely on.
+    if (!prehravac.Tahl()) return;
     for (Pixel& p : b.Body) p |= 0xFF000000u;
 }
 

@@ -4,6 +4,7 @@
 #include <cairo.h>
 #include <cmath>
 
+#include "platform/Paleta.h"
 #include "platform/Pisma.h"
 #include "platform/PsaniTextu.h"
 #include "platform/SurfaceVnitrek.h"
@@ -13,10 +14,8 @@ namespace rysovna {
 
 namespace {
 
-constexpr Pixel VYBER = DoPixelu(Rgb(36, 60, 120));
-constexpr Pixel OBRYS = DoPixelu(Rgb(120, 128, 148));
-constexpr Barva ZASEDLY = Rgb(158, 160, 168);  ///< text of what cannot be pressed
-constexpr Pixel OBRYS_ZAMERENY = DoPixelu(Rgb(36, 60, 120));
+constexpr Pixel VYBER = DoPixelu(paleta::VYBER);
+constexpr Pixel OBRYS = DoPixelu(paleta::OBRYS);
 
 /// FNV-1a over whatever makes a look.
 class Otisk {
@@ -95,10 +94,10 @@ void Namaluj(const Kresba& k, const Obdelnik& kde, const Label& l) {
     if (l.Caption.empty()) return;
     int y = kde.Top;
     for (const std::string& radek :
-         RozdelNaRadky(l.Font, l.Caption, l.WordWrap ? std::max(l.Width, 1) : 0)) {
+         RozdelNaRadky(l.Font, l.Tisteny(), l.WordWrap ? std::max(l.Width, 1) : 0)) {
         const double volno = l.Alignment == 0 ? 0 : kde.Width - PresnaSirka(l.Font, radek);
         Radek(k, kde.Left + (l.Alignment == 2 ? volno / 2 : volno), y, l.Font, radek,
-              DoPixelu(l.Enabled ? l.ForeColor : ZASEDLY), misto);
+              DoPixelu(l.Enabled ? l.ForeColor : paleta::ZASEDLA), misto);
         y += VyskaRadku(l.Font);
     }
 }
@@ -114,7 +113,7 @@ void NamalujRadkyTextu(const Kresba& k, const Obdelnik& kde, const TextBox& t) {
 
 void Namaluj(const Kresba& k, const Obdelnik& kde, const TextBox& t, bool zamereny) {
     k.Cil.Vypln(Prunik(k.NaCil(kde), k.Orez), DoPixelu(t.BackColor));
-    Ram(k, kde, zamereny ? OBRYS_ZAMERENY : OBRYS);
+    Ram(k, kde, zamereny ? VYBER : OBRYS);
     if (t.MultiLine) {
         NamalujRadkyTextu(k, kde, t);
         return;
@@ -261,6 +260,7 @@ std::uint64_t OtiskObjektu(const Umisteny& u, bool kurzor) {
             o.Pridej(l.BackColor);
             o.Pridej(l.WordWrap);
             o.Pridej(l.Alignment);
+            o.Pridej(l.Sazba);
             break;
         }
         case Ovladac::Typ::TextBox: {

@@ -8,6 +8,7 @@
 
 #include "platform/Dotyk.h"
 #include "platform/MalirObjektu.h"
+#include "platform/Paleta.h"
 #include "platform/Pisma.h"
 #include "platform/TahNad.h"
 
@@ -19,10 +20,10 @@ constexpr int ODSTUP_PRSTENU = 2;                  // px, of its middle from wha
 constexpr int SIRKA_PRSTENU = 2, LEM_PRSTENU = 4;  // px, of its line and of the light one below
 constexpr int ROH_PRSTENU = 3;                     // px
 constexpr int RAMENO_KRIZE = 9, MEZERA_KRIZE = 2;  // px from the middle
-constexpr Barva BARVA_PRSTENU = Rgb(196, 72, 0);
+constexpr Barva BARVA_PRSTENU = paleta::ACCENT;
 constexpr double PI = 3.14159265358979323846;
 
-constexpr Barva BARVA_OHLASU = Rgb(36, 60, 120);
+constexpr Barva BARVA_OHLASU = paleta::INKOUST;
 constexpr int POLOMER_ZACHYTNEHO = 6;  // px
 constexpr int LEM_ZACHYTNEHO = 3;      // px, of the light ring below
 constexpr int PLNOST_STISKU = 2;       // px, of the frame of what is pressed

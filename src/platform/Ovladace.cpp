@@ -4,6 +4,7 @@
 
 #include "platform/Pisma.h"
 #include "platform/PsaniTextu.h"
+#include "platform/Sazba.h"
 
 namespace rysovna {
 
@@ -22,7 +23,12 @@ Surface& PictureBox::Plocha() {
 }
 
 void Label::PodleTextu() {
-    Width = SirkaTextu(Font, Caption);
+    Width = SirkaTextu(Font, Tisteny());
+}
+
+std::string Label::Tisteny() const {
+    // The letters of Symbol stand for signs already.
+    return Sazba && Font.Nazev != Pismo::Rez::Symbol ? Vysad(Caption) : Caption;
 }
 
 std::vector<std::string> TextBox::Radky() const {

@@ -103,7 +103,10 @@ struct Label : Ovladac {
     bool WordWrap = true;         ///< breaks lines at blanks to the width
     /// 0 left, 1 right, 2 centred
     int Alignment = 0;
-    /// Sets Width to the caption's width (a label with a single row).
+    bool Sazba = false;  ///< painted as a textbook prints it; the caption stays as it is
+    /// The caption as it is painted.
+    [[nodiscard]] std::string Tisteny() const;
+    /// Sets Width to the width of what is painted (a label with a single row).
     void PodleTextu();
 };
 

@@ -13,6 +13,7 @@
 #include "base/Chyba.h"
 #include "base/Text.h"
 #include "platform/Host.h"
+#include "platform/Sazba.h"
 #include "platform/Surface.h"
 
 namespace rysovna {
@@ -37,6 +38,9 @@ constexpr int CTVRTINY = 4;
 constexpr double MALE_MERITKO = 1.5;
 /// Glyphs kept; a window that is drawn through many sizes would pile them up.
 constexpr std::size_t NEJVIC_GLYFU = 4000;
+
+/// A lower index is this much smaller than the text around it, and lower by this much of its size.
+constexpr double VELIKOST_INDEXU = 0.75, POKLES_INDEXU = 0.2;
 
 struct Glyf {
     int Vlevo = 0, Nahore = 0, Sirka = 0, Vyska = 0;
@@ -202,6 +206,50 @@ std::u32string ZnakyPisma(const Pismo& p, std::string_view text) {
     return znaky;
 }
 
+/// The character itself, which may stand as an index, and its size.
+struct Tisk {
+    char32_t Znak;
+    bool Index;
+    double Podil;  ///< of the text's size
+};
+Tisk RozlisIndex(char32_t znak) {
+    const bool index = znak >= DOLNI_INDEX && znak < DOLNI_INDEX + 0x80;
+    return {index ? znak - DOLNI_INDEX : znak, index, index ? VELIKOST_INDEXU : 1};
+}
+
+/// Unrounded advance, parts of the text's size.
+double PosuvTisku(int rez, char32_t znak) {
+    const Tisk t = RozlisIndex(znak);
+    return Pisma().Posuv(rez, t.Znak) * t.Podil;
+}
+
+/// Goes through the glyphs of a row: ukaz(x, y, glyph), x and y being its top left pixel.
+template <class F>
+void ProGlyfy(double x, double y, double s, const Pismo& pismo, std::string_view text,
+              Hladkost hladkost, F ukaz) {
+    const Rezim rezim = hladkost == Hladkost::Logicka ? Rezim::Logicky
+                        : s < MALE_MERITKO            ? Rezim::Maly
+                                                      : Rezim::Velky;
+    const double velikost = Velikost(pismo) * s;
+    const int rez = CisloRezu(pismo);
+    const double ucari = y + Horni(pismo) * s;
+    for (const char32_t znak : ZnakyPisma(pismo, text)) {
+        double zacatek = std::floor(x + 0.5);
+        int ctvrtina = 0;
+        if (rezim != Rezim::Logicky) {
+            const double naCtvrtiny = std::floor(x * CTVRTINY + 0.5) / CTVRTINY;
+            zacatek = std::floor(naCtvrtiny);
+            ctvrtina = static_cast<int>((naCtvrtiny - zacatek) * CTVRTINY);
+        }
+        const Tisk t = RozlisIndex(znak);
+        const Glyf& g = Pisma().DejGlyf(
+            rez, t.Znak, static_cast<int>(std::lround(velikost * t.Podil * 64)), rezim, ctvrtina);
+        const double dole = std::floor(ucari + (t.Index ? POKLES_INDEXU * velikost : 0) + 0.5);
+        ukaz(static_cast<int>(zacatek) + g.Vlevo, static_cast<int>(dole) - g.Nahore, g);
+        x += PosuvTisku(rez, znak) * velikost;
+    }
+}
+
 void Otiskni(const Vyhled& cil, const Obdelnik& orez, int x, int y, const Glyf& g, Pixel barva) {
     const Obdelnik o = Prunik(Prunik({x, y, g.Sirka, g.Vyska}, orez), cil.Meze());
     for (int py = o.Top; py < o.Top + o.Height; ++py) {
@@ -233,38 +281,35 @@ bool JdeZalomit(std::u32string_view znaky, std::size_t mezera) {
 
 void KresliText(const Vyhled& cil, const Obdelnik& orez, double x, double y, double s,
                 const Pismo& pismo, std::string_view text, Pixel barva, Hladkost hladkost) {
-    const Rezim rezim = hladkost == Hladkost::Logicka ? Rezim::Logicky
-                        : s < MALE_MERITKO            ? Rezim::Maly
-                                                      : Rezim::Velky;
-    const double velikost = Velikost(pismo) * s;
-    const int rez = CisloRezu(pismo);
-    const auto ucari = static_cast<int>(std::floor(y + Horni(pismo) * s + 0.5));
-    for (const char32_t znak : ZnakyPisma(pismo, text)) {
-        double zacatek = std::floor(x + 0.5);
-        int ctvrtina = 0;
-        if (rezim != Rezim::Logicky) {
-            const double naCtvrtiny = std::floor(x * CTVRTINY + 0.5) / CTVRTINY;
-            zacatek = std::floor(naCtvrtiny);
-            ctvrtina = static_cast<int>((naCtvrtiny - zacatek) * CTVRTINY);
+    ProGlyfy(x, y, s, pismo, text, hladkost,
+             [&](int gx, int gy, const Glyf& g) { Otiskni(cil, orez, gx, gy, g, barva); });
+}
+
+void KresliSvatozar(const Vyhled& cil, double x, double y, double s, const Pismo& pismo,
+                    std::string_view text, Pixel barva, int polomer) {
+    ProGlyfy(x, y, s, pismo, text, Hladkost::Seda, [&](int gx, int gy, const Glyf& g) {
+        for (int i = 0; i < g.Sirka * g.Vyska; ++i) {
+            if (g.Kryti[static_cast<std::size_t>(i)] == 0) continue;
+            const int px = gx + i % g.Sirka;
+            const int py = gy + i / g.Sirka;
+            for (int d = -polomer; d <= polomer; ++d) {
+                const int w = static_cast<int>(std::sqrt(polomer * polomer - d * d));
+                cil.Vypln({px - w, py + d, 2 * w + 1, 1}, barva);
+            }
         }
-        const Glyf& g = Pisma().DejGlyf(rez, znak, static_cast<int>(std::lround(velikost * 64)),
-                                        rezim, ctvrtina);
-        Otiskni(cil, orez, static_cast<int>(zacatek) + g.Vlevo, ucari - g.Nahore, g, barva);
-        x += Pisma().Posuv(rez, znak) * velikost;
-    }
+    });
 }
 
 double PresnaSirka(const Pismo& pismo, std::string_view text) {
     double sirka = 0;
-    for (const char32_t znak : ZnakyPisma(pismo, text))
-        sirka += Pisma().Posuv(CisloRezu(pismo), znak);
+    for (const char32_t znak : ZnakyPisma(pismo, text)) sirka += PosuvTisku(CisloRezu(pismo), znak);
     return sirka * Velikost(pismo);
 }
 
 std::vector<double> Zacatky(const Pismo& pismo, std::string_view text) {
     std::vector<double> zacatky{0};
     for (const char32_t znak : ZnakyPisma(pismo, text))
-        zacatky.push_back(zacatky.back() + Pisma().Posuv(CisloRezu(pismo), znak) * Velikost(pismo));
+        zacatky.push_back(zacatky.back() + PosuvTisku(CisloRezu(pismo), znak) * Velikost(pismo));
     return zacatky;
 }
 

@@ -20,6 +20,11 @@ enum class Hladkost {
 void KresliText(const Vyhled& cil, const Obdelnik& orez, double x, double y, double s,
                 const Pismo& pismo, std::string_view text, Pixel barva, Hladkost hladkost);
 
+/// Fills what lies within so many pixels of the glyphs that KresliText would print: the ground on
+/// which a label can be read over lines. Hard edges, so that doing it again changes nothing.
+void KresliSvatozar(const Vyhled& cil, double x, double y, double s, const Pismo& pismo,
+                    std::string_view text, Pixel barva, int polomer);
+
 /// Unrounded width, design pixels.
 [[nodiscard]] double PresnaSirka(const Pismo& pismo, std::string_view text);
 /// Where each character begins and, last, where the text ends, design pixels: one value more than

@@ -101,7 +101,7 @@ void Surface::Print(std::string_view text) {
     const Vyhled cil = vnitrek_->Logicka.Pohled();
     KresliText(cil, cil.Meze(), static_cast<double>(CurrentX), static_cast<double>(CurrentY), 1,
                Font, text, barva, Hladkost::Logicka);
-    vnitrek_->Pridej(PolozkaTextu{CurrentX, CurrentY, Font, std::string(text), barva});
+    vnitrek_->Pridej(PolozkaTextu{CurrentX, CurrentY, Font, std::string(text), barva, Svatozar});
 }
 
 int Surface::TextWidth(std::string_view text) const {

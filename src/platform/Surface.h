@@ -32,6 +32,10 @@ public:
     [[nodiscard]] std::unique_ptr<Plane> CreateCompatibleBitmap(int w, int h) const override;
     [[nodiscard]] std::unique_ptr<Plane> CreateMonoBitmap(int w, int h) const override;
 
+    /// Enlarged, the printed text stays above the lines, on a ground of its own: labels are read
+    /// wherever later lines go. At 1:1 all is as drawn.
+    bool Svatozar = false;
+
     /// A filled disc, in ForeColor.
     void Kotouc(float x, float y, float r);
     /// A filled rectangle.

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "platform/Obrazovky.h"
+#include "platform/Paleta.h"
 #include "platform/Pisma.h"
 
 namespace rysovna {
@@ -17,13 +18,6 @@ constexpr int IKONA = 36;
 constexpr int NEJVETSI_SIRKA_TEXTU = 380;
 constexpr int NEJMENSI_SIRKA = 260;
 constexpr int SIRKA_TLACITKA = 94, VYSKA_TLACITKA = 26, MEZERA_TLACITEK = 10;
-
-constexpr Barva PAPIR = Rgb(250, 248, 240);
-constexpr Barva INKOUST = Rgb(24, 36, 72);
-constexpr Barva TITULEK = Rgb(36, 60, 120);
-constexpr Barva LINKA = Rgb(150, 160, 185);
-constexpr Barva TLACITKO = Rgb(228, 232, 242);
-constexpr Barva STOP = Rgb(196, 44, 44);
 
 /// The buttons of each kind of box, left to right; the last answers Escape.
 struct TlacitkoZpravy {
@@ -51,7 +45,7 @@ ZpravaForm::ZpravaForm(const std::string& text, const std::string& titul, Styl s
     const auto popisy = TlacitkaStylu(styl);
     vysledek_ = popisy.back().Odpovi;
     Caption = titul;
-    BackColor = INKOUST;
+    BackColor = paleta::ZPRAVA_INKOUST;
 
     const Pismo pismo = PismoZpravy(10, false);
     const std::vector<std::string> radky = RozdelNaRadky(pismo, text, NEJVETSI_SIRKA_TEXTU);
@@ -69,11 +63,11 @@ ZpravaForm::ZpravaForm(const std::string& text, const std::string& titul, Styl s
     Top = (NAVRH_VYSKA - Height) / 2;
 
     Pridej(ram_, "ram", {1, 1, Width - 2, Height - 2});
-    ram_.BackColor = PAPIR;
+    ram_.BackColor = paleta::ZPRAVA_PAPIR;
     ram_.Enabled = false;
 
     Pridej(pruh_, "pruh", {1, 1, Width - 2, VYSKA_TITULKU});
-    pruh_.BackColor = TITULEK;
+    pruh_.BackColor = paleta::VYBER;
     Pridej(titulek_, "titulek", {OKRAJ / 2, 5, Width - OKRAJ, VYSKA_TITULKU - 6});
     titulek_.Caption = titul;
     titulek_.ForeColor = BILA;
@@ -82,7 +76,7 @@ ZpravaForm::ZpravaForm(const std::string& text, const std::string& titul, Styl s
 
     Pridej(ikona_, "ikona",
            {OKRAJ, VYSKA_TITULKU + OKRAJ + (vyskaObsahu - IKONA) / 2, IKONA, IKONA});
-    ikona_.BackColor = PAPIR;
+    ikona_.BackColor = paleta::ZPRAVA_PAPIR;
     NakresliIkonu(styl);
 
     int y = VYSKA_TITULKU + OKRAJ + (vyskaObsahu - vyskaTextu) / 2;
@@ -91,7 +85,7 @@ ZpravaForm::ZpravaForm(const std::string& text, const std::string& titul, Styl s
         Pridej(radek, "text", {2 * OKRAJ + IKONA, y, sirkaTextu + 2, vyskaRadku});
         radek.Index = static_cast<int>(radky_.size());
         radek.Caption = r;
-        radek.ForeColor = INKOUST;
+        radek.ForeColor = paleta::ZPRAVA_INKOUST;
         radek.Font = pismo;
         radek.WordWrap = false;
         y += vyskaRadku;
@@ -116,9 +110,9 @@ void ZpravaForm::NakresliIkonu(Styl styl) {
         Barva Kruh;
         std::string_view Znak;
     };
-    const Vzhled vzhled = styl == Styl::Stop          ? Vzhled{STOP, ""}
-                          : styl == Styl::OtazkaAnoNe ? Vzhled{TITULEK, "?"}
-                                                      : Vzhled{TITULEK, "i"};
+    const Vzhled vzhled = styl == Styl::Stop          ? Vzhled{paleta::ZPRAVA_STOP, ""}
+                          : styl == Styl::OtazkaAnoNe ? Vzhled{paleta::VYBER, "?"}
+                                                      : Vzhled{paleta::VYBER, "i"};
     Surface& p = ikona_.Plocha();
     constexpr float STRED = static_cast<float>(IKONA) / 2;
     p.ForeColor = vzhled.Kruh;
@@ -142,12 +136,12 @@ void ZpravaForm::NakresliTlacitka() {
         PictureBox& t = *Tlacitka[i];
         const bool svit = i == vybrane_;
         Surface& p = t.Plocha();
-        p.BackColor = svit ? TITULEK : LINKA;
+        p.BackColor = svit ? paleta::VYBER : paleta::ZPRAVA_LINKA;
         p.Cls();
-        p.Vypln(1, 1, t.Width - 2, t.Height - 2, svit ? TITULEK : TLACITKO);
+        p.Vypln(1, 1, t.Width - 2, t.Height - 2, svit ? paleta::VYBER : paleta::ZPRAVA_TLACITKO);
         p.Font = t.Font;
         p.Font.Tucne = svit;
-        p.ForeColor = svit ? BILA : INKOUST;
+        p.ForeColor = svit ? BILA : paleta::ZPRAVA_INKOUST;
         p.CurrentX = std::floor(static_cast<float>(t.Width - SirkaTextu(p.Font, t.Tag)) / 2);
         p.CurrentY = std::floor(static_cast<float>(t.Height - VyskaRadku(p.Font)) / 2);
         p.Print(t.Tag);

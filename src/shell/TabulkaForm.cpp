@@ -7,6 +7,7 @@
 #include "base/Cisla.h"
 #include "base/Text.h"
 #include "platform/Host.h"
+#include "platform/Paleta.h"
 #include "platform/Surface.h"
 #include "shell/HelpForm.h"
 #include "shell/Misc.h"
@@ -21,7 +22,6 @@ constexpr int ROZTEC_RADKU = 30;      // px
 constexpr float PISMO_RADKU = 10.0F;  // points: a name of 35 letters fits its column
 
 constexpr float PISMO_STUPNICE = 8.0F, PISMO_VYSLEDKU = 9.0F;
-constexpr Barva VLASTNI = Rgb(252, 223, 203);  // behind the pupil's own row
 
 /// "Známky: 1 od 90 %, 2 od 75 %": the rows of the grade table, the best grade first.
 std::string TextStupnice() {
@@ -67,7 +67,7 @@ TabulkaForm::TabulkaForm() {
     Pridej(picKonec, "picKonec", {546, 5, 91, 75});
     Pridej(LVysledek, "LVysledek", {32, 452, 576, 16});
     Pridej(LStupnice, "LStupnice", {32, 105, 336, 13});
-    LVlastni.BackColor = VLASTNI;
+    LVlastni.BackColor = paleta::VLASTNI;
     LVlastni.Visible = LVysledek.Visible = false;
     INadpis.Zastavka = 1;
     picKonec.Zastavka = 2;
@@ -123,6 +123,10 @@ void TabulkaForm::UkazVysledek(int misto, const Vysledek& vysledek) {
     if (LVlastni.Visible) {
         constexpr int NAD_RADKEM = 5;  // px
         LVlastni.Top = LJmeno[k].Top - NAD_RADKEM;
+        // Bold too: not everybody sees the light ground.
+        for (auto* sloupec : {&LPoradi, &LJmeno, &LSpravne, &LSpatne, &LZnamka})
+            (*sloupec)[k].Font.Tucne = true;
+        LJmeno[k].Caption = Vejde(zaznamy_[k].Jmeno, LJmeno[k].Font, LJmeno[k].Width);
         return;
     }
     const ZaznamTabulky& z = zaznamy_[k];

@@ -93,7 +93,23 @@ TEST_F(NaStroji, PreskalovaniDrziBarvyAKlic) {
     Bitmapa plna(30, 20, DoPixelu(Rgb(12, 200, 77)));
     plna.Pohled().Vypln({0, 0, 15, 20}, KLIC);
     const Bitmapa b = Preskaluj(plna.KeCteni(), 67, 45, true);
-    for (const Pixel p : b.Body) ASSERT_TRUE(p == KLIC || p == DoPixelu(Rgb(12, 200, 77)));
+    // Neither mixes: at the edge the colour is the whole one, and the highest byte tells its share.
+    double podil = 0;
+    for (const Pixel p : b.Body) {
+        if (p == KLIC) continue;
+        ASSERT_EQ(p | 0xFF000000u, DoPixelu(Rgb(12, 200, 77)));
+        podil += (p >> 24) / 255.0;
+    }
+    EXPECT_NEAR(podil, 67 * 45 / 2.0, 5) << "the edge stays in the middle";
+    // Laid on another colour, the edge is mixed by that share, and what comes out covers all.
+    Bitmapa cil(67, 45, DoPixelu(Rgb(212, 200, 77)));
+    Prenes(cil.Pohled(), {0, 0, 67, 45}, cil.Pohled().Meze(), b, 0, 0, Prenos::BezKlice);
+    double polozeno = 0;
+    for (const Pixel p : cil.Body) {
+        ASSERT_EQ(p & 0xFF00FFFFu, 0xFF00C84Du);
+        polozeno += (212 - (p >> 16 & 0xFF)) / 200.0;
+    }
+    EXPECT_NEAR(polozeno, podil, 1);
     // Without the key the edge is smooth, and halving averages exactly.
     Bitmapa pruhy(4, 1, DoPixelu(CERNA));
     pruhy.Pohled().Vypln({1, 0, 1, 1}, DoPixelu(BILA));

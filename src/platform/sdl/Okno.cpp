@@ -21,17 +21,38 @@ Obdelnik CelyMonitor(int monitor) {
     return {r.x, r.y, r.w, r.h};
 }
 
-/// The largest whole multiple of the design size that the monitor has room for, in its middle.
-Obdelnik MistoOkna(int monitor) {
+/// What a window manager's frame is taken to be until it has made one.
+constexpr RamOkna OBVYKLY_RAM{4, 36, 4, 4};
+
+/// What the desktop leaves of the monitor beside its panels.
+Obdelnik VolnaPlocha(int monitor) {
     SDL_Rect r{0, 0, NAVRH_SIRKA, NAVRH_VYSKA};
     if (SDL_GetDisplayUsableBounds(monitor, &r) != 0) SDL_GetDisplayBounds(monitor, &r);
-    const int n = std::max(std::min(r.w / NAVRH_SIRKA, r.h / NAVRH_VYSKA), 1);
-    const int w = n * NAVRH_SIRKA;
-    const int h = n * NAVRH_VYSKA;
-    return {r.x + std::max((r.w - w) / 2, 0), r.y + std::max((r.h - h) / 2, 0), w, h};
+    return {r.x, r.y, r.w, r.h};
+}
+
+RamOkna RamKolem(SDL_Window* okno) {
+    if (!MaSpravceOken(okno)) return {};
+    RamOkna ram;
+    if (SDL_GetWindowBordersSize(okno, &ram.Nahore, &ram.Vlevo, &ram.Dole, &ram.Vpravo) != 0 ||
+        ram.Nahore == 0)
+        return OBVYKLY_RAM;
+    return ram;
 }
 
 }  // namespace
+
+Obdelnik MistoOkna(const Obdelnik& plocha, const RamOkna& ram) {
+    const int sirka = plocha.Width - ram.Vlevo - ram.Vpravo;
+    const int vyska = plocha.Height - ram.Nahore - ram.Dole;
+    // The sides are 4 to 3: by so many units of both.
+    static_assert(NAVRH_SIRKA * 3 == NAVRH_VYSKA * 4);
+    const int dilku = std::max(std::min(sirka / 4, vyska / 3), NAVRH_SIRKA / 4);
+    const int w = dilku * 4;
+    const int h = dilku * 3;
+    return {plocha.Left + ram.Vlevo + std::max((sirka - w) / 2, 0),
+            plocha.Top + ram.Nahore + std::max((vyska - h) / 2, 0), w, h};
+}
 
 Okno::~Okno() {
     Zavri();
@@ -67,7 +88,8 @@ bool Okno::Otevri(bool celaObrazovka) {
         if (celaObrazovka != cela_) PrepniCelouObrazovku();
         return true;
     }
-    const Obdelnik kde = celaObrazovka ? CelyMonitor(monitor) : MistoOkna(monitor);
+    const Obdelnik kde =
+        celaObrazovka ? CelyMonitor(monitor) : MistoOkna(VolnaPlocha(monitor), OBVYKLY_RAM);
     const Uint32 vzhled = SDL_WINDOW_HIDDEN | SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI |
                           (celaObrazovka ? Uint32{SDL_WINDOW_BORDERLESS} : 0U);
     okno_ = SDL_CreateWindow(NAZEV, kde.Left, kde.Top, kde.Width, kde.Height, vzhled);
@@ -76,6 +98,7 @@ bool Okno::Otevri(bool celaObrazovka) {
     cela_ = celaObrazovka;
     if (cela_ && MaSpravceOken(okno_))
         SDL_SetWindowFullscreen(okno_, SDL_WINDOW_FULLSCREEN_DESKTOP);
+    if (!cela_) Umisti(MistoOkna(VolnaPlocha(monitor), RamKolem(okno_)));
     malir_->Znovu();
     return true;
 }
@@ -95,11 +118,11 @@ void Okno::PrepniCelouObrazovku() {
         } else {
             SDL_SetWindowFullscreen(okno_, 0);
             SDL_SetWindowBordered(okno_, SDL_TRUE);
-            Umisti(MistoOkna(monitor));
+            Umisti(MistoOkna(VolnaPlocha(monitor), RamKolem(okno_)));
         }
     } else {
         SDL_SetWindowBordered(okno_, cela_ ? SDL_FALSE : SDL_TRUE);
-        Umisti(cela_ ? CelyMonitor(monitor) : MistoOkna(monitor));
+        Umisti(cela_ ? CelyMonitor(monitor) : MistoOkna(VolnaPlocha(monitor), RamKolem(okno_)));
     }
     malir_->Znovu();
 }

@@ -9,6 +9,15 @@ struct SDL_Window;
 
 namespace rysovna {
 
+/// What a frame takes around a window, px.
+struct RamOkna {
+    int Vlevo = 0, Nahore = 0, Vpravo = 0, Dole = 0;
+};
+
+/// Where an ordinary window opens: as large as the desktop's area allows with the frame around, in
+/// its middle; its sides as those of the design, which it is never smaller than.
+[[nodiscard]] Obdelnik MistoOkna(const Obdelnik& plocha, const RamOkna& ram);
+
 /// The window itself: opening, sizes, full screen, and putting the painter's pixels on it.
 class Okno {
 public:
@@ -21,8 +30,7 @@ public:
     [[nodiscard]] static int MonitorSMysi();
 
     /// Opens the window if it is not open yet, over the whole monitor with the pointer or as an
-    /// ordinary window of the largest whole multiple of the design size that fits. False if none
-    /// can be opened.
+    /// ordinary window as large as fits. False if none can be opened.
     bool Otevri(bool celaObrazovka);
     /// Puts it away for good.
     void Zavri();

@@ -14,6 +14,7 @@
 #include "platform/Form.h"
 #include "platform/Obrazovky.h"
 #include "platform/Surface.h"
+#include "platform/sdl/Okno.h"
 #include "shell/Misc.h"
 #include "shell/SelectForm.h"
 
@@ -228,6 +229,22 @@ TEST_F(NaOkne, KlavesySeOpakujiJenSipkamAPsani) {
     Davka({Klavesa(SDLK_END), Klavesa(SDLK_BACKSPACE), Klavesa(SDLK_BACKSPACE, true)});
     Ustal();
     EXPECT_EQ(form->Pole.Text, "x");
+}
+
+TEST(Okno, OtevreSeJakNejvetsiSeVejde) {
+    const RamOkna ram{5, 30, 7, 9};
+    for (const Obdelnik& plocha :
+         {Obdelnik{0, 0, 1366, 768}, {0, 27, 1920, 1053}, {1920, 0, 800, 1280}, {0, 0, 700, 530}}) {
+        const Obdelnik o = MistoOkna(plocha, ram);
+        EXPECT_EQ(o.Width * 3, o.Height * 4) << "whole design aspect";
+        const int vlevo = o.Left - 5 - plocha.Left;
+        const int nahore = o.Top - 30 - plocha.Top;
+        const int vpravo = plocha.Width - (o.Left - plocha.Left) - o.Width - 7;
+        const int dole = plocha.Height - (o.Top - plocha.Top) - o.Height - 9;
+        EXPECT_GE(std::min({vlevo, nahore, vpravo, dole}), 0) << "all on the desktop";
+        EXPECT_LT(std::min(vlevo + vpravo, nahore + dole), 4) << "no larger one would be";
+    }
+    EXPECT_EQ(MistoOkna({0, 0, 640, 480}, ram).Width, 640) << "never smaller than the design";
 }
 
 /// A press that was made while the program was busy may be older than the library says.
