@@ -58,7 +58,7 @@ private:
 /// The pad: three by three squares, arrows at the sides, "hotovo" in the middle; the corners are
 /// empty. Design px.
 struct Podlozka {
-    static constexpr int POLE = 40;  ///< side of a square: a finger's width on a small tablet
+    static constexpr int POLE = 44;  ///< side of a square: a finger's width on a small tablet
     static constexpr int STRANA = 3 * POLE;
     static constexpr int OKRAJ = 4;  ///< px from the corner of the plane
 

@@ -26,9 +26,10 @@ constexpr double PI = 3.14159265358979323846;
 constexpr Barva BARVA_OHLASU = paleta::INKOUST;
 constexpr int POLOMER_ZACHYTNEHO = 6;  // px
 constexpr int LEM_ZACHYTNEHO = 3;      // px, of the light ring below
-constexpr int PLNOST_STISKU = 2;       // px, of the frame of what is pressed
-constexpr int ROH_PODLOZKY = 6;        // px
-constexpr int VYSKA_SIPKY = 8;         // px, of an arrow from its base to its tip
+constexpr Barva BARVA_RAMU = paleta::ACCENT;
+constexpr int PLNOST_STISKU = 2;  // px, of the frame of what is pressed
+constexpr int ROH_PODLOZKY = 6;   // px
+constexpr int VYSKA_SIPKY = 8;    // px, of an arrow from its base to its tip
 constexpr std::string_view HOTOVO = "hotovo";
 
 /// What the ring goes round, kept on the design area.
@@ -41,12 +42,23 @@ Obdelnik RamPrstenu(const Obdelnik& o) {
     return {x1, y1, x2 - x1, y2 - y1};
 }
 
-/// A frame just inside a rectangle of the design.
+/// The path of a rectangle with round corners, target px.
+void Zaobleny(cairo_t* c, double x1, double y1, double x2, double y2, double r) {
+    cairo_new_sub_path(c);
+    cairo_arc(c, x2 - r, y1 + r, r, -PI / 2, 0);
+    cairo_arc(c, x2 - r, y2 - r, r, 0, PI / 2);
+    cairo_arc(c, x1 + r, y2 - r, r, PI / 2, PI);
+    cairo_arc(c, x1 + r, y1 + r, r, PI, 3 * PI / 2);
+    cairo_close_path(c);
+}
+
+/// A frame inside a rectangle of the design.
 void Ramecek(const Kresba& k, const Obdelnik& kde, int sirka) {
-    const Tah tah(k, BARVA_OHLASU, sirka);
-    const double pul = sirka / 2.0;
-    cairo_rectangle(tah.Kde(), k.X0 + (kde.Left + pul) * k.S, k.Y0 + (kde.Top + pul) * k.S,
-                    (kde.Width - sirka) * k.S, (kde.Height - sirka) * k.S);
+    const Tah tah(k, BARVA_RAMU, sirka);
+    const double kraj = sirka / 2.0;
+    Zaobleny(tah.Kde(), k.X0 + (kde.Left + kraj) * k.S, k.Y0 + (kde.Top + kraj) * k.S,
+             k.X0 + (kde.Left + kde.Width - kraj) * k.S, k.Y0 + (kde.Top + kde.Height - kraj) * k.S,
+             ROH_PRSTENU * k.S);
 }
 
 void Zachytne(const Kresba& k, Bod bod) {
@@ -80,14 +92,8 @@ void NamalujPodlozku(const Kresba& k, Bod roh) {
         const double px = (pole.X + 1) * POLE;
         const double py = (pole.Y + 1) * POLE;
         const Tah tah(k, BARVA_OHLASU, 1);
-        cairo_t* c = tah.Kde();
-        const double r = ROH_PODLOZKY * k.S;
-        const double x1 = x(px + 1), y1 = y(py + 1), x2 = x(px + POLE - 1), y2 = y(py + POLE - 1);
-        cairo_arc(c, x2 - r, y1 + r, r, -PI / 2, 0);
-        cairo_arc(c, x2 - r, y2 - r, r, 0, PI / 2);
-        cairo_arc(c, x1 + r, y2 - r, r, PI / 2, PI);
-        cairo_arc(c, x1 + r, y1 + r, r, PI, 3 * PI / 2);
-        cairo_close_path(c);
+        Zaobleny(tah.Kde(), x(px + 1), y(py + 1), x(px + POLE - 1), y(py + POLE - 1),
+                 ROH_PODLOZKY * k.S);
         tah.Vyplnit(BILA);
         if (pole == Bod{}) continue;
         // A triangle whose tip points that way.
@@ -145,23 +151,16 @@ Obdelnik DosahPrstenu(const Obrazovky::Prsten& p) {
 }
 
 void NamalujPrsten(const Kresba& k, const Obrazovky::Prsten& p) {
-    constexpr double PRAVY_UHEL = PI / 2;
     const Obdelnik ram = RamPrstenu(p.Ram);
     const double x = k.X0 + ram.Left * k.S;
     const double y = k.Y0 + ram.Top * k.S;
     const double w = ram.Width * k.S;
     const double h = ram.Height * k.S;
-    const double r = ROH_PRSTENU * k.S;
     // Light below, so that it is seen on any ground.
     for (const auto& [barva, sirka] :
          {std::pair{BILA, LEM_PRSTENU}, std::pair{BARVA_PRSTENU, SIRKA_PRSTENU}}) {
         const Tah tah(k, barva, sirka);
-        cairo_t* c = tah.Kde();
-        cairo_arc(c, x + w - r, y + r, r, -PRAVY_UHEL, 0);
-        cairo_arc(c, x + w - r, y + h - r, r, 0, PRAVY_UHEL);
-        cairo_arc(c, x + r, y + h - r, r, PRAVY_UHEL, 2 * PRAVY_UHEL);
-        cairo_arc(c, x + r, y + r, r, 2 * PRAVY_UHEL, 3 * PRAVY_UHEL);
-        cairo_close_path(c);
+        Zaobleny(tah.Kde(), x, y, x + w, y + h, ROH_PRSTENU * k.S);
     }
     if (p.Kriz) NamalujKriz(k, p.Hrot);
 }

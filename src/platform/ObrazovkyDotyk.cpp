@@ -13,6 +13,9 @@ namespace rysovna {
 namespace {
 
 constexpr int LEVE = 1;
+/// How far inside a picture that has an edge of its own the frame stands, px.
+constexpr int KRAJ_RAMU = 3;
+constexpr int PRED_TEXTEM = 2;  // px, of a frame around a line of text
 
 bool Blizko(Bod a, Bod b) {
     return std::abs(a.X - b.X) <= DOSAH_PRSTU && std::abs(a.Y - b.Y) <= DOSAH_PRSTU;
@@ -208,7 +211,14 @@ std::vector<Obrazovky::Ohlas> Obrazovky::OhlasyVpredu() const {
     const Ovladac* o = NajdiObjekt(*form, v.MysX, v.MysY);
     if (o == nullptr || !o->Ramovat || !JeZivaZastavka(*o) || (drzi && v.DrziObjekt != o))
         return ohlasy;
-    ohlasy.push_back({drzi ? Ohlas::Druh::Stisknuto : Ohlas::Druh::Najeto, NaNavrhu(*form, *o)});
+    Obdelnik kde = NaNavrhu(*form, *o);
+    if (o->Druh == Ovladac::Typ::Label) {
+        kde = {kde.Left - PRED_TEXTEM, kde.Top, kde.Width + PRED_TEXTEM, kde.Height};
+    } else {
+        kde = {kde.Left + KRAJ_RAMU, kde.Top + KRAJ_RAMU, kde.Width - 2 * KRAJ_RAMU,
+               kde.Height - 2 * KRAJ_RAMU};
+    }
+    ohlasy.push_back({drzi ? Ohlas::Druh::Stisknuto : Ohlas::Druh::Najeto, kde});
     return ohlasy;
 }
 
