@@ -204,6 +204,7 @@ TEST_F(DotykDesky, KurzorARamyOdpovidajiTomuCoZije) {
     Okna().MysDolu(nastroj.X, nastroj.Y, 1, 0);
     Okna().MysNahoru(nastroj.X, nastroj.Y, 1, 0);
     EXPECT_EQ(nad({nastroj.X + 10, nastroj.Y + 12}), Kurzor::Ruka);
+    const Bod radek = r.Hra.Roh(r.Hra.Prvek("ComboLabel", 1));
     EXPECT_EQ(Ohlasu(Ohlas::Druh::Najeto), std::optional(Bod{radek.X - 2, radek.Y}));
     r.Kdo.Vyber("AB");
     EXPECT_EQ(nad(plocha), Kurzor::Kriz);
