@@ -81,8 +81,11 @@ TEST_F(DotykDesky, ZvednutyTahDokonciJenHotovo) {
             r.Hra.StiskniMisto(stred.X, stred.Y);
         }
     }
-    for (const char* klavesa : {"Escape", "F1", "Tab", "Space", "Return", "Left", "5"})
+    for (const char* klavesa : {"Escape", "F1", "Tab", "Space", "Return", "Left", "5"}) {
         r.Hra.Klavesa(klavesa);
+        EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form") << klavesa;
+        EXPECT_EQ(Ohlasu(Ohlas::Druh::Konec), kam) << klavesa;
+    }
     r.Hra.Napis("7");
     Klepni({pad.X + 5, pad.Y + 5});  // an empty corner of the pad
     r.Hra.Cekej(300);
