@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "hrac/Trojuhelnik.h"
-#include "shell/TabulkaVysledku.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/Ulohy.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
+#include "store/TabulkaVysledku.h"
 
 namespace rysovna {
 namespace {

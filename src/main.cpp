@@ -13,11 +13,11 @@
 #include "platform/PosixDisk.h"
 #include "platform/sdl/SdlHost.h"
 #include "platform/sdl/Zvuk.h"
-#include "shell/KontrolaPocitace.h"
-#include "shell/Misc.h"
-#include "shell/SelectForm.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "screens/Desky.h"
+#include "screens/KontrolaPocitace.h"
+#include "screens/SelectForm.h"
+#include "screens/Start.h"
+#include "screens/VyrobaDesek.h"
 
 namespace {
 

@@ -1,8 +1,5 @@
 #include "platform/Host.h"
 
-#include <algorithm>
-#include <cctype>
-
 #include "base/Chyba.h"
 #include "platform/Obrazovky.h"
 #include "platform/PosixDisk.h"
@@ -12,28 +9,6 @@ namespace rysovna {
 namespace {
 
 Host* g_stroj = nullptr;
-
-bool StejneBezVelikosti(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-        return std::tolower(static_cast<unsigned char>(x)) ==
-               std::tolower(static_cast<unsigned char>(y));
-    });
-}
-
-/// The name as the folder spells it; the first in alphabetical order if several differ in case
-/// alone, so that the same is taken every time. As given if there is none.
-std::string JmenoNaDisku(const std::filesystem::path& slozka, std::string_view jmeno) {
-    std::string nalezene;
-    std::error_code chyba;
-    const auto kde = slozka.empty() ? std::filesystem::path(".") : slozka;
-    for (auto i = std::filesystem::directory_iterator(kde, chyba);
-         !chyba && i != std::filesystem::directory_iterator(); i.increment(chyba)) {
-        std::string dalsi = i->path().filename().string();
-        if (StejneBezVelikosti(dalsi, jmeno) && (nalezene.empty() || dalsi < nalezene))
-            nalezene = std::move(dalsi);
-    }
-    return nalezene.empty() ? std::string(jmeno) : nalezene;
-}
 
 }  // namespace
 
@@ -56,23 +31,6 @@ HostNaDobu::HostNaDobu(Host& host) : drivejsi_(g_stroj) {
 
 HostNaDobu::~HostNaDobu() {
     g_stroj = drivejsi_;
-}
-
-std::filesystem::path NativniCesta(std::string_view cesta) {
-    std::string lomitka(cesta);
-    std::replace(lomitka.begin(), lomitka.end(), '\\', '/');
-    std::error_code chyba;
-    if (std::filesystem::exists(lomitka, chyba)) return lomitka;
-    std::filesystem::path skutecna;
-    for (const std::filesystem::path& cast : std::filesystem::path(lomitka)) {
-        const std::filesystem::path takhle = skutecna / cast;
-        if (cast.empty() || std::filesystem::exists(takhle, chyba)) {
-            skutecna = takhle;
-        } else {
-            skutecna /= JmenoNaDisku(skutecna, cast.string());
-        }
-    }
-    return skutecna;
 }
 
 }  // namespace rysovna

@@ -102,8 +102,4 @@ private:
     Host* drivejsi_;
 };
 
-/// A path of the system's own spelling (backslashes, any case) as a real one. Parts that exist
-/// under another case are taken as they are on the disk.
-[[nodiscard]] std::filesystem::path NativniCesta(std::string_view cesta);
-
 }  // namespace rysovna

@@ -4,6 +4,7 @@
 #include <cairo.h>
 #include <map>
 
+#include "base/Cesta.h"
 #include "base/Chyba.h"
 #include "platform/Host.h"
 #include "platform/ObrazekData.h"

@@ -10,6 +10,7 @@
 #include FT_FREETYPE_H
 #include FT_OUTLINE_H
 
+#include "base/Cesta.h"
 #include "base/Chyba.h"
 #include "base/Text.h"
 #include "platform/Host.h"

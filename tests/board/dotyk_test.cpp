@@ -7,14 +7,15 @@
 #include <gtest/gtest.h>
 #include <optional>
 
-#include "board/DeskaForm.h"
 #include "engine/Tabulky.h"
 #include "hrac/Tecny.h"
 #include "platform/Obrazovky.h"
 #include "podpora/Rysovac.h"
-#include "shell/Misc.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/DeskaForm.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 namespace {

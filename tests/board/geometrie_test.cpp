@@ -6,13 +6,13 @@
 #include <random>
 #include <tuple>
 
-#include "board/Prichytavani.h"
-#include "board/Tahy.h"
-#include "board/Uzavreni.h"
 #include "engine/PametovaPlocha.h"
 #include "engine/Resitele.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Tisk.h"
+#include "rules/Prichytavani.h"
+#include "rules/Tahy.h"
+#include "rules/Uzavreni.h"
 
 namespace rysovna::testy {
 namespace {

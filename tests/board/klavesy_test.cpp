@@ -3,15 +3,16 @@
 
 #include <gtest/gtest.h>
 
-#include "board/DeskaForm.h"
 #include "engine/Tabulky.h"
 #include "hrac/Ctyruhelnik.h"
 #include "hrac/Serie.h"
 #include "platform/Obrazovky.h"
 #include "podpora/Rysovac.h"
-#include "shell/Misc.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/DeskaForm.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 namespace {

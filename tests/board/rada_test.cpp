@@ -6,14 +6,15 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "board/DeskaForm.h"
-#include "board/RadaCesky.h"
 #include "platform/Obrazovky.h"
 #include "podpora/HlidacRady.h"
 #include "podpora/Rysovac.h"
-#include "shell/Misc.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/DeskaForm.h"
+#include "screens/Desky.h"
+#include "screens/RadaCesky.h"
+#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 namespace {

@@ -5,19 +5,22 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-#include "board/ChybovyForm.h"
-#include "board/DeskaForm.h"
-#include "board/Kontrola.h"
 #include "engine/Tabulky.h"
 #include "hrac/Ctyruhelnik.h"
 #include "hrac/Ruka.h"
 #include "hrac/Tecny.h"
 #include "podpora/Rysovac.h"
-#include "shell/Hover.h"
-#include "shell/Misc.h"
-#include "shell/Soubory.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/Chyby.h"
+#include "rules/Kontrola.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/ChybovyForm.h"
+#include "screens/DeskaForm.h"
+#include "screens/Desky.h"
+#include "screens/Hover.h"
+#include "screens/Spolecne.h"
+#include "screens/VyrobaDesek.h"
+#include "store/Soubory.h"
 
 namespace rysovna::testy {
 namespace {

@@ -10,8 +10,9 @@
 #include <string>
 
 #include "podpora/Prostredi.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/Ulohy.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 namespace {

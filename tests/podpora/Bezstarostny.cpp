@@ -4,14 +4,14 @@
 #include <regex>
 
 #include "base/Cisla.h"
-#include "board/DeskaForm.h"
 #include "engine/Tabulky.h"
 #include "hrac/Serie.h"
 #include "platform/Klavesnice.h"
 #include "platform/Obrazovky.h"
-#include "shell/Misc.h"
-#include "shell/TabulkaForm.h"
-#include "shell/Ulohy.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/DeskaForm.h"
+#include "screens/TabulkaForm.h"
 
 namespace rysovna::testy {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <sstream>
 
-#include "board/RadaCesky.h"
 #include "engine/Tabulky.h"
-#include "shell/Misc.h"
+#include "rules/Misc.h"
+#include "screens/RadaCesky.h"
 
 namespace rysovna::testy {
 

@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-#include "board/DeskaForm.h"
+#include "screens/DeskaForm.h"
 
 namespace rysovna::testy {
 

@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "engine/Tabulky.h"
-#include "shell/Kodovani.h"
+#include "store/Kodovani.h"
 
 namespace rysovna::testy {
 namespace {

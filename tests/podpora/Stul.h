@@ -8,17 +8,20 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Cesta.h"
 #include "base/Cisla.h"
-#include "board/Dialog.h"
 #include "engine/PametovaPlocha.h"
 #include "engine/Tabulky.h"
 #include "hrac/Ruka.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Prostredi.h"
-#include "shell/Kodovani.h"
-#include "shell/MapaPoli.h"
-#include "shell/Misc.h"
-#include "shell/Soubory.h"
+#include "rules/Dialog.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/Start.h"
+#include "store/Kodovani.h"
+#include "store/MapaPoli.h"
+#include "store/Soubory.h"
 
 namespace rysovna::testy {
 

@@ -1,8 +1,8 @@
 #include "podpora/Zak.h"
 
 #include "base/Cisla.h"
-#include "shell/Misc.h"
-#include "shell/Zaznamy.h"
+#include "rules/Misc.h"
+#include "rules/Zaznamy.h"
 
 namespace rysovna::testy {
 

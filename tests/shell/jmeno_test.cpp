@@ -3,9 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "hrac/Relace.h"
-#include "shell/Misc.h"
-#include "shell/SetupForm.h"
-#include "shell/Ulohy.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/SetupForm.h"
+#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 namespace {

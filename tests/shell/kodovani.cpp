@@ -1,4 +1,4 @@
-#include "shell/Kodovani.h"
+#include "store/Kodovani.h"
 
 #include <array>
 #include <cstdlib>

@@ -2,11 +2,14 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
+#include "base/Cesta.h"
 #include "platform/Host.h"
-#include "shell/Fronta.h"
-#include "shell/KontrolaPocitace.h"
-#include "shell/Ukladani.h"
+#include "screens/KontrolaPocitace.h"
+#include "screens/Spolecne.h"
 #include "shell/soubory_pomoc.h"
+#include "store/Cesty.h"
+#include "store/Fronta.h"
+#include "store/Ukladani.h"
 
 namespace rysovna::testy {
 namespace {

@@ -7,13 +7,15 @@
 
 #include "hrac/Relace.h"
 #include "platform/Surface.h"
-#include "shell/HelpForm.h"
-#include "shell/Misc.h"
-#include "shell/SelectForm.h"
-#include "shell/SetupForm.h"
-#include "shell/TabulkaForm.h"
-#include "shell/Ukladani.h"
-#include "shell/Ulohy.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/HelpForm.h"
+#include "screens/SelectForm.h"
+#include "screens/SetupForm.h"
+#include "screens/Spolecne.h"
+#include "screens/TabulkaForm.h"
+#include "screens/VyrobaDesek.h"
+#include "store/Ukladani.h"
 
 namespace rysovna::testy {
 

@@ -1,4 +1,4 @@
-#include "shell/Soubory.h"
+#include "store/Soubory.h"
 
 #include <algorithm>
 #include <array>
@@ -7,10 +7,14 @@
 
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
-#include "shell/Kodovani.h"
-#include "shell/MapaPoli.h"
-#include "shell/Misc.h"
+#include "rules/Chyby.h"
+#include "rules/Kontrola.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/DeskyForm.h"
 #include "shell/soubory_pomoc.h"
+#include "store/Kodovani.h"
+#include "store/MapaPoli.h"
 
 namespace rysovna::testy {
 namespace {

@@ -10,7 +10,7 @@
 
 #include "base/Chyba.h"
 #include "hrac/Relace.h"
-#include "shell/Misc.h"
+#include "rules/Misc.h"
 
 namespace rysovna::testy {
 

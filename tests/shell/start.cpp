@@ -1,16 +1,21 @@
+#include "screens/Start.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <limits>
 
+#include "base/Cesta.h"
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
 #include "hrac/Relace.h"
 #include "platform/Obrazovky.h"
-#include "shell/Ini.h"
-#include "shell/Misc.h"
-#include "shell/SelectForm.h"
-#include "shell/Ukladani.h"
+#include "rules/Misc.h"
+#include "screens/SelectForm.h"
+#include "screens/Spolecne.h"
+#include "store/Cesty.h"
+#include "store/Ini.h"
+#include "store/Ukladani.h"
 
 namespace rysovna::testy {
 

@@ -9,11 +9,12 @@
 
 #include "base/Cisla.h"
 #include "platform/PosixDisk.h"
-#include "shell/Fronta.h"
-#include "shell/Kodovani.h"
-#include "shell/TabulkaVysledku.h"
-#include "shell/Ukladani.h"
+#include "screens/Spolecne.h"
 #include "shell/soubory_pomoc.h"
+#include "store/Fronta.h"
+#include "store/Kodovani.h"
+#include "store/TabulkaVysledku.h"
+#include "store/Ukladani.h"
 
 namespace rysovna::testy {
 namespace {

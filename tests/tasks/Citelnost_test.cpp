@@ -2,12 +2,12 @@
 
 #include <cmath>
 
-#include "board/DialogCtyruhelnikuVrchol.h"
 #include "hrac/Ctyruhelnik.h"
 #include "podpora/Stul.h"
-#include "tasks/CtyrUForm.h"
-#include "tasks/LichoForm.h"
-#include "tasks/RovnoForm.h"
+#include "rules/CtyrUDialog.h"
+#include "rules/DialogCtyruhelnikuVrchol.h"
+#include "rules/LichoDialog.h"
+#include "rules/RovnoDialog.h"
 
 namespace rysovna::testy {
 namespace {

@@ -1,6 +1,6 @@
 // The general quadrilateral, at the dialogue.
 
-#include "tasks/CtyrUForm.h"
+#include "rules/CtyrUDialog.h"
 #include "tasks/Ctyruhelniky.h"
 
 namespace rysovna::testy {

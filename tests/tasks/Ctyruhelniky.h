@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "board/DialogCtyruhelnikuVrchol.h"
 #include "hrac/Ctyruhelnik.h"
 #include "hrac/Trojuhelnik.h"
 #include "podpora/Stul.h"
+#include "rules/DialogCtyruhelnikuVrchol.h"
 
 // What the tests of the quadrilaterals share.
 

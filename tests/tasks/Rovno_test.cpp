@@ -1,7 +1,7 @@
 // The parallelogram, at the dialogue.
 
+#include "rules/RovnoDialog.h"
 #include "tasks/Ctyruhelniky.h"
-#include "tasks/RovnoForm.h"
 
 namespace rysovna::testy {
 namespace {

@@ -9,9 +9,9 @@
 #include "hrac/Ctyruhelnik.h"
 #include "hrac/Trojuhelnik.h"
 #include "podpora/Stul.h"
-#include "tasks/CtyrUForm.h"
-#include "tasks/LichoForm.h"
-#include "tasks/Troj2Form.h"
+#include "rules/CtyrUDialog.h"
+#include "rules/LichoDialog.h"
+#include "rules/Troj2Dialog.h"
 
 namespace rysovna::testy {
 namespace {

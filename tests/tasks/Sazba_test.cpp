@@ -3,8 +3,9 @@
 
 #include "hrac/Serie.h"
 #include "platform/Pisma.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/Ulohy.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
 
 namespace rysovna::hrac {
 namespace {

@@ -8,11 +8,13 @@
 
 #include "base/Cisla.h"
 #include "base/Text.h"
-#include "shell/Kodovani.h"
-#include "shell/Misc.h"
-#include "shell/Soubory.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/Kontrola.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
+#include "store/Kodovani.h"
+#include "store/Soubory.h"
 
 namespace rysovna::hrac {
 namespace {

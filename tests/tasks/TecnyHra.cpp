@@ -4,7 +4,7 @@
 
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
-#include "shell/Misc.h"
+#include "rules/Misc.h"
 
 namespace rysovna::testy {
 namespace {

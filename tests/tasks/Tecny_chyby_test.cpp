@@ -8,7 +8,7 @@
 #include <map>
 
 #include "TecnyHra.h"
-#include "shell/Misc.h"
+#include "rules/Misc.h"
 
 namespace rysovna::testy {
 namespace {

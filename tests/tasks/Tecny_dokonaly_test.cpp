@@ -3,9 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "TecnyHra.h"
-#include "shell/Misc.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "TecnyHra.h"
 #include "engine/Kresleni.h"
-#include "shell/Misc.h"
-#include "tasks/TecnyZadani.h"
+#include "rules/Misc.h"
+#include "rules/TecnyZadani.h"
 
 namespace rysovna::testy {
 namespace {

@@ -6,13 +6,14 @@
 #include <utility>
 
 #include "base/Cisla.h"
-#include "board/ChybovyForm.h"
-#include "board/DeskaForm.h"
-#include "board/DialogTrojuhelniku.h"
 #include "podpora/Rysovac.h"
-#include "shell/Misc.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/DialogTrojuhelniku.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/ChybovyForm.h"
+#include "screens/DeskaForm.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 

@@ -2,14 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include "board/DeskaForm.h"
-#include "board/DialogTrojuhelniku.h"
 #include "podpora/Stul.h"
 #include "podpora/Zak.h"
-#include "shell/Misc.h"
-#include "shell/Soubory.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/DialogTrojuhelniku.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/DeskaForm.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
+#include "store/Soubory.h"
 
 namespace rysovna::testy {
 namespace {

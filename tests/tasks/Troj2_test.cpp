@@ -8,7 +8,7 @@
 
 #include "podpora/Stul.h"
 #include "podpora/Zak.h"
-#include "tasks/Troj2Form.h"
+#include "rules/Troj2Dialog.h"
 
 namespace rysovna::testy {
 namespace {

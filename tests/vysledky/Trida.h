@@ -18,8 +18,8 @@
 #include <vector>
 
 #include "platform/PosixDisk.h"
-#include "shell/Kodovani.h"
-#include "shell/Ukladani.h"
+#include "store/Kodovani.h"
+#include "store/Ukladani.h"
 
 namespace rysovna::testy {
 

@@ -5,9 +5,9 @@
 #include <cmath>
 
 #include "base/Cisla.h"
-#include "board/Zadani.h"
 #include "engine/Tabulky.h"
 #include "hrac/Trojuhelnik.h"
+#include "rules/Zadani.h"
 
 namespace rysovna::hrac {
 namespace {

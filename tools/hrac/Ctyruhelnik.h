@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "board/DialogCtyruhelniku.h"
 #include "hrac/Los.h"
 #include "hrac/Ruka.h"
+#include "rules/DialogCtyruhelniku.h"
 
 namespace rysovna::hrac {
 

@@ -7,9 +7,10 @@
 #include "base/Cisla.h"
 #include "base/Text.h"
 #include "platform/Obrazovky.h"
-#include "shell/Misc.h"
-#include "shell/SelectForm.h"
-#include "shell/Ulohy.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/SelectForm.h"
+#include "screens/Start.h"
 
 namespace rysovna::hrac {
 namespace {

@@ -5,10 +5,10 @@
 #include <cstdlib>
 #include <optional>
 
-#include "board/DeskaForm.h"
 #include "engine/Tabulky.h"
 #include "hrac/Relace.h"
 #include "platform/Klavesnice.h"
+#include "screens/DeskaForm.h"
 
 namespace rysovna::hrac {
 namespace {

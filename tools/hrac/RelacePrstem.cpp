@@ -4,10 +4,10 @@
 #include <cstdlib>
 #include <limits>
 
-#include "board/DeskaForm.h"
 #include "engine/Tabulky.h"
 #include "hrac/Relace.h"
 #include "platform/Dotyk.h"
+#include "screens/DeskaForm.h"
 
 namespace rysovna::hrac {
 namespace {

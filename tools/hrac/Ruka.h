@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "base/Bod.h"
-#include "board/DeskaForm.h"
 #include "hrac/Los.h"
 #include "hrac/Relace.h"
+#include "screens/DeskaForm.h"
 
 namespace rysovna::hrac {
 

@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include "board/DialogCtyruhelnikuVrchol.h"
-#include "board/DialogTrojuhelniku.h"
 #include "engine/Tabulky.h"
 #include "hrac/Ctyruhelnik.h"
 #include "hrac/Tecny.h"
 #include "hrac/Trojuhelnik.h"
-#include "shell/Misc.h"
+#include "rules/DialogCtyruhelnikuVrchol.h"
+#include "rules/DialogTrojuhelniku.h"
+#include "rules/Misc.h"
 
 namespace rysovna::hrac {
 

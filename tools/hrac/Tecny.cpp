@@ -7,7 +7,7 @@
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
 #include "hrac/Trojuhelnik.h"
-#include "tasks/TecnyNacrt.h"
+#include "rules/TecnyNacrt.h"
 
 namespace rysovna::hrac {
 namespace {

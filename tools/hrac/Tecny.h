@@ -7,7 +7,7 @@
 
 #include "hrac/Los.h"
 #include "hrac/Ruka.h"
-#include "tasks/TecnyDialog.h"
+#include "rules/TecnyDialog.h"
 
 namespace rysovna::hrac {
 

@@ -11,8 +11,9 @@
 #include "KontrolaPrikladu.h"
 #include "Pravidla.h"
 #include "Prevod.h"
-#include "shell/Kodovani.h"
-#include "shell/MapaPoli.h"
+#include "rules/Ulohy.h"
+#include "store/Kodovani.h"
+#include "store/MapaPoli.h"
 
 namespace rysovna::kodovani {
 namespace {

@@ -8,7 +8,8 @@
 #include "Hlaseni.h"
 #include "Pravidla.h"
 #include "base/Cisla.h"
-#include "shell/MapaPoli.h"
+#include "rules/Ulohy.h"
+#include "store/MapaPoli.h"
 
 namespace rysovna::kodovani {
 namespace {

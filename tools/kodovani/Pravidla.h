@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "engine/Tabulky.h"
-#include "tasks/TecnyKroky.h"
+#include "rules/TecnyKroky.h"
 
 // What a task file must hold, as tables. A task with kinds of its own adds rows here.
 

@@ -6,7 +6,7 @@
 #include "Hlaseni.h"
 #include "base/Chyba.h"
 #include "base/Text.h"
-#include "shell/Kodovani.h"
+#include "store/Kodovani.h"
 
 namespace rysovna::kodovani {
 namespace {

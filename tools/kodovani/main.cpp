@@ -8,7 +8,7 @@
 #include "Kontrola.h"
 #include "Prevod.h"
 #include "base/Chyba.h"
-#include "shell/Kodovani.h"
+#include "store/Kodovani.h"
 
 // The data tool: codes, decodes and checks the files of the data root.
 

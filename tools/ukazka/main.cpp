@@ -11,10 +11,11 @@
 
 #include "base/Cisla.h"
 #include "hrac/Serie.h"
-#include "shell/Kodovani.h"
-#include "shell/Misc.h"
-#include "shell/Ulohy.h"
-#include "tasks/Desky.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
+#include "store/Kodovani.h"
 
 namespace {
 

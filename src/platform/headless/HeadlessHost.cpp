@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Cesta.h"
 #include "base/Chyba.h"
 #include "platform/Malir.h"
 #include "platform/ZpravaForm.h"

@@ -14,6 +14,7 @@
 #include <langinfo.h>
 #endif
 
+#include "base/Cesta.h"
 #include "base/Chyba.h"
 #include "platform/ObrazekData.h"
 #include "platform/Obrazovky.h"

@@ -15,8 +15,9 @@
 #include "platform/Obrazovky.h"
 #include "platform/Surface.h"
 #include "platform/sdl/Okno.h"
-#include "shell/Misc.h"
-#include "shell/SelectForm.h"
+#include "rules/Misc.h"
+#include "screens/SelectForm.h"
+#include "screens/Start.h"
 
 namespace rysovna::testy {
 namespace {

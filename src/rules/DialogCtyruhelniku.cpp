@@ -1,0 +1,264 @@
+#include "rules/DialogCtyruhelniku.h"
+
+#include <utility>
+
+#include "base/Cisla.h"
+#include "engine/Kresleni.h"
+#include "engine/Resitele.h"
+#include "engine/Sluzby.h"
+#include "rules/Chyby.h"
+#include "rules/Misc.h"
+
+namespace rysovna {
+
+namespace {
+
+// What a release costs when a ray or a circle starts elsewhere.
+constexpr CenaPocatku CENY_POCATKU[] = {{POLOPRIMKA, 23, 23}, {KRUZNICE, 22, 45}};
+
+constexpr JmenaUtvaru JMENA[] = {
+    {KRUZNICE, "k", "l"}, {POLOPRIMKA, "X", "Y"}, {ROVNOBEZKA, "t", "u"}, {KOLMICE, "p", "q"}};
+
+/// A line of the list of theorems.
+struct RadekVety {
+    std::string_view Text, Veta;
+};
+constexpr RadekVety RADKY_VET[] = {{"podle věty SSS", "sss"}, {"podle věty SUS", "sus"}};
+
+constexpr std::string_view TROJUHELNIK = "trojuhelnik";
+constexpr std::string_view PODLE_VETY = "podlevety";
+
+constexpr int CHYBA_TROJUHELNIK = 133, CHYBA_VETA = 101;
+
+constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhelník!";
+
+constexpr int SIRKA_SEZNAMU_TROJUHELNIKU = 105, SIRKA_SEZNAMU_VET = 140;  // px
+
+constexpr int NASTROJ_TROJUHELNIK = 1, NASTROJ_VETA = 2;
+
+}  // namespace
+
+DialogCtyruhelniku::DialogCtyruhelniku(Platna platna, const PravidlaCtyruhelniku& pravidla)
+    : DialogKroku(
+          platna,
+          {pravidla.Uvod, pravidla.NacrtFigury, JMENA, CENY_POCATKU, {1, 2}, TvarBodu::PodleCisla}),
+      pravidla_(pravidla) {}
+
+// ---- The life of an example ------------------------------------------------------------------
+
+void DialogCtyruhelniku::NovyPriklad() {
+    VyprazdniKonstrukci(platna_);
+    stav_ = StavCtyruhelniku{};
+}
+
+void DialogCtyruhelniku::Posun(int dx, int dy) {
+    PosunVse(platna_.HidenPic, platna_.Pic, dx, dy);
+    if (stav_.Nesestrojen) Prekresli();
+}
+
+void DialogCtyruhelniku::Prekresli() {
+    PrekresliVse(platna_.HidenPic, platna_.Pic);
+    if (!stav_.Nesestrojen) return;
+    Plane& pic = platna_.Pic;
+    pic.CurrentX = static_cast<float>(pic.Width() - pic.TextWidth(NELZE)) / 2;
+    pic.CurrentY = static_cast<float>(pic.Height() - pic.TextHeight()) / 2;
+    pic.Print(NELZE);
+}
+
+// ---- Tools and lists -------------------------------------------------------------------------
+
+/// The theorem and the confirmation go on with the step that the triangle began.
+bool DialogCtyruhelniku::ZacinaKrok(int i) const {
+    return stav_.Faze > 1 || i == NASTROJ_TROJUHELNIK;
+}
+
+void DialogCtyruhelniku::Nabidni(int i) {
+    if (stav_.Faze > 1) return NabidniDalsi(i);
+    std::vector<RadekSeznamu> radky;
+    if (i == NASTROJ_TROJUHELNIK) {
+        stav_.ZvolenyUtvar = TROJUHELNIK;
+        for (const VetaTrojuhelniku& v : pravidla_.Vety) {
+            const std::string t(v.Trojuhelnik);
+            if (v.Veta == "sss") radky.push_back({t, true, true, t});
+        }
+        OtevriSeznam(SIRKA_SEZNAMU_TROJUHELNIKU, std::move(radky));
+    } else if (i == NASTROJ_VETA) {
+        stav_.ZvolenyUtvar = PODLE_VETY;
+        for (const RadekVety& r : RADKY_VET) {
+            radky.push_back({std::string(r.Text), true, true, std::string(r.Veta)});
+        }
+        OtevriSeznam(SIRKA_SEZNAMU_VET, std::move(radky));
+    } else {
+        PotvrdHodnoty();
+    }
+}
+
+void DialogCtyruhelniku::ZvolRadek(std::size_t i) {
+    const std::string& kod = stav_.Combo.Radky[i].Tag;
+    if (stav_.ZvolenyUtvar == TROJUHELNIK) return ZvolTrojuhelnik(kod);
+    if (stav_.ZvolenyUtvar == PODLE_VETY) return ZvolVetu(kod);
+    ZvolDalsi(i);
+}
+
+void DialogCtyruhelniku::Napis(int ktery, const std::string& text) {
+    if (stav_.Faze > 1) {
+        DialogKroku::Napis(ktery, text);
+    } else if (ktery >= 1 && ktery <= static_cast<int>(stav_.Vstupy.size())) {
+        stav_.Vstupy[static_cast<std::size_t>(ktery - 1)] = text;
+    }
+}
+
+void DialogCtyruhelniku::ZvolTrojuhelnik(const std::string& trojuhelnik) {
+    stav_.ZvolenyTrojuhelnik = trojuhelnik;
+    stav_.ZvolenaVeta.clear();
+    stav_.Vstupy = {};
+    if (trojuhelnik != Hrany().Text2) ChybnaVolba(CHYBA_TROJUHELNIK);
+    Zapis(TROJUHELNIK, trojuhelnik);
+}
+
+void DialogCtyruhelniku::ZvolVetu(const std::string& veta) {
+    stav_.ZvolenaVeta = veta;
+    stav_.Vstupy = {};
+    if (veta != Hrany().Text1) ChybnaVolba(CHYBA_VETA, veta + "." + std::string(TRI_BODY));
+}
+
+const VetaTrojuhelniku* DialogCtyruhelniku::ZvolenaVetaRadek() const {
+    for (const VetaTrojuhelniku& v : pravidla_.Vety) {
+        if (v.Veta == stav_.ZvolenaVeta && v.Trojuhelnik == stav_.ZvolenyTrojuhelnik) return &v;
+    }
+    return nullptr;
+}
+
+std::string_view DialogCtyruhelniku::Vrcholy() const {
+    const VetaTrojuhelniku* v = ZvolenaVetaRadek();
+    return v == nullptr ? std::string_view() : v->Vrcholy;
+}
+
+// ---- The starting triangle -------------------------------------------------------------------
+
+/// Compares the typed values, then draws the triangle from them whatever they are. Of a wrong
+/// triangle the example has no values; of a wrong theorem it has some.
+void DialogCtyruhelniku::PotvrdHodnoty() {
+    const VetaTrojuhelniku* veta = ZvolenaVetaRadek();
+    if (veta == nullptr) return;
+    if (stav_.ZvolenyTrojuhelnik == Hrany().Text2) {
+        for (std::size_t i = 0; i < stav_.Vstupy.size(); ++i) {
+            const VstupVety& v = veta->Vstupy[i];
+            const std::optional<int> hodnota = Hodnota(v.Velicina);
+            if (!hodnota || v.Chyba == 0) continue;
+            const double ma = v.Pulka ? *hodnota / 2.0 : *hodnota;
+            if (Cislo(stav_.Vstupy[i]) != ma) PridejChybu(v.Chyba, JEDEN_BOD, 1);
+        }
+    }
+    NakresliTrojuhelnik(*veta);
+    DalsiFaze();
+}
+
+void DialogCtyruhelniku::NakresliTrojuhelnik(const VetaTrojuhelniku& veta) {
+    const std::array<double, 3> hodnoty = {Cislo(stav_.Vstupy[0]), Cislo(stav_.Vstupy[1]),
+                                           Cislo(stav_.Vstupy[2])};
+    const auto body = SpocitejTrojuhelnik(platna_.Pic, veta.Veta, hodnoty);
+    stav_.Nesestrojen = !body;
+    if (body) {
+        const std::string_view v = veta.Vrcholy;
+        const auto& [p1, p2, p3] = *body;
+        NakresliStranu(v.substr(0, 1), p1, v.substr(0, 1), v.substr(1, 1), p2, v.substr(1, 1),
+                       true);
+        NakresliStranu(v.substr(1, 1), p2, "", v.substr(2, 1), p3, v.substr(2, 1), false);
+        NakresliStranu(v.substr(2, 1), p3, "", v.substr(0, 1), p1, "", false);
+    }
+    Prekresli();
+}
+
+int DialogCtyruhelniku::NovyUtvar(std::string_view jmeno1, std::string_view jmeno2) {
+    const int n = ++PocetUtvaru;
+    SmazRadekUtvaru(n);
+    SmazRadekTrojic(PocetTrojic + 1);
+    Utvary[n].Jmeno1 = jmeno1;
+    Utvary[n].Jmeno2 = jmeno2;
+    return n;
+}
+
+void DialogCtyruhelniku::NakresliStranu(std::string_view jmeno1, Bod p1, std::string_view popis1,
+                                        std::string_view jmeno2, Bod p2, std::string_view popis2,
+                                        bool znacky) {
+    const int n = NovyUtvar(jmeno1, jmeno2);
+    const auto delka = static_cast<float>(DelkaVCm(Vzdalenost(p1, p2)));
+    KresliUsecku(platna_.Pic, USECKA, n, p1.X, p1.Y, p2.X, p2.Y, delka, popis1, popis2,
+                 znacky ? ANO : NE, ANO, ANO);
+}
+
+std::optional<Bod> DialogCtyruhelniku::MistoVrcholu(std::string_view pismeno) {
+    for (int i = 1; i <= PocetUtvaru; ++i) {
+        const Utvar& u = Utvary[i];
+        if (u.Druh != USECKA) continue;
+        if (u.Jmeno1 == pismeno) return Bod{u.X1, u.Y1};
+        if (u.Jmeno2 == pismeno) return Bod{u.X2, u.Y2};
+    }
+    return {};
+}
+
+void DialogCtyruhelniku::ZapomenTrojuhelnik() {
+    stav_.ZvolenyTrojuhelnik.clear();
+    stav_.ZvolenaVeta.clear();
+    stav_.Vstupy = {};
+}
+
+void DialogCtyruhelniku::Zpet() {
+    if (stav_.Faze > 1) return DialogKroku::Zpet();
+    stav_.ZvolenyUtvar.clear();
+    ZapomenTrojuhelnik();
+}
+
+void DialogCtyruhelniku::VratFazi() {
+    for (int n = 1; n <= decltype(Priklad::Kroky)::POSLEDNI; ++n) {
+        HranyProUpravu().Kroky[n].Hotovo = NE;
+    }
+    if (stav_.Faze == 1) {
+        // The whole triangle goes, and what it was chosen by.
+        PocetUtvaru = PocetTrojic = 0;
+        stav_.Nesestrojen = false;
+        ZapomenTrojuhelnik();
+    } else {
+        // Each step after the triangle made one object.
+        PocetUtvaru = PocetTrojic = (stav_.Nesestrojen ? 0 : 3) + stav_.Faze - 2;
+    }
+    Prekresli();
+}
+
+// ---- The check -------------------------------------------------------------------------------
+
+int DialogCtyruhelniku::ChybnychPrvku() const {
+    const bool trojuhelnik = ZadanePrvky[1].Prvek == Hrany().Text2;
+    return (trojuhelnik ? 0 : 1) + (PrvekSpravny(2) ? 0 : 1) + (PrvekSpravny(3) ? 0 : 1);
+}
+
+// ---- The panel -------------------------------------------------------------------------------
+
+void DialogCtyruhelniku::UkazFazi(Panel& p) const {
+    p.Nesestrojen = stav_.Nesestrojen;
+    if (stav_.Faze > 1) return UkazDalsi(p);
+    const VetaTrojuhelniku* veta = ZvolenaVetaRadek();
+    p.lblText1 = "Nejprve zvol trojúhelník, kterým začneš konstrukci.";
+    const bool zvolen = !stav_.ZvolenyTrojuhelnik.empty();
+    UkazNastroje(p, {10, 13, 0, 0, 12, 14},
+                 {MuzeZacit(), zvolen, false, false, zvolen, veta != nullptr});
+    if (veta == nullptr) {
+        if (zvolen) {
+            p.lblText2 = "trojúhelník " + stav_.ZvolenyTrojuhelnik;
+        }
+        return;
+    }
+    p.lblText2 = "Délky úseček a velikosti úhlů:";
+    for (std::size_t i = 0; i < stav_.Vstupy.size(); ++i) {
+        const bool uhel = i == 2 && veta->Veta == "sus";
+        p.Vstupy.push_back(
+            {(uhel ? "vel. úhlu " : "délka strany ") + std::string(veta->Vstupy[i].Popis) + " = ",
+             {stav_.Vstupy[i], true, !stav_.Skontrolovano},
+             uhel ? "°" : " cm"});
+    }
+    p.txtVstup = p.Vstupy[0].Box;
+    p.lblText4 = {p.Vstupy[0].Jednotka, true, false, 0, false};
+}
+
+}  // namespace rysovna

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rules/DialogCtyruhelniku.h"
+
+namespace rysovna {
+
+/// What the boards that find the fourth vertex by two objects differ in.
+struct PravidlaVrcholu {
+    /// A parallel is an expected tool; list lines then name sides by their letters alone.
+    bool Rovnobezky;
+};
+
+/// The step dialogue of the boards where the fourth vertex of a quadrilateral is the meeting point
+/// of two objects.
+class DialogCtyruhelnikuVrchol : public DialogCtyruhelniku {
+public:
+    DialogCtyruhelnikuVrchol(Platna platna, const PravidlaCtyruhelniku& pravidla,
+                             const PravidlaVrcholu& vrchol)
+        : DialogCtyruhelniku(platna, pravidla), vrchol_(vrchol) {}
+
+protected:
+    /// The three of the record and, each with its step, those of the two objects.
+    [[nodiscard]] std::vector<Zadana> Zadane() const override;
+    [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;
+    void NabidniDalsi(int i) override;
+    void ZvolDalsi(std::size_t i) override;
+    [[nodiscard]] bool PrvekSpravny(int faze) const override;
+    void UkazDalsi(Panel& panel) const override;
+    [[nodiscard]] std::optional<Bod> BodRovnobezky(Bod konec) const override;
+    [[nodiscard]] std::string OdectiPaprsek(Bod konec) const override;
+    void PosudOdecet(double odecet) override;
+    [[nodiscard]] bool ZacinaSpravne() const override;
+    void Uzavri() override;
+
+private:
+    struct Nastroj;
+    [[nodiscard]] static std::span<const Nastroj> Nastroje();
+    [[nodiscard]] std::vector<RadekSeznamu> Paprsky() const;
+    [[nodiscard]] std::vector<RadekSeznamu> Primky() const;
+    [[nodiscard]] std::vector<RadekSeznamu> Kruznice() const;
+    void ZvolPaprsek(const std::string& kod);
+    void ZvolKruznici(const std::string& kod);
+    void ZvolKolmici(const std::string& jmena);
+    void ZvolRovnobezku(const std::string& jmena);
+    [[nodiscard]] bool JeOcekavany(std::string_view prvek) const;
+
+    const PravidlaVrcholu& vrchol_;
+};
+
+/// The letter of the quadrilateral that its starting triangle lacks; empty for no such triangle.
+[[nodiscard]] std::string CtvrtePismeno(std::string_view trojuhelnik);
+
+/// The height upon a side named by its letters ("vc" for AB); empty for what is no side.
+[[nodiscard]] std::string_view VyskaNaStranu(std::string_view strana);
+
+/// Draws the five values of a kind by their table, again until they make a figure that can be
+/// drawn: the two objects meet, also with the play that a read-out leaves, it can be read, the
+/// vertices fit the plane after some travel of the arrows, and with a parallel a trapezoid comes
+/// out. How many draws it took; 0 for an unknown kind, whose values stay.
+[[nodiscard]] int VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
+                                     std::span<const VetaTrojuhelniku> vety,
+                                     HodnotyPrikladu& hodnoty);
+
+}  // namespace rysovna

@@ -1,0 +1,326 @@
+#include "rules/DialogKroku.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Cisla.h"
+#include "rules/Chyby.h"
+#include "rules/Misc.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr int NASTROJ_ZPET = 5;
+constexpr std::array<int, 6> TVARY_UTVARU = {3, 4, 5, 6, 12, 0};
+
+// Where a unit stands behind its prompt, px.
+constexpr int ODSAZENI_JEDNOTKY = 142;
+
+/// What stands before the names of a base in the lists of perpendiculars and parallels.
+struct UvodPrimky {
+    std::string_view Druh, Kolmice, Rovnobezka;
+};
+constexpr UvodPrimky UVODY[] = {{USECKA, "k úsečce ", "s úsečkou "},
+                                {POLOPRIMKA, "k polopřímce ", "s polopřímkou "},
+                                {ROVNOBEZKA, "k přímce ", "s přímkou "},
+                                {KOLMICE, "k přímce ", "s přímkou "}};
+
+/// The last object of these names, one behind the other; 0 if none is.
+int UtvarSeJmeny(std::string_view jmena) {
+    int nalezeny = 0;
+    for (int i = 1; i <= PocetUtvaru; ++i) {
+        if (Utvary[i].Jmeno1 + Utvary[i].Jmeno2 == jmena) nalezeny = i;
+    }
+    return nalezeny;
+}
+
+}  // namespace
+
+// ---- The example -----------------------------------------------------------------------------
+
+void DialogKroku::NoveZadani() {
+    Upravit().Znacky = 0;
+    cisloPrikladu_ = VylosujPriklad();
+    ZapomenZadanePrvky();
+    if (VylosujHodnoty(Hrany(), hodnoty_)) SestavZadani(zadani_);
+}
+
+std::vector<Zadana> DialogKroku::Zadane() const {
+    const Priklad& p = Hrany();
+    return {{p.Nazev1, p.Jednotka1}, {p.Nazev2, p.Jednotka2}, {p.Nazev3, p.Jednotka3}};
+}
+
+std::optional<int> DialogKroku::Hodnota(std::string_view velicina) const {
+    const std::vector<Zadana> zadane = Zadane();
+    for (std::size_t i = 0; i < zadane.size(); ++i) {
+        if (StejnaVelicina(zadane[i].Nazev, velicina)) return hodnoty_[i];
+    }
+    return {};
+}
+
+void DialogKroku::SestavZadani(std::vector<PolozkaZadani>& zadani) const {
+    const std::vector<Zadana> zadane = Zadane();
+    zadani.clear();
+    for (std::size_t i = 0; i < zadane.size(); ++i) {
+        const auto& [nazev, jednotka] = zadane[i];
+        const std::string_view pismeno = PismenoUhlu(nazev);
+        const bool uhel = !pismeno.empty();
+        const bool novyRadek = i % 2 == 0;
+        const bool posledni = i + 1 == zadane.size();
+        zadani.push_back(uhel ? NazevUhlu(pismeno, MEZERA, novyRadek)
+                              : NazevStrany(nazev, MEZERA, novyRadek));
+        // What has no unit has no value: it says all by its name.
+        zadani.push_back(HodnotaZadani(jednotka.empty()
+                                           ? std::string(posledni ? "" : ", ")
+                                           : TextHodnoty(hodnoty_[i], jednotka, posledni),
+                                       uhel ? MEZERA_UHLU : MEZERA));
+    }
+}
+
+std::vector<Bod> DialogKroku::MistaNacrtu() const {
+    const Nacrt nacrt = NacrtPrikladu();
+    const auto kde = [&](std::size_t i, double podel) {
+        const PasNacrtu& p = nacrt.Prvky[i].Pas;
+        const double x = p.X1 + podel * (p.X2 - p.X1);
+        return Bod{Zaokrouhli(x), Zaokrouhli(p.K * x + p.Q)};
+    };
+    return MistaPrvku(nacrt.Prvky.size(), kde,
+                      [&](Bod b) { return PrvekPod(nacrt.Prvky, b.X, b.Y); });
+}
+
+int DialogKroku::PrvekNacrtu(float x, float y) const {
+    return PrvekPod(NacrtPrikladu().Prvky, x, y);
+}
+
+bool DialogKroku::StiskNacrtu(float x, float y) {
+    const int prvek = PrvekNacrtu(x, y);
+    if (prvek < 0 || Stav().Skontrolovano) return false;
+    Upravit().Znacky ^= 1U << prvek;
+    return true;
+}
+
+void DialogKroku::KresliNacrt(Plane& plocha) const {
+    KresliPrvkyNacrtu(plocha, NacrtPrikladu(), Stav().Znacky);
+}
+
+// ---- Tools and lists -------------------------------------------------------------------------
+
+void DialogKroku::StiskNastroje(int i) {
+    const Panel panel = UkazPanel();
+    const auto nastroju = static_cast<int>(panel.cmd.size());
+    if (i < 1 || i > nastroju || !panel.cmd[static_cast<std::size_t>(i - 1)].Zive) return;
+    KonstrukceZahajena = ANO;
+    ZavriSeznam();
+    if (i == NASTROJ_ZPET) return Zpet();
+    if (Stav().Faze >= PosledniFaze()) return;  // a full construction takes no further object
+    if (ZacinaKrok(i)) Upravit().KrokChybny = false;
+    Nabidni(i);
+}
+
+void DialogKroku::VyberRadku(int i) {
+    const Seznam& seznam = Stav().Combo;
+    if (!seznam.Otevreny || i < 1 || i > static_cast<int>(seznam.Radky.size())) return;
+    const auto radek = static_cast<std::size_t>(i - 1);
+    if (!seznam.Radky[radek].Videt || !seznam.Radky[radek].Ziva) return;
+    ZavriSeznam();
+    Upravit().Tazeni = false;
+    ZvolRadek(radek);
+}
+
+void DialogKroku::Napis(int /*ktery*/, const std::string& text) {
+    Upravit().txtVstup.Text = text;
+}
+
+void DialogKroku::OtevriSeznam(int sirka, std::vector<RadekSeznamu> radky) {
+    Upravit().Combo = Seznam::SRadky(sirka, std::move(radky));
+}
+
+std::optional<RadekSeznamu> DialogKroku::RadekPrimky(const Utvar& u, bool kolmice) {
+    const std::string jmena = u.Jmeno1 + u.Jmeno2;
+    const auto* uvod = std::ranges::find(UVODY, std::string_view(u.Druh), &UvodPrimky::Druh);
+    if (uvod == std::end(UVODY)) return std::nullopt;
+    return RadekSeznamu{std::string(kolmice ? uvod->Kolmice : uvod->Rovnobezka) + jmena, true, true,
+                        jmena};
+}
+
+// ---- Choosing a line -------------------------------------------------------------------------
+
+std::string DialogKroku::Jmeno() const {
+    const auto j = std::ranges::find(pravidlaKroku_.Jmena, std::string_view(Stav().ZvolenyUtvar),
+                                     &JmenaUtvaru::Druh);
+    if (j == pravidlaKroku_.Jmena.end()) return "";
+    return std::string(Stav().Faze == 2 ? j->Prvni : j->Druhy);
+}
+
+void DialogKroku::Vyzvi(std::string vyzva, std::string jednotka) {
+    StavKroku& s = Upravit();
+    s.lblText3 = std::move(vyzva);
+    s.lblText4 = {std::move(jednotka), true, false, ODSAZENI_JEDNOTKY, false};
+    s.txtVstup = {"", true, true};
+}
+
+void DialogKroku::ZacniUtvar(std::string jmeno1, std::string jmeno2) {
+    SmazRadekUtvaru(PocetUtvaru + 1);
+    SmazRadekTrojic(PocetTrojic + 1);
+    Utvar& novy = Utvary[PocetUtvaru + 1];
+    novy.Jmeno1 = std::move(jmeno1);
+    novy.Jmeno2 = std::move(jmeno2);
+    Upravit().CekaNaKresleni = true;
+    Upravit().BodVyzvy.clear();
+}
+
+void DialogKroku::ZacniPaprsek(const std::string& rameno, const std::string& vrchol) {
+    const std::string bod = Jmeno();
+    ZacniUtvar(vrchol, bod);
+    Upravit().BodVyzvy = vrchol;
+    Vyzvi("polopřímka " + vrchol + bod + ", |<" + rameno + vrchol + bod + "| = ", "°");
+}
+
+void DialogKroku::ZacniKruznici(std::string_view stred) {
+    const std::string jmeno = Jmeno();
+    ZacniUtvar(jmeno, "");
+    Upravit().BodVyzvy = stred;
+    Vyzvi("kružnice " + jmeno + "(" + std::string(stred) + ", r = ", ") cm");
+}
+
+void DialogKroku::ZacniPrimku(const std::string& jmena, const std::string& nazev) {
+    const std::string jmeno = Jmeno();
+    VybranyUtvar = UtvarSeJmeny(jmena);
+    ZacniUtvar(jmeno, "");
+    StavKroku& s = Upravit();
+    if (s.ZvolenyUtvar == ROVNOBEZKA) {
+        return Vyzvi(
+            "přímka " + jmeno + ", " + jmeno + "||" + nazev + ", |" + jmeno + "," + nazev + "| = ",
+            " cm");
+    }
+    s.lblText3 = "přímka " + jmeno + ", " + jmeno + "      " + nazev;
+    s.lblText4 = TextPanelu::Kolmo();
+    s.txtVstup = {};
+}
+
+void DialogKroku::ChybnaVolba(int cislo, std::string_view text) {
+    PridejChybu(cislo, text, 3);
+    Upravit().KrokChybny = true;
+}
+
+bool DialogKroku::DruhSedi(const Krok& krok, std::string_view druh) const {
+    return krok.Utvar == druh;
+}
+
+bool DialogKroku::ObsadKrok(std::string_view druh) {
+    for (const int n : pravidlaKroku_.Ocekavane) {
+        Krok& krok = HranyProUpravu().Kroky[n];
+        if (krok.Hotovo != NE || !DruhSedi(krok, druh)) continue;
+        krok.Hotovo = ANO;
+        return true;
+    }
+    return false;
+}
+
+void DialogKroku::Zapis(std::string_view druh, std::string_view prvek) {
+    ZadanyPrvek& z = ZadanePrvky[Stav().Faze];
+    z.Faze = static_cast<std::int16_t>(Stav().Faze);
+    z.Utvar = druh;
+    z.Prvek = prvek;
+}
+
+void DialogKroku::DalsiFaze() {
+    StavKroku& s = Upravit();
+    s.CekaNaKresleni = false;
+    s.Tazeni = false;
+    s.ZvolenyUtvar.clear();
+    s.txtVstup = {};
+    s.lblText3.clear();
+    s.lblText4 = {};
+    if (++s.Faze == PosledniFaze()) Uzavri();
+}
+
+void DialogKroku::Zpet() {
+    platna_.Pic.DrawWidth = 1;
+    StavKroku& s = Upravit();
+    --s.Faze;
+    s.CekaNaKresleni = false;
+    s.ZvolenyUtvar.clear();
+    s.HotovaKonstrukce = false;
+    VratFazi();
+}
+
+// ---- The check -------------------------------------------------------------------------------
+
+void DialogKroku::Zkontroluj() {
+    StavKroku& s = Upravit();
+    s.Skontrolovano = true;
+    s.Tazeni = false;
+    ZavriSeznam();
+    UctujChybnePrvky(ChybnychPrvku());
+    std::uint32_t ocekavane = 0;
+    const auto prvky = NacrtPrikladu().Prvky;
+    for (std::size_t i = 0; i < prvky.size(); ++i) {
+        if (JeZadana(prvky[i].Velicina)) ocekavane |= 1U << i;
+    }
+    UctujZnacky(s.Znacky == ocekavane);
+    if (!s.HotovaKonstrukce) UctujNedokoncenou(pravidlaKroku_.Zbytek);
+}
+
+// ---- The panel -------------------------------------------------------------------------------
+
+bool DialogKroku::MuzeZacit() const {
+    return KonstrukceZahajena != NE || Stav().Znacky != 0;
+}
+
+void DialogKroku::UkazNastroje(Panel& panel, const std::array<int, 6>& tvary,
+                               const std::array<bool, 6>& naRade) const {
+    for (std::size_t i = 0; i < tvary.size(); ++i) {
+        const bool zive = naRade[i] && tvary[i] != 0 && !Stav().CekaNaKresleni;
+        panel.cmd[i] = {tvary[i], zive, zive};
+    }
+}
+
+void DialogKroku::UkazVolbuUtvaru(Panel& panel, std::string_view vyzva) const {
+    panel.lblText1 = vyzva;
+    panel.lblText2 = Stav().Faze == 2 ? "1. útvar:" : "2. útvar:";
+    UkazNastroje(panel, TVARY_UTVARU, {true, true, true, true, true, true});
+}
+
+Gesto DialogKroku::GestoKroku() const {
+    using Tvar = Gesto::Tvar;
+    struct TahDruhu {
+        std::string_view Druh;
+        Tvar Jak;
+    };
+    static constexpr TahDruhu RADKY[] = {{USECKA, Tvar::Usecka},
+                                         {POLOPRIMKA, Tvar::Poloprimka},
+                                         {KRUZNICE, Tvar::Kruznice},
+                                         {KOLMICE, Tvar::Kolmice},
+                                         {ROVNOBEZKA, Tvar::Rovnobezka}};
+    const StavKroku& s = Stav();
+    if (!CekaNaKresleni()) return {};
+    const auto* r = std::ranges::find(RADKY, std::string_view(s.ZvolenyUtvar), &TahDruhu::Druh);
+    if (r == std::end(RADKY)) return {Tvar::Bod, {}, {}};  // the board computes it, wherever
+    if (r->Jak != Tvar::Usecka) return {r->Jak, s.BodVyzvy, {}};
+    const Utvar& nova = Utvary[PocetUtvaru + 1];
+    return {r->Jak, nova.Jmeno1, nova.Jmeno2};
+}
+
+Panel DialogKroku::UkazPanel() const {
+    const StavKroku& s = Stav();
+    Panel p;
+    p.Label1 = pravidlaKroku_.Uvod;
+    p.lblText3 = s.lblText3;
+    p.lblText4 = s.lblText4;
+    p.txtVstup = s.txtVstup;
+    p.Combo = s.Combo;
+    p.lblZadani = zadani_;
+    p.PicZiva = !s.HotovaKonstrukce && !s.Skontrolovano;
+    p.Kresleni = GestoKroku();
+    p.Nezavrena = s.Faze >= PosledniFaze() && !s.HotovaKonstrukce;
+    UkazFazi(p);
+    p.txtVstup.Ziva = !s.Skontrolovano;
+    if (!s.Skontrolovano) return p;
+    for (Tlacitko& t : p.cmd) t.Zive = false;
+    p.cmd[NASTROJ_ZPET - 1].Barevne = false;
+    return p;
+}
+
+}  // namespace rysovna

@@ -1,0 +1,218 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rules/Dialog.h"
+#include "rules/Kontrola.h"
+#include "rules/Nacrt.h"
+#include "rules/Prichytavani.h"
+#include "rules/Tahy.h"
+#include "rules/Zadani.h"
+
+namespace rysovna {
+
+/// Wrong steps that several boards charge: an object that no expected step asks for.
+constexpr int CHYBA_PAPRSEK_NECEKANY = 18, CHYBA_KOLMICE = 19, CHYBA_ROVNOBEZKA = 20,
+              CHYBA_KRUZNICE_NECEKANA = 21;
+
+/// The names of sides' midpoints, and so of the circles about them, begin with this letter.
+constexpr char STRED_STRANY = 'S';
+
+/// Name of a new object by its kind, as the first and as the second of the two that meet in a
+/// vertex. Of a ray it is the second point.
+struct JmenaUtvaru {
+    std::string_view Druh, Prvni, Druhy;
+};
+
+/// What a release costs when the object does not start at its vertex or centre.
+struct CenaPocatku {
+    std::string_view Druh;
+    int Prvni, Druhy;
+};
+
+/// What the boards of one figure have of their own in every step.
+struct PravidlaKroku {
+    std::string_view Uvod;  ///< lead-in of the assignment
+    Nacrt NacrtFigury;
+    std::span<const JmenaUtvaru> Jmena;
+    std::span<const CenaPocatku> CenyPocatku;
+    std::array<int, 2> Ocekavane;  ///< numbers of the data's steps with the two expected objects
+    TvarBodu Zbytek;               ///< wording of an unfinished construction's charge
+};
+
+/// What changes from step to step besides the construction, as far as the boards of triangles and
+/// quadrilaterals share it.
+struct StavKroku {
+    int Faze = 1;
+    std::string ZvolenyUtvar;  ///< kind of the tool in hand; empty between steps
+    std::string ZvolenyPrvek;  ///< code of the element: "a", "Aalfa", "AkB", "KA", "AXAB", ...
+    bool CekaNaKresleni = false;
+    bool KrokChybny = false;  ///< judged wrong already: its values cost nothing more
+    bool HotovaKonstrukce = false;
+    bool Skontrolovano = false;  ///< the check took the example
+    bool Tazeni = false;         ///< the button is held over the plane
+    Bod Start;
+    std::string BodVyzvy;      ///< the vertex or centre that the prompt names; empty: none
+    std::uint32_t Znacky = 0;  ///< marks of the sketch, bits in the order of its elements
+    Seznam Combo;
+    std::string lblText3;
+    TextPanelu lblText4;
+    Vstup txtVstup;
+    friend bool operator==(const StavKroku&, const StavKroku&) = default;
+};
+
+/// The course of a step, as the boards of triangles and quadrilaterals share it: a tool, a line of
+/// its list, a typed value, a drag; then undo, the check, the panel. What is offered and what it
+/// costs is the board's.
+class DialogKroku : public Dialog {
+public:
+    DialogKroku(Platna platna, const PravidlaKroku& pravidla)
+        : Dialog(platna), pravidlaKroku_(pravidla) {}
+
+    void NoveZadani() override;
+    void StiskNastroje(int i) override;
+    void VyberRadku(int i) override;
+    void ZavriSeznam() override { Upravit().Combo.Otevreny = false; }
+    void Napis(int ktery, const std::string& text) override;
+    void StiskPlochy(float x, float y) override;
+    [[nodiscard]] std::optional<Bod> ChytilBy(float x, float y) const override;
+    [[nodiscard]] Gumicka Tah(float x, float y) const override;
+    [[nodiscard]] std::uint32_t CekaniPoTahu() const override;
+    void PusteniPlochy(float x, float y) override;
+    [[nodiscard]] bool CekaNaKresleni() const override {
+        return Stav().CekaNaKresleni && !Stav().Skontrolovano;
+    }
+    [[nodiscard]] std::vector<Bod> MistaNacrtu() const override;
+    [[nodiscard]] int PrvekNacrtu(float x, float y) const override;
+    bool StiskNacrtu(float x, float y) override;
+    void KresliNacrt(Plane& plocha) const override;
+    void Zkontroluj() override;
+    [[nodiscard]] bool Hotova() const override { return Stav().HotovaKonstrukce; }
+    [[nodiscard]] Panel UkazPanel() const override;
+
+    [[nodiscard]] virtual const StavKroku& Stav() const = 0;
+    /// Number of the example in play, its record, and its values in the order of its names.
+    [[nodiscard]] int CisloPrikladu() const { return cisloPrikladu_; }
+    [[nodiscard]] const Priklad& Hrany() const { return Priklady[cisloPrikladu_]; }
+    [[nodiscard]] const HodnotyPrikladu& Hodnoty() const { return hodnoty_; }
+    /// The example's value of a quantity; none if it is not given.
+    [[nodiscard]] std::optional<int> Hodnota(std::string_view velicina) const;
+
+protected:
+    // What the boards answer each in its own way.
+
+    /// The sketch of the example in play.
+    [[nodiscard]] virtual Nacrt NacrtPrikladu() const { return pravidlaKroku_.NacrtFigury; }
+    [[nodiscard]] virtual StavKroku& Upravit() = 0;
+    /// The given quantities in their order: the three of the record.
+    [[nodiscard]] virtual std::vector<Zadana> Zadane() const;
+    /// Draws the values for a kind. False for an unknown kind: values and assignment stay.
+    [[nodiscard]] virtual bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) = 0;
+    /// Sets the labels of the assignment, two a row; what has no unit has no value.
+    virtual void SestavZadani(std::vector<PolozkaZadani>& zadani) const;
+    /// Whether tool i begins a step, which is not judged wrong yet.
+    [[nodiscard]] virtual bool ZacinaKrok(int /*i*/) const { return true; }
+    /// Tool i, live, was pressed: opens its list. Not called for the step back.
+    virtual void Nabidni(int i) = 0;
+    /// Line i, from 0, of the list was chosen; the list is closed by now.
+    virtual void ZvolRadek(std::size_t i) = 0;
+    /// Judges the press that begins a drag, by what it caught; its start is known by now.
+    virtual void PosudStisk(const Zachyt& /*zachyt*/) {}
+    /// The named point that the parallel in hand is drawn through, when it is let go here; none: it
+    /// stays where it was pushed.
+    [[nodiscard]] virtual std::optional<Bod> BodRovnobezky(Bod /*konec*/) const { return {}; }
+    /// The two points of the straight object that a drag to here makes.
+    [[nodiscard]] Dvojice BodyPrimky(Bod konec) const;
+    /// The read-out of a ray.
+    [[nodiscard]] virtual std::string OdectiPaprsek(Bod /*konec*/) const { return {}; }
+    /// Judges the number of the read-out at the release, in a step that is right so far.
+    virtual void PosudOdecet(double /*odecet*/) {}
+    /// Whether the ray or circle in hand starts at its vertex or centre.
+    [[nodiscard]] virtual bool ZacinaSpravne() const;
+    virtual void NakresliUtvar(Bod konec);
+    /// The number of the phase in which the construction is closed.
+    [[nodiscard]] virtual int PosledniFaze() const { return 4; }
+    /// The last phase was reached: closes the figure, if its objects meet.
+    virtual void Uzavri() = 0;
+    /// Takes the last step back: an earlier phase.
+    virtual void Zpet();
+    /// Back: the construction of the phase that holds now, drawn anew.
+    virtual void VratFazi() = 0;
+    /// Whether a kind of object is the one that an expected step asks for.
+    [[nodiscard]] virtual bool DruhSedi(const Krok& krok, std::string_view druh) const;
+    /// How many of the three entered elements are wrong.
+    [[nodiscard]] virtual int ChybnychPrvku() const = 0;
+    /// Prompts and faces of the phase.
+    virtual void UkazFazi(Panel& panel) const = 0;
+
+    // What the boards build their answers from.
+
+    /// Opens the list.
+    void OtevriSeznam(int sirka, std::vector<RadekSeznamu> radky);
+    /// The list line of a straight object that a perpendicular or a parallel can go by; none for
+    /// any other object.
+    [[nodiscard]] static std::optional<RadekSeznamu> RadekPrimky(const Utvar& u, bool kolmice);
+    /// Name of the object in hand, by its kind and the phase.
+    [[nodiscard]] std::string Jmeno() const;
+    /// Prompts for a value.
+    void Vyzvi(std::string vyzva, std::string jednotka);
+    /// Names the object in hand and prompts for it: a ray by the far end of the angle's other arm,
+    /// a circle by its centre, a perpendicular or parallel by the names of its base and by what
+    /// the prompt calls it.
+    void ZacniPaprsek(const std::string& rameno, const std::string& vrchol);
+    void ZacniKruznici(std::string_view stred);
+    void ZacniPrimku(const std::string& jmena, const std::string& nazev);
+    /// Opens the next row of the construction for a drag.
+    void ZacniUtvar(std::string jmeno1, std::string jmeno2);
+    /// Charges a choice: 3 points, and the step is wrong from now on.
+    void ChybnaVolba(int cislo, std::string_view text = TRI_BODY);
+    /// Takes the first expected step of this kind that was not taken yet; false if there is none.
+    bool ObsadKrok(std::string_view druh);
+    /// What the pupil chose in this phase, for the check.
+    void Zapis(std::string_view druh, std::string_view prvek);
+    /// The step is drawn: the next phase, or the end.
+    void DalsiFaze();
+    /// The base line of the perpendicular or parallel in hand.
+    [[nodiscard]] static const Utvar& Zakladna();
+    [[nodiscard]] bool JeZadana(std::string_view velicina) const {
+        return Hodnota(velicina).has_value();
+    }
+    /// What the plane waits for with the object in hand.
+    [[nodiscard]] Gesto GestoKroku() const;
+    /// Whether the first step may begin: it waits for a mark on the sketch until then.
+    [[nodiscard]] bool MuzeZacit() const;
+    /// Faces of the tools; one without a face, out of turn or beside an awaited drag is not live.
+    void UkazNastroje(Panel& panel, const std::array<int, 6>& tvary,
+                      const std::array<bool, 6>& naRade) const;
+    /// The step in which one of the two objects is chosen that meet in a vertex.
+    void UkazVolbuUtvaru(Panel& panel, std::string_view vyzva) const;
+    [[nodiscard]] Priklad& HranyProUpravu() { return Priklady[cisloPrikladu_]; }
+    [[nodiscard]] std::vector<PolozkaZadani>& ZadaniProUpravu() { return zadani_; }
+
+private:
+    struct DruhTahu;
+    [[nodiscard]] const DruhTahu* Druh() const;
+    [[nodiscard]] Zachyt ChytPosledni(float x, float y) const;
+    [[nodiscard]] Zachyt Chyt(float x, float y) const;
+    [[nodiscard]] Zachyt ChytStred(float x, float y) const;
+    [[nodiscard]] Zachyt ChytZakladnu(float x, float y) const;
+    void NakresliUsecku(int n, Bod konec) const;
+    void NakresliPoloprimku(int n, Bod konec) const;
+    void NakresliKruznici(int n, Bod konec) const;
+    void NakresliKolmici(int n, Bod konec) const;
+    void NakresliRovnobezku(int n, Bod konec) const;
+    [[nodiscard]] std::string OdectiUsecku(Bod konec) const;
+    [[nodiscard]] std::string OdectiPosunuti(Bod konec) const;
+
+    PravidlaKroku pravidlaKroku_;
+    std::vector<PolozkaZadani> zadani_;
+    int cisloPrikladu_ = 1;
+    HodnotyPrikladu hodnoty_{};
+};
+
+}  // namespace rysovna

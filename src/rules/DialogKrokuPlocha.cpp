@@ -1,0 +1,175 @@
+// A drag on the plane: where it starts, what it reads, what it draws, by the kind of object.
+
+#include <cstdlib>
+
+#include "base/Chyba.h"
+#include "base/Cisla.h"
+#include "engine/Kresleni.h"
+#include "engine/Resitele.h"
+#include "rules/Chyby.h"
+#include "rules/DialogKroku.h"
+#include "rules/Misc.h"
+
+namespace rysovna {
+
+namespace {
+
+// Waits after a release, ms: a segment shorter, since nothing of it needs to be seen first.
+constexpr std::uint32_t CEKANI_USECKA = 10;
+constexpr std::uint32_t CEKANI_OSTATNI = 100;
+
+}  // namespace
+
+/// What a drag does with one kind of object in hand.
+struct DialogKroku::DruhTahu {
+    std::string_view Nazev;
+    Zachyt (DialogKroku::*Chyt)(float x, float y) const;    ///< the start of a press
+    std::string (DialogKroku::*Odecti)(Bod konec) const;    ///< null: none, or the circle's own
+    void (DialogKroku::*Nakresli)(int n, Bod konec) const;  ///< into row n
+};
+
+const DialogKroku::DruhTahu* DialogKroku::Druh() const {
+    using D = DialogKroku;
+    static constexpr DruhTahu DRUHY[] = {
+        {USECKA, &D::ChytPosledni, &D::OdectiUsecku, &D::NakresliUsecku},
+        {POLOPRIMKA, &D::ChytPosledni, &D::OdectiPaprsek, &D::NakresliPoloprimku},
+        {KRUZNICE, &D::ChytStred, nullptr, &D::NakresliKruznici},
+        {KOLMICE, &D::ChytZakladnu, nullptr, &D::NakresliKolmici},
+        {ROVNOBEZKA, &D::ChytZakladnu, &D::OdectiPosunuti, &D::NakresliRovnobezku}};
+    for (const DruhTahu& d : DRUHY) {
+        if (d.Nazev == Stav().ZvolenyUtvar) return &d;
+    }
+    return nullptr;
+}
+
+const Utvar& DialogKroku::Zakladna() {
+    return Utvary[VybranyUtvar];
+}
+
+Zachyt DialogKroku::ChytPosledni(float x, float y) const {
+    return ZachytPosledni(x, y);
+}
+
+Zachyt DialogKroku::ChytStred(float x, float y) const {
+    return ZachytNejblizsi(x, y, Stav().ZvolenyPrvek.starts_with(STRED_STRANY));
+}
+
+Zachyt DialogKroku::ChytZakladnu(float x, float y) const {
+    return {false, BodNaZakladne(Zakladna(), x, y)};
+}
+
+std::string DialogKroku::OdectiUsecku(Bod konec) const {
+    return OdectiDelku(Vzdalenost(Stav().Start, konec));
+}
+
+std::string DialogKroku::OdectiPosunuti(Bod konec) const {
+    return OdectiVzdalenost(Zakladna(), Stav().Start, konec);
+}
+
+Dvojice DialogKroku::BodyPrimky(Bod konec) const {
+    const Bod start = Stav().Start;
+    if (Stav().ZvolenyUtvar == KOLMICE) return Kolme(Zakladna(), start, konec);
+    if (Stav().ZvolenyUtvar == ROVNOBEZKA) {
+        const Utvar& zakladna = Zakladna();
+        const Dvojice tazena = Rovnobezne(zakladna, start, konec);
+        const std::optional<Bod> pres = BodRovnobezky(konec);
+        return pres ? Rovnobezne(zakladna, {zakladna.X1, zakladna.Y1}, *pres) : tazena;
+    }
+    return {start, konec};
+}
+
+Zachyt DialogKroku::Chyt(float x, float y) const {
+    const DruhTahu* druh = Druh();
+    return druh == nullptr ? Zachyt{false, NaPixely(x, y)} : (this->*druh->Chyt)(x, y);
+}
+
+std::optional<Bod> DialogKroku::ChytilBy(float x, float y) const {
+    if (!CekaNaKresleni()) return std::nullopt;
+    const Zachyt zachyt = Chyt(x, y);
+    return zachyt.Je ? std::optional(zachyt.Misto) : std::nullopt;
+}
+
+void DialogKroku::StiskPlochy(float x, float y) {
+    if (!CekaNaKresleni()) return;
+    const Zachyt zachyt = Chyt(x, y);
+    Upravit().Tazeni = true;
+    Upravit().Start = zachyt.Misto;
+    PosudStisk(zachyt);
+}
+
+Gumicka DialogKroku::Tah(float x, float y) const {
+    const DruhTahu* druh = Druh();
+    if (!CekaNaKresleni() || !Stav().Tazeni || druh == nullptr) return {};
+    const Bod konec = NaPixely(x, y);
+    const Bod start = Stav().Start;
+    if (druh->Nazev == KRUZNICE) {
+        const int r = std::abs(konec.X - start.X);
+        return {Gumicka::Tvar::Kruh, start.X - r, start.Y - r,
+                start.X + r,         start.Y + r, OdectiDelku(r)};
+    }
+    Dvojice body = BodyPrimky(konec);
+    if (druh->Nazev == KOLMICE) body.P2 = PataUkazatele(body, konec);
+    return {Gumicka::Tvar::Cara, body.P1.X,
+            body.P1.Y,           body.P2.X,
+            body.P2.Y,           druh->Odecti == nullptr ? "" : (this->*druh->Odecti)(konec)};
+}
+
+std::uint32_t DialogKroku::CekaniPoTahu() const {
+    return Stav().ZvolenyUtvar == USECKA ? CEKANI_USECKA : CEKANI_OSTATNI;
+}
+
+bool DialogKroku::ZacinaSpravne() const {
+    return ZacinaVBode(Stav().Start, Stav().ZvolenyPrvek.substr(0, 1));
+}
+
+void DialogKroku::PusteniPlochy(float x, float y) {
+    if (!CekaNaKresleni() || !Stav().Tazeni) return;
+    if (!Stav().KrokChybny) {
+        PosudOdecet(CisloZOdectu(Tah(x, y).Text));
+        for (const CenaPocatku& c : pravidlaKroku_.CenyPocatku) {
+            if (c.Druh != Stav().ZvolenyUtvar || ZacinaSpravne()) continue;
+            PridejChybu(Stav().Faze == 2 ? c.Prvni : c.Druhy, JEDEN_BOD, 1);
+        }
+    }
+    NakresliUtvar(NaPixely(x, y));
+    DalsiFaze();
+}
+
+void DialogKroku::NakresliUtvar(Bod konec) {
+    const DruhTahu* druh = Druh();
+    if (druh == nullptr) Selhani("Útvar se nedá narýsovat: " + Stav().ZvolenyUtvar);
+    platna_.Pic.DrawWidth = 1;
+    (this->*druh->Nakresli)(++PocetUtvaru, konec);
+}
+
+void DialogKroku::NakresliUsecku(int n, Bod konec) const {
+    const Bod p = Stav().Start;
+    const std::string jmeno1 = Utvary[n].Jmeno1;
+    const std::string jmeno2 = Utvary[n].Jmeno2;
+    const auto delka = static_cast<float>(DelkaVCm(Vzdalenost(p, konec)));
+    KresliUsecku(platna_.Pic, USECKA, n, p.X, p.Y, konec.X, konec.Y, delka, jmeno1, jmeno2, ANO,
+                 ANO, ANO);
+}
+
+void DialogKroku::NakresliPoloprimku(int n, Bod konec) const {
+    const Bod p = Stav().Start;
+    const std::string jmeno2 = Utvary[n].Jmeno2;
+    KresliPoloprimku(platna_.Pic, POLOPRIMKA, n, p.X, p.Y, konec.X, konec.Y, jmeno2, ANO);
+}
+
+void DialogKroku::NakresliKruznici(int n, Bod konec) const {
+    const Bod p = Stav().Start;
+    KresliKruznici(platna_.Pic, KRUZNICE, n, p.X, p.Y, konec.X, ANO);
+}
+
+void DialogKroku::NakresliKolmici(int n, Bod konec) const {
+    const auto& [p, q] = BodyPrimky(konec);
+    KresliKolmici(platna_.Pic, KOLMICE, n, p.X, p.Y, q.X, q.Y, ANO);
+}
+
+void DialogKroku::NakresliRovnobezku(int n, Bod konec) const {
+    const Dvojice p = BodyPrimky(konec);
+    KresliPosunutou(platna_.Pic, n, UlozRovnobezku(platna_.Pic, p, BodRovnobezky(konec), konec));
+}
+
+}  // namespace rysovna

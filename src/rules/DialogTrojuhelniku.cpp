@@ -1,0 +1,179 @@
+#include "rules/DialogTrojuhelniku.h"
+
+#include "base/Cisla.h"
+#include "engine/Kresleni.h"
+#include "engine/Sluzby.h"
+#include "rules/Chyby.h"
+#include "rules/Misc.h"
+#include "rules/Uzavreni.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr PismenoNacrtu PISMENA[] = {{"A", 24, 138}, {"B", 266, 138}, {"C", 145, 10}};
+
+constexpr JmenaUtvaru JMENA[] = {
+    {POLOPRIMKA, "X", "Y"}, {KOLMICE, "b", "c"}, {ROVNOBEZKA, "p", "q"}, {KRUZNICE, "k", "l"}};
+
+constexpr CenaPocatku CENY_POCATKU[] = {{POLOPRIMKA, 31, 31}, {KRUZNICE, 22, 45}};
+
+constexpr int CHYBA_PAPRSEK_JINDE = 23;
+
+constexpr int SIRKA_HOTOVYCH_STRAN = 2;  // px
+
+}  // namespace
+
+DialogTrojuhelniku::DialogTrojuhelniku(Platna platna, const PravidlaTrojuhelniku& pravidla)
+    : DialogKroku(platna, {"Sestroj trojúhelník ABC:",
+                           {pravidla.Nacrt, PISMENA},
+                           JMENA,
+                           CENY_POCATKU,
+                           {2, 3},
+                           TvarBodu::VzdyBod}),
+      pravidla_(pravidla) {
+    // The labels' captions as designed: a caption that no rule sets stays as it is.
+    for (const std::string_view navrh : {"a", "b", "c"}) {
+        ZadaniProUpravu().push_back(NazevStrany(navrh, MEZERA, navrh != "b"));
+        ZadaniProUpravu().push_back(HodnotaZadani("", MEZERA));
+    }
+}
+
+void DialogTrojuhelniku::NovyPriklad() {
+    VyprazdniKonstrukci(platna_);
+    stav_ = StavTrojuhelniku{};
+}
+
+void DialogTrojuhelniku::Posun(int dx, int dy) {
+    PosunVse(platna_.HidenPic, platna_.Pic, dx, dy);
+    if (!stav_.HotovaKonstrukce) return;
+    // The redraw wrote over the last snap record: the vertex is the dialogue's own, and goes on.
+    stav_.Vrchol.X += dx;
+    stav_.Vrchol.Y += dy;
+    ObtahniStrany();
+    ZapisVrchol();
+}
+
+// ---- The plane -------------------------------------------------------------------------------
+
+const CenaVeliciny* DialogTrojuhelniku::Cena() const {
+    for (const CenaVeliciny& c : pravidla_.Ceny) {
+        if (c.Nastroj == stav_.ZvolenyUtvar && c.Velicina == stav_.Velicina) return &c;
+    }
+    return nullptr;
+}
+
+bool DialogTrojuhelniku::HodnotaSedi(double hodnota) const {
+    return hodnota == Hodnota(stav_.Velicina).value_or(0);
+}
+
+/// Judges the typed value, then what the press caught.
+void DialogTrojuhelniku::PosudStisk(const Zachyt& zachyt) {
+    const std::string& druh = stav_.ZvolenyUtvar;
+    const CenaVeliciny* cena = stav_.KrokChybny ? nullptr : Cena();
+    if (cena != nullptr && !HodnotaSedi(Cislo(stav_.txtVstup.Text))) {
+        PridejChybu(cena->Napsana, JEDEN_BOD, 1);
+    } else if (druh == POLOPRIMKA && !stav_.KrokChybny && zachyt.Je &&
+               !BodMaJmeno(zachyt.Misto, stav_.ZvolenyPrvek.substr(0, 1))) {
+        PridejChybu(CHYBA_PAPRSEK_JINDE, JEDEN_BOD, 1);
+    }
+    if (druh == KOLMICE) PridejChybu(CHYBA_KOLMICE, TRI_BODY, 3);
+    if (druh == ROVNOBEZKA && pravidla_.ChybaRovnobezky != 0) {
+        PridejChybu(pravidla_.ChybaRovnobezky, TRI_BODY, 3);
+    }
+}
+
+/// The angle against the first side, from the end at which the ray's vertex is.
+std::string DialogTrojuhelniku::OdectiPaprsek(Bod konec) const {
+    const Utvar& strana = Utvary[1];
+    const bool odPrvni = strana.Jmeno1 == stav_.ZvolenyPrvek.substr(0, 1);
+    const Bod p1{strana.X1, strana.Y1};
+    const Bod p2{strana.X2, strana.Y2};
+    return OdectiUhel(odPrvni ? p1 : p2, odPrvni ? p2 : p1, stav_.Start, konec);
+}
+
+void DialogTrojuhelniku::PosudOdecet(double odecet) {
+    const CenaVeliciny* cena = Cena();
+    if (cena != nullptr && !HodnotaSedi(odecet)) PridejChybu(cena->Nakreslena, JEDEN_BOD, 1);
+}
+
+// ---- Closing and back ------------------------------------------------------------------------
+
+void DialogTrojuhelniku::Uzavri() {
+    if (!NajdiVrchol()) return;
+    ObtahniStrany();
+    ++PocetTrojic;
+    ZapisVrchol();
+    stav_.HotovaKonstrukce = true;
+}
+
+bool DialogTrojuhelniku::NajdiVrchol() {
+    const Utvar& strana = Utvary[PocetUtvaru - 2];
+    const std::string jmena = strana.Jmeno1 + strana.Jmeno2;
+    stav_.PismenoVrcholu = jmena == "AB" ? "C" : jmena == "AC" ? "B" : "A";
+    const Pruseciky body =
+        PrusecikyUtvaru(platna_.Pic, Utvary[PocetUtvaru - 1], Utvary[PocetUtvaru]);
+    if (body.P1 == BEZ_BODU) return false;
+    stav_.Vrchol = VyberVrchol(strana, body);
+    return true;
+}
+
+/// The two sides that meet in the third vertex, and its letter.
+void DialogTrojuhelniku::ObtahniStrany() {
+    const Utvar& strana = Utvary[PocetUtvaru - 2];
+    Plane& pic = platna_.Pic;
+    pic.DrawWidth = SIRKA_HOTOVYCH_STRAN;
+    const auto x = static_cast<float>(stav_.Vrchol.X);
+    const auto y = static_cast<float>(stav_.Vrchol.Y);
+    pic.Line(x, y, static_cast<float>(strana.X1), static_cast<float>(strana.Y1));
+    pic.Line(x, y, static_cast<float>(strana.X2), static_cast<float>(strana.Y2));
+    PopisBod(pic, stav_.Vrchol, stav_.PismenoVrcholu);
+}
+
+/// The last snap record becomes the third vertex.
+void DialogTrojuhelniku::ZapisVrchol() {
+    SmazRadekTrojic(PocetTrojic);
+    Trojice& zachyt = Trojice_tab[PocetTrojic];
+    zachyt.X1 = stav_.Vrchol.X;
+    zachyt.Y1 = stav_.Vrchol.Y;
+    zachyt.Jmeno1 = stav_.PismenoVrcholu;
+}
+
+void DialogTrojuhelniku::VratFazi() {
+    --PocetUtvaru;
+    --PocetTrojic;
+    stav_.Vrchol = BEZ_BODU;
+    if (stav_.Faze >= 2) {
+        auto& kroky = HranyProUpravu().Kroky;
+        kroky[2].Hotovo = NE;
+        kroky[3].Hotovo = NE;
+    }
+    // The closing added a snap record of its own: the count of two objects is known.
+    if (stav_.Faze == 3) PocetUtvaru = PocetTrojic = 2;
+    PrekresliVse(platna_.HidenPic, platna_.Pic);
+}
+
+// ---- The check and the panel -----------------------------------------------------------------
+
+int DialogTrojuhelniku::ChybnychPrvku() const {
+    const auto& kroky = Hrany().Kroky;
+    int chybnych = 0;
+    for (int radek = 1; radek <= 3; ++radek) {
+        const ZadanyPrvek& z = ZadanePrvky[radek];
+        const bool druh = radek == 1 ? DruhSedi(kroky[1], z.Utvar)
+                                     : DruhSedi(kroky[2], z.Utvar) || DruhSedi(kroky[3], z.Utvar);
+        if (!JeZadana(z.Prvek) || !druh) ++chybnych;
+    }
+    return chybnych;
+}
+
+void DialogTrojuhelniku::UkazFazi(Panel& panel) const {
+    if (stav_.Faze > 1) {
+        return UkazVolbuUtvaru(
+            panel, "Třetí vrchol trojúhelníka leží v průniku následujících geometrických útvarů:");
+    }
+    panel.lblText1 = "Nejprve narýsuješ stranu trojúhelníka. Zvol, kterou úsečkou začneš.";
+    UkazNastroje(panel, {1, 0, 0, 0, 12, 0}, {MuzeZacit()});
+}
+
+}  // namespace rysovna

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string_view>
+
+#include "rules/DialogCtyruhelnikuVrchol.h"
+
+namespace rysovna {
+
+/// The dialogue of the trapezoid: as the general quadrilateral, but a parallel to a side is one of
+/// the two objects of the fourth vertex.
+class LichoDialog final : public DialogCtyruhelnikuVrchol {
+public:
+    explicit LichoDialog(Platna platna);
+
+protected:
+    [[nodiscard]] Nacrt NacrtPrikladu() const override;
+};
+
+}  // namespace rysovna

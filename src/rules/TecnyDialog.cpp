@@ -1,0 +1,315 @@
+// The life of an example, the step buttons with their lists, and back.
+
+#include "rules/TecnyDialog.h"
+
+#include <algorithm>
+
+#include "engine/Sluzby.h"
+#include "rules/Chyby.h"
+#include "rules/Kontrola.h"
+#include "rules/Misc.h"
+#include "rules/TecnyNacrt.h"
+#include "rules/TecnyZadani.h"
+#include "rules/Zadani.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr int NASTROJ_ZPET = 5;
+
+constexpr int SIRKA_SEZNAMU = 200;  // px
+
+bool JePrima(const Utvar& u) {
+    return u.Druh == USECKA || u.Druh == PRIMKA || u.Druh == KOLMICE || u.Druh == ROVNOBEZKA;
+}
+
+/// The base's name behind the words that the list of perpendiculars or that of parallels has for
+/// its kind; empty when there is no such object.
+std::string SlovyPrimku(std::string_view jmeno, std::string_view uPrimky,
+                        std::string_view uUsecky) {
+    const int i = NajdiCaru(jmeno);
+    if (i == 0) return {};
+    return std::string(Utvary[i].Druh == USECKA ? uUsecky : uPrimky) + std::string(jmeno);
+}
+
+}  // namespace
+
+Bod NajdiBod(std::string_view jmeno) {
+    for (int i = 1; i <= PocetUtvaru; ++i) {
+        const Utvar& u = Utvary[i];
+        if ((u.Druh == BOD || u.Druh == USECKA) && u.Jmeno1 == jmeno) return {u.X1, u.Y1};
+        if (u.Druh == USECKA && u.Jmeno2 == jmeno) return {u.X2, u.Y2};
+    }
+    return BEZ_BODU;
+}
+
+int NajdiCaru(std::string_view jmeno) {
+    for (int i = 1; i <= PocetUtvaru; ++i) {
+        const Utvar& u = Utvary[i];
+        if ((JePrima(u) || u.Druh == KRUZNICE) && u.Jmeno1 + u.Jmeno2 == jmeno) return i;
+    }
+    return 0;
+}
+
+const Cviceni* TecnyDialog::Hrane() const {
+    return NajdiCviceni(Priklady[cisloPrikladu_].Druh);
+}
+
+const KrokTecny* TecnyDialog::KrokFaze(int faze) const {
+    const Cviceni* c = Hrane();
+    if (c == nullptr || faze < 1 || faze > static_cast<int>(c->Kroky.size())) return nullptr;
+    return &c->Kroky[static_cast<std::size_t>(faze - 1)];
+}
+
+bool TecnyDialog::Znaci() const {
+    const KrokTecny* krok = KrokFaze();
+    return krok != nullptr && krok->Spravny == Nastroj::Prusecik;
+}
+
+void TecnyDialog::NovyPriklad() {
+    VyprazdniKonstrukci(platna_);
+    stav_ = {};
+    minulost_.clear();
+    zadano_ = false;
+}
+
+void TecnyDialog::NoveZadani() {
+    NovyPriklad();
+    cisloPrikladu_ = VylosujPriklad();
+    ZapomenZadanePrvky();
+    zadano_ = true;
+    const std::string& kod = Priklady[cisloPrikladu_].Druh;
+    Plane& pic = platna_.Pic;
+    NakresliFiguru(pic, VylosujFiguru(kod, pic.Width(), pic.Height(), Generator));
+}
+
+bool TecnyDialog::StiskNacrtu(float x, float y) {
+    const Cviceni* c = Hrane();
+    if (c == nullptr || !zadano_ || stav_.Skontrolovano) return false;
+    const int prvek = PrvekNacrtu(x, y);
+    if (prvek < 0) return false;
+    stav_.Znacky ^= Znacka(NacrtTecny(c->Kod)[static_cast<std::size_t>(prvek)].Znacka);
+    return true;
+}
+
+std::vector<Bod> TecnyDialog::MistaNacrtu() const {
+    const Cviceni* c = Hrane();
+    return c == nullptr ? std::vector<Bod>{} : MistaNacrtuTecny(c->Kod);
+}
+
+int TecnyDialog::PrvekNacrtu(float x, float y) const {
+    const Cviceni* c = Hrane();
+    return c == nullptr ? -1 : PrvekNacrtuPod(c->Kod, x, y);
+}
+
+void TecnyDialog::KresliNacrt(Plane& plocha) const {
+    const Cviceni* c = Hrane();
+    KresliNacrtTecny(plocha, c == nullptr ? std::string_view{} : c->Kod, stav_.Znacky);
+}
+
+void TecnyDialog::Zkontroluj() {
+    const Cviceni* c = Hrane();
+    stav_.Skontrolovano = true;
+    stav_.Tazeni = false;
+    ZavriSeznam();
+    if (!stav_.HotovaKonstrukce) UctujNedokoncenou(TvarBodu::PodleCisla);
+    if (c == nullptr) return;
+    const bool oznaceno = (stav_.Znacky & c->PovinneZnacky) == c->PovinneZnacky;
+    if (!oznaceno && SoucetZapornychBodu < BODU_ZA_PRIKLAD) {
+        PridejChybu(CHYBA_ZNACKY, JEDEN_BOD, 1);
+    }
+}
+
+/// Redraws all, shifted by so many pixels. A redraw writes over the last snap row; it gets back
+/// what it held.
+void TecnyDialog::Prekresli(int dx, int dy) {
+    Trojice posledni = Trojice_tab[PocetTrojic];
+    PosunVse(platna_.HidenPic, platna_.Pic, dx, dy);
+    for (int* x : {&posledni.X1, &posledni.X2, &posledni.X3}) *x += dx;
+    for (int* y : {&posledni.Y1, &posledni.Y2, &posledni.Y3}) *y += dy;
+    if (PocetTrojic > 0) Trojice_tab[PocetTrojic] = posledni;
+}
+
+void TecnyDialog::Posun(int dx, int dy) {
+    Prekresli(dx, dy);
+    const auto posun = [dx, dy](Bod& b) {
+        if (b == BEZ_BODU) return;
+        b.X += dx;
+        b.Y += dy;
+    };
+    const auto posunPary = [&](DvaPruseciky& p) { std::ranges::for_each(p.Misto, posun); };
+    posunPary(stav_.Pary);
+    for (Minulost& m : minulost_) posunPary(m.Pary);
+    posun(stav_.StredUsecky);
+    posun(stav_.Start);
+    if (stav_.HotovaKonstrukce) ZvyrazniReseni();
+}
+
+// ---- Tools -----------------------------------------------------------------------------------
+
+void TecnyDialog::StiskNastroje(int i) {
+    const Panel panel = UkazPanel();
+    if (i < 1 || i > NASTROJ_ZPET || !panel.cmd[static_cast<std::size_t>(i - 1)].Zive) return;
+    KonstrukceZahajena = ANO;
+    if (i == NASTROJ_ZPET) return Zpet();
+    const KrokTecny* krok = KrokFaze();
+    if (krok == nullptr) return;
+    Odzbroj();
+    stav_.Tvar = krok->Tvary[static_cast<std::size_t>(i - 1)];
+    stav_.Spravny = stav_.Tvar == krok->Spravny;
+    if (std::ranges::find(krok->Chybne, stav_.Tvar) != krok->Chybne.end()) Chybne();
+    switch (stav_.Tvar) {
+        case Nastroj::Prusecik:
+            return PripravOznaceni(*krok);
+        case Nastroj::Stred:
+            return PripravStred(*krok);
+        case Nastroj::Osa: {
+            stav_.ZvolenyUtvar = "osa";
+            const std::string jmeno = std::string(krok->Body[0]) + std::string(krok->Body[1]);
+            return OtevriSeznam({{"úsečky " + jmeno, true, true, jmeno}});
+        }
+        case Nastroj::Poloprimka: {
+            const std::string od(Hrane()->PocatekPoloprimky);
+            stav_.ZvolenyUtvar = POLOPRIMKA;
+            stav_.Jmeno = od;
+            stav_.lblText3 = "polopřímka " + od + "Y";
+            stav_.CekaNaKresleni = true;
+            return;
+        }
+        case Nastroj::Primka:
+            stav_.ZvolenyUtvar = PRIMKA;
+            return NabidniSpojnice(*krok);
+        case Nastroj::Kruznice:
+            stav_.ZvolenyUtvar = KRUZNICE;
+            return NabidniKruznice(*krok);
+        case Nastroj::Kolmice:
+            stav_.ZvolenyUtvar = KOLMICE;
+            return NabidniPrimky(*krok);
+        case Nastroj::Rovnobezka:
+            stav_.ZvolenyUtvar = ROVNOBEZKA;
+            return NabidniPrimky(*krok);
+        case Nastroj::Zadny:
+            return;
+    }
+}
+
+/// A wrong button: charged at once; the object can be drawn all the same and costs no more.
+void TecnyDialog::Chybne() {
+    PridejChybu(CHYBA_TLACITKO, TRI_BODY, 3);
+    stav_.KrokChybny = true;
+}
+
+/// Lays the step in hand down, so that the buttons are live again.
+void TecnyDialog::Odzbroj() {
+    static_cast<KrokVRuce&>(stav_) = {};
+}
+
+void TecnyDialog::ZavriSeznam() {
+    if (stav_.Combo.Otevreny) Odzbroj();
+}
+
+/// A list without a row cannot be picked from: the object is then drawn as dragged.
+void TecnyDialog::OtevriSeznam(std::vector<RadekSeznamu> radky) {
+    if (radky.empty()) {
+        stav_.CekaNaKresleni = true;
+        return;
+    }
+    stav_.Combo = Seznam::SRadky(SIRKA_SEZNAMU, std::move(radky));
+}
+
+/// Perpendicular and parallel: the bases that there are.
+void TecnyDialog::NabidniPrimky(const KrokTecny& krok) {
+    const bool kolmice = stav_.Tvar == Nastroj::Kolmice;
+    std::vector<RadekSeznamu> radky;
+    const auto pridej = [&](std::string_view jmeno) {
+        std::string text = SlovyPrimku(jmeno, kolmice ? "k přímce " : "s přímkou ",
+                                       kolmice ? "k úsečce " : "s úsečkou ");
+        if (!text.empty()) radky.push_back({std::move(text), true, true, std::string(jmeno)});
+    };
+    if (stav_.Spravny) {
+        for (const Volba& v : krok.Volby) pridej(v.Prvek);
+    } else {
+        for (const std::string_view z : krok.Zakladny) pridej(z);
+    }
+    stav_.Jmeno = stav_.Spravny ? std::string(VolneJmeno(krok)) : "p" + std::to_string(stav_.Faze);
+    OtevriSeznam(std::move(radky));
+}
+
+void TecnyDialog::NabidniKruznice(const KrokTecny& krok) {
+    if (!stav_.Spravny) {
+        const std::string_view jmeno = Hrane()->ChybnaKruznice;
+        stav_.Jmeno = jmeno.empty() ? "k" + std::to_string(stav_.Faze) : std::string(jmeno);
+        stav_.lblText3 = "kružnice " + stav_.Jmeno;
+        stav_.CekaNaKresleni = true;
+        return;
+    }
+    stav_.Jmeno = VolneJmeno(krok);
+    std::vector<RadekSeznamu> radky;
+    for (const Volba& v : krok.Volby) {
+        if (v.Prvek.empty() || NajdiBod(v.Prvek) == BEZ_BODU) continue;
+        radky.push_back({"kružnice " + stav_.Jmeno + ", střed v bodě " + std::string(v.Prvek), true,
+                         true, std::string(v.Prvek)});
+    }
+    OtevriSeznam(std::move(radky));
+}
+
+/// Lines through two named points.
+void TecnyDialog::NabidniSpojnice(const KrokTecny& krok) {
+    std::vector<RadekSeznamu> radky;
+    for (const Volba& v : krok.Volby) {
+        if (v.Prvek.empty()) continue;
+        radky.push_back({"přímka " + std::string(v.Prvek), true, true, std::string(v.Prvek)});
+    }
+    stav_.Jmeno = VolneJmeno(krok);
+    OtevriSeznam(std::move(radky));
+}
+
+void TecnyDialog::PripravStred(const KrokTecny& krok) {
+    stav_.ZvolenyUtvar = "stred";
+    stav_.Jmeno =
+        stav_.Spravny ? std::string(VolneJmeno(krok)) : std::string(krok.JmenoChybnehoStredu);
+    stav_.lblText3 = "střed úsečky " + std::string(krok.Body[0]) + std::string(krok.Body[1]);
+    const Bod a = NajdiBod(krok.Body[0]);
+    const Bod b = NajdiBod(krok.Body[1]);
+    if (!(a == BEZ_BODU) && !(b == BEZ_BODU)) stav_.StredUsecky = StredUseckyBodu(a, b);
+    stav_.CekaNaKresleni = true;
+}
+
+void TecnyDialog::PripravOznaceni(const KrokTecny& krok) {
+    stav_.ZvolenyUtvar = "prusecik";
+    stav_.OcekavanyBod = krok.Jmena[0];
+    stav_.CekaNaKresleni = true;
+}
+
+/// The first of the names that the step can give whose solution entry is not done.
+std::string_view TecnyDialog::VolneJmeno(const KrokTecny& krok) const {
+    const auto hotovo = [this](std::string_view jmeno) {
+        for (int i = 1; i <= decltype(Priklad::Kroky)::POSLEDNI; ++i) {
+            const Krok& k = Priklady[cisloPrikladu_].Kroky[i];
+            if (k.Jmeno == jmeno && k.Hotovo != NE) return true;
+        }
+        return false;
+    };
+    return !krok.Jmena[1].empty() && hotovo(krok.Jmena[0]) ? krok.Jmena[1] : krok.Jmena[0];
+}
+
+void TecnyDialog::Zpet() {
+    if (minulost_.empty()) return;
+    Odzbroj();
+    const Minulost m = std::move(minulost_.back());
+    minulost_.pop_back();
+    PocetUtvaru -= m.Utvaru;
+    PocetTrojic -= m.Utvaru;
+    for (int i = 0; i < m.Radku; ++i) ZadanePrvky[m.Faze + i] = {};
+    for (const int i : m.Polozky) Priklady[cisloPrikladu_].Kroky[i].Hotovo = NE;
+    stav_.Faze = m.Faze;
+    stav_.Pary = m.Pary;
+    stav_.Pouzite = m.Pouzite;
+    stav_.Zpatky = true;
+    stav_.HotovaKonstrukce = false;
+    platna_.Pic.DrawWidth = 1;
+    Prekresli(0, 0);
+}
+
+}  // namespace rysovna

@@ -1,0 +1,431 @@
+// The plane: marking of points, drawing of objects, their judgement, the end of a step.
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+#include "base/Cisla.h"
+#include "engine/Kresleni.h"
+#include "engine/Resitele.h"
+#include "rules/Chyby.h"
+#include "rules/Kontrola.h"
+#include "rules/Prichytavani.h"
+#include "rules/TecnyDialog.h"
+#include "rules/Uzavreni.h"
+
+namespace rysovna {
+
+namespace {
+
+// Tolerances, px: ends included but for the 15 of a line.
+constexpr int DOSAH_PRUSECIKU = 8;
+constexpr int DOSAH_STREDU = 5;
+constexpr double DOSAH_PRIMKY = 15;
+constexpr double TOLERANCE_POLOMERU = 4;
+
+constexpr int SIRKA_VYSLEDKU = 2;
+
+bool VDosahu(float x, float y, Bod b, int dosah) {
+    const auto d = static_cast<float>(dosah);
+    return std::fabs(x - static_cast<float>(b.X)) <= d &&
+           std::fabs(y - static_cast<float>(b.Y)) <= d;
+}
+
+/// How far a line passes from a point, measured along Y; along X when the line is upright.
+struct Odchylka {
+    double O;  ///< signed way from the line to the point
+    bool Svisla;
+    double Primka;  ///< where the line is
+    int Bod_;       ///< where the point is
+};
+Odchylka Zmer(Dvojice p, Bod b) {
+    if (p.P1.X == p.P2.X) {
+        return {static_cast<double>(b.X) - p.P1.X, true, static_cast<double>(p.P1.X), b.X};
+    }
+    const double y = p.P1.Y + static_cast<double>(b.X - p.P1.X) * (p.P2.Y - p.P1.Y) /
+                                  static_cast<double>(p.P2.X - p.P1.X);
+    return {b.Y - y, false, y, b.Y};
+}
+
+/// The half-pixel rule. A line that runs exactly through the point is right whatever the rounding
+/// of halves.
+bool NaPulPixelu(const Odchylka& o) {
+    return o.O == 0 || Zaokrouhli(o.Primka + 0.5) == o.Bod_ || Zaokrouhli(o.Primka - 0.5) == o.Bod_;
+}
+
+}  // namespace
+
+Bod StredUseckyBodu(Bod a, Bod b) {
+    return {Zaokrouhli((static_cast<double>(a.X) + b.X) / 2),
+            Zaokrouhli((static_cast<double>(a.Y) + b.Y) / 2)};
+}
+
+bool TecnyDialog::CekaNaKresleni() const {
+    return stav_.CekaNaKresleni && !stav_.Skontrolovano && stav_.Tvar != Nastroj::Prusecik &&
+           stav_.Tvar != Nastroj::Stred;
+}
+
+// ---- Clicks ----------------------------------------------------------------------------------
+
+Zachyt TecnyDialog::Chyt(float x, float y) const {
+    if (stav_.Tvar == Nastroj::Kruznice) return ZachytNejblizsi(x, y);
+    // A parallel from a point of its own base would be the base again. Every object of this board
+    // has its snap points in the row of the same number.
+    return ZachytPosledni(x, y, false, stav_.Tvar == Nastroj::Rovnobezka ? stav_.Zakladna : 0);
+}
+
+std::optional<Bod> TecnyDialog::ChytilBy(float x, float y) const {
+    if (!CekaNaKresleni()) return std::nullopt;
+    const Zachyt z = Chyt(x, y);
+    return z.Je ? std::optional(z.Misto) : std::nullopt;
+}
+
+std::optional<Bod> TecnyDialog::TrefilBy(float x, float y) const {
+    if (!stav_.CekaNaKresleni || stav_.Skontrolovano || CekaNaKresleni()) return std::nullopt;
+    if (stav_.Tvar == Nastroj::Stred) {
+        const bool zasah =
+            stav_.StredUsecky != BEZ_BODU && VDosahu(x, y, stav_.StredUsecky, DOSAH_STREDU);
+        return zasah ? std::optional(stav_.StredUsecky) : std::nullopt;
+    }
+    const int par = ZasazenyPar(x, y);
+    return par < 0 ? std::nullopt : std::optional(stav_.Pary.Misto[static_cast<std::size_t>(par)]);
+}
+
+/// The free crossing that a click here hits, the first one before the second; -1: none.
+int TecnyDialog::ZasazenyPar(float x, float y) const {
+    const DvaPruseciky& p = stav_.Pary;
+    for (std::size_t i = 0; i < p.Misto.size(); ++i) {
+        const bool volny = p.Misto[i] != BEZ_BODU && !p.Hotovo[i];
+        if (volny && VDosahu(x, y, p.Misto[i], DOSAH_PRUSECIKU)) return static_cast<int>(i);
+    }
+    return -1;
+}
+
+void TecnyDialog::StiskPlochy(float x, float y) {
+    if (!stav_.CekaNaKresleni || stav_.Skontrolovano) return;
+    if (stav_.Tvar == Nastroj::Prusecik) return KlikniPrusecik(x, y);
+    if (stav_.Tvar == Nastroj::Stred) return KlikniStred(x, y);
+    stav_.Tazeni = true;
+    const Zachyt z = Chyt(x, y);
+    stav_.Zachyceno = z.Je;
+    stav_.Start = z.Misto;
+    if (!z.Je && stav_.Zakladna != 0) stav_.Start = BodNaZakladne(Utvary[stav_.Zakladna], x, y);
+}
+
+void TecnyDialog::KlikniStred(float x, float y) {
+    const KrokTecny* krok = KrokFaze();
+    if (krok == nullptr || stav_.StredUsecky == BEZ_BODU) return;
+    const bool zasah = VDosahu(x, y, stav_.StredUsecky, DOSAH_STREDU);
+    if (!zasah) Uctuj(krok->ChybaRysovani);
+    Pamatuj(1, 1);
+    NakresliBod(stav_.StredUsecky, stav_.Jmeno, zasah ? krok->NaPrimce : std::string_view{});
+    Zapis(stav_.Faze, stav_.ZvolenyUtvar, stav_.Jmeno);
+    if (stav_.Spravny) SplnPolozku(stav_.Jmeno);
+    UkonciKrok(stav_.Spravny);
+}
+
+void TecnyDialog::KlikniPrusecik(float x, float y) {
+    const KrokTecny* krok = KrokFaze();
+    if (krok == nullptr) return;
+    if (ObeHotove()) return PridejChybu(CHYBA_OBA_HOTOVE, TRI_BODY, 3);
+    const DvaPruseciky& p = stav_.Pary;
+    int volny = -1;
+    for (int i = 1; i >= 0; --i) {
+        const auto j = static_cast<std::size_t>(i);
+        if (p.Misto[j] != BEZ_BODU && !p.Hotovo[j]) volny = i;
+    }
+    if (volny < 0) return;
+    const int zasazeny = ZasazenyPar(x, y);
+    const bool zasah = zasazeny >= 0;
+    if (!zasah) Uctuj(krok->ChybaRysovani);
+    const auto par = static_cast<std::size_t>(zasah ? zasazeny : volny);
+    const std::string jmeno = stav_.OcekavanyBod;
+    const bool vReseni = PolozkaReseni(jmeno) != 0;
+    Pamatuj(1, 1);
+    NakresliBod(p.Misto[par], jmeno, zasah && vReseni ? krok->NaPrimce : std::string_view{});
+    Zapis(stav_.Faze, stav_.ZvolenyUtvar, jmeno);
+    SplnPolozku(jmeno);
+    stav_.Pary.Hotovo[par] = true;
+    UkonciKrok(true);
+}
+
+/// Whether the exercise charges a marking when both of its crossings are done, and they are.
+bool TecnyDialog::ObeHotove() const {
+    const auto& znacene = Hrane()->Znacene;
+    if (znacene[0].empty()) return false;
+    for (const std::string_view jmeno : znacene) {
+        const int i = PolozkaReseni(jmeno);
+        if (i == 0 || Priklady[cisloPrikladu_].Kroky[i].Hotovo == NE) return false;
+    }
+    return true;
+}
+
+// ---- Drags -----------------------------------------------------------------------------------
+
+/// The centre of the circle in hand: its row's point, or the place of the press.
+Bod TecnyDialog::StredTahu() const {
+    const Bod stred = stav_.StredKruznice.empty() ? BEZ_BODU : NajdiBod(stav_.StredKruznice);
+    return stred == BEZ_BODU ? stav_.Start : stred;
+}
+
+/// The two points of the straight object that a drag to here makes.
+Dvojice TecnyDialog::BodyPrimky(Bod konec) const {
+    if (stav_.Zakladna == 0) return {stav_.Start, konec};
+    const Utvar& zakladna = Utvary[stav_.Zakladna];
+    if (stav_.Tvar == Nastroj::Kolmice) return Kolme(zakladna, stav_.Start, konec);
+    if (!stav_.Zachyceno) return Rovnobezne(zakladna, stav_.Start, konec);
+    // From a caught point a parallel stays on it.
+    return Rovnobezne(zakladna, {zakladna.X1, zakladna.Y1}, stav_.Start);
+}
+
+Gumicka TecnyDialog::Tah(float x, float y) const {
+    if (!CekaNaKresleni() || !stav_.Tazeni) return {};
+    const Bod konec = NaPixely(x, y);
+    if (stav_.Tvar == Nastroj::Kruznice) {
+        const Bod s = StredTahu();
+        const int r = std::abs(konec.X - s.X);
+        return {Gumicka::Tvar::Kruh, s.X - r, s.Y - r, s.X + r, s.Y + r, OdectiDelku(r)};
+    }
+    const bool volna = stav_.Tvar == Nastroj::Rovnobezka && !stav_.Zachyceno;
+    Dvojice b = BodyPrimky(konec);
+    if (stav_.Zakladna != 0 && !volna) b.P2 = PataUkazatele(b, konec);
+    Gumicka g{Gumicka::Tvar::Cara, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, {}};
+    if (stav_.Tvar == Nastroj::Rovnobezka && stav_.Zakladna != 0) {
+        g.Text = OdectiVzdalenost(Utvary[stav_.Zakladna], stav_.Start, volna ? konec : b.P1);
+    }
+    return g;
+}
+
+Gumicka TecnyDialog::Prejezd(float /*x*/, float /*y*/) const {
+    const KrokTecny* krok = KrokFaze();
+    if (krok == nullptr || stav_.Tvar != Nastroj::Stred || stav_.Skontrolovano) return {};
+    Gumicka g;
+    g.Text = krok->Odecet;
+    return g;
+}
+
+void TecnyDialog::PusteniPlochy(float x, float y) {
+    const KrokTecny* krok = KrokFaze();
+    if (krok == nullptr || !CekaNaKresleni() || !stav_.Tazeni) return;
+    const Bod konec = NaPixely(x, y);
+    platna_.Pic.DrawWidth = 1;
+    Pamatuj(1, 1);
+    if (stav_.Tvar == Nastroj::Kruznice) {
+        NakresliKruznici(*krok, konec);
+    } else if (stav_.Tvar == Nastroj::Poloprimka) {
+        const Bod s = stav_.Start;
+        KresliPoloprimku(platna_.Pic, stav_.ZvolenyUtvar, NovyRadek(stav_.Jmeno, "Y"), s.X, s.Y,
+                         konec.X, konec.Y, "Y", ANO);
+    } else {
+        NakresliPrimku(*krok, x, y);
+    }
+    Zapis(stav_.Faze, stav_.ZvolenyUtvar, stav_.Jmeno);
+    if (stav_.Spravny) {
+        SplnPolozku(stav_.Jmeno);
+        SpocitejPruseciky(*krok);
+    }
+    UkonciKrok(stav_.Spravny);
+}
+
+void TecnyDialog::NakresliKruznici(const KrokTecny& krok, Bod konec) {
+    const Bod s = StredTahu();
+    if (stav_.Spravny) PosudPolomer(krok, s, std::abs(konec.X - s.X));
+    KresliKruznici(platna_.Pic, stav_.ZvolenyUtvar, NovyRadek(stav_.Jmeno, ""), s.X, s.Y, konec.X,
+                   ANO);
+}
+
+/// Judged as drawn; only then are its points put where they are stored.
+void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
+    const bool spojnice = stav_.Tvar == Nastroj::Primka;
+    const Bod konec = NaPixely(x, y);
+    Dvojice b = BodyPrimky(konec);
+    std::optional<Bod> pres;  // the named point that it passes
+    if (stav_.Zachyceno) pres = stav_.Start;
+    if (spojnice) b.P2 = ZachytPosledni(x, y).Misto;
+    if (krok.Jak == Soud::Konce) {
+        if (spojnice) PosudKonce(krok, b);
+    } else if (stav_.Spravny) {
+        const std::optional<Bod> posunuta = PosudPrimku(krok, b);
+        if (posunuta) pres = posunuta;
+    }
+    // A line through two points that bears their names has both; any other has its own.
+    const bool podleBodu = spojnice && stav_.Jmeno == stav_.OcekavanyBod;
+    const int n = podleBodu ? NovyRadek(stav_.Jmeno.substr(0, 1), stav_.Jmeno.substr(1))
+                            : NovyRadek(stav_.Jmeno, "");
+    if (stav_.Tvar == Nastroj::Kolmice) {
+        KresliKolmici(platna_.Pic, stav_.ZvolenyUtvar, n, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, ANO);
+    } else if (stav_.Tvar == Nastroj::Rovnobezka && stav_.Zakladna != 0) {
+        KresliPosunutou(platna_.Pic, n, UlozRovnobezku(platna_.Pic, b, pres, konec));
+    } else {
+        KresliPrimku(platna_.Pic, stav_.ZvolenyUtvar, n, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, 0, ANO);
+    }
+}
+
+// ---- Judgement -------------------------------------------------------------------------------
+
+/// Charges one point, unless the step is known to be wrong already.
+void TecnyDialog::Uctuj(int cislo) {
+    if (!stav_.KrokChybny && cislo != 0) PridejChybu(cislo, JEDEN_BOD, 1);
+}
+
+/// Holds the line against the nearest of its points that is still free; under the 15-pixel rule it
+/// is moved onto it: then that point. A point that is not there is no measure.
+std::optional<Bod> TecnyDialog::PosudPrimku(const KrokTecny& krok, Dvojice& body) {
+    int bod = -1;
+    Bod misto;
+    Odchylka o{std::numeric_limits<double>::infinity(), false, 0, 0};
+    for (int i = 0; i < static_cast<int>(krok.Body.size()); ++i) {
+        const std::string_view jmeno = krok.Body[static_cast<std::size_t>(i)];
+        if (jmeno.empty() || (stav_.Pouzite >> i & 1U) != 0) continue;
+        const Bod b = NajdiBod(jmeno);
+        if (b == BEZ_BODU) continue;
+        const Odchylka nova = Zmer(body, b);
+        if (std::fabs(nova.O) >= std::fabs(o.O)) continue;
+        o = nova;
+        bod = i;
+        misto = b;
+    }
+    if (bod < 0) return {};
+    if (!krok.Body[1].empty()) stav_.Pouzite |= 1U << bod;
+    const bool pul = krok.Jak == Soud::Pul || (krok.Jak == Soud::PodleZacatku && stav_.Zachyceno);
+    if (pul) {
+        if (!NaPulPixelu(o)) Uctuj(krok.ChybaRysovani);
+    } else if (std::fabs(o.O) < DOSAH_PRIMKY) {
+        const int posun = Zaokrouhli(o.O);
+        for (Bod* b : {&body.P1, &body.P2}) (o.Svisla ? b->X : b->Y) += posun;
+        return misto;
+    } else {
+        Uctuj(krok.ChybaRysovani);
+    }
+    return {};
+}
+
+/// A line from point to point: both ends are those that its row names.
+void TecnyDialog::PosudKonce(const KrokTecny& krok, const Dvojice& body) {
+    const std::string& jmena = stav_.OcekavanyBod;
+    if (jmena.empty()) return;
+    const bool spravne =
+        body.P1 == NajdiBod(jmena.substr(0, 1)) && body.P2 == NajdiBod(jmena.substr(1));
+    if (!spravne) Uctuj(krok.ChybaRysovani);
+    const auto* radek = std::ranges::find(krok.Volby, jmena, &Volba::Prvek);
+    if (stav_.Spravny) stav_.Pouzite |= 1U << (radek - krok.Volby.begin());
+}
+
+/// The circle has to pass through A, as near as the pointer can.
+void TecnyDialog::PosudPolomer(const KrokTecny& krok, Bod stred, int r) {
+    const Bod A = NajdiBod("A");
+    if (A == BEZ_BODU) return;
+    if (std::fabs(Vzdalenost(stred, A) - r) > TOLERANCE_POLOMERU) Uctuj(krok.ChybaRysovani);
+}
+
+// ---- The end of a step -----------------------------------------------------------------------
+
+/// Opens the next row of the construction with the names of its points.
+int TecnyDialog::NovyRadek(std::string_view jmeno1, std::string_view jmeno2) {
+    const int n = ++PocetUtvaru;
+    SmazRadekUtvaru(n);
+    SmazRadekTrojic(PocetTrojic + 1);
+    Utvary[n].Jmeno1 = jmeno1;
+    Utvary[n].Jmeno2 = jmeno2;
+    return n;
+}
+
+void TecnyDialog::NakresliBod(Bod misto, const std::string& jmeno, std::string_view naPrimce) {
+    const int n = NovyRadek(jmeno, "");
+    KresliBod(platna_.Pic, BOD, jmeno, n, misto.X, misto.Y, jmeno, naPrimce, ANO);
+}
+
+void TecnyDialog::Pamatuj(int utvaru, int radku) {
+    minulost_.push_back({stav_.Faze, stav_.Pary, stav_.Pouzite, utvaru, radku, {}, false});
+}
+
+void TecnyDialog::Zapis(int faze, std::string_view druh, std::string_view prvek) {
+    ZadanyPrvek& z = ZadanePrvky[faze];
+    z.Faze = static_cast<std::int16_t>(faze);
+    z.Utvar = druh;
+    z.Prvek = prvek;
+}
+
+int TecnyDialog::PolozkaReseni(std::string_view jmeno) const {
+    for (int i = 1; i <= decltype(Priklad::Kroky)::POSLEDNI; ++i) {
+        if (Priklady[cisloPrikladu_].Kroky[i].Jmeno == jmeno) return i;
+    }
+    return 0;
+}
+
+void TecnyDialog::SplnPolozku(std::string_view jmeno) {
+    const int i = PolozkaReseni(jmeno);
+    if (i == 0) return;
+    Priklady[cisloPrikladu_].Kroky[i].Hotovo = ANO;
+    minulost_.back().Polozky.push_back(i);
+}
+
+/// Works out what the next step marks, and charges when there is nothing.
+void TecnyDialog::SpocitejPruseciky(const KrokTecny& krok) {
+    if (krok.Pocita == Prunik::Nic) return;
+    DvaPruseciky p;
+    auto& [b1, b2] = p.Misto;
+    const int i = NajdiCaru(krok.Ceho[0]);
+    const int j = NajdiCaru(krok.Ceho[1]);
+    if (i != 0 && j != 0) {
+        const Utvar& u = Utvary[i];
+        const Utvar& v = Utvary[j];
+        const Bod u1{u.X1, u.Y1}, v1{v.X1, v.Y1};
+        Bod u2{u.X2, u.Y2};
+        if (u2 == u1) u2.Y += 1;  // clicked, not dragged: it stands upright
+        switch (krok.Pocita) {
+            case Prunik::PrimkaKruznice:
+                PrunikPrimkyKruzniceVPlose(platna_.Pic, v1, v.Polomer, u1, u2, u1, u2, b1, b2);
+                break;
+            case Prunik::Kruznice:
+                PrunikKruznic(platna_.Pic, u1, u.Polomer, v1, v.Polomer, b1, b2);
+                break;
+            case Prunik::Primky:
+                b1 = PrusecikPrimek(u, v);
+                break;
+            case Prunik::Nic:
+                break;
+        }
+    }
+    stav_.Pary = p;
+    if (b1 == BEZ_BODU) Uctuj(krok.ChybaPruniku);
+}
+
+/// The step is done, with the step's own kind of object (vlastni) or another. The finish comes
+/// with the last step's own object, when all results are there.
+void TecnyDialog::UkonciKrok(bool vlastni) {
+    minulost_.back().Cizi = !vlastni;
+    Odzbroj();
+    ++stav_.Faze;
+    stav_.Zpatky = false;
+    if (!vlastni || KrokFaze() != nullptr) return;
+    for (const std::string_view v : Hrane()->Vysledky) {
+        if (!v.empty() && NajdiCaru(v) == 0) return;
+    }
+    stav_.HotovaKonstrukce = true;
+    ZvyrazniReseni();
+}
+
+/// Draws the results thick, without their labels.
+void TecnyDialog::ZvyrazniReseni() {
+    Plane& pic = platna_.Pic;
+    pic.DrawWidth = SIRKA_VYSLEDKU;
+    const Trojice posledni = Trojice_tab[PocetTrojic];
+    const auto& vysledky = Hrane()->Vysledky;
+    for (int i = 1; i <= PocetUtvaru; ++i) {
+        const Utvar u = Utvary[i];
+        if (u.Jmeno1.empty() || std::ranges::find(vysledky, u.Jmeno1) == vysledky.end()) continue;
+        Utvary[i].Jmeno1.clear();
+        if (u.Druh == KRUZNICE) {
+            KresliKruznici(pic, u.Druh, i, u.X1, u.Y1, u.X2, NE);
+        } else {
+            KresliPrimku(pic, u.Druh, i, u.X1, u.Y1, u.X2, u.Y2, u.Delka, NE);
+        }
+        Utvary[i] = u;
+    }
+    Trojice_tab[PocetTrojic] = posledni;
+    pic.DrawWidth = 1;
+}
+
+}  // namespace rysovna

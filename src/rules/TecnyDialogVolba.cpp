@@ -1,0 +1,191 @@
+// The pick of a line of the list, and what the panel shows.
+
+#include <algorithm>
+
+#include "engine/Kresleni.h"
+#include "rules/Chyby.h"
+#include "rules/Kontrola.h"
+#include "rules/Misc.h"
+#include "rules/TecnyDialog.h"
+#include "rules/Zadani.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr std::string_view VYZVA_STRED = "Zvol kliknutím na kreslící ploše střed úsečky.";
+constexpr std::string_view VYZVA_HOTOVO = "Proveď kontrolu hotové konstrukce.";
+
+constexpr int TVAR_ZPET = 12;
+constexpr std::size_t ZPET = 4;
+
+constexpr int SIRKA_ZNAKU = 7;  // px that a longer name pushes the sign of a perpendicular
+
+}  // namespace
+
+void TecnyDialog::VyberRadku(int i) {
+    const KrokTecny* krok = KrokFaze();
+    if (krok == nullptr || !stav_.Combo.Otevreny || i < 1 ||
+        i > static_cast<int>(stav_.Combo.Radky.size())) {
+        return;
+    }
+    const RadekSeznamu radek = stav_.Combo.Radky[static_cast<std::size_t>(i - 1)];
+    if (!radek.Videt || !radek.Ziva) return;
+    stav_.Combo.Otevreny = false;
+    stav_.OcekavanyBod = radek.Tag;
+    if (stav_.Tvar == Nastroj::Osa) return ZvolOsu();
+    stav_.CekaNaKresleni = true;
+    if (stav_.Spravny && !krok->SpravnaVolba.empty() && radek.Tag != krok->SpravnaVolba) {
+        PridejChybu(krok->ChybaVolby, TRI_BODY, 3);
+        stav_.KrokChybny = true;
+    }
+    if (stav_.Tvar == Nastroj::Kruznice) return ZvolKruznici(*krok, radek.Tag);
+    if (stav_.Tvar == Nastroj::Primka) {
+        stav_.lblText3 = radek.Text;
+        // A line that is no result gets no result's name.
+        if (radek.Tag == krok->VedlejsiVolba || JeVzata(i)) {
+            stav_.Jmeno = "p" + std::to_string(stav_.Faze);
+            stav_.Spravny = false;
+        }
+        return;
+    }
+    ZvolPrimku(radek.Tag);
+}
+
+/// Whether another line was drawn by this row of the list already: it cannot be both results.
+bool TecnyDialog::JeVzata(int radek) const {
+    return !KrokFaze()->Jmena[1].empty() && (stav_.Pouzite >> (radek - 1) & 1U) != 0;
+}
+
+/// Perpendicular or parallel to a base.
+void TecnyDialog::ZvolPrimku(const std::string& zaklad) {
+    stav_.Zakladna = NajdiCaru(zaklad);
+    VybranyUtvar = stav_.Zakladna;
+    const std::string zacatek = "přímka " + stav_.Jmeno + ", " + stav_.Jmeno;
+    if (stav_.Tvar == Nastroj::Rovnobezka) {
+        stav_.lblText3 = zacatek + "||" + zaklad;
+        return;
+    }
+    stav_.lblText3 = zacatek + "      " + zaklad;
+    const int navic = 2 * (static_cast<int>(stav_.Jmeno.size()) - 1);
+    stav_.lblText4 = TextPanelu::Kolmo(navic * SIRKA_ZNAKU);
+}
+
+void TecnyDialog::ZvolKruznici(const KrokTecny& krok, const std::string& stred) {
+    stav_.StredKruznice = stred;
+    for (const Volba& v : krok.Volby) {
+        if (v.Prvek != stred) continue;
+        stav_.lblText3 =
+            "kružnice " + stav_.Jmeno + "(" + stred + ", r = " + std::string(v.Polomer) + ")";
+    }
+}
+
+/// The axis of a segment: the perpendicular and the midpoint at once, the line first. It does this
+/// step and the next one.
+void TecnyDialog::ZvolOsu() {
+    const KrokTecny stred = *KrokFaze();
+    const KrokTecny kolmice = *KrokFaze(stav_.Faze + 1);
+    const int usecka = NajdiCaru(stav_.OcekavanyBod);
+    const Bod a = NajdiBod(stred.Body[0]);
+    const Bod b = NajdiBod(stred.Body[1]);
+    const Bod C = StredUseckyBodu(a, b);
+    const std::string jmenoC(stred.Jmena[0]);
+    const std::string jmenoB(kolmice.Jmena[0]);
+    Pamatuj(2, 2);
+    const Dvojice body = Kolme(Utvary[usecka], C, C);
+    KresliKolmici(platna_.Pic, KOLMICE, NovyRadek(jmenoB, ""), body.P1.X, body.P1.Y, body.P2.X,
+                  body.P2.Y, ANO);
+    NakresliBod(C, jmenoC, stred.NaPrimce);
+    Zapis(stav_.Faze, BOD, jmenoC);
+    Zapis(stav_.Faze + 1, KOLMICE, jmenoB);
+    SplnPolozku(jmenoC);
+    SpocitejPruseciky(kolmice);
+    Odzbroj();
+    stav_.Faze += 2;
+    stav_.Zpatky = false;
+}
+
+// ---- What is shown ---------------------------------------------------------------------------
+
+std::array<Tlacitko, 6> TecnyDialog::Tlacitka(const Cviceni& c) const {
+    std::array<Tlacitko, 6> cmd;
+    const int posledni = static_cast<int>(c.Kroky.size());
+    const bool zaKoncem = stav_.Faze > posledni;
+    const KrokTecny& krok = *KrokFaze(zaKoncem ? posledni : stav_.Faze);
+    const bool vRuce = stav_.CekaNaKresleni || stav_.Combo.Otevreny;
+    const bool muzeZacit = stav_.Faze > 1 || KonstrukceZahajena != NE || stav_.Znacky != 0;
+    const bool volno = zadano_ && !zaKoncem && !vRuce && muzeZacit;
+    const bool sede = vRuce && stav_.Tvar == krok.Spravny && krok.SedeTvary[0] != Nastroj::Zadny;
+    const auto& tvary = sede ? krok.SedeTvary : krok.Tvary;
+    for (std::size_t i = 0; i < tvary.size(); ++i) {
+        cmd[i] = {static_cast<int>(tvary[i]), volno, volno && !stav_.Skontrolovano};
+        if (tvary[i] == Nastroj::Zadny) cmd[i] = {};
+    }
+    // Back stays live while a point is to be marked: a crossing that could not be computed cannot
+    // be marked at all.
+    const bool mrtve = stav_.Zpatky && !zaKoncem && krok.MrtveZpet &&
+                       std::ranges::none_of(minulost_, &Minulost::Cizi);
+    const bool zpet = stav_.Faze > 1 && !stav_.Skontrolovano && !mrtve && (!vRuce || Znaci());
+    cmd[ZPET] = {TVAR_ZPET, zpet, zpet};
+    return cmd;
+}
+
+/// A line through two points names both in its row; a ray and a circle name theirs in the prompt.
+Gesto TecnyDialog::GestoKroku() const {
+    using Tvar = Gesto::Tvar;
+    struct TahDruhu {
+        Nastroj Nastroj_;
+        Tvar Jak;
+    };
+    static constexpr TahDruhu RADKY[] = {
+        {Nastroj::Primka, Tvar::Primka},     {Nastroj::Poloprimka, Tvar::Poloprimka},
+        {Nastroj::Kolmice, Tvar::Kolmice},   {Nastroj::Rovnobezka, Tvar::Rovnobezka},
+        {Nastroj::Kruznice, Tvar::Kruznice}, {Nastroj::Stred, Tvar::Bod},
+        {Nastroj::Prusecik, Tvar::Bod}};
+    if (!stav_.CekaNaKresleni || stav_.Skontrolovano) return {};
+    const auto* r = std::ranges::find(RADKY, stav_.Tvar, &TahDruhu::Nastroj_);
+    if (r == std::end(RADKY)) return {};
+    // With nothing to pick by, the tool in hand is not named anywhere.
+    if (r->Jak != Tvar::Bod && stav_.lblText3.empty()) return {Tvar::Utvar, {}, {}};
+    Gesto g{r->Jak, {}, {}};
+    if (g.Druh == Tvar::Primka && !stav_.OcekavanyBod.empty()) {
+        g.Od = stav_.OcekavanyBod.substr(0, 1);
+        g.Kam = stav_.OcekavanyBod.substr(1);
+    } else if (g.Druh == Tvar::Poloprimka) {
+        g.Od = stav_.Jmeno;
+    } else if (g.Druh == Tvar::Kruznice) {
+        g.Od = stav_.StredKruznice;
+    }
+    return g;
+}
+
+Panel TecnyDialog::UkazPanel() const {
+    Panel p;
+    const Cviceni* c = Hrane();
+    p.PicZiva = false;
+    if (c == nullptr) return p;
+    p.Label1 = c->Zadani;
+    PolozkaZadani dano = HodnotaZadani(std::string(c->Dano), MEZERA);
+    dano.NovyRadek = true;
+    p.lblZadani = {dano};
+    p.cmd = Tlacitka(*c);
+    const KrokTecny* krok = KrokFaze();
+    if (stav_.HotovaKonstrukce) {
+        p.lblText1 = VYZVA_HOTOVO;
+    } else if (stav_.Tvar == Nastroj::Stred) {
+        p.lblText1 = VYZVA_STRED;
+    } else {
+        // Past the last step without a finish, the last prompt stays.
+        const KrokTecny& k = krok != nullptr ? *krok : c->Kroky.back();
+        p.lblText1 = stav_.Zpatky && !k.VyzvaZpet.empty() ? k.VyzvaZpet : k.Vyzva;
+    }
+    p.lblText3 = stav_.lblText3;
+    p.lblText4 = stav_.lblText4;
+    p.Combo = stav_.Combo;
+    p.PicZiva = !stav_.HotovaKonstrukce && !stav_.Skontrolovano;
+    p.Kresleni = GestoKroku();
+    p.Nezavrena = krok == nullptr && !stav_.HotovaKonstrukce;
+    return p;
+}
+
+}  // namespace rysovna

@@ -1,0 +1,60 @@
+#include "screens/ChybovyForm.h"
+
+#include <algorithm>
+
+#include "base/Cisla.h"
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
+#include "platform/Paleta.h"
+#include "rules/Misc.h"
+#include "rules/Zaznamy.h"
+#include "screens/Hover.h"
+#include "screens/Spolecne.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr Obdelnik MISTO{216, 89, 356, 250};  // px of the board
+constexpr int RAM = 3;                        // px around the text
+
+constexpr float NEJMENSI_PISMO = 7;  // points
+
+}  // namespace
+
+std::string TextChybnychKroku() {
+    std::string text = "Během konstrukce byly provedeny tyto chybné kroky:\n\n";
+    const int radku = std::min(PocetChybnychKroku, ChybovyForm::RADKU);
+    for (int i = 1; i <= radku; ++i) text += TextCisla(i) + ". " + ChybneKroky[i].Text + "\n";
+    return text;
+}
+
+ChybovyForm::ChybovyForm() {
+    Left = MISTO.Left;
+    Top = MISTO.Top;
+    Width = MISTO.Width;
+    Height = MISTO.Height;
+    Pridej(Text1, "Text1", {RAM, RAM, Width - 2 * RAM, Height - 2 * RAM});
+    Text1.MultiLine = true;
+    Text1.BackColor = paleta::CHYBY;
+}
+
+void ChybovyForm::Load() {
+    PrizpusobForm(*this);
+    Picture = NactiObrazek("Bitmap\\Games\\new_Hint.bmp");
+    Text1.Text = TextChybnychKroku();
+    // Ten long sentences want a smaller face: the list cannot be scrolled.
+    while (!Text1.VejdeSe() && Text1.Font.Velikost > NEJMENSI_PISMO) Text1.Font.Velikost -= 1;
+}
+
+void ChybovyForm::MouseDown(Ovladac*, const Mys&) {
+    Stroj().Okna().Unload(*this);
+}
+
+bool ChybovyForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    if (klavesa != "Escape" && klavesa != "Return" && klavesa != "Space") return false;
+    Stroj().Okna().Unload(*this);
+    return true;
+}
+
+}  // namespace rysovna

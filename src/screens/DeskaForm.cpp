@@ -1,0 +1,179 @@
+#include "screens/DeskaForm.h"
+
+#include "base/Cisla.h"
+#include "platform/Host.h"
+#include "platform/Paleta.h"
+#include "rules/Kontrola.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/SelectForm.h"
+#include "screens/Spolecne.h"
+#include "store/MapaPoli.h"
+#include "store/Soubory.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr const char* HRY = "Bitmap\\Games\\";
+
+constexpr std::array<std::string_view, 4> HORNI = {"check", "new", "tab", "back"};
+
+/// An arrow: its pictures and its place.
+struct Sipka {
+    std::string_view Soubor;
+    Obdelnik Misto;
+};
+constexpr std::array<Sipka, 4> SIPKY = {{{"a_left", {231, 428, 15, 9}},
+                                         {"a_right", {592, 428, 15, 9}},
+                                         {"a_up", {605, 104, 9, 15}},
+                                         {"a_down", {605, 415, 9, 15}}}};
+
+constexpr std::array<Obdelnik, 6> TLACITKA = {{{16, 280, 94, 32},
+                                               {111, 280, 94, 32},
+                                               {16, 312, 94, 32},
+                                               {111, 312, 94, 32},
+                                               {16, 404, 94, 32},
+                                               {111, 404, 94, 32}}};
+
+constexpr float PISMO_PANELU = 8;  // points, at 15 twips a pixel
+
+}  // namespace
+
+DeskaForm::DeskaForm() {
+    RozlozOvladace();
+}
+
+void DeskaForm::RozlozOvladace() {
+    Pridej(INadpis, "INadpis", {0, 0, 238, 80});
+    PridejPole(PicTop, "PicTop", {273, 5, 91, 75});
+    Pridej(Label1, "Label1", {16, 108, 195, 16});
+    PridejPole(lblZadani, "lblZadani", {0, 0, 60, 16}, nullptr, 0);
+    for (Label& l : lblZadani) l.WordWrap = false;
+    Pridej(lblText1, "lblText1", {16, 168, 195, 80});
+    Pridej(lblText2, "lblText2", {16, 256, 195, 18});
+    PridejPole(cmd, "cmd", TLACITKA[0]);
+    for (std::size_t i = 0; i < cmd.size(); ++i) {
+        cmd[i].Left = TLACITKA[i].Left;
+        cmd[i].Top = TLACITKA[i].Top;
+    }
+    Pridej(lblText3, "lblText3", {16, 350, 205, 18});
+    lblText3.WordWrap = false;
+    Pridej(lblText4, "lblText4", {158, 374, 50, 18});
+    lblText4.WordWrap = false;
+    for (Label* l : {&Label1, &lblText1, &lblText2, &lblText3, &lblText4}) l->Sazba = true;
+    Pridej(txtVstup, "txtVstup", {98, 371, 56, 20});
+    Pridej(ImgHodnoceni, "ImgHodnoceni", {173, 404, 32, 32});
+    Pridej(IHintS, "IHintS", {201, 413, 15, 13});
+
+    Pridej(Pic, "Pic", {226, 98, 384, 335});
+    Pic.BereDvojklik = SamplePic.BereDvojklik = false;
+    Pridej(Line1, "Line1", {}, &Pic);
+    Pridej(Circle1, "Circle1", {}, &Pic);
+    Pridej(Text, "Text", {0, 0, 60, 17}, &Pic);
+    Text.WordWrap = false;
+    Text.BackColor = paleta::ODECET;  // so that it can be read over lines
+    Text.Visible = false;
+    Text.ProMys = false;  // a quick move to the lower right would run into it
+    Pridej(HidenPic, "HidenPic", {180, 20, 45, 41});
+    HidenPic.Visible = false;
+    PridejPole(picSipka, "picSipka", SIPKY[0].Misto);
+    for (std::size_t i = 0; i < picSipka.size(); ++i) {
+        picSipka[i].Left = SIPKY[i].Misto.Left;
+        picSipka[i].Top = SIPKY[i].Misto.Top;
+        picSipka[i].Width = SIPKY[i].Misto.Width;
+        picSipka[i].Height = SIPKY[i].Misto.Height;
+    }
+    Pridej(picPokracuj, "picPokracuj", {526, 457, 94, 23});
+    Pridej(MalaSipka, "MalaSipka", {622, 340, 18, 28});
+    MalaSipka.Visible = false;
+
+    Pridej(VPImage, "VPImage", {325, 164, 315, 204});
+    Pridej(SamplePic, "SamplePic", {21, 24, 289, 177}, &VPImage);
+    Pridej(Image1, "Image1", {0, 80, 18, 44}, &VPImage);
+    Image1.Tag = "1";
+
+    RozlozRadu();
+    Pridej(Combo, "Combo", {372, 444, 105, 64});
+    Combo.Ramecek = true;
+    Combo.Visible = false;
+    PridejPole(ComboLabel, "ComboLabel", {3, 2, 101, Seznam::VYSKA_RADKU}, &Combo);
+    for (std::size_t i = 0; i < ComboLabel.size(); ++i) {
+        ComboLabel[i].Top = 2 + static_cast<int>(i) * Seznam::VYSKA_RADKU;
+        ComboLabel[i].WordWrap = false;
+        ComboLabel[i].Sazba = true;
+    }
+    OcislujZastavky();
+    for (PictureBox& t : cmd) t.Ramovat = true;
+    for (Label& l : ComboLabel) l.Ramovat = true;
+    for (PictureBox& s : picSipka) s.DalPrstem = true;
+    Image1.DalPrstem = MalaSipka.DalPrstem = true;
+}
+
+void DeskaForm::NactiObrazky() {
+    const std::string hry = HRY;
+    Picture = NactiObrazek(hry + "bckg.bmp");
+    INadpis.Picture = NactiObrazek("Bitmap\\Tab\\bckg_" + DveCislice(CisloUlohy) + ".bmp");
+    IHintS.Picture = NactiObrazek(hry + "new_hin2.bmp");
+    IHintS.Visible = false;
+    MalaSipka.Picture = NactiObrazek(hry + "board1_s.bmp");
+    panel_ = NactiObrazek(hry + "board1.bmp");
+    // The blank panel belongs to the set and is read with it; no state of a board shows it.
+    static_cast<void>(NactiObrazek(hry + "board0.bmp"));
+    for (std::size_t i = 0; i < PicTop.size(); ++i) {
+        horni_[i] = NactiDvojici(hry + std::string(HORNI[i]));
+        PicTop[i].Picture = horni_[i].Normalni;
+        const std::string sipka = hry + std::string(SIPKY[i].Soubor);
+        sipky_[i] = {NactiObrazek(sipka + "0.bmp"), NactiObrazek(sipka + ".bmp")};
+        picSipka[i].Picture = sipky_[i].Normalni;
+    }
+    PokracujObrazek = NactiObrazek(hry + "pokracbg.bmp");
+    picPokracuj.Picture = PokracujObrazek;
+    picPokracuj.Enabled = false;
+    for (const int tvar : Tvary()) tvary_[tvar] = NactiDvojici(hry + "what" + DveCislice(tvar));
+    kontrolovano_ = NactiObrazek(hry + "mkont.bmp");
+    hodnoceniDobre_ = NactiObrazek(hry + "Check_ok.bmp");
+    hodnoceniSpatne_ = NactiObrazek(hry + "Check_ko.bmp");
+    ImgHodnoceni.Visible = false;
+}
+
+void DeskaForm::Load() {
+    Maximised = true;
+    Caption = "Rysovna 1";
+    for (std::size_t i = 1; i < PicTop.size(); ++i) {
+        PicTop[i].Left = static_cast<int>(i) * PicTop[0].Width + PicTop[0].Left;
+        PicTop[i].Visible = true;
+    }
+    PrizpusobForm(*this);
+    VPImage.Font.Velikost = PISMO_PANELU;
+    PicRada.Visible = RadyUkazovat;
+    lblText2.Font.Tucne = true;
+    NactiObrazky();
+    HidenPic.Width = Pic.Width;
+    HidenPic.Height = Pic.Height;
+    Pic.Plocha().Font = Pic.Font;
+    HidenPic.Plocha().Font = HidenPic.Font;
+    Pic.Plocha().Svatozar = HidenPic.Plocha().Svatozar = true;
+
+    SmazTabulky();
+    KladneBody = ZaporneBody = 0;
+    zbyvaPrikladu_ = PocetPrikladuSerie;
+    dialog_ = VyrobDialog({Pic.Plocha(), HidenPic.Plocha()});
+    NactiPriklady(CestaHD + DveCislice(CisloUlohy) + ".dat", DeskaUlohy(CisloUlohy));
+    dialog_->NovyPriklad();
+    NoveZadani();
+    PolozKlidnyPanel();
+}
+
+void DeskaForm::Unload() {
+    SkryjChyby();
+}
+
+/// The list of wrong steps goes even if the release that should hide it got lost.
+void DeskaForm::Activate() {
+    SkryjChyby();
+    ZhasniSipky();
+    if (Image1.Tag == "1") PolozKlidnyPanel();
+}
+
+}  // namespace rysovna

@@ -1,0 +1,161 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "platform/Form.h"
+#include "rules/Dialog.h"
+#include "rules/Rada.h"
+#include "screens/Hover.h"
+
+namespace rysovna {
+
+/// The frame that all six boards share: window, top buttons, arrows, the sliding panel with the
+/// sketch, the plane, the step dialogue's controls, the check and the series. It passes events to
+/// the dialogue of the board and shows the panel that the dialogue computes; the rules are there.
+///
+/// Played by keys, arrows go from element to element of the sketch; on the plane a cross stands for
+/// the pointer: arrows move it by 1 px (with Shift by 10), a letter takes it to the next point of
+/// that name. Digits choose a line of the open list or a step button, Return in a box goes on.
+class DeskaForm : public Form {
+public:
+    static constexpr int ZASTAVKA_PLOCHY = 9;  ///< of the plane, where it is one
+
+    DeskaForm();
+
+    PictureBox Pic;       ///< the drawing plane, 384 by 335 px
+    PictureBox HidenPic;  ///< its off-screen twin
+    LineShape Line1;      ///< rubber bands and read-out, on the plane
+    CircleShape Circle1;
+    Label Text;
+
+    PictureBox VPImage;    ///< the sliding panel
+    PictureBox SamplePic;  ///< on it: the sketch of what is given
+    Image Image1;  ///< on it: the handle; its tag tells the panel's state, "1" out, "0" shut
+    PictureBox MalaSipka;  ///< stands in for the panel when it is shut
+
+    std::array<PictureBox, 4> PicTop;    ///< check, new example, score table, back
+    std::array<PictureBox, 4> picSipka;  ///< left, right, up, down
+    PictureBox picPokracuj;
+    Image INadpis, IHintS, ImgHodnoceni;
+
+    std::array<PictureBox, 6> cmd;  ///< step buttons
+    PictureBox Combo;               ///< the pick list
+    std::array<Label, 8> ComboLabel;
+    TextBox txtVstup;
+    std::array<Label, 10> lblZadani;  ///< indices from 0
+    Label lblText1, lblText2, lblText3, lblText4;
+    Label Label1;
+
+    PictureBox PicRada;  ///< the guide line, over the decorative ruler
+    std::array<Label, 2> lblRada;
+
+    void Load() override;
+    void Unload() override;
+    void Activate() override;
+    void MouseDown(Ovladac* o, const Mys& m) override;
+    void MouseMove(Ovladac* o, const Mys& m) override;
+    void MouseUp(Ovladac* o, const Mys& m) override;
+    void Click(Ovladac* o) override;
+    void Change(TextBox& t) override;
+    bool Klavesa(std::string_view klavesa, int shift) override;
+    bool KlavesaNa(Ovladac& o, std::string_view klavesa, int shift) override;
+    void PriselPrsten(Ovladac& o) override;
+    [[nodiscard]] Ovladac* PrvniZastavka() override;
+    [[nodiscard]] Ovladac* Napoveda() override { return &INadpis; }
+    [[nodiscard]] UkazatelKlaves Ukazatel(const Ovladac& o) const override;
+    [[nodiscard]] int CastProPrst(const Ovladac& o, float x, float y) const override;
+    [[nodiscard]] Kurzor KurzorNad(const Ovladac* o, float x, float y) const override;
+    [[nodiscard]] std::optional<Bod> Zachytne() const override;
+
+    /// The dialogue of this board; made by Load.
+    [[nodiscard]] const Dialog& Dialogem() const { return *dialog_; }
+    /// Examples of the series still to be played, this one included.
+    [[nodiscard]] int ZbyvaPrikladu() const { return zbyvaPrikladu_; }
+    /// What the guide line says, and what it was computed from.
+    [[nodiscard]] const Rada& RadaTed() const { return rada_; }
+    [[nodiscard]] const Videne& VidenoTed() const { return videne_; }
+    /// Something is being handled while a wait runs: the guide keeps its words until it is done.
+    [[nodiscard]] bool JeUprostred() const { return vybiraSe_ || poustiSe_ || posouvaSe_; }
+
+protected:
+    [[nodiscard]] virtual std::unique_ptr<Dialog> VyrobDialog(Platna platna) = 0;
+    /// Numbers of the faces whatNN that the step buttons can have on this board.
+    [[nodiscard]] virtual std::span<const int> Tvary() const = 0;
+    /// Shows what a board's panel has beyond the common controls.
+    virtual void UkazDalsi(const Panel& /*panel*/) {}
+    void Ukaz();
+    /// What now stands in box ktery, from 1.
+    void Napis(int ktery, const TextBox& box);
+
+private:
+    // DeskaForm.cpp: making and loading
+    void RozlozOvladace();
+    void NactiObrazky();
+    // DeskaUdalosti.cpp: events
+    void StiskNastroje(const PictureBox& tlacitko, const Mys& m);
+    void VyberRadku(int i);
+    void SkryjSeznam();
+    void UkazTah(const Gumicka& g, const Mys& m);
+    void SkryjTah();
+    void PustPlochu(const Mys& m);
+    void StiskSipky(int i);
+    void StiskMaleSipky();
+    void ZhasniHorni();
+    void ZhasniSipky();
+    void UkazOdecet(const Gumicka& g, const Mys& m);
+    // DeskaKlavesy.cpp: keys
+    void OcislujZastavky();
+    bool EnterVPoli();
+    void UkazSeznamKlavesam();
+    [[nodiscard]] Bod VRozsahu(Bod kriz) const;
+    // DeskaPanel.cpp: the panel as it is shown, and its slide
+    void UkazZadani(const std::vector<PolozkaZadani>& zadani);
+    void UkazSeznam(const Seznam& seznam);
+    void KresliNacrt();
+    void SlozPanel();
+    void PolozPanel(int odsunuti);
+    void PolozKlidnyPanel();
+    void ZasunPanel();
+    void VysunPanel();
+    // DeskaRada.cpp: the guide line
+    void RozlozRadu();
+    void ObnovRadu();
+    [[nodiscard]] int MrtvyNastrojPod(const Mys& m) const;
+    // DeskaSerie.cpp: check, verdict, series
+    void Zkontroluj();
+    void NovyPriklad();
+    void NoveZadani();
+    void Pokracuj();
+    void UkonciSerii();
+    void UkazTabulku();
+    void Zpet();
+    void UkazChyby();
+    void SkryjChyby();
+
+    std::unique_ptr<Dialog> dialog_;
+    Hover hover_;  ///< 1 to 4 PicTop, 5 to 8 picSipka
+    std::array<DvojiceObrazku, 4> horni_, sipky_;
+    std::map<int, DvojiceObrazku> tvary_;
+    Obrazek panel_, hodnoceniDobre_, hodnoceniSpatne_, kontrolovano_;
+    int zbyvaPrikladu_ = 0;
+    bool zaneprazdnen_ = false;  ///< a new example is being set up
+    bool cekaNaZadani_ = false;  ///< the plane is empty, the new example not chosen yet
+    bool vybiraSe_ = false;      ///< a line was picked and its wait runs
+    bool posouvaSe_ = false;     ///< the panel is sliding
+    bool poustiSe_ = false;      ///< a release on the plane is being handled
+    Videne videne_;
+    Rada rada_;
+    std::optional<Bod> zachytne_;  ///< px of the plane: the point that a press would catch
+    Bod kriz_{192, 167};           ///< px of the plane: where the pointer of the keys is
+    int zona_ = 0;                 ///< element of the sketch that the keys are at, from 0
+    int nastroj_ = 1;              ///< step button that opened the list
+};
+
+}  // namespace rysovna

@@ -1,0 +1,66 @@
+// The guide line in the strip below the board: what the pupil sees is gathered, what to do next is
+// said.
+
+#include "platform/Paleta.h"
+#include "screens/DeskaForm.h"
+#include "screens/RadaCesky.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr Obdelnik PRUH{6, 449, 515, 27};           // px, over the decorative ruler
+constexpr int ODSAZENI = 6;                         // px, of the text from the strip's edge
+constexpr int RADEK = 13;                           // px, of two rows
+constexpr int JEDINY_NAHORE = 5;                    // px, of a row that stands alone
+constexpr float PISMO_DVOU = 8, PISMO_JEDINE = 10;  // points
+
+}  // namespace
+
+void DeskaForm::RozlozRadu() {
+    Pridej(PicRada, "PicRada", PRUH);
+    PicRada.BackColor = paleta::KARTA;
+    PicRada.Ramecek = true;
+    PicRada.ProMys = false;  // a press there goes to the board, as on the ruler
+    PridejPole(lblRada, "lblRada", {ODSAZENI, 0, PRUH.Width - 2 * ODSAZENI, RADEK}, &PicRada);
+    for (Label& l : lblRada) {
+        l.WordWrap = false;
+        l.ForeColor = paleta::INKOUST;
+        l.Sazba = true;
+        l.ProMys = false;
+    }
+}
+
+/// The visible tool at this place of the board that cannot be pressed; 0 if there is none.
+int DeskaForm::MrtvyNastrojPod(const Mys& m) const {
+    for (const PictureBox& t : cmd) {
+        const bool uvnitr = Obdelnik{t.Left, t.Top, t.Width, t.Height}.Obsahuje(
+            static_cast<double>(m.X), static_cast<double>(m.Y));
+        if (uvnitr && t.Visible && !t.Enabled) return t.Index;
+    }
+    return 0;
+}
+
+void DeskaForm::ObnovRadu() {
+    if (JeUprostred()) return;
+    using Doba = Videne::Doba;
+    videne_.Kdy = cekaNaZadani_          ? Doba::Ceka
+                  : ImgHodnoceni.Visible ? Doba::PoKontrole
+                                         : Doba::Hraje;
+    videne_.NacrtVysunuty = Image1.Tag == "1";
+    const Rada r = UrciRadu(videne_);
+    if (r == rada_) return;
+    rada_ = r;
+    const RadkyRady radky = RadaCesky(r);
+    const bool jediny = radky[1].empty();
+    for (std::size_t i = 0; i < lblRada.size(); ++i) {
+        Label& l = lblRada[i];
+        l.Caption = radky[i];
+        l.Visible = !radky[i].empty();
+        l.Font.Velikost = jediny ? PISMO_JEDINE : PISMO_DVOU;
+        l.Height = jediny ? PRUH.Height - JEDINY_NAHORE : RADEK;
+        l.Top = jediny ? JEDINY_NAHORE : static_cast<int>(i) * RADEK;
+    }
+}
+
+}  // namespace rysovna

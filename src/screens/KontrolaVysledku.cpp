@@ -1,0 +1,111 @@
+// The part of the check before a lesson that looks at results: files, room, lock, queue.
+
+#include "platform/Host.h"
+#include "screens/KontrolaPocitace.h"
+#include "store/Cesty.h"
+#include "store/Fronta.h"
+#include "store/TabulkaVysledku.h"
+#include "store/Ukladani.h"
+
+namespace rysovna {
+namespace {
+
+namespace fs = std::filesystem;
+using enum Nalez::Jak;
+
+/// A class of thirty does not write so much in a year.
+constexpr std::uint64_t NEJMENE_MISTA = 16 << 20;
+constexpr std::uint64_t MEGABAJT = 1 << 20;
+
+/// The folder, or where it is not there yet the one that it would be made in.
+fs::path NejblizsiSlozka(Disk& disk, fs::path slozka) {
+    if (!slozka.has_filename()) slozka = slozka.parent_path();  // a separator at the end
+    while (!disk.JeSlozka(slozka) && slozka != slozka.parent_path()) slozka = slozka.parent_path();
+    return slozka;
+}
+
+bool PujdeZakladat(Disk& disk, const fs::path& slozka) {
+    return disk.SmiZakladat(NejblizsiSlozka(disk, slozka));
+}
+
+/// What is wrong with one file of results; empty if nothing is. A file that is not there is no
+/// fault where it is going to be made.
+std::string Vada(Disk& disk, const fs::path& soubor, bool zalozi) {
+    if (!disk.JeSoubor(soubor)) return zalozi ? "" : soubor.string() + " (neexistuje)";
+    try {
+        static_cast<void>(disk.Otevri(soubor, Disk::Jak::Zapis)->Cti(0, 1));
+    } catch (const ChybaDisku& chyba) {
+        return chyba.what();
+    }
+    return {};
+}
+
+Nalez Misto(Disk& disk, const fs::path& slozka, const std::string& co) {
+    try {
+        const std::uint64_t volno = disk.Volno(slozka);
+        return {volno < NEJMENE_MISTA ? Chyba : VPoradku, co,
+                slozka.string() + ", volno " + std::to_string(volno / MEGABAJT) + " MB"};
+    } catch (const ChybaDisku& chyba) {
+        return {Chyba, co, chyba.what()};
+    }
+}
+
+Nalez Zamek(Disk& disk, const fs::path& denik) {
+    const std::string co = "Zámek výsledků";
+    try {
+        if (disk.Otevri(denik, Disk::Jak::Zapis)->Zamkni()) return {VPoradku, co, "lze získat"};
+        return {Chyba, co, denik.string() + ": drží jej jiný program"};
+    } catch (const ChybaDisku& chyba) {
+        return {Chyba, co, chyba.what()};
+    }
+}
+
+Nalez Fronta_(Disk& disk, const fs::path& stav) {
+    const std::string co = "Výsledky uložené stranou";
+    if (stav.empty()) return {Pozor, co, "účet nemá složku, do které by šly"};
+    const fs::path slozka = Fronta::Slozka(stav);
+    if (!PujdeZakladat(disk, slozka)) return {Pozor, co, slozka.string() + ": nelze zapisovat"};
+    try {
+        const fs::path zamek = Fronta::Zamek(stav);
+        if (disk.JeSoubor(zamek) && !disk.Otevri(zamek, Disk::Jak::Zapis)->Zamkni())
+            return {Pozor, co, zamek.string() + ": drží jej jiný program"};
+        const int ceka = PocetCekajicich(disk, stav);
+        const std::uint64_t volno = disk.Volno(NejblizsiSlozka(disk, slozka));
+        return {ceka == 0 && volno >= NEJMENE_MISTA ? VPoradku : Pozor, co,
+                slozka.string() + ": čeká jich " + std::to_string(ceka) + ", volno " +
+                    std::to_string(volno / MEGABAJT) + " MB"};
+    } catch (const ChybaDisku& chyba) {
+        return {Pozor, co, chyba.what()};
+    }
+}
+
+}  // namespace
+
+void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Cesty& cesty,
+                        std::vector<Nalez>& nalezy) {
+    Disk& disk = stroj.disk;
+    const fs::path slozka = disk.Skutecna(cesty.Vysledky);
+    const bool ucet = !stroj.SlozkaDat.empty() && slozka == stroj.SlozkaDat / "";
+    const bool zalozi =
+        cesty.Oddelene && (disk.JeSlozka(slozka) || ucet) && PujdeZakladat(disk, slozka);
+    int vadnych = 0;
+    for (const std::string& jmeno : JmenaVysledku()) {
+        const fs::path soubor = disk.Skutecna(cesty.Vysledky + jmeno);
+        const std::string vada = Vada(disk, soubor, zalozi);
+        if (!vada.empty()) nalezy.push_back({Chyba, "Soubor výsledků", vada});
+        vadnych += vada.empty() ? 0 : 1;
+    }
+    if (vadnych == 0) {
+        nalezy.push_back({VPoradku, "Soubory výsledků",
+                          "souborů: " + std::to_string(JmenaVysledku().size()) +
+                              (disk.JeSlozka(slozka) && !disk.SmiZakladat(slozka)
+                                   ? ", ve složce nelze zakládat další"
+                                   : "")});
+    }
+    nalezy.push_back(Misto(disk, NejblizsiSlozka(disk, slozka), "Místo na výsledky"));
+    const fs::path denik = disk.Skutecna(cesty.Vysledky + std::string(JMENO_DENIKU));
+    if (disk.JeSoubor(denik)) nalezy.push_back(Zamek(disk, denik));
+    nalezy.push_back(Fronta_(disk, stroj.SlozkaStavu));
+}
+
+}  // namespace rysovna

@@ -1,0 +1,130 @@
+#include "screens/RadaCesky.h"
+
+#include <string_view>
+
+#include "base/Cisla.h"
+#include "rules/Kontrola.h"
+
+namespace rysovna {
+
+namespace {
+
+using Co = Rada::Co;
+using Tvar = Gesto::Tvar;
+
+/// What is always said in the same words.
+struct Veta {
+    Co Druh;
+    std::string_view Prvni, Druha{};
+};
+constexpr Veta VETY[] = {
+    {Co::OznacZadane, "Označ v náčrtku všechno, co je zadáno.", "Potom ožijí nástroje vlevo."},
+    {Co::VysunNacrt, "Vysuň náčrtek šipkou na pravém okraji",
+     "a označ v něm všechno, co je zadáno."},
+    {Co::ZvolPrvni, "Až v náčrtku označíš všechno, co je zadáno,", "zvol nástroj, kterým začneš."},
+    {Co::ZvolTrojuhelnik, "Zvol tlačítkem „podle věty“, jak trojúhelník sestrojíš."},
+    {Co::ZvolNastroj, "Zvol nástroj pro další krok."},
+    {Co::VyberRadek, "Vyber řádek seznamu.", "Kliknutím jinam se seznam zavře."},
+    {Co::VyplnHodnoty, "Vyplň všechna políčka podle zadání."},
+    {Co::PotvrdHodnoty, "Hodnoty potvrď tlačítkem „sestroj“."},
+    {Co::Zkontroluj, "Konstrukce je hotová: stiskni nahoře Kontrolu."},
+    {Co::VratNezavrenou, "Narýsované útvary konstrukci nedokončily.",
+     "Vrať se tlačítkem „zpět o krok“ a zkus to jinak."},
+    {Co::VratNesestrojeny, "Z těchto hodnot trojúhelník sestrojit nejde.",
+     "Vrať se tlačítkem „zpět o krok“."},
+    {Co::MrtvyBezZnacek, "Nástroje ožijí, až v náčrtku označíš, co je zadáno."},
+    {Co::MrtvySUtvarem, "Nejprve dokonči na ploše rozdělaný útvar."},
+    {Co::MrtvySeSeznamem, "Nejprve vyber řádek otevřeného seznamu."},
+    {Co::MrtveZpet, "Odtud se o krok zpět vrátit nejde."},
+    {Co::MrtvaVeta, "Nejprve zvol trojúhelník."},
+    {Co::MrtveHodnoty, "Nejprve zvol trojúhelník a větu."},
+};
+
+/// How an object in hand is drawn; {} stands for the point that it begins in, [] for the other.
+struct Postup {
+    Tvar Druh;
+    std::string_view SeJmeny, BezeJmen;
+};
+constexpr Postup POSTUPY[] = {
+    {Tvar::Usecka, "Začni tam, kde bude bod {}, táhni k bodu [] a pusť.",
+     "Začni v krajním bodě, táhni k druhému a pusť."},
+    {Tvar::Primka, "Začni v bodě {}, táhni do bodu [] a pusť.",
+     "Začni v jednom bodě přímky, táhni do druhého a pusť."},
+    {Tvar::Poloprimka, "Začni v bodě {}, táhni ve směru polopřímky a pusť.",
+     "Začni v počátku, táhni ve směru polopřímky a pusť."},
+    {Tvar::Kolmice, "", "Začni tam, kudy má kolmice vést, táhni a pusť."},
+    {Tvar::Rovnobezka, "", "Začni na přímce, táhni rovnoběžku na její místo a pusť."},
+    {Tvar::Kruznice, "Začni ve středu {}, táhni vodorovně a pusť.",
+     "Začni ve středu kružnice, táhni vodorovně a pusť."},
+    {Tvar::Utvar, "", "Začni na ploše, táhni a pusť."},
+    {Tvar::Bod, "", "Klikni na ploše na hledaný bod."},
+};
+
+constexpr std::string_view NAPIS_HODNOTU = "Napiš velikost do políčka vlevo, potom rýsuj.";
+constexpr std::string_view ZASUN_NACRT = "Náčrtek v cestě zasuneš šipkou na jeho levém okraji.";
+constexpr std::string_view ZPET_BEZ_BODU = "Nejde-li bod označit, vrať se o krok zpět.";
+constexpr std::string_view TAH_BEZ_ODECTU = "Pusť, až bude útvar na svém místě.";
+constexpr std::string_view TAH_S_ODECTEM = " – pusť, až bude velikost souhlasit.";
+constexpr std::string_view POSUN_KONEC = "Posuň konec šipkami a klepni na „hotovo“.";
+constexpr std::string_view POSUN_K_MIRE = " – dolaď šipkami a klepni na „hotovo“.";
+constexpr std::string_view UKAZ_CHYBY =
+    "Dokud držíš stisknutý křížek, ukazuje se seznam chybných kroků.";
+constexpr std::string_view BEZ_CHYBY = "Bez chyby! Dál vede tlačítko vpravo.";
+
+std::string Nahrad(std::string_view veta, std::string_view co, const std::string& cim) {
+    std::string v(veta);
+    if (const std::size_t kde = v.find(co); kde != std::string::npos)
+        v.replace(kde, co.size(), cim);
+    return v;
+}
+
+std::string JakKreslit(const Gesto& g) {
+    for (const Postup& p : POSTUPY) {
+        if (p.Druh != g.Druh) continue;
+        if (g.Od.empty() || p.SeJmeny.empty()) return std::string(p.BezeJmen);
+        return Nahrad(Nahrad(p.SeJmeny, "{}", g.Od), "[]", g.Kam);
+    }
+    return {};
+}
+
+std::string Bodu(int n) {
+    return TextBezMezery(n) + (n == 1 ? " bod" : n >= 2 && n <= 4 ? " body" : " bodů");
+}
+
+RadkyRady OVysledku(const VysledekPrikladu& v) {
+    const auto cislo = [](int n) { return TextBezMezery(n); };
+    std::string prvni = "Příklad " + cislo(v.Poradi) + " z " + cislo(v.Prikladu) + ": " +
+                        Bodu(v.Bodu) + " z " + cislo(BODU_ZA_PRIKLAD) +
+                        ". Série zatím: " + Bodu(v.BoduSerie) + " z " +
+                        cislo(BODU_ZA_PRIKLAD * v.Poradi) + ".";
+    return {std::move(prvni), std::string(v.Bezchybny ? BEZ_CHYBY : UKAZ_CHYBY)};
+}
+
+}  // namespace
+
+RadkyRady RadaCesky(const Rada& r) {
+    switch (r.Druh) {
+        case Co::Vysledek:
+            return OVysledku(r.Priklad);
+        case Co::NapisHodnotu:
+            return {std::string(NAPIS_HODNOTU), JakKreslit(r.Kresleni)};
+        case Co::Tahni:
+            if (r.Podlozka)
+                return {r.Odecet + std::string(r.Odecet.empty() ? POSUN_KONEC : POSUN_K_MIRE), ""};
+            if (r.Odecet.empty()) return {std::string(TAH_BEZ_ODECTU), ""};
+            return {r.Odecet + std::string(TAH_S_ODECTEM), ""};
+        case Co::Kresli: {
+            const bool zpet = r.Kresleni.Druh == Tvar::Bod && r.Zpet;
+            return {JakKreslit(r.Kresleni), std::string(zpet           ? ZPET_BEZ_BODU
+                                                        : r.ZasunNacrt ? ZASUN_NACRT
+                                                                       : "")};
+        }
+        default:
+            for (const Veta& v : VETY) {
+                if (v.Druh == r.Druh) return {std::string(v.Prvni), std::string(v.Druha)};
+            }
+            return {};
+    }
+}
+
+}  // namespace rysovna

@@ -1,0 +1,200 @@
+#include "screens/SelectForm.h"
+
+#include <algorithm>
+
+#include "base/Chyba.h"
+#include "base/Cisla.h"
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/HelpForm.h"
+#include "screens/IntroForm.h"
+#include "screens/Konec.h"
+#include "screens/SetupForm.h"
+#include "screens/Spolecne.h"
+#include "screens/Start.h"
+
+namespace rysovna {
+namespace {
+
+constexpr std::uint8_t HOVER_LI = 1;  // the first of five
+constexpr std::uint8_t HOVER_RI = 6;  // the first of six
+constexpr int BUNEK_PASU = 23;
+constexpr float PISMO_PRACE = 8.0F;  // points
+constexpr int STAV_NESPUSTENO = 1;   // exit status: the start-up was refused
+
+}  // namespace
+
+SelectForm::SelectForm() {
+    Pridej(Image1, "Image1", {5, 6, 539, 75});
+    PridejPole(LI, "LI", {8, 140, 300, 53});
+    for (Image& li : LI) li.Top = 140 + 61 * (li.Index - 1);
+    PridejPole(RI, "RI", {333, 140, 300, 102});
+    for (Image& ri : RI) ri.Visible = false;
+    Pridej(picKonec, "picKonec", {546, 5, 91, 75});
+    // Below the visible area: the boards work in them, nobody sees them.
+    Pridej(Pozadi, "Pozadi", {8, 492, 315, 204});
+    Pridej(Kopie, "Kopie", {8, 492, 315, 204});
+    Pridej(Vysledek, "Vysledek", {325, 492, 315, 204});
+    Pridej(Kopie2, "Kopie2", {325, 492, 315, 204});
+    Pridej(PicClip, "PicClip", {});
+    PicClip.Cols = BUNEK_PASU;
+    Image1.Zastavka = 1;
+    picKonec.Zastavka = 2;
+    for (Image& li : LI) li.Zastavka = 3;
+    for (Image& ri : RI) ri.Zastavka = 4;
+}
+
+void SelectForm::Load() {
+    if (!NactiKonfiguraci()) {
+        Stroj().Okna().Konec(STAV_NESPUSTENO);
+        return;
+    }
+    IntroForm::Prednacti();
+    Cekej(100);
+    PrepniObrazovku();
+    const auto titul = Stroj().Okna().Nacti<IntroForm>();
+    Stroj().Okna().Show(*titul);
+    Cekej(100);
+    if (Skoncil(*this)) return;
+    titul->Timer1.Enabled = true;
+
+    Maximised = true;
+    Caption = "Rysovna 1";
+    PrizpusobForm(*this);
+    for (PictureBox* prace : {&Pozadi, &Kopie, &Vysledek}) {
+        prace->Font.Velikost = static_cast<float>(Meritko()) * PISMO_PRACE;
+    }
+    NactiObrazky();
+    Stroj().Okna().Hide(*this);
+}
+
+void SelectForm::NactiObrazky() {
+    Picture = NactiObrazek("Bitmap\\Select\\bckg.bmp");
+    PicClip.Picture = NactiObrazek("Bitmap\\Games\\pokracuj.bmp");
+    konec_ = NactiDvojici("Bitmap\\Select\\end");
+    picKonec.Picture = konec_.Normalni;
+    for (std::size_t k = 0; k < leve_.size(); ++k) {
+        leve_[k] = NactiDvojici("Bitmap\\Select\\l_" + DveCislice(static_cast<int>(k) + 1));
+    }
+    OdzvolVse(LI, leve_);
+    for (Image& ri : RI) ri.Tag = "0";
+}
+
+void SelectForm::Unload() {
+    MouseMove(nullptr, {.Button = 1, .Shift = 0, .X = 1, .Y = 1});
+}
+
+void SelectForm::MouseDown(Ovladac* o, const Mys&) {
+    if (Je(LI, o)) {
+        ZvolRodinu(static_cast<std::size_t>(o->Index) - 1);
+    } else if (Je(RI, o)) {
+        ZvolUlohu(static_cast<std::size_t>(o->Index) - 1);
+    } else if (o == &picKonec) {
+        ZvukStisku();
+        ZeptejSeNaKonec();
+    }
+}
+
+/// A press on the family that is chosen already leaves the pictures of the tasks alone.
+void SelectForm::ZvolRodinu(std::size_t i) {
+    ZvukStisku();
+    for (Image& ri : RI) ri.Tag = "0";
+    if (!Zvoleny(LI[i])) {
+        const Rodina& rodina = RODINY[i];
+        const auto pocet = static_cast<std::size_t>(rodina.Pocet);
+        for (std::size_t j = 0; j < pocet; ++j) {
+            prave_[j] = NactiDvojici("Bitmap\\Select\\r_" +
+                                     DveCislice(rodina.PrvniUloha + static_cast<int>(j)));
+        }
+        for (std::size_t j = 0; j < RI.size(); ++j) {
+            RI[j].Visible = j < pocet;
+            if (!RI[j].Visible) continue;
+            RI[j].Picture = prave_[j].Normalni;
+            RI[j].Height = rodina.Vysky[j];
+            if (j > 0) RI[j].Top = RI[j - 1].Top + RI[j - 1].Height - 1;
+        }
+    }
+    OdzvolVse(LI, leve_);
+    LI[i].Tag = "1";
+    LI[i].Picture = leve_[i].Rozsviceny;
+}
+
+void SelectForm::ZvolUlohu(std::size_t j) {
+    ZvukStisku();
+    for (std::size_t i = 0; i < LI.size(); ++i) {
+        const Rodina& rodina = RODINY[i];
+        if (static_cast<int>(j) >= rodina.Pocet || !Zvoleny(LI[i])) continue;
+        const int cislo = rodina.PrvniUloha + static_cast<int>(j);
+        CisloUlohy = Bajt(cislo);
+        NazevHry = rodina.NazevHry;
+        TypUlohy = NajdiUlohu(cislo)->TypUlohy;
+        break;
+    }
+    OdzvolVse(RI, prave_);
+    RI[j].Picture = prave_[j].Rozsviceny;
+
+    Obrazovky& okna = Stroj().Okna();
+    const auto setup = okna.Nacti<SetupForm>();
+    okna.Show(*setup);
+    AktivniForm = setup;
+    okna.Hide(*this);
+}
+
+/// Not the same over each control: pictures on the right stay lit until the pointer enters another
+/// of them, and the banner changes nothing else.
+void SelectForm::MouseMove(Ovladac* o, const Mys&) {
+    if (Je(LI, o)) {
+        const auto i = static_cast<std::size_t>(o->Index) - 1;
+        hover_.Vstup(static_cast<std::uint8_t>(HOVER_LI + i));
+        ZhasniNezvolene(LI, leve_);
+        LI[i].Picture = leve_[i].Rozsviceny;
+        picKonec.Picture = konec_.Normalni;
+    } else if (Je(RI, o)) {
+        const auto j = static_cast<std::size_t>(o->Index) - 1;
+        hover_.Vstup(static_cast<std::uint8_t>(HOVER_RI + j));
+        picKonec.Picture = konec_.Normalni;
+        ZhasniNezvolene(LI, leve_);
+        ZhasniNezvolene(RI, prave_);
+        if (!Zvoleny(RI[j])) RI[j].Picture = prave_[j].Rozsviceny;
+    } else if (o == &picKonec) {
+        if (!hover_.Vstup(Hover::KONEC)) return;
+        picKonec.Picture = konec_.Rozsviceny;
+        ZhasniNezvolene(LI, leve_);
+    } else if (o == &Image1) {
+        hover_.Vstup(Hover::ZAHLAVI);
+    } else if (hover_.Opust()) {
+        picKonec.Picture = konec_.Normalni;
+        ZhasniNezvolene(LI, leve_);
+    }
+}
+
+void SelectForm::Click(Ovladac* o) {
+    if (o != &Image1) return;
+    ZvukStisku();
+    UkazNapovedu("Bitmap\\Help\\credits.bmp", *this);
+}
+
+bool SelectForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    if (klavesa != "Escape") return false;
+    MouseDown(&picKonec, {});
+    return true;
+}
+
+Ovladac* SelectForm::PrvniZastavka() {
+    const auto zvolena = std::ranges::find_if(LI, Zvoleny);
+    return zvolena != LI.end() ? &*zvolena : &LI.front();
+}
+
+void SelectForm::QueryUnload() {
+    ZeptejSeNaKonec();
+}
+
+SelectForm& Menu() {
+    const std::shared_ptr<Form> menu = Stroj().Okna().Najdi("SelectForm");
+    if (!menu) Selhani("Nabídka úloh není načtena");
+    return static_cast<SelectForm&>(*menu);
+}
+
+}  // namespace rysovna

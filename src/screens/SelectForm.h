@@ -1,0 +1,52 @@
+#pragma once
+
+#include <array>
+
+#include "platform/Form.h"
+#include "screens/Hover.h"
+
+namespace rysovna {
+
+/// The menu, and the first screen that the program makes: its load is the start-up. Families of
+/// tasks on the left, the tasks of the chosen family on the right. Lives to the end; only hidden
+/// and shown, so that the last choice stays lit.
+class SelectForm final : public Form {
+public:
+    SelectForm();
+    [[nodiscard]] std::string_view Jmeno() const override { return "SelectForm"; }
+
+    std::array<Image, 5> LI;  ///< families
+    std::array<Image, 6> RI;  ///< tasks of the chosen family
+    PictureBox picKonec;
+    Image Image1;  ///< the banner: credits
+
+    /// Work pictures of the boards, 315 by 204 px, never shown.
+    PictureBox Pozadi, Kopie, Vysledek, Kopie2;
+    /// The roll-in of the continue button: one row of 23 cells.
+    PictureClip PicClip;
+
+    void Load() override;
+    void Unload() override;
+    void MouseDown(Ovladac* o, const Mys& m) override;
+    void MouseMove(Ovladac* o, const Mys& m) override;
+    void Click(Ovladac* o) override;
+    bool Klavesa(std::string_view klavesa, int shift) override;
+    [[nodiscard]] Ovladac* PrvniZastavka() override;
+    [[nodiscard]] Ovladac* Napoveda() override { return &Image1; }
+    void QueryUnload() override;
+
+private:
+    void NactiObrazky();
+    void ZvolRodinu(std::size_t i);
+    void ZvolUlohu(std::size_t j);
+
+    Hover hover_;  ///< 1 to 5 LI, 6 to 11 RI, 12 Image1, 20 picKonec
+    DvojiceObrazku konec_;
+    std::array<DvojiceObrazku, 5> leve_;
+    std::array<DvojiceObrazku, 6> prave_;
+};
+
+/// The menu of this process. Asking before it is loaded is a fault.
+[[nodiscard]] SelectForm& Menu();
+
+}  // namespace rysovna

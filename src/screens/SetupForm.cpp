@@ -1,0 +1,185 @@
+#include "screens/SetupForm.h"
+
+#include <algorithm>
+
+#include "base/Cisla.h"
+#include "base/Text.h"
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/HelpForm.h"
+#include "screens/Konec.h"
+#include "screens/Prechody.h"
+#include "screens/Rolovani.h"
+#include "screens/SelectForm.h"
+#include "screens/Spolecne.h"
+#include "screens/VyrobaDesek.h"
+
+namespace rysovna {
+namespace {
+
+// Places of the digits: an arc around the dial, all 35 by 29 px.
+constexpr std::array<Bod, 5> MISTA_CISLIC{
+    {{128, 253}, {198, 293}, {198, 370}, {128, 409}, {60, 370}}};
+
+}  // namespace
+
+SetupForm::SetupForm() {
+    Pridej(Image1, "Image1", {5, 6, 539, 75});
+    Pridej(ISipka, "ISipka", {101, 293, 95, 100});
+    PridejPole(ICislo, "ICislo", {128, 253, 35, 29});
+    for (std::size_t k = 0; k < ICislo.size(); ++k) {
+        ICislo[k].Left = MISTA_CISLIC[k].X;
+        ICislo[k].Top = MISTA_CISLIC[k].Y;
+    }
+    Pridej(TJmeno, "TJmeno", {406, 413, 195, 20});
+    // A name cannot begin with blanks, so a name of blanks alone is none; "|" stands between the
+    // fields of a record.
+    TJmeno.BezUvodnichMezer = true;
+    TJmeno.MaxLength = NEJDELSI_JMENO;
+    TJmeno.Zakazane = U"|";
+    Pridej(picPokracuj, "picPokracuj", {526, 457, 94, 23});
+    picPokracuj.Visible = false;
+    Pridej(picKonec, "picKonec", {546, 5, 91, 75});
+    Image1.Zastavka = 1;
+    picKonec.Zastavka = 2;
+    for (Image& cislo : ICislo) cislo.Zastavka = 3;
+    TJmeno.Zastavka = 4;
+    picPokracuj.Zastavka = 5;
+}
+
+void SetupForm::Load() {
+    Maximised = true;
+    Caption = "Rysovna 1";
+    PrizpusobForm(*this);
+    const double meritko = Meritko();
+    TJmeno.Height = Zaokrouhli(20 * meritko);
+    TJmeno.Width = Zaokrouhli(195 * meritko);
+    TJmeno.Font.Velikost = static_cast<float>(12 * meritko);
+
+    Picture = NactiObrazek("Bitmap\\Setup\\bckg_" + DveCislice(CisloUlohy) + ".bmp");
+    konec_ = NactiDvojici("Bitmap\\Setup\\back");
+    picKonec.Picture = konec_.Normalni;
+    for (std::size_t k = 0; k < ICislo.size(); ++k) {
+        const std::string cislice = TextBezMezery(static_cast<int>(k) + 1);
+        sipky_[k] = NactiObrazek("Bitmap\\Setup\\butt_" + cislice + ".bmp");
+        cislice_[k] = NactiDvojici("Bitmap\\Setup\\" + cislice);
+    }
+    OdzvolVse(ICislo, cislice_);
+    ISipka.Picture = sipky_[0];
+    PokracujObrazek = NactiObrazek("Bitmap\\games\\pokracbg.bmp");
+    picPokracuj.Visible = false;
+}
+
+void SetupForm::Activate() {
+    SetFocus(TJmeno);
+}
+
+/// Name and digit there: the continue button rolls in, once; one of them gone: it hides.
+void SetupForm::Kontrola() {
+    const bool uplne = !TJmeno.Text.empty() && std::ranges::any_of(ICislo, Zvoleny);
+    if (!uplne) {
+        picPokracuj.Picture = PokracujObrazek;
+        picPokracuj.Visible = false;
+        pokracujNahore_ = false;
+        return;
+    }
+    if (pokracujNahore_) return;
+    pokracujNahore_ = true;
+    picPokracuj.Visible = true;
+    const unsigned moje = ++rolovani_;
+    Roluj(*this, picPokracuj, [this, moje] { return pokracujNahore_ && rolovani_ == moje; });
+}
+
+void SetupForm::Change(TextBox& /*t*/) {
+    Kontrola();
+}
+
+void SetupForm::MouseDown(Ovladac* o, const Mys&) {
+    if (Je(ICislo, o)) {
+        ZvolPocet(static_cast<std::size_t>(o->Index) - 1);
+    } else if (o == &picPokracuj) {
+        SpustDesku();
+    } else if (o == &picKonec) {
+        ZpetDoMenu();
+    }
+}
+
+void SetupForm::ZvolPocet(std::size_t k) {
+    ZvukStisku();
+    OdzvolVse(ICislo, cislice_);
+    ICislo[k].Tag = "1";
+    ICislo[k].Picture = cislice_[k].Rozsviceny;
+    ISipka.Picture = sipky_[k];
+    PocetPrikladuSerie = static_cast<std::uint8_t>(k + 1);
+    Cekej(100);
+    if (Skoncil(*this)) return;
+    Kontrola();
+}
+
+/// A number that is no task starts nothing. The board is the active screen from the moment it
+/// shows: a press on it during the wait may already lead on to another screen.
+void SetupForm::SpustDesku() {
+    ZvukStisku();
+    JmenoHrace = BezKrajnichMezer(TJmeno.Text);
+    const std::shared_ptr<Form> deska = VyrobDeskuUlohy(CisloUlohy);
+    if (!deska) return;
+    Obrazovky& okna = Stroj().Okna();
+    okna.Zaved(deska);
+    okna.Show(*deska);
+    AktivniForm = deska;
+    Cekej(100);
+    if (Skoncil(*this) || deska->Zavreny()) return;
+    okna.Hide(*this);
+}
+
+void SetupForm::ZpetDoMenu() {
+    ZvukStisku();
+    VratSeK(Menu().weak_from_this(), *this);
+}
+
+void SetupForm::MouseMove(Ovladac* o, const Mys&) {
+    if (Je(ICislo, o)) {
+        const auto k = static_cast<std::size_t>(o->Index) - 1;
+        hover_.Vstup(static_cast<std::uint8_t>(k + 1));
+        ZhasniNezvolene(ICislo, cislice_);
+        ICislo[k].Picture = cislice_[k].Rozsviceny;
+        picKonec.Picture = konec_.Normalni;
+    } else if (o == &picKonec) {
+        if (!hover_.Vstup(Hover::KONEC)) return;
+        picKonec.Picture = konec_.Rozsviceny;
+        ZhasniNezvolene(ICislo, cislice_);
+    } else if (o == &Image1) {
+        hover_.Vstup(Hover::ZAHLAVI);
+    } else if (o == nullptr && hover_.Opust()) {
+        picKonec.Picture = konec_.Normalni;
+        ZhasniNezvolene(ICislo, cislice_);
+    }
+}
+
+void SetupForm::Click(Ovladac* o) {
+    if (o != &Image1) return;
+    ZvukStisku();
+    UkazNapovedu("Bitmap\\Help\\setup.bmp", *this);
+}
+
+bool SetupForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    Obrazovky& okna = Stroj().Okna();
+    const std::size_t cislice =
+        klavesa.size() == 1 ? std::string_view("12345").find(klavesa) : std::string_view::npos;
+    if (cislice != std::string_view::npos) {
+        okna.StiskniZastavku(*this, ICislo[cislice]);
+    } else if (klavesa == "Return" && picPokracuj.Visible &&
+               (!okna.PrstenVpredu() || okna.Psane() == &TJmeno)) {
+        SpustDesku();
+    } else if (klavesa == "Escape" && TJmeno.Text.empty()) {
+        // With a name there, one key by mistake must not throw it away.
+        ZpetDoMenu();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+}  // namespace rysovna

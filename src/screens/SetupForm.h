@@ -1,0 +1,50 @@
+#pragma once
+
+#include <array>
+
+#include "platform/Form.h"
+#include "screens/Hover.h"
+
+namespace rysovna {
+
+/// Between the menu and the board: the player's name and the number of examples. Made anew at each
+/// choice of a task; only hidden while its board is up.
+class SetupForm final : public Form {
+public:
+    static constexpr int NEJDELSI_JMENO = 60;  ///< characters
+
+    SetupForm();
+    [[nodiscard]] std::string_view Jmeno() const override { return "SetupForm"; }
+
+    TextBox TJmeno;
+    std::array<Image, 5> ICislo;  ///< digits 1 to 5
+    Image ISipka;                 ///< the dial: an arrow to the chosen digit
+    PictureBox picPokracuj;       ///< hidden until name and digit are there
+    PictureBox picKonec;
+    Image Image1;  ///< the banner: help
+
+    void Load() override;
+    void Activate() override;
+    void MouseDown(Ovladac* o, const Mys& m) override;
+    void MouseMove(Ovladac* o, const Mys& m) override;
+    void Click(Ovladac* o) override;
+    void Change(TextBox& t) override;
+    bool Klavesa(std::string_view klavesa, int shift) override;
+    [[nodiscard]] Ovladac* PrvniZastavka() override { return &TJmeno; }
+    [[nodiscard]] Ovladac* Napoveda() override { return &Image1; }
+
+private:
+    void Kontrola();
+    void ZvolPocet(std::size_t k);
+    void SpustDesku();
+    void ZpetDoMenu();
+
+    Hover hover_;  ///< 1 to 5 ICislo, 12 Image1, 20 picKonec
+    bool pokracujNahore_ = false;
+    unsigned rolovani_ = 0;  ///< number of the latest roll-in: an older one gives way to it
+    DvojiceObrazku konec_;
+    std::array<DvojiceObrazku, 5> cislice_;
+    std::array<Obrazek, 5> sipky_;
+};
+
+}  // namespace rysovna

@@ -1,0 +1,61 @@
+#include "screens/Spolecne.h"
+
+#include "base/Cesta.h"
+#include "base/Cisla.h"
+#include "platform/Form.h"
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
+#include "rules/Misc.h"
+#include "store/Ukladani.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr double NAVRHOVYCH_TWIPU = 15;  // twips a pixel at which the screens were laid out
+constexpr float VELIKOST_PISMA = 10;     // points
+
+/// Whether the object has a place that is scaled: a line and a timer have none.
+bool MaRozmery(const Ovladac& o) {
+    return o.Druh != Ovladac::Typ::Line && o.Druh != Ovladac::Typ::Timer;
+}
+
+}  // namespace
+
+Ukladani& Vysledky() {
+    if (!UkladaniVysledku) {
+        const Hodiny hodiny{.Ted = [] { return Stroj().TickCount(); },
+                            .Spi = [](std::uint32_t ms) { Stroj().Spi(ms); }};
+        UkladaniVysledku = std::make_shared<Ukladani>(
+            Stroj().Disk(), hodiny, NativniCesta(CestaVysledku), Stroj().SlozkaStavu());
+    }
+    return *UkladaniVysledku;
+}
+
+void Cekej(std::uint32_t ms) {
+    Host& stroj = Stroj();
+    const std::uint32_t termin = stroj.TickCount() + ms;
+    // The difference, not the times, is compared: the tick count may wrap meanwhile.
+    const auto zbyva = [&] { return static_cast<std::int32_t>(termin - stroj.TickCount()); };
+    while (zbyva() > 0 && !stroj.Okna().JeKonec()) {
+        stroj.DoEvents(static_cast<std::uint32_t>(zbyva()));
+    }
+}
+
+double Meritko() {
+    return Stroj().TwipsPerPixel() / NAVRHOVYCH_TWIPU;
+}
+
+void PrizpusobForm(Form& form) {
+    const double meritko = Meritko();
+    for (Ovladac* o : form.Ovladace()) {
+        if (MaRozmery(*o)) {
+            for (int* rozmer : {&o->Left, &o->Top, &o->Width, &o->Height}) {
+                *rozmer = Zaokrouhli(*rozmer * meritko);
+            }
+        }
+        if (o->MaPismo()) o->Font.Velikost = static_cast<float>(meritko) * VELIKOST_PISMA;
+    }
+}
+
+}  // namespace rysovna

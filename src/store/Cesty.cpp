@@ -1,0 +1,86 @@
+#include "store/Cesty.h"
+
+#include <cctype>
+#include <fstream>
+#include <iterator>
+
+#include "base/Cesta.h"
+#include "base/Cisla.h"
+#include "rules/Ulohy.h"
+#include "store/Ini.h"
+#include "store/Ukladani.h"
+
+namespace rysovna {
+
+namespace {
+
+constexpr std::string_view SEKCE = "RYSOVNA1";
+constexpr std::string_view NENI_KLIC = "Chyba";
+constexpr std::string_view KLIC_VYSLEDKU = "VYSLEDKY";
+constexpr std::string_view UCET = "ucet";
+constexpr std::string_view KLIC_RAD = "Rady";
+constexpr std::string_view BEZ_RAD = "ne";
+
+bool JeAbsolutni(std::string_view cesta) {
+    const bool odKorene = cesta.starts_with('\\') || cesta.starts_with('/');
+    const bool sDiskem = cesta.size() >= 2 && cesta[1] == ':' &&
+                         std::isalpha(static_cast<unsigned char>(cesta[0])) != 0;
+    return odKorene || sDiskem;
+}
+
+/// A value of the configuration as a folder. A relative path counts from the folder of the
+/// configuration, so that a copy on a stick runs wherever it is plugged in. Empty if the key is
+/// missing.
+std::string CestaZIni(std::string_view obsah, std::string_view klic, const std::string& adresar) {
+    const std::string cesta = SeZpetnymLomitkem(HodnotaIni(obsah, SEKCE, klic, NENI_KLIC));
+    if (cesta == std::string(NENI_KLIC) + "\\") return {};
+    return JeAbsolutni(cesta) ? cesta : adresar + cesta;
+}
+
+}  // namespace
+
+std::string SeZpetnymLomitkem(std::string cesta) {
+    if (cesta.ends_with('/')) cesta.pop_back();
+    if (!cesta.ends_with('\\')) cesta += '\\';
+    return cesta;
+}
+
+std::string SlozkaSLomitkem(const std::filesystem::path& slozka) {
+    return slozka.empty() ? std::string() : SeZpetnymLomitkem(slozka.string());
+}
+
+Cesty CtiCesty(const std::string& slozka, const std::filesystem::path& slozkaUctu) {
+    const std::string adresar = SeZpetnymLomitkem(slozka);
+    std::ifstream proud(NativniCesta(adresar + std::string(JMENO_INI)), std::ios::binary);
+    const std::string obsah{std::istreambuf_iterator<char>(proud),
+                            std::istreambuf_iterator<char>()};
+    Cesty cesty;
+    cesty.CD = CestaZIni(obsah, "CD", adresar);
+    cesty.HD = CestaZIni(obsah, "HD", adresar);
+    const std::string kam = HodnotaIni(obsah, SEKCE, KLIC_VYSLEDKU, NENI_KLIC);
+    cesty.Oddelene = kam != NENI_KLIC;
+    cesty.Vysledky = cesty.HD;
+    if (kam == UCET) {
+        cesty.Vysledky = SlozkaSLomitkem(slozkaUctu);
+    } else if (cesty.Oddelene) {
+        cesty.Vysledky = CestaZIni(obsah, KLIC_VYSLEDKU, adresar);
+    }
+    cesty.Rady = HodnotaIni(obsah, SEKCE, KLIC_RAD, "") != BEZ_RAD;
+    return cesty;
+}
+
+std::vector<std::string> JmenaDat() {
+    std::vector<std::string> jmena;
+    for (const Uloha& u : ULOHY) jmena.push_back(DveCislice(u.Cislo) + ".dat");
+    jmena.insert(jmena.end(), {"Znamky.dat", "Errors.dat"});
+    return jmena;
+}
+
+std::vector<std::string> JmenaVysledku() {
+    std::vector<std::string> jmena;
+    for (const Uloha& u : ULOHY) jmena.push_back(DveCislice(u.Cislo) + ".res");
+    jmena.emplace_back(JMENO_DENIKU);
+    return jmena;
+}
+
+}  // namespace rysovna

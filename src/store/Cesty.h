@@ -1,0 +1,36 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace rysovna {
+
+/// With one final backslash, whichever separator or none it had.
+[[nodiscard]] std::string SeZpetnymLomitkem(std::string cesta);
+/// A real folder in the spelling of the program's paths.
+[[nodiscard]] std::string SlozkaSLomitkem(const std::filesystem::path& slozka);
+
+/// The file that says where things are.
+constexpr std::string_view JMENO_INI = "Rysovna.ini";
+
+/// Where the configuration says that things are, each with a backslash at its end or empty where
+/// its key is missing, and what else it says.
+struct Cesty {
+    std::string CD;         ///< asset root
+    std::string HD;         ///< data root
+    std::string Vysledky;   ///< folder of results; without a key of its own the data root
+    bool Oddelene = false;  ///< results have a key of their own: missing files of theirs are made
+    bool Rady = true;       ///< boards say what to do next; "ne" turns it off
+};
+
+/// Reads Rysovna.ini in a folder. "ucet" as the folder of results is the account's own, slozkaUctu;
+/// a file that cannot be read has no keys.
+[[nodiscard]] Cesty CtiCesty(const std::string& slozka, const std::filesystem::path& slozkaUctu);
+
+/// Files of game data and of results, in the order in which they are looked for.
+[[nodiscard]] std::vector<std::string> JmenaDat();
+[[nodiscard]] std::vector<std::string> JmenaVysledku();
+
+}  // namespace rysovna

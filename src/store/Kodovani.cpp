@@ -1,0 +1,291 @@
+#include "store/Kodovani.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <fcntl.h>
+#include <fstream>
+#include <ios>
+#include <limits>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+#include "base/Chyba.h"
+#include "base/Text.h"
+
+namespace rysovna {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t KROK_KODU = 4;  // every so many characters one is of the text
+
+constexpr char16_t NIC = 0;
+constexpr unsigned char PRVNI_HORNI = 0x80;
+
+// The upper half of Windows-1250, bytes 0x80 to 0xFF; NIC where the page defines none.
+constexpr std::array<char16_t, 128> HORNI_1250{
+    0x20AC, NIC,    0x201A, NIC,    0x201E, 0x2026, 0x2020, 0x2021,  // 80
+    NIC,    0x2030, 0x0160, 0x2039, 0x015A, 0x0164, 0x017D, 0x0179,  // 88
+    NIC,    0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,  // 90
+    NIC,    0x2122, 0x0161, 0x203A, 0x015B, 0x0165, 0x017E, 0x017A,  // 98
+    0x00A0, 0x02C7, 0x02D8, 0x0141, 0x00A4, 0x0104, 0x00A6, 0x00A7,  // A0
+    0x00A8, 0x00A9, 0x015E, 0x00AB, 0x00AC, 0x00AD, 0x00AE, 0x017B,  // A8
+    0x00B0, 0x00B1, 0x02DB, 0x0142, 0x00B4, 0x00B5, 0x00B6, 0x00B7,  // B0
+    0x00B8, 0x0105, 0x015F, 0x00BB, 0x013D, 0x02DD, 0x013E, 0x017C,  // B8
+    0x0154, 0x00C1, 0x00C2, 0x0102, 0x00C4, 0x0139, 0x0106, 0x00C7,  // C0
+    0x010C, 0x00C9, 0x0118, 0x00CB, 0x011A, 0x00CD, 0x00CE, 0x010E,  // C8
+    0x0110, 0x0143, 0x0147, 0x00D3, 0x00D4, 0x0150, 0x00D6, 0x00D7,  // D0
+    0x0158, 0x016E, 0x00DA, 0x0170, 0x00DC, 0x00DD, 0x0162, 0x00DF,  // D8
+    0x0155, 0x00E1, 0x00E2, 0x0103, 0x00E4, 0x013A, 0x0107, 0x00E7,  // E0
+    0x010D, 0x00E9, 0x0119, 0x00EB, 0x011B, 0x00ED, 0x00EE, 0x010F,  // E8
+    0x0111, 0x0144, 0x0148, 0x00F3, 0x00F4, 0x0151, 0x00F6, 0x00F7,  // F0
+    0x0159, 0x016F, 0x00FA, 0x0171, 0x00FC, 0x00FD, 0x0163, 0x02D9,  // F8
+};
+
+char16_t Znak(unsigned char bajt) {
+    return bajt < PRVNI_HORNI ? bajt : HORNI_1250[bajt - PRVNI_HORNI];
+}
+
+/// The byte of a character; nothing if the page lacks it.
+std::optional<unsigned char> BajtZnaku(char32_t znak) {
+    if (znak < PRVNI_HORNI) return static_cast<unsigned char>(znak);
+    const auto* const i = std::ranges::find(HORNI_1250, znak);
+    if (i == HORNI_1250.end()) return std::nullopt;
+    return static_cast<unsigned char>(PRVNI_HORNI + (i - HORNI_1250.begin()));
+}
+
+[[noreturn]] void ChybaSouboru(const char* co, const fs::path& soubor) {
+    throw BehovaChyba(co, soubor.string());
+}
+
+constexpr const char* NELZE_CIST = "Soubor nelze přečíst";
+constexpr std::size_t MEGABAJT = 1024 * 1024;
+constexpr const char* NELZE_ZAPSAT = "Do souboru nelze zapsat";
+
+/// Unbuffered, so that one call writes all at once and its failure is seen there.
+template <class Proud>
+Proud Otevri(const fs::path& soubor, std::ios::openmode jak) {
+    Proud proud;
+    proud.rdbuf()->pubsetbuf(nullptr, 0);
+    proud.open(soubor, jak | std::ios::binary);
+    return proud;
+}
+
+bool Zapis(std::ostream& kam, std::string_view obsah) {
+    return static_cast<bool>(
+        kam.write(obsah.data(), static_cast<std::streamsize>(obsah.size())).flush());
+}
+
+/// A file or folder by its descriptor, for what streams cannot do.
+class Popisovac {
+public:
+    explicit Popisovac(const fs::path& co) : cislo_(::open(co.c_str(), O_RDONLY | O_CLOEXEC)) {}
+    ~Popisovac() {
+        if (cislo_ >= 0) ::close(cislo_);
+    }
+    Popisovac(const Popisovac&) = delete;
+    Popisovac& operator=(const Popisovac&) = delete;
+
+    /// Waits until all that was written is on the disk. One that cannot be waited for is no fault.
+    [[nodiscard]] bool NaDisk() const {
+        return cislo_ >= 0 && (::fsync(cislo_) == 0 || errno == EINVAL);
+    }
+
+    /// Owner, group and rights as those of another file; false if owner or group may not be so.
+    [[nodiscard]] bool PrevezmiPrava(const fs::path& od) const {
+        struct stat jeho {};
+        struct stat moje {};
+        if (cislo_ < 0 || ::stat(od.c_str(), &jeho) != 0 || ::fstat(cislo_, &moje) != 0)
+            return false;
+        const bool jinak = jeho.st_uid != moje.st_uid || jeho.st_gid != moje.st_gid;
+        if (jinak && ::fchown(cislo_, jeho.st_uid, jeho.st_gid) != 0) return false;
+        constexpr mode_t PRAVA = 07777;
+        return ::fchmod(cislo_, jeho.st_mode & PRAVA) == 0;
+    }
+
+private:
+    int cislo_;
+};
+
+/// Writes over a file that has this content: first what grows it, then the rest, then cuts it.
+bool PrepisNaMiste(const fs::path& soubor, const std::string& stary, std::string_view novy) {
+    auto proud = Otevri<std::fstream>(soubor, std::ios::in | std::ios::out);
+    if (!proud) return false;
+    std::error_code nevadi;
+    if (novy.size() > stary.size()) {
+        proud.seekp(static_cast<std::streamoff>(stary.size()));
+        if (!Zapis(proud, novy.substr(stary.size()))) {
+            proud.close();
+            fs::resize_file(soubor, stary.size(), nevadi);
+            return false;
+        }
+    }
+    proud.seekp(0);
+    if (!Zapis(proud, novy.substr(0, stary.size()))) {
+        proud.clear();
+        proud.seekp(0);
+        Zapis(proud, stary);
+        proud.close();
+        fs::resize_file(soubor, stary.size(), nevadi);
+        return false;
+    }
+    proud.close();
+    if (novy.size() < stary.size()) {
+        std::error_code chyba;
+        fs::resize_file(soubor, novy.size(), chyba);
+        if (chyba) return false;
+    }
+    // All is written: a disk that cannot be waited for changes nothing about it.
+    (void)Popisovac(soubor).NaDisk();
+    return true;
+}
+
+std::string CtiVse(const fs::path& soubor,
+                   std::size_t nejvyse = std::numeric_limits<std::size_t>::max()) {
+    auto proud = Otevri<std::ifstream>(soubor, std::ios::in);
+    if (!proud) ChybaSouboru(NELZE_CIST, soubor);
+    std::string obsah;
+    std::array<char, 65536> kus;
+    do {
+        proud.read(kus.data(), kus.size());
+        obsah.append(kus.data(), static_cast<std::size_t>(proud.gcount()));
+        if (obsah.size() > nejvyse) {
+            const std::string mez = std::to_string(nejvyse / MEGABAJT);
+            ChybaSouboru(("Soubor je větší než " + mez + " MB").c_str(), soubor);
+        }
+    } while (proud);
+    if (!proud.eof() || proud.bad()) ChybaSouboru(NELZE_CIST, soubor);
+    return obsah;
+}
+
+}  // namespace
+
+std::string DekodujRadek(std::string_view ulozeny) {
+    std::string text;
+    text.reserve(ulozeny.size() / KROK_KODU);
+    for (std::size_t i = KROK_KODU - 1; i < ulozeny.size(); i += KROK_KODU) text += ulozeny[i];
+    return text;
+}
+
+std::string ZakodujRadek(std::string_view text) {
+    constexpr char PRVNI = '!';
+    constexpr unsigned POCET = '~' - '!' + 1;
+    std::uint32_t stav = 1;
+    std::string ulozeny;
+    ulozeny.reserve(text.size() * KROK_KODU);
+    for (const char znak : text) {
+        for (std::size_t i = 1; i < KROK_KODU; ++i) {
+            stav = stav * 1664525U + 1013904223U;
+            ulozeny += static_cast<char>(PRVNI + static_cast<int>((stav >> 16) % POCET));
+        }
+        ulozeny += znak;
+    }
+    return ulozeny;
+}
+
+std::optional<std::size_t> NedefinovanyBajt(std::string_view bajty) {
+    for (std::size_t i = 0; i < bajty.size(); ++i) {
+        const auto bajt = static_cast<unsigned char>(bajty[i]);
+        if (bajt != 0 && Znak(bajt) == NIC) return i;
+    }
+    return std::nullopt;
+}
+
+std::string Z1250(std::string_view bajty, const std::string& misto) {
+    if (NedefinovanyBajt(bajty)) throw BehovaChyba("Znak mimo kódovou stránku 1250", misto);
+    std::u32string znaky;
+    znaky.reserve(bajty.size());
+    for (const char c : bajty) znaky += Znak(static_cast<unsigned char>(c));
+    return ZeZnaku(znaky);
+}
+
+std::string Z1250Vzdy(std::string_view bajty) {
+    constexpr char32_t NEZNAMY = 0xFFFD;
+    std::u32string znaky;
+    znaky.reserve(bajty.size());
+    for (const char c : bajty) {
+        const char16_t znak = Znak(static_cast<unsigned char>(c));
+        znaky += znak == NIC && c != 0 ? NEZNAMY : znak;
+    }
+    return ZeZnaku(znaky);
+}
+
+std::string Do1250(std::string_view utf8) {
+    std::string bajty;
+    for (const char32_t znak : DoZnaku(utf8)) {
+        bajty += static_cast<char>(BajtZnaku(znak).value_or('?'));
+    }
+    return bajty;
+}
+
+std::optional<std::size_t> ZnakMimoStranku(std::string_view utf8) {
+    const std::u32string znaky = DoZnaku(utf8);
+    const auto i = std::ranges::find_if(znaky, [](char32_t znak) { return !BajtZnaku(znak); });
+    if (i == znaky.end()) return std::nullopt;
+    return static_cast<std::size_t>(i - znaky.begin());
+}
+
+std::string Misto(const fs::path& soubor, int radek) {
+    return soubor.string() + ":" + std::to_string(radek);
+}
+
+std::vector<std::string> NaRadky(std::string_view obsah) {
+    std::vector<std::string> radky;
+    for (std::size_t i = 0; i < obsah.size();) {
+        const std::size_t konec = std::min(obsah.find('\n', i), obsah.size());
+        std::size_t delka = konec - i;
+        if (delka > 0 && obsah[konec - 1] == '\r') --delka;
+        radky.emplace_back(obsah.substr(i, delka));
+        i = konec + 1;
+    }
+    return radky;
+}
+
+std::vector<std::string> CtiRadky(const fs::path& soubor, std::size_t nejvyse) {
+    return NaRadky(CtiVse(soubor, nejvyse));
+}
+
+void PrepisSoubor(const fs::path& soubor, std::string_view obsah) {
+    std::error_code chyba;
+    // What is written is the file itself, not a link that leads to it.
+    fs::path cil = fs::weakly_canonical(soubor, chyba);
+    if (chyba) cil = soubor;
+    const bool jeTu = fs::exists(cil, chyba);
+    if (jeTu && !Otevri<std::fstream>(cil, std::ios::in | std::ios::out)) {
+        ChybaSouboru(NELZE_ZAPSAT, soubor);
+    }
+
+    fs::path vedle = cil;
+    vedle += ".nove";
+    auto proud = Otevri<std::ofstream>(vedle, std::ios::out | std::ios::trunc);
+    if (!proud) {
+        if (!jeTu || !PrepisNaMiste(cil, CtiVse(cil), obsah)) ChybaSouboru(NELZE_ZAPSAT, soubor);
+        return;
+    }
+    bool zapsano = Zapis(proud, obsah);
+    proud.close();
+    zapsano = zapsano && !proud.fail();
+    if (zapsano) {
+        const Popisovac novy(vedle);
+        zapsano = novy.NaDisk();
+        // A table that several pupils' accounts share stays theirs: one that only its owner may
+        // replace is written over in place. Until that is done, the copy beside it stays.
+        if (zapsano && jeTu && !novy.PrevezmiPrava(cil)) {
+            zapsano = PrepisNaMiste(cil, CtiVse(cil), obsah);
+            fs::remove(vedle, chyba);
+        } else if (zapsano) {
+            fs::rename(vedle, cil, chyba);
+            zapsano = !chyba;
+            if (zapsano) (void)Popisovac(cil.parent_path()).NaDisk();
+        }
+    }
+    if (!zapsano) {
+        fs::remove(vedle, chyba);
+        ChybaSouboru(NELZE_ZAPSAT, soubor);
+    }
+}
+
+}  // namespace rysovna
