@@ -10,7 +10,7 @@ namespace rysovna {
 /// Makes the board of a task, not loaded yet. It is asked for tasks only.
 using VyrobceDesek = std::function<std::shared_ptr<Form>(int cisloUlohy)>;
 
-/// Hands the shell its maker of boards: the program its own, a test another. An empty one makes
+/// Hands the screens their maker of boards: the program its own, a test another. An empty one makes
 /// nothing.
 void NastavVyrobceDesek(VyrobceDesek vyrobce);
 
