@@ -6,11 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "hrac/Trojuhelnik.h"
+#include "hrac/RukaNaDesce.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
 #include "screens/VyrobaDesek.h"
 #include "store/TabulkaVysledku.h"
+#include "zak/Trojuhelnik.h"
 
 namespace rysovna {
 namespace {

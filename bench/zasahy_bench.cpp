@@ -6,9 +6,9 @@
 #include <cstdint>
 
 #include "base/Cisla.h"
-#include "hrac/Los.h"
 #include "platform/Malir.h"
 #include "rules/Tahy.h"
+#include "zak/Los.h"
 
 namespace rysovna {
 namespace {

@@ -8,7 +8,6 @@
 #include <optional>
 
 #include "engine/Tabulky.h"
-#include "hrac/Tecny.h"
 #include "platform/Obrazovky.h"
 #include "podpora/Rysovac.h"
 #include "rules/Misc.h"
@@ -16,6 +15,7 @@
 #include "screens/DeskaForm.h"
 #include "screens/Desky.h"
 #include "screens/VyrobaDesek.h"
+#include "zak/Tecny.h"
 
 namespace rysovna::testy {
 namespace {

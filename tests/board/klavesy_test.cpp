@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/Tabulky.h"
-#include "hrac/Ctyruhelnik.h"
+#include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "platform/Obrazovky.h"
 #include "podpora/Rysovac.h"
@@ -13,6 +13,7 @@
 #include "screens/DeskaForm.h"
 #include "screens/Desky.h"
 #include "screens/VyrobaDesek.h"
+#include "zak/Ctyruhelnik.h"
 
 namespace rysovna::testy {
 namespace {

@@ -6,9 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/Tabulky.h"
-#include "hrac/Ctyruhelnik.h"
-#include "hrac/Ruka.h"
-#include "hrac/Tecny.h"
+#include "hrac/RukaNaDesce.h"
 #include "podpora/Rysovac.h"
 #include "rules/Chyby.h"
 #include "rules/Kontrola.h"
@@ -21,6 +19,9 @@
 #include "screens/Spolecne.h"
 #include "screens/VyrobaDesek.h"
 #include "store/Soubory.h"
+#include "zak/Ctyruhelnik.h"
+#include "zak/Ruka.h"
+#include "zak/Tecny.h"
 
 namespace rysovna::testy {
 namespace {

@@ -5,6 +5,7 @@
 
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
+#include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "platform/Klavesnice.h"
 #include "platform/Obrazovky.h"

@@ -12,7 +12,7 @@
 #include "base/Cisla.h"
 #include "engine/PametovaPlocha.h"
 #include "engine/Tabulky.h"
-#include "hrac/Ruka.h"
+#include "hrac/Relace.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Prostredi.h"
 #include "rules/Dialog.h"
@@ -22,6 +22,7 @@
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
 #include "store/Soubory.h"
+#include "zak/Ruka.h"
 
 namespace rysovna::testy {
 

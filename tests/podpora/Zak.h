@@ -5,8 +5,9 @@
 #include <vector>
 
 #include "hrac/Relace.h"
-#include "hrac/Ruka.h"
-#include "hrac/Trojuhelnik.h"
+#include "hrac/RukaNaDesce.h"
+#include "zak/Ruka.h"
+#include "zak/Trojuhelnik.h"
 
 namespace rysovna::testy {
 

@@ -2,12 +2,12 @@
 
 #include <cmath>
 
-#include "hrac/Ctyruhelnik.h"
 #include "podpora/Stul.h"
 #include "rules/CtyrUDialog.h"
 #include "rules/DialogCtyruhelnikuVrchol.h"
 #include "rules/LichoDialog.h"
 #include "rules/RovnoDialog.h"
+#include "zak/Ctyruhelnik.h"
 
 namespace rysovna::testy {
 namespace {

@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "hrac/Ctyruhelnik.h"
-#include "hrac/Trojuhelnik.h"
 #include "podpora/Stul.h"
 #include "rules/DialogCtyruhelnikuVrchol.h"
+#include "zak/Ctyruhelnik.h"
+#include "zak/Trojuhelnik.h"
 
 // What the tests of the quadrilaterals share.
 

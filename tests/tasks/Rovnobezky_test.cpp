@@ -6,12 +6,12 @@
 
 #include "TecnyHra.h"
 #include "engine/Resitele.h"
-#include "hrac/Ctyruhelnik.h"
-#include "hrac/Trojuhelnik.h"
 #include "podpora/Stul.h"
 #include "rules/CtyrUDialog.h"
 #include "rules/LichoDialog.h"
 #include "rules/Troj2Dialog.h"
+#include "zak/Ctyruhelnik.h"
+#include "zak/Trojuhelnik.h"
 
 namespace rysovna::testy {
 namespace {

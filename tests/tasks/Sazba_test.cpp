@@ -1,6 +1,7 @@
 // What the panel prints while whole examples are played: nothing clipped, nothing over another.
 #include <gtest/gtest.h>
 
+#include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "platform/Pisma.h"
 #include "rules/Ulohy.h"

@@ -3,8 +3,8 @@
 #include <string_view>
 #include <vector>
 
-#include "hrac/Tecny.h"
 #include "podpora/Stul.h"
+#include "zak/Tecny.h"
 
 namespace rysovna::testy {
 

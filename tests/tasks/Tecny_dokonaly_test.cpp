@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "TecnyHra.h"
+#include "hrac/Relace.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"

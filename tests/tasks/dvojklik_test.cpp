@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "engine/Tabulky.h"
+#include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"

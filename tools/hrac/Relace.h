@@ -3,23 +3,18 @@
 #include <cstdint>
 #include <filesystem>
 #include <iosfwd>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "base/Bod.h"
-#include "hrac/Los.h"
 #include "platform/Form.h"
 #include "platform/Obrazovky.h"
 #include "platform/headless/HeadlessHost.h"
+#include "zak/Los.h"
+#include "zak/Ruka.h"
 
 namespace rysovna::hrac {
-
-/// What the player was to do and could not: the control is hidden, the line is not offered.
-struct NejdeUdelat : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
 
 /// One run of the program on the headless host, with a data root of its own that goes with it:
 /// plays as a pupil does, by names of controls, through the same events. Session variables and

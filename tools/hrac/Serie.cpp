@@ -2,28 +2,10 @@
 
 #include <string>
 
-#include "engine/Tabulky.h"
-#include "hrac/Ctyruhelnik.h"
-#include "hrac/Tecny.h"
-#include "hrac/Trojuhelnik.h"
-#include "rules/DialogCtyruhelnikuVrchol.h"
-#include "rules/DialogTrojuhelniku.h"
+#include "hrac/RukaNaDesce.h"
 #include "rules/Misc.h"
 
 namespace rysovna::hrac {
-
-void Sestroj(Ruka& ruka, std::uint32_t seminko) {
-    const Dialog& d = ruka.Hrany();
-    if (dynamic_cast<const DialogTrojuhelniku*>(&d) != nullptr) {
-        DokonalyTrojuhelnik(ruka, seminko).Sestroj();
-    } else if (dynamic_cast<const DialogCtyruhelnikuVrchol*>(&d) != nullptr) {
-        DokonalyCtyruhelnik(ruka, seminko).Sestroj();
-    } else if (dynamic_cast<const DialogCtyruhelniku*>(&d) != nullptr) {
-        DokonalyRovnobeznik(ruka, seminko).Sestroj();
-    } else {
-        DokonaleTecny(ruka, seminko).Sestroj();
-    }
-}
 
 void OdehrajSerii(Relace& hra, int uloha, std::string_view jmeno, int prikladu,
                   std::uint32_t seminko) {

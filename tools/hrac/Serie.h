@@ -3,13 +3,10 @@
 #include <cstdint>
 #include <string_view>
 
-#include "hrac/Ruka.h"
+#include "hrac/RukaNaDesce.h"
+#include "zak/Sestroj.h"
 
 namespace rysovna::hrac {
-
-/// Constructs the example in play without a fault, on whichever board; no check. Ways and places go
-/// by the seed.
-void Sestroj(Ruka& ruka, std::uint32_t seminko);
 
 /// From the menu: a series of a task without a fault, up to its score table. Throws if an example
 /// lost a point.

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/Cisla.h"
+#include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "hrac/Los.h"
-#include "hrac/Ruka.h"
+#include "zak/Los.h"
+#include "zak/Ruka.h"
 
 namespace rysovna::hrac {
 

@@ -1,4 +1,4 @@
-#include "hrac/Tecny.h"
+#include "zak/Tecny.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,8 +6,8 @@
 
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
-#include "hrac/Trojuhelnik.h"
 #include "rules/TecnyNacrt.h"
+#include "zak/Trojuhelnik.h"
 
 namespace rysovna::hrac {
 namespace {

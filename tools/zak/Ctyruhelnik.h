@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "hrac/Los.h"
-#include "hrac/Ruka.h"
 #include "rules/DialogCtyruhelniku.h"
+#include "zak/Los.h"
+#include "zak/Ruka.h"
 
 namespace rysovna::hrac {
 

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "hrac/Los.h"
-#include "hrac/Ruka.h"
 #include "rules/TecnyDialog.h"
+#include "zak/Los.h"
+#include "zak/Ruka.h"
 
 namespace rysovna::hrac {
 

@@ -1,4 +1,4 @@
-#include "hrac/Trojuhelnik.h"
+#include "zak/Trojuhelnik.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "hrac/Ctyruhelnik.h"
+#include "zak/Ctyruhelnik.h"
 
 #include <algorithm>
 #include <array>
@@ -6,8 +6,8 @@
 
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
-#include "hrac/Trojuhelnik.h"
 #include "rules/Zadani.h"
+#include "zak/Trojuhelnik.h"
 
 namespace rysovna::hrac {
 namespace {

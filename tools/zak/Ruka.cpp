@@ -1,0 +1,104 @@
+#include "zak/Ruka.h"
+
+#include <algorithm>
+
+#include "base/Cisla.h"
+
+namespace rysovna::hrac {
+namespace {
+
+/// Letters of the Symbol face by which an assignment names angles.
+constexpr std::pair<std::string_view, std::string_view> UHLY[] = {
+    {"a", "alfa"}, {"b", "beta"}, {"g", "gama"}, {"d", "delta"}, {"e", "epsi"}, {"w", "omeg"}};
+
+[[noreturn]] void Nejde(std::string_view proc, std::string_view co) {
+    throw NejdeUdelat(std::string(proc) + ": " + std::string(co));
+}
+
+}  // namespace
+
+std::vector<Zadano> CtiZadani(const std::vector<PolozkaZadani>& popisky) {
+    std::vector<Zadano> vse;
+    for (std::size_t i = 0; i + 1 < popisky.size(); i += 2) {
+        std::string velicina = popisky[i].Text;
+        if (popisky[i].Font.Nazev == Pismo::Rez::Symbol) {
+            for (const auto& [pismeno, uhel] : UHLY) {
+                if (popisky[i].Text == pismeno) velicina = uhel;
+            }
+        }
+        const std::string& hodnota = popisky[i + 1].Text;  // "= 12 cm, "
+        const std::size_t cislice = hodnota.find_first_of("0123456789");
+        vse.push_back({velicina, cislice == std::string::npos
+                                     ? 0
+                                     : static_cast<int>(Cislo(hodnota.substr(cislice)))});
+    }
+    return vse;
+}
+
+const MistoZnacky& NajdiMisto(std::span<const MistoZnacky> nacrt, std::string_view velicina) {
+    const auto z = std::ranges::find(nacrt, velicina, &MistoZnacky::Velicina);
+    if (z == nacrt.end()) Nejde("není na náčrtu", velicina);
+    return *z;
+}
+
+bool NaPlose(Bod b) {
+    return b.X >= 25 && b.Y >= 28 && b.X <= 365 && b.Y <= 310;
+}
+
+int Ruka::Hodnota(std::string_view velicina) const {
+    for (const Zadano& z : Zadani()) {
+        if (z.Velicina == velicina) return z.Hodnota;
+    }
+    Nejde("není zadáno", velicina);
+}
+
+bool Ruka::JeZadano(std::string_view velicina) const {
+    return std::ranges::any_of(Zadani(), [&](const Zadano& z) { return z.Velicina == velicina; });
+}
+
+int Ruka::CisloRadku(std::string_view text) const {
+    const Seznam seznam = Hrany().UkazPanel().Combo;
+    for (std::size_t i = 0; seznam.Otevreny && i < seznam.Radky.size(); ++i) {
+        const RadekSeznamu& r = seznam.Radky[i];
+        if (r.Videt && r.Ziva && r.Text == text) return static_cast<int>(i) + 1;
+    }
+    return 0;
+}
+
+Ruka& Ruka::Oznac(Bod misto) {
+    if (!StiskNacrtu(misto)) {
+        Nejde("na náčrtu tu nic není", std::to_string(misto.X) + "," + std::to_string(misto.Y));
+    }
+    return *this;
+}
+
+Ruka& Ruka::Nastroj(int i) {
+    if (!Hrany().UkazPanel().cmd[static_cast<std::size_t>(i - 1)].Zive) {
+        Nejde("nástroj nejde stisknout", std::to_string(i));
+    }
+    StiskNastroje(i);
+    return *this;
+}
+
+Ruka& Ruka::Vyber(std::string_view radek) {
+    const int i = CisloRadku(radek);
+    if (i == 0) Nejde("v seznamu nelze zvolit", radek);
+    StiskRadku(i, radek);
+    return *this;
+}
+
+Ruka& Ruka::Napis(std::string_view text, int ktery) {
+    Pis(ktery, std::string(text));
+    return *this;
+}
+
+Ruka& Ruka::Napis(int cislo, int ktery) {
+    return Napis(TextBezMezery(cislo), ktery);
+}
+
+Ruka& Ruka::Tahni(Bod odkud, Bod kam) {
+    TahPoPlose(odkud, kam);
+    return *this;
+}
+
+}  // namespace rysovna::hrac
