@@ -35,6 +35,30 @@ Rada::Co ProcMrtvy(const Panel& p, int nastroj) {
     return tvar == TVAR_VETA ? MrtvaVeta : tvar == TVAR_HODNOTY ? MrtveHodnoty : Nic;
 }
 
+/// Where a hasty press would cost something.
+Rada::Co CoHrozi(const Videne& v) {
+    using enum Rada::Co;
+    const Panel& p = v.Krok;
+    switch (v.Pod) {
+        case Videne::CoPod::Zpet:
+            return JeZivy(p, TVAR_ZPET) ? PodZpet : Nic;
+        case Videne::CoPod::Sestroj:
+            return p.Vstupy.empty() || Vyplneno(p) ? Nic : PodSestroj;
+        case Videne::CoPod::Kontrola:
+            return p.PicZiva ? PodKontrola : Nic;
+        case Videne::CoPod::Odchod:
+            return PodOdchod;
+        case Videne::CoPod::Nic:
+            break;
+    }
+    return Nic;
+}
+
+/// The number that a read-out begins with, as text.
+std::string_view Mira(std::string_view odecet) {
+    return odecet.substr(0, odecet.find_first_not_of("-0123456789"));
+}
+
 /// The object in hand.
 Rada::Co CoSUtvarem(const Videne& v) {
     using enum Rada::Co;
@@ -64,6 +88,9 @@ Rada::Co CoPriHre(const Videne& v) {
     if (v.MrtvyNastroj != 0 && !v.Tahne) {
         if (const Rada::Co proc = ProcMrtvy(p, v.MrtvyNastroj); proc != Nic) return proc;
     }
+    if (!v.Tahne) {
+        if (const Rada::Co hrozi = CoHrozi(v); hrozi != Nic) return hrozi;
+    }
     if (!p.PicZiva) return Zkontroluj;
     if (p.Combo.Otevreny) return VyberRadek;
     if (p.Kresleni.Druh != Gesto::Tvar::Zadny) return CoSUtvarem(v);
@@ -86,13 +113,16 @@ Rada UrciRadu(const Videne& v) {
             break;
     }
     r.Druh = CoPriHre(v);
+    if (r.Druh == ZvolNastroj) r.ZasunNacrt = v.NacrtVysunuty;
     if (r.Druh == NapisHodnotu || r.Druh == Kresli || r.Druh == Tahni) {
         r.Kresleni = v.Krok.Kresleni;
         r.ZasunNacrt = v.NacrtVysunuty;
         r.Zpet = JeZivy(v.Krok, TVAR_ZPET);
+        r.SMirou = v.Krok.txtVstup.Videt && !v.Krok.txtVstup.Text.empty();
     }
     if (r.Druh == Tahni) {
         r.Odecet = v.Odecet;
+        r.Shoda = r.SMirou && Mira(v.Odecet) == v.Krok.txtVstup.Text;
         r.Podlozka = v.Podlozka;
     }
     return r;

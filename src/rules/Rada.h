@@ -26,6 +26,9 @@ struct Videne {
     bool Podlozka = false;      ///< a finger has left the drag, and the pad is up
     std::string Odecet;         ///< the live read-out; empty: there is none
     int MrtvyNastroj = 0;       ///< cmd(i) under the pointer that cannot be pressed; 0: none
+    /// What a press would do that the pointer (or the ring of the keys) is over.
+    enum class CoPod { Nic, Zpet, Sestroj, Kontrola, Odchod };
+    CoPod Pod = CoPod::Nic;
     VysledekPrikladu Vysledek;  ///< after the check
     friend bool operator==(const Videne&, const Videne&) = default;
 };
@@ -58,6 +61,11 @@ struct Rada {
         MrtveZpet,        ///< no step to take back from here
         MrtvaVeta,        ///< no triangle chosen yet
         MrtveHodnoty,     ///< no theorem chosen yet
+        // what a press here would bring, where it cannot be taken back
+        PodZpet,      ///< the step back gives no points back
+        PodSestroj,   ///< boxes are empty yet
+        PodKontrola,  ///< the figure is not done yet
+        PodOdchod,    ///< the series ends without a result
         // after the check
         Vysledek,
     };
@@ -65,6 +73,8 @@ struct Rada {
     Gesto Kresleni;
     bool ZasunNacrt = false;  ///< the sketch lies over the plane that is to be drawn on
     bool Podlozka = false;    ///< the drag is ended by the pad
+    bool SMirou = false;      ///< a value is typed that the read-out is to reach
+    bool Shoda = false;       ///< it is reached
     bool Zpet = false;        ///< the step in hand can be laid down by a step back
     std::string Odecet;
     VysledekPrikladu Priklad;

@@ -53,7 +53,8 @@ public:
     Label lblText1, lblText2, lblText3, lblText4;
     Label Label1;
 
-    PictureBox PicRada;  ///< the guide line, over the decorative ruler
+    PictureBox PicRada;      ///< the guide line, over the decorative ruler
+    PictureBox PicRadaKraj;  ///< its coloured edge
     std::array<Label, 2> lblRada;
 
     void Load() override;
@@ -128,6 +129,7 @@ private:
     void RozlozRadu();
     void ObnovRadu();
     [[nodiscard]] int MrtvyNastrojPod(const Mys& m) const;
+    void UkazatelNad(const Ovladac* o);
     // DeskaSerie.cpp: check, verdict, series
     void Zkontroluj();
     void NovyPriklad();

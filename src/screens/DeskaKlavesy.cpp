@@ -110,6 +110,7 @@ UkazatelKlaves DeskaForm::Ukazatel(const Ovladac& o) const {
 
 /// What the passing cross showed goes with it.
 void DeskaForm::PriselPrsten(Ovladac& o) {
+    UkazatelNad(&o);
     if (&o != &Pic) SkryjTah();
 }
 

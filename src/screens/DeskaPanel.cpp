@@ -81,7 +81,10 @@ void DeskaForm::Ukaz() {
     UkazZadani(p.lblZadani);
     UkazSeznam(p.Combo);
     UkazDalsi(p);
-    if (!(p == videne_.Krok)) videne_.MrtvyNastroj = 0;
+    if (!(p == videne_.Krok)) {
+        videne_.MrtvyNastroj = 0;
+        videne_.Pod = Videne::CoPod::Nic;
+    }
     videne_.Krok = p;
     ObnovRadu();
 }

@@ -10,8 +10,9 @@ namespace rysovna {
 namespace {
 
 constexpr Obdelnik PRUH{6, 449, 515, 27};           // px, over the decorative ruler
-constexpr int ODSAZENI = 6;                         // px, of the text from the strip's edge
-constexpr int RADEK = 13;                           // px, of two rows
+constexpr int KRAJ = 4;                             // px, of its coloured edge
+constexpr int ODSAZENI = 9;                         // px, of the text from the strip's edge
+constexpr int NAHORE = 1, RADEK = 12;               // px, of two rows
 constexpr int JEDINY_NAHORE = 5;                    // px, of a row that stands alone
 constexpr float PISMO_DVOU = 8, PISMO_JEDINE = 10;  // points
 
@@ -22,7 +23,10 @@ void DeskaForm::RozlozRadu() {
     PicRada.BackColor = paleta::KARTA;
     PicRada.Ramecek = true;
     PicRada.ProMys = false;  // a press there goes to the board, as on the ruler
-    PridejPole(lblRada, "lblRada", {ODSAZENI, 0, PRUH.Width - 2 * ODSAZENI, RADEK}, &PicRada);
+    Pridej(PicRadaKraj, "PicRadaKraj", {0, 0, KRAJ, PRUH.Height}, &PicRada);
+    PicRadaKraj.BackColor = paleta::ACCENT;
+    PicRadaKraj.ProMys = false;
+    PridejPole(lblRada, "lblRada", {ODSAZENI, 0, PRUH.Width - ODSAZENI - KRAJ, RADEK}, &PicRada);
     for (Label& l : lblRada) {
         l.WordWrap = false;
         l.ForeColor = paleta::INKOUST;
@@ -39,6 +43,26 @@ int DeskaForm::MrtvyNastrojPod(const Mys& m) const {
         if (uvnitr && t.Visible && !t.Enabled) return t.Index;
     }
     return 0;
+}
+
+/// The pointer, or the ring of the keys, is over an object; null: over none.
+void DeskaForm::UkazatelNad(const Ovladac* o) {
+    using Pod = Videne::CoPod;
+    struct Hrozba {
+        const Ovladac* Co;
+        Pod Pod_;
+    };
+    const Hrozba hrozby[] = {{&cmd[4], Pod::Zpet},
+                             {&cmd[5], Pod::Sestroj},
+                             {&PicTop[0], Pod::Kontrola},
+                             {&PicTop[3], Pod::Odchod}};
+    Pod pod = Pod::Nic;
+    for (const Hrozba& h : hrozby) {
+        if (h.Co == o && o != nullptr && o->Enabled) pod = h.Pod_;
+    }
+    if (pod == videne_.Pod) return;
+    videne_.Pod = pod;
+    ObnovRadu();
 }
 
 void DeskaForm::ObnovRadu() {
@@ -58,8 +82,8 @@ void DeskaForm::ObnovRadu() {
         l.Caption = radky[i];
         l.Visible = !radky[i].empty();
         l.Font.Velikost = jediny ? PISMO_JEDINE : PISMO_DVOU;
-        l.Height = jediny ? PRUH.Height - JEDINY_NAHORE : RADEK;
-        l.Top = jediny ? JEDINY_NAHORE : static_cast<int>(i) * RADEK;
+        l.Height = jediny ? PRUH.Height - JEDINY_NAHORE : PRUH.Height / 2;
+        l.Top = jediny ? JEDINY_NAHORE : NAHORE + static_cast<int>(i) * RADEK;
     }
 }
 

@@ -82,6 +82,7 @@ void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
         videne_.MrtvyNastroj = 0;
         ObnovRadu();
     }
+    if ((m.Button & LEVE) == 0) UkazatelNad(o);
     // What only passing over the plane showed.
     if (o != &Pic && (m.Button & LEVE) == 0) SkryjTah();
     if (o == nullptr) {

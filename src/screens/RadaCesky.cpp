@@ -23,15 +23,18 @@ constexpr Veta VETY[] = {
      "a označ v něm všechno, co je zadáno."},
     {Co::ZvolPrvni, "Až v náčrtku označíš všechno, co je zadáno,", "zvol nástroj, kterým začneš."},
     {Co::ZvolTrojuhelnik, "Zvol tlačítkem „podle věty“, jak trojúhelník sestrojíš."},
-    {Co::ZvolNastroj, "Zvol nástroj pro další krok."},
-    {Co::VyberRadek, "Vyber řádek seznamu.", "Kliknutím jinam se seznam zavře."},
-    {Co::VyplnHodnoty, "Vyplň všechna políčka podle zadání."},
+    {Co::VyberRadek, "Vyber řádek seznamu, volba hned platí.", "Kliknutím jinam se seznam zavře."},
+    {Co::VyplnHodnoty, "Vyplň všechna políčka podle zadání.", "Potom stiskni „sestroj“."},
     {Co::PotvrdHodnoty, "Hodnoty potvrď tlačítkem „sestroj“."},
-    {Co::Zkontroluj, "Konstrukce je hotová: stiskni nahoře Kontrolu."},
+    {Co::Zkontroluj, "Konstrukce je hotová: stiskni nahoře tlačítko Kontrola."},
     {Co::VratNezavrenou, "Narýsované útvary konstrukci nedokončily.",
      "Vrať se tlačítkem „zpět o krok“ a zkus to jinak."},
     {Co::VratNesestrojeny, "Z těchto hodnot trojúhelník sestrojit nejde.",
      "Vrať se tlačítkem „zpět o krok“."},
+    {Co::PodZpet, "Vrátí poslední krok.", "Chyba, která v něm byla, se ale dál počítá."},
+    {Co::PodSestroj, "Nejprve vyplň všechna políčka.", "Prázdné políčko se počítá jako chyba."},
+    {Co::PodKontrola, "Kontrola příklad uzavře.", "Konstrukce ještě není hotová."},
+    {Co::PodOdchod, "Odchodem série končí.", "Výsledek se do tabulky nezapíše."},
     {Co::MrtvyBezZnacek, "Nástroje ožijí, až v náčrtku označíš, co je zadáno."},
     {Co::MrtvySUtvarem, "Nejprve dokonči na ploše rozdělaný útvar."},
     {Co::MrtvySeSeznamem, "Nejprve vyber řádek otevřeného seznamu."},
@@ -57,14 +60,19 @@ constexpr Postup POSTUPY[] = {
     {Tvar::Kruznice, "Začni ve středu {}, táhni vodorovně a pusť.",
      "Začni ve středu kružnice, táhni vodorovně a pusť."},
     {Tvar::Utvar, "", "Začni na ploše, táhni a pusť."},
-    {Tvar::Bod, "", "Klikni na ploše na hledaný bod."},
+    {Tvar::Bod, "", "Klikni na ploše na hledaný bod, stačí přibližně."},
 };
 
 constexpr std::string_view NAPIS_HODNOTU = "Napiš velikost do políčka vlevo, potom rýsuj.";
 constexpr std::string_view ZASUN_NACRT = "Náčrtek v cestě zasuneš šipkou na jeho levém okraji.";
 constexpr std::string_view ZPET_BEZ_BODU = "Nejde-li bod označit, vrať se o krok zpět.";
 constexpr std::string_view TAH_BEZ_ODECTU = "Pusť, až bude útvar na svém místě.";
-constexpr std::string_view TAH_S_ODECTEM = " – pusť, až bude velikost souhlasit.";
+constexpr std::string_view TAH_K_MIRE = " – pusť, až bude velikost souhlasit.";
+constexpr std::string_view TAH_NA_MIRE = " – souhlasí, pusť.";
+constexpr std::string_view TAH_NA_MISTO = " – pusť, až bude útvar na svém místě.";
+constexpr std::string_view SHODNA_MIRA = "Pusť, až se míra u kurzoru shodne s napsanou.";
+constexpr std::string_view STRED_STRANY = "Začni ve středu strany {}, táhni vodorovně a pusť.";
+constexpr std::string_view STRED_SE_UKAZE = "Střed se ukáže, když na něj najedeš.";
 constexpr std::string_view POSUN_KONEC = "Posuň konec šipkami a klepni na „hotovo“.";
 constexpr std::string_view POSUN_K_MIRE = " – dolaď šipkami a klepni na „hotovo“.";
 constexpr std::string_view UKAZ_CHYBY =
@@ -78,7 +86,13 @@ std::string Nahrad(std::string_view veta, std::string_view co, const std::string
     return v;
 }
 
+/// The midpoint of a side bears the side's name behind an S.
+bool JeStredStrany(const Gesto& g) {
+    return g.Druh == Tvar::Kruznice && g.Od.size() == 2 && g.Od[0] == 'S' && g.Od[1] >= 'a';
+}
+
 std::string JakKreslit(const Gesto& g) {
+    if (JeStredStrany(g)) return Nahrad(STRED_STRANY, "{}", g.Od.substr(1));
     for (const Postup& p : POSTUPY) {
         if (p.Druh != g.Druh) continue;
         if (g.Od.empty() || p.SeJmeny.empty()) return std::string(p.BezeJmen);
@@ -89,6 +103,14 @@ std::string JakKreslit(const Gesto& g) {
 
 std::string Bodu(int n) {
     return TextBezMezery(n) + (n == 1 ? " bod" : n >= 2 && n <= 4 ? " body" : " bodů");
+}
+
+/// What to keep in mind while drawing.
+std::string_view CoPritom(const Rada& r) {
+    if (r.Kresleni.Druh == Tvar::Bod && r.Zpet) return ZPET_BEZ_BODU;
+    if (r.ZasunNacrt) return ZASUN_NACRT;
+    if (JeStredStrany(r.Kresleni)) return STRED_SE_UKAZE;
+    return r.SMirou ? SHODNA_MIRA : "";
 }
 
 RadkyRady OVysledku(const VysledekPrikladu& v) {
@@ -108,17 +130,19 @@ RadkyRady RadaCesky(const Rada& r) {
             return OVysledku(r.Priklad);
         case Co::NapisHodnotu:
             return {std::string(NAPIS_HODNOTU), JakKreslit(r.Kresleni)};
-        case Co::Tahni:
+        case Co::Tahni: {
             if (r.Podlozka)
                 return {r.Odecet + std::string(r.Odecet.empty() ? POSUN_KONEC : POSUN_K_MIRE), ""};
             if (r.Odecet.empty()) return {std::string(TAH_BEZ_ODECTU), ""};
-            return {r.Odecet + std::string(TAH_S_ODECTEM), ""};
-        case Co::Kresli: {
-            const bool zpet = r.Kresleni.Druh == Tvar::Bod && r.Zpet;
-            return {JakKreslit(r.Kresleni), std::string(zpet           ? ZPET_BEZ_BODU
-                                                        : r.ZasunNacrt ? ZASUN_NACRT
-                                                                       : "")};
+            const std::string_view pak = r.Shoda    ? TAH_NA_MIRE
+                                         : r.SMirou ? TAH_K_MIRE
+                                                    : TAH_NA_MISTO;
+            return {r.Odecet + std::string(pak), ""};
         }
+        case Co::ZvolNastroj:
+            return {"Zvol nástroj pro další krok.", std::string(r.ZasunNacrt ? ZASUN_NACRT : "")};
+        case Co::Kresli:
+            return {JakKreslit(r.Kresleni), std::string(CoPritom(r))};
         default:
             for (const Veta& v : VETY) {
                 if (v.Druh == r.Druh) return {std::string(v.Prvni), std::string(v.Druha)};

@@ -6,6 +6,7 @@
 #include "base/Text.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
+#include "platform/Paleta.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
@@ -22,6 +23,13 @@ namespace {
 // Places of the digits: an arc around the dial, all 35 by 29 px.
 constexpr std::array<Bod, 5> MISTA_CISLIC{
     {{128, 253}, {198, 293}, {198, 370}, {128, 409}, {60, 370}}};
+
+constexpr float PISMO_RADY = 9;  // points
+
+/// What is still missing, by name (first index) and count of examples.
+constexpr const char* CO_DAL[2][2] = {
+    {"Napiš jméno a zvol počet příkladů.", "Ještě napiš své jméno."},
+    {"Ještě zvol počet příkladů.", "Hotovo, stiskni Pokračuj."}};
 
 }  // namespace
 
@@ -42,6 +50,10 @@ SetupForm::SetupForm() {
     Pridej(picPokracuj, "picPokracuj", {526, 457, 94, 23});
     picPokracuj.Visible = false;
     Pridej(picKonec, "picKonec", {546, 5, 91, 75});
+    Pridej(lblCoDal, "lblCoDal", {294, 459, 226, 18});
+    lblCoDal.WordWrap = false;
+    lblCoDal.ForeColor = paleta::INKOUST2;
+    lblCoDal.ProMys = false;
     Image1.Zastavka = 1;
     picKonec.Zastavka = 2;
     for (Image& cislo : ICislo) cislo.Zastavka = 3;
@@ -70,6 +82,13 @@ void SetupForm::Load() {
     ISipka.Picture = sipky_[0];
     PokracujObrazek = NactiObrazek("Bitmap\\games\\pokracbg.bmp");
     picPokracuj.Visible = false;
+    lblCoDal.Font.Velikost = static_cast<float>(PISMO_RADY * meritko);
+    UkazCoDal();
+}
+
+void SetupForm::UkazCoDal() {
+    const bool pocet = std::ranges::any_of(ICislo, Zvoleny);
+    lblCoDal.Caption = CO_DAL[TJmeno.Text.empty() ? 0 : 1][pocet ? 1 : 0];
 }
 
 void SetupForm::Activate() {
@@ -78,6 +97,7 @@ void SetupForm::Activate() {
 
 /// Name and digit there: the continue button rolls in, once; one of them gone: it hides.
 void SetupForm::Kontrola() {
+    UkazCoDal();
     const bool uplne = !TJmeno.Text.empty() && std::ranges::any_of(ICislo, Zvoleny);
     if (!uplne) {
         picPokracuj.Picture = PokracujObrazek;

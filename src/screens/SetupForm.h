@@ -21,7 +21,8 @@ public:
     Image ISipka;                 ///< the dial: an arrow to the chosen digit
     PictureBox picPokracuj;       ///< hidden until name and digit are there
     PictureBox picKonec;
-    Image Image1;  ///< the banner: help
+    Image Image1;    ///< the banner: help
+    Label lblCoDal;  ///< what is still missing before the board can open
 
     void Load() override;
     void Activate() override;
@@ -35,6 +36,7 @@ public:
 
 private:
     void Kontrola();
+    void UkazCoDal();
     void ZvolPocet(std::size_t k);
     void SpustDesku();
     void ZpetDoMenu();

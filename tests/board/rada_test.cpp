@@ -4,6 +4,7 @@
 
 #include <array>
 #include <gtest/gtest.h>
+#include <tuple>
 #include <vector>
 
 #include "platform/Obrazovky.h"
@@ -39,10 +40,12 @@ TEST_F(RadaDesky, NicNeniUriznuto) {
     std::vector<Rada> vse;
     for (int co = 0; co <= static_cast<int>(Rada::Co::Vysledek); ++co) {
         for (int tvar = 1; tvar <= static_cast<int>(Gesto::Tvar::Bod); ++tvar) {
-            for (const std::string bod : {"", "T2"}) {
+            for (const std::string bod : {"", "T2", "Sc"}) {
                 vse.push_back({.Druh = static_cast<Rada::Co>(co),
                                .Kresleni = {static_cast<Gesto::Tvar>(tvar), bod, bod},
                                .ZasunNacrt = tvar % 2 == 0,
+                               .SMirou = bod != "T2",
+                               .Shoda = bod == "Sc",
                                .Zpet = true,
                                .Odecet = bod.empty() ? "" : "123,45 cm",
                                .Priklad = {10, 50, 5, 5, bod.empty()}});
@@ -87,7 +90,9 @@ TEST_F(RadaDesky, VedeOdZnacekAzZaKontrolu) {
               "Napiš velikost do políčka vlevo, potom rýsuj.|"
               "Začni ve středu A, táhni vodorovně a pusť.");
     r.Hra.Napis("12");
-    EXPECT_EQ(Slova(r), "Začni ve středu A, táhni vodorovně a pusť.|");
+    EXPECT_EQ(Slova(r),
+              "Začni ve středu A, táhni vodorovně a pusť.|"
+              "Pusť, až se míra u kurzoru shodne s napsanou.");
     // Beyond the plane's edge, where its own read-out cannot be seen.
     Obrazovky& okna = r.Hra.Host().Okna();
     const Bod roh = r.Hra.Roh(r.Hra.Prvek("Pic"));
@@ -97,6 +102,14 @@ TEST_F(RadaDesky, VedeOdZnacekAzZaKontrolu) {
     EXPECT_EQ(Slova(r), Deska(r).Text.Caption + " – pusť, až bude velikost souhlasit.|");
     okna.MysNahoru(roh.X + r.Prvni.X - 132, roh.Y - 40, 1, 0);
 
+    // Before a press that cannot be taken back; the dead tool says why it is dead.
+    for (const auto& [jmeno, index, co] : {std::tuple{"PicTop", 1, Rada::Co::PodKontrola},
+                                           {"PicTop", 4, Rada::Co::PodOdchod},
+                                           {"cmd", 5, Rada::Co::PodZpet},
+                                           {"cmd", 4, Rada::Co::ZvolNastroj}}) {
+        r.Hra.Najed(jmeno, index);
+        EXPECT_EQ(Deska(r).RadaTed().Druh, co) << jmeno << index;
+    }
     r.Rysuj("zpet kA+ kB").Zkontroluj();
     const VysledekPrikladu v = Deska(r).RadaTed().Priklad;
     EXPECT_EQ(v.Poradi, 1);

@@ -69,6 +69,10 @@ constexpr Podminka PODMINKY[] = {
     {Co::MrtveZpet, JeMrtvy},
     {Co::MrtvaVeta, JeMrtvy},
     {Co::MrtveHodnoty, JeMrtvy},
+    {Co::PodZpet, ZijeZpet},
+    {Co::PodSestroj, [](const DeskaForm& d) { return Zije(d.cmd[SESTROJ]); }},
+    {Co::PodKontrola, [](const DeskaForm& d) { return Zije(d.PicTop[0]) && Zije(d.Pic); }},
+    {Co::PodOdchod, [](const DeskaForm& d) { return Zije(d.PicTop[3]); }},
     {Co::Vysledek,
      [](const DeskaForm& d) {
          return d.ImgHodnoceni.Visible && d.ImgHodnoceni.Enabled != d.RadaTed().Priklad.Bezchybny;
@@ -82,8 +86,8 @@ std::string CoJeVidet(const DeskaForm& d) {
     const Panel& p = v.Krok;
     std::ostringstream s;
     s << int{CisloUlohy} << '|' << PocetUtvaru << '|' << v.NacrtVysunuty << v.Tahne << v.Podlozka
-      << '|' << v.Odecet << '|' << v.MrtvyNastroj << '|' << (p.Kresleni.Druh != Gesto::Tvar::Zadny)
-      << p.PicZiva << p.Nesestrojen << '|';
+      << '|' << v.Odecet << '|' << v.MrtvyNastroj << static_cast<int>(v.Pod) << '|'
+      << (p.Kresleni.Druh != Gesto::Tvar::Zadny) << p.PicZiva << p.Nesestrojen << '|';
     for (const Tlacitko& t : p.cmd) s << t.Tvar << (t.Barevne ? 'b' : 's') << t.Zive << ' ';
     s << '|' << p.lblText1 << '|' << p.lblText2 << '|' << p.lblText3 << '|' << p.lblText4.Text;
     s << '|' << p.txtVstup.Videt << p.txtVstup.Ziva << p.txtVstup.Text;
