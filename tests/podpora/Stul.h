@@ -10,11 +10,11 @@
 
 #include "base/Cesta.h"
 #include "base/Cisla.h"
-#include "engine/PametovaPlocha.h"
 #include "engine/Tabulky.h"
 #include "hrac/Relace.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Prostredi.h"
+#include "podpora/RukaPravidel.h"
 #include "rules/Dialog.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
@@ -53,7 +53,7 @@ struct Pohyb {
 /// the session, two planes in memory, a data root of its own. Calls chain. What a pupil could not
 /// do (a grey button, a line that is not offered) throws.
 template <class D>
-class Stul : public Ruka {
+class Stul : public RukaPravidel {
 public:
     explicit Stul(int uloha) {
         VychoziRelace();
@@ -61,13 +61,6 @@ public:
         CisloUlohy = static_cast<std::uint8_t>(uloha);
         NactiPriklady(Soubor(), DeskaUlohy(uloha));
     }
-
-    [[nodiscard]] const Dialog& Hrany() const override { return dialog; }
-    [[nodiscard]] std::vector<Zadano> Zadani() const override {
-        return CtiZadani(dialog.UkazPanel().lblZadani);
-    }
-    void Posun(int dx, int dy) override { dialog.Posun(dx, dy); }
-    void Zkontroluj() override { dialog.Zkontroluj(); }
 
     /// The task's file now holds this line alone.
     Stul& Radek(std::string_view radek) {
@@ -130,30 +123,20 @@ public:
         return text;
     }
     /// The plane as the pupil sees it.
-    [[nodiscard]] const PametovaPlocha& Obraz() const { return pic_; }
+    [[nodiscard]] const PametovaPlocha& Obraz() const { return Pic(); }
     /// The record of the example.
     [[nodiscard]] const Priklad& Zaznam() const { return Priklady[dialog.CisloPrikladu()]; }
 
 protected:
-    bool StiskNacrtu(Bod b) override {
-        return dialog.StiskNacrtu(static_cast<float>(b.X), static_cast<float>(b.Y));
-    }
-    void StiskNastroje(int i) override { dialog.StiskNastroje(i); }
-    void StiskRadku(int i, std::string_view /*text*/) override { dialog.VyberRadku(i); }
-    void Pis(int ktery, const std::string& text) override { dialog.Napis(ktery, text); }
-    void TahPoPlose(Bod odkud, Bod kam) override {
-        dialog.StiskPlochy(static_cast<float>(odkud.X), static_cast<float>(odkud.Y));
-        if (!dialog.CekaNaKresleni()) return;
-        dialog.PusteniPlochy(static_cast<float>(kam.X), static_cast<float>(kam.Y));
-    }
+    [[nodiscard]] Dialog& Hra() override { return dialog; }
+    [[nodiscard]] const Dialog& Hra() const override { return dialog; }
 
 private:
     [[nodiscard]] std::string Soubor() const { return CestaHD + DveCislice(CisloUlohy) + ".dat"; }
     Relace relace_;
-    PametovaPlocha pic_{SIRKA_PLOCHY, VYSKA_PLOCHY}, hiden_{SIRKA_PLOCHY, VYSKA_PLOCHY};
 
 public:
-    D dialog{Platna{pic_, hiden_}};
+    D dialog{Platna_()};
 };
 
 /// Counts the examples played, by line of the file.
