@@ -10,10 +10,6 @@ namespace rysovna {
 
 namespace {
 
-/// A vertex closer than this to the plane's edge, px, gives way to the other solution.
-constexpr int OKRAJ_PRUSECIKU = 20;
-/// A meeting point of two lines farther from the origin than this, px, counts as none.
-constexpr double DALEKO = 800;
 /// What is added to the meeting point of two lines before it is rounded, px.
 constexpr double PRIRAZKA_PRUSECIKU = 0.2;
 /// What keeps an upright line's slope from a division by zero.

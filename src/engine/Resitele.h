@@ -12,6 +12,11 @@ namespace rysovna {
 // The formulas carry small biases (0.001, 0.2, half a pixel of rounding offset) on which both the
 // picture and the expected answers rest. They are not to be replaced by cleaner ones.
 
+/// A vertex closer than this to the plane's edge, px, gives way to the other solution.
+constexpr int OKRAJ_PRUSECIKU = 20;
+/// A meeting point of two lines farther from the origin than this, px, counts as none.
+constexpr double DALEKO = 800;
+
 /// The arc cosine, radians. BEZ where x is beyond -1 to 1; 0 for x = 1 and, on purpose, for
 /// x = -1 too.
 double Arccos(double x);

@@ -42,7 +42,6 @@ constexpr int CHYBA_PAPRSEK_PRVEK = 49;
 // These boards' own spelling for a perpendicular and a parallel.
 constexpr std::string_view TRI_BODY_PRIMKY = " - 3 body";
 
-constexpr int SIRKA_SEZNAMU = 200;  // px
 constexpr int STRAN_TROJUHELNIKU = 3;
 
 }  // namespace
@@ -98,7 +97,7 @@ void DialogCtyruhelnikuVrchol::NabidniDalsi(int i) {
     const Nastroj& n = Nastroje()[static_cast<std::size_t>(i - 1)];
     Upravit().ZvolenyUtvar = n.Druh;
     std::vector<RadekSeznamu> radky = (this->*n.Radky)();
-    if (!radky.empty()) OtevriSeznam(SIRKA_SEZNAMU, std::move(radky));
+    if (!radky.empty()) OtevriSeznam(Seznam::SIRKA_SIROKEHO, std::move(radky));
 }
 
 std::vector<RadekSeznamu> DialogCtyruhelnikuVrchol::Paprsky() const {

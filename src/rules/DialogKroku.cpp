@@ -11,7 +11,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int NASTROJ_ZPET = 5;
 constexpr std::array<int, 6> TVARY_UTVARU = {3, 4, 5, 6, 12, 0};
 
 // Where a unit stands behind its prompt, px.

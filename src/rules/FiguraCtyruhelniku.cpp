@@ -19,9 +19,6 @@ namespace {
 
 // Where the starting triangle is drawn.
 constexpr Bod PRVNI_VRCHOL{150, 210};
-// The same rule as for the meeting of two circles: a vertex closer to the edge gives way, px.
-constexpr int OKRAJ = 20;
-constexpr int DALEKO = 800;                  // px from the origin, beyond it there is no triangle
 constexpr double NEJDELSI = 1e5;             // px that a typed length may make at all
 constexpr double DALEKO_PO_PAPRSKU = 10000;  // px, so that rounding does not bend the ray
 
@@ -59,8 +56,8 @@ std::optional<std::array<Bod, 3>> SpocitejTrojuhelnik(const Plane& plocha, std::
         const double uhel = hodnoty[2] * PI / STUPNU_PULOTACKY;
         const double dolu = p2.Y + b * std::sin(uhel);
         const double x = p2.X - b * std::cos(uhel);
-        const bool dole = x > OKRAJ && x < plocha.Width() - OKRAJ && dolu > OKRAJ &&
-                          dolu < plocha.Height() - OKRAJ;
+        const bool dole = x > OKRAJ_PRUSECIKU && x < plocha.Width() - OKRAJ_PRUSECIKU &&
+                          dolu > OKRAJ_PRUSECIKU && dolu < plocha.Height() - OKRAJ_PRUSECIKU;
         Utvar paprsek;
         paprsek.Druh = POLOPRIMKA;
         paprsek.X1 = p2.X;
@@ -82,7 +79,7 @@ bool VejdouSe(const Plane& plocha, std::span<const Bod> body) {
     const auto vSmeru = [body](int Bod::*os, int rozmer) {
         for (int d = -NEJDAL_POSUNU; d <= NEJDAL_POSUNU; d += KROK_POSUNU) {
             if (std::ranges::all_of(body, [=](const Bod& b) {
-                    return b.*os + d >= OKRAJ && b.*os + d < rozmer - OKRAJ;
+                    return b.*os + d >= OKRAJ_PRUSECIKU && b.*os + d < rozmer - OKRAJ_PRUSECIKU;
                 })) {
                 return true;
             }

@@ -10,6 +10,9 @@
 
 namespace rysovna {
 
+/// The step button that takes a step back, on every board, and its face.
+constexpr int NASTROJ_ZPET = 5, TVAR_ZPET = 12;
+
 /// A step button as it is shown. The face and whether it can be pressed are two things: after the
 /// check the buttons keep their live faces and cannot be pressed.
 struct Tlacitko {
@@ -31,6 +34,7 @@ struct RadekSeznamu {
 /// The pick list of the step dialogue.
 struct Seznam {
     static constexpr int VYSKA_RADKU = 20, OKRAJ = 4;  ///< px; the edge is that of both sides
+    static constexpr int SIRKA_SIROKEHO = 200;         ///< px, where a line is a whole phrase
     bool Otevreny = false;
     int Sirka = 105, Vyska = 64;  ///< px
     int SirkaRadku = 101;         ///< px

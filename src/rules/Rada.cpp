@@ -7,7 +7,7 @@ namespace rysovna {
 namespace {
 
 // Faces of the step buttons that do not begin with a choice of an object.
-constexpr int TVAR_ZPET = 12, TVAR_VETA = 13, TVAR_HODNOTY = 14;
+constexpr int TVAR_VETA = 13, TVAR_HODNOTY = 14;
 
 bool JeZivy(const Panel& p, int tvar) {
     return std::ranges::any_of(p.cmd,

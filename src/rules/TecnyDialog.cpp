@@ -16,10 +16,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int NASTROJ_ZPET = 5;
-
-constexpr int SIRKA_SEZNAMU = 200;  // px
-
 bool JePrima(const Utvar& u) {
     return u.Druh == USECKA || u.Druh == PRIMKA || u.Druh == KOLMICE || u.Druh == ROVNOBEZKA;
 }
@@ -215,7 +211,7 @@ void TecnyDialog::OtevriSeznam(std::vector<RadekSeznamu> radky) {
         stav_.CekaNaKresleni = true;
         return;
     }
-    stav_.Combo = Seznam::SRadky(SIRKA_SEZNAMU, std::move(radky));
+    stav_.Combo = Seznam::SRadky(Seznam::SIRKA_SIROKEHO, std::move(radky));
 }
 
 /// Perpendicular and parallel: the bases that there are.

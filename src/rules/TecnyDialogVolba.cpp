@@ -16,9 +16,6 @@ namespace {
 constexpr std::string_view VYZVA_STRED = "Zvol kliknutím na kreslící ploše střed úsečky.";
 constexpr std::string_view VYZVA_HOTOVO = "Proveď kontrolu hotové konstrukce.";
 
-constexpr int TVAR_ZPET = 12;
-constexpr std::size_t ZPET = 4;
-
 constexpr int SIRKA_ZNAKU = 7;  // px that a longer name pushes the sign of a perpendicular
 
 }  // namespace
@@ -126,7 +123,7 @@ std::array<Tlacitko, 6> TecnyDialog::Tlacitka(const Cviceni& c) const {
     const bool mrtve = stav_.Zpatky && !zaKoncem && krok.MrtveZpet &&
                        std::ranges::none_of(minulost_, &Minulost::Cizi);
     const bool zpet = stav_.Faze > 1 && !stav_.Skontrolovano && !mrtve && (!vRuce || Znaci());
-    cmd[ZPET] = {TVAR_ZPET, zpet, zpet};
+    cmd[NASTROJ_ZPET - 1] = {TVAR_ZPET, zpet, zpet};
     return cmd;
 }
 

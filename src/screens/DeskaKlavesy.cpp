@@ -16,7 +16,6 @@ namespace {
 
 constexpr int SHIFT = 1;
 constexpr int KROK_S_SHIFTEM = 10;     // px of the cross
-constexpr int ZPET = 5;                // step button that takes a step back
 constexpr int PRVNI_POD_HODNOTOU = 5;  // of the step buttons, those below the box for a value
 constexpr int OKRAJ_PLOCHY = 4;        // px, so that the ring leaves the arrows out
 constexpr int POD_RADKEM = 5;          // px, so that the ring leaves the next line out
@@ -80,7 +79,7 @@ Ovladac* DeskaForm::PrvniZastavka() {
     poradi.push_back(&txtVstup);
     poradi.push_back(&Pic);
     for (PictureBox& c : cmd) {
-        if (c.Index != ZPET) poradi.push_back(&c);
+        if (c.Index != NASTROJ_ZPET) poradi.push_back(&c);
     }
     poradi.push_back(&picPokracuj);
     if (Pic.Enabled) poradi.push_back(&SamplePic);

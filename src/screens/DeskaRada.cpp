@@ -52,7 +52,7 @@ void DeskaForm::UkazatelNad(const Ovladac* o) {
         const Ovladac* Co;
         Pod Pod_;
     };
-    const Hrozba hrozby[] = {{&cmd[4], Pod::Zpet},
+    const Hrozba hrozby[] = {{&cmd[NASTROJ_ZPET - 1], Pod::Zpet},
                              {&cmd[5], Pod::Sestroj},
                              {&PicTop[0], Pod::Kontrola},
                              {&PicTop[3], Pod::Odchod}};

@@ -51,8 +51,8 @@ void RukaNaDesce::Klepni(std::string_view jmeno, int index, int dx, int dy) {
 }
 
 void RukaNaDesce::StiskNastroje(int i) {
-    constexpr int ZPET = 5;  // there the second press is one more step back
-    if (i == ZPET) return relace_.Stiskni("cmd", i);
+    // There the second press is one more step back.
+    if (i == NASTROJ_ZPET) return relace_.Stiskni("cmd", i);
     Klepni("cmd", i);
 }
 
