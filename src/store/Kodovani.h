@@ -11,7 +11,7 @@
 
 namespace rysovna {
 
-// Line coding, code page, and files read and written whole. Paths are real ones.
+// Line coding, code page, and files read whole. Paths are real ones.
 
 /// How a line ends in every file that the program writes.
 constexpr std::string_view KONEC_RADKU = "\r\n";
@@ -55,16 +55,13 @@ template <std::size_t N>
     return pole;
 }
 
-/// Reads a file into lines. One that cannot be read is a fault, and so is one of more than nejvyse
+/// Reads a file whole. One that cannot be read is a fault, and so is one of more than nejvyse
 /// bytes.
+[[nodiscard]] std::string CtiVse(const std::filesystem::path& soubor,
+                                 std::size_t nejvyse = std::numeric_limits<std::size_t>::max());
+/// The same by lines.
 [[nodiscard]] std::vector<std::string> CtiRadky(
     const std::filesystem::path& soubor,
     std::size_t nejvyse = std::numeric_limits<std::size_t>::max());
-
-/// Rewrites a file that exists or not: written beside and renamed over, so that it is the old one
-/// or the new one and never half. Owner, group and rights stay. Where no file may be made beside
-/// it, or none of that owner and group, it is written over in place, its growth first, so that a
-/// full disk leaves the old content. Any failure is a fault.
-void PrepisSoubor(const std::filesystem::path& soubor, std::string_view obsah);
 
 }  // namespace rysovna

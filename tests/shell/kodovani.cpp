@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <map>
 
+#include "Prepis.h"
 #include "shell/soubory_pomoc.h"
 
 namespace rysovna::testy {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Kontrola.h"
+#include "Prepis.h"
 #include "Prevod.h"
 #include "base/Chyba.h"
 #include "store/Kodovani.h"

@@ -1,0 +1,144 @@
+#include "Prepis.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <fstream>
+#include <ios>
+#include <string>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+#include "base/Chyba.h"
+#include "store/Kodovani.h"
+
+namespace rysovna {
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void NelzeZapsat(const fs::path& soubor) {
+    throw BehovaChyba("Do souboru nelze zapsat", soubor.string());
+}
+
+/// Unbuffered, so that one call writes all at once and its failure is seen there.
+template <class Proud>
+Proud Otevri(const fs::path& soubor, std::ios::openmode jak) {
+    Proud proud;
+    proud.rdbuf()->pubsetbuf(nullptr, 0);
+    proud.open(soubor, jak | std::ios::binary);
+    return proud;
+}
+
+bool Zapis(std::ostream& kam, std::string_view obsah) {
+    return static_cast<bool>(
+        kam.write(obsah.data(), static_cast<std::streamsize>(obsah.size())).flush());
+}
+
+/// A file or folder by its descriptor, for what streams cannot do.
+class Popisovac {
+public:
+    explicit Popisovac(const fs::path& co) : cislo_(::open(co.c_str(), O_RDONLY | O_CLOEXEC)) {}
+    ~Popisovac() {
+        if (cislo_ >= 0) ::close(cislo_);
+    }
+    Popisovac(const Popisovac&) = delete;
+    Popisovac& operator=(const Popisovac&) = delete;
+
+    /// Waits until all that was written is on the disk. One that cannot be waited for is no fault.
+    [[nodiscard]] bool NaDisk() const {
+        return cislo_ >= 0 && (::fsync(cislo_) == 0 || errno == EINVAL);
+    }
+
+    /// Owner, group and rights as those of another file; false if owner or group may not be so.
+    [[nodiscard]] bool PrevezmiPrava(const fs::path& od) const {
+        struct stat jeho {};
+        struct stat moje {};
+        if (cislo_ < 0 || ::stat(od.c_str(), &jeho) != 0 || ::fstat(cislo_, &moje) != 0)
+            return false;
+        const bool jinak = jeho.st_uid != moje.st_uid || jeho.st_gid != moje.st_gid;
+        if (jinak && ::fchown(cislo_, jeho.st_uid, jeho.st_gid) != 0) return false;
+        constexpr mode_t PRAVA = 07777;
+        return ::fchmod(cislo_, jeho.st_mode & PRAVA) == 0;
+    }
+
+private:
+    int cislo_;
+};
+
+/// Writes over a file that has this content: first what grows it, then the rest, then cuts it.
+bool PrepisNaMiste(const fs::path& soubor, const std::string& stary, std::string_view novy) {
+    auto proud = Otevri<std::fstream>(soubor, std::ios::in | std::ios::out);
+    if (!proud) return false;
+    std::error_code nevadi;
+    if (novy.size() > stary.size()) {
+        proud.seekp(static_cast<std::streamoff>(stary.size()));
+        if (!Zapis(proud, novy.substr(stary.size()))) {
+            proud.close();
+            fs::resize_file(soubor, stary.size(), nevadi);
+            return false;
+        }
+    }
+    proud.seekp(0);
+    if (!Zapis(proud, novy.substr(0, stary.size()))) {
+        proud.clear();
+        proud.seekp(0);
+        Zapis(proud, stary);
+        proud.close();
+        fs::resize_file(soubor, stary.size(), nevadi);
+        return false;
+    }
+    proud.close();
+    if (novy.size() < stary.size()) {
+        std::error_code chyba;
+        fs::resize_file(soubor, novy.size(), chyba);
+        if (chyba) return false;
+    }
+    // All is written: a disk that cannot be waited for changes nothing about it.
+    (void)Popisovac(soubor).NaDisk();
+    return true;
+}
+
+}  // namespace
+
+void PrepisSoubor(const fs::path& soubor, std::string_view obsah) {
+    std::error_code chyba;
+    // What is written is the file itself, not a link that leads to it.
+    fs::path cil = fs::weakly_canonical(soubor, chyba);
+    if (chyba) cil = soubor;
+    const bool jeTu = fs::exists(cil, chyba);
+    if (jeTu && !Otevri<std::fstream>(cil, std::ios::in | std::ios::out)) {
+        NelzeZapsat(soubor);
+    }
+
+    fs::path vedle = cil;
+    vedle += ".nove";
+    auto proud = Otevri<std::ofstream>(vedle, std::ios::out | std::ios::trunc);
+    if (!proud) {
+        if (!jeTu || !PrepisNaMiste(cil, CtiVse(cil), obsah)) NelzeZapsat(soubor);
+        return;
+    }
+    bool zapsano = Zapis(proud, obsah);
+    proud.close();
+    zapsano = zapsano && !proud.fail();
+    if (zapsano) {
+        const Popisovac novy(vedle);
+        zapsano = novy.NaDisk();
+        // A table that several pupils' accounts share stays theirs: one that only its owner may
+        // replace is written over in place. Until that is done, the copy beside it stays.
+        if (zapsano && jeTu && !novy.PrevezmiPrava(cil)) {
+            zapsano = PrepisNaMiste(cil, CtiVse(cil), obsah);
+            fs::remove(vedle, chyba);
+        } else if (zapsano) {
+            fs::rename(vedle, cil, chyba);
+            zapsano = !chyba;
+            if (zapsano) (void)Popisovac(cil.parent_path()).NaDisk();
+        }
+    }
+    if (!zapsano) {
+        fs::remove(vedle, chyba);
+        NelzeZapsat(soubor);
+    }
+}
+
+}  // namespace rysovna
