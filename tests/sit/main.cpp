@@ -217,22 +217,25 @@ std::vector<Hrani> Zpusoby(const std::string& text) {
 }
 
 constexpr const char* POUZITI =
-    "Použití: sit hraj ÚLOHY SEMÍNKA [ZPŮSOB]\n"
+    "Použití: sit hraj ÚLOHY SEMÍNKA [ZPŮSOB [640x480]]\n"
     "         sit obraz ÚLOHA SEMÍNKO ZPŮSOB ČÍSLO_UDÁLOSTI CO SOUBOR.png\n"
     "         sit rozdil A.png B.png KAM.png\n"
     "ÚLOHY a SEMÍNKA: 1-20, 1,4,9-11. ZPŮSOB: mysi, klavesami, prstem; s -spravne nebo -nedbale\n"
-    "jen jedno z obojího. CO: 640x480, 1920x1080, Pic, HidenPic.\n";
+    "jen jedno z obojího. CO: 640x480, 1920x1080, Pic, HidenPic. S 640x480 na konci se velký\n"
+    "obraz nemaluje.\n";
 
 int Spust(const std::vector<std::string>& a) {
     const std::string co = a.empty() ? "" : a[0];
-    if (co == "hraj" && (a.size() == 3 || a.size() == 4)) {
+    if (co == "hraj" && a.size() >= 3 && a.size() <= 5) {
+        // Of a picture that is no event's only the size counts.
+        const auto jenom = a.size() == 5 ? std::optional(Prani{0, a[4], ""}) : std::nullopt;
         std::cout << VERZE << '\n';
         for (const int uloha : Cisla(a[1])) {
             for (const int seminko : Cisla(a[2])) {
-                for (Hrani h : Zpusoby(a.size() == 4 ? a[3] : "mysi")) {
+                for (Hrani h : Zpusoby(a.size() > 3 ? a[3] : "mysi")) {
                     h.Uloha = uloha;
                     h.Seminko = static_cast<std::uint32_t>(seminko);
-                    Odehraj(h, std::cout);
+                    Odehraj(h, std::cout, jenom);
                 }
             }
         }
