@@ -31,6 +31,9 @@ displej() {
     DISPLAY=":$(cat "$prace/cislo")"
     export DISPLAY
     [ "$DISPLAY" != ":" ] || selhani "Xvfb se nespustil"
+    # A keyboard that has the Czech letters: a letter that it lacks would get a key for a moment
+    # alone, and a busy program reads it too late.
+    setxkbmap -layout cz -variant ucw
 }
 
 # A display, and on it the game with no results in it, in a full-screen window.

@@ -132,17 +132,22 @@ void Relace::Zapis(const std::string& udalost) {
 }
 
 void Relace::Pohyb(double x, double y, int tlacitka) {
-    Zapis("mys " + std::to_string(Zaokrouhli(x)) + " " + std::to_string(Zaokrouhli(y)));
+    const std::string co =
+        "mys " + std::to_string(Zaokrouhli(x)) + " " + std::to_string(Zaokrouhli(y));
+    Zapis(co);
     host_.Okna().MysPohyb(x, y, tlacitka, 0);
+    Po(co);
 }
 
 void Relace::Stisk(double x, double y, bool dolu) {
-    Zapis(dolu ? "dolu" : "nahoru");
+    const std::string co = dolu ? "dolu" : "nahoru";
+    Zapis(co);
     if (dolu) {
         host_.Okna().MysDolu(x, y, 1, 0);
     } else {
         host_.Okna().MysNahoru(x, y, 1, 0);
     }
+    Po(co);
 }
 
 void Relace::StiskniMisto(double x, double y) {
@@ -198,6 +203,7 @@ void Relace::Napis(std::string_view text) {
         const std::string pismeno = ZeZnaku({&znak, 1});
         Zapis("text " + pismeno);
         host_.Okna().Text(pismeno);
+        Po("text " + pismeno);
     }
 }
 
@@ -213,13 +219,16 @@ void Relace::Prepis(std::string_view jmeno, std::string_view text) {
 }
 
 void Relace::Klavesa(std::string_view klavesa, int shift) {
-    Zapis("klavesa " + std::string(klavesa) + " " + std::to_string(shift));
+    const std::string co = "klavesa " + std::string(klavesa) + " " + std::to_string(shift);
+    Zapis(co);
     host_.Okna().Klavesa(klavesa, shift);
+    Po(co);
 }
 
 void Relace::Cekej(std::uint32_t ms) {
     const std::uint32_t konec = host_.TickCount() + ms;
     while (host_.TickCount() < konec) host_.DoEvents(konec - host_.TickCount());
+    Po("cekej " + std::to_string(ms));
 }
 
 std::string Relace::CtiSoubor(const std::string& soubor) const {

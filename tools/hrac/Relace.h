@@ -2,9 +2,11 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/Bod.h"
@@ -94,6 +96,8 @@ public:
     /// "dolu", "nahoru", "text Ž", "klavesa Return 0", and "cekej MS" before what came so much
     /// later. The real window can be driven by it. The stream must live as long as the session.
     void Zaznamenavej(std::ostream& kam) { zaznam_ = &kam; }
+    /// From now on is called after each of these events, and each wait, was carried out.
+    void Sleduj(std::function<void(std::string_view udalost)> po) { po_ = std::move(po); }
     /// A line of one's own among the events.
     void Poznamenej(const std::string& co) { Zapis(co); }
 
@@ -109,6 +113,9 @@ private:
     void Pohyb(double x, double y, int tlacitka);
     void Stisk(double x, double y, bool dolu);
     void Zapis(const std::string& udalost);
+    void Po(std::string_view udalost) const {
+        if (po_) po_(udalost);
+    }
     // RelaceKlavesami.cpp
     void StiskniKlavesami(std::string_view jmeno, int index, int dx, int dy);
     void TahniKlavesami(std::string_view jmeno, Bod odkud, Bod kam);
@@ -131,6 +138,7 @@ private:
     std::size_t slysenych_ = 0;
     std::ostream* zaznam_ = nullptr;
     std::uint32_t zapsano_ = 0;  ///< the time of the last event that was written down
+    std::function<void(std::string_view)> po_;
 };
 
 }  // namespace rysovna::hrac

@@ -44,7 +44,9 @@ const Obrazovky::Ohlas* NajdiOhlas(const std::vector<Obrazovky::Ohlas>& ohlasy,
 }  // namespace
 
 void Relace::Prst(std::string_view co, Bod kde) {
-    Zapis("prst " + std::string(co) + " " + std::to_string(kde.X) + " " + std::to_string(kde.Y));
+    const std::string udalost =
+        "prst " + std::string(co) + " " + std::to_string(kde.X) + " " + std::to_string(kde.Y);
+    Zapis(udalost);
     Obrazovky& okna = host_.Okna();
     const std::uint32_t ted = host_.TickCount();
     const auto x = static_cast<double>(kde.X);
@@ -56,6 +58,7 @@ void Relace::Prst(std::string_view co, Bod kde) {
     } else {
         okna.PrstPohyb(x, y, ted);
     }
+    Po(udalost);
 }
 
 /// Before a tap: one that follows at once is the second of a double one.

@@ -136,6 +136,7 @@ void ZakCtyruhelniku::Trojuhelnik() {
     ruka_.Nastroj(1).Vyber(t->Trojuhelnik);
     ruka_.Nastroj(2).Vyber(t->Veta);
     const auto radky = ruka_.Hrany().UkazPanel().Vstupy;
+    if (radky.size() != t->Veliciny.size()) throw NejdeUdelat("hodnoty není kam napsat");
     std::vector<std::size_t> poradi = {0, 1, 2};
     los_.Zamichej(poradi);
     for (const std::size_t i : poradi) {
@@ -286,7 +287,11 @@ void DokonalyRovnobeznik::Obrazy() {
     while (!ruka_.Hrany().Hotova()) {
         ruka_.Nastroj(2);
         // "hledaný bod D je obrazem vrcholu A": the pupil sees which point is looked for.
-        const std::string radek = ruka_.Hrany().UkazPanel().Combo.Radky.back().Text;
+        const auto seznam = ruka_.Hrany().UkazPanel().Combo.Radky;
+        if (seznam.empty() || !seznam.back().Text.starts_with(UVOD)) {
+            throw NejdeUdelat("obrazy se nenabízejí");
+        }
+        const std::string radek = seznam.back().Text;
         const char pres = "CDAB"[radek[UVOD.size()] - 'A'];
         const int pred = Dialogem().Stav().Faze;
         ruka_.Vyber(radek.substr(0, radek.size() - 1) + pres).Klikni(Nekam());
