@@ -8,8 +8,8 @@
 #include "base/Cisla.h"
 #include "platform/Ovladace.h"
 #include "platform/SurfaceVnitrek.h"
-#include "shell/Misc.h"
-#include "shell/Zaznamy.h"
+#include "rules/Misc.h"
+#include "rules/Zaznamy.h"
 #include "sit/Otisk.h"
 
 namespace rysovna::sit {

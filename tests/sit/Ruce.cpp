@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <utility>
 
-#include "board/DialogKroku.h"
-#include "tasks/TecnyDialog.h"
+#include "rules/DialogKroku.h"
+#include "rules/TecnyDialog.h"
 
 namespace rysovna::sit {
 

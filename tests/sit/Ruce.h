@@ -7,8 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "hrac/Los.h"
-#include "hrac/Ruka.h"
+#include "hrac/RukaNaDesce.h"
+#include "zak/Los.h"
+#include "zak/Ruka.h"
 
 namespace rysovna::sit {
 

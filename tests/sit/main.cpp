@@ -12,12 +12,13 @@
 
 #include "base/Cisla.h"
 #include "hrac/Serie.h"
-#include "shell/Misc.h"
-#include "shell/Ulohy.h"
+#include "rules/Misc.h"
+#include "rules/Ulohy.h"
+#include "screens/Desky.h"
+#include "screens/VyrobaDesek.h"
 #include "sit/Obrazy.h"
 #include "sit/Pozorovatel.h"
 #include "sit/Ruce.h"
-#include "tasks/Desky.h"
 
 namespace rysovna::sit {
 namespace {
