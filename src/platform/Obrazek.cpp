@@ -4,8 +4,8 @@
 #include <cairo.h>
 #include <map>
 
-#include "base/Cesta.h"
 #include "base/Chyba.h"
+#include "platform/Cesta.h"
 #include "platform/Host.h"
 #include "platform/ObrazekData.h"
 

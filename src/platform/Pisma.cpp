@@ -10,9 +10,9 @@
 #include FT_FREETYPE_H
 #include FT_OUTLINE_H
 
-#include "base/Cesta.h"
 #include "base/Chyba.h"
 #include "base/Text.h"
+#include "platform/Cesta.h"
 #include "platform/Host.h"
 #include "platform/Sazba.h"
 #include "platform/Surface.h"

@@ -11,7 +11,7 @@
 #include <sys/statvfs.h>
 #include <unistd.h>
 
-#include "base/Cesta.h"
+#include "platform/Cesta.h"
 #include "platform/Host.h"
 
 namespace rysovna {

@@ -159,7 +159,8 @@ void DeskaForm::Load() {
     KladneBody = ZaporneBody = 0;
     zbyvaPrikladu_ = PocetPrikladuSerie;
     dialog_ = VyrobDialog({Pic.Plocha(), HidenPic.Plocha()});
-    NactiPriklady(CestaHD + DveCislice(CisloUlohy) + ".dat", DeskaUlohy(CisloUlohy));
+    NactiPriklady(Stroj().Disk(), CestaHD + DveCislice(CisloUlohy) + ".dat",
+                  DeskaUlohy(CisloUlohy));
     dialog_->NovyPriklad();
     NoveZadani();
     PolozKlidnyPanel();

@@ -4,9 +4,9 @@
 #include <exception>
 #include <ostream>
 
-#include "base/Cesta.h"
 #include "base/Chyba.h"
 #include "base/Cisla.h"
+#include "platform/Cesta.h"
 #include "platform/Host.h"
 #include "platform/Overeni.h"
 #include "rules/Misc.h"
@@ -31,11 +31,11 @@ void Zkus(std::vector<Nalez>& nalezy, const std::string& co, Nalez::Jak jinak, P
     }
 }
 
-void ZkontrolujData(const std::string& slozka, std::vector<Nalez>& nalezy) {
+void ZkontrolujData(Disk& disk, const std::string& slozka, std::vector<Nalez>& nalezy) {
     std::size_t vadnych = 0;
     const auto zkus = [&](const std::string& jmeno, auto&& pohled) {
         std::vector<Nalez> jeden;
-        Zkus(jeden, "Data " + NativniCesta(slozka + jmeno).filename().string(), Chyba,
+        Zkus(jeden, "Data " + disk.Skutecna(slozka + jmeno).filename().string(), Chyba,
              [&] { return pohled(slozka + jmeno), std::string(); });
         if (jeden.front().Stav == VPoradku) return;
         ++vadnych;
@@ -43,16 +43,16 @@ void ZkontrolujData(const std::string& slozka, std::vector<Nalez>& nalezy) {
     };
     for (const Uloha& uloha : ULOHY) {
         zkus(DveCislice(uloha.Cislo) + ".dat",
-             [&](const std::string& soubor) { NactiPriklady(soubor, uloha.deska); });
+             [&](const std::string& soubor) { NactiPriklady(disk, soubor, uloha.deska); });
     }
-    zkus("Znamky.dat", [](const std::string& soubor) {
-        NactiZnamky(soubor);
+    zkus("Znamky.dat", [&](const std::string& soubor) {
+        NactiZnamky(disk, soubor);
         if (ZnamkyTab[1] == RadekZnamek{})
-            throw BehovaChyba("V souboru není žádná známka", NativniCesta(soubor).string());
+            throw BehovaChyba("V souboru není žádná známka", disk.Skutecna(soubor).string());
     });
-    zkus("Errors.dat", [](const std::string& soubor) {
-        if (PocetVet(soubor) == 0)
-            throw BehovaChyba("V souboru není žádná věta", NativniCesta(soubor).string());
+    zkus("Errors.dat", [&](const std::string& soubor) {
+        if (PocetVet(disk, soubor) == 0)
+            throw BehovaChyba("V souboru není žádná věta", disk.Skutecna(soubor).string());
     });
     if (vadnych == 0)
         nalezy.push_back({VPoradku, "Data", "souborů: " + std::to_string(JmenaDat().size())});
@@ -91,7 +91,7 @@ void ZkontrolujAssety(const std::string& slozka, std::vector<Nalez>& nalezy) {
 
 std::vector<Nalez> ZkontrolujPocitac(const KontrolovanyStroj& stroj) {
     std::vector<Nalez> nalezy;
-    const Cesty cesty = CtiCesty(stroj.SlozkaNastaveni, stroj.SlozkaDat);
+    const Cesty cesty = CtiCesty(stroj.disk, stroj.SlozkaNastaveni, stroj.SlozkaDat);
     CestaCD = cesty.CD;
     CestaHD = cesty.HD;
     CestaVysledku = cesty.Vysledky;
@@ -103,7 +103,7 @@ std::vector<Nalez> ZkontrolujPocitac(const KontrolovanyStroj& stroj) {
     // The game is silent without it and nothing else.
     Zkus(nalezy, "Zvukové zařízení", Pozor, stroj.Zvuk);
     if (!cesty.CD.empty()) ZkontrolujAssety(cesty.CD, nalezy);
-    if (!cesty.HD.empty()) ZkontrolujData(cesty.HD, nalezy);
+    if (!cesty.HD.empty()) ZkontrolujData(stroj.disk, cesty.HD, nalezy);
     if (!cesty.Vysledky.empty() || cesty.Oddelene) ZkontrolujVysledky(stroj, cesty, nalezy);
     return nalezy;
 }

@@ -1,7 +1,7 @@
 #include "screens/Spolecne.h"
 
-#include "base/Cesta.h"
 #include "base/Cisla.h"
+#include "platform/Cesta.h"
 #include "platform/Form.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"

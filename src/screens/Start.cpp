@@ -5,7 +5,7 @@
 #include <iostream>
 #include <string>
 
-#include "base/Cesta.h"
+#include "platform/Cesta.h"
 #include "platform/Host.h"
 #include "platform/Surface.h"
 #include "rules/Chyby.h"
@@ -75,7 +75,7 @@ bool NactiKonfiguraci() {
     AdresarSystemu = SeZpetnymLomitkem(std::move(adresar));
     DiskSystemu = AdresarSystemu.substr(0, 3);
 
-    const Cesty cesty = CtiCesty(AdresarSystemu, stroj.SlozkaDat());
+    const Cesty cesty = CtiCesty(stroj.Disk(), AdresarSystemu, stroj.SlozkaDat());
     CestaCD = cesty.CD;
     CestaHD = cesty.HD;
     CestaVysledku = cesty.Vysledky;
@@ -97,8 +97,8 @@ bool NactiKonfiguraci() {
         stroj.MsgBox(CHYBI_DATA, "Chyba", Styl::Stop);
         return false;
     }
-    NactiZnamky(CestaHD + "Znamky.dat");
-    NastavVety([](int cislo) { return CtiVety(CestaHD + "Errors.dat", cislo); });
+    NactiZnamky(stroj.Disk(), CestaHD + "Znamky.dat");
+    NastavVety([](int cislo) { return CtiVety(Stroj().Disk(), CestaHD + "Errors.dat", cislo); });
     Generator.Zasej(stroj.Seminko());
     const std::string zprava = Vysledky().ZkusCekajici();
     if (!zprava.empty()) stroj.MsgBox(zprava, "Upozornění", Styl::Ok);

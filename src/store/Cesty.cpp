@@ -1,10 +1,7 @@
 #include "store/Cesty.h"
 
 #include <cctype>
-#include <fstream>
-#include <iterator>
 
-#include "base/Cesta.h"
 #include "base/Cisla.h"
 #include "rules/Ulohy.h"
 #include "store/Ini.h"
@@ -37,6 +34,15 @@ std::string CestaZIni(std::string_view obsah, std::string_view klic, const std::
     return JeAbsolutni(cesta) ? cesta : adresar + cesta;
 }
 
+/// The content of a file; nothing where it cannot be read.
+std::string CtiNeboNic(Disk& disk, const std::filesystem::path& soubor) {
+    try {
+        return disk.Otevri(soubor, Disk::Jak::Cteni)->Cti();
+    } catch (const ChybaDisku&) {
+        return {};
+    }
+}
+
 }  // namespace
 
 std::string SeZpetnymLomitkem(std::string cesta) {
@@ -49,11 +55,9 @@ std::string SlozkaSLomitkem(const std::filesystem::path& slozka) {
     return slozka.empty() ? std::string() : SeZpetnymLomitkem(slozka.string());
 }
 
-Cesty CtiCesty(const std::string& slozka, const std::filesystem::path& slozkaUctu) {
+Cesty CtiCesty(Disk& disk, const std::string& slozka, const std::filesystem::path& slozkaUctu) {
     const std::string adresar = SeZpetnymLomitkem(slozka);
-    std::ifstream proud(NativniCesta(adresar + std::string(JMENO_INI)), std::ios::binary);
-    const std::string obsah{std::istreambuf_iterator<char>(proud),
-                            std::istreambuf_iterator<char>()};
+    const std::string obsah = CtiNeboNic(disk, disk.Skutecna(adresar + std::string(JMENO_INI)));
     Cesty cesty;
     cesty.CD = CestaZIni(obsah, "CD", adresar);
     cesty.HD = CestaZIni(obsah, "HD", adresar);

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Disk.h"
+
 namespace rysovna {
 
 /// With one final backslash, whichever separator or none it had.
@@ -27,7 +29,8 @@ struct Cesty {
 
 /// Reads Rysovna.ini in a folder. "ucet" as the folder of results is the account's own, slozkaUctu;
 /// a file that cannot be read has no keys.
-[[nodiscard]] Cesty CtiCesty(const std::string& slozka, const std::filesystem::path& slozkaUctu);
+[[nodiscard]] Cesty CtiCesty(Disk& disk, const std::string& slozka,
+                             const std::filesystem::path& slozkaUctu);
 
 /// Files of game data and of results, in the order in which they are looked for.
 [[nodiscard]] std::vector<std::string> JmenaDat();

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <fstream>
-#include <ios>
 
 #include "base/Chyba.h"
 #include "base/Text.h"
@@ -51,11 +49,6 @@ std::optional<unsigned char> BajtZnaku(char32_t znak) {
     return static_cast<unsigned char>(PRVNI_HORNI + (i - HORNI_1250.begin()));
 }
 
-[[noreturn]] void ChybaSouboru(const char* co, const fs::path& soubor) {
-    throw BehovaChyba(co, soubor.string());
-}
-
-constexpr const char* NELZE_CIST = "Soubor nelze přečíst";
 constexpr std::size_t MEGABAJT = 1024 * 1024;
 
 }  // namespace
@@ -141,27 +134,23 @@ std::vector<std::string> NaRadky(std::string_view obsah) {
     return radky;
 }
 
-std::string CtiVse(const fs::path& soubor, std::size_t nejvyse) {
-    std::ifstream proud;
-    proud.rdbuf()->pubsetbuf(nullptr, 0);
-    proud.open(soubor, std::ios::in | std::ios::binary);
-    if (!proud) ChybaSouboru(NELZE_CIST, soubor);
+std::string CtiVse(Disk& disk, const fs::path& soubor, std::size_t nejvyse) {
     std::string obsah;
-    std::array<char, 65536> kus;
-    do {
-        proud.read(kus.data(), kus.size());
-        obsah.append(kus.data(), static_cast<std::size_t>(proud.gcount()));
-        if (obsah.size() > nejvyse) {
-            const std::string mez = std::to_string(nejvyse / MEGABAJT);
-            ChybaSouboru(("Soubor je větší než " + mez + " MB").c_str(), soubor);
-        }
-    } while (proud);
-    if (!proud.eof() || proud.bad()) ChybaSouboru(NELZE_CIST, soubor);
+    try {
+        const std::size_t dost = nejvyse == Soubor::VSE ? nejvyse : nejvyse + 1;
+        obsah = disk.Otevri(soubor, Disk::Jak::Cteni)->Cti(0, dost);
+    } catch (const ChybaDisku&) {
+        throw BehovaChyba("Soubor nelze přečíst", soubor.string());
+    }
+    if (obsah.size() > nejvyse) {
+        const std::string mez = std::to_string(nejvyse / MEGABAJT);
+        throw BehovaChyba("Soubor je větší než " + mez + " MB", soubor.string());
+    }
     return obsah;
 }
 
-std::vector<std::string> CtiRadky(const fs::path& soubor, std::size_t nejvyse) {
-    return NaRadky(CtiVse(soubor, nejvyse));
+std::vector<std::string> CtiRadky(Disk& disk, const fs::path& soubor, std::size_t nejvyse) {
+    return NaRadky(CtiVse(disk, soubor, nejvyse));
 }
 
 }  // namespace rysovna

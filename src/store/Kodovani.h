@@ -3,11 +3,12 @@
 #include <array>
 #include <cstddef>
 #include <filesystem>
-#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "base/Disk.h"
 
 namespace rysovna {
 
@@ -57,11 +58,10 @@ template <std::size_t N>
 
 /// Reads a file whole. One that cannot be read is a fault, and so is one of more than nejvyse
 /// bytes.
-[[nodiscard]] std::string CtiVse(const std::filesystem::path& soubor,
-                                 std::size_t nejvyse = std::numeric_limits<std::size_t>::max());
+[[nodiscard]] std::string CtiVse(Disk& disk, const std::filesystem::path& soubor,
+                                 std::size_t nejvyse = Soubor::VSE);
 /// The same by lines.
-[[nodiscard]] std::vector<std::string> CtiRadky(
-    const std::filesystem::path& soubor,
-    std::size_t nejvyse = std::numeric_limits<std::size_t>::max());
+[[nodiscard]] std::vector<std::string> CtiRadky(Disk& disk, const std::filesystem::path& soubor,
+                                                std::size_t nejvyse = Soubor::VSE);
 
 }  // namespace rysovna

@@ -7,7 +7,6 @@
 #include <filesystem>
 #include <vector>
 
-#include "base/Cesta.h"
 #include "base/Chyba.h"
 #include "base/Cisla.h"
 #include "rules/Misc.h"
@@ -21,8 +20,8 @@ namespace {
 constexpr std::size_t NEJVETSI_DATA = std::size_t{4} * 1024 * 1024;
 
 /// A file of game data by lines.
-std::vector<std::string> CtiData(const std::filesystem::path& cesta) {
-    return CtiRadky(cesta, NEJVETSI_DATA);
+std::vector<std::string> CtiData(Disk& disk, const std::filesystem::path& cesta) {
+    return CtiRadky(disk, cesta, NEJVETSI_DATA);
 }
 
 std::uint8_t BajtZnamky(std::string_view text, const std::string& misto) {
@@ -40,9 +39,9 @@ constexpr int NEJKRATSI_RADEK = 5;  // number, separator, and the last character
 
 /// Calls co(number, decoded line, place) for each line; a number that is none is 0.
 template <class Akce>
-void ProjdiVety(const std::filesystem::path& cesta, Akce&& co) {
+void ProjdiVety(Disk& disk, const std::filesystem::path& cesta, Akce&& co) {
     int i = 0;
-    for (const std::string& ulozeny : CtiData(cesta)) {
+    for (const std::string& ulozeny : CtiData(disk, cesta)) {
         const std::string radek = DekodujRadek(ulozeny);
         const double cislo = Cislo(std::string_view(radek).substr(0, DELKA_CISLA));
         co(cislo, radek, Misto(cesta, ++i));
@@ -57,11 +56,11 @@ std::string Veta(std::string_view radek, const std::string& misto) {
 
 }  // namespace
 
-void NactiZnamky(std::string_view soubor) {
-    const std::filesystem::path cesta = NativniCesta(soubor);
+void NactiZnamky(Disk& disk, std::string_view soubor) {
+    const std::filesystem::path cesta = disk.Skutecna(soubor);
     ZnamkyTab.Smaz();
     int i = 0;
-    for (const std::string& radek : CtiData(cesta)) {
+    for (const std::string& radek : CtiData(disk, cesta)) {
         const std::string misto = Misto(cesta, ++i);
         if (i > decltype(ZnamkyTab)::POSLEDNI) {
             throw BehovaChyba("Tabulka známek má více než 5 řádků", misto);
@@ -73,7 +72,7 @@ void NactiZnamky(std::string_view soubor) {
     }
 }
 
-void NactiPriklady(std::string_view soubor, Deska deska) {
+void NactiPriklady(Disk& disk, std::string_view soubor, Deska deska) {
     const std::span<const Slot> mapa = PoleDesky(deska);
     constexpr int RADKU = decltype(Priklady)::POSLEDNI;
     for (int i = 1; i <= RADKU; ++i) {
@@ -85,8 +84,8 @@ void NactiPriklady(std::string_view soubor, Deska deska) {
     PocetPrikladu = 0;
 
     bool prazdny = true;
-    const std::filesystem::path cesta = NativniCesta(soubor);
-    for (const std::string& ulozeny : CtiData(cesta)) {
+    const std::filesystem::path cesta = disk.Skutecna(soubor);
+    for (const std::string& ulozeny : CtiData(disk, cesta)) {
         const std::string misto = Misto(cesta, PocetPrikladu + 1);
         if (PocetPrikladu == RADKU) {
             throw BehovaChyba("Soubor úlohy má více než 100 řádků", misto);
@@ -105,9 +104,9 @@ void NactiPriklady(std::string_view soubor, Deska deska) {
     if (prazdny) throw BehovaChyba("V souboru úlohy není žádný příklad", cesta.string());
 }
 
-std::vector<std::string> CtiVety(std::string_view soubor, int cislo) {
+std::vector<std::string> CtiVety(Disk& disk, std::string_view soubor, int cislo) {
     std::vector<std::string> vety;
-    ProjdiVety(NativniCesta(soubor),
+    ProjdiVety(disk, disk.Skutecna(soubor),
                [&](double toto, std::string_view veta, const std::string& misto) {
                    if (toto != cislo) return;
                    if (vety.size() == decltype(ChybneKroky)::POSLEDNI)
@@ -117,9 +116,9 @@ std::vector<std::string> CtiVety(std::string_view soubor, int cislo) {
     return vety;
 }
 
-int PocetVet(std::string_view soubor) {
+int PocetVet(Disk& disk, std::string_view soubor) {
     int pocet = 0;
-    ProjdiVety(NativniCesta(soubor),
+    ProjdiVety(disk, disk.Skutecna(soubor),
                [&](double cislo, std::string_view veta, const std::string& misto) {
                    if (cislo == 0) return;
                    static_cast<void>(Veta(veta, misto));

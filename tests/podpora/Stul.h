@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include "base/Cesta.h"
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
 #include "hrac/Relace.h"
+#include "platform/Cesta.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Prostredi.h"
 #include "podpora/RukaPravidel.h"
@@ -59,13 +59,13 @@ public:
         VychoziRelace();
         if (!NactiKonfiguraci()) throw std::runtime_error("bez konfigurace");
         CisloUlohy = static_cast<std::uint8_t>(uloha);
-        NactiPriklady(Soubor(), DeskaUlohy(uloha));
+        NactiPriklady(Disk_(), Soubor(), DeskaUlohy(uloha));
     }
 
     /// The task's file now holds this line alone.
     Stul& Radek(std::string_view radek) {
         relace_.PisSoubor(DveCislice(CisloUlohy) + ".dat", ZakodujRadek(Do1250(radek)) + "\r\n");
-        NactiPriklady(Soubor(), DeskaUlohy(CisloUlohy));
+        NactiPriklady(Disk_(), Soubor(), DeskaUlohy(CisloUlohy));
         return *this;
     }
     /// Plays each line of the task's file, Seminek() new examples of each, until one fails: calls
@@ -73,7 +73,7 @@ public:
     template <class F>
     void KazdyRadek(F&& hraj) {
         const std::filesystem::path soubor = NativniCesta(Soubor());
-        const std::vector<std::string> radky = CtiRadky(soubor);
+        const std::vector<std::string> radky = CtiRadky(Disk_(), soubor);
         for (std::size_t i = 0; i < radky.size(); ++i) {
             Radek(Z1250(DekodujRadek(radky[i]), {}));
             for (int n = 1; n <= Seminek() && !testing::Test::HasFailure(); ++n) {
@@ -133,6 +133,7 @@ protected:
 
 private:
     [[nodiscard]] std::string Soubor() const { return CestaHD + DveCislice(CisloUlohy) + ".dat"; }
+    [[nodiscard]] Disk& Disk_() { return relace_.Host().Disk(); }
     Relace relace_;
 
 public:

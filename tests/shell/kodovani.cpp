@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <map>
 
-#include "Prepis.h"
+#include "CeleSoubory.h"
 #include "shell/soubory_pomoc.h"
 
 namespace rysovna::testy {
@@ -50,9 +50,9 @@ TEST_F(Soubory, Radky) {
         {"a\r", {"a"}},
     };
     for (const auto& [obsah, radky] : pripady) {
-        EXPECT_EQ(CtiRadky(Pis("x.dat", obsah)), radky) << obsah;
+        EXPECT_EQ(CtiRadky(Disk_(), Pis("x.dat", obsah)), radky) << obsah;
     }
-    EXPECT_NE(Chyba([&] { (void)CtiRadky(Cesta("")); }), "");
+    EXPECT_NE(Chyba([&] { (void)CtiRadky(Disk_(), Cesta("")); }), "");
 }
 
 /// The rewrite beside the file, and the one in place: a folder stands where the
@@ -121,7 +121,7 @@ TEST_F(Nastroje, TamAZpet) {
         EXPECT_EQ(Cti("zpet.txt"), zpet);
     }
     EXPECT_EQ(Cti("Znamky.dat"), "90|100|1\r\n0|90|2\r\n");
-    EXPECT_EQ(Z1250(DekodujRadek(CtiRadky(Cesta("Errors.dat")).at(0)), {}), "007 Délka.|");
+    EXPECT_EQ(Z1250(DekodujRadek(CtiRadky(Disk_(), Cesta("Errors.dat")).at(0)), {}), "007 Délka.|");
     EXPECT_TRUE(Spust("zakoduj x.txt").ends_with("= 2"));
     Pis("01.txt", "; x\n1#α\n");
     EXPECT_EQ(Spust("zakoduj 01.txt 02.dat"), "Znak č. 3 nejde uložit (01.txt:2)\n= 1");

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-#include "base/Cesta.h"
+#include "platform/Cesta.h"
 #include "platform/Host.h"
 #include "screens/KontrolaPocitace.h"
 #include "screens/Spolecne.h"
@@ -42,7 +42,8 @@ protected:
     }
     std::string VadyVysledku() {
         std::vector<Nalez> nalezy;
-        ZkontrolujVysledky(Stroj_(), CtiCesty(host.SlozkaSystemu, host.SlozkaDat()), nalezy);
+        ZkontrolujVysledky(Stroj_(), CtiCesty(host.Disk(), host.SlozkaSystemu, host.SlozkaDat()),
+                           nalezy);
         return Vady(nalezy);
     }
 };

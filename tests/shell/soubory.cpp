@@ -64,14 +64,14 @@ TEST_F(Soubory, PoleSestiDesek) {
     const std::string soubor = Pis("01.dat", Zakodovane({radek})).string();
     for (int uloha = 1; uloha <= 20; ++uloha) {
         Priklady.Smaz();
-        NactiPriklady(soubor, DeskaUlohy(uloha));
+        NactiPriklady(Disk_(), soubor, DeskaUlohy(uloha));
         EXPECT_EQ(PoradiPoli(Priklady[1]), pole[poradi[uloha - 1]]) << uloha;
     }
 }
 
 TEST_F(Soubory, RadkyUlohy) {
     const auto nacti = [&](std::string_view obsah) {
-        NactiPriklady(Pis("01.dat", obsah).string(), Deska::Troj1Form);
+        NactiPriklady(Disk_(), Pis("01.dat", obsah).string(), Deska::Troj1Form);
     };
     Priklady[100].Druh = "starý";
     Priklady[2].Text2 = "cizí slot";
@@ -97,8 +97,8 @@ TEST_F(Soubory, VadneSouboryJmenujiMisto) {
     const auto cti = [&](const std::string& jmeno) {
         const std::string soubor = Cesta(jmeno).string();
         if (jmeno == "Errors.dat") return PridejChybu(2, "", 1);
-        if (jmeno == "Znamky.dat") return NactiZnamky(soubor);
-        NactiPriklady(soubor, Deska::Troj1Form);
+        if (jmeno == "Znamky.dat") return NactiZnamky(Disk_(), soubor);
+        NactiPriklady(Disk_(), soubor, Deska::Troj1Form);
     };
     const std::string sto = Zakodovane(std::vector<std::string>(100, "1#x"));
     const std::string pet = "1|2|3\r\n1|2|3\r\n1|2|3\r\n1|2|3\r\n1|2|3\r\n";
@@ -153,7 +153,7 @@ TEST_F(Soubory, ChybnyKrokUctujeKolikratVSouboruStoji) {
 
 TEST_F(Soubory, Znamky) {
     const auto nacti = [&](std::string_view obsah) {
-        NactiZnamky(Pis("Znamky.dat", obsah).string());
+        NactiZnamky(Disk_(), Pis("Znamky.dat", obsah).string());
     };
     nacti("90|100|1\r\n75|90|2|navíc\r\nabc||\r\n2.5|3.5|255.4");
     EXPECT_EQ(ZnamkyTab[2], (RadekZnamek{75, 90, 2}));

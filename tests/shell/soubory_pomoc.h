@@ -25,6 +25,7 @@ protected:
         relace.PisSoubor(soubor, obsah);
         return Cesta(soubor);
     }
+    rysovna::Disk& Disk_() { return relace.Host().Disk(); }
     std::string Cti(const std::string& soubor) const { return relace.CtiSoubor(soubor); }
     /// How many files there are.
     auto Pocet() const {

@@ -5,10 +5,10 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "base/Cesta.h"
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
 #include "hrac/Relace.h"
+#include "platform/Cesta.h"
 #include "platform/Obrazovky.h"
 #include "rules/Misc.h"
 #include "screens/SelectForm.h"

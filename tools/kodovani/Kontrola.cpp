@@ -7,6 +7,7 @@
 #include <span>
 #include <string_view>
 
+#include "CeleSoubory.h"
 #include "Hlaseni.h"
 #include "KontrolaPrikladu.h"
 #include "Pravidla.h"
@@ -80,7 +81,7 @@ private:
         const bool kodovane = soubor_.obsah == Obsah::Uloha || soubor_.obsah == Obsah::Chyby;
         std::vector<Radek> radky;
         int cislo = 0;
-        for (const std::string& ulozeny : CtiRadky(cesta_)) {
+        for (const std::string& ulozeny : NaRadky(CtiSoubor(cesta_))) {
             ++cislo;
             if (kodovane && ulozeny.size() % KROK_KODU != 0) {
                 Pridej(cislo, {}, "délka uloženého řádku není násobkem čtyř (useknutý řádek?)");

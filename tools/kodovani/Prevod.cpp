@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "CeleSoubory.h"
 #include "Hlaseni.h"
 #include "base/Chyba.h"
 #include "base/Text.h"
@@ -53,7 +54,7 @@ Soubor Rozpoznej(const std::filesystem::path& cesta) {
 std::vector<Radek> CtiCitelny(const std::filesystem::path& cesta) {
     std::vector<Radek> radky;
     int cislo = 0;
-    for (std::string& text : CtiRadky(cesta)) {
+    for (std::string& text : NaRadky(CtiSoubor(cesta))) {
         if (++cislo == 1 && text.starts_with(ZNACKA_UTF8)) text.erase(0, ZNACKA_UTF8.size());
         if (text.find_first_not_of(" \t") == std::string::npos || text.front() == ';') continue;
         radky.push_back({.Cislo = cislo, .Text = std::move(text)});
@@ -112,7 +113,7 @@ std::string Dekoduj(const std::filesystem::path& zdroj) {
     }
     std::string citelny;
     int cislo = 0;
-    for (const std::string& ulozeny : CtiRadky(zdroj)) {
+    for (const std::string& ulozeny : NaRadky(CtiSoubor(zdroj))) {
         const std::string text =
             Z1250(MaKodovaneRadky(soubor) ? DekodujRadek(ulozeny) : ulozeny, Misto(zdroj, ++cislo));
         citelny += soubor.obsah == Obsah::Chyby ? CitelnaVeta(text) : text;

@@ -5,8 +5,8 @@
 #include <system_error>
 #include <vector>
 
+#include "CeleSoubory.h"
 #include "Kontrola.h"
-#include "Prepis.h"
 #include "Prevod.h"
 #include "base/Chyba.h"
 #include "store/Kodovani.h"

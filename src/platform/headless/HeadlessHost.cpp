@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "base/Cesta.h"
 #include "base/Chyba.h"
+#include "platform/Cesta.h"
 #include "platform/Malir.h"
 #include "platform/ZpravaForm.h"
 

@@ -14,8 +14,8 @@
 #include <langinfo.h>
 #endif
 
-#include "base/Cesta.h"
 #include "base/Chyba.h"
+#include "platform/Cesta.h"
 #include "platform/ObrazekData.h"
 #include "platform/Obrazovky.h"
 #include "platform/Surface.h"

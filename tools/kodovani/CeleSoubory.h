@@ -1,9 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace rysovna {
+
+/// Reads a file whole; one that cannot be read is a fault.
+[[nodiscard]] std::string CtiSoubor(const std::filesystem::path& soubor);
 
 /// Rewrites a file that exists or not: written beside and renamed over, so that it is the old one
 /// or the new one and never half. Owner, group and rights stay. Where no file may be made beside

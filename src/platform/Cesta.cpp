@@ -1,4 +1,4 @@
-#include "base/Cesta.h"
+#include "platform/Cesta.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,5 +1,6 @@
-#include "Prepis.h"
+#include "CeleSoubory.h"
 
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <fstream>
@@ -10,7 +11,6 @@
 #include <unistd.h>
 
 #include "base/Chyba.h"
-#include "store/Kodovani.h"
 
 namespace rysovna {
 namespace {
@@ -101,6 +101,18 @@ bool PrepisNaMiste(const fs::path& soubor, const std::string& stary, std::string
 
 }  // namespace
 
+std::string CtiSoubor(const fs::path& soubor) {
+    auto proud = Otevri<std::ifstream>(soubor, std::ios::in);
+    std::string obsah;
+    std::array<char, 65536> kus;
+    do {
+        proud.read(kus.data(), kus.size());
+        obsah.append(kus.data(), static_cast<std::size_t>(proud.gcount()));
+    } while (proud);
+    if (!proud.eof() || proud.bad()) throw BehovaChyba("Soubor nelze přečíst", soubor.string());
+    return obsah;
+}
+
 void PrepisSoubor(const fs::path& soubor, std::string_view obsah) {
     std::error_code chyba;
     // What is written is the file itself, not a link that leads to it.
@@ -115,7 +127,7 @@ void PrepisSoubor(const fs::path& soubor, std::string_view obsah) {
     vedle += ".nove";
     auto proud = Otevri<std::ofstream>(vedle, std::ios::out | std::ios::trunc);
     if (!proud) {
-        if (!jeTu || !PrepisNaMiste(cil, CtiVse(cil), obsah)) NelzeZapsat(soubor);
+        if (!jeTu || !PrepisNaMiste(cil, CtiSoubor(cil), obsah)) NelzeZapsat(soubor);
         return;
     }
     bool zapsano = Zapis(proud, obsah);
@@ -127,7 +139,7 @@ void PrepisSoubor(const fs::path& soubor, std::string_view obsah) {
         // A table that several pupils' accounts share stays theirs: one that only its owner may
         // replace is written over in place. Until that is done, the copy beside it stays.
         if (zapsano && jeTu && !novy.PrevezmiPrava(cil)) {
-            zapsano = PrepisNaMiste(cil, CtiVse(cil), obsah);
+            zapsano = PrepisNaMiste(cil, CtiSoubor(cil), obsah);
             fs::remove(vedle, chyba);
         } else if (zapsano) {
             fs::rename(vedle, cil, chyba);
