@@ -3,6 +3,7 @@
 
 #include "board/DeskaForm.h"
 #include "board/RadaCesky.h"
+#include "engine/Tabulky.h"
 #include "platform/Paleta.h"
 
 namespace rysovna {
@@ -72,6 +73,7 @@ void DeskaForm::ObnovRadu() {
                   : ImgHodnoceni.Visible ? Doba::PoKontrole
                                          : Doba::Hraje;
     videne_.NacrtVysunuty = Image1.Tag == "1";
+    videne_.Narysovano = PocetUtvaru > danych_;
     const Rada r = UrciRadu(videne_);
     if (r == rada_) return;
     rada_ = r;

@@ -4,6 +4,7 @@
 #include "board/ChybovyForm.h"
 #include "board/DeskaForm.h"
 #include "board/Kontrola.h"
+#include "engine/Tabulky.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "shell/Konec.h"
@@ -89,6 +90,7 @@ void DeskaForm::NovyPriklad() {
 void DeskaForm::NoveZadani() {
     Generator.Zasej(Stroj().Seminko());
     dialog_->NoveZadani();
+    danych_ = PocetUtvaru;
     cekaNaZadani_ = false;
     KresliNacrt();
     Ukaz();
