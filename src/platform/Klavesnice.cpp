@@ -193,6 +193,10 @@ void Obrazovky::ZmackniKlavesou(Form& form, Ovladac& o, std::string_view jmeno) 
     v.DrziKlavesa = jmeno;
     v.DrziJak = o.Klavesou;
     form.MouseDown(&o, UdalostKlaves(form, o, LEVE));
+    // What a drag shows it shows at once: there is no hand that would move.
+    const Formular drzi = v.Drzici();
+    if (DrziKlavesa() && v.DrziJak == StiskKlavesou::Tah && drzi.get() == &form && Dosazitelny(&o))
+        PosunutUkazatel(form, o);
 }
 
 void Obrazovky::PustKlavesou() {
@@ -241,7 +245,9 @@ bool Obrazovky::ZaDrzeni(const Vstup& s) {
 bool Obrazovky::PosunDrzenouMys(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     const std::optional<Bod> smer = SmerSipky(s.Text);
-    if (!smer || !v.Drzi || v.DrziObjekt == nullptr || v.Drzici() == nullptr) return false;
+    if (!smer || v.Prst != PracePrstu::Zadna || !v.Drzi || v.DrziObjekt == nullptr ||
+        v.Drzici() == nullptr)
+        return false;
     if (!v.DrziObjekt->JemneSipkami) return false;
     v.Posun.X += smer->X;
     v.Posun.Y += smer->Y;

@@ -72,6 +72,8 @@ void Obrazovky::Unload(Form& form) {
     ++verze_;
     Hide(form);
     form.Unload();
+    if (vnitrek_->Zvednuty_ && vnitrek_->Zvednuty_->Formular_.lock() == drz)
+        vnitrek_->Zvednuty_.reset();
     Vnitrek::Vyrad(vnitrek_->Modalni, form);
     Vnitrek::Vyrad(vnitrek_->Nactene, form);
 }

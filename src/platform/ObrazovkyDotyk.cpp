@@ -30,9 +30,10 @@ Obdelnik NaNavrhu(const Form& form, const Ovladac& o) {
 }  // namespace
 
 Formular Obrazovky::Vnitrek::Zvednuty() const {
-    if (!Zvednuty_ || !Dosazitelny(Zvednuty_->Objekt)) return nullptr;
+    if (!Zvednuty_) return nullptr;
     Formular f = Zvednuty_->Formular_.lock();
-    return f != nullptr && f == Cilovy() ? f : nullptr;
+    const bool jde = f != nullptr && f == Cilovy() && Dosazitelny(Zvednuty_->Objekt);
+    return jde ? f : nullptr;
 }
 
 /// The mouse comes here too while a drag is held: it plays the finger then.
@@ -80,9 +81,11 @@ void Obrazovky::PrstSeDotkl(Bod kde, const Vstup& s) {
     v.ZnaMys = false;
     v.PrstOd = kde;
     if (v.Zvednuty() != nullptr) return PrstNaZvednutem(kde, s);
+    // The lifting of this finger, or the mouse's release, got lost outside.
+    if (v.Drzi && v.DrziKlavesa.empty()) v.PustDrzeni();
     v.Prst = PracePrstu::Mrtva;
     const Formular form = v.Cilovy();
-    if (form == nullptr || (v.Drzi && v.DrziKlavesa.empty())) return;
+    if (form == nullptr || v.KresliKlavesy()) return;
     // A message box may stand over the screen of a drag; any other screen has ended it.
     if (!JeModalni()) v.Zvednuty_.reset();
     const Bod kam = KamKlepl(*form, kde);

@@ -141,6 +141,10 @@ struct Obrazovky::Vnitrek {
     [[nodiscard]] bool Dostava(const Form& f) const {
         return f.Viditelny() && (Modalni.empty() || Modalni.back().get() == &f);
     }
+    /// A drag by keys goes on, which nothing but keys may end.
+    [[nodiscard]] bool KresliKlavesy() const {
+        return !DrziKlavesa.empty() && DrziJak == StiskKlavesou::Tah && Drzici() != nullptr;
+    }
     void PustDrzeni() {
         Drzi = false;
         DrziKlavesa.clear();

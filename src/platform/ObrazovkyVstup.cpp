@@ -284,7 +284,13 @@ void Obrazovky::DorucStisk(const Vstup& s) {
     v.MysX = s.X;
     v.MysY = s.Y;
     v.PrstenVidet = false;
-    if (!v.DrziKlavesa.empty()) v.PustDrzeni();
+    if (!v.DrziKlavesa.empty()) {
+        if (v.KresliKlavesy()) {
+            v.Zahozena |= s.Tlacitko;
+            return;
+        }
+        v.PustDrzeni();
+    }
     const Formular form = v.Cilovy();
     if (form == nullptr) return;
     // The same button again: its release got lost outside.

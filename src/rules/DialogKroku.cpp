@@ -296,10 +296,10 @@ Gesto DialogKroku::GestoKroku() const {
     const StavKroku& s = Stav();
     if (!CekaNaKresleni()) return {};
     const auto* r = std::ranges::find(RADKY, std::string_view(s.ZvolenyUtvar), &TahDruhu::Druh);
-    if (r == std::end(RADKY)) return {Tvar::Bod, {}, {}};  // the board computes it, wherever
-    if (r->Jak != Tvar::Usecka) return {r->Jak, s.BodVyzvy, {}};
+    if (r == std::end(RADKY)) return {Tvar::Bod, {}, {}, false};  // the board computes it, wherever
+    if (r->Jak != Tvar::Usecka) return {r->Jak, s.BodVyzvy, {}, false};
     const Utvar& nova = Utvary[PocetUtvaru + 1];
-    return {r->Jak, nova.Jmeno1, nova.Jmeno2};
+    return {r->Jak, nova.Jmeno1, nova.Jmeno2, false};
 }
 
 Panel DialogKroku::UkazPanel() const {

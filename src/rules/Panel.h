@@ -108,6 +108,7 @@ struct Gesto {
     };
     Tvar Druh = Tvar::Zadny;
     std::string Od, Kam;  ///< names of the points; empty: none is named
+    bool Presne = false;  ///< a click that beside its place is an error
     friend bool operator==(const Gesto&, const Gesto&) = default;
 };
 

@@ -78,7 +78,7 @@ Rada::Co CoDal(const Videne& v) {
     if (!p.Vstupy.empty()) return Vyplneno(p) ? PotvrdHodnoty : VyplnHodnoty;
     if (!MuzeZacit(p)) return v.NacrtVysunuty ? OznacZadane : VysunNacrt;
     if (JeZivy(p, TVAR_VETA)) return ZvolTrojuhelnik;
-    return zpet ? ZvolNastroj : ZvolPrvni;
+    return zpet || v.Narysovano ? ZvolNastroj : ZvolPrvni;
 }
 
 Rada::Co CoPriHre(const Videne& v) {

@@ -21,6 +21,7 @@ struct Videne {
     enum class Doba { Ceka, Hraje, PoKontrole };  ///< Ceka: the next example is not there yet
     Doba Kdy = Doba::Ceka;
     Panel Krok;
+    bool Narysovano = false;    ///< the plane shows more than what is given
     bool NacrtVysunuty = true;  ///< the sketch is out, and over a part of the plane
     bool Tahne = false;         ///< the button is held over the plane, and a rubber band follows
     bool Podlozka = false;      ///< a finger has left the drag, and the pad is up

@@ -143,8 +143,8 @@ Gesto TecnyDialog::GestoKroku() const {
     const auto* r = std::ranges::find(RADKY, stav_.Tvar, &TahDruhu::Nastroj_);
     if (r == std::end(RADKY)) return {};
     // With nothing to pick by, the tool in hand is not named anywhere.
-    if (r->Jak != Tvar::Bod && stav_.lblText3.empty()) return {Tvar::Utvar, {}, {}};
-    Gesto g{r->Jak, {}, {}};
+    if (r->Jak != Tvar::Bod && stav_.lblText3.empty()) return {Tvar::Utvar, {}, {}, false};
+    Gesto g{r->Jak, {}, {}, r->Jak == Tvar::Bod};
     if (g.Druh == Tvar::Primka && !stav_.OcekavanyBod.empty()) {
         g.Od = stav_.OcekavanyBod.substr(0, 1);
         g.Kam = stav_.OcekavanyBod.substr(1);

@@ -152,6 +152,7 @@ private:
     bool vybiraSe_ = false;      ///< a line was picked and its wait runs
     bool posouvaSe_ = false;     ///< the panel is sliding
     bool poustiSe_ = false;      ///< a release on the plane is being handled
+    int danych_ = 0;             ///< objects that the example began with
     Videne videne_;
     Rada rada_;
     std::optional<Bod> zachytne_;  ///< px of the plane: the point that a press would catch

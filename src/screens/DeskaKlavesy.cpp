@@ -109,7 +109,9 @@ UkazatelKlaves DeskaForm::Ukazatel(const Ovladac& o) const {
 
 /// What the passing cross showed goes with it.
 void DeskaForm::PriselPrsten(Ovladac& o) {
+    videne_.MrtvyNastroj = 0;
     UkazatelNad(&o);
+    ObnovRadu();
     if (&o != &Pic) SkryjTah();
 }
 

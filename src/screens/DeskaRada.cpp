@@ -1,6 +1,7 @@
 // The guide line in the strip below the board: what the pupil sees is gathered, what to do next is
 // said.
 
+#include "engine/Tabulky.h"
 #include "platform/Paleta.h"
 #include "screens/DeskaForm.h"
 #include "screens/RadaCesky.h"
@@ -72,6 +73,7 @@ void DeskaForm::ObnovRadu() {
                   : ImgHodnoceni.Visible ? Doba::PoKontrole
                                          : Doba::Hraje;
     videne_.NacrtVysunuty = Image1.Tag == "1";
+    videne_.Narysovano = PocetUtvaru > danych_;
     const Rada r = UrciRadu(videne_);
     if (r == rada_) return;
     rada_ = r;

@@ -1,6 +1,7 @@
 // The check of an example, the verdict, and the series: next example, table, end.
 
 #include "base/Cisla.h"
+#include "engine/Tabulky.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "rules/Kontrola.h"
@@ -90,6 +91,7 @@ void DeskaForm::NovyPriklad() {
 void DeskaForm::NoveZadani() {
     Generator.Zasej(Stroj().Seminko());
     dialog_->NoveZadani();
+    danych_ = PocetUtvaru;
     cekaNaZadani_ = false;
     KresliNacrt();
     Ukaz();

@@ -1,6 +1,7 @@
 // The events of a board: what the pupil presses goes to the dialogue, what it answers is shown.
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Cisla.h"
 #include "rules/Misc.h"
@@ -46,6 +47,7 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
         videne_.MrtvyNastroj = MrtvyNastrojPod(m);
         return ObnovRadu();
     }
+    if (std::exchange(videne_.MrtvyNastroj, 0) != 0) ObnovRadu();
     // Between two examples there is nothing to work on yet.
     if (cekaNaZadani_ && (Je(cmd, o) || Je(ComboLabel, o) || o == &Pic || o == &SamplePic)) return;
     if (Je(cmd, o)) return StiskNastroje(cmd[static_cast<std::size_t>(o->Index - 1)], m);
@@ -117,6 +119,7 @@ void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
 }
 
 void DeskaForm::MouseUp(Ovladac* o, const Mys& m) {
+    if (o == &Pic) kriz_ = VRozsahu(kriz_);  // the next press is on the plane again
     if (o == &Pic && m.Button == LEVE) PustPlochu(m);
     if (o == &ImgHodnoceni) SkryjChyby();
 }
@@ -149,6 +152,7 @@ void DeskaForm::Change(TextBox& t) {
 
 void DeskaForm::Napis(int ktery, const TextBox& box) {
     dialog_->Napis(ktery, box.Text);
+    videne_.MrtvyNastroj = 0;
     videne_.Krok = dialog_->UkazPanel();
     ObnovRadu();
 }

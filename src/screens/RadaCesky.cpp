@@ -31,8 +31,9 @@ constexpr Veta VETY[] = {
      "Vrať se tlačítkem „zpět o krok“ a zkus to jinak."},
     {Co::VratNesestrojeny, "Z těchto hodnot trojúhelník sestrojit nejde.",
      "Vrať se tlačítkem „zpět o krok“."},
-    {Co::PodZpet, "Vrátí poslední krok.", "Chyba, která v něm byla, se ale dál počítá."},
-    {Co::PodSestroj, "Nejprve vyplň všechna políčka.", "Prázdné políčko se počítá jako chyba."},
+    {Co::PodZpet, "Vrátí poslední krok.", "Případná chyba v něm se ale dál počítá."},
+    {Co::PodSestroj, "Nejprve vyplň všechna políčka.",
+     "Prázdné políčko se může počítat jako chyba."},
     {Co::PodKontrola, "Kontrola příklad uzavře.", "Konstrukce ještě není hotová."},
     {Co::PodOdchod, "Odchodem série končí.", "Výsledek se do tabulky nezapíše."},
     {Co::MrtvyBezZnacek, "Nástroje ožijí, až v náčrtku označíš, co je zadáno."},
@@ -70,7 +71,8 @@ constexpr std::string_view TAH_BEZ_ODECTU = "Pusť, až bude útvar na svém mí
 constexpr std::string_view TAH_K_MIRE = " – pusť, až bude velikost souhlasit.";
 constexpr std::string_view TAH_NA_MIRE = " – souhlasí, pusť.";
 constexpr std::string_view TAH_NA_MISTO = " – pusť, až bude útvar na svém místě.";
-constexpr std::string_view SHODNA_MIRA = "Pusť, až se míra u kurzoru shodne s napsanou.";
+constexpr std::string_view SHODNA_MIRA = "Pusť, až se ukázaná míra shodne s napsanou.";
+constexpr std::string_view PRESNE_NA_BOD = "Klikni na ploše přesně na hledaný bod.";
 constexpr std::string_view STRED_STRANY = "Začni ve středu strany {}, táhni vodorovně a pusť.";
 constexpr std::string_view STRED_SE_UKAZE = "Střed se ukáže, když na něj najedeš.";
 constexpr std::string_view POSUN_KONEC = "Posuň konec šipkami a klepni na „hotovo“.";
@@ -92,6 +94,7 @@ bool JeStredStrany(const Gesto& g) {
 }
 
 std::string JakKreslit(const Gesto& g) {
+    if (g.Druh == Tvar::Bod && g.Presne) return std::string(PRESNE_NA_BOD);
     if (JeStredStrany(g)) return Nahrad(STRED_STRANY, "{}", g.Od.substr(1));
     for (const Postup& p : POSTUPY) {
         if (p.Druh != g.Druh) continue;

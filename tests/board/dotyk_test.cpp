@@ -115,6 +115,24 @@ TEST_F(DotykDesky, ZvednutyTahDokonciJenHotovo) {
     EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
 }
 
+/// A finger whose lifting got lost, and a mouse whose release did, take nothing from the next one.
+TEST_F(DotykDesky, ZtraceneZvednutiNevadi) {
+    const auto& deska = dynamic_cast<const DeskaForm&>(*r.Hra.Vpredu());
+    const Bod roh = r.Hra.Roh(r.Hra.Prvek("SamplePic"));
+    for (const bool mysi : {false, true}) {
+        if (mysi) {
+            Okna().MysDolu(20, 20, 1, 0);
+        } else {
+            Okna().PrstDolu(20, 20, r.Hra.Host().TickCount());
+        }
+        r.Hra.Cekej(700);
+        const auto predtim = deska.Dialogem().UkazPanel().cmd[0].Zive;
+        const Bod zona = deska.Dialogem().MistaNacrtu()[0];
+        Klepni({roh.X + zona.X, roh.Y + zona.Y});
+        EXPECT_NE(deska.Dialogem().UkazPanel().cmd[0].Zive, predtim) << mysi;
+    }
+}
+
 /// A message box that comes over a held drag gets its taps, and the drag goes on after it.
 TEST_F(DotykDesky, ZpravaNadZvednutymTahemSeDaOdklepnout) {
     PripravStranu();

@@ -176,9 +176,23 @@ TEST_F(KlavesyDesky, TahKlavesamiPustiJenMezernik) {
     ASSERT_EQ(Prsten(hra), "Pic");
     Klavesy(hra, {"Down", "b", "x"});
     EXPECT_EQ(Kriz(hra), (Bod{odkud.X + 96, odkud.Y}));
-    Klavesy(hra, {"Space", "a"});
+    hra.Klavesa("Space");
+    EXPECT_TRUE(hra.Prvek("Circle1").Visible) << "seen at once, with no move";
+    hra.Klavesa("a");
     EXPECT_EQ(Kriz(hra), odkud);
-    EXPECT_TRUE(hra.Prvek("Circle1").Visible);
+    // Neither the mouse nor a finger ends it; where it ends off the plane, the next one begins on
+    // it.
+    hra.StiskniMisto(300, 40);
+    EXPECT_TRUE(hra.Host().Okna().DrziKlavesa());
+    for (int i = 0; i < 40; ++i) hra.Klavesa("Left", 1);
+    EXPECT_LT(Kriz(hra).X, 0);
+    hra.Klavesa("Space");
+    hra.Cekej(200);
+    ASSERT_EQ(PocetUtvaru, 2);
+    Klavesy(hra, {"4", "1"});
+    hra.Cekej(100);
+    hra.Klavesa("Return");
+    EXPECT_EQ(Kriz(hra).X, 0);
 }
 
 /// The figure is done: under the ring is no step back, no mark, that one press more would spoil.

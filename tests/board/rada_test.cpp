@@ -92,7 +92,7 @@ TEST_F(RadaDesky, VedeOdZnacekAzZaKontrolu) {
     r.Hra.Napis("12");
     EXPECT_EQ(Slova(r),
               "Začni ve středu A, táhni vodorovně a pusť.|"
-              "Pusť, až se míra u kurzoru shodne s napsanou.");
+              "Pusť, až se ukázaná míra shodne s napsanou.");
     // Beyond the plane's edge, where its own read-out cannot be seen.
     Obrazovky& okna = r.Hra.Host().Okna();
     const Bod roh = r.Hra.Roh(r.Hra.Prvek("Pic"));

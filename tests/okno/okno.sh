@@ -32,7 +32,7 @@ klik 320 240 1.6
 fotka nabidka
 klik 150 166 0.4
 klik 480 190 1.6  # the name is typed into what is there
-xdotool type "$jmeno"
+napis_jmeno "$jmeno"
 klik 145 267 1
 fotka nastaveni
 klik 570 468 1

@@ -22,6 +22,22 @@ na_obrazovku() {
 }
 fotka() { [ -z "$obrazky" ] || { mkdir -p "$obrazky"; import -window root "$obrazky/${sirka}_$1.png"; }; }
 
+# Types a name into the box that has the keyboard, until it looks the same twice. A letter that the
+# display's keyboard lacks gets a key for a moment alone, and a busy program looks for it too late:
+# then it is lost on the way.
+napis_jmeno() {
+    local minule="" nyni
+    for _ in 1 2 3 4 5 6 7 8; do
+        xdotool key ctrl+a key BackSpace
+        xdotool type --delay 40 "$1"
+        sleep 0.3  # the caret stands still for a while
+        nyni="$(import -window root png:- | md5sum)"
+        [ "$nyni" != "$minule" ] || return 0
+        minule="$nyni"
+    done
+    selhani "jméno se nedá napsat dvakrát stejně"
+}
+
 # A display with a number that nobody has.
 displej() {
     exec 3<>"$prace/cislo"
@@ -31,9 +47,6 @@ displej() {
     DISPLAY=":$(cat "$prace/cislo")"
     export DISPLAY
     [ "$DISPLAY" != ":" ] || selhani "Xvfb se nespustil"
-    # A keyboard that has the Czech letters: a letter that it lacks would get a key for a moment
-    # alone, and a busy program reads it too late.
-    setxkbmap -layout cz -variant ucw
 }
 
 # A display, and on it the game with no results in it, in a full-screen window.

@@ -50,7 +50,7 @@ struct Podminka {
 constexpr Podminka PODMINKY[] = {
     {Co::OznacZadane, [](const DeskaForm& d) { return Zije(d.SamplePic) && !ZijeNastroj(d); }},
     {Co::VysunNacrt, [](const DeskaForm& d) { return Zije(d.MalaSipka) && !ZijeNastroj(d); }},
-    {Co::ZvolPrvni, ZijeNastroj},
+    {Co::ZvolPrvni, [](const DeskaForm& d) { return ZijeNastroj(d) && !d.VidenoTed().Narysovano; }},
     {Co::ZvolTrojuhelnik, ZijeNastroj},
     {Co::ZvolNastroj, ZijeNastroj},
     {Co::VyberRadek, ZijeRadek},

@@ -532,7 +532,12 @@ void SdlHost::Vnitrek::Pohyb(const SDL_MouseMotionEvent& m) {
 }
 
 void SdlHost::Vnitrek::Dotyk(const SDL_TouchFingerEvent& d) {
-    if (d.type == SDL_FINGERDOWN && !Prst) Prst = d.fingerId;
+    const SDL_TouchDeviceType druh = SDL_GetTouchDeviceType(d.touchId);
+    if (druh == SDL_TOUCH_DEVICE_INDIRECT_ABSOLUTE || druh == SDL_TOUCH_DEVICE_INDIRECT_RELATIVE)
+        return;  // a pad beside the screen, which moves the mouse
+    // The only one that is down is the one that plays: the lifting of an earlier one may get lost.
+    if (d.type == SDL_FINGERDOWN && (!Prst || SDL_GetNumTouchFingers(d.touchId) == 1))
+        Prst = d.fingerId;
     if (Prst != d.fingerId) return;
     double x = 0;
     double y = 0;
