@@ -10,7 +10,10 @@
 
 #include "base/Chyba.h"
 #include "hrac/Relace.h"
+#include "platform/Host.h"
+#include "rules/Chyby.h"
 #include "rules/Misc.h"
+#include "store/Soubory.h"
 
 namespace rysovna::testy {
 
@@ -19,7 +22,11 @@ using hrac::Relace;
 /// A data root to write into.
 class Soubory : public ::testing::Test {
 protected:
-    Soubory() { CestaHD = CestaVysledku = Cesta("").string(); }
+    Soubory() {
+        CestaHD = CestaVysledku = Cesta("").string();
+        NastavVety(
+            [](int cislo) { return CtiVety(Stroj().Disk(), CestaHD + "Errors.dat", cislo); });
+    }
     std::filesystem::path Cesta(std::string_view s) const { return relace.DataDir() / s; }
     std::filesystem::path Pis(const std::string& soubor, std::string_view obsah) const {
         relace.PisSoubor(soubor, obsah);
