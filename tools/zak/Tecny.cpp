@@ -224,8 +224,8 @@ void DokonaleTecny::Proved(const KrokZaka& k, bool druhy) {
 void DokonaleTecny::NarysujPrimku(const KrokZaka& k) {
     Bod odkud = los_.Vedle(NajdiBod(k.Od), CHYTNE);
     Bod kam = Nahodne();
-    const bool volne = los_.Ano() && ruka_.Presna();  // beside a point, a pixel may decide
-    if (!k.JenZBodu && volne) (void)NajdiVolnyTah(k, odkud, kam);
+    // Beside a point a pixel may decide.
+    if (!k.JenZBodu && los_.Ano() && ruka_.Presna()) (void)NajdiVolnyTah(k, odkud, kam);
     ruka_.Tahni(odkud, kam);
 }
 
