@@ -1,5 +1,5 @@
 // Plays examples without a display, through the same events as a person's, and leaves a picture of
-// each stage. Prints the lines that the log got.
+// each stage. Prints the lines that the log got. Or draws the board with the names of its controls.
 
 #include <exception>
 #include <filesystem>
@@ -17,6 +17,7 @@
 #include "screens/Desky.h"
 #include "screens/VyrobaDesek.h"
 #include "store/Kodovani.h"
+#include "ukazka/Ovladace.h"
 
 namespace {
 
@@ -91,12 +92,20 @@ int main(int pocet, char** slova) {
         cim = jak;
         argumenty.erase(argumenty.begin());
     }
-    if (argumenty.empty()) {
+    const bool ovladace = !argumenty.empty() && argumenty[0] == "--ovladace";
+    if (argumenty.empty() || (ovladace && argumenty.size() != 2)) {
         std::cerr << "Použití: ukazka [--klavesami | --prstem] SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
+                     "         ukazka --ovladace OBRÁZEK.png\n"
                      "Bez čísel se hraje první úloha.\n";
         return 2;
     }
     try {
+        if (ovladace) {
+            NastavVyrobceDesek(VyrobDesku);
+            Relace hra(SEMINKO, cim);
+            NakresliOvladace(hra, argumenty[1]);
+            return 0;
+        }
         std::vector<int> ulohy;
         for (std::size_t i = 1; i < argumenty.size(); ++i) {
             ulohy.push_back(static_cast<int>(Cislo(argumenty[i])));
