@@ -17,6 +17,9 @@ struct CasStisku {
     std::uint32_t Nejdrive = 0, Nejpozdeji = 0;
 };
 
+/// What the pupil plays with.
+enum class CimSeHraje { Mysi, Klavesami, Prstem };
+
 /// The screens of the program on one window, and the dispatcher of events. A host feeds it with
 /// input in design pixels (0 to 640, 0 to 480); it finds the object under the pointer and calls
 /// the form. A press captures the pointer until the release, so that a drag that leaves its
@@ -126,6 +129,9 @@ public:
     /// What the mouse pointer looks like where it is.
     [[nodiscard]] Kurzor KurzorMysi() const;
 
+    /// What the game is being played with: keys while the ring is shown, else what pressed or moved
+    /// last, the mouse or a finger.
+    [[nodiscard]] CimSeHraje HrajeSe() const;
     /// Whether a press that a key made still holds its object.
     [[nodiscard]] bool DrziKlavesa() const;
     // For forms, in their handlers of keys:

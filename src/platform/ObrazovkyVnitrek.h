@@ -110,6 +110,7 @@ struct Obrazovky::Vnitrek {
     StiskKlavesou DrziJak = StiskKlavesou::Klik;
     double MysX = 0, MysY = 0;  ///< where the mouse was last, and whether it was anywhere
     bool ZnaMys = false;
+    bool Prstem = false;  ///< the last press or move was a finger's
     Bod Posun;  ///< how far arrows have carried the mouse that is held
 
     PracePrstu Prst = PracePrstu::Zadna;

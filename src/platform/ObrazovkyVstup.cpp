@@ -281,6 +281,7 @@ void Obrazovky::DorucStisk(const Vstup& s) {
     if (!s.Prst && v.Zvednuty() != nullptr) return DorucPrst(s);
     v.Zahozena &= ~s.Tlacitko;
     v.ZnaMys = !s.Prst;
+    v.Prstem = s.Prst;
     v.MysX = s.X;
     v.MysY = s.Y;
     v.PrstenVidet = false;
@@ -343,6 +344,7 @@ void Obrazovky::DorucPohyb(const Vstup& s) {
         v.MysPriPrstenuY = s.Y;
     }
     v.ZnaMys = !s.Prst;
+    v.Prstem = s.Prst;
     v.MysX = s.X;
     v.MysY = s.Y;
     if (!v.DrziKlavesa.empty()) return;
@@ -405,6 +407,11 @@ TextBox* Obrazovky::Psane() const {
     TextBox* t = form->Zamereni();
     if (!Dosazitelny(t) || t->MultiLine) return nullptr;
     return !vnitrek_->PrstenVidet || MistoPrstenu(*form) == t ? t : nullptr;
+}
+
+CimSeHraje Obrazovky::HrajeSe() const {
+    if (vnitrek_->PrstenVidet) return CimSeHraje::Klavesami;
+    return vnitrek_->Prstem ? CimSeHraje::Prstem : CimSeHraje::Mysi;
 }
 
 std::uint32_t Obrazovky::PosledniPsani() const {

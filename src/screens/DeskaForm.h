@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/Form.h"
+#include "platform/Obrazovky.h"
 #include "rules/Dialog.h"
 #include "rules/Rada.h"
 #include "screens/Hover.h"
@@ -82,6 +83,8 @@ public:
     /// What the guide line says, and what it was computed from.
     [[nodiscard]] const Rada& RadaTed() const { return rada_; }
     [[nodiscard]] const Videne& VidenoTed() const { return videne_; }
+    /// Whom it speaks to.
+    [[nodiscard]] CimSeHraje CimRady() const { return cimRady_; }
     /// Something is being handled while a wait runs: the guide keeps its words until it is done.
     [[nodiscard]] bool JeUprostred() const { return vybiraSe_ || poustiSe_ || posouvaSe_; }
 
@@ -155,6 +158,7 @@ private:
     int danych_ = 0;             ///< objects that the example began with
     Videne videne_;
     Rada rada_;
+    CimSeHraje cimRady_ = CimSeHraje::Mysi;
     std::optional<Bod> zachytne_;  ///< px of the plane: the point that a press would catch
     Bod kriz_{192, 167};           ///< px of the plane: where the pointer of the keys is
     int zona_ = 0;                 ///< element of the sketch that the keys are at, from 0

@@ -192,6 +192,7 @@ void DeskaForm::ZasunPanel() {
     PosouvejPanel([this](int k) { PolozPanel(KROK_SNIMKU * k); });
     Image1.Tag = "0";
     MalaSipka.Visible = true;
+    Prsten(MalaSipka);  // pressed once more by keys, the panel is back
     VPImage.Visible = false;
     posouvaSe_ = false;
     ObnovRadu();

@@ -2,6 +2,7 @@
 // said.
 
 #include "engine/Tabulky.h"
+#include "platform/Host.h"
 #include "platform/Paleta.h"
 #include "screens/DeskaForm.h"
 #include "screens/RadaCesky.h"
@@ -75,9 +76,11 @@ void DeskaForm::ObnovRadu() {
     videne_.NacrtVysunuty = Image1.Tag == "1";
     videne_.Narysovano = PocetUtvaru > danych_;
     const Rada r = UrciRadu(videne_);
-    if (r == rada_) return;
+    const CimSeHraje cim = Stroj().Okna().HrajeSe();
+    if (r == rada_ && cim == cimRady_) return;
     rada_ = r;
-    const RadkyRady radky = RadaCesky(r);
+    cimRady_ = cim;
+    const RadkyRady radky = RadaCesky(r, cim);
     const bool jediny = radky[1].empty();
     for (std::size_t i = 0; i < lblRada.size(); ++i) {
         Label& l = lblRada[i];

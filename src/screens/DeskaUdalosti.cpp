@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "base/Cisla.h"
+#include "platform/Host.h"
+#include "platform/Obrazovky.h"
 #include "rules/Misc.h"
 #include "screens/DeskaForm.h"
 #include "screens/HelpForm.h"
@@ -70,6 +72,7 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
         ZasunPanel();
     } else if (o == &MalaSipka) {
         StiskMaleSipky();
+        Prsten(Image1);
     } else if (o == &ImgHodnoceni) {
         UkazChyby();
     } else if (o == &picPokracuj) {
@@ -80,6 +83,7 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
 }
 
 void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
+    if (cimRady_ != Stroj().Okna().HrajeSe()) ObnovRadu();
     if (videne_.MrtvyNastroj != 0 && (o != nullptr || MrtvyNastrojPod(m) != videne_.MrtvyNastroj)) {
         videne_.MrtvyNastroj = 0;
         ObnovRadu();

@@ -23,7 +23,6 @@ constexpr Veta VETY[] = {
      "a označ v něm všechno, co je zadáno."},
     {Co::ZvolPrvni, "Až v náčrtku označíš všechno, co je zadáno,", "zvol nástroj, kterým začneš."},
     {Co::ZvolTrojuhelnik, "Zvol tlačítkem „podle věty“, jak trojúhelník sestrojíš."},
-    {Co::VyberRadek, "Vyber řádek seznamu, volba hned platí.", "Kliknutím jinam se seznam zavře."},
     {Co::VyplnHodnoty, "Vyplň všechna políčka podle zadání.", "Potom stiskni „sestroj“."},
     {Co::PotvrdHodnoty, "Hodnoty potvrď tlačítkem „sestroj“."},
     {Co::Zkontroluj, "Konstrukce je hotová: stiskni nahoře tlačítko Kontrola."},
@@ -61,25 +60,55 @@ constexpr Postup POSTUPY[] = {
     {Tvar::Kruznice, "Začni ve středu {}, táhni vodorovně a pusť.",
      "Začni ve středu kružnice, táhni vodorovně a pusť."},
     {Tvar::Utvar, "", "Začni na ploše, táhni a pusť."},
-    {Tvar::Bod, "", "Klikni na ploše na hledaný bod, stačí přibližně."},
+    {Tvar::Bod, "", "Označ na ploše hledaný bod, stačí přibližně."},
 };
 
-constexpr std::string_view NAPIS_HODNOTU = "Napiš velikost do políčka vlevo, potom rýsuj.";
 constexpr std::string_view ZASUN_NACRT = "Náčrtek v cestě zasuneš šipkou na jeho levém okraji.";
-constexpr std::string_view ZPET_BEZ_BODU = "Nejde-li bod označit, vrať se o krok zpět.";
-constexpr std::string_view TAH_BEZ_ODECTU = "Pusť, až bude útvar na svém místě.";
-constexpr std::string_view TAH_K_MIRE = " – pusť, až bude velikost souhlasit.";
-constexpr std::string_view TAH_NA_MIRE = " – souhlasí, pusť.";
-constexpr std::string_view TAH_NA_MISTO = " – pusť, až bude útvar na svém místě.";
 constexpr std::string_view SHODNA_MIRA = "Pusť, až se ukázaná míra shodne s napsanou.";
-constexpr std::string_view PRESNE_NA_BOD = "Klikni na ploše přesně na hledaný bod.";
+constexpr std::string_view PRESNE_NA_BOD = "Označ na ploše přesně hledaný bod.";
 constexpr std::string_view STRED_STRANY = "Začni ve středu strany {}, táhni vodorovně a pusť.";
-constexpr std::string_view STRED_SE_UKAZE = "Střed se ukáže, když na něj najedeš.";
 constexpr std::string_view POSUN_KONEC = "Posuň konec šipkami a klepni na „hotovo“.";
 constexpr std::string_view POSUN_K_MIRE = " – dolaď šipkami a klepni na „hotovo“.";
 constexpr std::string_view UKAZ_CHYBY =
-    "Dokud držíš stisknutý křížek, ukazuje se seznam chybných kroků.";
+    "Dokud držíš křížek, ukazuje se seznam chybných kroků. Dál vede tlačítko vpravo.";
 constexpr std::string_view BEZ_CHYBY = "Bez chyby! Dál vede tlačítko vpravo.";
+
+/// What is said in other words to whom plays by keys or by a finger.
+struct Slova {
+    std::string_view Mysi, Klavesami, Prstem;
+    [[nodiscard]] std::string_view Pro(CimSeHraje cim) const {
+        return cim == CimSeHraje::Mysi ? Mysi : cim == CimSeHraje::Prstem ? Prstem : Klavesami;
+    }
+};
+constexpr std::string_view VYBER_RADEK = "Vyber řádek seznamu, volba hned platí.";
+constexpr Slova NAPIS_HODNOTU{"Napiš velikost do políčka vlevo, potom rýsuj.",
+                              "Napiš velikost do políčka vlevo, Enter tě vrátí na plochu.",
+                              "Napiš velikost do políčka vlevo, potom rýsuj."};
+constexpr Slova ZPET_BEZ_BODU{
+    "Nejde-li bod označit, vrať se o krok zpět.",
+    "Šipky vedou kříž, mezerník označí. Nejde-li bod označit, vrať se o krok zpět.",
+    "Nejde-li bod označit, vrať se o krok zpět."};
+constexpr Slova STRED_SE_UKAZE{"Střed se ukáže, když na něj najedeš.",
+                               "Střed se ukáže, když k němu dojde kříž.",
+                               "Začni blízko středu, kružnice si ho najde."};
+constexpr Slova ZAVRI_SEZNAM{"Kliknutím jinam se seznam zavře.", "Klávesou Esc se seznam zavře.",
+                             "Klepnutím jinam se seznam zavře."};
+constexpr Slova CIM_KRESLIT{
+    "", "Mezerník začne i pustí, šipky (se Shiftem víc) táhnou, písmeno skočí na bod.", ""};
+constexpr Slova CIM_UKAZAT{
+    "", "Šipky (se Shiftem víc) vedou kříž, písmeno skočí na bod, mezerník označí.", ""};
+/// A finger may be lifted at any time: the pad goes on.
+constexpr Slova TAH_BEZ_ODECTU{"Pusť, až bude útvar na svém místě.",
+                               "Pusť mezerníkem, až bude útvar na svém místě.",
+                               "Zvedni prst, útvar potom doladíš šipkami."};
+constexpr Slova TAH_K_MIRE{" – pusť, až bude velikost souhlasit.",
+                           " – pusť mezerníkem, až bude velikost souhlasit.",
+                           " – zvedni prst, velikost potom doladíš."};
+constexpr Slova TAH_NA_MIRE{" – souhlasí, pusť.", " – souhlasí, pusť mezerníkem.",
+                            " – souhlasí, zvedni prst."};
+constexpr Slova TAH_NA_MISTO{" – pusť, až bude útvar na svém místě.",
+                             " – pusť mezerníkem, až bude útvar na svém místě.",
+                             " – zvedni prst, útvar potom doladíš."};
 
 std::string Nahrad(std::string_view veta, std::string_view co, const std::string& cim) {
     std::string v(veta);
@@ -109,11 +138,13 @@ std::string Bodu(int n) {
 }
 
 /// What to keep in mind while drawing.
-std::string_view CoPritom(const Rada& r) {
-    if (r.Kresleni.Druh == Tvar::Bod && r.Zpet) return ZPET_BEZ_BODU;
+std::string_view CoPritom(const Rada& r, CimSeHraje cim) {
+    const bool bod = r.Kresleni.Druh == Tvar::Bod;
+    if (bod && r.Zpet) return ZPET_BEZ_BODU.Pro(cim);
     if (r.ZasunNacrt) return ZASUN_NACRT;
-    if (JeStredStrany(r.Kresleni)) return STRED_SE_UKAZE;
-    return r.SMirou ? SHODNA_MIRA : "";
+    if (JeStredStrany(r.Kresleni)) return STRED_SE_UKAZE.Pro(cim);
+    const std::string_view jak = (bod ? CIM_UKAZAT : CIM_KRESLIT).Pro(cim);
+    return jak.empty() && r.SMirou ? SHODNA_MIRA : jak;
 }
 
 RadkyRady OVysledku(const VysledekPrikladu& v) {
@@ -127,25 +158,27 @@ RadkyRady OVysledku(const VysledekPrikladu& v) {
 
 }  // namespace
 
-RadkyRady RadaCesky(const Rada& r) {
+RadkyRady RadaCesky(const Rada& r, CimSeHraje cim) {
     switch (r.Druh) {
         case Co::Vysledek:
             return OVysledku(r.Priklad);
         case Co::NapisHodnotu:
-            return {std::string(NAPIS_HODNOTU), JakKreslit(r.Kresleni)};
+            return {std::string(NAPIS_HODNOTU.Pro(cim)), JakKreslit(r.Kresleni)};
+        case Co::VyberRadek:
+            return {std::string(VYBER_RADEK), std::string(ZAVRI_SEZNAM.Pro(cim))};
         case Co::Tahni: {
             if (r.Podlozka)
                 return {r.Odecet + std::string(r.Odecet.empty() ? POSUN_KONEC : POSUN_K_MIRE), ""};
-            if (r.Odecet.empty()) return {std::string(TAH_BEZ_ODECTU), ""};
-            const std::string_view pak = r.Shoda    ? TAH_NA_MIRE
-                                         : r.SMirou ? TAH_K_MIRE
-                                                    : TAH_NA_MISTO;
-            return {r.Odecet + std::string(pak), ""};
+            const Slova& slova = r.Odecet.empty() ? TAH_BEZ_ODECTU
+                                 : r.Shoda        ? TAH_NA_MIRE
+                                 : r.SMirou       ? TAH_K_MIRE
+                                                  : TAH_NA_MISTO;
+            return {r.Odecet + std::string(slova.Pro(cim)), ""};
         }
         case Co::ZvolNastroj:
             return {"Zvol nástroj pro další krok.", std::string(r.ZasunNacrt ? ZASUN_NACRT : "")};
         case Co::Kresli:
-            return {JakKreslit(r.Kresleni), std::string(CoPritom(r))};
+            return {JakKreslit(r.Kresleni), std::string(CoPritom(r, cim))};
         default:
             for (const Veta& v : VETY) {
                 if (v.Druh == r.Druh) return {std::string(v.Prvni), std::string(v.Druha)};

@@ -5,6 +5,7 @@
 #include "base/Cisla.h"
 #include "base/Text.h"
 #include "platform/Host.h"
+#include "platform/Klavesnice.h"
 #include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
 #include "rules/Misc.h"
@@ -184,15 +185,43 @@ void SetupForm::Click(Ovladac* o) {
     UkazNapovedu("Bitmap\\Help\\setup.bmp", *this);
 }
 
+/// From a digit, which it chooses, or from the name on to what is still missing; where nothing is
+/// any more, to the board, by way of the button after a digit that is new.
+bool SetupForm::Enter() {
+    Obrazovky& okna = Stroj().Okna();
+    const Ovladac* kde = okna.Psane();
+    if (const auto prsten = okna.PrstenVpredu()) kde = prsten->Co;
+    const bool cislo = kde != nullptr && Je(ICislo, kde);
+    if (kde != nullptr && kde != &TJmeno && !cislo) return false;
+    bool novy = false;
+    if (cislo) {
+        Image& volba = ICislo[static_cast<std::size_t>(kde->Index) - 1];
+        novy = !Zvoleny(volba);
+        if (novy) okna.StiskniZastavku(*this, volba);
+        // The waits in it may have led on from here.
+        if (Skoncil(*this) || okna.Vpredu().get() != this || MistoPrstenu(*this) != &volba)
+            return true;
+    }
+    if (TJmeno.Text.empty()) {
+        okna.DejPrsten(*this, TJmeno);
+    } else if (std::ranges::none_of(ICislo, Zvoleny)) {
+        okna.DejPrsten(*this, ICislo.front());
+    } else if (novy) {
+        okna.DejPrsten(*this, picPokracuj);
+    } else if (picPokracuj.Visible) {
+        SpustDesku();
+    }
+    return true;
+}
+
 bool SetupForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     Obrazovky& okna = Stroj().Okna();
     const std::size_t cislice =
         klavesa.size() == 1 ? std::string_view("12345").find(klavesa) : std::string_view::npos;
     if (cislice != std::string_view::npos) {
         okna.StiskniZastavku(*this, ICislo[cislice]);
-    } else if (klavesa == "Return" && picPokracuj.Visible &&
-               (!okna.PrstenVpredu() || okna.Psane() == &TJmeno)) {
-        SpustDesku();
+    } else if (klavesa == "Return") {
+        return Enter();
     } else if (klavesa == "Escape" && TJmeno.Text.empty()) {
         // With a name there, one key by mistake must not throw it away.
         ZpetDoMenu();

@@ -38,6 +38,7 @@ private:
     void Kontrola();
     void UkazCoDal();
     void ZvolPocet(std::size_t k);
+    bool Enter();
     void SpustDesku();
     void ZpetDoMenu();
 

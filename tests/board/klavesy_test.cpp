@@ -95,6 +95,50 @@ TEST_F(KlavesyDesky, EnterVedePolickyKTlacitkuNeboNaPlochu) {
     EXPECT_FALSE(r.Hra.Host().Okna().DrziKlavesa());
 }
 
+/// From what is filled in to what is missing, and on to the board; no press too many does harm.
+TEST_F(KlavesyDesky, EnterNaJmenuANaPoctuVedeDal) {
+    Relace hra;
+    hra.Start();
+    hra.Stiskni("LI", 1);
+    hra.Stiskni("RI", 1);
+    std::string kudy;
+    const auto enter = [&](const char* odkud, int index) {
+        hra.NaZastavku(odkud, index);
+        hra.Klavesa("Return");
+        hra.Cekej(500);
+        kudy += Prsten(hra) + " ";
+    };
+    enter("TJmeno", 0);
+    enter("ICislo", 5);
+    hra.Napis("Ema");
+    EXPECT_EQ(kudy, "TJmeno TJmeno ") << "the name is missing";
+    hra.Prepis("TJmeno", "");
+    hra.Stiskni("picKonec");
+    hra.Cekej(200);
+    hra.Stiskni("RI", 1);
+    hra.Napis("Eva");
+    enter("TJmeno", 0);
+    enter("ICislo", 2);
+    EXPECT_EQ(kudy, "TJmeno TJmeno ICislo1 picPokracuj ");
+    EXPECT_EQ(hra.JmenoVpredu(), "SetupForm");
+    enter("ICislo", 2);
+    EXPECT_EQ(hra.JmenoVpredu(), "Troj1Form");
+    EXPECT_EQ(JmenoHrace + " " + std::to_string(PocetPrikladuSerie), "Eva 2");
+}
+
+/// A second press brings the panel back, and opens no list.
+TEST_F(KlavesyDesky, PrstenZustaneNaUchuPanelu) {
+    Rysovac r(SSS, 1);
+    r.Kdo.Oznac("a").Oznac("b").Oznac("c");
+    r.Hra.NaZastavku("Image1");
+    for (const char* ucho : {"MalaSipka", "Image1", "MalaSipka"}) {
+        r.Hra.Klavesa("Space");
+        r.Hra.Cekej(100);
+        EXPECT_EQ(Prsten(r.Hra), ucho);
+    }
+    EXPECT_FALSE(r.Hra.Prvek("Combo").Visible);
+}
+
 TEST_F(KlavesyDesky, EscapeVedeZpetNaDesceJenZavreSeznam) {
     Rysovac r(SSS, 1);
     Relace& hra = r.Hra;

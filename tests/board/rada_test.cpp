@@ -43,17 +43,18 @@ TEST_F(RadaDesky, NicNeniUriznuto) {
             for (const std::string bod : {"", "T2", "Sc"}) {
                 vse.push_back({.Druh = static_cast<Rada::Co>(co),
                                .Kresleni = {static_cast<Gesto::Tvar>(tvar), bod, bod},
-                               .ZasunNacrt = tvar % 2 == 0,
+                               .ZasunNacrt = bod == "T2",
                                .SMirou = bod != "T2",
                                .Shoda = bod == "Sc",
-                               .Zpet = true,
+                               .Zpet = !bod.empty(),
                                .Odecet = bod.empty() ? "" : "123,45 cm",
                                .Priklad = {10, 50, 5, 5, bod.empty()}});
             }
         }
     }
-    for (const Rada& rada : vse) {
-        const RadkyRady radky = RadaCesky(rada);
+    for (std::size_t i = 0; i < 3 * vse.size(); ++i) {
+        const Rada& rada = vse[i / 3];
+        const RadkyRady radky = RadaCesky(rada, static_cast<CimSeHraje>(i % 3));
         EXPECT_EQ(radky[0].empty(), rada.Druh == Rada::Co::Nic) << static_cast<int>(rada.Druh);
         for (const std::string& text : radky) {
             Label l;
@@ -93,6 +94,10 @@ TEST_F(RadaDesky, VedeOdZnacekAzZaKontrolu) {
     EXPECT_EQ(Slova(r),
               "Začni ve středu A, táhni vodorovně a pusť.|"
               "Pusť, až se ukázaná míra shodne s napsanou.");
+    // To each hand in its words.
+    r.Hra.NaZastavku("Pic");
+    EXPECT_EQ(Deska(r).CimRady(), CimSeHraje::Klavesami);
+    EXPECT_NE(Slova(r).find("|Mezerník začne i pustí"), std::string::npos) << Slova(r);
     // Beyond the plane's edge, where its own read-out cannot be seen.
     Obrazovky& okna = r.Hra.Host().Okna();
     const Bod roh = r.Hra.Roh(r.Hra.Prvek("Pic"));

@@ -85,9 +85,10 @@ std::string CoJeVidet(const DeskaForm& d) {
     const Videne& v = d.VidenoTed();
     const Panel& p = v.Krok;
     std::ostringstream s;
-    s << int{CisloUlohy} << '|' << PocetUtvaru << '|' << v.NacrtVysunuty << v.Tahne << v.Podlozka
-      << '|' << v.Odecet << '|' << v.MrtvyNastroj << static_cast<int>(v.Pod) << '|'
-      << (p.Kresleni.Druh != Gesto::Tvar::Zadny) << p.PicZiva << p.Nesestrojen << '|';
+    s << int{CisloUlohy} << '|' << static_cast<int>(d.CimRady()) << '|' << PocetUtvaru << '|'
+      << v.NacrtVysunuty << v.Tahne << v.Podlozka << '|' << v.Odecet << '|' << v.MrtvyNastroj
+      << static_cast<int>(v.Pod) << '|' << (p.Kresleni.Druh != Gesto::Tvar::Zadny) << p.PicZiva
+      << p.Nesestrojen << '|';
     for (const Tlacitko& t : p.cmd) s << t.Tvar << (t.Barevne ? 'b' : 's') << t.Zive << ' ';
     s << '|' << p.lblText1 << '|' << p.lblText2 << '|' << p.lblText3 << '|' << p.lblText4.Text;
     s << '|' << p.txtVstup.Videt << p.txtVstup.Ziva << p.txtVstup.Text;
@@ -106,7 +107,7 @@ std::string HlidacRady::Zkontroluj(const DeskaForm& deska) {
         return "the guide was computed from an older panel";
     }
     const Rada& r = deska.RadaTed();
-    const RadkyRady radky = RadaCesky(r);
+    const RadkyRady radky = RadaCesky(r, deska.CimRady());
     const std::string slova = radky[0] + " / " + radky[1];
     if (deska.PicRada.Visible != RadyUkazovat) return "the guide's strip is not as configured";
     for (std::size_t i = 0; i < radky.size(); ++i) {
