@@ -82,7 +82,7 @@ struct Slova {
 };
 constexpr std::string_view VYBER_RADEK = "Vyber řádek seznamu, volba hned platí.";
 constexpr Slova NAPIS_HODNOTU{"Napiš velikost do políčka vlevo, potom rýsuj.",
-                              "Napiš velikost do políčka vlevo, Enter tě vrátí na plochu.",
+                              "Napiš velikost do políčka vlevo, Enter vede na plochu.",
                               "Napiš velikost do políčka vlevo, potom rýsuj."};
 constexpr Slova ZPET_BEZ_BODU{
     "Nejde-li bod označit, vrať se o krok zpět.",
