@@ -111,7 +111,7 @@ struct Obrazovky::Vnitrek {
     double MysX = 0, MysY = 0;  ///< where the mouse was last, and whether it was anywhere
     bool ZnaMys = false;
     bool Prstem = false;  ///< the last press or move was a finger's
-    Bod Posun;  ///< how far arrows have carried the mouse that is held
+    Bod Posun;            ///< how far arrows have carried the mouse that is held
 
     PracePrstu Prst = PracePrstu::Zadna;
     Bod PrstOd;                ///< where it went down, design px

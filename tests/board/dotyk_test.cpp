@@ -66,6 +66,7 @@ TEST_F(DotykDesky, ZvednutyTahDokonciJenHotovo) {
     Okna().PrstDolu(od.X, od.Y, r.Hra.Host().TickCount());
     Okna().PrstPohyb(kam.X, kam.Y, r.Hra.Host().TickCount());
     r.Hra.Cekej(300);
+    EXPECT_NE(r.Hra.Prvek<Label>("lblRada", 1).Caption.find("zvedni prst"), std::string::npos);
     Okna().PrstPohyb(kam.X + 1, kam.Y - 2, r.Hra.Host().TickCount());
     Okna().PrstNahoru(kam.X + 2, kam.Y - 2, r.Hra.Host().TickCount());
     ASSERT_EQ(Ohlasu(Ohlas::Druh::Konec), kam);
