@@ -17,7 +17,6 @@
 #include "screens/KontrolaPocitace.h"
 #include "screens/SelectForm.h"
 #include "screens/Start.h"
-#include "screens/VyrobaDesek.h"
 
 namespace {
 
@@ -44,13 +43,14 @@ void VypisChybu(const std::exception& chyba) {
 }
 
 /// Tells the fault in the window; where that cannot be done either, on the error output.
-void OznamChybu(rysovna::Host& host, const std::exception& chyba) {
+void OznamChybu(rysovna::Sezeni& sezeni, const std::exception& chyba) {
     using namespace rysovna;
+    Host& host = sezeni.Stroj;
     try {
         // No screen may act behind the message: what they share is not to be trusted any more.
         host.Okna().UnloadVse();
         host.MsgBox(chyba.what(), "Chyba", Styl::Stop);
-        ObnovObrazovku();
+        ObnovObrazovku(sezeni);
     } catch (const std::exception& dalsi) {
         VypisChybu(chyba);
         VypisChybu(dalsi);
@@ -79,14 +79,14 @@ int Zkontroluj() {
 
 int Hraj(rysovna::Host& host) {
     using namespace rysovna;
+    Sezeni sezeni(host, VyrobDesku);
     try {
-        NastavVyrobceDesek(VyrobDesku);
-        host.Okna().Nacti<SelectForm>();
+        host.Okna().Nacti<SelectForm>(sezeni);
         while (!host.Okna().JeKonec()) host.DoEvents(1000);
         host.Okna().UnloadVse();
         return host.Okna().StavKonce();
     } catch (const std::exception& chyba) {
-        OznamChybu(host, chyba);
+        OznamChybu(sezeni, chyba);
         return STAV_CHYBA;
     }
 }
@@ -110,7 +110,6 @@ int main(int pocet, char** slova) {
             return STAV_BEZ_OBRAZOVKY;
         }
         rysovna::SdlHost host(seminko);
-        const rysovna::HostNaDobu naDobu(host);
         return Hraj(host);
     } catch (const std::exception& chyba) {
         VypisChybu(chyba);

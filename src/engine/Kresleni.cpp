@@ -130,16 +130,16 @@ void Vypis(Plane& plane, Bod bod, Bod posun, Popisek popisek, std::string_view t
 }
 
 /// The snap row to write: a new one, or the last.
-Trojice& RadekTrojice(int NovaTrojice) {
-    const int i = NovaTrojice == ANO ? PocetTrojic + 1 : PocetTrojic;
-    Trojice& radek = Trojice_tab[i];
-    PocetTrojic = i;
+Trojice& RadekTrojice(Tabulky& t, int NovaTrojice) {
+    const int i = NovaTrojice == ANO ? t.PocetTrojic + 1 : t.PocetTrojic;
+    Trojice& radek = t.Trojice_tab[i];
+    t.PocetTrojic = i;
     return radek;
 }
 
 /// Snap points of a straight object from its stored points and names.
-Trojice& ZapisKonce(const Utvar& utvar, int NovaTrojice) {
-    Trojice& trojice = RadekTrojice(NovaTrojice);
+Trojice& ZapisKonce(Tabulky& t, const Utvar& utvar, int NovaTrojice) {
+    Trojice& trojice = RadekTrojice(t, NovaTrojice);
     trojice.X1 = utvar.X1;
     trojice.Y1 = utvar.Y1;
     trojice.Jmeno1 = utvar.Jmeno1;
@@ -149,8 +149,8 @@ Trojice& ZapisKonce(const Utvar& utvar, int NovaTrojice) {
     return trojice;
 }
 
-void ZapisStred(const Utvar& utvar, int NovaTrojice) {
-    Trojice& trojice = RadekTrojice(NovaTrojice);
+void ZapisStred(Tabulky& t, const Utvar& utvar, int NovaTrojice) {
+    Trojice& trojice = RadekTrojice(t, NovaTrojice);
     trojice.X1 = utvar.X1;
     trojice.Y1 = utvar.Y1;
     trojice.Jmeno1 = utvar.Jmeno1;
@@ -164,16 +164,17 @@ constexpr JmenoStredu JMENA_STREDU[] = {{"A", "B", "Sc"}, {"A", "C", "Sb"}, {"B"
 
 /// What ray, line, parallel and perpendicular have in common: direction from the points as given,
 /// then the second point at the margin when the object is new, then the record.
-Utvar& UlozPrimy(const Plane& plane, std::string_view druh, int index, Bod od, Bod k,
-                 int NovaTrojice) {
-    Utvar& utvar = Utvary[index];
+Utvar& UlozPrimy(Tabulky& t, const Plane& plane, int index, const Kresba& kresba, int NovaTrojice) {
+    const Bod od = kresba.P1;
+    Bod k = kresba.P2;
+    Utvar& utvar = t.Utvary[index];
     utvar.Smer = Smer(od, k, utvar.Smer);
     if (NovaTrojice == ANO) k = NaOkraj(plane, od, k);
     utvar.X1 = od.X;
     utvar.Y1 = od.Y;
     utvar.X2 = k.X;
     utvar.Y2 = k.Y;
-    utvar.Druh = druh;
+    utvar.Druh = kresba.Druh;
     return utvar;
 }
 
@@ -184,7 +185,7 @@ float VyskaV(const Utvar& u, int x) {
 }
 
 /// The line across the whole plane, its label and its snap row.
-void CaraPresPlochu(Plane& plane, const Utvar& utvar, int NovaTrojice) {
+void CaraPresPlochu(Tabulky& t, Plane& plane, const Utvar& utvar, int NovaTrojice) {
     const auto x1 = static_cast<float>(utvar.X1);
     const auto W = static_cast<float>(plane.Width());
     const auto H = static_cast<float>(plane.Height());
@@ -194,18 +195,18 @@ void CaraPresPlochu(Plane& plane, const Utvar& utvar, int NovaTrojice) {
         plane.Line(x1, 0, x1, H);
     }
     Vypis(plane, {utvar.X2, utvar.Y2}, NajdiSektor(utvar.Smer).popis, POPIS_PRIMKY, utvar.Jmeno1);
-    ZapisKonce(utvar, NovaTrojice);
+    ZapisKonce(t, utvar, NovaTrojice);
 }
 
 /// The direction of the line that carries the given two-letter name, by the last snap row whose
 /// first two names are its letters; 0 when there is none.
-float SmerPodleJmena(std::string_view naPrimce) {
+float SmerPodleJmena(const Tabulky& tabulky, std::string_view naPrimce) {
     const std::string_view pismeno1 = naPrimce.substr(0, 1);
     const std::string_view pismeno2 =
         naPrimce.size() > 1 ? naPrimce.substr(1, 1) : std::string_view{};
     Bod A, B;
-    for (int i = 1; i <= PocetTrojic; ++i) {
-        const Trojice& t = Trojice_tab[i];
+    for (int i = 1; i <= tabulky.PocetTrojic; ++i) {
+        const Trojice& t = tabulky.Trojice_tab[i];
         if (pismeno1 == t.Jmeno1 && pismeno2 == t.Jmeno2) {
             A = {t.X1, t.Y1};
             B = {t.X2, t.Y2};
@@ -244,74 +245,66 @@ Bod MistoPopisuKruznice(const Plane& plane, Bod stred, double r) {
 
 }  // namespace
 
-void KresliBod(Plane& plane, std::string_view druh, std::string_view jmeno1, int index, int X1,
-               int Y1, std::string_view popis1, std::string_view naPrimce, int NovaTrojice) {
-    Utvar& utvar = Utvary[index];
-    utvar.X1 = X1;
-    utvar.Y1 = Y1;
-    utvar.Jmeno1 = jmeno1;
-    utvar.Popis1 = popis1;
-    utvar.Druh = druh;
-    utvar.NaPrimce = naPrimce;
+void KresliBod(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+    Utvar& utvar = t.Utvary[index];
+    utvar.X1 = k.P1.X;
+    utvar.Y1 = k.P1.Y;
+    utvar.Popis1 = k.Popis1;
+    utvar.Druh = k.Druh;
+    utvar.NaPrimce = k.NaPrimce;
 
-    const float smer = SmerPodleJmena(utvar.NaPrimce);
+    const float smer = SmerPodleJmena(t, utvar.NaPrimce);
     const Sektor& sektor = NajdiSektor(smer);
     const Ramena ramena = RamenaKrize(sektor, smer);
-    const Bod bod{X1, Y1};
     plane.DrawWidth = 1;
-    CeleRameno(plane, bod, ramena.pricne);
-    CeleRameno(plane, bod, ramena.podelne);
-    Vypis(plane, bod, sektor.popis, POPIS_BODU, utvar.Popis1);
-    ZapisStred(utvar, NovaTrojice);
+    CeleRameno(plane, k.P1, ramena.pricne);
+    CeleRameno(plane, k.P1, ramena.podelne);
+    Vypis(plane, k.P1, sektor.popis, POPIS_BODU, utvar.Popis1);
+    ZapisStred(t, utvar, NovaTrojice);
 }
 
-void KresliUsecku(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,
-                  float delka, std::string_view popis1, std::string_view popis2, int znacky,
-                  int kresliCaru, int NovaTrojice) {
-    const Bod prvni{X1, Y1};
-    const Bod druhy{X2, Y2};
-    Utvar& utvar = Utvary[index];
-    utvar.X1 = X1;
-    utvar.Y1 = Y1;
-    utvar.X2 = X2;
-    utvar.Y2 = Y2;
-    utvar.Popis1 = popis1;
-    utvar.Popis2 = popis2;
-    utvar.Znacky = static_cast<std::int16_t>(znacky);
-    utvar.Delka = delka;
-    utvar.Druh = druh;
+void KresliUsecku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+    Utvar& utvar = t.Utvary[index];
+    utvar.X1 = k.P1.X;
+    utvar.Y1 = k.P1.Y;
+    utvar.X2 = k.P2.X;
+    utvar.Y2 = k.P2.Y;
+    utvar.Popis1 = k.Popis1;
+    utvar.Popis2 = k.Popis2;
+    utvar.Znacky = static_cast<std::int16_t>(k.Znacky);
+    utvar.Delka = k.Delka;
+    utvar.Druh = k.Druh;
     for (const JmenoStredu& j : JMENA_STREDU) {
         if (utvar.Jmeno1 == j.prvni && utvar.Jmeno2 == j.druhy) utvar.Jmeno3 = j.stred;
     }
-    utvar.X3 = Zaokrouhli((static_cast<double>(X2) - X1) / 2 + X1);
-    utvar.Y3 = Zaokrouhli((static_cast<double>(Y2) - Y1) / 2 + Y1);
-    utvar.Smer = Smer(prvni, druhy, utvar.Smer);
+    utvar.X3 = Zaokrouhli((static_cast<double>(k.P2.X) - k.P1.X) / 2 + k.P1.X);
+    utvar.Y3 = Zaokrouhli((static_cast<double>(k.P2.Y) - k.P1.Y) / 2 + k.P1.Y);
+    utvar.Smer = Smer(k.P1, k.P2, utvar.Smer);
 
     const Sektor& sektor = NajdiSektor(utvar.Smer);
-    if (kresliCaru == ANO) {
-        plane.Line(static_cast<float>(X1), static_cast<float>(Y1), static_cast<float>(X2),
-                   static_cast<float>(Y2));
-        if (znacky == ANO) {
+    if (k.Cara == ANO) {
+        plane.Line(static_cast<float>(k.P1.X), static_cast<float>(k.P1.Y),
+                   static_cast<float>(k.P2.X), static_cast<float>(k.P2.Y));
+        if (k.Znacky == ANO) {
             const Ramena ramena = RamenaKrize(sektor, utvar.Smer);
-            Carka(plane, prvni, Opacne(ramena.podelne), {0, 0});
-            Carka(plane, druhy, {0, 0}, ramena.podelne);
-            CeleRameno(plane, prvni, ramena.pricne);
-            CeleRameno(plane, druhy, ramena.pricne);
+            Carka(plane, k.P1, Opacne(ramena.podelne), {0, 0});
+            Carka(plane, k.P2, {0, 0}, ramena.podelne);
+            CeleRameno(plane, k.P1, ramena.pricne);
+            CeleRameno(plane, k.P2, ramena.pricne);
         }
     }
-    Vypis(plane, prvni, sektor.popis, POPIS_USECKY, utvar.Popis1);
-    Vypis(plane, druhy, sektor.popis, POPIS_USECKY, utvar.Popis2);
+    Vypis(plane, k.P1, sektor.popis, POPIS_USECKY, utvar.Popis1);
+    Vypis(plane, k.P2, sektor.popis, POPIS_USECKY, utvar.Popis2);
 
-    Trojice& trojice = ZapisKonce(utvar, NovaTrojice);
+    Trojice& trojice = ZapisKonce(t, utvar, NovaTrojice);
     trojice.X3 = utvar.X3;
     trojice.Y3 = utvar.Y3;
     trojice.Jmeno3 = utvar.Jmeno3;
 }
 
-void KresliPoloprimku(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2,
-                      int Y2, std::string_view popis2, int NovaTrojice) {
-    Utvar& utvar = UlozPrimy(plane, druh, index, {X1, Y1}, {X2, Y2}, NovaTrojice);
-    utvar.Popis2 = popis2;
+void KresliPoloprimku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+    Utvar& utvar = UlozPrimy(t, plane, index, k, NovaTrojice);
+    utvar.Popis2 = k.Popis2;
 
     const auto x1 = static_cast<float>(utvar.X1);
     const auto y1 = static_cast<float>(utvar.Y1);
@@ -325,42 +318,37 @@ void KresliPoloprimku(Plane& plane, std::string_view druh, int index, int X1, in
     const Bod druhy{utvar.X2, utvar.Y2};
     CeleRameno(plane, druhy, RamenaKrize(sektor, utvar.Smer).pricne);
     Vypis(plane, druhy, sektor.popis, POPIS_PRIMKY, utvar.Popis2);
-    ZapisKonce(utvar, NovaTrojice);
+    ZapisKonce(t, utvar, NovaTrojice);
 }
 
-void KresliPrimku(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,
-                  float delka, int NovaTrojice) {
-    Utvar& utvar = UlozPrimy(plane, druh, index, {X1, Y1}, {X2, Y2}, NovaTrojice);
-    utvar.Delka = delka;
-    CaraPresPlochu(plane, utvar, NovaTrojice);
+void KresliPrimku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+    Utvar& utvar = UlozPrimy(t, plane, index, k, NovaTrojice);
+    utvar.Delka = k.Delka;
+    CaraPresPlochu(t, plane, utvar, NovaTrojice);
 }
 
-void KresliPosunutou(Plane& plane, int index, const PosunutaPrimka& primka) {
-    ++PocetTrojic;
-    Trojice_tab[PocetTrojic].PrvniNechyta = primka.Hledany;
-    KresliPrimku(plane, ROVNOBEZKA, index, primka.P1.X, primka.P1.Y, primka.P2.X, primka.P2.Y, 0,
-                 NE);
+void KresliPosunutou(Tabulky& t, Plane& plane, int index, const PosunutaPrimka& primka) {
+    ++t.PocetTrojic;
+    t.Trojice_tab[t.PocetTrojic].PrvniNechyta = primka.Hledany;
+    KresliPrimku(t, plane, index, {.Druh = ROVNOBEZKA, .P1 = primka.P1, .P2 = primka.P2}, NE);
 }
 
-void KresliKolmici(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,
-                   int NovaTrojice) {
-    CaraPresPlochu(plane, UlozPrimy(plane, druh, index, {X1, Y1}, {X2, Y2}, NovaTrojice),
-                   NovaTrojice);
+void KresliKolmici(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+    CaraPresPlochu(t, plane, UlozPrimy(t, plane, index, k, NovaTrojice), NovaTrojice);
 }
 
-void KresliKruznici(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2,
-                    int NovaTrojice) {
-    Utvar& utvar = Utvary[index];
-    utvar.X1 = X1;
-    utvar.Y1 = Y1;
-    utvar.X2 = X2;
-    utvar.Polomer = std::abs(static_cast<float>(static_cast<double>(X1) - X2));
-    utvar.Druh = druh;
+void KresliKruznici(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+    Utvar& utvar = t.Utvary[index];
+    utvar.X1 = k.P1.X;
+    utvar.Y1 = k.P1.Y;
+    utvar.X2 = k.P2.X;
+    utvar.Polomer = std::abs(static_cast<float>(static_cast<double>(k.P1.X) - k.P2.X));
+    utvar.Druh = k.Druh;
 
-    plane.Circle(static_cast<float>(X1), static_cast<float>(Y1), utvar.Polomer);
-    Vypis(plane, MistoPopisuKruznice(plane, {X1, Y1}, utvar.Polomer), {0, 0}, POPIS_KRUZNICE,
+    plane.Circle(static_cast<float>(k.P1.X), static_cast<float>(k.P1.Y), utvar.Polomer);
+    Vypis(plane, MistoPopisuKruznice(plane, k.P1, utvar.Polomer), {0, 0}, POPIS_KRUZNICE,
           utvar.Jmeno1);
-    ZapisStred(utvar, NovaTrojice);
+    ZapisStred(t, utvar, NovaTrojice);
 }
 
 void PopisBod(Plane& plane, Bod bod, std::string_view pismeno) {

@@ -5,6 +5,7 @@
 #include "base/Bod.h"
 #include "base/Plane.h"
 #include "engine/Okraj.h"
+#include "engine/Tabulky.h"
 
 namespace rysovna {
 
@@ -18,39 +19,44 @@ namespace rysovna {
 // Coordinates are whole pixels of the plane. Labels find their places among what is already
 // drawn, so the order of objects matters to the picture.
 
-/// A point: a cross that leans with the line naPrimce on which the point lies (upright when that
-/// line has no snap row), and the label popis1. Sets the pen's width to 1.
-void KresliBod(Plane& plane, std::string_view druh, std::string_view jmeno1, int index, int X1,
-               int Y1, std::string_view popis1, std::string_view naPrimce, int NovaTrojice);
+// What the routine of a kind does not know it leaves alone.
 
-/// A segment: with kresliCaru = ANO the line itself, and with znacky = ANO too a mark at each end;
-/// the two labels are printed in any case. delka: cm, stored as given.
-void KresliUsecku(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,
-                  float delka, std::string_view popis1, std::string_view popis2, int znacky,
-                  int kresliCaru, int NovaTrojice);
+/// What an object is drawn by.
+struct Kresba {
+    std::string_view Druh;  ///< kind of object
+    Bod P1, P2{};           ///< px of the plane
+    std::string_view Popis1{}, Popis2{};
+    float Delka = 0;              ///< cm, stored as given
+    std::string_view NaPrimce{};  ///< of a point: name of the line on which it lies
+    int Znacky = NE;              ///< of a segment: ANO with a mark at each end
+    int Cara = ANO;               ///< of a segment: NE prints the two labels alone
+};
 
-/// A ray from the first point through the second to the plane's edge, a tick across it at the
-/// second point, and the label popis2 there.
-void KresliPoloprimku(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2,
-                      int Y2, std::string_view popis2, int NovaTrojice);
+/// A point: a cross at P1 that leans with the line NaPrimce (upright when that line has no snap
+/// row), and the label Popis1. Sets the pen's width to 1.
+void KresliBod(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
+
+/// A segment: with Cara the line itself, and with Znacky too a mark at each end; the two labels are
+/// printed in any case.
+void KresliUsecku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
+
+/// A ray from P1 through P2 to the plane's edge, a tick across it at P2, and the label Popis2
+/// there.
+void KresliPoloprimku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
 
 /// A line (also a parallel) across the whole plane, labelled Jmeno1 at its second point.
-/// delka: cm, stored as given.
-void KresliPrimku(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,
-                  float delka, int NovaTrojice);
+void KresliPrimku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
 
 /// A parallel that was pushed into its place: a line by the very points of its record, in a new
 /// snap row. Label and direction go by these points from the first drawing on.
-void KresliPosunutou(Plane& plane, int index, const PosunutaPrimka& primka);
+void KresliPosunutou(Tabulky& t, Plane& plane, int index, const PosunutaPrimka& primka);
 
 /// A perpendicular: as a line, without a length.
-void KresliKolmici(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2, int Y2,
-                   int NovaTrojice);
+void KresliKolmici(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
 
-/// A circle around (X1, Y1) whose radius is the distance of X2 from X1, labelled Jmeno1 at a place
-/// on the circle that is inside the plane.
-void KresliKruznici(Plane& plane, std::string_view druh, int index, int X1, int Y1, int X2,
-                    int NovaTrojice);
+/// A circle around P1 whose radius is how far P2 is from P1 along X, labelled Jmeno1 at a place on
+/// the circle that is inside the plane.
+void KresliKruznici(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
 
 /// A letter beside a point that no object labels, in a free spot looked for as at the ends of a
 /// level segment.

@@ -11,8 +11,8 @@ namespace rysovna {
 
 namespace {
 
-/// Draws an object again from its stored values.
-using Prekresleni = void (*)(Plane& plane, int index, const Utvar& u);
+/// Draws an object of the tables again.
+using Prekresleni = void (*)(Tabulky& t, Plane& plane, int index, const Kresba& k, int novaTrojice);
 
 struct RadekPrekresleni {
     std::string_view druh;
@@ -20,30 +20,21 @@ struct RadekPrekresleni {
 };
 
 constexpr RadekPrekresleni PREKRESLENI[] = {
-    {BOD,
-     [](Plane& p, int i, const Utvar& u) {
-         KresliBod(p, u.Druh, u.Jmeno1, i, u.X1, u.Y1, u.Popis1, u.NaPrimce, NE);
-     }},
-    {USECKA,
-     [](Plane& p, int i, const Utvar& u) {
-         KresliUsecku(p, u.Druh, i, u.X1, u.Y1, u.X2, u.Y2, u.Delka, u.Popis1, u.Popis2, u.Znacky,
-                      ANO, NE);
-     }},
-    {POLOPRIMKA,
-     [](Plane& p, int i, const Utvar& u) {
-         KresliPoloprimku(p, u.Druh, i, u.X1, u.Y1, u.X2, u.Y2, u.Popis2, NE);
-     }},
-    {PRIMKA,
-     [](Plane& p, int i, const Utvar& u) {
-         KresliPrimku(p, u.Druh, i, u.X1, u.Y1, u.X2, u.Y2, u.Delka, NE);
-     }},
-    {ROVNOBEZKA, [](Plane& p, int i,
-                    const Utvar& u) { KresliPrimku(p, u.Druh, i, u.X1, u.Y1, u.X2, u.Y2, 0, NE); }},
-    {KRUZNICE,
-     [](Plane& p, int i, const Utvar& u) { KresliKruznici(p, u.Druh, i, u.X1, u.Y1, u.X2, NE); }},
-    {KOLMICE, [](Plane& p, int i,
-                 const Utvar& u) { KresliKolmici(p, u.Druh, i, u.X1, u.Y1, u.X2, u.Y2, NE); }},
-};
+    {BOD, KresliBod},        {USECKA, KresliUsecku},     {POLOPRIMKA, KresliPoloprimku},
+    {PRIMKA, KresliPrimku},  {ROVNOBEZKA, KresliPrimku}, {KRUZNICE, KresliKruznici},
+    {KOLMICE, KresliKolmici}};
+
+/// What a stored object is drawn by again. A parallel has no length.
+Kresba Ulozena(const Utvar& u) {
+    return {.Druh = u.Druh,
+            .P1 = {u.X1, u.Y1},
+            .P2 = {u.X2, u.Y2},
+            .Popis1 = u.Popis1,
+            .Popis2 = u.Popis2,
+            .Delka = u.Druh == ROVNOBEZKA ? 0 : u.Delka,
+            .NaPrimce = u.NaPrimce,
+            .Znacky = u.Znacky};
+}
 
 /// Adds to a coordinate; one that runs over is a fault.
 void Pricti(int& souradnice, int o) {
@@ -56,13 +47,13 @@ void Pricti(int& souradnice, int o) {
 
 }  // namespace
 
-void PrekresliVse(Plane& HidenPic, Plane& Pic) {
+void PrekresliVse(Tabulky& t, Plane& HidenPic, Plane& Pic) {
     HidenPic.Cls();
-    for (int i = 1; i <= PocetUtvaru; ++i) {
+    for (int i = 1; i <= t.PocetUtvaru; ++i) {
         // A copy: the routines write the row from which their arguments come.
-        const Utvar utvar = Utvary[i];
+        const Utvar utvar = t.Utvary[i];
         for (const RadekPrekresleni& radek : PREKRESLENI) {
-            if (radek.druh == utvar.Druh) radek.kresli(HidenPic, i, utvar);
+            if (radek.druh == utvar.Druh) radek.kresli(t, HidenPic, i, Ulozena(utvar), NE);
         }
     }
     const auto zkopiruj = [&] {
@@ -75,18 +66,18 @@ void PrekresliVse(Plane& HidenPic, Plane& Pic) {
     zkopiruj();
 }
 
-void PosunVse(Plane& HidenPic, Plane& Pic, int dx, int dy) {
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        Utvar& u = Utvary[i];
+void PosunVse(Tabulky& t, Plane& HidenPic, Plane& Pic, int dx, int dy) {
+    for (int i = 1; i <= t.PocetUtvaru; ++i) {
+        Utvar& u = t.Utvary[i];
         for (int* x : {&u.X1, &u.X2, &u.X3, &u.X4}) Pricti(*x, dx);
         for (int* y : {&u.Y1, &u.Y2, &u.Y3, &u.Y4}) Pricti(*y, dy);
     }
-    for (int i = 1; i <= PocetTrojic; ++i) {
-        Trojice& t = Trojice_tab[i];
-        for (int* x : {&t.X1, &t.X2, &t.X3}) Pricti(*x, dx);
-        for (int* y : {&t.Y1, &t.Y2, &t.Y3}) Pricti(*y, dy);
+    for (int i = 1; i <= t.PocetTrojic; ++i) {
+        Trojice& r = t.Trojice_tab[i];
+        for (int* x : {&r.X1, &r.X2, &r.X3}) Pricti(*x, dx);
+        for (int* y : {&r.Y1, &r.Y2, &r.Y3}) Pricti(*y, dy);
     }
-    PrekresliVse(HidenPic, Pic);
+    PrekresliVse(t, HidenPic, Pic);
 }
 
 bool VytvorMasku(Plane& zdroj, int w, int h, Plane& maska, Barva klic) {

@@ -2,6 +2,7 @@
 
 #include "base/Bod.h"
 #include "base/Plane.h"
+#include "engine/Tabulky.h"
 
 namespace rysovna {
 
@@ -16,11 +17,11 @@ constexpr int VYSKA_POPISU = 10;
 /// Clears HidenPic, draws every object of Utvary into it, and copies it to Pic: on the screen and
 /// into its lasting bitmap. Changes no counter; writes over the last snap row. An object of
 /// unknown kind is skipped.
-void PrekresliVse(Plane& HidenPic, Plane& Pic);
+void PrekresliVse(Tabulky& t, Plane& HidenPic, Plane& Pic);
 
 /// Moves the whole construction, drawn objects and snap points, by dx, dy pixels and redraws it.
 /// Nothing checks whether it leaves the plane.
-void PosunVse(Plane& HidenPic, Plane& Pic, int dx, int dy);
+void PosunVse(Tabulky& t, Plane& HidenPic, Plane& Pic, int dx, int dy);
 
 /// Copies w by h pixels of zdroj over the pixels of pozadi, those of the key colour left out, and
 /// the result to cil, all at 0, 0. False where a copy or a bitmap failed; cil is then as it was.

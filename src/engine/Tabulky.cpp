@@ -6,18 +6,13 @@
 
 namespace rysovna {
 
-Tabulka<Utvar, 100> Utvary;
-Tabulka<Trojice, 100> Trojice_tab;
-int PocetUtvaru = 0;
-int PocetTrojic = 0;
-
-void SmazRadekUtvaru(Radek i) {
+void Tabulky::SmazRadekUtvaru(Radek i) {
     Utvar& radek = Utvary[i];
     radek = Utvar{};
     radek.Popis4 = TextCisla(0);
 }
 
-void SmazRadekTrojic(Radek i) {
+void Tabulky::SmazRadekTrojic(Radek i) {
     Trojice_tab[i] = Trojice{};
 }
 

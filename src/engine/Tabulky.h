@@ -72,14 +72,17 @@ struct Trojice {
 /// The construction: objects in the order in which they were made, and what the mouse can snap
 /// to. Both are in use from row 1 to their counter. The two counters are independent: the drawing
 /// routines move PocetTrojic when told, PocetUtvaru is moved by their caller alone.
-extern Tabulka<Utvar, 100> Utvary;
-extern Tabulka<Trojice, 100> Trojice_tab;
-extern int PocetUtvaru;
-extern int PocetTrojic;
+struct Tabulky {
+    Tabulka<Utvar, 100> Utvary;
+    Tabulka<Trojice, 100> Trojice_tab;
+    int PocetUtvaru = 0;
+    int PocetTrojic = 0;
 
-/// Clears one row. Popis4 of a cleared object is the number 0 as text, " 0".
-void SmazRadekUtvaru(Radek i);
-void SmazRadekTrojic(Radek i);
+    /// Clears one row. Popis4 of a cleared object is the number 0 as text, " 0".
+    void SmazRadekUtvaru(Radek i);
+    void SmazRadekTrojic(Radek i);
+    friend bool operator==(const Tabulky&, const Tabulky&) = default;
+};
 
 /// Whether two angles, radians, are the same: both print the same to five decimals. Tells an
 /// axis-parallel direction from a merely close one.

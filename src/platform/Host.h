@@ -86,20 +86,4 @@ private:
     std::unique_ptr<rysovna::Disk> disk_;
 };
 
-/// The host of this process, set once by main (by each test for its own). Asking without one is a
-/// fault.
-[[nodiscard]] Host& Stroj();
-
-/// Makes a host the process's host for the life of this object.
-class HostNaDobu {
-public:
-    explicit HostNaDobu(Host& host);
-    ~HostNaDobu();
-    HostNaDobu(const HostNaDobu&) = delete;
-    HostNaDobu& operator=(const HostNaDobu&) = delete;
-
-private:
-    Host* drivejsi_;
-};
-
 }  // namespace rysovna

@@ -153,8 +153,8 @@ void Obrazovky::DejPrsten(Form& form, Ovladac& o) {
         auto& t = static_cast<TextBox&>(o);
         form.SetFocus(t);
         bool vzal = false;
-        PsaniTextu(t).Klavesa("a", CTRL, vzal);  // all of it is marked
-        vnitrek_->Psano = Stroj().TickCount();
+        PsaniTextu(host_, t).Klavesa("a", CTRL, vzal);  // all of it is marked
+        vnitrek_->Psano = host_.TickCount();
     }
     form.PriselPrsten(o);
 }
@@ -269,8 +269,8 @@ void Obrazovky::DorucKlavesu(const Vstup& s) {
     if (form == nullptr) return;
     if (TextBox* t = Psane()) {
         bool vzal = false;
-        const bool zmena = PsaniTextu(*t).Klavesa(jmeno, s.Shift, vzal);
-        if (vzal) vnitrek_->Psano = Stroj().TickCount();
+        const bool zmena = PsaniTextu(host_, *t).Klavesa(jmeno, s.Shift, vzal);
+        if (vzal) vnitrek_->Psano = host_.TickCount();
         if (zmena) form->Change(*t);
         if (vzal || JeZnak(jmeno) || jmeno == "Space") return;
     }

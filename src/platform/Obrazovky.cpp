@@ -29,7 +29,7 @@ void Obrazovky::Vnitrek::Aktivuj(const Formular& f) {
     f->Activate();
 }
 
-Obrazovky::Obrazovky() : vnitrek_(std::make_unique<Vnitrek>()) {}
+Obrazovky::Obrazovky(Host& host) : host_(host), vnitrek_(std::make_unique<Vnitrek>()) {}
 
 Obrazovky::~Obrazovky() = default;
 

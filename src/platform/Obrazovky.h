@@ -11,6 +11,8 @@
 
 namespace rysovna {
 
+class Host;
+
 /// When a press was made, tick counts: as early as it can have been, as late. Both the same where
 /// the machine knows.
 struct CasStisku {
@@ -30,7 +32,7 @@ enum class CimSeHraje { Mysi, Klavesami, Prstem };
 /// dropped press drags along (moves, release) goes to nobody.
 class Obrazovky {
 public:
-    Obrazovky();
+    explicit Obrazovky(Host& host);
     ~Obrazovky();
     Obrazovky(const Obrazovky&) = delete;
     Obrazovky& operator=(const Obrazovky&) = delete;
@@ -195,6 +197,7 @@ private:
     void UkazPrsten();
     void DorucZavreni();
     void DorucNavrat();
+    Host& host_;
     std::unique_ptr<Vnitrek> vnitrek_;
     bool konec_ = false;
     int stavKonce_ = 0;

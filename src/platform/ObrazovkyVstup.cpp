@@ -105,7 +105,7 @@ void Obrazovky::MysDolu(double x, double y, int tlacitko, int shift, CasStisku c
 }
 
 void Obrazovky::MysDolu(double x, double y, int tlacitko, int shift) {
-    const std::uint32_t ted = Stroj().TickCount();
+    const std::uint32_t ted = host_.TickCount();
     MysDolu(x, y, tlacitko, shift, {ted, ted});
 }
 
@@ -247,7 +247,7 @@ void Obrazovky::CekejZavrene(const std::function<void()>& prace) {
     };
     const Zavreni zavreni(vnitrek_->Zavreno);
     prace();
-    Stroj().Spi(0);  // what has come since the last look belongs to this wait too
+    host_.Spi(0);  // what has come since the last look belongs to this wait too
 }
 
 // ---- Delivering ------------------------------------------------------------------------------
@@ -326,10 +326,10 @@ void Obrazovky::DorucStisk(const Vstup& s) {
         auto& t = static_cast<TextBox&>(*o);
         if (!t.MultiLine) {
             form->SetFocus(t);
-            PsaniTextu psani(t);
+            PsaniTextu psani(host_, t);
             psani.Stisk(static_cast<double>(m.X), (s.Shift & 1) != 0);
             if (dvojklik) psani.VyberSlovo();
-            v.Psano = Stroj().TickCount();
+            v.Psano = host_.TickCount();
         }
     }
     form->MouseDown(o, m);
@@ -361,8 +361,8 @@ void Obrazovky::DorucPohyb(const Vstup& s) {
         m.Prst = s.Prst;
         if (v.DrziObjekt != nullptr && v.DrziObjekt == form->Zamereni() &&
             (v.DrziTlacitka & LEVE) != 0) {
-            PsaniTextu(*form->Zamereni()).Stisk(static_cast<double>(m.X), true);
-            v.Psano = Stroj().TickCount();
+            PsaniTextu(host_, *form->Zamereni()).Stisk(static_cast<double>(m.X), true);
+            v.Psano = host_.TickCount();
         }
         form->MouseMove(v.DrziObjekt, m);
         return;
@@ -422,8 +422,8 @@ void Obrazovky::DorucText(const Vstup& s) {
     const Formular form = vnitrek_->Cilovy();
     TextBox* t = Psane();
     if (t == nullptr || vnitrek_->Zvednuty() != nullptr) return;
-    vnitrek_->Psano = Stroj().TickCount();
-    if (PsaniTextu(*t).Napis(s.Text)) form->Change(*t);
+    vnitrek_->Psano = host_.TickCount();
+    if (PsaniTextu(host_, *t).Napis(s.Text)) form->Change(*t);
 }
 
 void Obrazovky::DorucZavreni() {

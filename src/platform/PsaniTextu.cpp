@@ -66,7 +66,7 @@ std::u32string Sloz(const std::u32string& znaky) {
 
 }  // namespace
 
-PsaniTextu::PsaniTextu(TextBox& t) : t_(t) {
+PsaniTextu::PsaniTextu(Host& host, TextBox& t) : host_(host), t_(t) {
     // The program may have written another text under the caret.
     t_.SelStart = std::clamp(t_.SelStart, 0, Delka());
     t_.SelAnchor = std::clamp(t_.SelAnchor, 0, Delka());
@@ -174,10 +174,10 @@ bool PsaniTextu::Klavesa(std::string_view jmeno, int shift, bool& vzal) {
         Posad(Delka(), true);
     } else if (jmeno == "c" || jmeno == "x") {
         if (!vyber) return false;
-        Stroj().DoSchranky(ZeZnaku(DoZnaku(t_.Text).substr(Z(od), Z(po - od))));
+        host_.DoSchranky(ZeZnaku(DoZnaku(t_.Text).substr(Z(od), Z(po - od))));
         return jmeno == "x" && Nahrad({});
     } else if (jmeno == "v") {
-        return Napis(Stroj().SchrankaText());
+        return Napis(host_.SchrankaText());
     }
     return false;
 }

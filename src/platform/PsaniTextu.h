@@ -6,11 +6,13 @@
 
 namespace rysovna {
 
+class Host;
+
 /// The editing of a text box: all that keys, typed text and the mouse do to it. Positions count
 /// characters. Each routine that can change the text says whether it did.
 class PsaniTextu {
 public:
-    explicit PsaniTextu(TextBox& t);
+    PsaniTextu(Host& host, TextBox& t);
 
     /// Typed or pasted text in place of the selection; control characters are left out, what the
     /// box forbids, and what is over MaxLength. A letter and a mark behind it that have one letter
@@ -34,6 +36,7 @@ private:
     void Posad(int kam, bool vybirat);
     void Ukaz();
 
+    Host& host_;
     TextBox& t_;
 };
 

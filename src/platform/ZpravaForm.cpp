@@ -41,7 +41,8 @@ Pismo PismoZpravy(float velikost, bool tucne) {
 
 }  // namespace
 
-ZpravaForm::ZpravaForm(const std::string& text, const std::string& titul, Styl styl) {
+ZpravaForm::ZpravaForm(Host& host, const std::string& text, const std::string& titul, Styl styl)
+    : host_(host) {
     const auto popisy = TlacitkaStylu(styl);
     vysledek_ = popisy.back().Odpovi;
     Caption = titul;
@@ -150,7 +151,7 @@ void ZpravaForm::NakresliTlacitka() {
 
 void ZpravaForm::Odpovez(Odpoved odpoved) {
     vysledek_ = odpoved;
-    Stroj().Okna().Unload(*this);
+    host_.Okna().Unload(*this);
 }
 
 void ZpravaForm::MouseDown(Ovladac* o, const Mys& m) {
@@ -193,7 +194,7 @@ bool ZpravaForm::Klavesa(std::string_view klavesa, int shift) {
         return false;
     }
     NakresliTlacitka();
-    Stroj().Okna().DejPrsten(*this, *Tlacitka[vybrane_]);
+    host_.Okna().DejPrsten(*this, *Tlacitka[vybrane_]);
     return true;
 }
 
@@ -203,7 +204,7 @@ void ZpravaForm::QueryUnload() {
 
 Odpoved UkazZpravu(Host& host, const std::string& text, const std::string& titul, Styl styl) {
     constexpr std::uint32_t KROK_MS = 100;
-    const auto form = host.Okna().Nacti<ZpravaForm>(text, titul, styl);
+    const auto form = host.Okna().Nacti<ZpravaForm>(host, text, titul, styl);
     host.Okna().NastavModalni(form);
     while (!form->Zavreny() && !host.Okna().JeKonec()) host.DoEvents(KROK_MS);
     host.Okna().Unload(*form);

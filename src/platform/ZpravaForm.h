@@ -14,7 +14,7 @@ namespace rysovna {
 /// with it, Escape is the answer that changes nothing (OK or Ne).
 class ZpravaForm final : public Form {
 public:
-    ZpravaForm(const std::string& text, const std::string& titul, Styl styl);
+    ZpravaForm(Host& host, const std::string& text, const std::string& titul, Styl styl);
 
     [[nodiscard]] std::string_view Jmeno() const override { return "ZpravaForm"; }
     void MouseDown(Ovladac* o, const Mys& m) override;
@@ -33,6 +33,7 @@ private:
     void NakresliIkonu(Styl styl);
     void Odpovez(Odpoved odpoved);
 
+    Host& host_;
     PictureBox ram_;
     Label pruh_;
     Label titulek_;

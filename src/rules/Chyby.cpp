@@ -1,30 +1,18 @@
 #include "rules/Chyby.h"
 
 #include <cstdint>
-#include <utility>
 
 #include "base/Chyba.h"
 #include "base/Cisla.h"
-#include "rules/Misc.h"
 
 namespace rysovna {
 
-namespace {
-
-ZdrojVet g_vety;
-
-}  // namespace
-
-void NastavVety(ZdrojVet vety) {
-    g_vety = std::move(vety);
-}
-
-void PridejChybu(int cislo, std::string_view text, int body) {
-    if (!g_vety) Selhani("Pravidla nemají věty chybných kroků");
-    for (const std::string& veta : g_vety(cislo)) {
-        SoucetZapornychBodu += body;
-        ++PocetChybnychKroku;
-        ChybnyKrok& krok = ChybneKroky[PocetChybnychKroku];
+void PridejChybu(Misc& misc, int cislo, std::string_view text, int body) {
+    if (!misc.Vety) Selhani("Pravidla nemají věty chybných kroků");
+    for (const std::string& veta : misc.Vety(cislo)) {
+        misc.SoucetZapornychBodu += body;
+        ++misc.PocetChybnychKroku;
+        ChybnyKrok& krok = misc.ChybneKroky[misc.PocetChybnychKroku];
         krok.Cislo = TextBezMezery(cislo);
         krok.Text = veta;
         krok.Text += text;

@@ -25,6 +25,7 @@ constexpr PravidlaVrcholu VRCHOL{.Rovnobezky = false};
 
 }  // namespace
 
-CtyrUDialog::CtyrUDialog(Platna platna) : DialogCtyruhelnikuVrchol(platna, PRAVIDLA, VRCHOL) {}
+CtyrUDialog::CtyrUDialog(Misc& misc, Platna platna)
+    : DialogCtyruhelnikuVrchol(misc, platna, PRAVIDLA, VRCHOL) {}
 
 }  // namespace rysovna

@@ -10,7 +10,7 @@ namespace rysovna {
 /// vertex by circles and rays. 32 kinds of example in eight groups.
 class CtyrUDialog final : public DialogCtyruhelnikuVrchol {
 public:
-    explicit CtyrUDialog(Platna platna);
+    CtyrUDialog(Misc& misc, Platna platna);
 };
 
 }  // namespace rysovna

@@ -7,6 +7,7 @@
 
 #include "base/Plane.h"
 #include "rules/Konstrukce.h"
+#include "rules/Misc.h"
 #include "rules/Panel.h"
 
 namespace rysovna {
@@ -22,7 +23,7 @@ constexpr int NEJDAL_POSUNU = MEZ_POSUNU + KROK_POSUNU;
 /// tested without a screen and played as fast as the machine goes. Nothing in it waits.
 class Dialog {
 public:
-    explicit Dialog(Platna platna) : platna_(platna) {}
+    Dialog(Misc& misc, Platna platna) : misc_(misc), platna_(platna) {}
     virtual ~Dialog() = default;
     Dialog(const Dialog&) = delete;
     Dialog& operator=(const Dialog&) = delete;
@@ -85,6 +86,7 @@ public:
     [[nodiscard]] virtual Panel UkazPanel() const = 0;
 
 protected:
+    Misc& misc_;
     Platna platna_;
 };
 

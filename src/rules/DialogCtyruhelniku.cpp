@@ -38,26 +38,27 @@ constexpr int NASTROJ_TROJUHELNIK = 1, NASTROJ_VETA = 2;
 
 }  // namespace
 
-DialogCtyruhelniku::DialogCtyruhelniku(Platna platna, const PravidlaCtyruhelniku& pravidla)
+DialogCtyruhelniku::DialogCtyruhelniku(Misc& misc, Platna platna,
+                                       const PravidlaCtyruhelniku& pravidla)
     : DialogKroku(
-          platna,
+          misc, platna,
           {pravidla.Uvod, pravidla.NacrtFigury, JMENA, CENY_POCATKU, {1, 2}, TvarBodu::PodleCisla}),
       pravidla_(pravidla) {}
 
 // ---- The life of an example ------------------------------------------------------------------
 
 void DialogCtyruhelniku::NovyPriklad() {
-    VyprazdniKonstrukci(platna_);
+    VyprazdniKonstrukci(misc_, platna_);
     stav_ = StavCtyruhelniku{};
 }
 
 void DialogCtyruhelniku::Posun(int dx, int dy) {
-    PosunVse(platna_.HidenPic, platna_.Pic, dx, dy);
+    PosunVse(misc_, platna_.HidenPic, platna_.Pic, dx, dy);
     if (stav_.Nesestrojen) Prekresli();
 }
 
 void DialogCtyruhelniku::Prekresli() {
-    PrekresliVse(platna_.HidenPic, platna_.Pic);
+    PrekresliVse(misc_, platna_.HidenPic, platna_.Pic);
     if (!stav_.Nesestrojen) return;
     Plane& pic = platna_.Pic;
     pic.CurrentX = static_cast<float>(pic.Width() - pic.TextWidth(NELZE)) / 2;
@@ -147,7 +148,7 @@ void DialogCtyruhelniku::PotvrdHodnoty() {
             const std::optional<int> hodnota = Hodnota(v.Velicina);
             if (!hodnota || v.Chyba == 0) continue;
             const double ma = v.Pulka ? *hodnota / 2.0 : *hodnota;
-            if (Cislo(stav_.Vstupy[i]) != ma) PridejChybu(v.Chyba, JEDEN_BOD, 1);
+            if (Cislo(stav_.Vstupy[i]) != ma) PridejChybu(misc_, v.Chyba, JEDEN_BOD, 1);
         }
     }
     NakresliTrojuhelnik(*veta);
@@ -171,11 +172,11 @@ void DialogCtyruhelniku::NakresliTrojuhelnik(const VetaTrojuhelniku& veta) {
 }
 
 int DialogCtyruhelniku::NovyUtvar(std::string_view jmeno1, std::string_view jmeno2) {
-    const int n = ++PocetUtvaru;
-    SmazRadekUtvaru(n);
-    SmazRadekTrojic(PocetTrojic + 1);
-    Utvary[n].Jmeno1 = jmeno1;
-    Utvary[n].Jmeno2 = jmeno2;
+    const int n = ++misc_.PocetUtvaru;
+    misc_.SmazRadekUtvaru(n);
+    misc_.SmazRadekTrojic(misc_.PocetTrojic + 1);
+    misc_.Utvary[n].Jmeno1 = jmeno1;
+    misc_.Utvary[n].Jmeno2 = jmeno2;
     return n;
 }
 
@@ -184,13 +185,20 @@ void DialogCtyruhelniku::NakresliStranu(std::string_view jmeno1, Bod p1, std::st
                                         bool znacky) {
     const int n = NovyUtvar(jmeno1, jmeno2);
     const auto delka = static_cast<float>(DelkaVCm(Vzdalenost(p1, p2)));
-    KresliUsecku(platna_.Pic, USECKA, n, p1.X, p1.Y, p2.X, p2.Y, delka, popis1, popis2,
-                 znacky ? ANO : NE, ANO, ANO);
+    KresliUsecku(misc_, platna_.Pic, n,
+                 {.Druh = USECKA,
+                  .P1 = p1,
+                  .P2 = p2,
+                  .Popis1 = popis1,
+                  .Popis2 = popis2,
+                  .Delka = delka,
+                  .Znacky = znacky ? ANO : NE},
+                 ANO);
 }
 
-std::optional<Bod> DialogCtyruhelniku::MistoVrcholu(std::string_view pismeno) {
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+std::optional<Bod> DialogCtyruhelniku::MistoVrcholu(std::string_view pismeno) const {
+    for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
+        const Utvar& u = misc_.Utvary[i];
         if (u.Druh != USECKA) continue;
         if (u.Jmeno1 == pismeno) return Bod{u.X1, u.Y1};
         if (u.Jmeno2 == pismeno) return Bod{u.X2, u.Y2};
@@ -216,12 +224,12 @@ void DialogCtyruhelniku::VratFazi() {
     }
     if (stav_.Faze == 1) {
         // The whole triangle goes, and what it was chosen by.
-        PocetUtvaru = PocetTrojic = 0;
+        misc_.PocetUtvaru = misc_.PocetTrojic = 0;
         stav_.Nesestrojen = false;
         ZapomenTrojuhelnik();
     } else {
         // Each step after the triangle made one object.
-        PocetUtvaru = PocetTrojic = (stav_.Nesestrojen ? 0 : 3) + stav_.Faze - 2;
+        misc_.PocetUtvaru = misc_.PocetTrojic = (stav_.Nesestrojen ? 0 : 3) + stav_.Faze - 2;
     }
     Prekresli();
 }
@@ -229,7 +237,7 @@ void DialogCtyruhelniku::VratFazi() {
 // ---- The check -------------------------------------------------------------------------------
 
 int DialogCtyruhelniku::ChybnychPrvku() const {
-    const bool trojuhelnik = ZadanePrvky[1].Prvek == Hrany().Text2;
+    const bool trojuhelnik = misc_.ZadanePrvky[1].Prvek == Hrany().Text2;
     return (trojuhelnik ? 0 : 1) + (PrvekSpravny(2) ? 0 : 1) + (PrvekSpravny(3) ? 0 : 1);
 }
 

@@ -34,7 +34,7 @@ struct StavCtyruhelniku : StavKroku {
 /// the triangle is each board's own.
 class DialogCtyruhelniku : public DialogKroku {
 public:
-    DialogCtyruhelniku(Platna platna, const PravidlaCtyruhelniku& pravidla);
+    DialogCtyruhelniku(Misc& misc, Platna platna, const PravidlaCtyruhelniku& pravidla);
 
     void NovyPriklad() override;
     void Napis(int ktery, const std::string& text) override;
@@ -69,7 +69,7 @@ protected:
     void NakresliStranu(std::string_view jmeno1, Bod p1, std::string_view popis1,
                         std::string_view jmeno2, Bod p2, std::string_view popis2, bool znacky);
     /// The vertex of this name; none as long as it is not drawn.
-    [[nodiscard]] static std::optional<Bod> MistoVrcholu(std::string_view pismeno);
+    [[nodiscard]] std::optional<Bod> MistoVrcholu(std::string_view pismeno) const;
     /// Letters of the starting triangle in the order of construction; empty while it is open.
     [[nodiscard]] std::string_view Vrcholy() const;
     [[nodiscard]] const PravidlaCtyruhelniku& Pravidla() const { return pravidla_; }

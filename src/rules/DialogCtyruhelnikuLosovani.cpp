@@ -59,13 +59,13 @@ double Uhel(double a, double b, double proti) {
     return uhel == BEZ ? BEZ : uhel * STUPNU_PULOTACKY / PI;
 }
 
-double D(const VzorecUhlu& v, double t) {
-    return static_cast<double>(Generator.Rnd()) * v.Rozpeti + t + v.Zaklad;
+double D(Nahoda& nahoda, const VzorecUhlu& v, double t) {
+    return static_cast<double>(nahoda.Rnd()) * v.Rozpeti + t + v.Zaklad;
 }
 
 /// One draw; false if the values do not go together.
-bool Vylosuj(const SkupinaDruhu& s, bool rovnobeznost, HodnotyPrikladu& h) {
-    VylosujTri({STRANA, STRANA, s.Sus ? UHEL : STRANA}, h);
+bool Vylosuj(Nahoda& nahoda, const SkupinaDruhu& s, bool rovnobeznost, HodnotyPrikladu& h) {
+    VylosujTri(nahoda, {STRANA, STRANA, s.Sus ? UHEL : STRANA}, h);
     const double a = h[0];
     const double b = h[1];
     const double c =
@@ -76,7 +76,7 @@ bool Vylosuj(const SkupinaDruhu& s, bool rovnobeznost, HodnotyPrikladu& h) {
     for (const auto& [i, v] : {std::pair{3, s.Ctvrta}, std::pair{4, s.Pata}}) {
         const double uhel = t[v.Uhel];
         if (uhel == BEZ) return false;
-        const int hodnota = static_cast<int>(D(v, uhel));
+        const int hodnota = static_cast<int>(D(nahoda, v, uhel));
         if (v.Uhel != 0 && (hodnota < 0 || hodnota > NEJVETSI_UHEL)) return false;
         h[static_cast<std::size_t>(i)] = hodnota;
     }
@@ -192,7 +192,7 @@ bool JdeSestrojit(const Plane& plocha, const Priklad& p, const VetaTrojuhelniku&
 
 }  // namespace
 
-int VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
+int VylosujCtyruhelnik(Nahoda& nahoda, const Plane& plocha, const Priklad& p,
                        std::span<const VetaTrojuhelniku> vety, HodnotyPrikladu& hodnoty) {
     const auto veta = std::ranges::find_if(vety, [&p](const VetaTrojuhelniku& v) {
         return v.Veta == p.Text1 && v.Trojuhelnik == p.Text2;
@@ -201,7 +201,8 @@ int VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
     for (const SkupinaDruhu& s : SKUPINY) {
         if (std::ranges::find(s.Druhy, p.Druh) == s.Druhy.end() || veta == vety.end()) continue;
         for (int i = 1; i <= NEJVIC_LOSOVANI; ++i) {
-            if (Vylosuj(s, rovnobeznost, hodnoty) && JdeSestrojit(plocha, p, *veta, hodnoty)) {
+            if (Vylosuj(nahoda, s, rovnobeznost, hodnoty) &&
+                JdeSestrojit(plocha, p, *veta, hodnoty)) {
                 return i;
             }
         }

@@ -71,7 +71,7 @@ std::vector<Zadana> DialogCtyruhelnikuVrchol::Zadane() const {
 }
 
 bool DialogCtyruhelnikuVrchol::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
-    return VylosujCtyruhelnik(platna_.Pic, p, Pravidla().Vety, hodnoty) > 0;
+    return VylosujCtyruhelnik(misc_.Generator, platna_.Pic, p, Pravidla().Vety, hodnoty) > 0;
 }
 
 // ---- Lists -----------------------------------------------------------------------------------
@@ -114,8 +114,8 @@ std::vector<RadekSeznamu> DialogCtyruhelnikuVrchol::Paprsky() const {
 /// line was drawn before; by a ray none goes.
 std::vector<RadekSeznamu> DialogCtyruhelnikuVrchol::Primky() const {
     std::vector<RadekSeznamu> radky;
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+    for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
+        const Utvar& u = misc_.Utvary[i];
         auto r = RadekPrimky(u, Stav().ZvolenyUtvar == KOLMICE);
         if (!r || u.Druh == POLOPRIMKA) continue;
         if (u.Druh == USECKA && vrchol_.Rovnobezky) {
@@ -193,7 +193,7 @@ void DialogCtyruhelnikuVrchol::ZvolRovnobezku(const std::string& jmena) {
 }
 
 bool DialogCtyruhelnikuVrchol::PrvekSpravny(int faze) const {
-    const ZadanyPrvek& z = ZadanePrvky[faze];
+    const ZadanyPrvek& z = misc_.ZadanePrvky[faze];
     return std::ranges::any_of(std::array{1, 2}, [&](int n) {
         const Krok& krok = Hrany().Kroky[n];
         return !z.Utvar.empty() && z.Utvar == krok.Utvar && z.Prvek == krok.UtvarB;
@@ -235,7 +235,7 @@ void DialogCtyruhelnikuVrchol::PosudOdecet(double odecet) {
         const Krok& krok = Hrany().Kroky[n];
         if (krok.Utvar != druh || krok.UtvarB != Stav().ZvolenyPrvek) continue;
         if (odecet != Hodnoty()[static_cast<std::size_t>(n) + 2]) {
-            PridejChybu(cena->Chyba, JEDEN_BOD, 1);
+            PridejChybu(misc_, cena->Chyba, JEDEN_BOD, 1);
         }
         break;
     }
@@ -243,15 +243,15 @@ void DialogCtyruhelnikuVrchol::PosudOdecet(double odecet) {
 
 bool DialogCtyruhelnikuVrchol::ZacinaSpravne() const {
     const std::size_t kde = Stav().ZvolenyUtvar == KRUZNICE ? 1 : 0;
-    return ZacinaVBode(Stav().Start, Stav().ZvolenyPrvek.substr(kde, 1));
+    return ZacinaVBode(misc_, Stav().Start, Stav().ZvolenyPrvek.substr(kde, 1));
 }
 
 /// The fourth vertex and, where the objects meet twice, its second solution with an apostrophe,
 /// each with its two sides.
 void DialogCtyruhelnikuVrchol::Uzavri() {
     if (Stav().Nesestrojen) return;
-    const Utvar& prvniUtvar = Utvary[PocetUtvaru - 1];
-    const Utvar& druhyUtvar = Utvary[PocetUtvaru];
+    const Utvar& prvniUtvar = misc_.Utvary[misc_.PocetUtvaru - 1];
+    const Utvar& druhyUtvar = misc_.Utvary[misc_.PocetUtvaru];
     const Pruseciky body = PrusecikyUtvaru(platna_.Pic, prvniUtvar, druhyUtvar);
     // Rays to the wrong sides meet behind their starts: the read-out, which has no sign, cannot
     // tell, the figure does.

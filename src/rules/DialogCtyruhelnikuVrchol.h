@@ -20,9 +20,9 @@ struct PravidlaVrcholu {
 /// of two objects.
 class DialogCtyruhelnikuVrchol : public DialogCtyruhelniku {
 public:
-    DialogCtyruhelnikuVrchol(Platna platna, const PravidlaCtyruhelniku& pravidla,
+    DialogCtyruhelnikuVrchol(Misc& misc, Platna platna, const PravidlaCtyruhelniku& pravidla,
                              const PravidlaVrcholu& vrchol)
-        : DialogCtyruhelniku(platna, pravidla), vrchol_(vrchol) {}
+        : DialogCtyruhelniku(misc, platna, pravidla), vrchol_(vrchol) {}
 
 protected:
     /// The three of the record and, each with its step, those of the two objects.
@@ -63,7 +63,7 @@ private:
 /// drawn: the two objects meet, also with the play that a read-out leaves, it can be read, the
 /// vertices fit the plane after some travel of the arrows, and with a parallel a trapezoid comes
 /// out. How many draws it took; 0 for an unknown kind, whose values stay.
-[[nodiscard]] int VylosujCtyruhelnik(const Plane& plocha, const Priklad& p,
+[[nodiscard]] int VylosujCtyruhelnik(Nahoda& nahoda, const Plane& plocha, const Priklad& p,
                                      std::span<const VetaTrojuhelniku> vety,
                                      HodnotyPrikladu& hodnoty);
 

@@ -26,10 +26,10 @@ constexpr UvodPrimky UVODY[] = {{USECKA, "k úsečce ", "s úsečkou "},
                                 {KOLMICE, "k přímce ", "s přímkou "}};
 
 /// The last object of these names, one behind the other; 0 if none is.
-int UtvarSeJmeny(std::string_view jmena) {
+int UtvarSeJmeny(const Tabulky& t, std::string_view jmena) {
     int nalezeny = 0;
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        if (Utvary[i].Jmeno1 + Utvary[i].Jmeno2 == jmena) nalezeny = i;
+    for (int i = 1; i <= t.PocetUtvaru; ++i) {
+        if (t.Utvary[i].Jmeno1 + t.Utvary[i].Jmeno2 == jmena) nalezeny = i;
     }
     return nalezeny;
 }
@@ -40,8 +40,8 @@ int UtvarSeJmeny(std::string_view jmena) {
 
 void DialogKroku::NoveZadani() {
     Upravit().Znacky = 0;
-    cisloPrikladu_ = VylosujPriklad();
-    ZapomenZadanePrvky();
+    cisloPrikladu_ = VylosujPriklad(misc_);
+    ZapomenZadanePrvky(misc_);
     if (VylosujHodnoty(Hrany(), hodnoty_)) SestavZadani(zadani_);
 }
 
@@ -109,7 +109,7 @@ void DialogKroku::StiskNastroje(int i) {
     const Panel panel = UkazPanel();
     const auto nastroju = static_cast<int>(panel.cmd.size());
     if (i < 1 || i > nastroju || !panel.cmd[static_cast<std::size_t>(i - 1)].Zive) return;
-    KonstrukceZahajena = ANO;
+    misc_.KonstrukceZahajena = ANO;
     ZavriSeznam();
     if (i == NASTROJ_ZPET) return Zpet();
     if (Stav().Faze >= PosledniFaze()) return;  // a full construction takes no further object
@@ -160,9 +160,9 @@ void DialogKroku::Vyzvi(std::string vyzva, std::string jednotka) {
 }
 
 void DialogKroku::ZacniUtvar(std::string jmeno1, std::string jmeno2) {
-    SmazRadekUtvaru(PocetUtvaru + 1);
-    SmazRadekTrojic(PocetTrojic + 1);
-    Utvar& novy = Utvary[PocetUtvaru + 1];
+    misc_.SmazRadekUtvaru(misc_.PocetUtvaru + 1);
+    misc_.SmazRadekTrojic(misc_.PocetTrojic + 1);
+    Utvar& novy = misc_.Utvary[misc_.PocetUtvaru + 1];
     novy.Jmeno1 = std::move(jmeno1);
     novy.Jmeno2 = std::move(jmeno2);
     Upravit().CekaNaKresleni = true;
@@ -185,7 +185,7 @@ void DialogKroku::ZacniKruznici(std::string_view stred) {
 
 void DialogKroku::ZacniPrimku(const std::string& jmena, const std::string& nazev) {
     const std::string jmeno = Jmeno();
-    VybranyUtvar = UtvarSeJmeny(jmena);
+    misc_.VybranyUtvar = UtvarSeJmeny(misc_, jmena);
     ZacniUtvar(jmeno, "");
     StavKroku& s = Upravit();
     if (s.ZvolenyUtvar == ROVNOBEZKA) {
@@ -199,7 +199,7 @@ void DialogKroku::ZacniPrimku(const std::string& jmena, const std::string& nazev
 }
 
 void DialogKroku::ChybnaVolba(int cislo, std::string_view text) {
-    PridejChybu(cislo, text, 3);
+    PridejChybu(misc_, cislo, text, 3);
     Upravit().KrokChybny = true;
 }
 
@@ -218,7 +218,7 @@ bool DialogKroku::ObsadKrok(std::string_view druh) {
 }
 
 void DialogKroku::Zapis(std::string_view druh, std::string_view prvek) {
-    ZadanyPrvek& z = ZadanePrvky[Stav().Faze];
+    ZadanyPrvek& z = misc_.ZadanePrvky[Stav().Faze];
     z.Faze = static_cast<std::int16_t>(Stav().Faze);
     z.Utvar = druh;
     z.Prvek = prvek;
@@ -252,20 +252,20 @@ void DialogKroku::Zkontroluj() {
     s.Skontrolovano = true;
     s.Tazeni = false;
     ZavriSeznam();
-    UctujChybnePrvky(ChybnychPrvku());
+    UctujChybnePrvky(misc_, ChybnychPrvku());
     std::uint32_t ocekavane = 0;
     const auto prvky = NacrtPrikladu().Prvky;
     for (std::size_t i = 0; i < prvky.size(); ++i) {
         if (JeZadana(prvky[i].Velicina)) ocekavane |= 1U << i;
     }
-    UctujZnacky(s.Znacky == ocekavane);
-    if (!s.HotovaKonstrukce) UctujNedokoncenou(pravidlaKroku_.Zbytek);
+    UctujZnacky(misc_, s.Znacky == ocekavane);
+    if (!s.HotovaKonstrukce) UctujNedokoncenou(misc_, pravidlaKroku_.Zbytek);
 }
 
 // ---- The panel -------------------------------------------------------------------------------
 
 bool DialogKroku::MuzeZacit() const {
-    return KonstrukceZahajena != NE || Stav().Znacky != 0;
+    return misc_.KonstrukceZahajena != NE || Stav().Znacky != 0;
 }
 
 void DialogKroku::UkazNastroje(Panel& panel, const std::array<int, 6>& tvary,
@@ -298,7 +298,7 @@ Gesto DialogKroku::GestoKroku() const {
     const auto* r = std::ranges::find(RADKY, std::string_view(s.ZvolenyUtvar), &TahDruhu::Druh);
     if (r == std::end(RADKY)) return {Tvar::Bod, {}, {}, false};  // the board computes it, wherever
     if (r->Jak != Tvar::Usecka) return {r->Jak, s.BodVyzvy, {}, false};
-    const Utvar& nova = Utvary[PocetUtvaru + 1];
+    const Utvar& nova = misc_.Utvary[misc_.PocetUtvaru + 1];
     return {r->Jak, nova.Jmeno1, nova.Jmeno2, false};
 }
 

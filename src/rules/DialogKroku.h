@@ -71,8 +71,8 @@ struct StavKroku {
 /// costs is the board's.
 class DialogKroku : public Dialog {
 public:
-    DialogKroku(Platna platna, const PravidlaKroku& pravidla)
-        : Dialog(platna), pravidlaKroku_(pravidla) {}
+    DialogKroku(Misc& misc, Platna platna, const PravidlaKroku& pravidla)
+        : Dialog(misc, platna), pravidlaKroku_(pravidla) {}
 
     void NoveZadani() override;
     void StiskNastroje(int i) override;
@@ -98,7 +98,7 @@ public:
     [[nodiscard]] virtual const StavKroku& Stav() const = 0;
     /// Number of the example in play, its record, and its values in the order of its names.
     [[nodiscard]] int CisloPrikladu() const { return cisloPrikladu_; }
-    [[nodiscard]] const Priklad& Hrany() const { return Priklady[cisloPrikladu_]; }
+    [[nodiscard]] const Priklad& Hrany() const { return misc_.Priklady[cisloPrikladu_]; }
     [[nodiscard]] const HodnotyPrikladu& Hodnoty() const { return hodnoty_; }
     /// The example's value of a quantity; none if it is not given.
     [[nodiscard]] std::optional<int> Hodnota(std::string_view velicina) const;
@@ -178,7 +178,7 @@ protected:
     /// The step is drawn: the next phase, or the end.
     void DalsiFaze();
     /// The base line of the perpendicular or parallel in hand.
-    [[nodiscard]] static const Utvar& Zakladna();
+    [[nodiscard]] const Utvar& Zakladna() const;
     [[nodiscard]] bool JeZadana(std::string_view velicina) const {
         return Hodnota(velicina).has_value();
     }
@@ -191,7 +191,7 @@ protected:
                       const std::array<bool, 6>& naRade) const;
     /// The step in which one of the two objects is chosen that meet in a vertex.
     void UkazVolbuUtvaru(Panel& panel, std::string_view vyzva) const;
-    [[nodiscard]] Priklad& HranyProUpravu() { return Priklady[cisloPrikladu_]; }
+    [[nodiscard]] Priklad& HranyProUpravu() { return misc_.Priklady[cisloPrikladu_]; }
     [[nodiscard]] std::vector<PolozkaZadani>& ZadaniProUpravu() { return zadani_; }
 
 private:

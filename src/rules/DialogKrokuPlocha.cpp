@@ -42,16 +42,16 @@ const DialogKroku::DruhTahu* DialogKroku::Druh() const {
     return nullptr;
 }
 
-const Utvar& DialogKroku::Zakladna() {
-    return Utvary[VybranyUtvar];
+const Utvar& DialogKroku::Zakladna() const {
+    return misc_.Utvary[misc_.VybranyUtvar];
 }
 
 Zachyt DialogKroku::ChytPosledni(float x, float y) const {
-    return ZachytPosledni(x, y);
+    return ZachytPosledni(misc_, x, y);
 }
 
 Zachyt DialogKroku::ChytStred(float x, float y) const {
-    return ZachytNejblizsi(x, y, Stav().ZvolenyPrvek.starts_with(STRED_STRANY));
+    return ZachytNejblizsi(misc_, x, y, Stav().ZvolenyPrvek.starts_with(STRED_STRANY));
 }
 
 Zachyt DialogKroku::ChytZakladnu(float x, float y) const {
@@ -119,7 +119,7 @@ std::uint32_t DialogKroku::CekaniPoTahu() const {
 }
 
 bool DialogKroku::ZacinaSpravne() const {
-    return ZacinaVBode(Stav().Start, Stav().ZvolenyPrvek.substr(0, 1));
+    return ZacinaVBode(misc_, Stav().Start, Stav().ZvolenyPrvek.substr(0, 1));
 }
 
 void DialogKroku::PusteniPlochy(float x, float y) {
@@ -128,7 +128,7 @@ void DialogKroku::PusteniPlochy(float x, float y) {
         PosudOdecet(CisloZOdectu(Tah(x, y).Text));
         for (const CenaPocatku& c : pravidlaKroku_.CenyPocatku) {
             if (c.Druh != Stav().ZvolenyUtvar || ZacinaSpravne()) continue;
-            PridejChybu(Stav().Faze == 2 ? c.Prvni : c.Druhy, JEDEN_BOD, 1);
+            PridejChybu(misc_, Stav().Faze == 2 ? c.Prvni : c.Druhy, JEDEN_BOD, 1);
         }
     }
     NakresliUtvar(NaPixely(x, y));
@@ -139,37 +139,46 @@ void DialogKroku::NakresliUtvar(Bod konec) {
     const DruhTahu* druh = Druh();
     if (druh == nullptr) Selhani("Útvar se nedá narýsovat: " + Stav().ZvolenyUtvar);
     platna_.Pic.DrawWidth = 1;
-    (this->*druh->Nakresli)(++PocetUtvaru, konec);
+    (this->*druh->Nakresli)(++misc_.PocetUtvaru, konec);
 }
 
 void DialogKroku::NakresliUsecku(int n, Bod konec) const {
     const Bod p = Stav().Start;
-    const std::string jmeno1 = Utvary[n].Jmeno1;
-    const std::string jmeno2 = Utvary[n].Jmeno2;
+    const std::string jmeno1 = misc_.Utvary[n].Jmeno1;
+    const std::string jmeno2 = misc_.Utvary[n].Jmeno2;
     const auto delka = static_cast<float>(DelkaVCm(Vzdalenost(p, konec)));
-    KresliUsecku(platna_.Pic, USECKA, n, p.X, p.Y, konec.X, konec.Y, delka, jmeno1, jmeno2, ANO,
-                 ANO, ANO);
+    KresliUsecku(misc_, platna_.Pic, n,
+                 {.Druh = USECKA,
+                  .P1 = p,
+                  .P2 = konec,
+                  .Popis1 = jmeno1,
+                  .Popis2 = jmeno2,
+                  .Delka = delka,
+                  .Znacky = ANO},
+                 ANO);
 }
 
 void DialogKroku::NakresliPoloprimku(int n, Bod konec) const {
     const Bod p = Stav().Start;
-    const std::string jmeno2 = Utvary[n].Jmeno2;
-    KresliPoloprimku(platna_.Pic, POLOPRIMKA, n, p.X, p.Y, konec.X, konec.Y, jmeno2, ANO);
+    const std::string jmeno2 = misc_.Utvary[n].Jmeno2;
+    KresliPoloprimku(misc_, platna_.Pic, n,
+                     {.Druh = POLOPRIMKA, .P1 = p, .P2 = konec, .Popis2 = jmeno2}, ANO);
 }
 
 void DialogKroku::NakresliKruznici(int n, Bod konec) const {
     const Bod p = Stav().Start;
-    KresliKruznici(platna_.Pic, KRUZNICE, n, p.X, p.Y, konec.X, ANO);
+    KresliKruznici(misc_, platna_.Pic, n, {.Druh = KRUZNICE, .P1 = p, .P2 = {konec.X, p.Y}}, ANO);
 }
 
 void DialogKroku::NakresliKolmici(int n, Bod konec) const {
     const auto& [p, q] = BodyPrimky(konec);
-    KresliKolmici(platna_.Pic, KOLMICE, n, p.X, p.Y, q.X, q.Y, ANO);
+    KresliKolmici(misc_, platna_.Pic, n, {.Druh = KOLMICE, .P1 = p, .P2 = q}, ANO);
 }
 
 void DialogKroku::NakresliRovnobezku(int n, Bod konec) const {
     const Dvojice p = BodyPrimky(konec);
-    KresliPosunutou(platna_.Pic, n, UlozRovnobezku(platna_.Pic, p, BodRovnobezky(konec), konec));
+    KresliPosunutou(misc_, platna_.Pic, n,
+                    UlozRovnobezku(platna_.Pic, p, BodRovnobezky(konec), konec));
 }
 
 }  // namespace rysovna

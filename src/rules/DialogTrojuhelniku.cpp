@@ -24,13 +24,15 @@ constexpr int SIRKA_HOTOVYCH_STRAN = 2;  // px
 
 }  // namespace
 
-DialogTrojuhelniku::DialogTrojuhelniku(Platna platna, const PravidlaTrojuhelniku& pravidla)
-    : DialogKroku(platna, {"Sestroj trojúhelník ABC:",
-                           {pravidla.Nacrt, PISMENA},
-                           JMENA,
-                           CENY_POCATKU,
-                           {2, 3},
-                           TvarBodu::VzdyBod}),
+DialogTrojuhelniku::DialogTrojuhelniku(Misc& misc, Platna platna,
+                                       const PravidlaTrojuhelniku& pravidla)
+    : DialogKroku(misc, platna,
+                  {"Sestroj trojúhelník ABC:",
+                   {pravidla.Nacrt, PISMENA},
+                   JMENA,
+                   CENY_POCATKU,
+                   {2, 3},
+                   TvarBodu::VzdyBod}),
       pravidla_(pravidla) {
     // The labels' captions as designed: a caption that no rule sets stays as it is.
     for (const std::string_view navrh : {"a", "b", "c"}) {
@@ -40,12 +42,12 @@ DialogTrojuhelniku::DialogTrojuhelniku(Platna platna, const PravidlaTrojuhelniku
 }
 
 void DialogTrojuhelniku::NovyPriklad() {
-    VyprazdniKonstrukci(platna_);
+    VyprazdniKonstrukci(misc_, platna_);
     stav_ = StavTrojuhelniku{};
 }
 
 void DialogTrojuhelniku::Posun(int dx, int dy) {
-    PosunVse(platna_.HidenPic, platna_.Pic, dx, dy);
+    PosunVse(misc_, platna_.HidenPic, platna_.Pic, dx, dy);
     if (!stav_.HotovaKonstrukce) return;
     // The redraw wrote over the last snap record: the vertex is the dialogue's own, and goes on.
     stav_.Vrchol.X += dx;
@@ -72,20 +74,20 @@ void DialogTrojuhelniku::PosudStisk(const Zachyt& zachyt) {
     const std::string& druh = stav_.ZvolenyUtvar;
     const CenaVeliciny* cena = stav_.KrokChybny ? nullptr : Cena();
     if (cena != nullptr && !HodnotaSedi(Cislo(stav_.txtVstup.Text))) {
-        PridejChybu(cena->Napsana, JEDEN_BOD, 1);
+        PridejChybu(misc_, cena->Napsana, JEDEN_BOD, 1);
     } else if (druh == POLOPRIMKA && !stav_.KrokChybny && zachyt.Je &&
-               !BodMaJmeno(zachyt.Misto, stav_.ZvolenyPrvek.substr(0, 1))) {
-        PridejChybu(CHYBA_PAPRSEK_JINDE, JEDEN_BOD, 1);
+               !BodMaJmeno(misc_, zachyt.Misto, stav_.ZvolenyPrvek.substr(0, 1))) {
+        PridejChybu(misc_, CHYBA_PAPRSEK_JINDE, JEDEN_BOD, 1);
     }
-    if (druh == KOLMICE) PridejChybu(CHYBA_KOLMICE, TRI_BODY, 3);
+    if (druh == KOLMICE) PridejChybu(misc_, CHYBA_KOLMICE, TRI_BODY, 3);
     if (druh == ROVNOBEZKA && pravidla_.ChybaRovnobezky != 0) {
-        PridejChybu(pravidla_.ChybaRovnobezky, TRI_BODY, 3);
+        PridejChybu(misc_, pravidla_.ChybaRovnobezky, TRI_BODY, 3);
     }
 }
 
 /// The angle against the first side, from the end at which the ray's vertex is.
 std::string DialogTrojuhelniku::OdectiPaprsek(Bod konec) const {
-    const Utvar& strana = Utvary[1];
+    const Utvar& strana = misc_.Utvary[1];
     const bool odPrvni = strana.Jmeno1 == stav_.ZvolenyPrvek.substr(0, 1);
     const Bod p1{strana.X1, strana.Y1};
     const Bod p2{strana.X2, strana.Y2};
@@ -94,7 +96,7 @@ std::string DialogTrojuhelniku::OdectiPaprsek(Bod konec) const {
 
 void DialogTrojuhelniku::PosudOdecet(double odecet) {
     const CenaVeliciny* cena = Cena();
-    if (cena != nullptr && !HodnotaSedi(odecet)) PridejChybu(cena->Nakreslena, JEDEN_BOD, 1);
+    if (cena != nullptr && !HodnotaSedi(odecet)) PridejChybu(misc_, cena->Nakreslena, JEDEN_BOD, 1);
 }
 
 // ---- Closing and back ------------------------------------------------------------------------
@@ -102,17 +104,17 @@ void DialogTrojuhelniku::PosudOdecet(double odecet) {
 void DialogTrojuhelniku::Uzavri() {
     if (!NajdiVrchol()) return;
     ObtahniStrany();
-    ++PocetTrojic;
+    ++misc_.PocetTrojic;
     ZapisVrchol();
     stav_.HotovaKonstrukce = true;
 }
 
 bool DialogTrojuhelniku::NajdiVrchol() {
-    const Utvar& strana = Utvary[PocetUtvaru - 2];
+    const Utvar& strana = misc_.Utvary[misc_.PocetUtvaru - 2];
     const std::string jmena = strana.Jmeno1 + strana.Jmeno2;
     stav_.PismenoVrcholu = jmena == "AB" ? "C" : jmena == "AC" ? "B" : "A";
-    const Pruseciky body =
-        PrusecikyUtvaru(platna_.Pic, Utvary[PocetUtvaru - 1], Utvary[PocetUtvaru]);
+    const Pruseciky body = PrusecikyUtvaru(platna_.Pic, misc_.Utvary[misc_.PocetUtvaru - 1],
+                                           misc_.Utvary[misc_.PocetUtvaru]);
     if (body.P1 == BEZ_BODU) return false;
     stav_.Vrchol = VyberVrchol(strana, body);
     return true;
@@ -120,7 +122,7 @@ bool DialogTrojuhelniku::NajdiVrchol() {
 
 /// The two sides that meet in the third vertex, and its letter.
 void DialogTrojuhelniku::ObtahniStrany() {
-    const Utvar& strana = Utvary[PocetUtvaru - 2];
+    const Utvar& strana = misc_.Utvary[misc_.PocetUtvaru - 2];
     Plane& pic = platna_.Pic;
     pic.DrawWidth = SIRKA_HOTOVYCH_STRAN;
     const auto x = static_cast<float>(stav_.Vrchol.X);
@@ -132,16 +134,16 @@ void DialogTrojuhelniku::ObtahniStrany() {
 
 /// The last snap record becomes the third vertex.
 void DialogTrojuhelniku::ZapisVrchol() {
-    SmazRadekTrojic(PocetTrojic);
-    Trojice& zachyt = Trojice_tab[PocetTrojic];
+    misc_.SmazRadekTrojic(misc_.PocetTrojic);
+    Trojice& zachyt = misc_.Trojice_tab[misc_.PocetTrojic];
     zachyt.X1 = stav_.Vrchol.X;
     zachyt.Y1 = stav_.Vrchol.Y;
     zachyt.Jmeno1 = stav_.PismenoVrcholu;
 }
 
 void DialogTrojuhelniku::VratFazi() {
-    --PocetUtvaru;
-    --PocetTrojic;
+    --misc_.PocetUtvaru;
+    --misc_.PocetTrojic;
     stav_.Vrchol = BEZ_BODU;
     if (stav_.Faze >= 2) {
         auto& kroky = HranyProUpravu().Kroky;
@@ -149,8 +151,8 @@ void DialogTrojuhelniku::VratFazi() {
         kroky[3].Hotovo = NE;
     }
     // The closing added a snap record of its own: the count of two objects is known.
-    if (stav_.Faze == 3) PocetUtvaru = PocetTrojic = 2;
-    PrekresliVse(platna_.HidenPic, platna_.Pic);
+    if (stav_.Faze == 3) misc_.PocetUtvaru = misc_.PocetTrojic = 2;
+    PrekresliVse(misc_, platna_.HidenPic, platna_.Pic);
 }
 
 // ---- The check and the panel -----------------------------------------------------------------
@@ -159,7 +161,7 @@ int DialogTrojuhelniku::ChybnychPrvku() const {
     const auto& kroky = Hrany().Kroky;
     int chybnych = 0;
     for (int radek = 1; radek <= 3; ++radek) {
-        const ZadanyPrvek& z = ZadanePrvky[radek];
+        const ZadanyPrvek& z = misc_.ZadanePrvky[radek];
         const bool druh = radek == 1 ? DruhSedi(kroky[1], z.Utvar)
                                      : DruhSedi(kroky[2], z.Utvar) || DruhSedi(kroky[3], z.Utvar);
         if (!JeZadana(z.Prvek) || !druh) ++chybnych;

@@ -51,7 +51,7 @@ struct StavTrojuhelniku : StavKroku {
 /// are charged as they are made and drawn all the same.
 class DialogTrojuhelniku : public DialogKroku {
 public:
-    DialogTrojuhelniku(Platna platna, const PravidlaTrojuhelniku& pravidla);
+    DialogTrojuhelniku(Misc& misc, Platna platna, const PravidlaTrojuhelniku& pravidla);
 
     void NovyPriklad() override;
     void Posun(int dx, int dy) override;

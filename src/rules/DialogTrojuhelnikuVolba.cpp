@@ -80,8 +80,8 @@ void DialogTrojuhelniku::ZvolRadek(std::size_t i) {
 /// Whether the letter is a name of the last object, in phase 3 also of the one before.
 bool DialogTrojuhelniku::VrcholVDosahu(std::string_view pismeno) const {
     const int kolik = stav_.Faze == 3 ? 2 : 1;
-    for (int i = PocetUtvaru; i > PocetUtvaru - kolik && i >= 1; --i) {
-        if (Utvary[i].Jmeno1 == pismeno || Utvary[i].Jmeno2 == pismeno) return true;
+    for (int i = misc_.PocetUtvaru; i > misc_.PocetUtvaru - kolik && i >= 1; --i) {
+        if (misc_.Utvary[i].Jmeno1 == pismeno || misc_.Utvary[i].Jmeno2 == pismeno) return true;
     }
     return false;
 }
@@ -107,8 +107,8 @@ std::vector<RadekSeznamu> DialogTrojuhelniku::Paprsky() const {
 /// What a perpendicular or a parallel can go by: the first side, and the first object if straight.
 std::vector<RadekSeznamu> DialogTrojuhelniku::Primky() const {
     std::vector<RadekSeznamu> radky;
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        auto r = RadekPrimky(Utvary[i], stav_.ZvolenyUtvar == KOLMICE);
+    for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
+        auto r = RadekPrimky(misc_.Utvary[i], stav_.ZvolenyUtvar == KOLMICE);
         if (r) radky.push_back(std::move(*r));
     }
     return radky;
@@ -143,7 +143,7 @@ void DialogTrojuhelniku::ZvolStranu(std::size_t i) {
 void DialogTrojuhelniku::ZvolPaprsek(std::size_t i) {
     const RadekPaprsku& r = PAPRSKY[i];
     const std::string vrchol(r.Vrchol);
-    const Utvar& posledni = Utvary[PocetUtvaru];
+    const Utvar& posledni = misc_.Utvary[misc_.PocetUtvaru];
     stav_.Velicina = r.Uhel;
     stav_.ZvolenyPrvek = vrchol + stav_.Velicina;
     ZacniPaprsek(posledni.Jmeno1 == vrchol ? posledni.Jmeno2 : posledni.Jmeno1, vrchol);
@@ -172,7 +172,7 @@ void DialogTrojuhelniku::ZvolRovnobezku(std::size_t i) {
 
 void DialogTrojuhelniku::ZvolKruznici(std::size_t i) {
     const RadekKruznice& r = pravidla_.Kruznice[i];
-    const Utvar& strana = Utvary[stav_.Faze == 2 ? PocetUtvaru : PocetUtvaru - 1];
+    const Utvar& strana = misc_.Utvary[stav_.Faze == 2 ? misc_.PocetUtvaru : misc_.PocetUtvaru - 1];
     const std::string jmena = strana.Jmeno1 + strana.Jmeno2;
     const std::size_t podle = jmena == "AB" ? 0 : jmena == "AC" ? 1 : 2;
     if (const RadekKruznice::Podle& p = r.PodleStrany[podle]; !p.Prvek.empty()) {

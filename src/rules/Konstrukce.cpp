@@ -1,40 +1,37 @@
 #include "rules/Konstrukce.h"
 
-#include "engine/Tabulky.h"
-#include "rules/Misc.h"
-
 namespace rysovna {
 
-void VyprazdniKonstrukci(const Platna& platna) {
+void VyprazdniKonstrukci(Misc& misc, const Platna& platna) {
     for (Plane* p : {&platna.Pic, &platna.HidenPic}) {
         p->DrawWidth = 1;
         p->Cls();
     }
-    for (int i = 0; i <= decltype(Utvary)::POSLEDNI; ++i) {
-        SmazRadekUtvaru(i);
-        SmazRadekTrojic(i);
+    for (int i = 0; i <= decltype(Misc::Utvary)::POSLEDNI; ++i) {
+        misc.SmazRadekUtvaru(i);
+        misc.SmazRadekTrojic(i);
     }
-    ChybneKroky.Smaz();
-    for (int i = 1; i <= decltype(Priklady)::POSLEDNI; ++i) {
+    misc.ChybneKroky.Smaz();
+    for (int i = 1; i <= decltype(Misc::Priklady)::POSLEDNI; ++i) {
         for (int k = 1; k <= decltype(Priklad::Kroky)::POSLEDNI; ++k)
-            Priklady[i].Kroky[k].Hotovo = NE;
+            misc.Priklady[i].Kroky[k].Hotovo = NE;
     }
-    PocetUtvaru = 0;
-    PocetTrojic = 0;
-    SoucetZapornychBodu = 0;
-    PocetChybnychKroku = 0;
-    VybranyUtvar = 0;
-    KonstrukceZahajena = NE;
-    PosunX = 0;
-    PosunY = 0;
+    misc.PocetUtvaru = 0;
+    misc.PocetTrojic = 0;
+    misc.SoucetZapornychBodu = 0;
+    misc.PocetChybnychKroku = 0;
+    misc.VybranyUtvar = 0;
+    misc.KonstrukceZahajena = NE;
+    misc.PosunX = 0;
+    misc.PosunY = 0;
 }
 
-void ZapomenZadanePrvky() {
+void ZapomenZadanePrvky(Misc& misc) {
     constexpr int RADKU = 10;
     for (int i = 1; i <= RADKU; ++i) {
-        ZadanePrvky[i].Faze = 0;
-        ZadanePrvky[i].Utvar.clear();
-        ZadanePrvky[i].Prvek.clear();
+        misc.ZadanePrvky[i].Faze = 0;
+        misc.ZadanePrvky[i].Utvar.clear();
+        misc.ZadanePrvky[i].Prvek.clear();
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Plane.h"
+#include "rules/Misc.h"
 
 namespace rysovna {
 
@@ -13,8 +14,8 @@ struct Platna {
 /// Empties the construction for a new example: planes, counters, the rows of the construction and
 /// of the wrong steps, every done flag of every record. What the pupil entered goes with the choice
 /// of the new example.
-void VyprazdniKonstrukci(const Platna& platna);
+void VyprazdniKonstrukci(Misc& misc, const Platna& platna);
 /// Clears what the pupil entered in the first ten phases.
-void ZapomenZadanePrvky();
+void ZapomenZadanePrvky(Misc& misc);
 
 }  // namespace rysovna

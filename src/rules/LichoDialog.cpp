@@ -41,7 +41,8 @@ constexpr PravidlaVrcholu VRCHOL{.Rovnobezky = true};
 
 }  // namespace
 
-LichoDialog::LichoDialog(Platna platna) : DialogCtyruhelnikuVrchol(platna, PRAVIDLA, VRCHOL) {}
+LichoDialog::LichoDialog(Misc& misc, Platna platna)
+    : DialogCtyruhelnikuVrchol(misc, platna, PRAVIDLA, VRCHOL) {}
 
 /// The figure is that of the assignment: with one pair of sides parallel or the other.
 Nacrt LichoDialog::NacrtPrikladu() const {

@@ -10,7 +10,7 @@ namespace rysovna {
 /// the two objects of the fourth vertex.
 class LichoDialog final : public DialogCtyruhelnikuVrchol {
 public:
-    explicit LichoDialog(Platna platna);
+    LichoDialog(Misc& misc, Platna platna);
 
 protected:
     [[nodiscard]] Nacrt NacrtPrikladu() const override;

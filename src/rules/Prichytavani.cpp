@@ -29,13 +29,13 @@ bool JeCilem(const Trojice& t, const Cil& cil, std::size_t poradi, bool tretiBod
 
 /// Goes through the snap records but one; vezmi(point) says whether a hit replaces what is kept.
 template <class F>
-Zachyt Projdi(float x, float y, bool tretiBody, int kromeRadku, F vezmi) {
+Zachyt Projdi(const Tabulky& t, float x, float y, bool tretiBody, int kromeRadku, F vezmi) {
     Zachyt zachyt{false, {Zaokrouhli(x), Zaokrouhli(y)}};
-    for (int i = 1; i <= PocetTrojic; ++i) {
+    for (int i = 1; i <= t.PocetTrojic; ++i) {
         if (i == kromeRadku) continue;
-        const auto cile = Cile(Trojice_tab[i]);
+        const auto cile = Cile(t.Trojice_tab[i]);
         for (std::size_t j = 0; j < cile.size(); ++j) {
-            if (!JeCilem(Trojice_tab[i], cile[j], j, tretiBody) || !Zasah(x, y, cile[j].Misto))
+            if (!JeCilem(t.Trojice_tab[i], cile[j], j, tretiBody) || !Zasah(x, y, cile[j].Misto))
                 continue;
             if (!zachyt.Je || vezmi(zachyt.Misto, cile[j].Misto)) zachyt = {true, cile[j].Misto};
             break;
@@ -53,29 +53,29 @@ bool Zasah(float x, float y, Bod bod) {
     return x > X - D && x < X + D && y > Y - D && y < Y + D;
 }
 
-Zachyt ZachytPosledni(float x, float y, bool tretiBody, int kromeRadku) {
-    return Projdi(x, y, tretiBody, kromeRadku, [](Bod, Bod) { return true; });
+Zachyt ZachytPosledni(const Tabulky& t, float x, float y, bool tretiBody, int kromeRadku) {
+    return Projdi(t, x, y, tretiBody, kromeRadku, [](Bod, Bod) { return true; });
 }
 
-Zachyt ZachytNejblizsi(float x, float y, bool tretiBody) {
-    return Projdi(x, y, tretiBody, 0, [x, y](Bod stary, Bod novy) {
+Zachyt ZachytNejblizsi(const Tabulky& t, float x, float y, bool tretiBody) {
+    return Projdi(t, x, y, tretiBody, 0, [x, y](Bod stary, Bod novy) {
         const auto dal = [](float p, int a) { return std::fabs(p - static_cast<float>(a)); };
         return dal(x, novy.X) < dal(x, stary.X) && dal(y, novy.Y) < dal(y, stary.Y);
     });
 }
 
-bool BodMaJmeno(Bod bod, std::string_view jmeno) {
-    for (int i = 1; i <= PocetTrojic; ++i) {
-        for (const Cil& cil : Cile(Trojice_tab[i])) {
+bool BodMaJmeno(const Tabulky& t, Bod bod, std::string_view jmeno) {
+    for (int i = 1; i <= t.PocetTrojic; ++i) {
+        for (const Cil& cil : Cile(t.Trojice_tab[i])) {
             if (cil.Misto == bod && *cil.Jmeno == jmeno) return true;
         }
     }
     return false;
 }
 
-bool ZacinaVBode(Bod start, std::string_view jmeno) {
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+bool ZacinaVBode(const Tabulky& t, Bod start, std::string_view jmeno) {
+    for (int i = 1; i <= t.PocetUtvaru; ++i) {
+        const Utvar& u = t.Utvary[i];
         if (u.Jmeno1 == jmeno && Bod{u.X1, u.Y1} == start) return true;
         if (u.Jmeno2 == jmeno && Bod{u.X2, u.Y2} == start) return true;
     }

@@ -150,13 +150,14 @@ bool FiguraCitelna(const Plane& plocha, const Priklad& p, const HodnotyPrikladu&
 
 }  // namespace
 
-int VylosujRovnobeznik(const Plane& plocha, const Priklad& p, HodnotyPrikladu& hodnoty) {
+int VylosujRovnobeznik(Nahoda& nahoda, const Plane& plocha, const Priklad& p,
+                       HodnotyPrikladu& hodnoty) {
     const std::string_view nazvy[] = {p.Nazev1, p.Nazev2, p.Nazev3};
     for (const Losovani& l : LOSOVANI) {
         if (p.Druh < l.Od || p.Druh > l.Po) continue;
         const std::size_t lichy = p.Druh.back() % 2 == 0 ? 0 : 1;
         for (int i = 1; i <= NEJVIC_LOSOVANI; ++i) {
-            VylosujTri({DELKA, DELKA, l.Treti[lichy]}, hodnoty);
+            VylosujTri(nahoda, {DELKA, DELKA, l.Treti[lichy]}, hodnoty);
             if (Vyhovuje(l, nazvy, hodnoty) && FiguraCitelna(plocha, p, hodnoty)) return i;
         }
         return NEJVIC_LOSOVANI;
@@ -164,10 +165,10 @@ int VylosujRovnobeznik(const Plane& plocha, const Priklad& p, HodnotyPrikladu& h
     return 0;
 }
 
-RovnoDialog::RovnoDialog(Platna platna) : DialogCtyruhelniku(platna, PRAVIDLA) {}
+RovnoDialog::RovnoDialog(Misc& misc, Platna platna) : DialogCtyruhelniku(misc, platna, PRAVIDLA) {}
 
 bool RovnoDialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
-    return VylosujRovnobeznik(platna_.Pic, p, hodnoty) > 0;
+    return VylosujRovnobeznik(misc_.Generator, platna_.Pic, p, hodnoty) > 0;
 }
 
 bool RovnoDialog::SeStredem() const {
@@ -217,8 +218,8 @@ std::string RovnoDialog::HledanyBod() const {
 
 /// Where a vertex is: of the triangle, or an image found already.
 std::optional<Bod> RovnoDialog::Misto(std::string_view pismeno) const {
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+    for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
+        const Utvar& u = misc_.Utvary[i];
         if (u.Druh == BOD && u.Jmeno1 == pismeno) return Bod{u.X1, u.Y1};
     }
     return MistoVrcholu(pismeno);
@@ -283,8 +284,9 @@ void RovnoDialog::ZvolObraz(const std::string& vzor) {
 }
 
 bool RovnoDialog::PrvekSpravny(int faze) const {
-    const auto sedi = [](int f, std::string_view druh, const std::vector<std::string_view>& jmena) {
-        const ZadanyPrvek& z = ZadanePrvky[f];
+    const auto sedi = [this](int f, std::string_view druh,
+                             const std::vector<std::string_view>& jmena) {
+        const ZadanyPrvek& z = misc_.ZadanePrvky[f];
         return z.Utvar == druh &&
                std::ranges::find(jmena, std::string_view(z.Prvek)) != jmena.end();
     };
@@ -302,7 +304,8 @@ bool RovnoDialog::PrvekSpravny(int faze) const {
 /// Marks the centre. maPismeno: it is the vertex S of the triangle, which has its letter already.
 void RovnoDialog::NakresliStred(Bod stred, bool maPismeno) {
     const int n = NovyUtvar(STRED, "");
-    KresliBod(platna_.Pic, BOD, STRED, n, stred.X, stred.Y, maPismeno ? "" : STRED, "", ANO);
+    KresliBod(misc_, platna_.Pic, n, {.Druh = BOD, .P1 = stred, .Popis1 = maPismeno ? "" : STRED},
+              ANO);
 }
 
 /// The click marks the computed point, near or far: where the triangle is missing, its own place.
@@ -320,7 +323,7 @@ void RovnoDialog::NakresliUtvar(Bod /*konec*/) {
         const auto stred = Misto(STRED);
         if (vzor && stred) bod = ObrazVeStredu(*vzor, *stred);
         const int n = NovyUtvar(hledany, "");
-        KresliBod(platna_.Pic, BOD, hledany, n, bod.X, bod.Y, hledany, "", ANO);
+        KresliBod(misc_, platna_.Pic, n, {.Druh = BOD, .P1 = bod, .Popis1 = hledany}, ANO);
     }
 }
 
@@ -331,7 +334,7 @@ void RovnoDialog::Uzavri() {
     for (const std::string_view s : STRANY) {
         const std::string_view od = s.substr(0, 1);
         const std::string_view k = s.substr(1);
-        const bool stoji = std::any_of(&Utvary[1], &Utvary[3] + 1, [&](const Utvar& u) {
+        const bool stoji = std::any_of(&misc_.Utvary[1], &misc_.Utvary[3] + 1, [&](const Utvar& u) {
             return (u.Jmeno1 == od && u.Jmeno2 == k) || (u.Jmeno1 == k && u.Jmeno2 == od);
         });
         const auto p = Misto(od);

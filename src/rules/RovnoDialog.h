@@ -13,7 +13,7 @@ namespace rysovna {
 /// centre of symmetry and the missing vertices as images in it. 60 kinds of example.
 class RovnoDialog final : public DialogCtyruhelniku {
 public:
-    explicit RovnoDialog(Platna platna);
+    RovnoDialog(Misc& misc, Platna platna);
 
 protected:
     [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;
@@ -40,7 +40,7 @@ private:
 
 /// Draws the three values of a kind, again until they make a figure that can be read. How many
 /// draws it took; 0 for an unknown kind, whose values stay.
-[[nodiscard]] int VylosujRovnobeznik(const Plane& plocha, const Priklad& p,
+[[nodiscard]] int VylosujRovnobeznik(Nahoda& nahoda, const Plane& plocha, const Priklad& p,
                                      HodnotyPrikladu& hodnoty);
 
 }  // namespace rysovna

@@ -22,34 +22,34 @@ bool JePrima(const Utvar& u) {
 
 /// The base's name behind the words that the list of perpendiculars or that of parallels has for
 /// its kind; empty when there is no such object.
-std::string SlovyPrimku(std::string_view jmeno, std::string_view uPrimky,
+std::string SlovyPrimku(const Tabulky& t, std::string_view jmeno, std::string_view uPrimky,
                         std::string_view uUsecky) {
-    const int i = NajdiCaru(jmeno);
+    const int i = NajdiCaru(t, jmeno);
     if (i == 0) return {};
-    return std::string(Utvary[i].Druh == USECKA ? uUsecky : uPrimky) + std::string(jmeno);
+    return std::string(t.Utvary[i].Druh == USECKA ? uUsecky : uPrimky) + std::string(jmeno);
 }
 
 }  // namespace
 
-Bod NajdiBod(std::string_view jmeno) {
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+Bod NajdiBod(const Tabulky& t, std::string_view jmeno) {
+    for (int i = 1; i <= t.PocetUtvaru; ++i) {
+        const Utvar& u = t.Utvary[i];
         if ((u.Druh == BOD || u.Druh == USECKA) && u.Jmeno1 == jmeno) return {u.X1, u.Y1};
         if (u.Druh == USECKA && u.Jmeno2 == jmeno) return {u.X2, u.Y2};
     }
     return BEZ_BODU;
 }
 
-int NajdiCaru(std::string_view jmeno) {
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+int NajdiCaru(const Tabulky& t, std::string_view jmeno) {
+    for (int i = 1; i <= t.PocetUtvaru; ++i) {
+        const Utvar& u = t.Utvary[i];
         if ((JePrima(u) || u.Druh == KRUZNICE) && u.Jmeno1 + u.Jmeno2 == jmeno) return i;
     }
     return 0;
 }
 
 const Cviceni* TecnyDialog::Hrane() const {
-    return NajdiCviceni(Priklady[cisloPrikladu_].Druh);
+    return NajdiCviceni(misc_.Priklady[cisloPrikladu_].Druh);
 }
 
 const KrokTecny* TecnyDialog::KrokFaze(int faze) const {
@@ -64,7 +64,7 @@ bool TecnyDialog::Znaci() const {
 }
 
 void TecnyDialog::NovyPriklad() {
-    VyprazdniKonstrukci(platna_);
+    VyprazdniKonstrukci(misc_, platna_);
     stav_ = {};
     minulost_.clear();
     zadano_ = false;
@@ -72,12 +72,12 @@ void TecnyDialog::NovyPriklad() {
 
 void TecnyDialog::NoveZadani() {
     NovyPriklad();
-    cisloPrikladu_ = VylosujPriklad();
-    ZapomenZadanePrvky();
+    cisloPrikladu_ = VylosujPriklad(misc_);
+    ZapomenZadanePrvky(misc_);
     zadano_ = true;
-    const std::string& kod = Priklady[cisloPrikladu_].Druh;
+    const std::string& kod = misc_.Priklady[cisloPrikladu_].Druh;
     Plane& pic = platna_.Pic;
-    NakresliFiguru(pic, VylosujFiguru(kod, pic.Width(), pic.Height(), Generator));
+    NakresliFiguru(misc_, pic, VylosujFiguru(kod, pic.Width(), pic.Height(), misc_.Generator));
 }
 
 bool TecnyDialog::StiskNacrtu(float x, float y) {
@@ -109,22 +109,22 @@ void TecnyDialog::Zkontroluj() {
     stav_.Skontrolovano = true;
     stav_.Tazeni = false;
     ZavriSeznam();
-    if (!stav_.HotovaKonstrukce) UctujNedokoncenou(TvarBodu::PodleCisla);
+    if (!stav_.HotovaKonstrukce) UctujNedokoncenou(misc_, TvarBodu::PodleCisla);
     if (c == nullptr) return;
     const bool oznaceno = (stav_.Znacky & c->PovinneZnacky) == c->PovinneZnacky;
-    if (!oznaceno && SoucetZapornychBodu < BODU_ZA_PRIKLAD) {
-        PridejChybu(CHYBA_ZNACKY, JEDEN_BOD, 1);
+    if (!oznaceno && misc_.SoucetZapornychBodu < BODU_ZA_PRIKLAD) {
+        PridejChybu(misc_, CHYBA_ZNACKY, JEDEN_BOD, 1);
     }
 }
 
 /// Redraws all, shifted by so many pixels. A redraw writes over the last snap row; it gets back
 /// what it held.
 void TecnyDialog::Prekresli(int dx, int dy) {
-    Trojice posledni = Trojice_tab[PocetTrojic];
-    PosunVse(platna_.HidenPic, platna_.Pic, dx, dy);
+    Trojice posledni = misc_.Trojice_tab[misc_.PocetTrojic];
+    PosunVse(misc_, platna_.HidenPic, platna_.Pic, dx, dy);
     for (int* x : {&posledni.X1, &posledni.X2, &posledni.X3}) *x += dx;
     for (int* y : {&posledni.Y1, &posledni.Y2, &posledni.Y3}) *y += dy;
-    if (PocetTrojic > 0) Trojice_tab[PocetTrojic] = posledni;
+    if (misc_.PocetTrojic > 0) misc_.Trojice_tab[misc_.PocetTrojic] = posledni;
 }
 
 void TecnyDialog::Posun(int dx, int dy) {
@@ -147,7 +147,7 @@ void TecnyDialog::Posun(int dx, int dy) {
 void TecnyDialog::StiskNastroje(int i) {
     const Panel panel = UkazPanel();
     if (i < 1 || i > NASTROJ_ZPET || !panel.cmd[static_cast<std::size_t>(i - 1)].Zive) return;
-    KonstrukceZahajena = ANO;
+    misc_.KonstrukceZahajena = ANO;
     if (i == NASTROJ_ZPET) return Zpet();
     const KrokTecny* krok = KrokFaze();
     if (krok == nullptr) return;
@@ -192,7 +192,7 @@ void TecnyDialog::StiskNastroje(int i) {
 
 /// A wrong button: charged at once; the object can be drawn all the same and costs no more.
 void TecnyDialog::Chybne() {
-    PridejChybu(CHYBA_TLACITKO, TRI_BODY, 3);
+    PridejChybu(misc_, CHYBA_TLACITKO, TRI_BODY, 3);
     stav_.KrokChybny = true;
 }
 
@@ -219,7 +219,7 @@ void TecnyDialog::NabidniPrimky(const KrokTecny& krok) {
     const bool kolmice = stav_.Tvar == Nastroj::Kolmice;
     std::vector<RadekSeznamu> radky;
     const auto pridej = [&](std::string_view jmeno) {
-        std::string text = SlovyPrimku(jmeno, kolmice ? "k přímce " : "s přímkou ",
+        std::string text = SlovyPrimku(misc_, jmeno, kolmice ? "k přímce " : "s přímkou ",
                                        kolmice ? "k úsečce " : "s úsečkou ");
         if (!text.empty()) radky.push_back({std::move(text), true, true, std::string(jmeno)});
     };
@@ -243,7 +243,7 @@ void TecnyDialog::NabidniKruznice(const KrokTecny& krok) {
     stav_.Jmeno = VolneJmeno(krok);
     std::vector<RadekSeznamu> radky;
     for (const Volba& v : krok.Volby) {
-        if (v.Prvek.empty() || NajdiBod(v.Prvek) == BEZ_BODU) continue;
+        if (v.Prvek.empty() || NajdiBod(misc_, v.Prvek) == BEZ_BODU) continue;
         radky.push_back({"kružnice " + stav_.Jmeno + ", střed v bodě " + std::string(v.Prvek), true,
                          true, std::string(v.Prvek)});
     }
@@ -266,8 +266,8 @@ void TecnyDialog::PripravStred(const KrokTecny& krok) {
     stav_.Jmeno =
         stav_.Spravny ? std::string(VolneJmeno(krok)) : std::string(krok.JmenoChybnehoStredu);
     stav_.lblText3 = "střed úsečky " + std::string(krok.Body[0]) + std::string(krok.Body[1]);
-    const Bod a = NajdiBod(krok.Body[0]);
-    const Bod b = NajdiBod(krok.Body[1]);
+    const Bod a = NajdiBod(misc_, krok.Body[0]);
+    const Bod b = NajdiBod(misc_, krok.Body[1]);
     if (!(a == BEZ_BODU) && !(b == BEZ_BODU)) stav_.StredUsecky = StredUseckyBodu(a, b);
     stav_.CekaNaKresleni = true;
 }
@@ -282,7 +282,7 @@ void TecnyDialog::PripravOznaceni(const KrokTecny& krok) {
 std::string_view TecnyDialog::VolneJmeno(const KrokTecny& krok) const {
     const auto hotovo = [this](std::string_view jmeno) {
         for (int i = 1; i <= decltype(Priklad::Kroky)::POSLEDNI; ++i) {
-            const Krok& k = Priklady[cisloPrikladu_].Kroky[i];
+            const Krok& k = misc_.Priklady[cisloPrikladu_].Kroky[i];
             if (k.Jmeno == jmeno && k.Hotovo != NE) return true;
         }
         return false;
@@ -295,10 +295,10 @@ void TecnyDialog::Zpet() {
     Odzbroj();
     const Minulost m = std::move(minulost_.back());
     minulost_.pop_back();
-    PocetUtvaru -= m.Utvaru;
-    PocetTrojic -= m.Utvaru;
-    for (int i = 0; i < m.Radku; ++i) ZadanePrvky[m.Faze + i] = {};
-    for (const int i : m.Polozky) Priklady[cisloPrikladu_].Kroky[i].Hotovo = NE;
+    misc_.PocetUtvaru -= m.Utvaru;
+    misc_.PocetTrojic -= m.Utvaru;
+    for (int i = 0; i < m.Radku; ++i) misc_.ZadanePrvky[m.Faze + i] = {};
+    for (const int i : m.Polozky) misc_.Priklady[cisloPrikladu_].Kroky[i].Hotovo = NE;
     stav_.Faze = m.Faze;
     stav_.Pary = m.Pary;
     stav_.Pouzite = m.Pouzite;

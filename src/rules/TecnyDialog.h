@@ -61,7 +61,7 @@ struct StavTecny : KrokVRuce {
 /// played is read from the example each time.
 class TecnyDialog final : public Dialog {
 public:
-    explicit TecnyDialog(Platna platna) : Dialog(platna) {}
+    TecnyDialog(Misc& misc, Platna platna) : Dialog(misc, platna) {}
 
     void NovyPriklad() override;
     void NoveZadani() override;
@@ -159,11 +159,11 @@ private:
 };
 
 /// The point of this name, given or marked; BEZ_BODU if there is none.
-[[nodiscard]] Bod NajdiBod(std::string_view jmeno);
+[[nodiscard]] Bod NajdiBod(const Tabulky& t, std::string_view jmeno);
 /// The midpoint of two points, halved with a rounding.
 [[nodiscard]] Bod StredUseckyBodu(Bod a, Bod b);
 /// The row of the straight object or circle of this name (both names of a segment or of a line
 /// through two points, together); 0 if there is none.
-[[nodiscard]] int NajdiCaru(std::string_view jmeno);
+[[nodiscard]] int NajdiCaru(const Tabulky& t, std::string_view jmeno);
 
 }  // namespace rysovna

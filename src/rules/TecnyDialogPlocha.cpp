@@ -69,10 +69,11 @@ bool TecnyDialog::CekaNaKresleni() const {
 // ---- Clicks ----------------------------------------------------------------------------------
 
 Zachyt TecnyDialog::Chyt(float x, float y) const {
-    if (stav_.Tvar == Nastroj::Kruznice) return ZachytNejblizsi(x, y);
+    if (stav_.Tvar == Nastroj::Kruznice) return ZachytNejblizsi(misc_, x, y);
     // A parallel from a point of its own base would be the base again. Every object of this board
     // has its snap points in the row of the same number.
-    return ZachytPosledni(x, y, false, stav_.Tvar == Nastroj::Rovnobezka ? stav_.Zakladna : 0);
+    return ZachytPosledni(misc_, x, y, false,
+                          stav_.Tvar == Nastroj::Rovnobezka ? stav_.Zakladna : 0);
 }
 
 std::optional<Bod> TecnyDialog::ChytilBy(float x, float y) const {
@@ -110,7 +111,8 @@ void TecnyDialog::StiskPlochy(float x, float y) {
     const Zachyt z = Chyt(x, y);
     stav_.Zachyceno = z.Je;
     stav_.Start = z.Misto;
-    if (!z.Je && stav_.Zakladna != 0) stav_.Start = BodNaZakladne(Utvary[stav_.Zakladna], x, y);
+    if (!z.Je && stav_.Zakladna != 0)
+        stav_.Start = BodNaZakladne(misc_.Utvary[stav_.Zakladna], x, y);
 }
 
 void TecnyDialog::KlikniStred(float x, float y) {
@@ -128,7 +130,7 @@ void TecnyDialog::KlikniStred(float x, float y) {
 void TecnyDialog::KlikniPrusecik(float x, float y) {
     const KrokTecny* krok = KrokFaze();
     if (krok == nullptr) return;
-    if (ObeHotove()) return PridejChybu(CHYBA_OBA_HOTOVE, TRI_BODY, 3);
+    if (ObeHotove()) return PridejChybu(misc_, CHYBA_OBA_HOTOVE, TRI_BODY, 3);
     const DvaPruseciky& p = stav_.Pary;
     int volny = -1;
     for (int i = 1; i >= 0; --i) {
@@ -156,7 +158,7 @@ bool TecnyDialog::ObeHotove() const {
     if (znacene[0].empty()) return false;
     for (const std::string_view jmeno : znacene) {
         const int i = PolozkaReseni(jmeno);
-        if (i == 0 || Priklady[cisloPrikladu_].Kroky[i].Hotovo == NE) return false;
+        if (i == 0 || misc_.Priklady[cisloPrikladu_].Kroky[i].Hotovo == NE) return false;
     }
     return true;
 }
@@ -165,14 +167,14 @@ bool TecnyDialog::ObeHotove() const {
 
 /// The centre of the circle in hand: its row's point, or the place of the press.
 Bod TecnyDialog::StredTahu() const {
-    const Bod stred = stav_.StredKruznice.empty() ? BEZ_BODU : NajdiBod(stav_.StredKruznice);
+    const Bod stred = stav_.StredKruznice.empty() ? BEZ_BODU : NajdiBod(misc_, stav_.StredKruznice);
     return stred == BEZ_BODU ? stav_.Start : stred;
 }
 
 /// The two points of the straight object that a drag to here makes.
 Dvojice TecnyDialog::BodyPrimky(Bod konec) const {
     if (stav_.Zakladna == 0) return {stav_.Start, konec};
-    const Utvar& zakladna = Utvary[stav_.Zakladna];
+    const Utvar& zakladna = misc_.Utvary[stav_.Zakladna];
     if (stav_.Tvar == Nastroj::Kolmice) return Kolme(zakladna, stav_.Start, konec);
     if (!stav_.Zachyceno) return Rovnobezne(zakladna, stav_.Start, konec);
     // From a caught point a parallel stays on it.
@@ -192,7 +194,7 @@ Gumicka TecnyDialog::Tah(float x, float y) const {
     if (stav_.Zakladna != 0 && !volna) b.P2 = PataUkazatele(b, konec);
     Gumicka g{Gumicka::Tvar::Cara, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, {}};
     if (stav_.Tvar == Nastroj::Rovnobezka && stav_.Zakladna != 0) {
-        g.Text = OdectiVzdalenost(Utvary[stav_.Zakladna], stav_.Start, volna ? konec : b.P1);
+        g.Text = OdectiVzdalenost(misc_.Utvary[stav_.Zakladna], stav_.Start, volna ? konec : b.P1);
     }
     return g;
 }
@@ -215,8 +217,8 @@ void TecnyDialog::PusteniPlochy(float x, float y) {
         NakresliKruznici(*krok, konec);
     } else if (stav_.Tvar == Nastroj::Poloprimka) {
         const Bod s = stav_.Start;
-        KresliPoloprimku(platna_.Pic, stav_.ZvolenyUtvar, NovyRadek(stav_.Jmeno, "Y"), s.X, s.Y,
-                         konec.X, konec.Y, "Y", ANO);
+        KresliPoloprimku(misc_, platna_.Pic, NovyRadek(stav_.Jmeno, "Y"),
+                         {.Druh = stav_.ZvolenyUtvar, .P1 = s, .P2 = konec, .Popis2 = "Y"}, ANO);
     } else {
         NakresliPrimku(*krok, x, y);
     }
@@ -231,8 +233,8 @@ void TecnyDialog::PusteniPlochy(float x, float y) {
 void TecnyDialog::NakresliKruznici(const KrokTecny& krok, Bod konec) {
     const Bod s = StredTahu();
     if (stav_.Spravny) PosudPolomer(krok, s, std::abs(konec.X - s.X));
-    KresliKruznici(platna_.Pic, stav_.ZvolenyUtvar, NovyRadek(stav_.Jmeno, ""), s.X, s.Y, konec.X,
-                   ANO);
+    KresliKruznici(misc_, platna_.Pic, NovyRadek(stav_.Jmeno, ""),
+                   {.Druh = stav_.ZvolenyUtvar, .P1 = s, .P2 = {konec.X, s.Y}}, ANO);
 }
 
 /// Judged as drawn; only then are its points put where they are stored.
@@ -242,7 +244,7 @@ void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
     Dvojice b = BodyPrimky(konec);
     std::optional<Bod> pres;  // the named point that it passes
     if (stav_.Zachyceno) pres = stav_.Start;
-    if (spojnice) b.P2 = ZachytPosledni(x, y).Misto;
+    if (spojnice) b.P2 = ZachytPosledni(misc_, x, y).Misto;
     if (krok.Jak == Soud::Konce) {
         if (spojnice) PosudKonce(krok, b);
     } else if (stav_.Spravny) {
@@ -254,11 +256,13 @@ void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
     const int n = podleBodu ? NovyRadek(stav_.Jmeno.substr(0, 1), stav_.Jmeno.substr(1))
                             : NovyRadek(stav_.Jmeno, "");
     if (stav_.Tvar == Nastroj::Kolmice) {
-        KresliKolmici(platna_.Pic, stav_.ZvolenyUtvar, n, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, ANO);
+        KresliKolmici(misc_, platna_.Pic, n, {.Druh = stav_.ZvolenyUtvar, .P1 = b.P1, .P2 = b.P2},
+                      ANO);
     } else if (stav_.Tvar == Nastroj::Rovnobezka && stav_.Zakladna != 0) {
-        KresliPosunutou(platna_.Pic, n, UlozRovnobezku(platna_.Pic, b, pres, konec));
+        KresliPosunutou(misc_, platna_.Pic, n, UlozRovnobezku(platna_.Pic, b, pres, konec));
     } else {
-        KresliPrimku(platna_.Pic, stav_.ZvolenyUtvar, n, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, 0, ANO);
+        KresliPrimku(misc_, platna_.Pic, n, {.Druh = stav_.ZvolenyUtvar, .P1 = b.P1, .P2 = b.P2},
+                     ANO);
     }
 }
 
@@ -266,7 +270,7 @@ void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
 
 /// Charges one point, unless the step is known to be wrong already.
 void TecnyDialog::Uctuj(int cislo) {
-    if (!stav_.KrokChybny && cislo != 0) PridejChybu(cislo, JEDEN_BOD, 1);
+    if (!stav_.KrokChybny && cislo != 0) PridejChybu(misc_, cislo, JEDEN_BOD, 1);
 }
 
 /// Holds the line against the nearest of its points that is still free; under the 15-pixel rule it
@@ -278,7 +282,7 @@ std::optional<Bod> TecnyDialog::PosudPrimku(const KrokTecny& krok, Dvojice& body
     for (int i = 0; i < static_cast<int>(krok.Body.size()); ++i) {
         const std::string_view jmeno = krok.Body[static_cast<std::size_t>(i)];
         if (jmeno.empty() || (stav_.Pouzite >> i & 1U) != 0) continue;
-        const Bod b = NajdiBod(jmeno);
+        const Bod b = NajdiBod(misc_, jmeno);
         if (b == BEZ_BODU) continue;
         const Odchylka nova = Zmer(body, b);
         if (std::fabs(nova.O) >= std::fabs(o.O)) continue;
@@ -305,8 +309,8 @@ std::optional<Bod> TecnyDialog::PosudPrimku(const KrokTecny& krok, Dvojice& body
 void TecnyDialog::PosudKonce(const KrokTecny& krok, const Dvojice& body) {
     const std::string& jmena = stav_.OcekavanyBod;
     if (jmena.empty()) return;
-    const bool spravne =
-        body.P1 == NajdiBod(jmena.substr(0, 1)) && body.P2 == NajdiBod(jmena.substr(1));
+    const bool spravne = body.P1 == NajdiBod(misc_, jmena.substr(0, 1)) &&
+                         body.P2 == NajdiBod(misc_, jmena.substr(1));
     if (!spravne) Uctuj(krok.ChybaRysovani);
     const auto* radek = std::ranges::find(krok.Volby, jmena, &Volba::Prvek);
     if (stav_.Spravny) stav_.Pouzite |= 1U << (radek - krok.Volby.begin());
@@ -314,7 +318,7 @@ void TecnyDialog::PosudKonce(const KrokTecny& krok, const Dvojice& body) {
 
 /// The circle has to pass through A, as near as the pointer can.
 void TecnyDialog::PosudPolomer(const KrokTecny& krok, Bod stred, int r) {
-    const Bod A = NajdiBod("A");
+    const Bod A = NajdiBod(misc_, "A");
     if (A == BEZ_BODU) return;
     if (std::fabs(Vzdalenost(stred, A) - r) > TOLERANCE_POLOMERU) Uctuj(krok.ChybaRysovani);
 }
@@ -323,17 +327,18 @@ void TecnyDialog::PosudPolomer(const KrokTecny& krok, Bod stred, int r) {
 
 /// Opens the next row of the construction with the names of its points.
 int TecnyDialog::NovyRadek(std::string_view jmeno1, std::string_view jmeno2) {
-    const int n = ++PocetUtvaru;
-    SmazRadekUtvaru(n);
-    SmazRadekTrojic(PocetTrojic + 1);
-    Utvary[n].Jmeno1 = jmeno1;
-    Utvary[n].Jmeno2 = jmeno2;
+    const int n = ++misc_.PocetUtvaru;
+    misc_.SmazRadekUtvaru(n);
+    misc_.SmazRadekTrojic(misc_.PocetTrojic + 1);
+    misc_.Utvary[n].Jmeno1 = jmeno1;
+    misc_.Utvary[n].Jmeno2 = jmeno2;
     return n;
 }
 
 void TecnyDialog::NakresliBod(Bod misto, const std::string& jmeno, std::string_view naPrimce) {
     const int n = NovyRadek(jmeno, "");
-    KresliBod(platna_.Pic, BOD, jmeno, n, misto.X, misto.Y, jmeno, naPrimce, ANO);
+    KresliBod(misc_, platna_.Pic, n,
+              {.Druh = BOD, .P1 = misto, .Popis1 = jmeno, .NaPrimce = naPrimce}, ANO);
 }
 
 void TecnyDialog::Pamatuj(int utvaru, int radku) {
@@ -341,7 +346,7 @@ void TecnyDialog::Pamatuj(int utvaru, int radku) {
 }
 
 void TecnyDialog::Zapis(int faze, std::string_view druh, std::string_view prvek) {
-    ZadanyPrvek& z = ZadanePrvky[faze];
+    ZadanyPrvek& z = misc_.ZadanePrvky[faze];
     z.Faze = static_cast<std::int16_t>(faze);
     z.Utvar = druh;
     z.Prvek = prvek;
@@ -349,7 +354,7 @@ void TecnyDialog::Zapis(int faze, std::string_view druh, std::string_view prvek)
 
 int TecnyDialog::PolozkaReseni(std::string_view jmeno) const {
     for (int i = 1; i <= decltype(Priklad::Kroky)::POSLEDNI; ++i) {
-        if (Priklady[cisloPrikladu_].Kroky[i].Jmeno == jmeno) return i;
+        if (misc_.Priklady[cisloPrikladu_].Kroky[i].Jmeno == jmeno) return i;
     }
     return 0;
 }
@@ -357,7 +362,7 @@ int TecnyDialog::PolozkaReseni(std::string_view jmeno) const {
 void TecnyDialog::SplnPolozku(std::string_view jmeno) {
     const int i = PolozkaReseni(jmeno);
     if (i == 0) return;
-    Priklady[cisloPrikladu_].Kroky[i].Hotovo = ANO;
+    misc_.Priklady[cisloPrikladu_].Kroky[i].Hotovo = ANO;
     minulost_.back().Polozky.push_back(i);
 }
 
@@ -366,11 +371,11 @@ void TecnyDialog::SpocitejPruseciky(const KrokTecny& krok) {
     if (krok.Pocita == Prunik::Nic) return;
     DvaPruseciky p;
     auto& [b1, b2] = p.Misto;
-    const int i = NajdiCaru(krok.Ceho[0]);
-    const int j = NajdiCaru(krok.Ceho[1]);
+    const int i = NajdiCaru(misc_, krok.Ceho[0]);
+    const int j = NajdiCaru(misc_, krok.Ceho[1]);
     if (i != 0 && j != 0) {
-        const Utvar& u = Utvary[i];
-        const Utvar& v = Utvary[j];
+        const Utvar& u = misc_.Utvary[i];
+        const Utvar& v = misc_.Utvary[j];
         const Bod u1{u.X1, u.Y1}, v1{v.X1, v.Y1};
         Bod u2{u.X2, u.Y2};
         if (u2 == u1) u2.Y += 1;  // clicked, not dragged: it stands upright
@@ -401,7 +406,7 @@ void TecnyDialog::UkonciKrok(bool vlastni) {
     stav_.Zpatky = false;
     if (!vlastni || KrokFaze() != nullptr) return;
     for (const std::string_view v : Hrane()->Vysledky) {
-        if (!v.empty() && NajdiCaru(v) == 0) return;
+        if (!v.empty() && NajdiCaru(misc_, v) == 0) return;
     }
     stav_.HotovaKonstrukce = true;
     ZvyrazniReseni();
@@ -411,20 +416,23 @@ void TecnyDialog::UkonciKrok(bool vlastni) {
 void TecnyDialog::ZvyrazniReseni() {
     Plane& pic = platna_.Pic;
     pic.DrawWidth = SIRKA_VYSLEDKU;
-    const Trojice posledni = Trojice_tab[PocetTrojic];
+    const Trojice posledni = misc_.Trojice_tab[misc_.PocetTrojic];
     const auto& vysledky = Hrane()->Vysledky;
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar u = Utvary[i];
+    for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
+        const Utvar u = misc_.Utvary[i];
         if (u.Jmeno1.empty() || std::ranges::find(vysledky, u.Jmeno1) == vysledky.end()) continue;
-        Utvary[i].Jmeno1.clear();
+        misc_.Utvary[i].Jmeno1.clear();
         if (u.Druh == KRUZNICE) {
-            KresliKruznici(pic, u.Druh, i, u.X1, u.Y1, u.X2, NE);
+            KresliKruznici(misc_, pic, i, {.Druh = u.Druh, .P1 = {u.X1, u.Y1}, .P2 = {u.X2, u.Y1}},
+                           NE);
         } else {
-            KresliPrimku(pic, u.Druh, i, u.X1, u.Y1, u.X2, u.Y2, u.Delka, NE);
+            KresliPrimku(misc_, pic, i,
+                         {.Druh = u.Druh, .P1 = {u.X1, u.Y1}, .P2 = {u.X2, u.Y2}, .Delka = u.Delka},
+                         NE);
         }
-        Utvary[i] = u;
+        misc_.Utvary[i] = u;
     }
-    Trojice_tab[PocetTrojic] = posledni;
+    misc_.Trojice_tab[misc_.PocetTrojic] = posledni;
     pic.DrawWidth = 1;
 }
 

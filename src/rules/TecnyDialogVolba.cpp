@@ -33,7 +33,7 @@ void TecnyDialog::VyberRadku(int i) {
     if (stav_.Tvar == Nastroj::Osa) return ZvolOsu();
     stav_.CekaNaKresleni = true;
     if (stav_.Spravny && !krok->SpravnaVolba.empty() && radek.Tag != krok->SpravnaVolba) {
-        PridejChybu(krok->ChybaVolby, TRI_BODY, 3);
+        PridejChybu(misc_, krok->ChybaVolby, TRI_BODY, 3);
         stav_.KrokChybny = true;
     }
     if (stav_.Tvar == Nastroj::Kruznice) return ZvolKruznici(*krok, radek.Tag);
@@ -56,8 +56,8 @@ bool TecnyDialog::JeVzata(int radek) const {
 
 /// Perpendicular or parallel to a base.
 void TecnyDialog::ZvolPrimku(const std::string& zaklad) {
-    stav_.Zakladna = NajdiCaru(zaklad);
-    VybranyUtvar = stav_.Zakladna;
+    stav_.Zakladna = NajdiCaru(misc_, zaklad);
+    misc_.VybranyUtvar = stav_.Zakladna;
     const std::string zacatek = "přímka " + stav_.Jmeno + ", " + stav_.Jmeno;
     if (stav_.Tvar == Nastroj::Rovnobezka) {
         stav_.lblText3 = zacatek + "||" + zaklad;
@@ -82,16 +82,16 @@ void TecnyDialog::ZvolKruznici(const KrokTecny& krok, const std::string& stred) 
 void TecnyDialog::ZvolOsu() {
     const KrokTecny stred = *KrokFaze();
     const KrokTecny kolmice = *KrokFaze(stav_.Faze + 1);
-    const int usecka = NajdiCaru(stav_.OcekavanyBod);
-    const Bod a = NajdiBod(stred.Body[0]);
-    const Bod b = NajdiBod(stred.Body[1]);
+    const int usecka = NajdiCaru(misc_, stav_.OcekavanyBod);
+    const Bod a = NajdiBod(misc_, stred.Body[0]);
+    const Bod b = NajdiBod(misc_, stred.Body[1]);
     const Bod C = StredUseckyBodu(a, b);
     const std::string jmenoC(stred.Jmena[0]);
     const std::string jmenoB(kolmice.Jmena[0]);
     Pamatuj(2, 2);
-    const Dvojice body = Kolme(Utvary[usecka], C, C);
-    KresliKolmici(platna_.Pic, KOLMICE, NovyRadek(jmenoB, ""), body.P1.X, body.P1.Y, body.P2.X,
-                  body.P2.Y, ANO);
+    const Dvojice body = Kolme(misc_.Utvary[usecka], C, C);
+    KresliKolmici(misc_, platna_.Pic, NovyRadek(jmenoB, ""),
+                  {.Druh = KOLMICE, .P1 = body.P1, .P2 = body.P2}, ANO);
     NakresliBod(C, jmenoC, stred.NaPrimce);
     Zapis(stav_.Faze, BOD, jmenoC);
     Zapis(stav_.Faze + 1, KOLMICE, jmenoB);
@@ -110,7 +110,7 @@ std::array<Tlacitko, 6> TecnyDialog::Tlacitka(const Cviceni& c) const {
     const bool zaKoncem = stav_.Faze > posledni;
     const KrokTecny& krok = *KrokFaze(zaKoncem ? posledni : stav_.Faze);
     const bool vRuce = stav_.CekaNaKresleni || stav_.Combo.Otevreny;
-    const bool muzeZacit = stav_.Faze > 1 || KonstrukceZahajena != NE || stav_.Znacky != 0;
+    const bool muzeZacit = stav_.Faze > 1 || misc_.KonstrukceZahajena != NE || stav_.Znacky != 0;
     const bool volno = zadano_ && !zaKoncem && !vRuce && muzeZacit;
     const bool sede = vRuce && stav_.Tvar == krok.Spravny && krok.SedeTvary[0] != Nastroj::Zadny;
     const auto& tvary = sede ? krok.SedeTvary : krok.Tvary;

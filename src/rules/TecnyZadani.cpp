@@ -300,30 +300,38 @@ constexpr Vyrobce VYROBCI[] = {
 };
 
 /// Whether a point of this name is drawn, and labelled, already.
-bool JePopsan(const std::string& jmeno) {
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        if (Utvary[i].Druh == BOD && Utvary[i].Jmeno1 == jmeno) return true;
+bool JePopsan(const Tabulky& t, const std::string& jmeno) {
+    for (int i = 1; i <= t.PocetUtvaru; ++i) {
+        if (t.Utvary[i].Druh == BOD && t.Utvary[i].Jmeno1 == jmeno) return true;
     }
     return false;
 }
 
 /// Draws one given object as the row that it is in.
-void Nakresli(Plane& plocha, const DanyUtvar& d) {
-    const int n = ++PocetUtvaru;
-    SmazRadekUtvaru(n);
-    SmazRadekTrojic(PocetTrojic + 1);
-    Utvary[n].Jmeno1 = d.Jmeno1;
-    Utvary[n].Jmeno2 = d.Jmeno2;
+void Nakresli(Tabulky& t, Plane& plocha, const DanyUtvar& d) {
+    const int n = ++t.PocetUtvaru;
+    t.SmazRadekUtvaru(n);
+    t.SmazRadekTrojic(t.PocetTrojic + 1);
+    t.Utvary[n].Jmeno1 = d.Jmeno1;
+    t.Utvary[n].Jmeno2 = d.Jmeno2;
     if (d.Druh == BOD) {
-        KresliBod(plocha, BOD, d.Jmeno1, n, d.P1.X, d.P1.Y, d.Jmeno1, d.NaPrimce, ANO);
+        KresliBod(t, plocha, n,
+                  {.Druh = BOD, .P1 = d.P1, .Popis1 = d.Jmeno1, .NaPrimce = d.NaPrimce}, ANO);
     } else if (d.Druh == USECKA) {
         const auto cm = static_cast<float>(DelkaVCm(Vzdalenost(d.P1, d.P2)));
-        KresliUsecku(plocha, USECKA, n, d.P1.X, d.P1.Y, d.P2.X, d.P2.Y, cm,
-                     JePopsan(d.Jmeno1) ? "" : d.Jmeno1, d.Jmeno2, ANO, ANO, ANO);
+        KresliUsecku(t, plocha, n,
+                     {.Druh = USECKA,
+                      .P1 = d.P1,
+                      .P2 = d.P2,
+                      .Popis1 = JePopsan(t, d.Jmeno1) ? "" : d.Jmeno1,
+                      .Popis2 = d.Jmeno2,
+                      .Delka = cm,
+                      .Znacky = ANO},
+                     ANO);
     } else if (d.Druh == KRUZNICE) {
-        KresliKruznici(plocha, KRUZNICE, n, d.P1.X, d.P1.Y, d.P2.X, ANO);
+        KresliKruznici(t, plocha, n, {.Druh = KRUZNICE, .P1 = d.P1, .P2 = {d.P2.X, d.P1.Y}}, ANO);
     } else {
-        KresliPrimku(plocha, PRIMKA, n, d.P1.X, d.P1.Y, d.P2.X, d.P2.Y, 0, ANO);
+        KresliPrimku(t, plocha, n, {.Druh = PRIMKA, .P1 = d.P1, .P2 = d.P2}, ANO);
     }
 }
 
@@ -340,9 +348,9 @@ Figura VylosujFiguru(std::string_view kod, int sirka, int vyska, Nahoda& nahoda)
     return f;
 }
 
-void NakresliFiguru(Plane& plocha, const Figura& figura) {
+void NakresliFiguru(Tabulky& t, Plane& plocha, const Figura& figura) {
     plocha.DrawWidth = 1;
-    for (const DanyUtvar& d : figura.Utvary) Nakresli(plocha, d);
+    for (const DanyUtvar& d : figura.Utvary) Nakresli(t, plocha, d);
 }
 
 }  // namespace rysovna

@@ -7,6 +7,7 @@
 #include "base/Bod.h"
 #include "base/Nahoda.h"
 #include "base/Plane.h"
+#include "engine/Tabulky.h"
 
 namespace rysovna {
 
@@ -34,6 +35,6 @@ constexpr int UHEL_OD_OSY = 5;       ///< lines whose slope is divided by, from 
 [[nodiscard]] Figura VylosujFiguru(std::string_view kod, int sirka, int vyska, Nahoda& nahoda);
 
 /// Adds the given objects to the construction and draws them.
-void NakresliFiguru(Plane& plocha, const Figura& figura);
+void NakresliFiguru(Tabulky& t, Plane& plocha, const Figura& figura);
 
 }  // namespace rysovna

@@ -90,18 +90,19 @@ constexpr int ULOHA_SSS = 1, ULOHA_SUS = 2;
 
 }  // namespace
 
-Troj1Dialog::Troj1Dialog(Platna platna) : DialogTrojuhelniku(platna, PRAVIDLA) {}
+Troj1Dialog::Troj1Dialog(Misc& misc, Platna platna) : DialogTrojuhelniku(misc, platna, PRAVIDLA) {}
 
 bool Troj1Dialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
     const auto* l = std::ranges::find(LOSOVANI, p.Druh, &Losovani::Druh);
     if (l == std::end(LOSOVANI)) return false;
     do {
-        VylosujTri(l->Vzorce, hodnoty);
+        VylosujTri(misc_.Generator, l->Vzorce, hodnoty);
         if (l->Klic < 0) continue;
         const int klic = hodnoty[static_cast<std::size_t>(l->Klic)];
         for (const DruhyUhel& u : DRUHE_UHLY) {
             if (klic <= u.Nad || klic > u.Nejvyse) continue;
-            hodnoty[static_cast<std::size_t>(l->Jiny)] = Generator.D(u.Jiny.Rozpeti, u.Jiny.Zaklad);
+            hodnoty[static_cast<std::size_t>(l->Jiny)] =
+                misc_.Generator.D(u.Jiny.Rozpeti, u.Jiny.Zaklad);
         }
     } while (!Vyhovuje(*l, hodnoty));
     return true;
@@ -130,7 +131,7 @@ void Troj1Dialog::SestavZadani(std::vector<PolozkaZadani>& zadani) const {
 }
 
 bool Troj1Dialog::KruzniceJeChyba(bool /*krokCekal*/) const {
-    return CisloUlohy != ULOHA_SSS && CisloUlohy != ULOHA_SUS;
+    return misc_.CisloUlohy != ULOHA_SSS && misc_.CisloUlohy != ULOHA_SUS;
 }
 
 }  // namespace rysovna

@@ -9,7 +9,7 @@ namespace rysovna {
 /// The dialogue of the triangle by SSS, SUS and USU: three kinds of task, seven kinds of example.
 class Troj1Dialog final : public DialogTrojuhelniku {
 public:
-    explicit Troj1Dialog(Platna platna);
+    Troj1Dialog(Misc& misc, Platna platna);
 
 protected:
     [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;

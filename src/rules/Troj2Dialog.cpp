@@ -102,13 +102,13 @@ constexpr int ODSAZENI_STREDU = 15;  // px, of its name from the pointer
 
 }  // namespace
 
-Troj2Dialog::Troj2Dialog(Platna platna) : DialogTrojuhelniku(platna, PRAVIDLA) {}
+Troj2Dialog::Troj2Dialog(Misc& misc, Platna platna) : DialogTrojuhelniku(misc, platna, PRAVIDLA) {}
 
 bool Troj2Dialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
     for (const Losovani& l : LOSOVANI) {
         if (p.Druh < l.Od || p.Druh > l.Po) continue;
         do {
-            VylosujTri(l.Vzorce, hodnoty);
+            VylosujTri(misc_.Generator, l.Vzorce, hodnoty);
         } while (!l.Plati(hodnoty[0], hodnoty[1], hodnoty[2]));
         return true;
     }
@@ -116,7 +116,7 @@ bool Troj2Dialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
 }
 
 bool Troj2Dialog::PrvniStranaSpravna(std::string_view prvek) const {
-    const auto* s = std::ranges::find(PRVNI_STRANA, CisloUlohy, &PrvniStrana::Uloha);
+    const auto* s = std::ranges::find(PRVNI_STRANA, misc_.CisloUlohy, &PrvniStrana::Uloha);
     if (s == std::end(PRVNI_STRANA)) return JeZadana(prvek);
     const std::string& nazev = Hrany().*(s->Nazev);
     return !nazev.empty() && nazev.substr(1) == prvek;
@@ -132,7 +132,7 @@ bool Troj2Dialog::DruhSedi(const Krok& krok, std::string_view druh) const {
 
 bool Troj2Dialog::StredVDosahu(std::string_view stred) const {
     if (!stred.starts_with(STRED_STRANY)) return DialogTrojuhelniku::StredVDosahu(stred);
-    return std::any_of(&Utvary[1], &Utvary[PocetUtvaru] + 1,
+    return std::any_of(&misc_.Utvary[1], &misc_.Utvary[misc_.PocetUtvaru] + 1,
                        [stred](const Utvar& u) { return u.Jmeno3 == stred; });
 }
 
@@ -140,8 +140,8 @@ bool Troj2Dialog::ZacinaSpravne() const {
     const std::string& prvek = Stav().ZvolenyPrvek;
     if (!prvek.starts_with(STRED_STRANY)) return DialogTrojuhelniku::ZacinaSpravne();
     const std::string stred = prvek.substr(0, prvek.size() - 1);
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+    for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
+        const Utvar& u = misc_.Utvary[i];
         if (u.Jmeno3 == stred && Bod{u.X3, u.Y3} == Stav().Start) return true;
     }
     return false;
@@ -151,8 +151,8 @@ Gumicka Troj2Dialog::Prejezd(float x, float y) const {
     const auto blizko = [](float ukazatel, int bod) {
         return std::abs(ukazatel - static_cast<float>(bod)) <= static_cast<float>(DOSAH_STREDU);
     };
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+    for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
+        const Utvar& u = misc_.Utvary[i];
         if (u.Jmeno3.empty() || !blizko(x, u.X3) || !blizko(y, u.Y3)) continue;
         return {.Text = std::string(STRED_USECKY), .Odsazeni = ODSAZENI_STREDU};
     }

@@ -11,7 +11,7 @@ namespace rysovna {
 /// median to it.
 class Troj2Dialog final : public DialogTrojuhelniku {
 public:
-    explicit Troj2Dialog(Platna platna);
+    Troj2Dialog(Misc& misc, Platna platna);
 
     /// Names the midpoint of a segment when the pointer is near it.
     [[nodiscard]] Gumicka Prejezd(float x, float y) const override;

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "base/Cisla.h"
-#include "rules/Misc.h"
 
 namespace rysovna {
 
@@ -22,9 +21,9 @@ bool Trojuhelnikova(double a, double b, double c) {
     return a + b > c && b + c > a && a + c > b;
 }
 
-void VylosujTri(const std::array<Vzorec, 3>& vzorce, HodnotyPrikladu& hodnoty) {
+void VylosujTri(Nahoda& nahoda, const std::array<Vzorec, 3>& vzorce, HodnotyPrikladu& hodnoty) {
     for (std::size_t i = 0; i < vzorce.size(); ++i) {
-        hodnoty[i] = Generator.D(vzorce[i].Rozpeti, vzorce[i].Zaklad);
+        hodnoty[i] = nahoda.D(vzorce[i].Rozpeti, vzorce[i].Zaklad);
     }
 }
 
@@ -62,8 +61,8 @@ PolozkaZadani HodnotaZadani(std::string text, int mezera) {
     return p;
 }
 
-int VylosujPriklad() {
-    return Generator.D(PocetPrikladu, 1);
+int VylosujPriklad(Misc& misc) {
+    return misc.Generator.D(misc.PocetPrikladu, 1);
 }
 
 }  // namespace rysovna

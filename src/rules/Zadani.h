@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "rules/Misc.h"
 #include "rules/Panel.h"
-#include "rules/Zaznamy.h"
 
 namespace rysovna {
 
@@ -24,7 +24,7 @@ using HodnotyPrikladu = std::array<int, 5>;
 constexpr int NEJVIC_LOSOVANI = 20000;
 
 /// Draws the first three values.
-void VylosujTri(const std::array<Vzorec, 3>& vzorce, HodnotyPrikladu& hodnoty);
+void VylosujTri(Nahoda& nahoda, const std::array<Vzorec, 3>& vzorce, HodnotyPrikladu& hodnoty);
 
 /// A given quantity as the data name it.
 struct Zadana {
@@ -55,6 +55,6 @@ constexpr int MEZERA = 2, MEZERA_UHLU = 4;
 
 /// Chooses an example of the file: the whole part of PocetPrikladu times r plus 1. There is no
 /// memory: the same may come twice.
-[[nodiscard]] int VylosujPriklad();
+[[nodiscard]] int VylosujPriklad(Misc& misc);
 
 }  // namespace rysovna

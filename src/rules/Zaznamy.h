@@ -47,12 +47,15 @@ struct ChybnyKrok {
     friend bool operator==(const ChybnyKrok&, const ChybnyKrok&) = default;
 };
 
-/// The examples of the task's file, in use from 1 to PocetPrikladu.
-inline Tabulka<Priklad, 100> Priklady;
-inline int PocetPrikladu = 0;
-/// One row a phase of the construction.
-inline Tabulka<ZadanyPrvek, 20> ZadanePrvky;
-/// The wrong steps, in use from 1 to PocetChybnychKroku.
-inline Tabulka<ChybnyKrok, 100> ChybneKroky;
+/// The tables of an example beside the construction.
+struct Zaznamy {
+    /// The examples of the task's file, in use from 1 to PocetPrikladu.
+    Tabulka<Priklad, 100> Priklady;
+    int PocetPrikladu = 0;
+    /// One row a phase of the construction.
+    Tabulka<ZadanyPrvek, 20> ZadanePrvky;
+    /// The wrong steps, in use from 1 to PocetChybnychKroku.
+    Tabulka<ChybnyKrok, 100> ChybneKroky;
+};
 
 }  // namespace rysovna

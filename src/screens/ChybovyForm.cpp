@@ -6,7 +6,6 @@
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
-#include "rules/Misc.h"
 #include "rules/Zaznamy.h"
 #include "screens/Hover.h"
 #include "screens/Spolecne.h"
@@ -22,14 +21,14 @@ constexpr float NEJMENSI_PISMO = 7;  // points
 
 }  // namespace
 
-std::string TextChybnychKroku() {
+std::string TextChybnychKroku(const Misc& misc) {
     std::string text = "Během konstrukce byly provedeny tyto chybné kroky:\n\n";
-    const int radku = std::min(PocetChybnychKroku, ChybovyForm::RADKU);
-    for (int i = 1; i <= radku; ++i) text += TextCisla(i) + ". " + ChybneKroky[i].Text + "\n";
+    const int radku = std::min(misc.PocetChybnychKroku, ChybovyForm::RADKU);
+    for (int i = 1; i <= radku; ++i) text += TextCisla(i) + ". " + misc.ChybneKroky[i].Text + "\n";
     return text;
 }
 
-ChybovyForm::ChybovyForm() {
+ChybovyForm::ChybovyForm(Sezeni& s) : FormHry(s) {
     Left = MISTO.Left;
     Top = MISTO.Top;
     Width = MISTO.Width;
@@ -40,20 +39,20 @@ ChybovyForm::ChybovyForm() {
 }
 
 void ChybovyForm::Load() {
-    PrizpusobForm(*this);
-    Picture = NactiObrazek("Bitmap\\Games\\new_Hint.bmp");
-    Text1.Text = TextChybnychKroku();
+    PrizpusobForm(s_, *this);
+    Picture = NactiObrazek(s_, "Bitmap\\Games\\new_Hint.bmp");
+    Text1.Text = TextChybnychKroku(s_);
     // Ten long sentences want a smaller face: the list cannot be scrolled.
     while (!Text1.VejdeSe() && Text1.Font.Velikost > NEJMENSI_PISMO) Text1.Font.Velikost -= 1;
 }
 
 void ChybovyForm::MouseDown(Ovladac*, const Mys&) {
-    Stroj().Okna().Unload(*this);
+    s_.Okna().Unload(*this);
 }
 
 bool ChybovyForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     if (klavesa != "Escape" && klavesa != "Return" && klavesa != "Space") return false;
-    Stroj().Okna().Unload(*this);
+    s_.Okna().Unload(*this);
     return true;
 }
 

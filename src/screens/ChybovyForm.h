@@ -3,17 +3,17 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Form.h"
+#include "screens/Sezeni.h"
 
 namespace rysovna {
 
 /// The list of wrong steps, shown over the board while the verdict is held down: at most the first
 /// ten rows.
-class ChybovyForm final : public Form {
+class ChybovyForm final : public FormHry {
 public:
     static constexpr int RADKU = 10;
 
-    ChybovyForm();
+    explicit ChybovyForm(Sezeni& s);
     [[nodiscard]] std::string_view Jmeno() const override { return "ChybovyForm"; }
 
     TextBox Text1;  ///< fills the client area but for its frame; all rows fit
@@ -25,6 +25,6 @@ public:
 };
 
 /// The text of the list: the lead-in, then a row for each of the first ten wrong steps.
-[[nodiscard]] std::string TextChybnychKroku();
+[[nodiscard]] std::string TextChybnychKroku(const Misc& misc);
 
 }  // namespace rysovna

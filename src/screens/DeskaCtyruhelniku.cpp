@@ -27,7 +27,7 @@ void Poloz(Ovladac& o, const Obdelnik& kam) {
 
 }  // namespace
 
-DeskaCtyruhelniku::DeskaCtyruhelniku() {
+DeskaCtyruhelniku::DeskaCtyruhelniku(Sezeni& s) : DeskaForm(s) {
     Label* const nazvy[] = {&lblText5, &lblText6, &lblText7};
     const char* const jmena[] = {"lblText5", "lblText6", "lblText7"};
     for (int i = 0; i < 3; ++i) {

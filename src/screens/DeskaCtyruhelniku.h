@@ -8,7 +8,7 @@ namespace rysovna {
 /// values of the starting triangle are typed, and room for five given quantities.
 class DeskaCtyruhelniku : public DeskaForm {
 public:
-    DeskaCtyruhelniku();
+    explicit DeskaCtyruhelniku(Sezeni& s);
 
     Label lblText5, lblText6, lblText7;  ///< names of the three values
     Label lblText8, lblText9;            ///< units of the second and third; lblText4 of the first

@@ -4,7 +4,6 @@
 #include "platform/Host.h"
 #include "platform/Paleta.h"
 #include "rules/Kontrola.h"
-#include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
@@ -40,7 +39,7 @@ constexpr float PISMO_PANELU = 8;  // points, at 15 twips a pixel
 
 }  // namespace
 
-DeskaForm::DeskaForm() {
+DeskaForm::DeskaForm(Sezeni& s) : FormHry(s) {
     RozlozOvladace();
 }
 
@@ -112,28 +111,28 @@ void DeskaForm::RozlozOvladace() {
 
 void DeskaForm::NactiObrazky() {
     const std::string hry = HRY;
-    Picture = NactiObrazek(hry + "bckg.bmp");
-    INadpis.Picture = NactiObrazek("Bitmap\\Tab\\bckg_" + DveCislice(CisloUlohy) + ".bmp");
-    IHintS.Picture = NactiObrazek(hry + "new_hin2.bmp");
+    Picture = NactiObrazek(s_, hry + "bckg.bmp");
+    INadpis.Picture = NactiObrazek(s_, "Bitmap\\Tab\\bckg_" + DveCislice(s_.CisloUlohy) + ".bmp");
+    IHintS.Picture = NactiObrazek(s_, hry + "new_hin2.bmp");
     IHintS.Visible = false;
-    MalaSipka.Picture = NactiObrazek(hry + "board1_s.bmp");
-    panel_ = NactiObrazek(hry + "board1.bmp");
+    MalaSipka.Picture = NactiObrazek(s_, hry + "board1_s.bmp");
+    panel_ = NactiObrazek(s_, hry + "board1.bmp");
     // The blank panel belongs to the set and is read with it; no state of a board shows it.
-    static_cast<void>(NactiObrazek(hry + "board0.bmp"));
+    static_cast<void>(NactiObrazek(s_, hry + "board0.bmp"));
     for (std::size_t i = 0; i < PicTop.size(); ++i) {
-        horni_[i] = NactiDvojici(hry + std::string(HORNI[i]));
+        horni_[i] = NactiDvojici(s_, hry + std::string(HORNI[i]));
         PicTop[i].Picture = horni_[i].Normalni;
         const std::string sipka = hry + std::string(SIPKY[i].Soubor);
-        sipky_[i] = {NactiObrazek(sipka + "0.bmp"), NactiObrazek(sipka + ".bmp")};
+        sipky_[i] = {NactiObrazek(s_, sipka + "0.bmp"), NactiObrazek(s_, sipka + ".bmp")};
         picSipka[i].Picture = sipky_[i].Normalni;
     }
-    PokracujObrazek = NactiObrazek(hry + "pokracbg.bmp");
-    picPokracuj.Picture = PokracujObrazek;
+    s_.PokracujObrazek = NactiObrazek(s_, hry + "pokracbg.bmp");
+    picPokracuj.Picture = s_.PokracujObrazek;
     picPokracuj.Enabled = false;
-    for (const int tvar : Tvary()) tvary_[tvar] = NactiDvojici(hry + "what" + DveCislice(tvar));
-    kontrolovano_ = NactiObrazek(hry + "mkont.bmp");
-    hodnoceniDobre_ = NactiObrazek(hry + "Check_ok.bmp");
-    hodnoceniSpatne_ = NactiObrazek(hry + "Check_ko.bmp");
+    for (const int tvar : Tvary()) tvary_[tvar] = NactiDvojici(s_, hry + "what" + DveCislice(tvar));
+    kontrolovano_ = NactiObrazek(s_, hry + "mkont.bmp");
+    hodnoceniDobre_ = NactiObrazek(s_, hry + "Check_ok.bmp");
+    hodnoceniSpatne_ = NactiObrazek(s_, hry + "Check_ko.bmp");
     ImgHodnoceni.Visible = false;
 }
 
@@ -144,9 +143,9 @@ void DeskaForm::Load() {
         PicTop[i].Left = static_cast<int>(i) * PicTop[0].Width + PicTop[0].Left;
         PicTop[i].Visible = true;
     }
-    PrizpusobForm(*this);
+    PrizpusobForm(s_, *this);
     VPImage.Font.Velikost = PISMO_PANELU;
-    PicRada.Visible = RadyUkazovat;
+    PicRada.Visible = s_.RadyUkazovat;
     lblText2.Font.Tucne = true;
     NactiObrazky();
     HidenPic.Width = Pic.Width;
@@ -155,12 +154,12 @@ void DeskaForm::Load() {
     HidenPic.Plocha().Font = HidenPic.Font;
     Pic.Plocha().Svatozar = HidenPic.Plocha().Svatozar = true;
 
-    SmazTabulky();
-    KladneBody = ZaporneBody = 0;
-    zbyvaPrikladu_ = PocetPrikladuSerie;
+    s_.SmazTabulky();
+    s_.KladneBody = s_.ZaporneBody = 0;
+    zbyvaPrikladu_ = s_.PocetPrikladuSerie;
     dialog_ = VyrobDialog({Pic.Plocha(), HidenPic.Plocha()});
-    NactiPriklady(Stroj().Disk(), CestaHD + DveCislice(CisloUlohy) + ".dat",
-                  DeskaUlohy(CisloUlohy));
+    NactiPriklady(s_, s_.Disk(), s_.CestaHD + DveCislice(s_.CisloUlohy) + ".dat",
+                  DeskaUlohy(s_.CisloUlohy));
     dialog_->NovyPriklad();
     NoveZadani();
     PolozKlidnyPanel();

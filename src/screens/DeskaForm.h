@@ -9,11 +9,11 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/Form.h"
 #include "platform/Obrazovky.h"
 #include "rules/Dialog.h"
 #include "rules/Rada.h"
 #include "screens/Hover.h"
+#include "screens/Sezeni.h"
 
 namespace rysovna {
 
@@ -24,11 +24,11 @@ namespace rysovna {
 /// Played by keys, arrows go from element to element of the sketch; on the plane a cross stands for
 /// the pointer: arrows move it by 1 px (with Shift by 10), a letter takes it to the next point of
 /// that name. Digits choose a line of the open list or a step button, Return in a box goes on.
-class DeskaForm : public Form {
+class DeskaForm : public FormHry {
 public:
     static constexpr int ZASTAVKA_PLOCHY = 9;  ///< of the plane, where it is one
 
-    DeskaForm();
+    explicit DeskaForm(Sezeni& s);
 
     PictureBox Pic;       ///< the drawing plane, 384 by 335 px
     PictureBox HidenPic;  ///< its off-screen twin
@@ -145,7 +145,7 @@ private:
     void SkryjChyby();
 
     std::unique_ptr<Dialog> dialog_;
-    Hover hover_;  ///< 1 to 4 PicTop, 5 to 8 picSipka
+    Hover hover_{s_};  ///< 1 to 4 PicTop, 5 to 8 picSipka
     std::array<DvojiceObrazku, 4> horni_, sipky_;
     std::map<int, DvojiceObrazku> tvary_;
     Obrazek panel_, hodnoceniDobre_, hodnoceniSpatne_, kontrolovano_;

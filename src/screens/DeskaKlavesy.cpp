@@ -29,15 +29,15 @@ constexpr struct {
     {BOD, true, false, false}, {USECKA, true, true, true}, {POLOPRIMKA, false, true, false}};
 
 /// The points on the plane whose name begins with the letter, in the order in which they were made.
-std::vector<Bod> BodyPismene(char pismeno, const Ovladac& pic) {
+std::vector<Bod> BodyPismene(const Tabulky& t, char pismeno, const Ovladac& pic) {
     std::vector<Bod> body;
     const auto pridej = [&](bool jeBod, const std::string& jmeno, Bod b) {
         const bool ten = jeBod && !jmeno.empty() && jmeno[0] == pismeno && b.X >= 0 && b.Y >= 0 &&
                          b.X < pic.Width && b.Y < pic.Height;
         if (ten && std::ranges::find(body, b) == body.end()) body.push_back(b);
     };
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+    for (int i = 1; i <= t.PocetUtvaru; ++i) {
+        const Utvar& u = t.Utvary[i];
         for (const auto& p : PISMENA_BODU) {
             if (p.Druh != u.Druh) continue;
             pridej(p.Prvni, u.Jmeno1, {u.X1, u.Y1});
@@ -130,7 +130,7 @@ bool DeskaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     if (klavesa == "Return") return EnterVPoli();
     if (!JeZnak(klavesa) || klavesa[0] < '1' || klavesa[0] > '9') return false;
     const auto i = static_cast<std::size_t>(klavesa[0] - '1');
-    Obrazovky& okna = Stroj().Okna();
+    Obrazovky& okna = s_.Okna();
     if (Combo.Visible) {
         if (i < ComboLabel.size()) okna.StiskniZastavku(*this, ComboLabel[i]);
     } else if (i < cmd.size() && !okna.StiskniZastavku(*this, cmd[i])) {
@@ -142,7 +142,7 @@ bool DeskaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
 
 /// From a box for a value on to the next one, then to the button that confirms, else to the plane.
 bool DeskaForm::EnterVPoli() {
-    Obrazovky& okna = Stroj().Okna();
+    Obrazovky& okna = s_.Okna();
     Ovladac* pole = okna.Psane();
     if (pole == nullptr) return false;
     const std::vector<Ovladac*> zive = Zastavky(*this);
@@ -161,7 +161,7 @@ bool DeskaForm::EnterVPoli() {
 
 /// A press is on the plane; a drag may leave it, as the mouse can.
 Bod DeskaForm::VRozsahu(Bod kriz) const {
-    const bool tah = Stroj().Okna().DrziKlavesa();
+    const bool tah = s_.Okna().DrziKlavesa();
     const Bod od = tah ? Bod{-Pic.Left, -Pic.Top} : Bod{};
     const Bod po =
         tah ? Bod{NAVRH_SIRKA - Pic.Left, NAVRH_VYSKA - Pic.Top} : Bod{Pic.Width, Pic.Height};
@@ -183,7 +183,7 @@ bool DeskaForm::KlavesaNa(Ovladac& o, std::string_view klavesa, int shift) {
     } else if (JeZnak(klavesa)) {
         const auto pismeno =
             static_cast<char>(std::toupper(static_cast<unsigned char>(klavesa[0])));
-        const std::vector<Bod> body = BodyPismene(pismeno, Pic);
+        const std::vector<Bod> body = BodyPismene(s_, pismeno, Pic);
         if (body.empty()) return true;
         const auto ted = std::ranges::find(body, kriz_);
         kam = ted == body.end() || ted + 1 == body.end() ? body.front() : *(ted + 1);
@@ -192,7 +192,7 @@ bool DeskaForm::KlavesaNa(Ovladac& o, std::string_view klavesa, int shift) {
         return klavesa == "Return";
     }
     kriz_ = VRozsahu(kam);
-    Stroj().Okna().PosunutUkazatel(*this, Pic);
+    s_.Okna().PosunutUkazatel(*this, Pic);
     return true;
 }
 

@@ -5,7 +5,6 @@
 #include "engine/Sluzby.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
-#include "rules/Misc.h"
 #include "screens/DeskaForm.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
@@ -130,7 +129,7 @@ void DeskaForm::KresliNacrt() {
 /// Puts the panel together in a work picture of the menu: its picture, the heading, the sketch.
 /// What lies beneath it goes into another.
 void DeskaForm::SlozPanel() {
-    SelectForm& menu = Menu();
+    SelectForm& menu = Menu(s_);
     Surface& pozadi = menu.Pozadi.Plocha();
     pozadi.PaintPicture(Picture, -VPImage.Left, -VPImage.Top);
     pozadi.BitBlt(0, 0, Pic.Left + Pic.Width - VPImage.Left, VPImage.Height, Pic.Plocha(),
@@ -143,14 +142,14 @@ void DeskaForm::SlozPanel() {
     celek.Font = VPImage.Font;
     celek.CurrentX = NADPIS_X;
     celek.CurrentY = NADPIS_Y;
-    celek.Print(CisloUlohy == ULOHA_STRANY ? NADPIS_STRANY : NADPIS_VSE);
+    celek.Print(s_.CisloUlohy == ULOHA_STRANY ? NADPIS_STRANY : NADPIS_VSE);
     celek.BitBlt(SamplePic.Left, SamplePic.Top, SamplePic.Width, SamplePic.Height,
                  SamplePic.Plocha(), 0, 0, Rop::SrcCopy);
 }
 
 /// Lays the panel, pushed out to the right by so many pixels, on what lies beneath it.
 void DeskaForm::PolozPanel(int odsunuti) {
-    SelectForm& menu = Menu();
+    SelectForm& menu = Menu(s_);
     const int w = VPImage.Width;
     const int h = VPImage.Height;
     Surface& kopie = menu.Kopie.Plocha();
@@ -164,14 +163,13 @@ void DeskaForm::PolozPanel(int odsunuti) {
 /// over it show beside it as they are, whatever the scale.
 void DeskaForm::PolozKlidnyPanel() {
     SlozPanel();
-    VPImage.Plocha().BitBlt(0, 0, VPImage.Width, VPImage.Height, Menu().Kopie2.Plocha(), 0, 0,
+    VPImage.Plocha().BitBlt(0, 0, VPImage.Width, VPImage.Height, Menu(s_).Kopie2.Plocha(), 0, 0,
                             Rop::SrcCopy);
 }
 
 /// Slides the panel by frames, with no event let through until the last one: what is pressed
 /// meanwhile was meant for the panel. snimek(k) gives the push of frame k.
-static void PosouvejPanel(const std::function<void(int)>& snimek) {
-    Host& stroj = Stroj();
+static void PosouvejPanel(Host& stroj, const std::function<void(int)>& snimek) {
     const std::uint32_t zacatek = stroj.TickCount();
     stroj.Okna().CekejZavrene([&] {
         for (int k = 0; k < SNIMKU; ++k) {
@@ -189,14 +187,14 @@ void DeskaForm::ZasunPanel() {
     posouvaSe_ = true;
     SlozPanel();
     SamplePic.Visible = Image1.Visible = false;
-    PosouvejPanel([this](int k) { PolozPanel(KROK_SNIMKU * k); });
+    PosouvejPanel(s_.Stroj, [this](int k) { PolozPanel(KROK_SNIMKU * k); });
     Image1.Tag = "0";
     MalaSipka.Visible = true;
     Prsten(MalaSipka);  // pressed once more by keys, the panel is back
     VPImage.Visible = false;
     posouvaSe_ = false;
     ObnovRadu();
-    Cekej(20);
+    Cekej(s_, 20);
 }
 
 void DeskaForm::VysunPanel() {
@@ -205,7 +203,7 @@ void DeskaForm::VysunPanel() {
     SlozPanel();
     SamplePic.Visible = Image1.Visible = false;
     VPImage.Visible = true;
-    PosouvejPanel([this](int k) { PolozPanel(KROK_SNIMKU * (SNIMKU - 1 - k)); });
+    PosouvejPanel(s_.Stroj, [this](int k) { PolozPanel(KROK_SNIMKU * (SNIMKU - 1 - k)); });
     PolozKlidnyPanel();
     Image1.Tag = "1";
     MalaSipka.Visible = false;

@@ -74,7 +74,7 @@ void DeskaForm::ObnovRadu() {
                   : ImgHodnoceni.Visible ? Doba::PoKontrole
                                          : Doba::Hraje;
     videne_.NacrtVysunuty = Image1.Tag == "1";
-    videne_.Narysovano = PocetUtvaru > danych_;
+    videne_.Narysovano = s_.PocetUtvaru > danych_;
     const Rada r = UrciRadu(videne_);
     const CimSeHraje cim = Stroj().Okna().HrajeSe();
     if (r == rada_ && cim == cimRady_) return;

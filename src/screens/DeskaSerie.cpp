@@ -5,7 +5,6 @@
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "rules/Kontrola.h"
-#include "rules/Misc.h"
 #include "screens/ChybovyForm.h"
 #include "screens/DeskaForm.h"
 #include "screens/Konec.h"
@@ -38,29 +37,29 @@ void DeskaForm::Zkontroluj() {
     SkryjTah();
     Ukaz();
 
-    const int kladne = KladneBody;
-    const bool bezchybne = Vyuctuj(dialog_->Hotova()) == Verdikt::Bezchybne;
+    const int kladne = s_.KladneBody;
+    const bool bezchybne = Vyuctuj(s_, dialog_->Hotova()) == Verdikt::Bezchybne;
     ImgHodnoceni.Picture = bezchybne ? hodnoceniDobre_ : hodnoceniSpatne_;
     ImgHodnoceni.Visible = true;
     ImgHodnoceni.Enabled = !bezchybne;
-    videne_.Vysledek = {.Bodu = KladneBody - kladne,
-                        .BoduSerie = KladneBody,
-                        .Poradi = PocetPrikladuSerie - zbyvaPrikladu_ + 1,
-                        .Prikladu = PocetPrikladuSerie,
+    videne_.Vysledek = {.Bodu = s_.KladneBody - kladne,
+                        .BoduSerie = s_.KladneBody,
+                        .Poradi = s_.PocetPrikladuSerie - zbyvaPrikladu_ + 1,
+                        .Prikladu = s_.PocetPrikladuSerie,
                         .Bezchybny = bezchybne};
     ObnovRadu();
-    Cekej(PO_VERDIKTU);
-    if (Skoncil(*this)) return;
+    Cekej(s_, PO_VERDIKTU);
+    if (Skoncil(s_, *this)) return;
     picPokracuj.Enabled = true;
     const int priklad = zbyvaPrikladu_;
-    Roluj(*this, picPokracuj, [this, priklad] { return zbyvaPrikladu_ == priklad; });
+    Roluj(s_, *this, picPokracuj, [this, priklad] { return zbyvaPrikladu_ == priklad; });
 }
 
 void DeskaForm::Pokracuj() {
     --zbyvaPrikladu_;
     if (zbyvaPrikladu_ > 0) {
         picPokracuj.Enabled = false;
-        picPokracuj.Picture = PokracujObrazek;
+        picPokracuj.Picture = s_.PokracujObrazek;
         for (PictureBox& s : picSipka) s.Enabled = true;
         NovyPriklad();
     } else if (zbyvaPrikladu_ == 0) {
@@ -80,46 +79,47 @@ void DeskaForm::NovyPriklad() {
     KresliNacrt();
     Ukaz();
     zaneprazdnen_ = false;
-    Cekej(PO_UKLIDU);
-    if (Skoncil(*this)) return;
+    Cekej(s_, PO_UKLIDU);
+    if (Skoncil(s_, *this)) return;
     if (Image1.Tag == "0") StiskMaleSipky();
-    Cekej(PRED_ZADANIM);
-    if (Skoncil(*this)) return;
+    Cekej(s_, PRED_ZADANIM);
+    if (Skoncil(s_, *this)) return;
     NoveZadani();
 }
 
 void DeskaForm::NoveZadani() {
-    Generator.Zasej(Stroj().Seminko());
+    s_.Generator.Zasej(s_.Stroj.Seminko());
     dialog_->NoveZadani();
-    danych_ = PocetUtvaru;
+    danych_ = s_.PocetUtvaru;
     cekaNaZadani_ = false;
     KresliNacrt();
     Ukaz();
 }
 
 void DeskaForm::UkonciSerii() {
-    Host& stroj = Stroj();
+    Host& stroj = s_.Stroj;
     Obrazovky& okna = stroj.Okna();
-    const Vysledek vysledek{.CisloUlohy = CisloUlohy,
-                            .Jmeno = JmenoHrace,
-                            .Hra = NazevHry,
-                            .Typ = TypUlohy,
-                            .Prikladu = TextBezMezery(PocetPrikladuSerie),
-                            .Kladne = TextBezMezery(KladneBody),
-                            .Zaporne = TextBezMezery(ZaporneBody),
-                            .Znamka = UrciZnamku(KladneBody, Bajt(KladneBody + ZaporneBody)),
-                            .Konec = stroj.Nyni()};
+    const Vysledek vysledek{
+        .CisloUlohy = s_.CisloUlohy,
+        .Jmeno = s_.JmenoHrace,
+        .Hra = s_.NazevHry,
+        .Typ = s_.TypUlohy,
+        .Prikladu = TextBezMezery(s_.PocetPrikladuSerie),
+        .Kladne = TextBezMezery(s_.KladneBody),
+        .Zaporne = TextBezMezery(s_.ZaporneBody),
+        .Znamka = UrciZnamku(s_, s_.KladneBody, Bajt(s_.KladneBody + s_.ZaporneBody)),
+        .Konec = stroj.Nyni()};
     Ukladani::Ulozeni zprava;
     // The lock of the results may have to be waited for: nothing is let through meanwhile.
-    okna.CekejZavrene([&] { zprava = Vysledky().Uloz(vysledek); });
+    okna.CekejZavrene([&] { zprava = s_.Vysledky().Uloz(vysledek); });
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
-    const auto tabulka = okna.Nacti<TabulkaForm>();
+    const auto tabulka = okna.Nacti<TabulkaForm>(s_);
     tabulka->Vlastnik = okna.Najdi("SetupForm");
     tabulka->UkazVysledek(zprava.Misto, vysledek);
     okna.Show(*tabulka);
     okna.Hide(*this);
     okna.Unload(*this);
-    AktivniForm = tabulka;
+    s_.AktivniForm = tabulka;
     if (zprava.Text.empty()) return;
     // Keys that came while the lock was waited for are not for the message.
     okna.DorucOdlozene();
@@ -127,39 +127,39 @@ void DeskaForm::UkonciSerii() {
 }
 
 void DeskaForm::UkazTabulku() {
-    Obrazovky& okna = Stroj().Okna();
+    Obrazovky& okna = s_.Okna();
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
-    const auto tabulka = okna.Nacti<TabulkaForm>();
-    Cekej(PRED_TABULKOU);
+    const auto tabulka = okna.Nacti<TabulkaForm>(s_);
+    Cekej(s_, PRED_TABULKOU);
     // Help that came up meanwhile stays in front.
-    if (Skoncil(*this) || tabulka->Zavreny() || !Viditelny()) return;
+    if (Skoncil(s_, *this) || tabulka->Zavreny() || !Viditelny()) return;
     tabulka->Vlastnik = shared_from_this();
     okna.Show(*tabulka);
-    AktivniForm = tabulka;
+    s_.AktivniForm = tabulka;
 }
 
 void DeskaForm::Zpet() {
-    Obrazovky& okna = Stroj().Okna();
+    Obrazovky& okna = s_.Okna();
     if (const auto tabulka = okna.Najdi("TabulkaForm")) okna.Unload(*tabulka);
     if (const auto setup = okna.Najdi("SetupForm")) {
         okna.Show(*setup);
-        AktivniForm = setup;
+        s_.AktivniForm = setup;
     }
     okna.Unload(*this);
-    Cekej(PO_NAVRATU);
+    Cekej(s_, PO_NAVRATU);
 }
 
 void DeskaForm::UkazChyby() {
-    ZvukStisku();
+    ZvukStisku(s_);
     SkryjChyby();
-    const auto seznam = Stroj().Okna().Nacti<ChybovyForm>();
-    Stroj().Okna().Show(*seznam);
+    const auto seznam = s_.Okna().Nacti<ChybovyForm>(s_);
+    s_.Okna().Show(*seznam);
     IHintS.Visible = true;
 }
 
 void DeskaForm::SkryjChyby() {
     IHintS.Visible = false;
-    if (const auto seznam = Stroj().Okna().Najdi("ChybovyForm")) Stroj().Okna().Unload(*seznam);
+    if (const auto seznam = s_.Okna().Najdi("ChybovyForm")) s_.Okna().Unload(*seznam);
 }
 
 }  // namespace rysovna

@@ -6,7 +6,6 @@
 #include "base/Cisla.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
-#include "rules/Misc.h"
 #include "screens/DeskaForm.h"
 #include "screens/HelpForm.h"
 #include "screens/Konec.h"
@@ -67,7 +66,7 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
             Ukaz();
         }
     } else if (o == &Image1) {
-        ZvukStisku();
+        ZvukStisku(s_);
         SkryjSeznam();
         ZasunPanel();
     } else if (o == &MalaSipka) {
@@ -76,7 +75,7 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
     } else if (o == &ImgHodnoceni) {
         UkazChyby();
     } else if (o == &picPokracuj) {
-        ZvukStisku();
+        ZvukStisku(s_);
         SkryjSeznam();
         Pokracuj();
     }
@@ -130,12 +129,12 @@ void DeskaForm::MouseUp(Ovladac* o, const Mys& m) {
 
 void DeskaForm::Click(Ovladac* o) {
     if (o == &INadpis) {
-        ZvukStisku();
-        UkazNapovedu("Bitmap\\Help\\" + DveCislice(CisloUlohy) + ".bmp", *this);
+        ZvukStisku(s_);
+        UkazNapovedu(s_, "Bitmap\\Help\\" + DveCislice(s_.CisloUlohy) + ".bmp", *this);
     } else if (o != nullptr && Je(picSipka, o)) {
         StiskSipky(o->Index);
     } else if (o != nullptr && Je(PicTop, o)) {
-        ZvukStisku();
+        ZvukStisku(s_);
         SkryjSeznam();
         switch (o->Index) {
             case 1:
@@ -162,13 +161,13 @@ void DeskaForm::Napis(int ktery, const TextBox& box) {
 }
 
 void DeskaForm::StiskMaleSipky() {
-    ZvukStisku();
+    ZvukStisku(s_);
     SkryjSeznam();
     VysunPanel();
 }
 
 void DeskaForm::StiskNastroje(const PictureBox& tlacitko, const Mys& m) {
-    ZvukStisku();
+    ZvukStisku(s_);
     dialog_->StiskNastroje(tlacitko.Index);
     Combo.Left = tlacitko.Left + Zaokrouhli(m.X);
     Combo.Top = tlacitko.Top + Zaokrouhli(m.Y);
@@ -179,14 +178,14 @@ void DeskaForm::StiskNastroje(const PictureBox& tlacitko, const Mys& m) {
 }
 
 void DeskaForm::VyberRadku(int i) {
-    ZvukStisku();
+    ZvukStisku(s_);
     const Seznam seznam = dialog_->UkazPanel().Combo;
     Combo.Visible = false;
     if (vybiraSe_) return;
     vybiraSe_ = true;
-    Cekej(CEKANI_PO_VOLBE);
+    Cekej(s_, CEKANI_PO_VOLBE);
     vybiraSe_ = false;
-    if (Skoncil(*this)) return;
+    if (Skoncil(s_, *this)) return;
     // Another list may have come up, or this one gone, while the wait let events through.
     if (dialog_->UkazPanel().Combo == seznam) dialog_->VyberRadku(i);
     Ukaz();
@@ -242,9 +241,9 @@ void DeskaForm::PustPlochu(const Mys& m) {
     poustiSe_ = poustiSe_ || kresli;
     SkryjTah();
     if (!kresli) return;
-    Cekej(dialog_->CekaniPoTahu());
+    Cekej(s_, dialog_->CekaniPoTahu());
     poustiSe_ = false;
-    if (Skoncil(*this)) return;
+    if (Skoncil(s_, *this)) return;
     dialog_->PusteniPlochy(m.X, m.Y);
     Ukaz();
 }
@@ -252,7 +251,7 @@ void DeskaForm::PustPlochu(const Mys& m) {
 void DeskaForm::StiskSipky(int i) {
     if (poustiSe_) return;  // what was drawn belongs to the plane as it is
     const SmerPosunu& s = SMERY[static_cast<std::size_t>(i - 1)];
-    int& posun = s.Dx != 0 ? PosunX : PosunY;
+    int& posun = s.Dx != 0 ? s_.PosunX : s_.PosunY;
     const int krok = s.Dx + s.Dy;
     if (krok > 0 ? posun > MEZ_POSUNU : posun < -MEZ_POSUNU) return;
     dialog_->Posun(s.Dx, s.Dy);

@@ -2,12 +2,12 @@
 
 #include <memory>
 
-#include "platform/Form.h"
+#include "screens/Sezeni.h"
 
 namespace rysovna {
 
 /// Makes the board of a task, 1 to 20; null if no board is there for it. Not loaded yet: the
 /// caller hands it to the screens.
-[[nodiscard]] std::shared_ptr<Form> VyrobDesku(int cisloUlohy);
+[[nodiscard]] std::shared_ptr<Form> VyrobDesku(Sezeni& s, int cisloUlohy);
 
 }  // namespace rysovna

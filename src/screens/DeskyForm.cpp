@@ -17,7 +17,7 @@ constexpr int TVARY_ROVNOBEZNIKU[] = {10, 11, 12, 13, 14, 15};
 }  // namespace
 
 std::unique_ptr<Dialog> Troj1Form::VyrobDialog(Platna platna) {
-    return std::make_unique<Troj1Dialog>(platna);
+    return std::make_unique<Troj1Dialog>(s_, platna);
 }
 
 std::span<const int> Troj1Form::Tvary() const {
@@ -25,7 +25,7 @@ std::span<const int> Troj1Form::Tvary() const {
 }
 
 std::unique_ptr<Dialog> Troj2Form::VyrobDialog(Platna platna) {
-    return std::make_unique<Troj2Dialog>(platna);
+    return std::make_unique<Troj2Dialog>(s_, platna);
 }
 
 std::span<const int> Troj2Form::Tvary() const {
@@ -33,15 +33,15 @@ std::span<const int> Troj2Form::Tvary() const {
 }
 
 std::unique_ptr<Dialog> CtyrUForm::VyrobDialog(Platna platna) {
-    return std::make_unique<CtyrUDialog>(platna);
+    return std::make_unique<CtyrUDialog>(s_, platna);
 }
 
 std::unique_ptr<Dialog> LichoForm::VyrobDialog(Platna platna) {
-    return std::make_unique<LichoDialog>(platna);
+    return std::make_unique<LichoDialog>(s_, platna);
 }
 
 std::unique_ptr<Dialog> RovnoForm::VyrobDialog(Platna platna) {
-    return std::make_unique<RovnoDialog>(platna);
+    return std::make_unique<RovnoDialog>(s_, platna);
 }
 
 std::span<const int> RovnoForm::Tvary() const {

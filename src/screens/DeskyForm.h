@@ -12,6 +12,7 @@ namespace rysovna {
 /// The board of the triangle by SSS, SUS and USU (tasks 1 to 3).
 class Troj1Form final : public DeskaForm {
 public:
+    using DeskaForm::DeskaForm;
     [[nodiscard]] std::string_view Jmeno() const override { return "Troj1Form"; }
 
 protected:
@@ -22,6 +23,7 @@ protected:
 /// The board of the triangle by a height or a median (tasks 4 to 8).
 class Troj2Form final : public DeskaForm {
 public:
+    using DeskaForm::DeskaForm;
     [[nodiscard]] std::string_view Jmeno() const override { return "Troj2Form"; }
 
 protected:
@@ -32,6 +34,7 @@ protected:
 /// The board of the general quadrilateral (task 9).
 class CtyrUForm final : public DeskaCtyruhelniku {
 public:
+    using DeskaCtyruhelniku::DeskaCtyruhelniku;
     [[nodiscard]] std::string_view Jmeno() const override { return "CtyrUForm"; }
 
 protected:
@@ -41,6 +44,7 @@ protected:
 /// The board of the trapezoid (task 11).
 class LichoForm final : public DeskaCtyruhelniku {
 public:
+    using DeskaCtyruhelniku::DeskaCtyruhelniku;
     [[nodiscard]] std::string_view Jmeno() const override { return "LichoForm"; }
 
 protected:
@@ -50,6 +54,7 @@ protected:
 /// The board of the parallelogram (task 10).
 class RovnoForm final : public DeskaCtyruhelniku {
 public:
+    using DeskaCtyruhelniku::DeskaCtyruhelniku;
     [[nodiscard]] std::string_view Jmeno() const override { return "RovnoForm"; }
 
 protected:

@@ -2,7 +2,6 @@
 
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
-#include "rules/Misc.h"
 #include "screens/Spolecne.h"
 #include "screens/Zdroje.h"
 
@@ -14,8 +13,8 @@ void HelpForm::Load() {
 }
 
 void HelpForm::Click(Ovladac*) {
-    ZvukStisku();
-    VratSeK(Vlastnik, *this);
+    ZvukStisku(s_);
+    VratSeK(s_, Vlastnik, *this);
 }
 
 bool HelpForm::Klavesa(std::string_view klavesa, int /*shift*/) {
@@ -24,13 +23,13 @@ bool HelpForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     return true;
 }
 
-void UkazNapovedu(std::string_view obrazek, Form& vlastnik) {
-    Obrazovky& okna = Stroj().Okna();
-    const auto napoveda = okna.Nacti<HelpForm>();
-    napoveda->Picture = NactiObrazek(obrazek);
+void UkazNapovedu(Sezeni& s, std::string_view obrazek, Form& vlastnik) {
+    Obrazovky& okna = s.Okna();
+    const auto napoveda = okna.Nacti<HelpForm>(s);
+    napoveda->Picture = NactiObrazek(s, obrazek);
     okna.Show(*napoveda);
     napoveda->Vlastnik = vlastnik.weak_from_this();
-    AktivniForm = napoveda;
+    s.AktivniForm = napoveda;
     okna.Hide(vlastnik);
 }
 

@@ -3,15 +3,16 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/Form.h"
 #include "screens/Prechody.h"
+#include "screens/Sezeni.h"
 
 namespace rysovna {
 
 /// A picture over the whole screen: help to a task, to a screen, the credits. A click goes back to
 /// its owner.
-class HelpForm final : public Form {
+class HelpForm final : public FormHry {
 public:
+    using FormHry::FormHry;
     [[nodiscard]] std::string_view Jmeno() const override { return "HelpForm"; }
 
     /// The screen to go back to. Kept weakly: an owner that was unloaded meanwhile gives way to
@@ -25,6 +26,6 @@ public:
 
 /// Shows a help picture (below the asset root) on top of a screen and hides that screen; the click
 /// on it brings the screen back.
-void UkazNapovedu(std::string_view obrazek, Form& vlastnik);
+void UkazNapovedu(Sezeni& s, std::string_view obrazek, Form& vlastnik);
 
 }  // namespace rysovna

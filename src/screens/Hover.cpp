@@ -6,7 +6,7 @@ namespace rysovna {
 
 bool Hover::Vstup(std::uint8_t cislo) {
     if (cislo_ == cislo) return false;
-    ZvukNajeti();
+    ZvukNajeti(s_);
     cislo_ = cislo;
     return true;
 }

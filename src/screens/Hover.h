@@ -13,6 +13,8 @@ namespace rysovna {
 /// own controls.
 class Hover {
 public:
+    explicit Hover(Sezeni& s) : s_(s) {}
+
     /// The numbers that all screens share.
     static constexpr std::uint8_t NIC = 0;
     static constexpr std::uint8_t ZAHLAVI = 12;  ///< the banner
@@ -26,6 +28,7 @@ public:
     bool Opust();
 
 private:
+    Sezeni& s_;
     std::uint8_t cislo_ = NIC;
 };
 

@@ -2,7 +2,6 @@
 
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
-#include "rules/Misc.h"
 #include "screens/Konec.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
@@ -16,24 +15,24 @@ constexpr const char* TITUL = "Bitmap\\Intro\\title.bmp";
 
 }  // namespace
 
-IntroForm::IntroForm() {
+IntroForm::IntroForm(Sezeni& s) : FormHry(s) {
     Pridej(Timer1, "Timer1", {});
     Timer1.Interval = 1000;
     Timer1.Enabled = false;
     StiskVzdy = true;
 }
 
-void IntroForm::Prednacti() {
-    PrednactiObrazek(CestaCD + TITUL);
+void IntroForm::Prednacti(const Sezeni& s) {
+    PrednactiObrazek(s.CestaCD + TITUL);
 }
 
 void IntroForm::Load() {
     Maximised = true;
     Caption = "Rysovna 1";
-    Picture = NactiObrazek(TITUL);
+    Picture = NactiObrazek(s_, TITUL);
     preskoceno_ = false;
-    termin_ = Stroj().TickCount() + DOBA_TITULU;
-    AktivniForm = weak_from_this();
+    termin_ = s_.Stroj.TickCount() + DOBA_TITULU;
+    s_.AktivniForm = weak_from_this();
 }
 
 void IntroForm::MouseDown(Ovladac*, const Mys&) {
@@ -46,13 +45,13 @@ bool IntroForm::Klavesa(std::string_view, int) {
 }
 
 void IntroForm::Preskoc() {
-    ZvukStisku();
+    ZvukStisku(s_);
     preskoceno_ = true;
 }
 
 void IntroForm::TimerTick(Timer& t) {
     t.Enabled = false;
-    Host& stroj = Stroj();
+    Host& stroj = s_.Stroj;
     std::int32_t zbyva = 0;
     do {
         if (preskoceno_) {
@@ -60,15 +59,15 @@ void IntroForm::TimerTick(Timer& t) {
         } else {
             zbyva = static_cast<std::int32_t>(termin_ - stroj.TickCount());
             stroj.DoEvents(zbyva > 0 ? static_cast<std::uint32_t>(zbyva) : 0);
-            if (Skoncil(*this)) return;
+            if (Skoncil(s_, *this)) return;
         }
         zbyva = static_cast<std::int32_t>(termin_ - stroj.TickCount());
     } while (zbyva > 0);
-    Cekej(20);
-    if (Skoncil(*this)) return;
-    SelectForm& menu = Menu();
+    Cekej(s_, 20);
+    if (Skoncil(s_, *this)) return;
+    SelectForm& menu = Menu(s_);
     stroj.Okna().Show(menu);
-    AktivniForm = menu.weak_from_this();
+    s_.AktivniForm = menu.weak_from_this();
     stroj.Okna().Hide(*this);
     stroj.Okna().Unload(*this);
 }

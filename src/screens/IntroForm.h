@@ -2,15 +2,15 @@
 
 #include <cstdint>
 
-#include "platform/Form.h"
+#include "screens/Sezeni.h"
 
 namespace rysovna {
 
 /// The title. It stays ten seconds from its load, or a moment after a press, though at least a
 /// second; then the menu comes up.
-class IntroForm final : public Form {
+class IntroForm final : public FormHry {
 public:
-    IntroForm();
+    explicit IntroForm(Sezeni& s);
     [[nodiscard]] std::string_view Jmeno() const override { return "IntroForm"; }
 
     /// The title's clock; the start-up enables it. Fires once: its handler does the rest of the
@@ -18,7 +18,7 @@ public:
     Timer Timer1;
 
     /// Begins to read the title's picture, so that a wait before the load is not idle.
-    static void Prednacti();
+    static void Prednacti(const Sezeni& s);
 
     void Load() override;
     void MouseDown(Ovladac* o, const Mys& m) override;

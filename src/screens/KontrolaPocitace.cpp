@@ -33,6 +33,7 @@ void Zkus(std::vector<Nalez>& nalezy, const std::string& co, Nalez::Jak jinak, P
 
 void ZkontrolujData(Disk& disk, const std::string& slozka, std::vector<Nalez>& nalezy) {
     std::size_t vadnych = 0;
+    Misc misc;
     const auto zkus = [&](const std::string& jmeno, auto&& pohled) {
         std::vector<Nalez> jeden;
         Zkus(jeden, "Data " + disk.Skutecna(slozka + jmeno).filename().string(), Chyba,
@@ -43,11 +44,11 @@ void ZkontrolujData(Disk& disk, const std::string& slozka, std::vector<Nalez>& n
     };
     for (const Uloha& uloha : ULOHY) {
         zkus(DveCislice(uloha.Cislo) + ".dat",
-             [&](const std::string& soubor) { NactiPriklady(disk, soubor, uloha.deska); });
+             [&](const std::string& soubor) { NactiPriklady(misc, disk, soubor, uloha.deska); });
     }
     zkus("Znamky.dat", [&](const std::string& soubor) {
-        NactiZnamky(disk, soubor);
-        if (ZnamkyTab[1] == RadekZnamek{})
+        NactiZnamky(misc, disk, soubor);
+        if (misc.ZnamkyTab[1] == RadekZnamek{})
             throw BehovaChyba("V souboru není žádná známka", disk.Skutecna(soubor).string());
     });
     zkus("Errors.dat", [&](const std::string& soubor) {
@@ -92,9 +93,6 @@ void ZkontrolujAssety(const std::string& slozka, std::vector<Nalez>& nalezy) {
 std::vector<Nalez> ZkontrolujPocitac(const KontrolovanyStroj& stroj) {
     std::vector<Nalez> nalezy;
     const Cesty cesty = CtiCesty(stroj.disk, stroj.SlozkaNastaveni, stroj.SlozkaDat);
-    CestaCD = cesty.CD;
-    CestaHD = cesty.HD;
-    CestaVysledku = cesty.Vysledky;
     const bool uplne = !cesty.CD.empty() && !cesty.HD.empty();
     nalezy.push_back({uplne ? VPoradku : Chyba, "Nastavení",
                       (stroj.disk.Skutecna(stroj.SlozkaNastaveni) / "Rysovna.ini").string() +

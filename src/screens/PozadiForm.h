@@ -1,19 +1,23 @@
 #pragma once
 
-#include "platform/Form.h"
+#include "screens/Sezeni.h"
 
 namespace rysovna {
 
 /// The black screen behind everything, from the switch of the screen mode to the end. Its sole job
 /// is to put the active screen in front again when the pupil pressed beside a window or came back
 /// from another application.
-class PozadiForm final : public Form {
+class PozadiForm final : public FormHry {
 public:
+    using FormHry::FormHry;
     [[nodiscard]] std::string_view Jmeno() const override { return "PozadiForm"; }
     void Activate() override;
 
 private:
     bool ceka_ = false;
 };
+
+/// Loads and shows it.
+void UkazPozadi(Sezeni& s);
 
 }  // namespace rysovna

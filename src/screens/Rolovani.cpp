@@ -1,19 +1,18 @@
 #include "screens/Rolovani.h"
 
-#include "rules/Misc.h"
 #include "screens/Konec.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
 
 namespace rysovna {
 
-void Roluj(const Form& form, PictureBox& kam, const std::function<bool()>& dal) {
+void Roluj(Sezeni& s, const Form& form, PictureBox& kam, const std::function<bool()>& dal) {
     constexpr std::uint32_t BUNKA_MS = 20;
-    const PictureClip& pas = Menu().PicClip;
+    const PictureClip& pas = Menu(s).PicClip;
     for (int i = 0; i < pas.Cols; ++i) {
         kam.Picture = pas.GraphicCell(i);
-        Cekej(BUNKA_MS);
-        if (Skoncil(form) || (dal && !dal())) return;
+        Cekej(s, BUNKA_MS);
+        if (Skoncil(s, form) || (dal && !dal())) return;
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "platform/Form.h"
+#include "screens/Sezeni.h"
 
 namespace rysovna {
 
@@ -10,6 +10,6 @@ namespace rysovna {
 /// a form. The caller sets the flag that says the button is up before it calls. Stops touching the
 /// box when the form is unloaded, when the program ends, or when dal (asked after each cell) says
 /// no: a handler that ran during the waits may have taken the button back.
-void Roluj(const Form& form, PictureBox& kam, const std::function<bool()>& dal = {});
+void Roluj(Sezeni& s, const Form& form, PictureBox& kam, const std::function<bool()>& dal = {});
 
 }  // namespace rysovna

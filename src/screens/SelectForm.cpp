@@ -6,7 +6,6 @@
 #include "base/Cisla.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
-#include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
 #include "screens/IntroForm.h"
@@ -26,7 +25,7 @@ constexpr int STAV_NESPUSTENO = 1;   // exit status: the start-up was refused
 
 }  // namespace
 
-SelectForm::SelectForm() {
+SelectForm::SelectForm(Sezeni& s) : FormHry(s) {
     Pridej(Image1, "Image1", {5, 6, 539, 75});
     PridejPole(LI, "LI", {8, 140, 300, 53});
     for (Image& li : LI) li.Top = 140 + 61 * (li.Index - 1);
@@ -47,36 +46,36 @@ SelectForm::SelectForm() {
 }
 
 void SelectForm::Load() {
-    if (!NactiKonfiguraci()) {
-        Stroj().Okna().Konec(STAV_NESPUSTENO);
+    if (!NactiKonfiguraci(s_)) {
+        s_.Okna().Konec(STAV_NESPUSTENO);
         return;
     }
-    IntroForm::Prednacti();
-    Cekej(100);
-    PrepniObrazovku();
-    const auto titul = Stroj().Okna().Nacti<IntroForm>();
-    Stroj().Okna().Show(*titul);
-    Cekej(100);
-    if (Skoncil(*this)) return;
+    IntroForm::Prednacti(s_);
+    Cekej(s_, 100);
+    PrepniObrazovku(s_);
+    const auto titul = s_.Okna().Nacti<IntroForm>(s_);
+    s_.Okna().Show(*titul);
+    Cekej(s_, 100);
+    if (Skoncil(s_, *this)) return;
     titul->Timer1.Enabled = true;
 
     Maximised = true;
     Caption = "Rysovna 1";
-    PrizpusobForm(*this);
+    PrizpusobForm(s_, *this);
     for (PictureBox* prace : {&Pozadi, &Kopie, &Vysledek}) {
-        prace->Font.Velikost = static_cast<float>(Meritko()) * PISMO_PRACE;
+        prace->Font.Velikost = static_cast<float>(Meritko(s_)) * PISMO_PRACE;
     }
     NactiObrazky();
-    Stroj().Okna().Hide(*this);
+    s_.Okna().Hide(*this);
 }
 
 void SelectForm::NactiObrazky() {
-    Picture = NactiObrazek("Bitmap\\Select\\bckg.bmp");
-    PicClip.Picture = NactiObrazek("Bitmap\\Games\\pokracuj.bmp");
-    konec_ = NactiDvojici("Bitmap\\Select\\end");
+    Picture = NactiObrazek(s_, "Bitmap\\Select\\bckg.bmp");
+    PicClip.Picture = NactiObrazek(s_, "Bitmap\\Games\\pokracuj.bmp");
+    konec_ = NactiDvojici(s_, "Bitmap\\Select\\end");
     picKonec.Picture = konec_.Normalni;
     for (std::size_t k = 0; k < leve_.size(); ++k) {
-        leve_[k] = NactiDvojici("Bitmap\\Select\\l_" + DveCislice(static_cast<int>(k) + 1));
+        leve_[k] = NactiDvojici(s_, "Bitmap\\Select\\l_" + DveCislice(static_cast<int>(k) + 1));
     }
     OdzvolVse(LI, leve_);
     for (Image& ri : RI) ri.Tag = "0";
@@ -92,21 +91,21 @@ void SelectForm::MouseDown(Ovladac* o, const Mys&) {
     } else if (Je(RI, o)) {
         ZvolUlohu(static_cast<std::size_t>(o->Index) - 1);
     } else if (o == &picKonec) {
-        ZvukStisku();
-        ZeptejSeNaKonec();
+        ZvukStisku(s_);
+        ZeptejSeNaKonec(s_);
     }
 }
 
 /// A press on the family that is chosen already leaves the pictures of the tasks alone.
 void SelectForm::ZvolRodinu(std::size_t i) {
-    ZvukStisku();
+    ZvukStisku(s_);
     for (Image& ri : RI) ri.Tag = "0";
     if (!Zvoleny(LI[i])) {
         const Rodina& rodina = RODINY[i];
         const auto pocet = static_cast<std::size_t>(rodina.Pocet);
         for (std::size_t j = 0; j < pocet; ++j) {
-            prave_[j] = NactiDvojici("Bitmap\\Select\\r_" +
-                                     DveCislice(rodina.PrvniUloha + static_cast<int>(j)));
+            prave_[j] = NactiDvojici(
+                s_, "Bitmap\\Select\\r_" + DveCislice(rodina.PrvniUloha + static_cast<int>(j)));
         }
         for (std::size_t j = 0; j < RI.size(); ++j) {
             RI[j].Visible = j < pocet;
@@ -122,23 +121,23 @@ void SelectForm::ZvolRodinu(std::size_t i) {
 }
 
 void SelectForm::ZvolUlohu(std::size_t j) {
-    ZvukStisku();
+    ZvukStisku(s_);
     for (std::size_t i = 0; i < LI.size(); ++i) {
         const Rodina& rodina = RODINY[i];
         if (static_cast<int>(j) >= rodina.Pocet || !Zvoleny(LI[i])) continue;
         const int cislo = rodina.PrvniUloha + static_cast<int>(j);
-        CisloUlohy = Bajt(cislo);
-        NazevHry = rodina.NazevHry;
-        TypUlohy = NajdiUlohu(cislo)->TypUlohy;
+        s_.CisloUlohy = Bajt(cislo);
+        s_.NazevHry = rodina.NazevHry;
+        s_.TypUlohy = NajdiUlohu(cislo)->TypUlohy;
         break;
     }
     OdzvolVse(RI, prave_);
     RI[j].Picture = prave_[j].Rozsviceny;
 
-    Obrazovky& okna = Stroj().Okna();
-    const auto setup = okna.Nacti<SetupForm>();
+    Obrazovky& okna = s_.Okna();
+    const auto setup = okna.Nacti<SetupForm>(s_);
     okna.Show(*setup);
-    AktivniForm = setup;
+    s_.AktivniForm = setup;
     okna.Hide(*this);
 }
 
@@ -172,8 +171,8 @@ void SelectForm::MouseMove(Ovladac* o, const Mys&) {
 
 void SelectForm::Click(Ovladac* o) {
     if (o != &Image1) return;
-    ZvukStisku();
-    UkazNapovedu("Bitmap\\Help\\credits.bmp", *this);
+    ZvukStisku(s_);
+    UkazNapovedu(s_, "Bitmap\\Help\\credits.bmp", *this);
 }
 
 bool SelectForm::Klavesa(std::string_view klavesa, int /*shift*/) {
@@ -188,11 +187,11 @@ Ovladac* SelectForm::PrvniZastavka() {
 }
 
 void SelectForm::QueryUnload() {
-    ZeptejSeNaKonec();
+    ZeptejSeNaKonec(s_);
 }
 
-SelectForm& Menu() {
-    const std::shared_ptr<Form> menu = Stroj().Okna().Najdi("SelectForm");
+SelectForm& Menu(const Sezeni& s) {
+    const std::shared_ptr<Form> menu = s.Okna().Najdi("SelectForm");
     if (!menu) Selhani("Nabídka úloh není načtena");
     return static_cast<SelectForm&>(*menu);
 }

@@ -2,17 +2,17 @@
 
 #include <array>
 
-#include "platform/Form.h"
 #include "screens/Hover.h"
+#include "screens/Sezeni.h"
 
 namespace rysovna {
 
 /// The menu, and the first screen that the program makes: its load is the start-up. Families of
 /// tasks on the left, the tasks of the chosen family on the right. Lives to the end; only hidden
 /// and shown, so that the last choice stays lit.
-class SelectForm final : public Form {
+class SelectForm final : public FormHry {
 public:
-    SelectForm();
+    explicit SelectForm(Sezeni& s);
     [[nodiscard]] std::string_view Jmeno() const override { return "SelectForm"; }
 
     std::array<Image, 5> LI;  ///< families
@@ -40,13 +40,13 @@ private:
     void ZvolRodinu(std::size_t i);
     void ZvolUlohu(std::size_t j);
 
-    Hover hover_;  ///< 1 to 5 LI, 6 to 11 RI, 12 Image1, 20 picKonec
+    Hover hover_{s_};  ///< 1 to 5 LI, 6 to 11 RI, 12 Image1, 20 picKonec
     DvojiceObrazku konec_;
     std::array<DvojiceObrazku, 5> leve_;
     std::array<DvojiceObrazku, 6> prave_;
 };
 
-/// The menu of this process. Asking before it is loaded is a fault.
-[[nodiscard]] SelectForm& Menu();
+/// The menu of the session. Asking before it is loaded is a fault.
+[[nodiscard]] SelectForm& Menu(const Sezeni& s);
 
 }  // namespace rysovna

@@ -8,7 +8,6 @@
 #include "platform/Klavesnice.h"
 #include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
-#include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
 #include "screens/Konec.h"
@@ -16,7 +15,6 @@
 #include "screens/Rolovani.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
-#include "screens/VyrobaDesek.h"
 
 namespace rysovna {
 namespace {
@@ -34,7 +32,7 @@ constexpr const char* CO_DAL[2][2] = {
 
 }  // namespace
 
-SetupForm::SetupForm() {
+SetupForm::SetupForm(Sezeni& s) : FormHry(s) {
     Pridej(Image1, "Image1", {5, 6, 539, 75});
     Pridej(ISipka, "ISipka", {101, 293, 95, 100});
     PridejPole(ICislo, "ICislo", {128, 253, 35, 29});
@@ -65,23 +63,23 @@ SetupForm::SetupForm() {
 void SetupForm::Load() {
     Maximised = true;
     Caption = "Rysovna 1";
-    PrizpusobForm(*this);
-    const double meritko = Meritko();
+    PrizpusobForm(s_, *this);
+    const double meritko = Meritko(s_);
     TJmeno.Height = Zaokrouhli(20 * meritko);
     TJmeno.Width = Zaokrouhli(195 * meritko);
     TJmeno.Font.Velikost = static_cast<float>(12 * meritko);
 
-    Picture = NactiObrazek("Bitmap\\Setup\\bckg_" + DveCislice(CisloUlohy) + ".bmp");
-    konec_ = NactiDvojici("Bitmap\\Setup\\back");
+    Picture = NactiObrazek(s_, "Bitmap\\Setup\\bckg_" + DveCislice(s_.CisloUlohy) + ".bmp");
+    konec_ = NactiDvojici(s_, "Bitmap\\Setup\\back");
     picKonec.Picture = konec_.Normalni;
     for (std::size_t k = 0; k < ICislo.size(); ++k) {
         const std::string cislice = TextBezMezery(static_cast<int>(k) + 1);
-        sipky_[k] = NactiObrazek("Bitmap\\Setup\\butt_" + cislice + ".bmp");
-        cislice_[k] = NactiDvojici("Bitmap\\Setup\\" + cislice);
+        sipky_[k] = NactiObrazek(s_, "Bitmap\\Setup\\butt_" + cislice + ".bmp");
+        cislice_[k] = NactiDvojici(s_, "Bitmap\\Setup\\" + cislice);
     }
     OdzvolVse(ICislo, cislice_);
     ISipka.Picture = sipky_[0];
-    PokracujObrazek = NactiObrazek("Bitmap\\games\\pokracbg.bmp");
+    s_.PokracujObrazek = NactiObrazek(s_, "Bitmap\\games\\pokracbg.bmp");
     picPokracuj.Visible = false;
     lblCoDal.Font.Velikost = static_cast<float>(PISMO_RADY * meritko);
     UkazCoDal();
@@ -101,7 +99,7 @@ void SetupForm::Kontrola() {
     UkazCoDal();
     const bool uplne = !TJmeno.Text.empty() && std::ranges::any_of(ICislo, Zvoleny);
     if (!uplne) {
-        picPokracuj.Picture = PokracujObrazek;
+        picPokracuj.Picture = s_.PokracujObrazek;
         picPokracuj.Visible = false;
         pokracujNahore_ = false;
         return;
@@ -110,7 +108,7 @@ void SetupForm::Kontrola() {
     pokracujNahore_ = true;
     picPokracuj.Visible = true;
     const unsigned moje = ++rolovani_;
-    Roluj(*this, picPokracuj, [this, moje] { return pokracujNahore_ && rolovani_ == moje; });
+    Roluj(s_, *this, picPokracuj, [this, moje] { return pokracujNahore_ && rolovani_ == moje; });
 }
 
 void SetupForm::Change(TextBox& /*t*/) {
@@ -128,36 +126,36 @@ void SetupForm::MouseDown(Ovladac* o, const Mys&) {
 }
 
 void SetupForm::ZvolPocet(std::size_t k) {
-    ZvukStisku();
+    ZvukStisku(s_);
     OdzvolVse(ICislo, cislice_);
     ICislo[k].Tag = "1";
     ICislo[k].Picture = cislice_[k].Rozsviceny;
     ISipka.Picture = sipky_[k];
-    PocetPrikladuSerie = static_cast<std::uint8_t>(k + 1);
-    Cekej(100);
-    if (Skoncil(*this)) return;
+    s_.PocetPrikladuSerie = static_cast<std::uint8_t>(k + 1);
+    Cekej(s_, 100);
+    if (Skoncil(s_, *this)) return;
     Kontrola();
 }
 
 /// A number that is no task starts nothing. The board is the active screen from the moment it
 /// shows: a press on it during the wait may already lead on to another screen.
 void SetupForm::SpustDesku() {
-    ZvukStisku();
-    JmenoHrace = BezKrajnichMezer(TJmeno.Text);
-    const std::shared_ptr<Form> deska = VyrobDeskuUlohy(CisloUlohy);
+    ZvukStisku(s_);
+    s_.JmenoHrace = BezKrajnichMezer(TJmeno.Text);
+    const std::shared_ptr<Form> deska = s_.VyrobDesku(s_.CisloUlohy);
     if (!deska) return;
-    Obrazovky& okna = Stroj().Okna();
+    Obrazovky& okna = s_.Okna();
     okna.Zaved(deska);
     okna.Show(*deska);
-    AktivniForm = deska;
-    Cekej(100);
-    if (Skoncil(*this) || deska->Zavreny()) return;
+    s_.AktivniForm = deska;
+    Cekej(s_, 100);
+    if (Skoncil(s_, *this) || deska->Zavreny()) return;
     okna.Hide(*this);
 }
 
 void SetupForm::ZpetDoMenu() {
-    ZvukStisku();
-    VratSeK(Menu().weak_from_this(), *this);
+    ZvukStisku(s_);
+    VratSeK(s_, Menu(s_).weak_from_this(), *this);
 }
 
 void SetupForm::MouseMove(Ovladac* o, const Mys&) {
@@ -181,8 +179,8 @@ void SetupForm::MouseMove(Ovladac* o, const Mys&) {
 
 void SetupForm::Click(Ovladac* o) {
     if (o != &Image1) return;
-    ZvukStisku();
-    UkazNapovedu("Bitmap\\Help\\setup.bmp", *this);
+    ZvukStisku(s_);
+    UkazNapovedu(s_, "Bitmap\\Help\\setup.bmp", *this);
 }
 
 /// From a digit, which it chooses, or from the name on to what is still missing; where nothing is
@@ -215,7 +213,7 @@ bool SetupForm::Enter() {
 }
 
 bool SetupForm::Klavesa(std::string_view klavesa, int /*shift*/) {
-    Obrazovky& okna = Stroj().Okna();
+    Obrazovky& okna = s_.Okna();
     const std::size_t cislice =
         klavesa.size() == 1 ? std::string_view("12345").find(klavesa) : std::string_view::npos;
     if (cislice != std::string_view::npos) {

@@ -2,18 +2,18 @@
 
 #include <array>
 
-#include "platform/Form.h"
 #include "screens/Hover.h"
+#include "screens/Sezeni.h"
 
 namespace rysovna {
 
 /// Between the menu and the board: the player's name and the number of examples. Made anew at each
 /// choice of a task; only hidden while its board is up.
-class SetupForm final : public Form {
+class SetupForm final : public FormHry {
 public:
     static constexpr int NEJDELSI_JMENO = 60;  ///< characters
 
-    SetupForm();
+    explicit SetupForm(Sezeni& s);
     [[nodiscard]] std::string_view Jmeno() const override { return "SetupForm"; }
 
     TextBox TJmeno;
@@ -42,7 +42,7 @@ private:
     void SpustDesku();
     void ZpetDoMenu();
 
-    Hover hover_;  ///< 1 to 5 ICislo, 12 Image1, 20 picKonec
+    Hover hover_{s_};  ///< 1 to 5 ICislo, 12 Image1, 20 picKonec
     bool pokracujNahore_ = false;
     unsigned rolovani_ = 0;  ///< number of the latest roll-in: an older one gives way to it
     DvojiceObrazku konec_;

@@ -1,12 +1,6 @@
 #include "screens/Spolecne.h"
 
 #include "base/Cisla.h"
-#include "platform/Cesta.h"
-#include "platform/Form.h"
-#include "platform/Host.h"
-#include "platform/Obrazovky.h"
-#include "rules/Misc.h"
-#include "store/Ukladani.h"
 
 namespace rysovna {
 
@@ -22,18 +16,8 @@ bool MaRozmery(const Ovladac& o) {
 
 }  // namespace
 
-Ukladani& Vysledky() {
-    if (!UkladaniVysledku) {
-        const Hodiny hodiny{.Ted = [] { return Stroj().TickCount(); },
-                            .Spi = [](std::uint32_t ms) { Stroj().Spi(ms); }};
-        UkladaniVysledku = std::make_shared<Ukladani>(
-            Stroj().Disk(), hodiny, NativniCesta(CestaVysledku), Stroj().SlozkaStavu());
-    }
-    return *UkladaniVysledku;
-}
-
-void Cekej(std::uint32_t ms) {
-    Host& stroj = Stroj();
+void Cekej(Sezeni& s, std::uint32_t ms) {
+    Host& stroj = s.Stroj;
     const std::uint32_t termin = stroj.TickCount() + ms;
     // The difference, not the times, is compared: the tick count may wrap meanwhile.
     const auto zbyva = [&] { return static_cast<std::int32_t>(termin - stroj.TickCount()); };
@@ -42,12 +26,12 @@ void Cekej(std::uint32_t ms) {
     }
 }
 
-double Meritko() {
-    return Stroj().TwipsPerPixel() / NAVRHOVYCH_TWIPU;
+double Meritko(const Sezeni& s) {
+    return s.Stroj.TwipsPerPixel() / NAVRHOVYCH_TWIPU;
 }
 
-void PrizpusobForm(Form& form) {
-    const double meritko = Meritko();
+void PrizpusobForm(const Sezeni& s, Form& form) {
+    const double meritko = Meritko(s);
     for (Ovladac* o : form.Ovladace()) {
         if (MaRozmery(*o)) {
             for (int* rozmer : {&o->Left, &o->Top, &o->Width, &o->Height}) {

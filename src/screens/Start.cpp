@@ -6,14 +6,10 @@
 #include <string>
 
 #include "platform/Cesta.h"
-#include "platform/Host.h"
 #include "platform/Surface.h"
-#include "rules/Chyby.h"
-#include "rules/Misc.h"
-#include "screens/Spolecne.h"
+#include "screens/PozadiForm.h"
 #include "store/Cesty.h"
 #include "store/Soubory.h"
-#include "store/Ukladani.h"
 
 namespace rysovna {
 namespace {
@@ -33,8 +29,8 @@ void VypisChybejici(const std::string& co) {
     std::cerr << "Rysovna: " << co << '\n';
 }
 
-bool JeTu(const std::string& cesta) {
-    if (Stroj().Disk().JeSoubor(NativniCesta(cesta))) return true;
+bool JeTu(Sezeni& s, const std::string& cesta) {
+    if (s.Disk().JeSoubor(NativniCesta(cesta))) return true;
     VypisChybejici("chybí soubor " + NativniCesta(cesta).string());
     return false;
 }
@@ -49,14 +45,14 @@ void ZalozPrazdny(Disk& disk, const std::filesystem::path& soubor) {
 }
 
 /// Makes the files of results that are not there; the account's own folder too.
-bool ZalozVysledky() {
-    Disk& disk = Stroj().Disk();
+bool ZalozVysledky(Sezeni& s) {
+    Disk& disk = s.Disk();
     try {
-        if (CestaVysledku.empty()) throw ChybaDisku(Pricina::Neni, "domovská složka účtu");
-        if (CestaVysledku == SlozkaSLomitkem(Stroj().SlozkaDat()))
-            disk.ZalozSlozku(Stroj().SlozkaDat());
+        if (s.CestaVysledku.empty()) throw ChybaDisku(Pricina::Neni, "domovská složka účtu");
+        if (s.CestaVysledku == SlozkaSLomitkem(s.Stroj.SlozkaDat()))
+            disk.ZalozSlozku(s.Stroj.SlozkaDat());
         for (const std::string& jmeno : JmenaVysledku()) {
-            const std::filesystem::path soubor = NativniCesta(CestaVysledku + jmeno);
+            const std::filesystem::path soubor = NativniCesta(s.CestaVysledku + jmeno);
             if (!disk.JeSoubor(soubor)) ZalozPrazdny(disk, soubor);
         }
     } catch (const ChybaDisku& chyba) {
@@ -68,67 +64,62 @@ bool ZalozVysledky() {
 
 }  // namespace
 
-bool NactiKonfiguraci() {
-    Host& stroj = Stroj();
+bool NactiKonfiguraci(Sezeni& s) {
+    Host& stroj = s.Stroj;
     std::string adresar = stroj.WindowsDirectory();
     std::erase(adresar, '\0');
-    AdresarSystemu = SeZpetnymLomitkem(std::move(adresar));
-    DiskSystemu = AdresarSystemu.substr(0, 3);
+    s.AdresarSystemu = SeZpetnymLomitkem(std::move(adresar));
+    s.DiskSystemu = s.AdresarSystemu.substr(0, 3);
 
-    const Cesty cesty = CtiCesty(stroj.Disk(), AdresarSystemu, stroj.SlozkaDat());
-    CestaCD = cesty.CD;
-    CestaHD = cesty.HD;
-    CestaVysledku = cesty.Vysledky;
-    RadyUkazovat = cesty.Rady;
-    UkladaniVysledku.reset();
-    if (!CestaCD.empty()) NastavSlozkuPisem(CestaCD + "Fonts");
-    if (CestaCD.empty() || CestaHD.empty()) {
+    const Cesty cesty = CtiCesty(stroj.Disk(), s.AdresarSystemu, stroj.SlozkaDat());
+    s.CestaCD = cesty.CD;
+    s.CestaHD = cesty.HD;
+    s.CestaVysledku = cesty.Vysledky;
+    s.RadyUkazovat = cesty.Rady;
+    s.ZapomenVysledky();
+    if (!s.CestaCD.empty()) NastavSlozkuPisem(s.CestaCD + "Fonts");
+    if (s.CestaCD.empty() || s.CestaHD.empty()) {
         VypisChybejici("v souboru " +
-                       NativniCesta(AdresarSystemu + std::string(JMENO_INI)).string() +
-                       " není klíč " + (CestaCD.empty() ? "CD" : "HD"));
+                       NativniCesta(s.AdresarSystemu + std::string(JMENO_INI)).string() +
+                       " není klíč " + (s.CestaCD.empty() ? "CD" : "HD"));
         stroj.MsgBox(CHYBI_INI, "Chyba", Styl::Stop);
         return false;
     }
-    const bool zalozeno = !cesty.Oddelene || ZalozVysledky();
-    const auto jeVDatech = [](const std::string& jmeno) { return JeTu(CestaHD + jmeno); };
-    const auto jeVeVysledcich = [](const std::string& s) { return JeTu(CestaVysledku + s); };
+    const bool zalozeno = !cesty.Oddelene || ZalozVysledky(s);
+    const auto jeVDatech = [&s](const std::string& jmeno) { return JeTu(s, s.CestaHD + jmeno); };
+    const auto jeVeVysledcich = [&s](const std::string& jmeno) {
+        return JeTu(s, s.CestaVysledku + jmeno);
+    };
     if (!zalozeno || !std::ranges::all_of(JmenaDat(), jeVDatech) ||
         !std::ranges::all_of(JmenaVysledku(), jeVeVysledcich)) {
         stroj.MsgBox(CHYBI_DATA, "Chyba", Styl::Stop);
         return false;
     }
-    NactiZnamky(stroj.Disk(), CestaHD + "Znamky.dat");
-    NastavVety([](int cislo) { return CtiVety(Stroj().Disk(), CestaHD + "Errors.dat", cislo); });
-    Generator.Zasej(stroj.Seminko());
-    const std::string zprava = Vysledky().ZkusCekajici();
+    NactiZnamky(s, stroj.Disk(), s.CestaHD + "Znamky.dat");
+    s.Vety = [&s](int cislo) { return CtiVety(s.Disk(), s.CestaHD + "Errors.dat", cislo); };
+    s.Generator.Zasej(stroj.Seminko());
+    const std::string zprava = s.Vysledky().ZkusCekajici();
     if (!zprava.empty()) stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
     return true;
 }
 
-void PrepniObrazovku() {
-    Host& stroj = Stroj();
+void PrepniObrazovku(Sezeni& s) {
+    Host& stroj = s.Stroj;
     const RezimObrazovky puvodni = stroj.GetDeviceCaps();
-    PuvodniSirka = puvodni.Sirka;
-    PuvodniVyska = puvodni.Vyska;
-    PuvodniBarvy = puvodni.Barvy;
+    s.PuvodniSirka = puvodni.Sirka;
+    s.PuvodniVyska = puvodni.Vyska;
+    s.PuvodniBarvy = puvodni.Barvy;
     if (stroj.ChangeDisplaySettings(REZIM_HRY) != 0) {
         stroj.MsgBox(NELZE_PREPNOUT, "Upozornění", Styl::Ok);
     }
-    UkazPozadi();
+    UkazPozadi(s);
 }
 
-void ObnovObrazovku() {
-    Host& stroj = Stroj();
-    if (stroj.ChangeDisplaySettings({PuvodniSirka, PuvodniVyska, PuvodniBarvy}) != 0) {
+void ObnovObrazovku(Sezeni& s) {
+    Host& stroj = s.Stroj;
+    if (stroj.ChangeDisplaySettings({s.PuvodniSirka, s.PuvodniVyska, s.PuvodniBarvy}) != 0) {
         stroj.MsgBox(NELZE_OBNOVIT, "Systémová chyba", Styl::Ok);
     }
-}
-
-void VychoziRelace() {
-    VychoziPromenne();
-    UkladaniVysledku.reset();
-    AktivniForm.reset();
-    PokracujObrazek = {};
 }
 
 }  // namespace rysovna

@@ -9,7 +9,6 @@
 #include "platform/Host.h"
 #include "platform/Paleta.h"
 #include "platform/Surface.h"
-#include "rules/Misc.h"
 #include "screens/HelpForm.h"
 #include "screens/Prechody.h"
 #include "screens/Spolecne.h"
@@ -25,10 +24,10 @@ constexpr float PISMO_RADKU = 10.0F;  // points: a name of 35 letters fits its c
 constexpr float PISMO_STUPNICE = 8.0F, PISMO_VYSLEDKU = 9.0F;
 
 /// "Známky: 1 od 90 %, 2 od 75 %": the rows of the grade table, the best grade first.
-std::string TextStupnice() {
+std::string TextStupnice(const Misc& misc) {
     std::vector<RadekZnamek> radky;
-    for (int i = 1; i <= decltype(ZnamkyTab)::POSLEDNI; ++i) {
-        if (ZnamkyTab[i] != RadekZnamek{}) radky.push_back(ZnamkyTab[i]);
+    for (int i = 1; i <= decltype(Misc::ZnamkyTab)::POSLEDNI; ++i) {
+        if (misc.ZnamkyTab[i] != RadekZnamek{}) radky.push_back(misc.ZnamkyTab[i]);
     }
     std::ranges::stable_sort(radky, {}, [](const RadekZnamek& r) { return r[2]; });
     std::string text;
@@ -51,13 +50,13 @@ std::string Vejde(const std::string& text, const Pismo& pismo, int sirka) {
     return kratsi;
 }
 
-std::string SouborTabulky() {
-    return CestaVysledku + DveCislice(CisloUlohy) + ".res";
+std::string SouborTabulky(const Misc& misc) {
+    return misc.CestaVysledku + DveCislice(misc.CisloUlohy) + ".res";
 }
 
 }  // namespace
 
-TabulkaForm::TabulkaForm() {
+TabulkaForm::TabulkaForm(Sezeni& s) : FormHry(s) {
     Pridej(LVlastni, "LVlastni", {24, 160, 592, 28});
     Pridej(INadpis, "INadpis", {0, 0, 238, 80});
     PridejPole(LPoradi, "LPoradi", {32, 165, 50, 20});
@@ -77,14 +76,14 @@ TabulkaForm::TabulkaForm() {
 void TabulkaForm::Load() {
     Maximised = true;
     Caption = "Rysovna 1";
-    PrizpusobForm(*this);
+    PrizpusobForm(s_, *this);
 
-    Picture = NactiObrazek("Bitmap\\Tab\\bckg.bmp");
-    konec_ = NactiDvojici("Bitmap\\Games\\back");
+    Picture = NactiObrazek(s_, "Bitmap\\Tab\\bckg.bmp");
+    konec_ = NactiDvojici(s_, "Bitmap\\Games\\back");
     picKonec.Picture = konec_.Normalni;
-    INadpis.Picture = NactiObrazek("Bitmap\\Tab\\bckg_" + DveCislice(CisloUlohy) + ".bmp");
+    INadpis.Picture = NactiObrazek(s_, "Bitmap\\Tab\\bckg_" + DveCislice(s_.CisloUlohy) + ".bmp");
 
-    const double meritko = Meritko();
+    const double meritko = Meritko(s_);
     for (auto* sloupec : {&LPoradi, &LJmeno, &LSpravne, &LSpatne, &LZnamka}) {
         const int prvni = sloupec->front().Top;
         for (Label& pole : *sloupec) {
@@ -99,7 +98,7 @@ void TabulkaForm::Load() {
     LStupnice.Font.Velikost = static_cast<float>(meritko) * PISMO_STUPNICE;
     LVysledek.Font.Velikost = static_cast<float>(meritko) * PISMO_VYSLEDKU;
     LVysledek.Font.Tucne = true;
-    LStupnice.Caption = TextStupnice();
+    LStupnice.Caption = TextStupnice(s_);
 
     NactiTabulku();
     VyplnRadky();
@@ -145,16 +144,16 @@ void TabulkaForm::VyplnRadky() {
 }
 
 void TabulkaForm::NactiTabulku() {
-    Disk& disk = Stroj().Disk();
+    Disk& disk = s_.Disk();
     try {
-        zaznamy_ = rysovna::NactiTabulku(disk, disk.Skutecna(SouborTabulky()));
+        zaznamy_ = rysovna::NactiTabulku(disk, disk.Skutecna(SouborTabulky(s_)));
     } catch (const std::exception&) {
         // A table too large for the memory must not end the game either. What a result has to say
         // of it, it says when it is stored.
         zaznamy_.assign(1, {"Tabulku výsledků nelze přečíst", "", "", ""});
     }
     nezapsane_.clear();
-    for (ZaznamTabulky& z : Vysledky().Nezapsane(CisloUlohy)) {
+    for (ZaznamTabulky& z : s_.Vysledky().Nezapsane(s_.CisloUlohy)) {
         nezapsane_.push_back(VlozZaznam(zaznamy_, std::move(z)));
     }
 }
@@ -164,8 +163,8 @@ void TabulkaForm::MouseDown(Ovladac* o, const Mys&) {
 }
 
 void TabulkaForm::Zpet() {
-    ZvukStisku();
-    VratSeK(Vlastnik, *this);
+    ZvukStisku(s_);
+    VratSeK(s_, Vlastnik, *this);
 }
 
 void TabulkaForm::MouseMove(Ovladac* o, const Mys&) {
@@ -178,8 +177,8 @@ void TabulkaForm::MouseMove(Ovladac* o, const Mys&) {
 
 void TabulkaForm::Click(Ovladac* o) {
     if (o != &INadpis) return;
-    ZvukStisku();
-    UkazNapovedu("Bitmap\\Help\\tab.bmp", *this);
+    ZvukStisku(s_);
+    UkazNapovedu(s_, "Bitmap\\Help\\tab.bmp", *this);
 }
 
 bool TabulkaForm::Klavesa(std::string_view klavesa, int /*shift*/) {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/Form.h"
 #include "screens/Hover.h"
+#include "screens/Sezeni.h"
 #include "store/TabulkaVysledku.h"
 #include "store/Vysledek.h"
 
@@ -15,11 +15,11 @@ namespace rysovna {
 /// The score table of the current task: the ten best results of its file and of what could not be
 /// written into it yet. More results than ten stay in the list. A table that cannot be read says so
 /// and shows the latter alone.
-class TabulkaForm final : public Form {
+class TabulkaForm final : public FormHry {
 public:
     static constexpr int RADKU = 10;
 
-    TabulkaForm();
+    explicit TabulkaForm(Sezeni& s);
     [[nodiscard]] std::string_view Jmeno() const override { return "TabulkaForm"; }
 
     Label LVlastni;  ///< lights the row of the result that was just taken in
@@ -54,7 +54,7 @@ private:
     void VyplnRadky();
     void Zpet();
 
-    Hover hover_;  ///< 20 picKonec
+    Hover hover_{s_};  ///< 20 picKonec
     DvojiceObrazku konec_;
     std::vector<ZaznamTabulky> zaznamy_;
     std::vector<int>

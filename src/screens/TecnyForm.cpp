@@ -15,7 +15,7 @@ constexpr int RADEK_DANYCH = 153, VYZVA_NAHORE = 178;  // px
 
 }  // namespace
 
-TecnyForm::TecnyForm() {
+TecnyForm::TecnyForm(Sezeni& s) : DeskaForm(s) {
     Label1.Left = MISTO_ZADANI.Left;
     Label1.Top = MISTO_ZADANI.Top;
     Label1.Width = MISTO_ZADANI.Width;
@@ -24,7 +24,7 @@ TecnyForm::TecnyForm() {
 }
 
 std::unique_ptr<Dialog> TecnyForm::VyrobDialog(Platna platna) {
-    return std::make_unique<TecnyDialog>(platna);
+    return std::make_unique<TecnyDialog>(s_, platna);
 }
 
 std::span<const int> TecnyForm::Tvary() const {

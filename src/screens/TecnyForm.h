@@ -10,7 +10,7 @@ namespace rysovna {
 /// The board of circles and tangents (tasks 12 to 20).
 class TecnyForm final : public DeskaForm {
 public:
-    TecnyForm();
+    explicit TecnyForm(Sezeni& s);
     [[nodiscard]] std::string_view Jmeno() const override { return "TecnyForm"; }
 
 protected:

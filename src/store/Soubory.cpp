@@ -56,41 +56,41 @@ std::string Veta(std::string_view radek, const std::string& misto) {
 
 }  // namespace
 
-void NactiZnamky(Disk& disk, std::string_view soubor) {
+void NactiZnamky(Misc& misc, Disk& disk, std::string_view soubor) {
     const std::filesystem::path cesta = disk.Skutecna(soubor);
-    ZnamkyTab.Smaz();
+    misc.ZnamkyTab.Smaz();
     int i = 0;
     for (const std::string& radek : CtiData(disk, cesta)) {
         const std::string misto = Misto(cesta, ++i);
-        if (i > decltype(ZnamkyTab)::POSLEDNI) {
+        if (i > decltype(Misc::ZnamkyTab)::POSLEDNI) {
             throw BehovaChyba("Tabulka známek má více než 5 řádků", misto);
         }
         const std::string text = Z1250(radek, misto);
         const auto pole = Rozdel<3>(text, '|');
-        std::ranges::transform(pole, ZnamkyTab[i].begin(),
+        std::ranges::transform(pole, misc.ZnamkyTab[i].begin(),
                                [&](std::string_view p) { return BajtZnamky(p, misto); });
     }
 }
 
-void NactiPriklady(Disk& disk, std::string_view soubor, Deska deska) {
+void NactiPriklady(Zaznamy& z, Disk& disk, std::string_view soubor, Deska deska) {
     const std::span<const Slot> mapa = PoleDesky(deska);
-    constexpr int RADKU = decltype(Priklady)::POSLEDNI;
+    constexpr int RADKU = decltype(Zaznamy::Priklady)::POSLEDNI;
     for (int i = 1; i <= RADKU; ++i) {
-        for (const Slot& slot : mapa) slot.V(Priklady[i]).clear();
+        for (const Slot& slot : mapa) slot.V(z.Priklady[i]).clear();
         if (deska == Deska::Troj1Form) {
-            for (const int k : {1, 2, 3}) Priklady[i].Kroky[k].Hotovo = 0;
+            for (const int k : {1, 2, 3}) z.Priklady[i].Kroky[k].Hotovo = 0;
         }
     }
-    PocetPrikladu = 0;
+    z.PocetPrikladu = 0;
 
     bool prazdny = true;
     const std::filesystem::path cesta = disk.Skutecna(soubor);
     for (const std::string& ulozeny : CtiData(disk, cesta)) {
-        const std::string misto = Misto(cesta, PocetPrikladu + 1);
-        if (PocetPrikladu == RADKU) {
+        const std::string misto = Misto(cesta, z.PocetPrikladu + 1);
+        if (z.PocetPrikladu == RADKU) {
             throw BehovaChyba("Soubor úlohy má více než 100 řádků", misto);
         }
-        Priklad& priklad = Priklady[++PocetPrikladu];
+        Priklad& priklad = z.Priklady[++z.PocetPrikladu];
         const std::string text = Z1250(DekodujRadek(ulozeny), misto);
         prazdny = prazdny && text.find_first_not_of(" #") == std::string::npos;
         std::string_view zbytek = text;
@@ -109,7 +109,7 @@ std::vector<std::string> CtiVety(Disk& disk, std::string_view soubor, int cislo)
     ProjdiVety(disk, disk.Skutecna(soubor),
                [&](double toto, std::string_view veta, const std::string& misto) {
                    if (toto != cislo) return;
-                   if (vety.size() == decltype(ChybneKroky)::POSLEDNI)
+                   if (vety.size() == decltype(Zaznamy::ChybneKroky)::POSLEDNI)
                        throw BehovaChyba("Krok má v souboru více než 100 vět", misto);
                    vety.push_back(Veta(veta, misto));
                });

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Disk.h"
+#include "rules/Misc.h"
 #include "rules/Ulohy.h"
 
 namespace rysovna {
@@ -16,13 +17,13 @@ namespace rysovna {
 /// Reads the grade table into ZnamkyTab: one to five lines "lower|upper|grade". What is no number
 /// is 0; a fraction rounds, ties to even. A sixth line, a value outside 0 to 255 and a byte that
 /// the code page does not define are faults.
-void NactiZnamky(Disk& disk, std::string_view soubor);
+void NactiZnamky(Misc& misc, Disk& disk, std::string_view soubor);
 
 /// Reads a task file into Priklady from row 1 on, by the field map of its board, and sets
 /// PocetPrikladu. Fields past the board's last are dropped, those that a line does not reach are
 /// empty. Slots that the board does not read keep what they held. A 101st line is a fault, and so
 /// is a file without a line that says anything.
-void NactiPriklady(Disk& disk, std::string_view soubor, Deska deska);
+void NactiPriklady(Zaznamy& z, Disk& disk, std::string_view soubor, Deska deska);
 
 /// The sentences of a wrong step, in the order of the file, which is read anew each time; none if
 /// it does not hold the number. More than a hundred of one number are a fault.

@@ -1,0 +1,27 @@
+#include "screens/Sezeni.h"
+
+#include <utility>
+
+#include "platform/Cesta.h"
+#include "rules/Ulohy.h"
+
+namespace rysovna {
+
+Sezeni::Sezeni(Host& kde, VyrobceDesek vyrobce) : Stroj(kde), vyrobce_(std::move(vyrobce)) {}
+
+std::shared_ptr<Form> Sezeni::VyrobDesku(int cisloUlohy) {
+    if (NajdiUlohu(cisloUlohy) == nullptr || !vyrobce_) return nullptr;
+    return vyrobce_(*this, cisloUlohy);
+}
+
+Ukladani& Sezeni::Vysledky() {
+    if (!vysledky_) {
+        const Hodiny hodiny{.Ted = [this] { return Stroj.TickCount(); },
+                            .Spi = [this](std::uint32_t ms) { Stroj.Spi(ms); }};
+        vysledky_ = std::make_unique<Ukladani>(Disk(), hodiny, NativniCesta(CestaVysledku),
+                                               Stroj.SlozkaStavu());
+    }
+    return *vysledky_;
+}
+
+}  // namespace rysovna
