@@ -32,8 +32,8 @@ Pripad Prazdna() {
 /// A finished triangle; the label of B, at the crossing of a side and two circles.
 Pripad Hotova() {
     Pripad p;
-    SmazKonstrukci();
-    NakresliTrojuhelnik(p.plocha);
+    Tabulky t;
+    NakresliTrojuhelnik(t, p.plocha);
     p.bod = {240 - 3, 250 + 10};
     return p;
 }
@@ -95,12 +95,12 @@ BENCHMARK_CAPTURE(HledaniMista, cerna, &Cerna);
 /// it takes than the same clearing, lines, circles, texts and copies with no label search.
 void Prekresleni(benchmark::State& state) {
     PametovaPlocha hiden(SIRKA_PLOCHY, VYSKA_PLOCHY), pic(SIRKA_PLOCHY, VYSKA_PLOCHY);
-    SmazKonstrukci();
-    NakresliNahodne(pic, 100, 1);
+    Tabulky t;
+    NakresliNahodne(t, pic, 100, 1);
     ZaznamPlane zaznam(SIRKA_PLOCHY, VYSKA_PLOCHY);
-    PrekresliVse(zaznam, pic);
+    PrekresliVse(t, zaznam, pic);
 
-    const auto vse = [&] { PrekresliVse(hiden, pic); };
+    const auto vse = [&] { PrekresliVse(t, hiden, pic); };
     const auto samotne = [&] {
         Plane& plane = hiden;
         plane.Cls();
@@ -121,7 +121,7 @@ void Prekresleni(benchmark::State& state) {
     const double pomer = PomerCasu(vse, samotne);
     for (auto _ : state) vse();
     state.counters["ku_samotnym_caram"] = pomer;
-    state.counters["utvaru"] = PocetUtvaru;
+    state.counters["utvaru"] = t.PocetUtvaru;
 }
 BENCHMARK(Prekresleni)->Unit(benchmark::kMicrosecond);
 

@@ -9,7 +9,6 @@
 #include "hrac/RukaNaDesce.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 #include "store/TabulkaVysledku.h"
 #include "zak/Trojuhelnik.h"
 
@@ -20,7 +19,6 @@ namespace {
 /// assignment. With the panel's slides the pupil pushes it away in each example.
 void PrikladySss(benchmark::State& stav) {
     const bool zasouvat = stav.range(0) != 0;
-    NastavVyrobceDesek(VyrobDesku);
     hrac::Relace hra;
     hra.Start();
     hra.SpustUlohu(1, "Měření", 5);

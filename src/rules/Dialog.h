@@ -85,6 +85,9 @@ public:
 
     [[nodiscard]] virtual Panel UkazPanel() const = 0;
 
+    /// The session that it plays in, to look at.
+    [[nodiscard]] const Misc& Pamet() const { return misc_; }
+
 protected:
     Misc& misc_;
     Platna platna_;

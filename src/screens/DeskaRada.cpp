@@ -76,7 +76,7 @@ void DeskaForm::ObnovRadu() {
     videne_.NacrtVysunuty = Image1.Tag == "1";
     videne_.Narysovano = s_.PocetUtvaru > danych_;
     const Rada r = UrciRadu(videne_);
-    const CimSeHraje cim = Stroj().Okna().HrajeSe();
+    const CimSeHraje cim = s_.Okna().HrajeSe();
     if (r == rada_ && cim == cimRady_) return;
     rada_ = r;
     cimRady_ = cim;

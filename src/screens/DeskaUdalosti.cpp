@@ -82,7 +82,7 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
 }
 
 void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
-    if (cimRady_ != Stroj().Okna().HrajeSe()) ObnovRadu();
+    if (cimRady_ != s_.Okna().HrajeSe()) ObnovRadu();
     if (videne_.MrtvyNastroj != 0 && (o != nullptr || MrtvyNastrojPod(m) != videne_.MrtvyNastroj)) {
         videne_.MrtvyNastroj = 0;
         ObnovRadu();

@@ -186,7 +186,7 @@ void SetupForm::Click(Ovladac* o) {
 /// From a digit, which it chooses, or from the name on to what is still missing; where nothing is
 /// any more, to the board, by way of the button after a digit that is new.
 bool SetupForm::Enter() {
-    Obrazovky& okna = Stroj().Okna();
+    Obrazovky& okna = s_.Okna();
     const Ovladac* kde = okna.Psane();
     if (const auto prsten = okna.PrstenVpredu()) kde = prsten->Co;
     const bool cislo = kde != nullptr && Je(ICislo, kde);
@@ -197,7 +197,7 @@ bool SetupForm::Enter() {
         novy = !Zvoleny(volba);
         if (novy) okna.StiskniZastavku(*this, volba);
         // The waits in it may have led on from here.
-        if (Skoncil(*this) || okna.Vpredu().get() != this || MistoPrstenu(*this) != &volba)
+        if (Skoncil(s_, *this) || okna.Vpredu().get() != this || MistoPrstenu(*this) != &volba)
             return true;
     }
     if (TJmeno.Text.empty()) {

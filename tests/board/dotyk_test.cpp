@@ -14,7 +14,6 @@
 #include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 #include "zak/Tecny.h"
 
 namespace rysovna::testy {
@@ -25,7 +24,7 @@ using Ohlas = Obrazovky::Ohlas;
 constexpr int SSS = 1;
 
 struct SDeskami {
-    SDeskami() { NastavVyrobceDesek(VyrobDesku); }
+    SDeskami() {}
 };
 
 class DotykDesky : private SDeskami, public testing::Test {
@@ -71,7 +70,7 @@ TEST_F(DotykDesky, ZvednutyTahDokonciJenHotovo) {
     Okna().PrstNahoru(kam.X + 2, kam.Y - 2, r.Hra.Host().TickCount());
     ASSERT_EQ(Ohlasu(Ohlas::Druh::Konec), kam);
     const Bod pad = Ohlasu(Ohlas::Druh::Podlozka).value();
-    EXPECT_EQ(PocetUtvaru, 0);
+    EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 0);
 
     // Whatever else is tapped, clicked or typed, nothing comes of it.
     for (const char* jmeno : {"cmd", "PicTop", "INadpis", "MalaSipka", "picSipka"}) {
@@ -94,7 +93,7 @@ TEST_F(DotykDesky, ZvednutyTahDokonciJenHotovo) {
     EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
     EXPECT_EQ(r.Hra.Prvek<TextBox>("txtVstup").Text, "12");
     EXPECT_EQ(Ohlasu(Ohlas::Druh::Konec), kam);
-    EXPECT_EQ(KladneBody + ZaporneBody, 0);
+    EXPECT_EQ(r.Hra.Pamet().KladneBody + r.Hra.Pamet().ZaporneBody, 0);
 
     // A tap on the plane moves the end, an arrow by a pixel, the mouse does the same; "hotovo".
     const Bod jinam = NaPlose({194, 250});
@@ -108,9 +107,9 @@ TEST_F(DotykDesky, ZvednutyTahDokonciJenHotovo) {
     EXPECT_EQ(r.Hra.Prvek<Label>("Text").Caption, "12 cm");
     Klepni(stred);
     r.Hra.Cekej(50);
-    ASSERT_EQ(PocetUtvaru, 1);
-    EXPECT_EQ((Bod{Utvary[1].X1, Utvary[1].Y1}), (Bod{100, 250}));
-    EXPECT_EQ((Bod{Utvary[1].X2, Utvary[1].Y2}), (Bod{196, 250}));
+    ASSERT_EQ(r.Hra.Pamet().PocetUtvaru, 1);
+    EXPECT_EQ((Bod{r.Hra.Pamet().Utvary[1].X1, r.Hra.Pamet().Utvary[1].Y1}), (Bod{100, 250}));
+    EXPECT_EQ((Bod{r.Hra.Pamet().Utvary[1].X2, r.Hra.Pamet().Utvary[1].Y2}), (Bod{196, 250}));
     EXPECT_EQ(Ohlasu(Ohlas::Druh::Podlozka), std::nullopt);
     r.Hra.StiskniMisto(stred.X, stred.Y);
     EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
@@ -195,14 +194,14 @@ TEST_F(DotykDesky, OvladacNaKrajiSahaDalJenVenku) {
     ASSERT_GE(uvnitr.X, 226);
     r.Zacni();
     r.Rysuj("AB");
-    const int pred = Utvary[1].X1;
+    const int pred = r.Hra.Pamet().Utvary[1].X1;
     Klepni(vedle);
-    EXPECT_EQ(Utvary[1].X1, pred + 20);
+    EXPECT_EQ(r.Hra.Pamet().Utvary[1].X1, pred + 20);
     r.Hra.StiskniMisto(vedle.X, vedle.Y);
-    EXPECT_EQ(Utvary[1].X1, pred + 20) << "the mouse is no finger";
+    EXPECT_EQ(r.Hra.Pamet().Utvary[1].X1, pred + 20) << "the mouse is no finger";
     r.Kdo.Nastroj(4).Vyber("kružnice k, střed v bodě A");
     Klepni(uvnitr);
-    EXPECT_EQ(Utvary[1].X1, pred + 20) << "in an armed plane a tap draws";
+    EXPECT_EQ(r.Hra.Pamet().Utvary[1].X1, pred + 20) << "in an armed plane a tap draws";
     EXPECT_TRUE(Ohlasu(Ohlas::Druh::Konec));
 }
 

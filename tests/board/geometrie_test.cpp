@@ -34,39 +34,39 @@ Utvar Kruh(Bod stred, int r) {
 }
 
 /// A snap record with its first point, and a second or third one where they have a name.
-void PridejTrojici(Bod p1, const char* jmeno1, Bod p2 = {}, const char* jmeno2 = "", Bod p3 = {},
-                   const char* jmeno3 = "") {
-    Trojice_tab[++PocetTrojic] = {p1.X, p1.Y, p2.X, p2.Y, p3.X, p3.Y, jmeno1, jmeno2, jmeno3};
+void PridejTrojici(Tabulky& t, Bod p1, const char* jmeno1, Bod p2 = {}, const char* jmeno2 = "",
+                   Bod p3 = {}, const char* jmeno3 = "") {
+    t.Trojice_tab[++t.PocetTrojic] = {p1.X, p1.Y, p2.X, p2.Y, p3.X, p3.Y, jmeno1, jmeno2, jmeno3};
 }
 
 TEST(Prichytavani, SedmPixeluChytiOsmUzNe) {
-    SmazKonstrukci();
-    PridejTrojici({100, 100}, "A");
+    Tabulky t;
+    PridejTrojici(t, {100, 100}, "A");
     for (const auto& [x, y, chytil] :
          {std::tuple{107, 93, true}, {93, 107, true}, {108, 100, false}, {100, 92, false}}) {
-        const Zachyt z = ZachytPosledni(static_cast<float>(x), static_cast<float>(y));
+        const Zachyt z = ZachytPosledni(t, static_cast<float>(x), static_cast<float>(y));
         EXPECT_EQ(z.Je, chytil) << x << "," << y;
         EXPECT_EQ(z.Misto, chytil ? (Bod{100, 100}) : (Bod{x, y}));
     }
     // Halves go to the even neighbour.
-    EXPECT_EQ(ZachytPosledni(20.5F, 21.5F).Misto, (Bod{20, 22}));
+    EXPECT_EQ(ZachytPosledni(t, 20.5F, 21.5F).Misto, (Bod{20, 22}));
 }
 
 TEST(Prichytavani, PosledniTrojiceVyhravaUKruzniceBlizsi) {
-    SmazKonstrukci();
-    PridejTrojici({100, 100}, "A", {50, 50}, "B");
-    PridejTrojici({106, 106}, "C", {101, 101}, "D");
-    EXPECT_EQ(ZachytPosledni(101, 101).Misto, (Bod{106, 106}));  // its first point goes first
-    EXPECT_EQ(ZachytNejblizsi(101, 101).Misto, (Bod{100, 100}));
-    EXPECT_EQ(ZachytNejblizsi(105, 105).Misto, (Bod{106, 106}));
+    Tabulky t;
+    PridejTrojici(t, {100, 100}, "A", {50, 50}, "B");
+    PridejTrojici(t, {106, 106}, "C", {101, 101}, "D");
+    EXPECT_EQ(ZachytPosledni(t, 101, 101).Misto, (Bod{106, 106}));  // its first point goes first
+    EXPECT_EQ(ZachytNejblizsi(t, 101, 101).Misto, (Bod{100, 100}));
+    EXPECT_EQ(ZachytNejblizsi(t, 105, 105).Misto, (Bod{106, 106}));
     // Nearer on one axis alone is not nearer.
-    EXPECT_EQ(ZachytNejblizsi(105, 101).Misto, (Bod{100, 100}));
+    EXPECT_EQ(ZachytNejblizsi(t, 105, 101).Misto, (Bod{100, 100}));
     // Midpoints and points that a record lacks are no targets.
-    SmazKonstrukci();
-    PridejTrojici({10, 10}, "k", {}, "", {200, 200}, "Sc");
-    EXPECT_FALSE(ZachytPosledni(1, 1).Je);
-    EXPECT_FALSE(ZachytPosledni(200, 200).Je);
-    EXPECT_TRUE(ZachytNejblizsi(200, 200, true).Je);
+    t = {};
+    PridejTrojici(t, {10, 10}, "k", {}, "", {200, 200}, "Sc");
+    EXPECT_FALSE(ZachytPosledni(t, 1, 1).Je);
+    EXPECT_FALSE(ZachytPosledni(t, 200, 200).Je);
+    EXPECT_TRUE(ZachytNejblizsi(t, 200, 200, true).Je);
 }
 
 TEST(Odecty, DelkaUhelAVzdalenost) {
@@ -130,9 +130,10 @@ TEST(Tahy, KolmiceJePresneKolmaARovnobezkaPresneRovnobezna) {
 /// A ray as the engine stores it, from a point through another.
 Utvar PaprsekPres(Bod od, Bod pres) {
     PametovaPlocha plocha(SIRKA_PLOCHY, VYSKA_PLOCHY);
-    SmazKonstrukci();
-    KresliPoloprimku(plocha, POLOPRIMKA, NovyUtvar("A", "X"), od.X, od.Y, pres.X, pres.Y, "X", ANO);
-    return Utvary[1];
+    Tabulky t;
+    KresliPoloprimku(t, plocha, NovyUtvar(t, "A", "X"),
+                     {.Druh = POLOPRIMKA, .P1 = od, .P2 = pres, .Popis2 = "X"}, ANO);
+    return t.Utvary[1];
 }
 
 TEST(Uzavreni, SpravnaDvojiceUtvaruSeVzdyUzavreVeSpravnemVrcholu) {

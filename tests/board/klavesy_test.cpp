@@ -12,7 +12,6 @@
 #include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 #include "zak/Ctyruhelnik.h"
 
 namespace rysovna::testy {
@@ -22,7 +21,7 @@ constexpr int SSS = 1;
 
 class KlavesyDesky : public testing::Test {
 protected:
-    KlavesyDesky() { NastavVyrobceDesek(VyrobDesku); }
+    KlavesyDesky() {}
 
     static std::string Prsten(Relace& hra) {
         const auto p = hra.Host().Okna().PrstenVpredu();
@@ -123,7 +122,8 @@ TEST_F(KlavesyDesky, EnterNaJmenuANaPoctuVedeDal) {
     EXPECT_EQ(hra.JmenoVpredu(), "SetupForm");
     enter("ICislo", 2);
     EXPECT_EQ(hra.JmenoVpredu(), "Troj1Form");
-    EXPECT_EQ(JmenoHrace + " " + std::to_string(PocetPrikladuSerie), "Eva 2");
+    EXPECT_EQ(hra.Pamet().JmenoHrace + " " + std::to_string(hra.Pamet().PocetPrikladuSerie),
+              "Eva 2");
 }
 
 /// A second press brings the panel back, and opens no list.
@@ -201,18 +201,19 @@ TEST_F(KlavesyDesky, TahKlavesamiPustiJenMezernik) {
     EXPECT_TRUE(hra.Prvek("Line1").Visible);
     EXPECT_EQ(Prsten(hra), "Pic");
     EXPECT_EQ(hra.JmenoVpredu(), "Troj1Form");
-    EXPECT_EQ(PocetUtvaru, 0);
+    EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 0);
     EXPECT_EQ(bitmapa(), pred) << "neither ring nor cross is drawn on it";
     hra.Klavesa("Space");
     hra.Cekej(50);
-    ASSERT_EQ(PocetUtvaru, 1);
+    ASSERT_EQ(r.Hra.Pamet().PocetUtvaru, 1);
     EXPECT_EQ(Prsten(hra), "cmd1");
-    EXPECT_EQ((Bod{Utvary[1].X1, Utvary[1].Y1}), odkud);
-    EXPECT_EQ((Bod{Utvary[1].X2, Utvary[1].Y2}), (Bod{odkud.X + 96, odkud.Y}));
+    EXPECT_EQ((Bod{r.Hra.Pamet().Utvary[1].X1, r.Hra.Pamet().Utvary[1].Y1}), odkud);
+    EXPECT_EQ((Bod{r.Hra.Pamet().Utvary[1].X2, r.Hra.Pamet().Utvary[1].Y2}),
+              (Bod{odkud.X + 96, odkud.Y}));
     EXPECT_NE(bitmapa(), pred);
 
     // Letters go from point to point, onto their very pixel; also in the middle of a drag.
-    const std::string jmena = Utvary[1].Jmeno1 + Utvary[1].Jmeno2;
+    const std::string jmena = r.Hra.Pamet().Utvary[1].Jmeno1 + r.Hra.Pamet().Utvary[1].Jmeno2;
     EXPECT_EQ(jmena, "AB");
     Klavesy(hra, {"4", "1"});
     hra.Cekej(100);
@@ -232,7 +233,7 @@ TEST_F(KlavesyDesky, TahKlavesamiPustiJenMezernik) {
     EXPECT_LT(Kriz(hra).X, 0);
     hra.Klavesa("Space");
     hra.Cekej(200);
-    ASSERT_EQ(PocetUtvaru, 2);
+    ASSERT_EQ(r.Hra.Pamet().PocetUtvaru, 2);
     Klavesy(hra, {"4", "1"});
     hra.Cekej(100);
     hra.Klavesa("Return");

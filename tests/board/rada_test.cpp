@@ -15,7 +15,6 @@
 #include "screens/DeskaForm.h"
 #include "screens/Desky.h"
 #include "screens/RadaCesky.h"
-#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 namespace {
@@ -24,7 +23,7 @@ constexpr int SSS = 1;
 
 class RadaDesky : public testing::Test {
 protected:
-    RadaDesky() { NastavVyrobceDesek(VyrobDesku); }
+    RadaDesky() {}
     [[nodiscard]] static DeskaForm& Deska(Rysovac& r) {
         return dynamic_cast<DeskaForm&>(*r.Hra.Najdi("Troj1Form"));
     }
@@ -120,8 +119,8 @@ TEST_F(RadaDesky, VedeOdZnacekAzZaKontrolu) {
     EXPECT_EQ(v.Poradi, 1);
     EXPECT_EQ(v.Prikladu, 2);
     EXPECT_LT(v.Bodu, 10);
-    EXPECT_EQ(v.Bodu, KladneBody);
-    EXPECT_EQ(v.Bodu, 10 - SoucetZapornychBodu);
+    EXPECT_EQ(v.Bodu, r.Hra.Pamet().KladneBody);
+    EXPECT_EQ(v.Bodu, 10 - r.Hra.Pamet().SoucetZapornychBodu);
     EXPECT_FALSE(v.Bezchybny);
 }
 

@@ -17,7 +17,6 @@
 #include "screens/Desky.h"
 #include "screens/Hover.h"
 #include "screens/Spolecne.h"
-#include "screens/VyrobaDesek.h"
 #include "store/Soubory.h"
 #include "zak/Ctyruhelnik.h"
 #include "zak/Ruka.h"
@@ -30,7 +29,7 @@ constexpr int SSS = 1;
 
 class RamecDesky : public testing::Test {
 protected:
-    RamecDesky() { NastavVyrobceDesek(VyrobDesku); }
+    RamecDesky() {}
 };
 
 Panel Ukazany(Rysovac& r) {
@@ -62,7 +61,7 @@ TEST_F(RamecDesky, PanelVyjizdiTriceticiCtyrmiSnimkyPoCtyricetiMsANikohoNepusti)
         r.Hra.Cekej(1000);
         EXPECT_EQ(host.Naplanovano(), 0U);
         EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
-        EXPECT_EQ(PocetUtvaru, 0);
+        EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 0);
         EXPECT_EQ(r.Hra.Prvek("Image1").Tag, zavrit ? "0" : "1");
         EXPECT_EQ(r.Hra.Prvek("MalaSipka").Visible, zavrit);
         EXPECT_EQ(r.Hra.Prvek("VPImage").Visible, !zavrit);
@@ -85,7 +84,7 @@ TEST_F(RamecDesky, NajetiRozsvitiJednoAOdjezdZhasneVsechna) {
         for (const Prvek& p : prvky) {
             const std::string soubor = &p == sviti ? p.Rozsviceny : p.Normalni;
             EXPECT_EQ(r.Hra.Prvek<PictureBox>(p.Jmeno, p.Index).Picture,
-                      NactiObrazek("Bitmap\\Games\\" + soubor + ".bmp"));
+                      NactiObrazek(r.Hra.Pamet(), "Bitmap\\Games\\" + soubor + ".bmp"));
         }
     };
     r.Hra.NoveZvuky();
@@ -119,7 +118,7 @@ TEST_F(RamecDesky, SeznamZavreStiskVedleANepadneSNimKrok) {
         EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
         EXPECT_FALSE(r.Hra.Prvek("Combo").Visible);
         EXPECT_FALSE(Ukazany(r).Combo.Otevreny);
-        EXPECT_EQ(PocetUtvaru, 0);
+        EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 0);
     }
 }
 
@@ -136,7 +135,7 @@ TEST_F(RamecDesky, NapovedaATabulkaSeVraciKRozdelanePraciZpetJiZahodi) {
     r.Kdo.Stiskni("picKonec");
     EXPECT_EQ(Ukazany(r), rozdelano);
     r.Rysuj("kB");
-    EXPECT_EQ(PocetUtvaru, 3);
+    EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 3);
     r.Kdo.Stiskni("PicTop", 4);
     EXPECT_EQ(r.Hra.JmenoVpredu(), "SetupForm");
     EXPECT_EQ(r.Hra.Najdi("Troj1Form"), nullptr);
@@ -205,9 +204,11 @@ TEST_F(RamecDesky, CoSeStiskneBehemCekaniNeublizi) {
                 r.Kdo.Stiskni("picPokracuj");
                 r.Hra.Cekej(200);
                 ASSERT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
-                EXPECT_EQ(PocetUtvaru + PocetChybnychKroku + KladneBody + ZaporneBody, 0);
+                EXPECT_EQ(r.Hra.Pamet().PocetUtvaru + r.Hra.Pamet().PocetChybnychKroku +
+                              r.Hra.Pamet().KladneBody + r.Hra.Pamet().ZaporneBody,
+                          0);
                 r.Zacni().Rysuj("vse");
-                EXPECT_EQ(PocetUtvaru, 3);
+                EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 3);
             }
         }
     }
@@ -224,7 +225,9 @@ TEST_F(RamecDesky, NezSeLosujePrikladKontrolaAniNovyNicNedelaji) {
             r.Hra.Host().NaplanujZa(1540, [&] { r.Kdo.Oznac("a"); });
             r.Kdo.Stiskni("PicTop", 2);
             r.Hra.Cekej(2000);
-            EXPECT_EQ(PocetUtvaru + PocetTrojic + SoucetZapornychBodu + PocetChybnychKroku, 0);
+            EXPECT_EQ(r.Hra.Pamet().PocetUtvaru + r.Hra.Pamet().PocetTrojic +
+                          r.Hra.Pamet().SoucetZapornychBodu + r.Hra.Pamet().PocetChybnychKroku,
+                      0);
             // The panel has come out by itself, with a press of its own to be heard.
             EXPECT_EQ(r.Hra.Prvek("Image1").Tag, "1");
             // What is pressed while it slides is not heard.
@@ -235,7 +238,7 @@ TEST_F(RamecDesky, NezSeLosujePrikladKontrolaAniNovyNicNedelaji) {
             r.Kdo.Oznac("a");
             EXPECT_FALSE(r.Hra.Prvek("cmd", 1).Enabled);
             r.Zacni().Rysuj("vse").Zkontroluj();
-            EXPECT_EQ(KladneBody, 10);
+            EXPECT_EQ(r.Hra.Pamet().KladneBody, 10);
         }
     }
 }
@@ -250,7 +253,7 @@ TEST_F(RamecDesky, NezSeLosujePrikladNejdeZacit) {
     r.Hra.Cekej(2000);
     EXPECT_FALSE(r.Hra.Prvek("Combo").Visible);
     EXPECT_FALSE(r.Hra.Prvek("cmd", 1).Enabled);
-    EXPECT_EQ(KonstrukceZahajena, NE);
+    EXPECT_EQ(r.Hra.Pamet().KonstrukceZahajena, NE);
 }
 
 /// The read-out that goes with the pointer stays on the plane with it: it neither takes its events
@@ -300,13 +303,14 @@ TEST_F(RamecDesky, TabulatorVedePolickyAOznaciCoVNichJe) {
 /// The list of wrong steps cannot be scrolled: ten rows of any length must be seen.
 TEST_F(RamecDesky, SeznamChybSeVejdeCely) {
     Rysovac r(SSS, 1);
-    PridejChybu(301, JEDEN_BOD, 1);
-    const auto kratky = r.Hra.Host().Okna().Nacti<ChybovyForm>();
+    PridejChybu(r.Hra.Pamet(), 301, JEDEN_BOD, 1);
+    const auto kratky = r.Hra.Host().Okna().Nacti<ChybovyForm>(r.Hra.Pamet());
     EXPECT_TRUE(kratky->Text1.VejdeSe());
     EXPECT_EQ(kratky->Text1.Font.Velikost, 10);
-    PocetChybnychKroku = 0;
-    for (int i = 0; i < ChybovyForm::RADKU; ++i) PridejChybu(i % 2 == 0 ? 36 : 127, TRI_BODY, 3);
-    EXPECT_TRUE(r.Hra.Host().Okna().Nacti<ChybovyForm>()->Text1.VejdeSe());
+    r.Hra.Pamet().PocetChybnychKroku = 0;
+    for (int i = 0; i < ChybovyForm::RADKU; ++i)
+        PridejChybu(r.Hra.Pamet(), i % 2 == 0 ? 36 : 127, TRI_BODY, 3);
+    EXPECT_TRUE(r.Hra.Host().Okna().Nacti<ChybovyForm>(r.Hra.Pamet())->Text1.VejdeSe());
 }
 
 TEST_F(RamecDesky, StiskVedleNezrusiVolbuASipkaNepohneTahem) {
@@ -318,8 +322,8 @@ TEST_F(RamecDesky, StiskVedleNezrusiVolbuASipkaNepohneTahem) {
     r.Hra.Host().NaplanujZa(4, [&] { r.Kdo.Stiskni("picSipka", 1); });
     r.Hra.Tahni("Pic", {100, 190}, {200, 190});
     r.Hra.Cekej(100);
-    EXPECT_EQ(Utvary[1].X1, 100);
-    EXPECT_EQ(PosunX, 0);
+    EXPECT_EQ(r.Hra.Pamet().Utvary[1].X1, 100);
+    EXPECT_EQ(r.Hra.Pamet().PosunX, 0);
 }
 
 // ---- The series ------------------------------------------------------------------------------
@@ -358,7 +362,7 @@ TEST_F(RamecDesky, VysledekKteryNejdeZapsatHruNeukonci) {
         r.Kdo.Stiskni("picPokracuj");
         r.Hra.Cekej(2000);
         EXPECT_EQ(r.Hra.JmenoVpredu(), "TabulkaForm");
-        EXPECT_EQ(AktivniForm.lock().get(), r.Hra.Vpredu());
+        EXPECT_EQ(r.Hra.Pamet().AktivniForm.lock().get(), r.Hra.Vpredu());
         EXPECT_EQ(r.Hra.Prvek<Label>("LSpravne", 1).Caption, "10");
     };
     Rysovac r(SSS, 1);

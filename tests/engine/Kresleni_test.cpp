@@ -24,7 +24,7 @@ protected:
         Znovu();
     }
     void Znovu() {
-        SmazKonstrukci();
+        t = {};
         plocha.carky.clear();
         plocha.napisy.clear();
     }
@@ -45,10 +45,18 @@ protected:
     }
     /// A segment AB from (150, 150), with marks.
     void Usecka(int dx, int dy) {
-        KresliUsecku(plocha, USECKA, NovyUtvar("A", "B"), 150, 150, 150 + dx, 150 + dy, 5, "A", "B",
-                     ANO, ANO, ANO);
+        KresliUsecku(t, plocha, NovyUtvar(t, "A", "B"),
+                     {.Druh = USECKA,
+                      .P1 = {150, 150},
+                      .P2 = {150 + dx, 150 + dy},
+                      .Popis1 = "A",
+                      .Popis2 = "B",
+                      .Delka = 5,
+                      .Znacky = ANO},
+                     ANO);
     }
 
+    Tabulky t;
     ZaznamPlane plocha{SIRKA_PLOCHY, VYSKA_PLOCHY};
 };
 
@@ -92,12 +100,15 @@ TEST_F(Kresleni, SektorUrcujePopisAKriz) {
                   p.sektor);
         // A point on that segment wears the whole cross and the same sector's label offset; so
         // does, with the tick alone, a ray in the same direction.
-        KresliBod(plocha, BOD, "X", NovyUtvar("X", ""), 60, 70, "X", "AB", ANO);
+        KresliBod(t, plocha, NovyUtvar(t, "X", ""),
+                  {.Druh = BOD, .P1 = {60, 70}, .Popis1 = "X", .NaPrimce = "AB"}, ANO);
         EXPECT_EQ(PosledniNapis(), (Bod{60 + p.popis.X, 70 + p.popis.Y})) << p.sektor;
         CekaCarky({{60 - px, 70 - py, 60 + px, 70 + py}, {60 - vx, 70 - vy, 60 + vx, 70 + vy}},
                   p.sektor);
-        KresliPoloprimku(plocha, POLOPRIMKA, NovyUtvar("A", "X"), 150, 150, 150 + p.dx, 150 + p.dy,
-                         "X", NE);
+        KresliPoloprimku(
+            t, plocha, NovyUtvar(t, "A", "X"),
+            {.Druh = POLOPRIMKA, .P1 = {150, 150}, .P2 = {150 + p.dx, 150 + p.dy}, .Popis2 = "X"},
+            NE);
         CekaCarky({{x - px, y - py, x + px, y + py}}, p.sektor);
     }
     // The limit between two sectors is the lower one's, whatever the length.
@@ -125,57 +136,78 @@ TEST_F(Kresleni, DruhyBodSePosuneNaOkraj) {
     };
     for (const auto& [co, od, k, ocekavany] : pripady) {
         Znovu();
-        KresliPoloprimku(plocha, POLOPRIMKA, 1, od.X, od.Y, k.X, k.Y, "X", ANO);
-        KresliKolmici(plocha, KOLMICE, 2, od.X, od.Y, k.X, k.Y, ANO);
-        for (const int i : {1, 2}) EXPECT_EQ((Bod{Utvary[i].X2, Utvary[i].Y2}), ocekavany) << co;
-        EXPECT_EQ((Bod{Trojice_tab[1].X2, Trojice_tab[1].Y2}), ocekavany) << co;
+        KresliPoloprimku(t, plocha, 1, {.Druh = POLOPRIMKA, .P1 = od, .P2 = k, .Popis2 = "X"}, ANO);
+        KresliKolmici(t, plocha, 2, {.Druh = KOLMICE, .P1 = od, .P2 = k}, ANO);
+        for (const int i : {1, 2})
+            EXPECT_EQ((Bod{t.Utvary[i].X2, t.Utvary[i].Y2}), ocekavany) << co;
+        EXPECT_EQ((Bod{t.Trojice_tab[1].X2, t.Trojice_tab[1].Y2}), ocekavany) << co;
         // A redraw leaves the stored point where it is.
-        KresliPrimku(plocha, PRIMKA, 2, od.X, od.Y, k.X, k.Y, 0, NE);
-        EXPECT_EQ((Bod{Utvary[2].X2, Utvary[2].Y2}), k) << co;
+        KresliPrimku(t, plocha, 2, {.Druh = PRIMKA, .P1 = od, .P2 = k}, NE);
+        EXPECT_EQ((Bod{t.Utvary[2].X2, t.Utvary[2].Y2}), k) << co;
     }
 }
 
 TEST_F(Kresleni, CaryVedouKOkrajumPlochyATouzZUlozenychHodnot) {
-    KresliPrimku(plocha, PRIMKA, 1, 100, 100, 102, 101, 7.5F, NE);
+    KresliPrimku(t, plocha, 1, {.Druh = PRIMKA, .P1 = {100, 100}, .P2 = {102, 101}, .Delka = 7.5F},
+                 NE);
     CekaCarky({{0, 50, 384, 242}}, "line");
-    KresliKolmici(plocha, KOLMICE, 2, 30, 100, 30, 90, NE);
+    KresliKolmici(t, plocha, 2, {.Druh = KOLMICE, .P1 = {30, 100}, .P2 = {30, 90}}, NE);
     CekaCarky({{30, 0, 30, 335}}, "upright");
     const std::array<double, 4> paprsky[] = {
         {100, 90, 100, 0}, {100, 190, 100, 335}, {98, 101, 0, 150}};
     for (const auto& [x, y, kx, ky] : paprsky) {
-        KresliPoloprimku(plocha, POLOPRIMKA, 3, 100, 100, Zaokrouhli(x), Zaokrouhli(y), "X", NE);
+        KresliPoloprimku(t, plocha, 3,
+                         {.Druh = POLOPRIMKA,
+                          .P1 = {100, 100},
+                          .P2 = {Zaokrouhli(x), Zaokrouhli(y)},
+                          .Popis2 = "X"},
+                         NE);
         plocha.carky.pop_back();  // the tick
         CekaCarky({{100, 100, kx, ky}}, "ray");
     }
     // A redraw from the stored values leads the very same line.
-    KresliPoloprimku(plocha, POLOPRIMKA, 4, 100, 101, 171, 130, "X", ANO);
-    const Utvar u = Utvary[4];
-    KresliPoloprimku(plocha, POLOPRIMKA, 4, u.X1, u.Y1, u.X2, u.Y2, "X", NE);
+    KresliPoloprimku(t, plocha, 4,
+                     {.Druh = POLOPRIMKA, .P1 = {100, 101}, .P2 = {171, 130}, .Popis2 = "X"}, ANO);
+    const Utvar u = t.Utvary[4];
+    KresliPoloprimku(t, plocha, 4,
+                     {.Druh = POLOPRIMKA, .P1 = {u.X1, u.Y1}, .P2 = {u.X2, u.Y2}, .Popis2 = "X"},
+                     NE);
     EXPECT_EQ(plocha.carky.end()[-2], plocha.carky.end()[-4]);
 }
 
 TEST_F(Kresleni, UseckaZapisujeZaznamATrojici) {
     Usecka(25, 10);
     // The middle at 162.5 goes to the even pixel.
-    EXPECT_EQ(Trojice_tab[1], (Trojice{150, 150, 175, 160, 162, 155, "A", "B", "Sc"}));
+    EXPECT_EQ(t.Trojice_tab[1], (Trojice{150, 150, 175, 160, 162, 155, "A", "B", "Sc"}));
     // Without its line a segment still gets its two labels, and no mark.
     const auto car = plocha.carky.size();
-    KresliUsecku(plocha, USECKA, NovyUtvar("B", "A"), 150, 150, 175, 160, 5, "B", "A", ANO, NE, NE);
+    KresliUsecku(t, plocha, NovyUtvar(t, "B", "A"),
+                 {.Druh = USECKA,
+                  .P1 = {150, 150},
+                  .P2 = {175, 160},
+                  .Popis1 = "B",
+                  .Popis2 = "A",
+                  .Delka = 5,
+                  .Znacky = ANO,
+                  .Cara = NE},
+                 NE);
     EXPECT_EQ(plocha.carky.size(), car);
     EXPECT_EQ(plocha.napisy.size(), 4U);
-    EXPECT_EQ(PocetTrojic, 1);
-    EXPECT_EQ(Trojice_tab[1].Jmeno1 + Utvary[2].Jmeno3, "B");
+    EXPECT_EQ(t.PocetTrojic, 1);
+    EXPECT_EQ(t.Trojice_tab[1].Jmeno1 + t.Utvary[2].Jmeno3, "B");
 }
 
 TEST_F(Kresleni, KrizBoduHledaPosledniPrimkuTohoJmena) {
     Usecka(80, 0);
-    KresliUsecku(plocha, USECKA, NovyUtvar("B", "A"), 10, 10, 10, 90, 5, "", "", NE, ANO, ANO);
+    KresliUsecku(t, plocha, NovyUtvar(t, "B", "A"),
+                 {.Druh = USECKA, .P1 = {10, 10}, .P2 = {10, 90}, .Delka = 5}, ANO);
     plocha.DrawWidth = 2;
-    KresliBod(plocha, BOD, "X", NovyUtvar("X", ""), 60, 70, "X", "AB", ANO);
+    KresliBod(t, plocha, NovyUtvar(t, "X", ""),
+              {.Druh = BOD, .P1 = {60, 70}, .Popis1 = "X", .NaPrimce = "AB"}, ANO);
     // A to B of the second segment goes straight up.
     EXPECT_EQ(PosledniNapis(), (Bod{70, 67}));
     EXPECT_EQ(plocha.DrawWidth, 1);
-    EXPECT_EQ(Trojice_tab[3], (Trojice{60, 70, 0, 0, 0, 0, "X", "", ""}));
+    EXPECT_EQ(t.Trojice_tab[3], (Trojice{60, 70, 0, 0, 0, 0, "X", "", ""}));
 }
 
 TEST_F(Kresleni, PopisKruzniceHledaMistoUvnitrPlochy) {
@@ -186,13 +218,18 @@ TEST_F(Kresleni, PopisKruzniceHledaMistoUvnitrPlochy) {
         {{380, 20}, 430, {330, 7}},        // only 270, the last of all
         {{192, -100}, 242, {142, -113}}};  // none: the last try stands
     for (const auto& [stred, x2, popis] : pripady) {
-        KresliKruznici(plocha, KRUZNICE, NovyUtvar("k", ""), stred.X, stred.Y, x2, ANO);
+        KresliKruznici(t, plocha, NovyUtvar(t, "k", ""),
+                       {.Druh = KRUZNICE, .P1 = stred, .P2 = {x2, stred.Y}}, ANO);
         EXPECT_EQ(PosledniNapis(), popis);
         EXPECT_EQ(plocha.kruhy.back().r, 50.0F);
     }
-    EXPECT_THROW(KresliKruznici(plocha, KRUZNICE, 101, 10, 10, 20, ANO), BehovaChyba);
-    PocetTrojic = 100;
-    EXPECT_THROW(KresliKruznici(plocha, KRUZNICE, 1, 10, 10, 20, ANO), BehovaChyba);
+    EXPECT_THROW(
+        KresliKruznici(t, plocha, 101, {.Druh = KRUZNICE, .P1 = {10, 10}, .P2 = {20, 10}}, ANO),
+        BehovaChyba);
+    t.PocetTrojic = 100;
+    EXPECT_THROW(
+        KresliKruznici(t, plocha, 1, {.Druh = KRUZNICE, .P1 = {10, 10}, .P2 = {20, 10}}, ANO),
+        BehovaChyba);
 }
 
 TEST(Tabulky, RovneUhlyNaPetMist) {

@@ -17,7 +17,7 @@ using namespace testy;
 
 class Sluzby : public testing::Test {
 protected:
-    void SetUp() override { SmazKonstrukci(); }
+    Tabulky t;
     ZaznamPlane hiden{SIRKA_PLOCHY, VYSKA_PLOCHY};
     ZaznamPlane pic{SIRKA_PLOCHY, VYSKA_PLOCHY};
 };
@@ -60,7 +60,7 @@ TEST_F(Sluzby, VolneMistoNajdeTotezCoProsteHledani) {
 
 TEST_F(Sluzby, PrekresleniPrazdneKonstrukceSmazePic) {
     pic.Line(0, 0, 300, 300);
-    PrekresliVse(hiden, pic);
+    PrekresliVse(t, hiden, pic);
     EXPECT_TRUE(pic.plocha.StejnyObraz(PametovaPlocha(SIRKA_PLOCHY, VYSKA_PLOCHY)));
     EXPECT_EQ(pic.kopie, (std::vector<bool>{true, false, true}));
 }
@@ -68,58 +68,61 @@ TEST_F(Sluzby, PrekresleniPrazdneKonstrukceSmazePic) {
 TEST_F(Sluzby, PrekresleniDaStejnyObrazATabulky) {
     // A finished triangle fills no point from a moved one, so that even its first picture comes
     // back; the random constructions settle with the first redraw.
-    NakresliTrojuhelnik(pic);
+    NakresliTrojuhelnik(t, pic);
     PametovaPlocha prvni = pic.plocha;
-    PrekresliVse(hiden, pic);
+    PrekresliVse(t, hiden, pic);
     EXPECT_TRUE(pic.plocha.StejnyObraz(prvni));
     for (unsigned seminko = 1; seminko <= 20; ++seminko) {
-        SmazKonstrukci();
+        t = {};
         pic.Cls();
-        NakresliNahodne(pic, 98, seminko);
-        PrekresliVse(hiden, pic);
+        NakresliNahodne(t, pic, 98, seminko);
+        PrekresliVse(t, hiden, pic);
         prvni = pic.plocha;
-        const auto utvary = Utvary;
-        const auto trojice = Trojice_tab;
-        PrekresliVse(hiden, pic);
+        const auto utvary = t.Utvary;
+        const auto trojice = t.Trojice_tab;
+        PrekresliVse(t, hiden, pic);
         EXPECT_TRUE(pic.plocha.StejnyObraz(prvni)) << seminko;
-        EXPECT_EQ(Utvary, utvary);
-        EXPECT_EQ(Trojice_tab, trojice);
-        EXPECT_EQ(PocetTrojic, 98);
+        EXPECT_EQ(t.Utvary, utvary);
+        EXPECT_EQ(t.Trojice_tab, trojice);
+        EXPECT_EQ(t.PocetTrojic, 98);
     }
 }
 
 TEST_F(Sluzby, PrekresleniPiseJenDoPosledniTrojice) {
-    NakresliTrojuhelnik(pic);
-    const auto predtim = Trojice_tab;
-    Utvary[2].Druh = "elipsa";  // unknown, skipped
+    NakresliTrojuhelnik(t, pic);
+    const auto predtim = t.Trojice_tab;
+    t.Utvary[2].Druh = "elipsa";  // unknown, skipped
     hiden.kruhy.clear();
-    PrekresliVse(hiden, pic);
+    PrekresliVse(t, hiden, pic);
     EXPECT_EQ(hiden.kruhy.size(), 1U);
-    EXPECT_EQ(Trojice_tab, predtim);
+    EXPECT_EQ(t.Trojice_tab, predtim);
     // A circle last: its centre stands over the end points of the segment before it.
-    KresliKruznici(pic, KRUZNICE, NovyUtvar("k", ""), 50, 60, 70, ANO);
-    PrekresliVse(hiden, pic);
-    EXPECT_EQ(Trojice_tab[7], (Trojice{50, 60, 187, 170, 214, 210, "k", "C", "Sa"}));
+    KresliKruznici(t, pic, NovyUtvar(t, "k", ""),
+                   {.Druh = KRUZNICE, .P1 = {50, 60}, .P2 = {70, 60}}, ANO);
+    PrekresliVse(t, hiden, pic);
+    EXPECT_EQ(t.Trojice_tab[7], (Trojice{50, 60, 187, 170, 214, 210, "k", "C", "Sa"}));
     // A redrawn parallel loses its length, a line does not.
-    KresliPrimku(pic, ROVNOBEZKA, NovyUtvar("A", "B"), 50, 60, 80, 60, 5, ANO);
-    KresliPrimku(pic, PRIMKA, NovyUtvar("A", "B"), 50, 90, 80, 90, 6, ANO);
-    PrekresliVse(hiden, pic);
-    EXPECT_EQ(Utvary[8].Delka, 0.0F);
-    EXPECT_EQ(Utvary[9].Delka, 6.0F);
+    KresliPrimku(t, pic, NovyUtvar(t, "A", "B"),
+                 {.Druh = ROVNOBEZKA, .P1 = {50, 60}, .P2 = {80, 60}, .Delka = 5}, ANO);
+    KresliPrimku(t, pic, NovyUtvar(t, "A", "B"),
+                 {.Druh = PRIMKA, .P1 = {50, 90}, .P2 = {80, 90}, .Delka = 6}, ANO);
+    PrekresliVse(t, hiden, pic);
+    EXPECT_EQ(t.Utvary[8].Delka, 0.0F);
+    EXPECT_EQ(t.Utvary[9].Delka, 6.0F);
 }
 
 TEST_F(Sluzby, PosunPosuneVseAZpetVratiObraz) {
-    NakresliTrojuhelnik(pic);
-    PrekresliVse(hiden, pic);
+    NakresliTrojuhelnik(t, pic);
+    PrekresliVse(t, hiden, pic);
     const PametovaPlocha predtim = pic.plocha;
-    const auto utvary = Utvary;
-    PosunVse(hiden, pic, 20, -20);
-    EXPECT_EQ((Bod{Utvary[1].X1, Utvary[1].Y1}), (Bod{140, 230}));
-    EXPECT_EQ((Bod{Utvary[1].X4, Utvary[1].Y4}), (Bod{20, -20}));  // unused slots move too
-    EXPECT_EQ((Bod{Trojice_tab[2].X3, Trojice_tab[2].Y3}), (Bod{20, -20}));
+    const auto utvary = t.Utvary;
+    PosunVse(t, hiden, pic, 20, -20);
+    EXPECT_EQ((Bod{t.Utvary[1].X1, t.Utvary[1].Y1}), (Bod{140, 230}));
+    EXPECT_EQ((Bod{t.Utvary[1].X4, t.Utvary[1].Y4}), (Bod{20, -20}));  // unused slots move too
+    EXPECT_EQ((Bod{t.Trojice_tab[2].X3, t.Trojice_tab[2].Y3}), (Bod{20, -20}));
     EXPECT_EQ(pic.plocha.Point(150, 230), CERNA);
-    PosunVse(hiden, pic, -20, 20);
-    EXPECT_EQ(Utvary, utvary);
+    PosunVse(t, hiden, pic, -20, 20);
+    EXPECT_EQ(t.Utvary, utvary);
     EXPECT_TRUE(pic.plocha.StejnyObraz(predtim));
 }
 

@@ -12,7 +12,6 @@
 #include "podpora/Prostredi.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 namespace {
@@ -20,7 +19,6 @@ namespace {
 class BezstarostnyZak : public testing::TestWithParam<Bezstarostny::Cim> {};
 
 TEST_P(BezstarostnyZak, NicNeshodiANicNeztrati) {
-    NastavVyrobceDesek(VyrobDesku);
     const int udalosti = Prostredi("RYSOVNA_UDALOSTI", 20'000);
     std::vector<int> seminka = {11, 12, 13, 14};
     if (const int dane = Prostredi("RYSOVNA_SEMINKO", 0); dane != 0) seminka = {dane};

@@ -9,7 +9,7 @@ namespace {
 
 class KlavesniceTest : public NaStroji {
 protected:
-    KlavesniceTest() : Form_(Okna().Nacti<ZapisForm>()) {
+    KlavesniceTest() : Form_(Okna().Nacti<ZapisForm>(Host_)) {
         Form_->BereKlavesy = false;
         Form_->Pole.Zastavka = 3;
         Form_->Pic.Zastavka = 5;

@@ -13,7 +13,7 @@ namespace {
 
 class MalirTest : public NaStroji {
 protected:
-    MalirTest() : Form_(Okna().Nacti<ZapisForm>()) {
+    MalirTest() : Form_(Okna().Nacti<ZapisForm>(Host_)) {
         Form_->Uvnitr.Caption = "Ahoj";
         Form_->BackColor = Rgb(200, 220, 240);
         Form_->Pic.Plocha().Line(0, 0, 199, 149);

@@ -9,7 +9,7 @@ namespace {
 
 class ObrazovkyTest : public NaStroji {
 protected:
-    ObrazovkyTest() : Form_(Okna().Nacti<ZapisForm>()) {
+    ObrazovkyTest() : Form_(Okna().Nacti<ZapisForm>(Host_)) {
         Okna().Show(*Form_);
         Form_->Vezmi();
     }
@@ -90,7 +90,7 @@ TEST_F(ObrazovkyTest, DvojklikJeDvaStiskyAJednoNavic) {
 
     // The first press took its form away: the second one is not for the form below.
     Host_.Spi(1000);
-    const auto nahore = Okna().Nacti<ZapisForm>();
+    const auto nahore = Okna().Nacti<ZapisForm>(Host_);
     Okna().Show(*nahore);
     nahore->PriStisku = [&] { Okna().Hide(*nahore); };
     for (int i = 0; i < 2; ++i) Host_.Stiskni(410, 105);
@@ -222,7 +222,7 @@ TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
 }
 
 TEST_F(ObrazovkyTest, ActivateDostaneTenKdoPrijdeDoPopredi) {
-    const auto maly = Okna().Nacti<ZapisForm>();
+    const auto maly = Okna().Nacti<ZapisForm>(Host_);
     maly->Left = 500;
     maly->Width = maly->Height = 100;
     for (int i = 0; i < 2; ++i) Okna().Show(*maly);
@@ -261,7 +261,7 @@ TEST_F(ObrazovkyTest, CasovaceJdouPodleHodin) {
 TEST_F(ObrazovkyTest, FormularZnicenyVeVnorenemCekaniDoziveSvujHandler) {
     // The form unloads while its handler waits: by its own second press, by its timer, by another.
     for (int jak = 0; jak < 3; ++jak) {
-        auto form = Okna().Nacti<ZapisForm>();
+        auto form = Okna().Nacti<ZapisForm>(Host_);
         const std::weak_ptr<ZapisForm> zije = form;
         Host_.Spi(1000);
         Okna().Show(*form);
@@ -269,7 +269,7 @@ TEST_F(ObrazovkyTest, FormularZnicenyVeVnorenemCekaniDoziveSvujHandler) {
         form.reset();
         bool dobehl = false;
         f->PriStisku = [&, f] {
-            f->PriStisku = [f] { Stroj().Okna().Unload(*f); };
+            f->PriStisku = [this, f] { Okna().Unload(*f); };
             f->PriTiku = f->PriStisku;
             if (jak == 0) Okna().MysNahoru(150, 150, 1, 0);
             if (jak == 0) Host_.NaplanujZa(50, [&] { Okna().MysDolu(410, 105, 1, 0); });
@@ -297,7 +297,7 @@ TEST_F(ObrazovkyTest, ModalniFormularMaVsechnoSam) {
     Form_->SetFocus(Form_->Pole);
     Form_->Hodiny.Interval = 10;
     Form_->Hodiny.Enabled = true;
-    const auto modalni = Okna().Nacti<ZapisForm>();
+    const auto modalni = Okna().Nacti<ZapisForm>(Host_);
     Okna().NastavModalni(modalni);
     Okna().Show(*Form_);
     EXPECT_EQ(Okna().Vpredu(), modalni) << "nobody gets over it";
@@ -357,7 +357,7 @@ TEST_F(NaStroji, ZpravaOdpovidaNaKlavesyIMys) {
 TEST_F(NaStroji, DlouhaZpravaSeVejdeDoOkna) {
     std::string text = "Grafická";
     for (int i = 0; i < 20; ++i) text += " karta";
-    const auto form = Okna().Nacti<ZpravaForm>(text, "Upozornění", Styl::Ok);
+    const auto form = Okna().Nacti<ZpravaForm>(Host_, text, "Upozornění", Styl::Ok);
     std::string slozeny;
     for (const Ovladac* o : form->Ovladace()) {
         EXPECT_LE(o->Top + o->Height, form->Height) << o->Name;

@@ -45,12 +45,12 @@ protected:
 
     std::vector<std::string> Docasne_;
     HeadlessHost Host_;
-    HostNaDobu NaDobu_{Host_};
 };
 
 /// A form of a few objects that writes down what reaches it: "Down Pic 5,6".
 class ZapisForm : public Form {
 public:
+    explicit ZapisForm(Host& host) : host_(host) {}
     std::string_view Jmeno() const override { return "ZapisForm"; }
     void Load() override {
         Pridej(Pic, "Pic", {100, 50, 200, 150});
@@ -77,7 +77,7 @@ public:
     }
     void QueryUnload() override { Udalosti.push_back("QueryUnload"); }
     void TimerTick(Timer& /*t*/) override {
-        Udalosti.push_back("Tick " + std::to_string(Stroj().TickCount()));
+        Udalosti.push_back("Tick " + std::to_string(host_.TickCount()));
         Zavolej(PriTiku);
     }
     bool Klavesa(std::string_view k, int /*shift*/) override {
@@ -100,6 +100,7 @@ public:
     std::function<void()> PriStisku, PriAktivaci, PriTiku;
 
 private:
+    Host& host_;
     /// A copy is run: what it does may put another one in its place.
     static void Zavolej(std::function<void()> co) {
         if (co) co();

@@ -19,7 +19,7 @@ std::string Stav(const TextBox& t) {
 
 class PsaniTest : public NaStroji {
 protected:
-    PsaniTest() : Form_(Okna().Nacti<ZapisForm>()) {
+    PsaniTest() : Form_(Okna().Nacti<ZapisForm>(Host_)) {
         Okna().Show(*Form_);
         Form_->SetFocus(Form_->Pole);
         Form_->Vezmi();

@@ -68,13 +68,13 @@ bool JeUzavreno(Form* vpredu) {
     return pic != nullptr && nacrt != nullptr && !pic->Enabled && nacrt->Enabled;
 }
 
-int Vaha(const Ovladac& o, bool uzavreno) {
+int Vaha(const Misc& misc, const Ovladac& o, bool uzavreno) {
     if (!JeZivy(o)) return 0;
     if (uzavreno && o.Name == "PicTop" && o.Index == 1) return VAHA_KONTROLY;
     const auto* v = std::ranges::find(VAHY, o.Name, &VahaPrvku::Jmeno);
     if (v == std::end(VAHY)) return o.Druh == Ovladac::Typ::Label ? 1 : VAHA_OSTATNICH;
     const bool zpet = o.Index == 4 && o.Name == "PicTop";
-    if (zpet) return PocetChybnychKroku > DOST_CHYB ? VAHA_UTEKU : 1;
+    if (zpet) return misc.PocetChybnychKroku > DOST_CHYB ? VAHA_UTEKU : 1;
     return v->Vaha;
 }
 
@@ -235,7 +235,7 @@ const Ovladac* Bezstarostny::Vyhlednuty() {
     for (const Ovladac* o : form->Ovladace()) {
         // Of the families on the menu the one that is to be played.
         const bool cizi = rodina_ != 0 && o->Name == "LI" && o->Index != rodina_;
-        vahy.push_back(cizi ? 0 : Vaha(*o, uzavreno));
+        vahy.push_back(cizi ? 0 : Vaha(relace_->Pamet(), *o, uzavreno));
     }
     if (std::ranges::count(vahy, 0) == std::ssize(vahy)) return nullptr;
     std::discrete_distribution<std::size_t> ktery(vahy.begin(), vahy.end());
@@ -327,8 +327,8 @@ void Bezstarostny::Tah(const Ovladac& pic) {
     Obrazovky& okna = relace_->Host().Okna();
     const Bod roh = relace_->Roh(pic);
     const auto misto = [&](int doBodu) {
-        if (PocetTrojic == 0 || Cislo(10) >= doBodu) return Uvnitr(pic);
-        const Trojice& t = Trojice_tab[1 + Cislo(PocetTrojic)];
+        if (relace_->Pamet().PocetTrojic == 0 || Cislo(10) >= doBodu) return Uvnitr(pic);
+        const Trojice& t = relace_->Pamet().Trojice_tab[1 + Cislo(relace_->Pamet().PocetTrojic)];
         const Bod b = Jednou(2) ? Bod{t.X1, t.Y1} : Bod{t.X2, t.Y2};
         return Bod{roh.X + b.X + Cislo(17) - 8, roh.Y + b.Y + Cislo(17) - 8};
     };
@@ -364,7 +364,7 @@ void Bezstarostny::Sleduj() {
     const auto* pic = vpredu ? vpredu->Najdi("Pic") : nullptr;
     if (pic != nullptr && deska_.lock() != vpredu) {
         deska_ = vpredu;
-        ++souhrn_.Desky[CisloUlohy];
+        ++souhrn_.Desky[relace_->Pamet().CisloUlohy];
     }
     const bool uzavreno = JeUzavreno(vpredu.get());
     if (uzavreno && !uzavreno_) ++souhrn_.Uzavreni;
@@ -377,11 +377,15 @@ void Bezstarostny::Sleduj() {
 
 void Bezstarostny::ZkontrolujStav() {
     if (relace_->Vpredu() == nullptr) Vadne("no screen in front");
-    if ((KladneBody + ZaporneBody) % 10 != 0) Vadne("points of the series are not by tens");
+    if ((relace_->Pamet().KladneBody + relace_->Pamet().ZaporneBody) % 10 != 0)
+        Vadne("points of the series are not by tens");
     int soucet = 0;
-    for (int i = 1; i <= PocetChybnychKroku; ++i) soucet += ChybneKroky[i].Body;
-    if (soucet != SoucetZapornychBodu) Vadne("the penalty is not the sum of the wrong steps");
-    if (PocetUtvaru < 0 || PocetTrojic < 0) Vadne("counters of the construction below zero");
+    for (int i = 1; i <= relace_->Pamet().PocetChybnychKroku; ++i)
+        soucet += relace_->Pamet().ChybneKroky[i].Body;
+    if (soucet != relace_->Pamet().SoucetZapornychBodu)
+        Vadne("the penalty is not the sum of the wrong steps");
+    if (relace_->Pamet().PocetUtvaru < 0 || relace_->Pamet().PocetTrojic < 0)
+        Vadne("counters of the construction below zero");
 }
 
 void Bezstarostny::ZkontrolujSoubory() {

@@ -84,8 +84,9 @@ constexpr Podminka PODMINKY[] = {
 std::string CoJeVidet(const DeskaForm& d) {
     const Videne& v = d.VidenoTed();
     const Panel& p = v.Krok;
+    const Misc& m = d.Dialogem().Pamet();
     std::ostringstream s;
-    s << int{CisloUlohy} << '|' << static_cast<int>(d.CimRady()) << '|' << PocetUtvaru << '|'
+    s << int{m.CisloUlohy} << '|' << static_cast<int>(d.CimRady()) << '|' << m.PocetUtvaru << '|'
       << v.NacrtVysunuty << v.Tahne << v.Podlozka << '|' << v.Odecet << '|' << v.MrtvyNastroj
       << static_cast<int>(v.Pod) << '|' << (p.Kresleni.Druh != Gesto::Tvar::Zadny) << p.PicZiva
       << p.Nesestrojen << '|';
@@ -109,7 +110,8 @@ std::string HlidacRady::Zkontroluj(const DeskaForm& deska) {
     const Rada& r = deska.RadaTed();
     const RadkyRady radky = RadaCesky(r, deska.CimRady());
     const std::string slova = radky[0] + " / " + radky[1];
-    if (deska.PicRada.Visible != RadyUkazovat) return "the guide's strip is not as configured";
+    if (deska.PicRada.Visible != deska.Dialogem().Pamet().RadyUkazovat)
+        return "the guide's strip is not as configured";
     for (std::size_t i = 0; i < radky.size(); ++i) {
         if (deska.lblRada[i].Caption != radky[i]) return "the guide does not show: " + slova;
     }

@@ -12,65 +12,83 @@ namespace rysovna::testy {
 constexpr int SIRKA_PLOCHY = 384;
 constexpr int VYSKA_PLOCHY = 335;
 
-/// The tables as at the start of the program.
-inline void SmazKonstrukci() {
-    Utvary.Smaz();
-    Trojice_tab.Smaz();
-    PocetUtvaru = PocetTrojic = 0;
-}
-
 /// Opens the next row with the names of its points.
-inline int NovyUtvar(std::string_view jmeno1, std::string_view jmeno2) {
-    const int i = ++PocetUtvaru;
-    SmazRadekUtvaru(i);
-    SmazRadekTrojic(PocetTrojic + 1);
-    Utvary[i].Jmeno1 = jmeno1;
-    Utvary[i].Jmeno2 = jmeno2;
+inline int NovyUtvar(Tabulky& t, std::string_view jmeno1, std::string_view jmeno2) {
+    const int i = ++t.PocetUtvaru;
+    t.SmazRadekUtvaru(i);
+    t.SmazRadekTrojic(t.PocetTrojic + 1);
+    t.Utvary[i].Jmeno1 = jmeno1;
+    t.Utvary[i].Jmeno2 = jmeno2;
     return i;
 }
 
 /// A finished triangle by two circles: six objects.
-inline void NakresliTrojuhelnik(Plane& plane) {
-    KresliUsecku(plane, USECKA, NovyUtvar("A", "B"), 120, 250, 240, 250, 15, "A", "B", ANO, ANO,
+inline void NakresliTrojuhelnik(Tabulky& t, Plane& plane) {
+    KresliUsecku(t, plane, NovyUtvar(t, "A", "B"),
+                 {.Druh = USECKA,
+                  .P1 = {120, 250},
+                  .P2 = {240, 250},
+                  .Popis1 = "A",
+                  .Popis2 = "B",
+                  .Delka = 15,
+                  .Znacky = ANO},
                  ANO);
-    KresliKruznici(plane, KRUZNICE, NovyUtvar("A", ""), 120, 250, 224, ANO);
-    KresliKruznici(plane, KRUZNICE, NovyUtvar("B", ""), 240, 250, 144, ANO);
-    KresliBod(plane, BOD, "C", NovyUtvar("C", ""), 187, 170, "C", "", ANO);
-    KresliUsecku(plane, USECKA, NovyUtvar("A", "C"), 120, 250, 187, 170, 13, "", "", NE, ANO, ANO);
-    KresliUsecku(plane, USECKA, NovyUtvar("B", "C"), 240, 250, 187, 170, 12, "", "", NE, ANO, ANO);
+    KresliKruznici(t, plane, NovyUtvar(t, "A", ""),
+                   {.Druh = KRUZNICE, .P1 = {120, 250}, .P2 = {224, 250}}, ANO);
+    KresliKruznici(t, plane, NovyUtvar(t, "B", ""),
+                   {.Druh = KRUZNICE, .P1 = {240, 250}, .P2 = {144, 250}}, ANO);
+    KresliBod(t, plane, NovyUtvar(t, "C", ""), {.Druh = BOD, .P1 = {187, 170}, .Popis1 = "C"}, ANO);
+    KresliUsecku(t, plane, NovyUtvar(t, "A", "C"),
+                 {.Druh = USECKA, .P1 = {120, 250}, .P2 = {187, 170}, .Delka = 13}, ANO);
+    KresliUsecku(t, plane, NovyUtvar(t, "B", "C"),
+                 {.Druh = USECKA, .P1 = {240, 250}, .P2 = {187, 170}, .Delka = 12}, ANO);
 }
 
 /// So many objects of all seven kinds at random, the same for the same seed.
-inline void NakresliNahodne(Plane& plane, int kolik, unsigned seminko) {
+inline void NakresliNahodne(Tabulky& t, Plane& plane, int kolik, unsigned seminko) {
     std::mt19937 stroj(seminko);
     const auto x = [&] { return static_cast<int>(stroj() % SIRKA_PLOCHY); };
     const auto y = [&] { return static_cast<int>(stroj() % VYSKA_PLOCHY); };
     for (int k = 0; k < kolik; ++k) {
         const std::string a(1, static_cast<char>('A' + stroj() % 6));
         const std::string b(1, static_cast<char>('A' + stroj() % 6));
-        const int i = NovyUtvar(a, b);
+        const int i = NovyUtvar(t, a, b);
         const int x1 = x(), y1 = y(), x2 = x(), y2 = y();
         switch (k % 7) {
             case 0:
-                KresliBod(plane, BOD, a, i, x1, y1, a, a + b, ANO);
+                KresliBod(t, plane, i,
+                          {.Druh = BOD, .P1 = {x1, y1}, .Popis1 = a, .NaPrimce = a + b}, ANO);
                 break;
             case 1:
-                KresliUsecku(plane, USECKA, i, x1, y1, x2, y2, 1, a, b, ANO, ANO, ANO);
+                KresliUsecku(t, plane, i,
+                             {.Druh = USECKA,
+                              .P1 = {x1, y1},
+                              .P2 = {x2, y2},
+                              .Popis1 = a,
+                              .Popis2 = b,
+                              .Delka = 1,
+                              .Znacky = ANO},
+                             ANO);
                 break;
             case 2:
-                KresliPoloprimku(plane, POLOPRIMKA, i, x1, y1, x2, y2, b, ANO);
+                KresliPoloprimku(t, plane, i,
+                                 {.Druh = POLOPRIMKA, .P1 = {x1, y1}, .P2 = {x2, y2}, .Popis2 = b},
+                                 ANO);
                 break;
             case 3:
-                KresliPrimku(plane, PRIMKA, i, x1, y1, x2, y2, 1, ANO);
+                KresliPrimku(t, plane, i,
+                             {.Druh = PRIMKA, .P1 = {x1, y1}, .P2 = {x2, y2}, .Delka = 1}, ANO);
                 break;
             case 4:
-                KresliKruznici(plane, KRUZNICE, i, x1, y1, x2, ANO);
+                KresliKruznici(t, plane, i, {.Druh = KRUZNICE, .P1 = {x1, y1}, .P2 = {x2, y1}},
+                               ANO);
                 break;
             case 5:
-                KresliKolmici(plane, KOLMICE, i, x1, y1, x2, y2, ANO);
+                KresliKolmici(t, plane, i, {.Druh = KOLMICE, .P1 = {x1, y1}, .P2 = {x2, y2}}, ANO);
                 break;
             default:
-                KresliPrimku(plane, ROVNOBEZKA, i, x1, y1, x2, y2, 0, ANO);
+                KresliPrimku(t, plane, i, {.Druh = ROVNOBEZKA, .P1 = {x1, y1}, .P2 = {x2, y2}},
+                             ANO);
                 break;
         }
     }

@@ -109,7 +109,7 @@ void Rysovac::Paprsek(const std::string& vrchol) {
     // The figure goes round to the left from A over B to C.
     const bool vlevo = (v == jmena_[0]) == (jmena_ != "AC");
     Kdo.Nastroj(1)
-        .Vyber(vrchol + (PocetUtvaru == 1 ? "X" : "Y"))
+        .Vyber(vrchol + (Hra.Pamet().PocetUtvaru == 1 ? "X" : "Y"))
         .Napis(Psane(stupnu))
         .Tahni(start, PodUhlem(start, rameno, vlevo ? uhel : -uhel));
 }
@@ -119,8 +119,8 @@ void Rysovac::Kruznice(const std::string& stred) {
     const int cm = Hodnota(Proti(Jiny(stred[0])));
     const Bod start = Start(stred[0]);
     Kdo.Nastroj(4)
-        .Vyber(std::string("kružnice ") + (PocetUtvaru == 1 ? "k" : "l") + ", střed v bodě " +
-               stred)
+        .Vyber(std::string("kružnice ") + (Hra.Pamet().PocetUtvaru == 1 ? "k" : "l") +
+               ", střed v bodě " + stred)
         .Napis(Psane(cm))
         .Tahni(start, {start.X + NA_CM * (cm + (Ma('~') ? 1 : 0)), start.Y + 9});
 }

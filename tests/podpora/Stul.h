@@ -56,16 +56,16 @@ template <class D>
 class Stul : public RukaPravidel {
 public:
     explicit Stul(int uloha) {
-        VychoziRelace();
-        if (!NactiKonfiguraci()) throw std::runtime_error("bez konfigurace");
-        CisloUlohy = static_cast<std::uint8_t>(uloha);
-        NactiPriklady(Disk_(), Soubor(), DeskaUlohy(uloha));
+        if (!NactiKonfiguraci(Pamet())) throw std::runtime_error("bez konfigurace");
+        Pamet().CisloUlohy = static_cast<std::uint8_t>(uloha);
+        NactiPriklady(Pamet(), Disk_(), Soubor(), DeskaUlohy(uloha));
     }
 
     /// The task's file now holds this line alone.
     Stul& Radek(std::string_view radek) {
-        relace_.PisSoubor(DveCislice(CisloUlohy) + ".dat", ZakodujRadek(Do1250(radek)) + "\r\n");
-        NactiPriklady(Disk_(), Soubor(), DeskaUlohy(CisloUlohy));
+        relace_.PisSoubor(DveCislice(Pamet().CisloUlohy) + ".dat",
+                          ZakodujRadek(Do1250(radek)) + "\r\n");
+        NactiPriklady(Pamet(), Disk_(), Soubor(), DeskaUlohy(Pamet().CisloUlohy));
         return *this;
     }
     /// Plays each line of the task's file, Seminek() new examples of each, until one fails: calls
@@ -87,7 +87,7 @@ public:
     }
     /// A new example.
     Stul& Zacni(std::uint32_t seminko = 1) {
-        Generator.Zasej(seminko);
+        Pamet().Generator.Zasej(seminko);
         dialog.NovyPriklad();
         dialog.NoveZadani();
         return *this;
@@ -114,38 +114,43 @@ public:
         return Chyby();
     }
     /// The wrong steps so far: "7/1 300/10" is number 7 for one point, then 300 for ten.
-    [[nodiscard]] static std::string Chyby() {
+    [[nodiscard]] std::string Chyby() const {
         std::string text;
-        for (int i = 1; i <= PocetChybnychKroku; ++i) {
-            text += (i > 1 ? " " : "") + ChybneKroky[i].Cislo + "/" +
-                    std::to_string(ChybneKroky[i].Body);
+        for (int i = 1; i <= Pamet().PocetChybnychKroku; ++i) {
+            text += (i > 1 ? " " : "") + Pamet().ChybneKroky[i].Cislo + "/" +
+                    std::to_string(Pamet().ChybneKroky[i].Body);
         }
         return text;
     }
+    /// The session, to set and to look at.
+    [[nodiscard]] Sezeni& Pamet() { return relace_.Pamet(); }
+    [[nodiscard]] const Misc& Pamet() const { return dialog.Pamet(); }
     /// The plane as the pupil sees it.
     [[nodiscard]] const PametovaPlocha& Obraz() const { return Pic(); }
     /// The record of the example.
-    [[nodiscard]] const Priklad& Zaznam() const { return Priklady[dialog.CisloPrikladu()]; }
+    [[nodiscard]] const Priklad& Zaznam() const { return Pamet().Priklady[dialog.CisloPrikladu()]; }
 
 protected:
     [[nodiscard]] Dialog& Hra() override { return dialog; }
     [[nodiscard]] const Dialog& Hra() const override { return dialog; }
 
 private:
-    [[nodiscard]] std::string Soubor() const { return CestaHD + DveCislice(CisloUlohy) + ".dat"; }
+    [[nodiscard]] std::string Soubor() const {
+        return Pamet().CestaHD + DveCislice(Pamet().CisloUlohy) + ".dat";
+    }
     [[nodiscard]] Disk& Disk_() { return relace_.Host().Disk(); }
     Relace relace_;
 
 public:
-    D dialog{Platna_()};
+    D dialog{relace_.Pamet(), Platna_()};
 };
 
 /// Counts the examples played, by line of the file.
 class Pokryti {
 public:
     void Odehran(int radek) { ++pocty_[radek]; }
-    [[nodiscard]] bool Cele() const {
-        for (int i = 1; i <= PocetPrikladu; ++i) {
+    [[nodiscard]] bool Cele(const Zaznamy& z) const {
+        for (int i = 1; i <= z.PocetPrikladu; ++i) {
             const auto p = pocty_.find(i);
             if (p == pocty_.end() || p->second < Seminek()) return false;
         }

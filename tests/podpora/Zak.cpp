@@ -6,10 +6,10 @@
 
 namespace rysovna::testy {
 
-std::vector<Chyba> Chyby() {
+std::vector<Chyba> Chyby(const Misc& misc) {
     std::vector<Chyba> chyby;
-    for (int i = 1; i <= PocetChybnychKroku; ++i) {
-        const ChybnyKrok& k = ChybneKroky[i];
+    for (int i = 1; i <= misc.PocetChybnychKroku; ++i) {
+        const ChybnyKrok& k = misc.ChybneKroky[i];
         const std::size_t body = k.Text.rfind("  -");
         chyby.push_back({static_cast<int>(Cislo(k.Cislo)),
                          body == std::string::npos ? "" : k.Text.substr(body), k.Body});

@@ -21,7 +21,7 @@ struct Chyba {
     friend bool operator==(const Chyba&, const Chyba&) = default;
 };
 /// The wrong steps so far.
-[[nodiscard]] std::vector<Chyba> Chyby();
+[[nodiscard]] std::vector<Chyba> Chyby(const Misc& misc);
 
 /// The hand of a scripted pupil at a triangle board.
 class Zak : public RukaNaDesce {

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "podpora/RukaPravidel.h"
-#include "rules/Chyby.h"
 #include "rules/CtyrUDialog.h"
 #include "rules/Kontrola.h"
 #include "rules/LichoDialog.h"
@@ -26,14 +25,14 @@ namespace rysovna::testy {
 namespace {
 
 template <class D>
-std::unique_ptr<Dialog> Vyrob(Platna platna) {
-    return std::make_unique<D>(platna);
+std::unique_ptr<Dialog> Vyrob(Misc& misc, Platna platna) {
+    return std::make_unique<D>(misc, platna);
 }
 
 /// A task, how its dialogue is made, and a line of its data.
 struct Priprava {
     int Uloha;
-    std::unique_ptr<Dialog> (*VyrobDialog)(Platna);
+    std::unique_ptr<Dialog> (*VyrobDialog)(Misc&, Platna);
     std::string_view Radek;
 };
 constexpr Priprava DESKY[] = {
@@ -51,7 +50,7 @@ constexpr Priprava DESKY[] = {
 class Stolek final : public RukaPravidel {
 public:
     /// At the beginning of an example.
-    explicit Stolek(const Priprava& p) : dialog_(p.VyrobDialog(Platna_())) {
+    Stolek(Misc& misc, const Priprava& p) : dialog_(p.VyrobDialog(misc, Platna_())) {
         dialog_->NovyPriklad();
         dialog_->NoveZadani();
     }
@@ -66,18 +65,19 @@ private:
 
 /// The session before an example of the task: its one line read, sentences that only tell their
 /// number.
-void Otevri(const Priprava& p) {
-    VychoziPromenne();
-    NastavVety([](int cislo) { return std::vector<std::string>{"Věta " + std::to_string(cislo)}; });
-    CisloUlohy = static_cast<std::uint8_t>(p.Uloha);
-    PocetPrikladu = 1;
+Misc Otevri(const Priprava& p) {
+    Misc misc;
+    misc.Vety = [](int cislo) { return std::vector<std::string>{"Věta " + std::to_string(cislo)}; };
+    misc.CisloUlohy = static_cast<std::uint8_t>(p.Uloha);
+    misc.PocetPrikladu = 1;
     std::string_view zbytek = p.Radek;
     for (const Slot& slot : PoleDesky(DeskaUlohy(p.Uloha))) {
         const std::size_t konec = zbytek.find('#');
-        slot.V(Priklady[1]) = zbytek.substr(0, konec);
+        slot.V(misc.Priklady[1]) = zbytek.substr(0, konec);
         if (konec == std::string_view::npos) break;
         zbytek.remove_prefix(konec + 1);
     }
+    return misc;
 }
 
 class Pravidla : public testing::TestWithParam<Priprava> {};
@@ -85,28 +85,28 @@ class Pravidla : public testing::TestWithParam<Priprava> {};
 TEST_P(Pravidla, OdehrajiPrikladSama) {
     for (std::uint32_t seminko = 1; seminko <= 5; ++seminko) {
         SCOPED_TRACE(seminko);
-        Otevri(GetParam());
-        Generator.Zasej(seminko);
-        Stolek stul(GetParam());
+        Misc misc = Otevri(GetParam());
+        misc.Generator.Zasej(seminko);
+        Stolek stul(misc, GetParam());
         const auto& dialog = stul.Hrany();
         hrac::Sestroj(stul, seminko);
         EXPECT_TRUE(dialog.Hotova());
         stul.Zkontroluj();
-        EXPECT_EQ(SoucetZapornychBodu, 0) << ChybneKroky[1].Text;
-        EXPECT_EQ(Vyuctuj(dialog.Hotova()), Verdikt::Bezchybne);
-        EXPECT_EQ(KladneBody, 10);
+        EXPECT_EQ(misc.SoucetZapornychBodu, 0) << misc.ChybneKroky[1].Text;
+        EXPECT_EQ(Vyuctuj(misc, dialog.Hotova()), Verdikt::Bezchybne);
+        EXPECT_EQ(misc.KladneBody, 10);
     }
 }
 
 TEST_P(Pravidla, NedokoncenyPrikladStojiDesetBodu) {
-    Otevri(GetParam());
-    Generator.Zasej(1);
-    Stolek stul(GetParam());
+    Misc misc = Otevri(GetParam());
+    misc.Generator.Zasej(1);
+    Stolek stul(misc, GetParam());
     stul.Zkontroluj();
-    EXPECT_EQ(Vyuctuj(stul.Hrany().Hotova()), Verdikt::SChybami);
-    EXPECT_EQ(ZaporneBody, 10);
-    EXPECT_EQ(ChybneKroky[PocetChybnychKroku].Cislo, "300");
-    EXPECT_EQ(ChybneKroky[PocetChybnychKroku].Text.substr(0, 9), "Věta 300");
+    EXPECT_EQ(Vyuctuj(misc, stul.Hrany().Hotova()), Verdikt::SChybami);
+    EXPECT_EQ(misc.ZaporneBody, 10);
+    EXPECT_EQ(misc.ChybneKroky[misc.PocetChybnychKroku].Cislo, "300");
+    EXPECT_EQ(misc.ChybneKroky[misc.PocetChybnychKroku].Text.substr(0, 9), "Věta 300");
 }
 
 std::string JmenoUlohy(const testing::TestParamInfo<Priprava>& p) {

@@ -6,7 +6,6 @@
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/SetupForm.h"
-#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 namespace {
@@ -28,8 +27,8 @@ TEST(Jmeno, MaNejvyseSedesatZnakuAnicCoByRozbiloZaznam) {
     };
     for (const auto& [vlozene, jmeno] : PRIPADY) {
         SCOPED_TRACE(vlozene);
-        NastavVyrobceDesek([](int) { return std::make_shared<PrazdnaDeska>(); });
-        hrac::Relace hra;
+        hrac::Relace hra(1, hrac::Relace::Cim::Mysi,
+                         [](Sezeni&, int) { return std::make_shared<PrazdnaDeska>(); });
         hra.Start();
         hra.Stiskni("LI", 1);
         hra.Stiskni("RI", 1);
@@ -40,7 +39,7 @@ TEST(Jmeno, MaNejvyseSedesatZnakuAnicCoByRozbiloZaznam) {
         ASSERT_EQ(hra.Prvek("picPokracuj").Visible, !jmeno.empty());
         if (jmeno.empty()) continue;
         hra.Stiskni("picPokracuj");
-        EXPECT_EQ(JmenoHrace, jmeno);
+        EXPECT_EQ(hra.Pamet().JmenoHrace, jmeno);
     }
 }
 

@@ -57,7 +57,7 @@ TEST_F(KontrolaHodiny, VseVPoradkuAKazdaVadaSvymJmenem) {
     EXPECT_EQ(std::ranges::count(vypis.str(), '\n'), 12);
 
     // Another folder of assets, the same files but for a few.
-    const fs::path spravne = NativniCesta(CestaCD), nase = Cesta("../assets");
+    const fs::path spravne = NativniCesta(CtiCesty(host.Disk(), host.SlozkaSystemu, host.SlozkaDat()).CD), nase = Cesta("../assets");
     for (const auto& soubor : fs::recursive_directory_iterator(spravne)) {
         const fs::path sem = nase / fs::relative(soubor, spravne);
         fs::create_directories(sem.parent_path());
@@ -118,7 +118,7 @@ TEST_F(KontrolaHodiny, Vysledky) {
         ASSERT_TRUE(cizi->Zamkni());
         EXPECT_EQ(VadyVysledku(), "! Zámek výsledků: Vysledky.dat: drží jej jiný program\n");
         const std::uint32_t od = host.TickCount();
-        EXPECT_NE(Vysledky().Uloz({.CisloUlohy = 1}).Text, "");
+        EXPECT_NE(relace.Pamet().Vysledky().Uloz({.CisloUlohy = 1}).Text, "");
         EXPECT_GT(host.TickCount(), od);
     }
     const std::string fronta = Fronta::Slozka(host.SlozkaStavu()).string();

@@ -14,7 +14,6 @@
 #include "screens/SetupForm.h"
 #include "screens/Spolecne.h"
 #include "screens/TabulkaForm.h"
-#include "screens/VyrobaDesek.h"
 #include "store/Ukladani.h"
 
 namespace rysovna::testy {
@@ -29,13 +28,13 @@ class Nabidka : public ::testing::Test {
 protected:
     Nabidka() {
         relace.Start();
-        for (Image& li : Menu().LI) normalni[&li] = li.Picture;
-        konec = Menu().picKonec.Picture;
+        for (Image& li : Menu(relace.Pamet()).LI) normalni[&li] = li.Picture;
+        konec = Menu(relace.Pamet()).picKonec.Picture;
         relace.NoveZvuky();
     }
     void ZvolRodinu(int i) {
         relace.Stiskni("LI", i);
-        for (Image& ri : Menu().RI) normalni[&ri] = ri.Picture;
+        for (Image& ri : Menu(relace.Pamet()).RI) normalni[&ri] = ri.Picture;
         relace.NoveZvuky();
     }
     /// "L1 R2 K ": what is lit.
@@ -45,9 +44,9 @@ protected:
             if (!o.Visible || o.Picture == normalni[&o]) return;
             text += pismeno + std::to_string(o.Index) + " ";
         };
-        for (const Image& li : Menu().LI) pridej(li, 'L');
-        for (const Image& ri : Menu().RI) pridej(ri, 'R');
-        return text + (Menu().picKonec.Picture == konec ? "" : "K ");
+        for (const Image& li : Menu(relace.Pamet()).LI) pridej(li, 'L');
+        for (const Image& ri : Menu(relace.Pamet()).RI) pridej(ri, 'R');
+        return text + (Menu(relace.Pamet()).picKonec.Picture == konec ? "" : "K ");
     }
     Relace relace;
     HeadlessHost& host = relace.Host();
@@ -89,7 +88,7 @@ TEST_F(Nabidka, KazdaUlohaJdeZvolitASloupceJsouSlozene) {
         ZvolRodinu(static_cast<int>(i) + 1);
         EXPECT_EQ(Sviti(), rodina);
         int spodek = 141;
-        for (const Image& uloha : Menu().RI) {
+        for (const Image& uloha : Menu(relace.Pamet()).RI) {
             EXPECT_EQ(uloha.Visible, uloha.Index <= RODINY[i].Pocet);
             if (!uloha.Visible) continue;
             EXPECT_EQ(uloha.Top, spodek - 1);
@@ -100,10 +99,10 @@ TEST_F(Nabidka, KazdaUlohaJdeZvolitASloupceJsouSlozene) {
         for (int j = 1; j <= RODINY[i].Pocet; ++j) {
             relace.Stiskni("RI", j);
             EXPECT_EQ(relace.JmenoVpredu(), "SetupForm");
-            EXPECT_EQ(AktivniForm.lock().get(), relace.Vpredu());
-            EXPECT_EQ(CisloUlohy, ++cislo);
-            EXPECT_EQ(NazevHry, RODINY[i].NazevHry);
-            EXPECT_EQ(TypUlohy, NajdiUlohu(cislo)->TypUlohy);
+            EXPECT_EQ(relace.Pamet().AktivniForm.lock().get(), relace.Vpredu());
+            EXPECT_EQ(relace.Pamet().CisloUlohy, ++cislo);
+            EXPECT_EQ(relace.Pamet().NazevHry, RODINY[i].NazevHry);
+            EXPECT_EQ(relace.Pamet().TypUlohy, NajdiUlohu(cislo)->TypUlohy);
             relace.Stiskni("picKonec");
             EXPECT_EQ(Sviti(), rodina + "R" + std::to_string(j) + " ");
         }
@@ -134,9 +133,9 @@ TEST_F(Nabidka, TabulkaSJedenactiZaznamy) {
     std::string soubor;
     for (int i = 0; i < 9; ++i) soubor += "Z" + std::to_string(i) + "|20|0|1\r\n";
     relace.PisSoubor("07.res", soubor + "\x8E\x83neta|2|9|5\r\nPosledni|1|9|5\r\n");
-    CisloUlohy = 7;
+    relace.Pamet().CisloUlohy = 7;
     const auto radek = [&](std::size_t i) {
-        const auto t = host.Okna().Nacti<TabulkaForm>();
+        const auto t = host.Okna().Nacti<TabulkaForm>(relace.Pamet());
         EXPECT_EQ(t->LJmeno[9].Top, 9 * 30 + 165);
         return t->LPoradi[i].Caption + t->LJmeno[i].Caption + "|" + t->LSpravne[i].Caption + "|" +
                t->LSpatne[i].Caption + "|" + t->LZnamka[i].Caption;
@@ -145,27 +144,27 @@ TEST_F(Nabidka, TabulkaSJedenactiZaznamy) {
     // What cannot be written stands in it all the same; one without a grade beats all.
     std::filesystem::rename(relace.DataDir() / "Vysledky.dat", relace.DataDir() / "stranou");
     const Vysledek novy{.CisloUlohy = 7, .Jmeno = "Bez", .Kladne = "0", .Zaporne = "0"};
-    EXPECT_NE(Vysledky().Uloz(novy).Text, "");
+    EXPECT_NE(relace.Pamet().Vysledky().Uloz(novy).Text, "");
     EXPECT_EQ(radek(0) + radek(9), "1.Bez|0|0|10.Z8|20|0|1");
-    CisloUlohy = 8;
+    relace.Pamet().CisloUlohy = 8;
     EXPECT_EQ(radek(0), "1.|||");
     std::filesystem::remove(relace.DataDir() / "08.res");
     EXPECT_EQ(radek(0), "1.Tabulku výsledků nelze přečíst|||");
     std::filesystem::rename(relace.DataDir() / "stranou", relace.DataDir() / "Vysledky.dat");
-    EXPECT_EQ(Vysledky().ZkusCekajici(), "");
-    CisloUlohy = 7;
+    EXPECT_EQ(relace.Pamet().Vysledky().ZkusCekajici(), "");
+    relace.Pamet().CisloUlohy = 7;
     EXPECT_EQ(radek(0) + radek(1), "1.Bez|0|0|2.Z0|20|0|1");
     EXPECT_TRUE(relace.CtiSoubor("07.res").starts_with("Bez|0|0|\r\nZ0|"));
 }
 
 TEST_F(Nabidka, TabulkaUkazeVlastniVysledekAStupnici) {
-    CisloUlohy = 7;
+    relace.Pamet().CisloUlohy = 7;
     std::string stejne;
     for (int i = 0; i < 9; ++i) stejne += "A|10|0|1\r\n";
     relace.PisSoubor("07.res", stejne + "B|1|9|5\r\n");
     const auto ukaz = [&](const Vysledek& v) {
-        const int misto = Vysledky().Uloz(v).Misto;
-        const auto t = host.Okna().Nacti<TabulkaForm>();
+        const int misto = relace.Pamet().Vysledky().Uloz(v).Misto;
+        const auto t = host.Okna().Nacti<TabulkaForm>(relace.Pamet());
         t->UkazVysledek(misto, v);
         EXPECT_NE(t->LVlastni.Visible, t->LVysledek.Visible);
         if (t->LVysledek.Visible) return std::to_string(misto) + ": " + t->LVysledek.Caption;
@@ -183,7 +182,7 @@ TEST_F(Nabidka, TabulkaUkazeVlastniVysledekAStupnici) {
     std::filesystem::rename(relace.DataDir() / "Vysledky.dat", relace.DataDir() / "stranou");
     EXPECT_EQ(ukaz(vysledek("D", "30", "1")), "0: row 1");
     EXPECT_EQ(ukaz(vysledek("E", "15", "1")), "0: row 3");
-    const auto t = host.Okna().Nacti<TabulkaForm>();
+    const auto t = host.Okna().Nacti<TabulkaForm>(relace.Pamet());
     t->UkazVysledek(2, vysledek("A", "10", "1"));  // behind C in the file; D, E before it here
     EXPECT_EQ(t->LVlastni.Top, t->LJmeno[3].Top - 5);
     t->UkazVysledek(1, vysledek("A", "10", "1"));  // C came above it since
@@ -193,8 +192,8 @@ TEST_F(Nabidka, TabulkaUkazeVlastniVysledekAStupnici) {
 
     relace.PisSoubor("08.res",
                      std::string(60, 'W') + "|1|9|5\r\n" + std::string(20, 'W') + "|1|9|5\r\n");
-    CisloUlohy = 8;
-    const auto dlouha = host.Okna().Nacti<TabulkaForm>();
+    relace.Pamet().CisloUlohy = 8;
+    const auto dlouha = host.Okna().Nacti<TabulkaForm>(relace.Pamet());
     for (const std::size_t i : {0U, 1U}) {
         const Label& l = dlouha->LJmeno[i];
         EXPECT_LE(SirkaTextu(l.Font, l.Caption), l.Width);
@@ -204,12 +203,12 @@ TEST_F(Nabidka, TabulkaUkazeVlastniVysledekAStupnici) {
 }
 
 /// A board with a way back, and nothing else.
-class ZkusebniDeska final : public Form {
+class ZkusebniDeska final : public FormHry {
 public:
-    ZkusebniDeska() { Pridej(PicTop, "PicTop", {546, 5, 91, 75}); }
+    explicit ZkusebniDeska(Sezeni& s) : FormHry(s) { Pridej(PicTop, "PicTop", {546, 5, 91, 75}); }
     [[nodiscard]] std::string_view Jmeno() const override { return "ZkusebniDeska"; }
     void MouseDown(Ovladac* o, const Mys&) override {
-        if (o == &PicTop) VratSeK(Stroj().Okna().Najdi("SetupForm"), *this);
+        if (o == &PicTop) VratSeK(s_, s_.Okna().Najdi("SetupForm"), *this);
     }
     PictureBox PicTop;
 };
@@ -218,13 +217,8 @@ class Nastaveni : public ::testing::Test {
 protected:
     Nastaveni() {
         relace.Start();
-        NastavVyrobceDesek([this](int cislo) {
-            vyrobene.push_back(cislo);
-            return std::make_shared<ZkusebniDeska>();
-        });
         ZvolUlohu();
     }
-    ~Nastaveni() override { NastavVyrobceDesek({}); }
     void ZvolUlohu() {
         relace.Stiskni("LI", 1);
         relace.Stiskni("RI", 2);
@@ -237,7 +231,7 @@ protected:
     /// What the button shows: how it came in, or how it looks before.
     bool Prijelo() {
         const auto& pic = Obrazovka().picPokracuj;
-        EXPECT_EQ(pic.Visible, pic.Picture == Menu().PicClip.GraphicCell(22));
+        EXPECT_EQ(pic.Visible, pic.Picture == Menu(relace.Pamet()).PicClip.GraphicCell(22));
         return pic.Visible;
     }
     /// How long something kept the program busy, ms.
@@ -247,9 +241,12 @@ protected:
         akce();
         return host.TickCount() - od;
     }
-    Relace relace;
-    HeadlessHost& host = relace.Host();
     std::vector<int> vyrobene;
+    Relace relace{1, Relace::Cim::Mysi, [this](Sezeni& s, int cislo) {
+                      vyrobene.push_back(cislo);
+                      return std::make_shared<ZkusebniDeska>(s);
+                  }};
+    HeadlessHost& host = relace.Host();
 };
 
 constexpr std::uint32_t CISLICE = 100;       // ms, the wait after a digit
@@ -262,7 +259,7 @@ TEST_F(Nastaveni, PokracujPrijedeJednouAzJeJmenoIPocet) {
     EXPECT_EQ(Trvani([&] { relace.Napis("E"); }), ROLOVANI);
     EXPECT_TRUE(Prijelo());
     EXPECT_EQ(Trvani([&] { relace.Stiskni("ICislo", 5); }), CISLICE);
-    EXPECT_EQ(PocetPrikladuSerie, 5);
+    EXPECT_EQ(relace.Pamet().PocetPrikladuSerie, 5);
     EXPECT_EQ(Obrazovka().ICislo[2].Tag + Obrazovka().ICislo[4].Tag, "01");
     // Leading blanks go, and the caret does not run off.
     relace.Klavesa("Home");
@@ -296,10 +293,10 @@ TEST_F(Nastaveni, SpustiDeskuACeleJmenoZustane) {
     relace.Klavesa("Return");
     EXPECT_EQ(vyrobene, std::vector{2});
     EXPECT_EQ(relace.JmenoVpredu(), "ZkusebniDeska");
-    EXPECT_EQ(AktivniForm.lock().get(), relace.Vpredu());
+    EXPECT_EQ(relace.Pamet().AktivniForm.lock().get(), relace.Vpredu());
     EXPECT_FALSE(Obrazovka().Viditelny());
-    EXPECT_EQ(JmenoHrace, jmeno);
-    EXPECT_EQ(PocetPrikladuSerie, 4);
+    EXPECT_EQ(relace.Pamet().JmenoHrace, jmeno);
+    EXPECT_EQ(relace.Pamet().PocetPrikladuSerie, 4);
     // Back from the board, and from the help: all as it was, with the keyboard in the name.
     relace.Stiskni("PicTop");
     relace.Stiskni("Image1");
@@ -315,7 +312,7 @@ TEST_F(Nastaveni, SpustiDeskuACeleJmenoZustane) {
     EXPECT_EQ(vyrobene.size(), 1U);
     // A number that is no task starts nothing.
     Vypln();
-    CisloUlohy = 21;
+    relace.Pamet().CisloUlohy = 21;
     relace.Stiskni("picPokracuj");
     EXPECT_EQ(vyrobene.size(), 1U);
     EXPECT_EQ(relace.JmenoVpredu(), "SetupForm");
@@ -329,7 +326,7 @@ TEST_F(Nastaveni, OdchodUprostredCekani) {
         // The handler ends with the wait in which its screen went: no roll-in for nobody.
         EXPECT_LE(Trvani([&] { relace.Stiskni("ICislo", 2); }), std::max(CISLICE, kdy + 20));
         EXPECT_EQ(relace.Najdi("SetupForm"), nullptr);
-        EXPECT_EQ(AktivniForm.lock().get(), &Menu());
+        EXPECT_EQ(relace.Pamet().AktivniForm.lock().get(), &Menu(relace.Pamet()));
         ZvolUlohu();
     }
     // Into the start of the board: back at once; back, and on to the menu.
@@ -337,11 +334,11 @@ TEST_F(Nastaveni, OdchodUprostredCekani) {
     host.NaplanujZa(50, [&] { relace.Stiskni("PicTop"); });
     relace.Stiskni("picPokracuj");
     EXPECT_EQ(relace.JmenoVpredu(), "SetupForm");
-    EXPECT_EQ(AktivniForm.lock().get(), &Obrazovka());
+    EXPECT_EQ(relace.Pamet().AktivniForm.lock().get(), &Obrazovka());
     host.NaplanujZa(40, [&] { relace.Stiskni("PicTop"); });
     host.NaplanujZa(60, [&] { relace.Stiskni("picKonec", 0, 5, 5); });
     relace.Stiskni("picPokracuj");
-    EXPECT_EQ(AktivniForm.lock().get(), &Menu());
+    EXPECT_EQ(relace.Pamet().AktivniForm.lock().get(), &Menu(relace.Pamet()));
 }
 
 }  // namespace

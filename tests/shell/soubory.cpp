@@ -63,42 +63,42 @@ TEST_F(Soubory, PoleSestiDesek) {
     for (int i = 2; i <= 25; ++i) radek += "#" + std::to_string(i);
     const std::string soubor = Pis("01.dat", Zakodovane({radek})).string();
     for (int uloha = 1; uloha <= 20; ++uloha) {
-        Priklady.Smaz();
-        NactiPriklady(Disk_(), soubor, DeskaUlohy(uloha));
-        EXPECT_EQ(PoradiPoli(Priklady[1]), pole[poradi[uloha - 1]]) << uloha;
+        misc.Priklady.Smaz();
+        NactiPriklady(misc, Disk_(), soubor, DeskaUlohy(uloha));
+        EXPECT_EQ(PoradiPoli(misc.Priklady[1]), pole[poradi[uloha - 1]]) << uloha;
     }
 }
 
 TEST_F(Soubory, RadkyUlohy) {
     const auto nacti = [&](std::string_view obsah) {
-        NactiPriklady(Disk_(), Pis("01.dat", obsah).string(), Deska::Troj1Form);
+        NactiPriklady(misc, Disk_(), Pis("01.dat", obsah).string(), Deska::Troj1Form);
     };
-    Priklady[100].Druh = "starý";
-    Priklady[2].Text2 = "cizí slot";
-    Priklady[2].Kroky[3].Hotovo = Priklady[2].Kroky[4].Hotovo = ANO;
+    misc.Priklady[100].Druh = "starý";
+    misc.Priklady[2].Text2 = "cizí slot";
+    misc.Priklady[2].Kroky[3].Hotovo = misc.Priklady[2].Kroky[4].Hotovo = ANO;
     nacti(Zakodovane({"1#é#a#b", "7##alfa#beta#c#°#°#cm#usecka#poloprimka#kruznice#navíc##"}) +
           "abc\r\n\r\n" + ZakodujRadek("5#u") + "xxx");
-    EXPECT_EQ(PocetPrikladu, 5);
-    EXPECT_EQ(Priklady[1], (Priklad{.Druh = "1", .Text1 = "é", .Nazev1 = "a", .Nazev2 = "b"}));
-    EXPECT_EQ(Priklady[2].Jednotka2 + Priklady[2].Kroky[3].Utvar, "°kruznice");
-    EXPECT_EQ(Priklady[3], Priklad{});  // a line too short to hold a character
-    EXPECT_EQ(Priklady[4], Priklad{});  // an empty one
-    EXPECT_EQ(Priklady[5].Text1, "u");  // the last, without its end and with filler behind
-    EXPECT_EQ(Priklady[100].Druh + Priklady[2].Text2, "cizí slot");
-    EXPECT_EQ(Priklady[2].Kroky[3].Hotovo, NE);
-    EXPECT_EQ(Priklady[2].Kroky[4].Hotovo, ANO);
+    EXPECT_EQ(misc.PocetPrikladu, 5);
+    EXPECT_EQ(misc.Priklady[1], (Priklad{.Druh = "1", .Text1 = "é", .Nazev1 = "a", .Nazev2 = "b"}));
+    EXPECT_EQ(misc.Priklady[2].Jednotka2 + misc.Priklady[2].Kroky[3].Utvar, "°kruznice");
+    EXPECT_EQ(misc.Priklady[3], Priklad{});  // a line too short to hold a character
+    EXPECT_EQ(misc.Priklady[4], Priklad{});  // an empty one
+    EXPECT_EQ(misc.Priklady[5].Text1, "u");  // the last, without its end and with filler behind
+    EXPECT_EQ(misc.Priklady[100].Druh + misc.Priklady[2].Text2, "cizí slot");
+    EXPECT_EQ(misc.Priklady[2].Kroky[3].Hotovo, NE);
+    EXPECT_EQ(misc.Priklady[2].Kroky[4].Hotovo, ANO);
     nacti(Zakodovane(std::vector<std::string>(100, "1#x")));
-    EXPECT_EQ(PocetPrikladu, 100);
+    EXPECT_EQ(misc.PocetPrikladu, 100);
     nacti(std::string(3, '\x98') + "1\r\n");  // filler is never looked at
-    EXPECT_EQ(Priklady[1].Druh + Priklady[2].Druh, "1");
+    EXPECT_EQ(misc.Priklady[1].Druh + misc.Priklady[2].Druh, "1");
 }
 
 TEST_F(Soubory, VadneSouboryJmenujiMisto) {
     const auto cti = [&](const std::string& jmeno) {
         const std::string soubor = Cesta(jmeno).string();
-        if (jmeno == "Errors.dat") return PridejChybu(2, "", 1);
-        if (jmeno == "Znamky.dat") return NactiZnamky(Disk_(), soubor);
-        NactiPriklady(Disk_(), soubor, Deska::Troj1Form);
+        if (jmeno == "Errors.dat") return PridejChybu(misc, 2, "", 1);
+        if (jmeno == "Znamky.dat") return NactiZnamky(misc, Disk_(), soubor);
+        NactiPriklady(misc, Disk_(), soubor, Deska::Troj1Form);
     };
     const std::string sto = Zakodovane(std::vector<std::string>(100, "1#x"));
     const std::string pet = "1|2|3\r\n1|2|3\r\n1|2|3\r\n1|2|3\r\n1|2|3\r\n";
@@ -124,7 +124,7 @@ TEST_F(Soubory, VadneSouboryJmenujiMisto) {
     };
     for (const auto& [soubor, obsah, hlaska] : pripady) {
         Pis(soubor, obsah);
-        PocetChybnychKroku = 0;
+        misc.PocetChybnychKroku = 0;
         EXPECT_EQ(Chyba([&] { cti(soubor); }), hlaska);
     }
     for (const std::string soubor : {"01.dat", "Errors.dat", "Znamky.dat"}) {
@@ -138,38 +138,39 @@ TEST_F(Soubory, VadneSouboryJmenujiMisto) {
 TEST_F(Soubory, ChybnyKrokUctujeKolikratVSouboruStoji) {
     Pis("Errors.dat", Zakodovane({"001 Strana.|", "  7-Délka.|", "45xZ|", "300 |", "007 Ještě #.|",
                                   "abc Nic.|"}));
-    for (const int cislo : {1, 2, 7, 45, 300}) PridejChybu(cislo, "  -3 body", cislo);
+    for (const int cislo : {1, 2, 7, 45, 300}) PridejChybu(misc, cislo, "  -3 body", cislo);
     const ChybnyKrok ocekavane[]{{"1", "Strana.  -3 body", 0, 1},
                                  {"7", "Délka.  -3 body", 0, 7},
                                  {"7", "Ještě #.  -3 body", 0, 7},
                                  {"45", "  -3 body", 0, 45},
                                  {"300", "  -3 body", 0, 300}};
-    ASSERT_EQ(PocetChybnychKroku, 5);
-    for (int i = 1; i <= 5; ++i) EXPECT_EQ(ChybneKroky[i], ocekavane[i - 1]) << i;
-    EXPECT_EQ(SoucetZapornychBodu, 360);
-    PocetChybnychKroku = 100;
-    EXPECT_NE(Chyba([] { PridejChybu(1, "", 1); }), "");
+    ASSERT_EQ(misc.PocetChybnychKroku, 5);
+    for (int i = 1; i <= 5; ++i) EXPECT_EQ(misc.ChybneKroky[i], ocekavane[i - 1]) << i;
+    EXPECT_EQ(misc.SoucetZapornychBodu, 360);
+    misc.PocetChybnychKroku = 100;
+    EXPECT_NE(Chyba([&] { PridejChybu(misc, 1, "", 1); }), "");
 }
 
 TEST_F(Soubory, Znamky) {
     const auto nacti = [&](std::string_view obsah) {
-        NactiZnamky(Disk_(), Pis("Znamky.dat", obsah).string());
+        NactiZnamky(misc, Disk_(), Pis("Znamky.dat", obsah).string());
     };
     nacti("90|100|1\r\n75|90|2|navíc\r\nabc||\r\n2.5|3.5|255.4");
-    EXPECT_EQ(ZnamkyTab[2], (RadekZnamek{75, 90, 2}));
-    EXPECT_EQ(ZnamkyTab[3], (RadekZnamek{0, 0, 0}));
-    EXPECT_EQ(ZnamkyTab[4], (RadekZnamek{2, 4, 255}));
+    EXPECT_EQ(misc.ZnamkyTab[2], (RadekZnamek{75, 90, 2}));
+    EXPECT_EQ(misc.ZnamkyTab[3], (RadekZnamek{0, 0, 0}));
+    EXPECT_EQ(misc.ZnamkyTab[4], (RadekZnamek{2, 4, 255}));
     nacti("90|100|1\r\n67|90|2\r\n50|66|3\r\n20|20|4\r\n95|96|9");
     const std::tuple<int, int, std::string> pripady[]{
         {10, 10, "1"}, {9, 10, "2"},  // of two rows that hold it the last wins
         {47, 49, "9"}, {2, 3, ""},    // 66.66... lies between two rows
         {1, 5, "4"},   {21, 100, ""}, {33, 50, "3"}, {250, 250, "1"},
     };
-    for (const auto& [body, celkem, znamka] : pripady) EXPECT_EQ(UrciZnamku(body, celkem), znamka);
-    EXPECT_NE(Chyba([] { (void)UrciZnamku(0, 0); }), "");
-    EXPECT_NE(Chyba([] { (void)UrciZnamku(0, 256); }), "");
+    for (const auto& [body, celkem, znamka] : pripady)
+        EXPECT_EQ(UrciZnamku(misc, body, celkem), znamka);
+    EXPECT_NE(Chyba([&] { (void)UrciZnamku(misc, 0, 0); }), "");
+    EXPECT_NE(Chyba([&] { (void)UrciZnamku(misc, 0, 256); }), "");
     nacti("1|2|3\r\n");
-    EXPECT_EQ(ZnamkyTab[2], RadekZnamek{});
+    EXPECT_EQ(misc.ZnamkyTab[2], RadekZnamek{});
 }
 
 }  // namespace

@@ -11,7 +11,6 @@
 #include "base/Chyba.h"
 #include "hrac/Relace.h"
 #include "platform/Host.h"
-#include "rules/Chyby.h"
 #include "rules/Misc.h"
 #include "store/Soubory.h"
 
@@ -23,9 +22,10 @@ using hrac::Relace;
 class Soubory : public ::testing::Test {
 protected:
     Soubory() {
-        CestaHD = CestaVysledku = Cesta("").string();
-        NastavVety(
-            [](int cislo) { return CtiVety(Stroj().Disk(), CestaHD + "Errors.dat", cislo); });
+        relace.Pamet().CestaHD = relace.Pamet().CestaVysledku = Cesta("").string();
+        relace.Pamet().Vety = [this](int cislo) {
+            return CtiVety(host.Disk(), relace.Pamet().CestaHD + "Errors.dat", cislo);
+        };
     }
     std::filesystem::path Cesta(std::string_view s) const { return relace.DataDir() / s; }
     std::filesystem::path Pis(const std::string& soubor, std::string_view obsah) const {
@@ -67,6 +67,7 @@ protected:
     }
     Relace relace;
     HeadlessHost& host = relace.Host();
+    Misc& misc = relace.Pamet();
 };
 
 }  // namespace rysovna::testy

@@ -69,17 +69,17 @@ TEST_F(Start, Cesty) {
             host.SlozkaSystemu = koren + konec + std::string(3, '\0');
             Ini(cd, hd);
             host.SeminkoHry = 77;
-            EXPECT_TRUE(NactiKonfiguraci()) << hd;
-            EXPECT_EQ(AdresarSystemu, koren + "\\");
-            EXPECT_EQ(DiskSystemu, koren.substr(0, 3));
-            EXPECT_EQ(CestaCD, cestaCD);
-            EXPECT_EQ(CestaHD, cestaHD);
+            EXPECT_TRUE(NactiKonfiguraci(relace.Pamet())) << hd;
+            EXPECT_EQ(relace.Pamet().AdresarSystemu, koren + "\\");
+            EXPECT_EQ(relace.Pamet().DiskSystemu, koren.substr(0, 3));
+            EXPECT_EQ(relace.Pamet().CestaCD, cestaCD);
+            EXPECT_EQ(relace.Pamet().CestaHD, cestaHD);
         }
     }
     EXPECT_EQ(host.Zpravy, Zpravy{});
     Nahoda stejny;
     stejny.Zasej(77);
-    EXPECT_EQ(Generator.Rnd(), stejny.Rnd());
+    EXPECT_EQ(relace.Pamet().Generator.Rnd(), stejny.Rnd());
 }
 
 TEST_F(Start, ChybejiciSouborKonciPredPrepnutimObrazovky) {
@@ -87,7 +87,7 @@ TEST_F(Start, ChybejiciSouborKonciPredPrepnutimObrazovky) {
         {"CD=assets", ""}, {"", "HD=data"}, {"CD=Chyba", "HD=data"}, {"CD=assets", "HD=Chyba\\"}};
     for (const auto& [cd, hd] : inie) {
         Ini(cd, hd);
-        EXPECT_FALSE(NactiKonfiguraci());
+        EXPECT_FALSE(NactiKonfiguraci(relace.Pamet()));
         EXPECT_EQ(host.Zpravy.back(), CHYBI_INI) << cd << hd;
     }
     Ini("CD=assets", "HD=data");
@@ -95,12 +95,12 @@ TEST_F(Start, ChybejiciSouborKonciPredPrepnutimObrazovky) {
     EXPECT_EQ(soubory.size(), 43U);
     for (const auto& soubor : soubory) {
         fs::rename(soubor, relace.DataDir() / "stranou");
-        EXPECT_FALSE(NactiKonfiguraci()) << soubor;
+        EXPECT_FALSE(NactiKonfiguraci(relace.Pamet())) << soubor;
         EXPECT_EQ(host.Zpravy.back(), CHYBI_DATA);
         fs::rename(relace.DataDir() / "stranou", soubor);
     }
     fs::rename(relace.DataDir() / "07.res", relace.DataDir() / "07.RES");  // any case will do
-    EXPECT_TRUE(NactiKonfiguraci());
+    EXPECT_TRUE(NactiKonfiguraci(relace.Pamet()));
 
     host.Zpravy.clear();
     fs::remove(relace.DataDir() / "../Rysovna.ini");
@@ -118,7 +118,7 @@ TEST_F(Start, VysledkyMajiSvouSlozku) {
     };
     for (const auto& jmeno : JmenaVysledku()) fs::remove(relace.DataDir() / jmeno);
     ini("vysledky");
-    EXPECT_FALSE(NactiKonfiguraci());  // the folder itself is not made
+    EXPECT_FALSE(NactiKonfiguraci(relace.Pamet()));  // the folder itself is not made
     EXPECT_EQ(host.Zpravy.back(), CHYBI_DATA);
     fs::create_directory(koren / "vysledky");
     relace.PisSoubor("../vysledky/07.RES", "Eva|10|0|1\r\n");
@@ -126,11 +126,13 @@ TEST_F(Start, VysledkyMajiSvouSlozku) {
                                                      {"ucet", host.SlozkaDat()}};
     for (const auto& [klic, slozka] : pripady) {
         ini(klic);
-        EXPECT_TRUE(NactiKonfiguraci()) << klic;
-        EXPECT_EQ(NativniCesta(CestaVysledku), slozka / "");
-        EXPECT_EQ(NativniCesta(CestaHD), relace.DataDir() / "");
+        EXPECT_TRUE(NactiKonfiguraci(relace.Pamet())) << klic;
+        EXPECT_EQ(NativniCesta(relace.Pamet().CestaVysledku), slozka / "");
+        EXPECT_EQ(NativniCesta(relace.Pamet().CestaHD), relace.DataDir() / "");
         EXPECT_EQ(std::distance(fs::directory_iterator(slozka), {}), 21) << klic;
-        EXPECT_EQ(Vysledky().Uloz({.CisloUlohy = 7, .Jmeno = "A", .Kladne = "1"}).Text, "");
+        EXPECT_EQ(
+            relace.Pamet().Vysledky().Uloz({.CisloUlohy = 7, .Jmeno = "A", .Kladne = "1"}).Text,
+            "");
     }
     EXPECT_EQ(relace.CtiSoubor("../vysledky/07.RES"), "A|1||\r\nEva|10|0|1\r\n");
     EXPECT_EQ(relace.CtiSoubor("../ucet/07.res"), "A|1||\r\n");
@@ -138,20 +140,20 @@ TEST_F(Start, VysledkyMajiSvouSlozku) {
     // A missing key, or the value of one: the data root holds both, and nothing is made.
     for (const char* klic : {"", "Chyba"}) {
         ini(klic);
-        EXPECT_FALSE(NactiKonfiguraci());
-        EXPECT_EQ(CestaVysledku, CestaHD);
+        EXPECT_FALSE(NactiKonfiguraci(relace.Pamet()));
+        EXPECT_EQ(relace.Pamet().CestaVysledku, relace.Pamet().CestaHD);
     }
 }
 
 /// What could not be told when it happened is told at the next start, once.
 TEST_F(Start, CekajiciVysledkySeZapisiPriStartu) {
-    EXPECT_TRUE(NactiKonfiguraci());
+    EXPECT_TRUE(NactiKonfiguraci(relace.Pamet()));
     fs::rename(relace.DataDir() / "01.res", relace.DataDir() / "stranou");
     fs::create_directory(relace.DataDir() / "01.res");
-    EXPECT_NE(Vysledky().Uloz({.CisloUlohy = 1, .Jmeno = "A"}).Text, "");
+    EXPECT_NE(relace.Pamet().Vysledky().Uloz({.CisloUlohy = 1, .Jmeno = "A"}).Text, "");
     fs::remove(relace.DataDir() / "01.res");
     fs::rename(relace.DataDir() / "stranou", relace.DataDir() / "01.res");
-    EXPECT_TRUE(NactiKonfiguraci());
+    EXPECT_TRUE(NactiKonfiguraci(relace.Pamet()));
     EXPECT_EQ(relace.CtiSoubor("01.res"), "A|||\r\n");
     EXPECT_EQ(host.Zpravy, Zpravy{});
     // One of a program that was killed: nobody heard of it yet.
@@ -160,7 +162,7 @@ TEST_F(Start, CekajiciVysledkySeZapisiPriStartu) {
     relace.PisSoubor("../stav/fronta/0000000009.vysledek", TextCekajiciho(v));
     const auto cizi = host.Disk().Otevri(relace.DataDir() / "Vysledky.dat", Disk::Jak::Zapis);
     ASSERT_TRUE(cizi->Zamkni());
-    for (int i = 0; i < 2; ++i) EXPECT_TRUE(NactiKonfiguraci());
+    for (int i = 0; i < 2; ++i) EXPECT_TRUE(NactiKonfiguraci(relace.Pamet()));
     ASSERT_EQ(host.Zpravy.size(), 1U);
     EXPECT_EQ(host.Zpravy[0].Titul, "Upozornění");
     EXPECT_NE(host.Zpravy[0].Text.find("Vysledky.dat"), std::string::npos);
@@ -168,14 +170,14 @@ TEST_F(Start, CekajiciVysledkySeZapisiPriStartu) {
 
 TEST_F(Start, Obrazovka) {
     host.Rezim = {1600, 1200, 32};
-    PrepniObrazovku();
+    PrepniObrazovku(relace.Pamet());
     EXPECT_EQ(relace.JmenoVpredu(), "PozadiForm");
-    ObnovObrazovku();
+    ObnovObrazovku(relace.Pamet());
     EXPECT_EQ(host.Rezimy, (std::vector<RezimObrazovky>{{640, 480, 16}, {1600, 1200, 32}}));
     EXPECT_EQ(host.Zpravy, Zpravy{});
     host.VysledekRezimu = 1;
-    PrepniObrazovku();
-    ObnovObrazovku();
+    PrepniObrazovku(relace.Pamet());
+    ObnovObrazovku(relace.Pamet());
     EXPECT_EQ(host.Zpravy,
               (Zpravy{{"Grafická karta nepodporuje okamžité přepnutí rozlišení obrazovky. Aplikace "
                        "proto nepoběží přes celou obrazovku.",
@@ -190,27 +192,29 @@ TEST_F(Start, CekaniPoustiUdalosti) {
     int udalosti = 0;
     for (const std::uint32_t za : {10U, 60U, 99U}) host.NaplanujZa(za, [&] { ++udalosti; });
     const std::uint32_t zacatek = host.TickCount();
-    Cekej(100);
+    Cekej(relace.Pamet(), 100);
     EXPECT_EQ(host.TickCount() - zacatek, 100U);
     EXPECT_EQ(udalosti, 3);
 }
 
 TEST_F(Start, SmazTabulkyJenPolovinuABezPocitadel) {
+    Misc misc;
     for (int i = 1; i <= 100; ++i) {
-        Trojice_tab[i].X3 = Priklady[i].Kroky[8].Hotovo = ChybneKroky[i].Body = ANO;
-        ZadanePrvky[std::min(i, 20)].Faze = 3;
+        misc.Trojice_tab[i].X3 = misc.Priklady[i].Kroky[8].Hotovo = misc.ChybneKroky[i].Body = ANO;
+        misc.ZadanePrvky[std::min(i, 20)].Faze = 3;
     }
-    PocetPrikladu = PocetUtvaru = PocetTrojic = PocetChybnychKroku = 60;
-    SmazTabulky();
+    misc.PocetPrikladu = misc.PocetUtvaru = misc.PocetTrojic = misc.PocetChybnychKroku = 60;
+    misc.SmazTabulky();
     for (int i = 1; i <= 100; ++i) {
         const int zbylo = i <= 50 ? 0 : ANO;
-        EXPECT_EQ(Priklady[i].Kroky[8].Hotovo, zbylo) << i;
-        EXPECT_EQ(ChybneKroky[i].Body, zbylo) << i;
-        EXPECT_EQ(Trojice_tab[i].X3, zbylo) << i;
-        EXPECT_EQ(Utvary[i].Popis4, i <= 50 ? " 0" : "") << i;
-        EXPECT_EQ(ZadanePrvky[std::min(i, 20)], ZadanyPrvek{});
+        EXPECT_EQ(misc.Priklady[i].Kroky[8].Hotovo, zbylo) << i;
+        EXPECT_EQ(misc.ChybneKroky[i].Body, zbylo) << i;
+        EXPECT_EQ(misc.Trojice_tab[i].X3, zbylo) << i;
+        EXPECT_EQ(misc.Utvary[i].Popis4, i <= 50 ? " 0" : "") << i;
+        EXPECT_EQ(misc.ZadanePrvky[std::min(i, 20)], ZadanyPrvek{});
     }
-    EXPECT_EQ(PocetPrikladu + PocetUtvaru + PocetTrojic + PocetChybnychKroku, 240);
+    EXPECT_EQ(misc.PocetPrikladu + misc.PocetUtvaru + misc.PocetTrojic + misc.PocetChybnychKroku,
+              240);
 }
 
 /// ms from the start to a press on the title; negative: to closing of the window.
@@ -230,7 +234,7 @@ TEST_P(Titul, TrvaDesetSekundNeboDoZasahu) {
     EXPECT_EQ(host.Okna().JeKonec(), zavreni);
     if (zavreni) return;
     EXPECT_GE(trvani, std::clamp(kdy, 1200U, 10100U));
-    EXPECT_EQ(AktivniForm.lock().get(), &Menu());
+    EXPECT_EQ(relace.Pamet().AktivniForm.lock().get(), &Menu(relace.Pamet()));
     EXPECT_EQ(relace.NoveZvuky().size(), kdy < 10000 ? 1U : 0U);
     relace.Cekej(3000);  // the timer is gone with the title: the menu stays in front
     EXPECT_EQ(relace.JmenoVpredu(), "SelectForm");

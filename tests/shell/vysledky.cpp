@@ -201,8 +201,8 @@ protected:
     }
     /// The storing of a new start of the program.
     std::string Start() {
-        UkladaniVysledku.reset();
-        return Vysledky().ZkusCekajici();
+        relace.Pamet().ZapomenVysledky();
+        return relace.Pamet().Vysledky().ZkusCekajici();
     }
     /// Another program of the account, on a disk of its own.
     Ukladani Program(Disk& disk) {
@@ -226,7 +226,7 @@ protected:
 
 TEST_F(Ulozeni, CtyriRadkyDenikuBajtPoBajtu) {
     Pis("Vysledky.dat", "co tu bylo");
-    EXPECT_EQ(Vysledky().Uloz(Novy("Žaneta Křížová")).Text, "");
+    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("Žaneta Křížová")).Text, "");
     // What is longer stays whole; a character that the code page lacks counts and prints as one.
     const std::string jmeno(34, 'x'), hra(25, 'h'), typ(31, 't'), cara = std::string(75, '=');
     Vysledek dlouhy = Novy(jmeno + "Ω");
@@ -236,7 +236,7 @@ TEST_F(Ulozeni, CtyriRadkyDenikuBajtPoBajtu) {
     dlouhy.Zaporne = "7654321";
     dlouhy.Znamka = "";
     dlouhy.Konec = {2024, 12, 31, 23, 59};
-    EXPECT_EQ(Vysledky().Uloz(dlouhy).Text, "");
+    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(dlouhy).Text, "");
     EXPECT_EQ(
         Cti("Vysledky.dat"),
         "co tu bylo\r\n" +
@@ -260,7 +260,7 @@ TEST_F(Ulozeni, DenikZacinaNaNovemRadku) {
     for (const auto& [konec, pred] : std::initializer_list<std::array<std::string, 2>>{
              {"", ""}, {"x\r\n", ""}, {"x\n", ""}, {"x\r", "\n"}, {"x", "\r\n"}}) {
         Pis("Vysledky.dat", konec);
-        EXPECT_EQ(Vysledky().Uloz(Novy("A")).Text, "");
+        EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("A")).Text, "");
         EXPECT_EQ(Cti("Vysledky.dat"), konec + pred + RadkyDeniku(Novy("A")));
     }
 }
@@ -269,13 +269,17 @@ TEST_F(Ulozeni, DenikZacinaNaNovemRadku) {
 TEST_F(Ulozeni, PlnyDiskNechaDenikCelyAVysledekPocka) {
     Pis("Vysledky.dat", std::string(4000, 'd') + "\r\n");
     std::string zprava;
-    EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { zprava = Vysledky().Uloz(Novy("A")).Text; }), "");
+    EXPECT_EQ(
+        ChybaNaPlnemDisku(4096, [&] { zprava = relace.Pamet().Vysledky().Uloz(Novy("A")).Text; }),
+        "");
     EXPECT_EQ(zprava, "Výsledek se nepodařilo zapsat: " + Cesta("Vysledky.dat").string() +
                           " (na disku není místo).\n\nJe uložen stranou a zapíše se s příštím "
                           "výsledkem nebo při příštím spuštění programu.");
     EXPECT_EQ(Cti("Vysledky.dat"), std::string(4000, 'd') + "\r\n");
     EXPECT_EQ(Cti("01.res"), "");
-    EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { zprava = Vysledky().Uloz(Novy("B")).Text; }), "");
+    EXPECT_EQ(
+        ChybaNaPlnemDisku(4096, [&] { zprava = relace.Pamet().Vysledky().Uloz(Novy("B")).Text; }),
+        "");
     EXPECT_NE(zprava, "");  // each result is told once
     EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { zprava = Start(); }), "");
     EXPECT_EQ(zprava, "");
@@ -334,7 +338,9 @@ TEST_F(Ulozeni, CiziStejnyRadekPoChybeNeniTen) {
 TEST_F(Ulozeni, CiziStejneRadkyDenikuNejsouTy) {
     const std::string zacatek = std::string(3998, 'd') + "\r\n";
     Pis("Vysledky.dat", zacatek);
-    EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { EXPECT_NE(Vysledky().Uloz(Novy("A")).Text, ""); }), "");
+    EXPECT_EQ(ChybaNaPlnemDisku(
+                  4096, [&] { EXPECT_NE(relace.Pamet().Vysledky().Uloz(Novy("A")).Text, ""); }),
+              "");
     ASSERT_EQ(Cti("Vysledky.dat"), zacatek);
     Pis("Vysledky.dat", zacatek + RadkyDeniku(Novy("A")));
     EXPECT_EQ(Start(), "");
@@ -392,7 +398,9 @@ TEST_F(Ulozeni, CiziStejnyRadekNeniTen) {
     while (stara.size() < 4000) stara += "Eva|50|0|1\r\n";
     Pis("01.res", stara + std::string(90, ' ') + "\r\n");
     std::string zprava;
-    EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { zprava = Vysledky().Uloz(Novy("A")).Text; }), "");
+    EXPECT_EQ(
+        ChybaNaPlnemDisku(4096, [&] { zprava = relace.Pamet().Vysledky().Uloz(Novy("A")).Text; }),
+        "");
     EXPECT_NE(zprava.find("01.res"), std::string::npos) << zprava;
     EXPECT_EQ(Denik(), "A ");
     Pis("01.res", stara + "A|50|0|1\r\n");
@@ -403,15 +411,15 @@ TEST_F(Ulozeni, CiziStejnyRadekNeniTen) {
 
 TEST_F(Ulozeni, VysledekZnaSvujKoren) {
     fs::rename(Cesta("Vysledky.dat"), Cesta("stranou"));
-    EXPECT_NE(Vysledky().Uloz(Novy("A")).Text, "");
+    EXPECT_NE(relace.Pamet().Vysledky().Uloz(Novy("A")).Text, "");
     const fs::path jiny = Cesta("jiny");
     fs::create_directory(jiny);
     for (const char* s : {"Vysledky.dat", "01.res"}) Pis(std::string("jiny/") + s, "");
-    CestaVysledku = (jiny / "").string();
+    relace.Pamet().CestaVysledku = (jiny / "").string();
     EXPECT_EQ(Start(), "");
-    EXPECT_EQ(Vysledky().Uloz(Novy("B")).Text, "");
+    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("B")).Text, "");
     EXPECT_EQ(Cti("jiny/01.res"), "B|50|0|1\r\n");
-    CestaVysledku = Cesta("").string();
+    relace.Pamet().CestaVysledku = Cesta("").string();
     fs::rename(Cesta("stranou"), Cesta("Vysledky.dat"));
     EXPECT_EQ(Start(), "");
     EXPECT_EQ(Cti("01.res"), "A|50|0|1\r\n");
@@ -420,17 +428,17 @@ TEST_F(Ulozeni, VysledekZnaSvujKoren) {
 
 TEST_F(Ulozeni, BezFrontySeZapiseAJinakSeDrziVPameti) {
     Pis("../stav", "soubor místo složky");
-    EXPECT_EQ(Vysledky().Uloz(Novy("A")).Text, "");
+    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("A")).Text, "");
     EXPECT_EQ(Cti("01.res"), "A|50|0|1\r\n");
     fs::rename(Cesta("01.res"), Cesta("stranou"));
     fs::create_directory(Cesta("01.res"));
-    const std::string zprava = Vysledky().Uloz(Novy("B")).Text;
+    const std::string zprava = relace.Pamet().Vysledky().Uloz(Novy("B")).Text;
     EXPECT_NE(zprava.find("01.res (disk hlásí chybu)"), std::string::npos) << zprava;
     EXPECT_NE(zprava.find("výsledek se ztratí"), std::string::npos) << zprava;
     EXPECT_EQ(Denik(), "A B ");
     fs::remove(Cesta("01.res"));
     fs::rename(Cesta("stranou"), Cesta("01.res"));
-    EXPECT_EQ(Vysledky().Uloz(Novy("C")).Text, "");
+    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("C")).Text, "");
     EXPECT_EQ(Denik(), "A B C ");
     EXPECT_EQ(Cti("01.res"), "A|50|0|1\r\nB|50|0|1\r\nC|50|0|1\r\n");
 }
@@ -440,14 +448,14 @@ TEST_F(Ulozeni, CizimuZamkuSeCekaTriSekundy) {
     auto cizi = host.Disk().Otevri(Cesta("Vysledky.dat"), Disk::Jak::Zapis);
     ASSERT_TRUE(cizi->Zamkni());
     const std::uint32_t od = host.TickCount();
-    const std::string zprava = Vysledky().Uloz(Novy("A")).Text;
+    const std::string zprava = relace.Pamet().Vysledky().Uloz(Novy("A")).Text;
     EXPECT_NE(zprava.find("Vysledky.dat (zapisuje do něj jiný program)"), std::string::npos);
     EXPECT_LE(host.TickCount() - od, NEJDELE_NA_ZAMEK);
     EXPECT_GE(host.TickCount() - od, NEJDELE_NA_ZAMEK - 50);
     host.PriSpanku = [&, n = 0](std::uint32_t) mutable {
         if (++n == 10) cizi.reset();
     };
-    EXPECT_EQ(Vysledky().Uloz(Novy("B")).Text, "");
+    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("B")).Text, "");
     EXPECT_EQ(Denik(), "A B ");
     EXPECT_EQ(Ceka(), 0);
 }
@@ -487,16 +495,16 @@ TEST_F(Ulozeni, TabulkaSiDrziPravaAOdkaz) {
     fs::create_symlink(Cesta("skutecna.res"), Cesta("01.res"));
     Pis("skutecna.res.0123456789abcdef.nove", "zbytek po zabitém");
     const auto souboru = Pocet();
-    EXPECT_EQ(Vysledky().Uloz(Novy("A")).Text, "");
+    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("A")).Text, "");
     EXPECT_TRUE(fs::is_symlink(Cesta("01.res")));
     EXPECT_EQ(Cti("skutecna.res"), "A|50|0|1\r\n");
     EXPECT_EQ(fs::status(Cesta("skutecna.res")).permissions(), fs::perms(0664));
     EXPECT_EQ(Pocet(), souboru - 1);
     // A table that went missing comes back with the rights of its folder.
     fs::permissions(Cesta(""), fs::perms(0775));
-    EXPECT_EQ(Vysledky().Uloz(Novy("A", 2)).Text, "");
+    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("A", 2)).Text, "");
     fs::remove(Cesta("02.res"));
-    EXPECT_EQ(Vysledky().Uloz(Novy("B", 2)).Text, "");
+    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("B", 2)).Text, "");
     EXPECT_EQ(fs::status(Cesta("02.res")).permissions(), fs::perms(0664));
     EXPECT_EQ(Cti("02.res"), "B|50|0|1\r\n");
 }
@@ -511,7 +519,7 @@ TEST_F(UlozeniDeathTest, SlozkaASouboryJenKeCteni) {
     const auto hraj = [&] {
         // Somebody whom the permissions of files bind.
         if (geteuid() == 0 && setuid(65534) != 0) std::abort();
-        std::cerr << Vysledky().Uloz(Novy("A")).Text;
+        std::cerr << relace.Pamet().Vysledky().Uloz(Novy("A")).Text;
         std::exit(0);
     };
     for (const char* s : {"01.res", "Vysledky.dat"}) fs::permissions(Cesta(s), fs::perms(0444));

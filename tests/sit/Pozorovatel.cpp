@@ -24,10 +24,10 @@ std::string Sestnactkove(std::uint64_t h) {
     return text;
 }
 
-std::string Chyby() {
+std::string Chyby(const Misc& misc) {
     std::string vse;
-    for (int i = 1; i <= PocetChybnychKroku; ++i) {
-        const ChybnyKrok& k = ChybneKroky[i];
+    for (int i = 1; i <= misc.PocetChybnychKroku; ++i) {
+        const ChybnyKrok& k = misc.ChybneKroky[i];
         vse += k.Cislo + "|" + k.Text + "|" + std::to_string(k.Body) + "\n";
     }
     return vse;
@@ -118,17 +118,19 @@ void Pozorovatel::Stanice(std::string_view co) {
     // Who wants another picture than this need not wait for it.
     if (!prani_ || prani_->Co == "1920x1080") (void)velke_.Namaluj(hra_.Host().Okna(), ted);
     Splnit("1920x1080", velke_.Obrazem());
-    for (int i = pocetChyb_; i < PocetChybnychKroku; ++i) ++chyb_[ChybneKroky[i + 1].Cislo];
-    pocetChyb_ = PocetChybnychKroku;
+    for (int i = pocetChyb_; i < hra_.Pamet().PocetChybnychKroku; ++i)
+        ++chyb_[hra_.Pamet().ChybneKroky[i + 1].Cislo];
+    pocetChyb_ = hra_.Pamet().PocetChybnychKroku;
     kam_ << cislo_ << ' ' << ted << ' ';
     Sloupec(0, Sestnactkove(male_.OtiskObrazu()));
     Sloupec(1, Sestnactkove(velke_.OtiskObrazu()));
     Sloupec(2, OtiskPlochy("Pic"));
     Sloupec(3, OtiskPlochy("HidenPic"));
-    Sloupec(4, std::to_string(KladneBody) + "/" + std::to_string(ZaporneBody) + "/" +
-                   std::to_string(SoucetZapornychBodu));
-    Sloupec(5, std::to_string(PocetChybnychKroku));
-    Sloupec(6, Sestnactkove(Otisk(Chyby())));
+    Sloupec(4, std::to_string(hra_.Pamet().KladneBody) + "/" +
+                   std::to_string(hra_.Pamet().ZaporneBody) + "/" +
+                   std::to_string(hra_.Pamet().SoucetZapornychBodu));
+    Sloupec(5, std::to_string(hra_.Pamet().PocetChybnychKroku));
+    Sloupec(6, Sestnactkove(Otisk(Chyby(hra_.Pamet()))));
     Sloupec(7, hra_.JmenoVpredu().empty() ? "-" : hra_.JmenoVpredu());
     kam_ << co << '\n';
 }

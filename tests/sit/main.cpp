@@ -15,7 +15,6 @@
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 #include "sit/Obrazy.h"
 #include "sit/Pozorovatel.h"
 #include "sit/Ruce.h"
@@ -160,7 +159,8 @@ private:
         for (const int kolik : souhrn_.Sipek) kam_ << ' ' << kolik;
         kam_ << " chyby";
         for (const auto& [chyba, kolik] : pozorovatel_.Chyb()) kam_ << ' ' << chyba << ':' << kolik;
-        kam_ << " bodu " << int{KladneBody} << " z " << PRIKLADU * BODU_ZA_PRIKLAD << '\n';
+        kam_ << " bodu " << int{hra_.Pamet().KladneBody} << " z " << PRIKLADU * BODU_ZA_PRIKLAD
+             << '\n';
     }
 
     Hrani h_;
@@ -271,7 +271,6 @@ int Spust(const std::vector<std::string>& a) {
 
 int main(int pocet, char** slova) {
     try {
-        rysovna::NastavVyrobceDesek(rysovna::VyrobDesku);
         return rysovna::sit::Spust({slova + 1, slova + pocet});
     } catch (const std::exception& chyba) {
         std::cerr << "sit: " << chyba.what() << '\n';

@@ -17,10 +17,10 @@ constexpr double VULE = 2.5;                // px, of the rounding of what the p
 constexpr int PRUMER_LOSU = 60, NEJVIC_LOSU = 2000;
 
 /// All letters of the finished figure with their places.
-std::map<std::string, Bod> Body() {
+std::map<std::string, Bod> Body(const Tabulky& t) {
     std::map<std::string, Bod> v;
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+    for (int i = 1; i <= t.PocetUtvaru; ++i) {
+        const Utvar& u = t.Utvary[i];
         if (u.Druh == BOD || u.Druh == USECKA) v[u.Jmeno1] = {u.X1, u.Y1};
         if (u.Druh == USECKA) v[u.Jmeno2] = {u.X2, u.Y2};
     }
@@ -28,8 +28,8 @@ std::map<std::string, Bod> Body() {
 }
 
 /// The figure that the perfect pupil draws is, but for its pixels, that of the exact values.
-void OverFiguru() {
-    const auto body = Body();
+void OverFiguru(const Tabulky& t) {
+    const auto body = Body(t);
     for (const auto& [jmeno, p] : body) {
         for (const auto& [jine, q] : body) {
             if (jmeno >= jine) continue;
@@ -56,12 +56,12 @@ void OverFiguru() {
     }
 }
 
-int Losuj(const Stul<RovnoDialog>&, const Plane& plocha, const Priklad& p, HodnotyPrikladu& h) {
-    return VylosujRovnobeznik(plocha, p, h);
+int Losuj(Stul<RovnoDialog>& s, const Plane& plocha, const Priklad& p, HodnotyPrikladu& h) {
+    return VylosujRovnobeznik(s.Pamet().Generator, plocha, p, h);
 }
 template <class D>
-int Losuj(const Stul<D>&, const Plane& plocha, const Priklad& p, HodnotyPrikladu& h) {
-    return VylosujCtyruhelnik(plocha, p, VETY_CELYCH, h);
+int Losuj(Stul<D>& s, const Plane& plocha, const Priklad& p, HodnotyPrikladu& h) {
+    return VylosujCtyruhelnik(s.Pamet().Generator, plocha, p, VETY_CELYCH, h);
 }
 
 /// Draws of every row of the data: how many a readable figure takes.
@@ -69,24 +69,24 @@ template <class D, class Zak>
 void OverRadky(int uloha) {
     Stul<D> s(uloha);
     constexpr int LOSU = 60;
-    for (int radek = 1; radek <= PocetPrikladu; ++radek) {
+    for (int radek = 1; radek <= s.Pamet().PocetPrikladu; ++radek) {
         SCOPED_TRACE("row " + std::to_string(radek));
-        Generator.Zasej(static_cast<std::uint32_t>(radek));
+        s.Pamet().Generator.Zasej(static_cast<std::uint32_t>(radek));
         HodnotyPrikladu h{};
         int celkem = 0;
         for (int i = 0; i < LOSU; ++i) {
-            const int losu = Losuj(s, s.Obraz(), Priklady[radek], h);
+            const int losu = Losuj(s, s.Obraz(), s.Pamet().Priklady[radek], h);
             ASSERT_GE(losu, 1);
             EXPECT_LT(losu, NEJVIC_LOSU);
             celkem += losu;
         }
-        EXPECT_LE(celkem, PRUMER_LOSU * LOSU) << Priklady[radek].Druh;
+        EXPECT_LE(celkem, PRUMER_LOSU * LOSU) << s.Pamet().Priklady[radek].Druh;
     }
     for (std::uint32_t seminko = 1; seminko <= 60 && !testing::Test::HasFailure(); ++seminko) {
         SCOPED_TRACE("seed " + std::to_string(seminko) + ", kind " +
                      s.Zacni(seminko).Zaznam().Druh);
         Zak(s, seminko).Sestroj();
-        OverFiguru();
+        OverFiguru(s.Pamet());
     }
 }
 

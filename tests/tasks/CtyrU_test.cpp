@@ -51,10 +51,11 @@ TEST(CtyrUChyby, ZbytekVeSpravnemPade) {
         DokonalyCtyruhelnik zak(s, 1);
         zak.Oznac();
         zak.Trojuhelnik();
-        SoucetZapornychBodu = soucet;
+        s.Pamet().SoucetZapornychBodu = soucet;
         s.Zkontroluj();  // two elements are missing
         EXPECT_EQ(s.Chyby(), "301/2 300/10");
-        EXPECT_TRUE(ChybneKroky[2].Text.ends_with(konec)) << ChybneKroky[2].Text;
+        EXPECT_TRUE(s.Pamet().ChybneKroky[2].Text.ends_with(konec))
+            << s.Pamet().ChybneKroky[2].Text;
     }
 }
 
@@ -69,7 +70,7 @@ TEST(CtyrUTrojuhelnik, NesestrojenyNechaPrikladNedokoncenyAVseStisknutelne) {
     s.Nastroj(1).Vyber("ABC").Nastroj(2).Vyber("podle věty SSS");
     s.Napis("70", 1).Napis("50", 2).Napis("40", 3).Nastroj(6);
     EXPECT_FALSE(s.dialog.Stav().Nesestrojen);
-    EXPECT_EQ(PocetUtvaru, 3);
+    EXPECT_EQ(s.Pamet().PocetUtvaru, 3);
 }
 
 TEST(CtyrUTrojuhelnik, ZpetPredNarysovanimVraciVolbu) {
@@ -95,7 +96,7 @@ TEST(CtyrUTrojuhelnik, ZpetPredNarysovanimVraciVolbu) {
         EXPECT_FALSE(ceka.Combo.Otevreny);
         EXPECT_EQ(s.dialog.Stav(), ceka) << jak;
         EXPECT_EQ(zive(), "100000") << jak;
-        EXPECT_EQ(ZadanePrvky[1].Prvek, "BCD") << jak;
+        EXPECT_EQ(s.Pamet().ZadanePrvky[1].Prvek, "BCD") << jak;
         s.Nastroj(1).Vyber("BCD");
     }
     // What was charged stays; the right choice is then judged afresh.
@@ -116,7 +117,8 @@ TEST(CtyrUUzavreni, PaprskySeMusiProtnoutPredZacatkem) {
         zak.Oznac();
         zak.Trojuhelnik();
         // Outward they run apart if together they turn more than the sides that they leave.
-        const double beta = UhelPri(VrcholNaPlose("B"), VrcholNaPlose("A"), VrcholNaPlose("C"));
+        const double beta = UhelPri(VrcholNaPlose(s.Pamet(), "B"), VrcholNaPlose(s.Pamet(), "A"),
+                                    VrcholNaPlose(s.Pamet(), "C"));
         const auto& h = s.dialog.Hodnoty();
         PaprsekVen(s, "ABC", "AX", h[3]);
         PaprsekVen(s, "CBA", "CY", h[4]);

@@ -68,7 +68,7 @@ void OverZacatky(Stul<D>& s, const Zacatky& vse, const std::string& druhSss,
             if (ma && chyba != "0") ceka += " " + chyba + "/1";
         }
         EXPECT_EQ(" " + s.Chyby(), ceka) << t.Nazev << ", " << dana << ", " << veta;
-        const std::string& text = ChybneKroky[spravny ? 1 : 2].Text;
+        const std::string& text = s.Pamet().ChybneKroky[spravny ? 1 : 2].Text;
         EXPECT_EQ(text.ends_with("podle věty " + veta + ".  -3 body"), sus != dana) << text;
     }
     const auto zadani = s.dialog.UkazPanel().lblZadani;
@@ -119,7 +119,8 @@ void OverUtvary(Stul<D>& s, const std::string& radek, bool licho) {
             s.Proved({{nastroj, text.c_str()}, {5}, {nastroj, text.c_str()}});
             const std::string ceka = (faze == 3 ? " 19/3" : "") + cena + cena;
             EXPECT_EQ(s.Chyby(), ceka.substr(ceka.empty() ? 0 : 1)) << radek << ": " << text;
-            EXPECT_TRUE(ceka.empty() || ChybneKroky[PocetChybnychKroku].Text.ends_with(konec));
+            EXPECT_TRUE(ceka.empty() ||
+                        s.Pamet().ChybneKroky[s.Pamet().PocetChybnychKroku].Text.ends_with(konec));
         }
     }
 }
@@ -139,7 +140,7 @@ void OverNesestrojeny(Stul<D>& s, const std::string& radek, const std::vector<Po
         s.Nastroj(1).Vyber(s.Zaznam().Text2);
         s.Nastroj(2).Vyber(sus ? "podle věty SUS" : "podle věty SSS");
         s.Napis(prvni, 1).Napis(druha, 2).Napis(treti, 3).Nastroj(6);
-        EXPECT_EQ(PocetUtvaru, 0);
+        EXPECT_EQ(s.Pamet().PocetUtvaru, 0);
         EXPECT_FALSE(s.Obraz().StejnyObraz(prazdna)) << "it says so";
         if (s.dialog.UkazPanel().cmd[2].Zive) s.Nastroj(3);  // there are no lines to go by
         EXPECT_FALSE(s.dialog.Stav().Combo.Otevreny);
@@ -157,9 +158,9 @@ void OverNesestrojeny(Stul<D>& s, const std::string& radek, const std::vector<Po
 /// A ray (its letters: vertex, arm, third vertex of the triangle) turned away from the third
 /// vertex; its read-out, which has no sign, is right.
 inline void PaprsekVen(Ruka& s, const std::string& pismena, const std::string& jmeno, int stupnu) {
-    const Bod v = VrcholNaPlose(pismena.substr(0, 1));
-    const Bod r = VrcholNaPlose(pismena.substr(1, 1));
-    const Bod t = VrcholNaPlose(pismena.substr(2));
+    const Bod v = VrcholNaPlose(s.Pamet(), pismena.substr(0, 1));
+    const Bod r = VrcholNaPlose(s.Pamet(), pismena.substr(1, 1));
+    const Bod t = VrcholNaPlose(s.Pamet(), pismena.substr(2));
     const bool vlevo = (r.X - v.X) * (t.Y - v.Y) - (r.Y - v.Y) * (t.X - v.X) < 0;
     s.Nastroj(1).Vyber(jmeno + ", svírající úhel s úsečkou " + pismena.substr(0, 2)).Napis(stupnu);
     s.Tahni(v, PodUhlem(v, r, vlevo ? -stupnu : stupnu));
@@ -207,12 +208,13 @@ inline void ZmerCtyruhelnik(const std::map<std::string, Bod>& v, const std::stri
 template <class D>
 void ZmerObe(const Stul<D>& s) {
     const std::string& trojuhelnik = s.Zaznam().Text2;
-    for (int i = 6; i <= PocetUtvaru; i += 2) {
+    for (int i = 6; i <= s.Pamet().PocetUtvaru; i += 2) {
         std::map<std::string, Bod> v;
-        for (const char c : trojuhelnik) v[std::string(1, c)] = VrcholNaPlose({&c, 1});
-        v[Utvary[i].Jmeno2.substr(0, 1)] = {Utvary[i].X2, Utvary[i].Y2};
-        EXPECT_EQ(Utvary[i].Jmeno2, CtvrtePismeno(trojuhelnik) + (i == 8 ? "'" : ""));
-        EXPECT_EQ(Utvary[i + 1].Jmeno1, Utvary[i].Jmeno2);
+        for (const char c : trojuhelnik) v[std::string(1, c)] = VrcholNaPlose(s.Pamet(), {&c, 1});
+        v[s.Pamet().Utvary[i].Jmeno2.substr(0, 1)] = {s.Pamet().Utvary[i].X2,
+                                                      s.Pamet().Utvary[i].Y2};
+        EXPECT_EQ(s.Pamet().Utvary[i].Jmeno2, CtvrtePismeno(trojuhelnik) + (i == 8 ? "'" : ""));
+        EXPECT_EQ(s.Pamet().Utvary[i + 1].Jmeno1, s.Pamet().Utvary[i].Jmeno2);
         for (const auto& [velicina, hodnota] : s.Zadani())
             ZmerCtyruhelnik(v, trojuhelnik, velicina, hodnota);
     }
@@ -230,8 +232,8 @@ int OdehrajSoubor(int uloha, void (*zmer)(const Stul<D>&)) {
         for (int faze = s.dialog.Stav().Faze - 1; seminko % 4 == 0 && faze >= 1; --faze) {
             s.Zpet();
             EXPECT_EQ(s.dialog.Stav().Faze, faze);
-            EXPECT_EQ(PocetUtvaru, faze == 1 ? 0 : faze + 1);
-            EXPECT_EQ(PocetTrojic, PocetUtvaru);
+            EXPECT_EQ(s.Pamet().PocetUtvaru, faze == 1 ? 0 : faze + 1);
+            EXPECT_EQ(s.Pamet().PocetTrojic, s.Pamet().PocetUtvaru);
             EXPECT_FALSE(s.dialog.Hotova());
             if (faze > 1) continue;
             EXPECT_FALSE(s.dialog.UkazPanel().cmd[4].Zive);
@@ -241,7 +243,7 @@ int OdehrajSoubor(int uloha, void (*zmer)(const Stul<D>&)) {
         }
         EXPECT_EQ(s.PoKontrole(), "");
         zmer(s);
-        if (PocetUtvaru == 9) ++druhaReseni;
+        if (s.Pamet().PocetUtvaru == 9) ++druhaReseni;
     });
     return druhaReseni;
 }

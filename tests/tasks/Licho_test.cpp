@@ -44,13 +44,13 @@ TEST(LichoRovnobezka, NestojiNicAVedeVrcholemJenZBlizka) {
     s.Nastroj(3).Vyber("AB");
     EXPECT_EQ(s.dialog.UkazPanel().lblText3, "přímka t, t||AB, |t,AB| = ");
     s.Tahni({30, 30}, {46, 30}).Zpet();
-    const Bod a = VrcholNaPlose("A");
-    const Bod c = VrcholNaPlose("C");
+    const Bod a = VrcholNaPlose(s.Pamet(), "A");
+    const Bod c = VrcholNaPlose(s.Pamet(), "C");
     for (const auto& [mimo, vedena] :
          {std::pair{7, true}, std::pair{-7, true}, std::pair{8, false}}) {
         s.Nastroj(3).Vyber("AB").Napis(1).Tahni(a, {a.X, c.Y + mimo});
-        EXPECT_EQ(Utvary[4].Y1, vedena ? c.Y : c.Y + mimo);
-        EXPECT_EQ(Utvary[4].Y2, Utvary[4].Y1);
+        EXPECT_EQ(s.Pamet().Utvary[4].Y1, vedena ? c.Y : c.Y + mimo);
+        EXPECT_EQ(s.Pamet().Utvary[4].Y2, s.Pamet().Utvary[4].Y1);
         s.Zpet();
     }
     // A parallel to another side is no wrong tool either; the check finds it.

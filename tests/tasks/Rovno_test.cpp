@@ -10,8 +10,8 @@ using StulRovno = Stul<RovnoDialog>;
 
 void Zmer(const StulRovno& s) {
     std::map<std::string, Bod> v;
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        const Utvar& u = Utvary[i];
+    for (int i = 1; i <= s.Pamet().PocetUtvaru; ++i) {
+        const Utvar& u = s.Pamet().Utvary[i];
         v[u.Jmeno1] = {u.X1, u.Y1};
         if (u.Druh == USECKA) v[u.Jmeno2] = {u.X2, u.Y2};
     }

@@ -42,12 +42,12 @@ double Sklon(const Cara& a, const Cara& b) {
 }
 
 /// What every push has to keep: a stored line that is parallel to its base.
-void OverPosun(const Utvar& zakladna, int n) {
-    const Utvar& u = Utvary[n];
+void OverPosun(const Tabulky& t, const Utvar& zakladna, int n) {
+    const Utvar& u = t.Utvary[n];
     ASSERT_EQ(u.Druh, ROVNOBEZKA);
     ASSERT_LE(Sklon(Z(u), Z(zakladna)), NEJVIC_STUPNU)
         << u.X1 << "," << u.Y1 << " " << u.X2 << "," << u.Y2;
-    ASSERT_EQ((Bod{Trojice_tab[n].X1, Trojice_tab[n].Y1}), (Bod{u.X1, u.Y1}));
+    ASSERT_EQ((Bod{t.Trojice_tab[n].X1, t.Trojice_tab[n].Y1}), (Bod{u.X1, u.Y1}));
     // Drawn again from its record it is the same, its label's direction too.
     ASSERT_EQ(u.Smer, Smer({u.X1, u.Y1}, {u.X2, u.Y2}, 0));
 }
@@ -79,9 +79,9 @@ TEST_P(Tecny, PosunJeRovnobezkouAPravyNestojiNic) {
         if (i % 10 == 1) hra.Znovu(i);
         if (hra.Faze() > faze) hra.Zpet();
         hra.zak.SpravneDo(faze);
-        const int chyb = PocetChybnychKroku;
-        const Utvar a = Utvary[NajdiCaru("a")];
-        const int n = PocetUtvaru + 1;
+        const int chyb = hra.Pamet().PocetChybnychKroku;
+        const Utvar a = hra.Pamet().Utvary[NajdiCaru(hra.Pamet(), "a")];
+        const int n = hra.Pamet().PocetUtvaru + 1;
         hra.zak.Nastroj(5).Vyber(radek);
         // Every third press aims at the base's own first point, which has no name of its own.
         Bod stisk = Nekde(los);
@@ -89,8 +89,8 @@ TEST_P(Tecny, PosunJeRovnobezkouAPravyNestojiNic) {
         hra.dialog.StiskPlochy(static_cast<float>(stisk.X), static_cast<float>(stisk.Y));
         const bool chycena = hra.dialog.Stav().Zachyceno;
         const Bod start = hra.dialog.Stav().Start;
-        const Bod pres =
-            NajdiBod(body[static_cast<std::size_t>(los.Cislo(static_cast<int>(body.size())))]);
+        const Bod pres = NajdiBod(
+            hra.Pamet(), body[static_cast<std::size_t>(los.Cislo(static_cast<int>(body.size())))]);
         // Let go where the line misses its point by less than the 15 px that are allowed.
         Bod pustit = Nekde(los);
         if (los.Cislo(4) != 0) {
@@ -101,15 +101,16 @@ TEST_P(Tecny, PosunJeRovnobezkouAPravyNestojiNic) {
         // Of the 15 px one goes for the rounding of the start.
         const bool mireny = !chycena && Mimo(pres, pustit, a) < 14;
         hra.dialog.PusteniPlochy(static_cast<float>(pustit.X), static_cast<float>(pustit.Y));
-        OverPosun(a, n);
+        OverPosun(hra.Pamet(), a, n);
         if (testing::Test::HasFatalFailure()) return;
-        const Cara cara = Z(Utvary[n]);
+        const Cara cara = Z(hra.Pamet().Utvary[n]);
         if (std::abs(stisk.X - a.X1) < 8 && std::abs(stisk.Y - a.Y1) < 8) {
             ++uVlastnihoBodu;
             bool jiny = false;  // another object's point may catch it there
             for (int t = 1; t < n; ++t) {
-                jiny = jiny || (Trojice_tab[t].Jmeno1 != "a" &&
-                                start == Bod{Trojice_tab[t].X1, Trojice_tab[t].Y1});
+                jiny = jiny ||
+                       (hra.Pamet().Trojice_tab[t].Jmeno1 != "a" &&
+                        start == Bod{hra.Pamet().Trojice_tab[t].X1, hra.Pamet().Trojice_tab[t].Y1});
             }
             ASSERT_EQ(chycena, jiny);
         }
@@ -117,13 +118,14 @@ TEST_P(Tecny, PosunJeRovnobezkouAPravyNestojiNic) {
             ASSERT_EQ(cara.P1, start);
         } else if (mireny) {
             ++volnych;
-            ASSERT_EQ(PocetChybnychKroku, chyb) << ChybneKroky[PocetChybnychKroku].Text;
+            ASSERT_EQ(hra.Pamet().PocetChybnychKroku, chyb)
+                << hra.Pamet().ChybneKroky[hra.Pamet().PocetChybnychKroku].Text;
             double odBodu = 1000;
             for (const char* b : body)
-                odBodu = std::min(odBodu, OdPrimky(NajdiBod(b), cara.P1, cara.P2));
+                odBodu = std::min(odBodu, OdPrimky(NajdiBod(hra.Pamet(), b), cara.P1, cara.P2));
             ASSERT_LE(odBodu, NEJVIC_OD_BODU);
         }
-        if (PocetChybnychKroku > chyb) hra.Znovu(i);
+        if (hra.Pamet().PocetChybnychKroku > chyb) hra.Znovu(i);
     }
     EXPECT_GT(volnych, Posunu() / 4);
     EXPECT_GT(uVlastnihoBodu, Posunu() / 20);
@@ -148,22 +150,22 @@ TEST(Vysky, RovnobezkaJeTamKdeUkazatel) {
         // Now and then the side is scrolled off the plane before the parallel is pushed.
         s.Nastroj(1).Vyber("AB").Napis(10).Tahni(od, k);
         if (i % 4 == 0) s.Posun(los.Mezi(-7, 7) * 20, los.Mezi(-7, 7) * 20);
-        const Utvar strana = Utvary[1];
+        const Utvar strana = s.Pamet().Utvary[1];
         s.Nastroj(3).Vyber("s úsečkou AB").Napis(10);
         const Bod stisk = Nekde(los);
         s.dialog.StiskPlochy(static_cast<float>(stisk.X), static_cast<float>(stisk.Y));
         const Bod kam = Nekde(los);
         s.dialog.PusteniPlochy(static_cast<float>(kam.X), static_cast<float>(kam.Y));
-        OverPosun(strana, 2);
+        OverPosun(s.Pamet(), strana, 2);
         if (testing::Test::HasFatalFailure()) return;
-        const Cara cara = Z(Utvary[2]);
+        const Cara cara = Z(s.Pamet().Utvary[2]);
         // The height that is judged is the pointer's own distance from the side.
         const Bod A{strana.X1, strana.Y1};
         const Bod B{strana.X2, strana.Y2};
         const double cm = OdPrimky(kam, A, B) / 8;
         for (const Bod b : {cara.P1, cara.P2}) ASSERT_NEAR(OdPrimky(b, A, B) / 8, cm, NEJVIC_CM);
         ASSERT_LE(OdPrimky(kam, cara.P1, cara.P2) / 8, NEJVIC_CM) << cm;
-        if (Trojice_tab[2].PrvniNechyta) ++daleko;
+        if (s.Pamet().Trojice_tab[2].PrvniNechyta) ++daleko;
     }
     EXPECT_GT(daleko, Posunu() / 20);
 }
@@ -186,26 +188,26 @@ TEST(Zakladny, RovnobezkaVrcholemProchaziVrcholem) {
         const std::string strana =
             radky[static_cast<std::size_t>(los.Cislo(static_cast<int>(radky.size())))].Text;
         s.Vyber(strana);
-        const Utvar zakladna = Utvary[VybranyUtvar];
+        const Utvar zakladna = s.Pamet().Utvary[s.Pamet().VybranyUtvar];
         Bod treti{};
         for (const char c : s.Zaznam().Text2) {
-            if (strana.find(c) == std::string::npos) treti = VrcholNaPlose({&c, 1});
+            if (strana.find(c) == std::string::npos) treti = VrcholNaPlose(s.Pamet(), {&c, 1});
         }
         const Bod stisk = Nekde(los);
         s.dialog.StiskPlochy(static_cast<float>(stisk.X), static_cast<float>(stisk.Y));
         const bool mireny = los.Ano();
         const Bod kam = mireny ? los.Vedle(treti, 4) : Nekde(los);
         s.dialog.PusteniPlochy(static_cast<float>(kam.X), static_cast<float>(kam.Y));
-        OverPosun(zakladna, 4);
+        OverPosun(s.Pamet(), zakladna, 4);
         if (testing::Test::HasFatalFailure()) return;
-        const Cara cara = Z(Utvary[4]);
+        const Cara cara = Z(s.Pamet().Utvary[4]);
         if (mireny) {
             ++vrcholem;
             ASSERT_EQ(cara.P1, treti);
         } else if (cara.P1 != treti) {
             ASSERT_LE(OdPrimky(kam, cara.P1, cara.P2) / 8, NEJVIC_CM);
         }
-        ASSERT_EQ(PocetChybnychKroku, 0);
+        ASSERT_EQ(s.Pamet().PocetChybnychKroku, 0);
     }
     EXPECT_GT(vrcholem, Posunu() / 4);
 }

@@ -6,7 +6,6 @@
 #include "platform/Pisma.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 
 namespace rysovna::hrac {
 namespace {
@@ -67,7 +66,6 @@ private:
 };
 
 TEST(SazbaPanelu, NicNeniOriznuteAniPresSebe) {
-    NastavVyrobceDesek(VyrobDesku);
     int vyzev = 0;
     for (int uloha = 1; uloha <= 20; ++uloha) {
         SCOPED_TRACE(uloha);

@@ -12,7 +12,6 @@
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 #include "store/Kodovani.h"
 #include "store/Soubory.h"
 
@@ -23,14 +22,13 @@ class SerieOdPeti : public testing::TestWithParam<int> {};
 
 TEST_P(SerieOdPeti, DaPadesatBoduRadekTabulkyACtyriRadkyLogu) {
     const Uloha& uloha = *NajdiUlohu(GetParam());
-    NastavVyrobceDesek(VyrobDesku);
     Relace hra(static_cast<std::uint32_t>(uloha.Cislo));
     hra.Host().Cas = {2026, 11, 3, 9, 5};
     hra.Start();
     OdehrajSerii(hra, uloha.Cislo, "Žák", 5, 1);
     EXPECT_EQ(hra.JmenoVpredu(), "TabulkaForm");
-    EXPECT_EQ(KladneBody, 50);
-    EXPECT_EQ(ZaporneBody, 0);
+    EXPECT_EQ(hra.Pamet().KladneBody, 50);
+    EXPECT_EQ(hra.Pamet().ZaporneBody, 0);
     EXPECT_EQ(hra.CtiSoubor(DveCislice(uloha.Cislo) + ".res"), "\x8E\xE1k|50|0|1\r\n");
 
     std::string typ(uloha.TypUlohy);
@@ -39,7 +37,8 @@ TEST_P(SerieOdPeti, DaPadesatBoduRadekTabulkyACtyriRadkyLogu) {
         Z1250(hra.CtiSoubor("Vysledky.dat"), "Vysledky.dat"),
         "Jméno: Žák                                   Datum: 3.11.2026    Čas: 09:05\r\n"
         "Hra: " +
-            NazevHry + std::string(21 - DoZnaku(NazevHry).size(), ' ') + "Typ úlohy: " + typ +
+            hra.Pamet().NazevHry + std::string(21 - DoZnaku(hra.Pamet().NazevHry).size(), ' ') +
+            "Typ úlohy: " + typ +
             "\r\n"
             "Počet příkladů:  5        Klad. body: 50     Záp. body: 0        Známka:  1\r\n"
             "===========================================================================\r\n");
@@ -52,7 +51,6 @@ class SerieBezMysi : public testing::TestWithParam<std::tuple<Relace::Cim, int>>
 /// The mouse is not touched, from the title to the score table.
 TEST_P(SerieBezMysi, DaDesetBodu) {
     const auto [cim, uloha] = GetParam();
-    NastavVyrobceDesek(VyrobDesku);
     Relace hra(static_cast<std::uint32_t>(uloha), cim);
     std::ostringstream udalosti;
     hra.Zaznamenavej(udalosti);
@@ -80,7 +78,8 @@ TEST(DodaneZnamky, NaSpolecneMeziPlatiLepsi) {
         {0, "5"},  {4, "5"},  {5, "4"},  {9, "4"},  {10, "3"},
         {14, "3"}, {15, "2"}, {17, "2"}, {18, "1"}, {20, "1"},
     };
-    for (const auto& [body, znamka] : pripady) EXPECT_EQ(UrciZnamku(body, 20), znamka) << body;
+    for (const auto& [body, znamka] : pripady)
+        EXPECT_EQ(UrciZnamku(hra.Pamet(), body, 20), znamka) << body;
 }
 
 }  // namespace

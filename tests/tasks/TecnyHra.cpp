@@ -20,7 +20,7 @@ int UlohaCviceni(std::string_view kod) {
 }  // namespace
 
 TecnyHra::TecnyHra(std::string_view kod, std::uint32_t seminko) : Stul(UlohaCviceni(kod)) {
-    if (kod == "00") Priklady[1].Druh = kod;  // no task has it
+    if (kod == "00") Pamet().Priklady[1].Druh = kod;  // no task has it
     Znovu(seminko);
 }
 
@@ -30,22 +30,23 @@ void TecnyHra::Znovu(std::uint32_t seminko) {
     zak.Oznac();
 }
 
-std::vector<int> TecnyHra::Chyby() {
+std::vector<int> TecnyHra::Chyby() const {
     std::vector<int> v;
-    for (int i = 1; i <= PocetChybnychKroku; ++i) {
-        v.push_back(static_cast<int>(rysovna::Cislo(ChybneKroky[i].Cislo)));
+    for (int i = 1; i <= Pamet().PocetChybnychKroku; ++i) {
+        v.push_back(static_cast<int>(rysovna::Cislo(Pamet().ChybneKroky[i].Cislo)));
     }
     return v;
 }
 
 Otisk::Otisk(const TecnyHra& hra) : Stav(hra.dialog.Stav()), P(hra.P()) {
-    for (int i = 1; i <= PocetUtvaru; ++i) {
-        Utvary_.push_back(Utvary[i]);
+    const Misc& misc = hra.dialog.Pamet();
+    for (int i = 1; i <= misc.PocetUtvaru; ++i) {
+        Utvary_.push_back(misc.Utvary[i]);
         // Any redraw takes a line's direction anew, from the point at the margin.
-        if (Utvary[i].Druh != USECKA) Utvary_.back().Smer = 0;
+        if (misc.Utvary[i].Druh != USECKA) Utvary_.back().Smer = 0;
     }
-    for (int i = 1; i <= PocetTrojic; ++i) Trojice_.push_back(Trojice_tab[i]);
-    for (int i = 1; i <= 10; ++i) Prvky.push_back(ZadanePrvky[i]);
+    for (int i = 1; i <= misc.PocetTrojic; ++i) Trojice_.push_back(misc.Trojice_tab[i]);
+    for (int i = 1; i <= 10; ++i) Prvky.push_back(misc.ZadanePrvky[i]);
     for (int i = 1; i <= 8; ++i) Hotovo.push_back(hra.Zaznam().Kroky[i].Hotovo);
 }
 
@@ -66,17 +67,17 @@ void TecnyHra::KrokVedle() {
     zak.Nastroj(k.Tvar);
     if (!k.Radek.empty() && P().Combo.Otevreny) Vyber(k.Radek);
     if (k.Tvar == 6) {
-        const Bod s = NajdiBod(k.Od);
-        const Bod a = NajdiBod("A");
+        const Bod s = NajdiBod(Pamet(), k.Od);
+        const Bod a = NajdiBod(Pamet(), "A");
         const int r = Zaokrouhli(std::hypot(s.X - a.X, s.Y - a.Y));
         Tahni(s, {s.X + r + 8, s.Y});
     } else if (k.Tvar == 9 || k.Tvar == 7) {
         Klikni({3, 3});
     } else if (k.Tvar == 2) {
-        Tahni(NajdiBod(k.Od), {3, 3});
+        Tahni(NajdiBod(Pamet(), k.Od), {3, 3});
     } else {
         // Somewhere on the base where the line passes far from all points it could be meant for.
-        const Utvar& z = Utvary[VybranyUtvar];
+        const Utvar& z = Pamet().Utvary[Pamet().VybranyUtvar];
         const auto stranou = [&](Bod start, Bod bod) {
             const double dx = k.Tvar == 4 ? -(z.Y2 - z.Y1) : z.X2 - z.X1;
             const double dy = k.Tvar == 4 ? z.X2 - z.X1 : z.Y2 - z.Y1;
@@ -87,8 +88,8 @@ void TecnyHra::KrokVedle() {
             const Bod start{x, Zaokrouhli(z.Y1 + static_cast<double>(x - z.X1) * (z.Y2 - z.Y1) /
                                                      (z.X2 - z.X1))};
             bool dobre = start.Y > 0 && start.Y < 335;
-            for (int i = 1; i <= PocetUtvaru; ++i) {
-                const Utvar& u = Utvary[i];
+            for (int i = 1; i <= Pamet().PocetUtvaru; ++i) {
+                const Utvar& u = Pamet().Utvary[i];
                 for (const Bod b : {Bod{u.X1, u.Y1}, Bod{u.X2, u.Y2}}) {
                     if (std::abs(b.X - start.X) < 9 && std::abs(b.Y - start.Y) < 9) dobre = false;
                 }

@@ -19,7 +19,7 @@ public:
     /// A step that ends past its point: the right tool and row, drawn or clicked elsewhere.
     void KrokVedle();
 
-    [[nodiscard]] static std::vector<int> Chyby();
+    [[nodiscard]] std::vector<int> Chyby() const;
     [[nodiscard]] Panel P() const { return dialog.UkazPanel(); }
     [[nodiscard]] int Faze() const { return dialog.Stav().Faze; }
 

@@ -40,26 +40,26 @@ TEST(TecnyChyby, ChybnaTlacitka) {
                 const auto& vse = chybne[{kod, krok}];
                 const bool chyba = std::ranges::find(vse, t.Tvar) != vse.end();
                 uctovanych += chyba ? 1 : 0;
-                SoucetZapornychBodu = PocetChybnychKroku = 0;
-                const int utvaru = PocetUtvaru;
+                hra.Pamet().SoucetZapornychBodu = hra.Pamet().PocetChybnychKroku = 0;
+                const int utvaru = hra.Pamet().PocetUtvaru;
                 const Otisk pred(hra);
                 hra.zak.Nastroj(t.Tvar);
-                EXPECT_EQ(TecnyHra::Chyby(), chyba ? Cisla{21} : Cisla{}) << kod << krok << t.Tvar;
-                EXPECT_EQ(SoucetZapornychBodu, chyba ? 3 : 0);
+                EXPECT_EQ(hra.Chyby(), chyba ? Cisla{21} : Cisla{}) << kod << krok << t.Tvar;
+                EXPECT_EQ(hra.Pamet().SoucetZapornychBodu, chyba ? 3 : 0);
                 EXPECT_EQ(hra.dialog.Stav().KrokChybny, chyba);
                 if (!chyba) {
                     hra.dialog.ZavriSeznam();
                     if (!hra.dialog.Stav().CekaNaKresleni) continue;
                 }
                 hra.Tahni({30, 40}, {60, 90});
-                EXPECT_EQ(TecnyHra::Chyby().size(), chyba || t.Tvar == 7 ? 1U : 0U) << kod << krok;
-                EXPECT_EQ(PocetUtvaru, utvaru + 1) << kod << krok << t.Tvar;
+                EXPECT_EQ(hra.Chyby().size(), chyba || t.Tvar == 7 ? 1U : 0U) << kod << krok;
+                EXPECT_EQ(hra.Pamet().PocetUtvaru, utvaru + 1) << kod << krok << t.Tvar;
                 EXPECT_FALSE(hra.dialog.Hotova());
                 EXPECT_EQ(hra.Faze(), krok + 1);
                 hra.Zpet();
                 EXPECT_EQ(Otisk(hra).Rozdil(pred), "") << kod << krok << t.Tvar;
             }
-            SoucetZapornychBodu = PocetChybnychKroku = 0;
+            hra.Pamet().SoucetZapornychBodu = hra.Pamet().PocetChybnychKroku = 0;
             hra.zak.SpravnyKrok();
         }
     }
@@ -88,12 +88,12 @@ TEST(TecnyChyby, KrokyVedle) {
         TecnyHra hra(p.Kod, 11);
         hra.zak.SpravneDo(p.Krok);
         hra.KrokVedle();
-        Cisla chyby = TecnyHra::Chyby();
+        Cisla chyby = hra.Chyby();
         // The line may miss what it has to meet as well.
         const auto mine = [](int c) { return c == 203 || c == 204 || c == 209; };
         if (chyby.size() == 2 && p.Krok == 1 && mine(chyby[1])) chyby.pop_back();
         EXPECT_EQ(chyby, p.Chyby) << p.Kod << " step " << p.Krok;
-        EXPECT_EQ(SoucetZapornychBodu, PocetChybnychKroku);
+        EXPECT_EQ(hra.Pamet().SoucetZapornychBodu, hra.Pamet().PocetChybnychKroku);
         EXPECT_EQ(hra.Faze(), p.Krok + 1);
     }
 }
@@ -134,8 +134,8 @@ TEST(TecnyChyby, ChybneRadky) {
         EXPECT_EQ(hra.P().lblText3, p.Text3);
         EXPECT_EQ(hra.P().lblText4.Videt, p.Tvar == 4);
         hra.Tahni({5, 300}, {3, 100});
-        EXPECT_EQ(TecnyHra::Chyby(), Cisla{p.Chyba}) << p.Kod << p.Krok;
-        EXPECT_EQ(SoucetZapornychBodu, 3);
+        EXPECT_EQ(hra.Chyby(), Cisla{p.Chyba}) << p.Kod << p.Krok;
+        EXPECT_EQ(hra.Pamet().SoucetZapornychBodu, 3);
         const bool posledni = p.Krok == static_cast<int>(hra.dialog.Hrane()->Kroky.size());
         EXPECT_EQ(hra.dialog.Hotova(), posledni) << p.Kod << p.Krok;
     }
@@ -153,9 +153,9 @@ TEST(TecnyChyby, BezPrusecikuZbyvaJenZpet) {
     const auto daleko = [](TecnyHra& hra, int tvar, const char* radek, int chyba) {
         // Random places until the line misses the circle.
         for (int i = 0; i < 1000; ++i) {
-            SoucetZapornychBodu = PocetChybnychKroku = 0;
+            hra.Pamet().SoucetZapornychBodu = hra.Pamet().PocetChybnychKroku = 0;
             hra.zak.Nastroj(tvar).Vyber(radek).Tahni(hra.zak.Nahodne(), hra.zak.Nahodne());
-            const Cisla chyby = TecnyHra::Chyby();
+            const Cisla chyby = hra.Chyby();
             if (!chyby.empty() && chyby.back() == chyba) return;
             hra.Zpet();
         }
@@ -166,7 +166,7 @@ TEST(TecnyChyby, BezPrusecikuZbyvaJenZpet) {
         {"03",
          2,
          [](TecnyHra& h) {
-             const Bod B = NajdiBod("B");
+             const Bod B = NajdiBod(h.Pamet(), "B");
              h.zak.Nastroj(6).Vyber("kružnice l, střed v bodě B").Tahni(B, {B.X + 3, B.Y});
          },
          {206, 207}},
@@ -176,14 +176,14 @@ TEST(TecnyChyby, BezPrusecikuZbyvaJenZpet) {
         TecnyHra hra(p.Kod, 4);
         hra.zak.SpravneDo(p.Krok);
         p.Krok_(hra);
-        EXPECT_EQ(TecnyHra::Chyby(), p.Chyby) << p.Kod;
-        const int utvaru = PocetUtvaru;
+        EXPECT_EQ(hra.Chyby(), p.Chyby) << p.Kod;
+        const int utvaru = hra.Pamet().PocetUtvaru;
         EXPECT_TRUE(hra.P().cmd[4].Zive);
         hra.zak.Nastroj(9);
         for (const Bod b : {Bod{100, 100}, {-9999, -9999}, {0, 0}}) hra.Klikni(b);
-        EXPECT_EQ(PocetUtvaru, utvaru);
+        EXPECT_EQ(hra.Pamet().PocetUtvaru, utvaru);
         EXPECT_EQ(hra.Faze(), p.Krok + 1);
-        EXPECT_EQ(TecnyHra::Chyby(), p.Chyby);
+        EXPECT_EQ(hra.Chyby(), p.Chyby);
         EXPECT_TRUE(hra.P().cmd[4].Zive);
         hra.Zpet();
         EXPECT_EQ(hra.Faze(), p.Krok);
@@ -198,9 +198,9 @@ TEST(TecnyChyby, KolmiceKterouPrimkaNeprotne) {
     for (std::uint32_t s = 1; s < 3000; ++s) {
         hra.Znovu(s);
         for (int i = 0; i < 20; ++i) {
-            SoucetZapornychBodu = PocetChybnychKroku = 0;
+            hra.Pamet().SoucetZapornychBodu = hra.Pamet().PocetChybnychKroku = 0;
             hra.zak.Nastroj(4).Vyber("k přímce a").Tahni(hra.zak.Nahodne(), hra.zak.Nahodne());
-            const Cisla chyby = TecnyHra::Chyby();
+            const Cisla chyby = hra.Chyby();
             if (chyby == Cisla{211, 209}) return;
             hra.Zpet();
         }
@@ -211,10 +211,10 @@ TEST(TecnyChyby, KolmiceKterouPrimkaNeprotne) {
 TEST(TecnyChyby, ObaPrusecikyUzHotove) {
     TecnyHra hra("09", 2);
     hra.zak.SpravneDo(2);
-    Priklady[1].Kroky[1].Hotovo = Priklady[1].Kroky[2].Hotovo = ANO;
+    hra.Pamet().Priklady[1].Kroky[1].Hotovo = hra.Pamet().Priklady[1].Kroky[2].Hotovo = ANO;
     hra.zak.Nastroj(9).Klikni(hra.zak.Kandidati()[0]);
-    EXPECT_EQ(TecnyHra::Chyby(), Cisla{219});
-    EXPECT_EQ(SoucetZapornychBodu, 3);
+    EXPECT_EQ(hra.Chyby(), Cisla{219});
+    EXPECT_EQ(hra.Pamet().SoucetZapornychBodu, 3);
     EXPECT_EQ(hra.Faze(), 2);
 }
 
@@ -225,10 +225,10 @@ TEST(TecnyChyby, Tolerance) {
         hra.zak.SpravneDo(2);
         const Bod B = hra.dialog.Stav().Pary.Misto[0];
         hra.zak.Nastroj(9).Klikni({B.X + o, B.Y - o});
-        EXPECT_EQ(TecnyHra::Chyby(), chyby);
-        EXPECT_EQ(NajdiBod("B"), B);
-        EXPECT_EQ(Utvary[PocetUtvaru].NaPrimce, chyby.empty() ? "b" : "");
-        EXPECT_EQ(Priklady[1].Kroky[1].Hotovo, ANO);
+        EXPECT_EQ(hra.Chyby(), chyby);
+        EXPECT_EQ(NajdiBod(hra.Pamet(), "B"), B);
+        EXPECT_EQ(hra.Pamet().Utvary[hra.Pamet().PocetUtvaru].NaPrimce, chyby.empty() ? "b" : "");
+        EXPECT_EQ(hra.Pamet().Priklady[1].Kroky[1].Hotovo, ANO);
     }
     for (const auto& [o, chyby] : {std::pair{5, Cisla{}}, {6, Cisla{205}}, {-5, Cisla{}}}) {
         TecnyHra hra("04", 9);
@@ -236,8 +236,8 @@ TEST(TecnyChyby, Tolerance) {
         hra.zak.Nastroj(7);
         const Bod C = hra.dialog.Stav().StredUsecky;
         hra.Klikni({C.X + o, C.Y + o});
-        EXPECT_EQ(TecnyHra::Chyby(), chyby);
-        EXPECT_EQ(NajdiBod("C"), C);
+        EXPECT_EQ(hra.Chyby(), chyby);
+        EXPECT_EQ(NajdiBod(hra.Pamet(), "C"), C);
     }
 }
 
@@ -251,8 +251,8 @@ TEST(TecnyChyby, PatnactPixelu) {
             hra.Znovu(s);
             hra.zak.SpravneDo(4);
             hra.zak.Nastroj(4).Vyber("k přímce b");
-            const Utvar z = Utvary[VybranyUtvar];
-            const Bod A1 = NajdiBod("A1");
+            const Utvar z = hra.Pamet().Utvary[hra.Pamet().VybranyUtvar];
+            const Bod A1 = NajdiBod(hra.Pamet(), "A1");
             // A perpendicular from a free place of b whose Y at A1 is o off, if there is such a
             // whole-pixel place.
             for (int x = 0; x < 384; ++x) {
@@ -267,8 +267,9 @@ TEST(TecnyChyby, PatnactPixelu) {
                 if (o == 14 ? d < 13.5 || d >= 14.5 : d < 15 || d >= 16) continue;
                 hra.Tahni(start, start);
                 (o == 14 ? presunuto : draho) += 1;
-                EXPECT_EQ(TecnyHra::Chyby(), o == 14 ? Cisla{} : Cisla{211}) << s << " " << d;
-                EXPECT_EQ(std::abs(Utvary[PocetUtvaru].Y1 - start.Y), o == 14 ? 14 : 0);
+                EXPECT_EQ(hra.Chyby(), o == 14 ? Cisla{} : Cisla{211}) << s << " " << d;
+                EXPECT_EQ(std::abs(hra.Pamet().Utvary[hra.Pamet().PocetUtvaru].Y1 - start.Y),
+                          o == 14 ? 14 : 0);
                 break;
             }
         }
@@ -282,9 +283,9 @@ TEST(TecnyChyby, DruhaTecnaMusiDruhymBodem) {
     TecnyHra hra("01", 6);
     hra.zak.SpravneDo(4);
     for (int i = 0; i < 2; ++i) {
-        hra.zak.Nastroj(5).Vyber("s přímkou a").Tahni(NajdiBod("A2"), {200, 10});
+        hra.zak.Nastroj(5).Vyber("s přímkou a").Tahni(NajdiBod(hra.Pamet(), "A2"), {200, 10});
     }
-    EXPECT_EQ(TecnyHra::Chyby(), Cisla{215});
+    EXPECT_EQ(hra.Chyby(), Cisla{215});
     EXPECT_TRUE(hra.dialog.Hotova());
 }
 
@@ -293,13 +294,17 @@ TEST(TecnyChyby, JednaTecnaDvakratNejsouDve) {
     TecnyHra hra("03", 6);
     hra.zak.SpravneDo(5);
     for (int i = 0; i < 2; ++i) {
-        hra.zak.Nastroj(2).Vyber("přímka AT1").Tahni(NajdiBod("A"), NajdiBod("T1"));
+        hra.zak.Nastroj(2)
+            .Vyber("přímka AT1")
+            .Tahni(NajdiBod(hra.Pamet(), "A"), NajdiBod(hra.Pamet(), "T1"));
     }
-    EXPECT_EQ(TecnyHra::Chyby(), Cisla{});
-    EXPECT_EQ(Utvary[PocetUtvaru].Jmeno1, "p6");
+    EXPECT_EQ(hra.Chyby(), Cisla{});
+    EXPECT_EQ(hra.Pamet().Utvary[hra.Pamet().PocetUtvaru].Jmeno1, "p6");
     EXPECT_FALSE(hra.dialog.Hotova());
     hra.Zpet();
-    hra.zak.Nastroj(2).Vyber("přímka AT2").Tahni(NajdiBod("A"), NajdiBod("T2"));
+    hra.zak.Nastroj(2)
+        .Vyber("přímka AT2")
+        .Tahni(NajdiBod(hra.Pamet(), "A"), NajdiBod(hra.Pamet(), "T2"));
     EXPECT_TRUE(hra.dialog.Hotova());
 }
 
@@ -307,10 +312,14 @@ TEST(TecnyChyby, JednaTecnaDvakratNejsouDve) {
 TEST(TecnyChyby, BezObouVysledkuNeniHotovo) {
     TecnyHra hra("03", 6);
     hra.zak.SpravneDo(5);
-    hra.zak.Nastroj(2).Vyber("přímka AS").Tahni(NajdiBod("A"), NajdiBod("S"));
-    EXPECT_EQ(Utvary[PocetUtvaru].Jmeno1, "p5");
-    hra.zak.Nastroj(2).Vyber("přímka AT1").Tahni(NajdiBod("A"), NajdiBod("T1"));
-    EXPECT_EQ(Utvary[PocetUtvaru].Jmeno1, "t1");
+    hra.zak.Nastroj(2)
+        .Vyber("přímka AS")
+        .Tahni(NajdiBod(hra.Pamet(), "A"), NajdiBod(hra.Pamet(), "S"));
+    EXPECT_EQ(hra.Pamet().Utvary[hra.Pamet().PocetUtvaru].Jmeno1, "p5");
+    hra.zak.Nastroj(2)
+        .Vyber("přímka AT1")
+        .Tahni(NajdiBod(hra.Pamet(), "A"), NajdiBod(hra.Pamet(), "T1"));
+    EXPECT_EQ(hra.Pamet().Utvary[hra.Pamet().PocetUtvaru].Jmeno1, "t1");
     EXPECT_FALSE(hra.dialog.Hotova());
     for (std::size_t i = 0; i < 4; ++i) EXPECT_FALSE(hra.P().cmd[i].Zive);
     EXPECT_TRUE(hra.P().cmd[4].Zive);
@@ -326,7 +335,7 @@ TEST(TecnyChyby, MrtveZpetNikohoNezavre) {
     hra.zak.SpravneDo(6);
     hra.zak.Nastroj(3).Tahni({20, 300}, {60, 200});
     hra.zak.Nastroj(6).Vyber("kružnice l2, střed v bodě S2");
-    hra.Tahni(NajdiBod("S2"), NajdiBod("A"));
+    hra.Tahni(NajdiBod(hra.Pamet(), "S2"), NajdiBod(hra.Pamet(), "A"));
     EXPECT_FALSE(hra.dialog.Hotova());
     hra.Zpet();
     EXPECT_TRUE(hra.P().cmd[4].Zive);
@@ -340,9 +349,10 @@ TEST(TecnyChyby, MrtveZpetNikohoNezavre) {
 /// A line that was clicked and not dragged is drawn upright, and its crossings lie on it.
 TEST(TecnyChyby, KliknutaPrimkaSeProtinaTamKdeStoji) {
     TecnyHra hra("09", 6);
-    hra.zak.Nastroj(2).Vyber("přímka AS").Klikni(NajdiBod("A"));
-    EXPECT_EQ(TecnyHra::Chyby(), Cisla{208});
-    for (const Bod& b : hra.dialog.Stav().Pary.Misto) EXPECT_NEAR(b.X, NajdiBod("A").X, 1);
+    hra.zak.Nastroj(2).Vyber("přímka AS").Klikni(NajdiBod(hra.Pamet(), "A"));
+    EXPECT_EQ(hra.Chyby(), Cisla{208});
+    for (const Bod& b : hra.dialog.Stav().Pary.Misto)
+        EXPECT_NEAR(b.X, NajdiBod(hra.Pamet(), "A").X, 1);
 }
 
 TEST(TecnyChyby, Kontrola) {
@@ -367,15 +377,16 @@ TEST(TecnyChyby, Kontrola) {
     for (const Pripad& p : pripady) {
         TecnyHra hra("04", 3);
         hra.zak.SpravneDo(p.Krok);
-        SoucetZapornychBodu = p.Ztraceno;
+        hra.Pamet().SoucetZapornychBodu = p.Ztraceno;
         if (!p.Znacky) hra.dialog.StiskNacrtu(20, 150);
         hra.dialog.StiskNacrtu(100, 100);  // an extra mark is free
         if (p.Krok == 4) hra.zak.Nastroj(6).Vyber("kružnice k, střed v bodě C");  // armed
         const auto pred = hra.P().cmd;
         hra.dialog.Zkontroluj();
-        EXPECT_EQ(TecnyHra::Chyby(), p.Chyby) << p.Krok << " " << p.Ztraceno;
+        EXPECT_EQ(hra.Chyby(), p.Chyby) << p.Krok << " " << p.Ztraceno;
         if (!p.Chyby.empty()) {
-            EXPECT_TRUE(ChybneKroky[1].Text.ends_with(p.Konec)) << ChybneKroky[1].Text;
+            EXPECT_TRUE(hra.Pamet().ChybneKroky[1].Text.ends_with(p.Konec))
+                << hra.Pamet().ChybneKroky[1].Text;
         }
         // The tools keep their faces and cannot be pressed; back turns grey.
         for (std::size_t i = 0; i < pred.size(); ++i) {

@@ -7,7 +7,6 @@
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 namespace {
@@ -17,7 +16,8 @@ class DokonaleTecny : public testing::TestWithParam<const char*> {};
 TEST_P(DokonaleTecny, KazdyObrazecDaDesetBodu) {
     TecnyHra hra(GetParam());
     // A task's file holds its own exercise and no other.
-    for (int i = 1; i <= PocetPrikladu; ++i) EXPECT_EQ(Priklady[i].Druh, GetParam());
+    for (int i = 1; i <= hra.Pamet().PocetPrikladu; ++i)
+        EXPECT_EQ(hra.Pamet().Priklady[i].Druh, GetParam());
     for (int s = 1; s <= Seminek(); ++s) {
         for (const int zpusob : {0, 1, 2}) {
             hra.Znovu(static_cast<std::uint32_t>(s));
@@ -27,8 +27,8 @@ TEST_P(DokonaleTecny, KazdyObrazecDaDesetBodu) {
             ASSERT_TRUE(hra.dialog.Hotova()) << s;
             EXPECT_EQ(hra.P().lblText1, "Proveď kontrolu hotové konstrukce.");
             hra.dialog.Zkontroluj();
-            ASSERT_EQ(TecnyHra::Chyby(), std::vector<int>{}) << "seed " << s << " way " << zpusob;
-            EXPECT_EQ(SoucetZapornychBodu, 0);
+            ASSERT_EQ(hra.Chyby(), std::vector<int>{}) << "seed " << s << " way " << zpusob;
+            EXPECT_EQ(hra.Pamet().SoucetZapornychBodu, 0);
         }
     }
 }
@@ -64,7 +64,7 @@ TEST_P(DokonaleTecny, ZpetVratiStavPredKrokem) {
             hra.zak.SpravnyKrok();
             EXPECT_EQ(hra.Faze(), po);
         }
-        EXPECT_EQ(TecnyHra::Chyby(), std::vector<int>{});
+        EXPECT_EQ(hra.Chyby(), std::vector<int>{});
         if (!osou) continue;
         hra.Zpet();
         EXPECT_FALSE(hra.dialog.Hotova());
@@ -77,13 +77,13 @@ TEST(Tecny, OsaJdeZpetNajednouAPoZpetJeZaseVolba) {
         TecnyHra hra(kod, 3);
         hra.zak.Nastroj(8).Vyber("úsečky AB");
         EXPECT_EQ(hra.Faze(), 3);
-        EXPECT_EQ(Utvary[3].Jmeno1, "b");
-        EXPECT_EQ(Utvary[4].Jmeno1, "C");
-        EXPECT_EQ(ZadanePrvky[1].Utvar + ZadanePrvky[1].Prvek, "bodC");
-        EXPECT_EQ(ZadanePrvky[2].Utvar + ZadanePrvky[2].Prvek, "kolmiceb");
+        EXPECT_EQ(hra.Pamet().Utvary[3].Jmeno1, "b");
+        EXPECT_EQ(hra.Pamet().Utvary[4].Jmeno1, "C");
+        EXPECT_EQ(hra.Pamet().ZadanePrvky[1].Utvar + hra.Pamet().ZadanePrvky[1].Prvek, "bodC");
+        EXPECT_EQ(hra.Pamet().ZadanePrvky[2].Utvar + hra.Pamet().ZadanePrvky[2].Prvek, "kolmiceb");
         hra.Zpet();
         EXPECT_EQ(hra.Faze(), 1);
-        EXPECT_EQ(PocetUtvaru, 2);
+        EXPECT_EQ(hra.Pamet().PocetUtvaru, 2);
         hra.zak.SpravnyKrok();
         EXPECT_EQ(hra.P().cmd[0].Tvar, 3);  // no axis any more
     }
@@ -108,7 +108,7 @@ TEST(Tecny, ZavrenySeznamVratiTlacitka) {
     hra.zak.Nastroj(4);
     EXPECT_FALSE(hra.P().cmd[1].Zive);
     hra.Klikni({100, 100});  // not armed yet
-    EXPECT_EQ(PocetUtvaru, 2);
+    EXPECT_EQ(hra.Pamet().PocetUtvaru, 2);
     hra.dialog.ZavriSeznam();
     EXPECT_EQ(hra.P(), pred);
 }
@@ -138,13 +138,12 @@ TEST(Tecny, NeznamyKodNechaDeskuPrazdnouAZpetVede) {
     EXPECT_FALSE(hra.dialog.StiskNacrtu(100, 100));
     hra.Klikni({100, 100});
     hra.dialog.Posun(20, 0);
-    EXPECT_EQ(PocetUtvaru, 0);
+    EXPECT_EQ(hra.Pamet().PocetUtvaru, 0);
     EXPECT_EQ(hra.P().Label1, "");
     for (const Tlacitko& t : hra.P().cmd) EXPECT_EQ(t, Tlacitko{});
     hra.dialog.Zkontroluj();
-    EXPECT_EQ(TecnyHra::Chyby(), std::vector<int>{300});
+    EXPECT_EQ(hra.Chyby(), std::vector<int>{300});
 
-    NastavVyrobceDesek(VyrobDesku);
     Relace okno;
     okno.PisSoubor("12.dat", ZakodujRadek("00#######") + "\r\n");
     okno.Start();

@@ -30,11 +30,11 @@ TEST_P(Figury, JsouResitelneACitelne) {
     double pokusu = 0;
     for (int i = 0; i < kolik; ++i) {
         SCOPED_TRACE(i);
-        const Figura f = VylosujFiguru(kod, 384, 335, Generator);
+        const Figura f = VylosujFiguru(kod, 384, 335, hra.Pamet().Generator);
         pokusu += f.Pokusu;
-        SmazKonstrukci();
+        static_cast<Tabulky&>(hra.Pamet()) = {};
         for (const DanyUtvar& d : f.Utvary) {
-            Utvar& u = Utvary[++PocetUtvaru];
+            Utvar& u = hra.Pamet().Utvary[++hra.Pamet().PocetUtvaru];
             u.Druh = d.Druh;
             u.Jmeno1 = d.Jmeno1;
             u.Jmeno2 = d.Jmeno2;
@@ -50,7 +50,8 @@ TEST_P(Figury, JsouResitelneACitelne) {
         // Given and marked points, midpoints of "09" left out.
         std::vector<Bod> body;
         for (const char* jmeno : {"S", "A", "B"}) {
-            if (!(NajdiBod(jmeno) == BEZ_BODU)) body.push_back(NajdiBod(jmeno));
+            if (!(NajdiBod(hra.Pamet(), jmeno) == BEZ_BODU))
+                body.push_back(NajdiBod(hra.Pamet(), jmeno));
         }
         const std::size_t danych = body.size();
         for (const Bod b : hra.zak.Kandidati()) body.push_back(b);
@@ -138,8 +139,9 @@ TEST_P(Figury, NedbalyZak) {
                     break;
                 default: {
                     Bod odkud = b;
-                    if (hra.zak.Cislo(2) == 0 && PocetUtvaru > 0) {
-                        const Utvar& u = Utvary[1 + hra.zak.Cislo(PocetUtvaru)];
+                    if (hra.zak.Cislo(2) == 0 && hra.Pamet().PocetUtvaru > 0) {
+                        const Utvar& u =
+                            hra.Pamet().Utvary[1 + hra.zak.Cislo(hra.Pamet().PocetUtvaru)];
                         odkud = {u.X1, u.Y1};
                     }
                     if (hra.zak.Cislo(3) == 0 && !(d.Stav().Pary.Misto[0] == BEZ_BODU)) {
@@ -153,23 +155,24 @@ TEST_P(Figury, NedbalyZak) {
             const int krok = hra.Faze();
             ASSERT_GE(krok, 1);
             ASSERT_LE(krok, static_cast<int>(d.Hrane()->Kroky.size()) + 1);
-            ASSERT_EQ(PocetUtvaru, PocetTrojic);
-            for (int u = 1; u <= PocetUtvaru; ++u) {
-                ASSERT_GT(Utvary[u].X1, -5000);
-                ASSERT_FALSE(Utvary[u].Druh.empty());
+            ASSERT_EQ(hra.Pamet().PocetUtvaru, hra.Pamet().PocetTrojic);
+            for (int u = 1; u <= hra.Pamet().PocetUtvaru; ++u) {
+                ASSERT_GT(hra.Pamet().Utvary[u].X1, -5000);
+                ASSERT_FALSE(hra.Pamet().Utvary[u].Druh.empty());
             }
             const Panel p = hra.P();
             // There always is a way on.
             bool zive = p.Combo.Otevreny || d.Stav().CekaNaKresleni || d.Stav().Znacky == 0;
             for (const Tlacitko& t : p.cmd) zive = zive || t.Zive;
             ASSERT_TRUE(zive) << "figure " << i;
-            if (PocetChybnychKroku > 60) break;  // a real example holds at most 100
+            if (hra.Pamet().PocetChybnychKroku > 60) break;  // a real example holds at most 100
         }
         ASSERT_TRUE(Dodelej(hra)) << "figure " << i << ", step " << hra.Faze();
         d.Zkontroluj();
         int soucet = 0;
-        for (int k = 1; k <= PocetChybnychKroku; ++k) soucet += ChybneKroky[k].Body;
-        ASSERT_EQ(SoucetZapornychBodu, soucet);
+        for (int k = 1; k <= hra.Pamet().PocetChybnychKroku; ++k)
+            soucet += hra.Pamet().ChybneKroky[k].Body;
+        ASSERT_EQ(hra.Pamet().SoucetZapornychBodu, soucet);
     }
 }
 

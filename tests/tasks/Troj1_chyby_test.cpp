@@ -13,7 +13,6 @@
 #include "screens/ChybovyForm.h"
 #include "screens/DeskaForm.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 
 namespace rysovna::testy {
 
@@ -28,7 +27,7 @@ const DialogTrojuhelniku& Dialogem(Rysovac& r) {
 
 class Trojuhelniky : public testing::Test {
 protected:
-    Trojuhelniky() { NastavVyrobceDesek(VyrobDesku); }
+    Trojuhelniky() {}
 };
 
 /// The task of a kind of example.
@@ -37,9 +36,9 @@ int Uloha(int druh) {
 }
 
 /// What was charged, "7/1 19/3": numbers and points; a text that does not tell the points shows.
-std::string Uctovano() {
+std::string Uctovano(Rysovac& r) {
     std::string vse;
-    for (const Chyba& c : Chyby()) {
+    for (const Chyba& c : Chyby(r.Hra.Pamet())) {
         vse += (vse.empty() ? "" : " ") + std::to_string(c.Cislo) + "/" + std::to_string(c.Bodu);
         if (c.Body != (c.Bodu == 1 ? "  -1 bod" : "  -3 body")) vse += "'" + c.Body + "'";
     }
@@ -95,7 +94,7 @@ TEST_F(Trojuhelniky, KazdyChybnyKrokStojiPresneToCoMa) {
             ASSERT_NE(rovna, std::string::npos) << pripad;
             Rysovac r(Uloha(p.Druh), p.Druh);
             r.Zacni().Rysuj(pripad.substr(0, rovna));
-            EXPECT_EQ(Uctovano(), pripad.substr(rovna + 3)) << "kind " << p.Druh << ": " << pripad;
+            EXPECT_EQ(Uctovano(r), pripad.substr(rovna + 3)) << "kind " << p.Druh << ": " << pripad;
         }
     }
 }
@@ -105,18 +104,18 @@ TEST_F(Trojuhelniky, PraveTlacitkoAniStiskBezKrokuNicNestoji) {
     r.Zacni().Rysuj("AB").Kdo.Nastroj(2).Vyber("k úsečce AB");
     r.Hra.Host().Okna().MysDolu(400, 300, 2, 0);
     r.Hra.Host().Okna().MysNahoru(450, 250, 2, 0);
-    EXPECT_EQ(PocetUtvaru, 1);
-    EXPECT_EQ(SoucetZapornychBodu, 0);
+    EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 1);
+    EXPECT_EQ(r.Hra.Pamet().SoucetZapornychBodu, 0);
     for (int i = 0; i < 2; ++i) r.Kdo.Tahni({140, 190}, {140, 100});  // the second is not armed
-    EXPECT_EQ(PocetUtvaru, 2);
-    EXPECT_EQ(Uctovano(), "19/3");
+    EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 2);
+    EXPECT_EQ(Uctovano(r), "19/3");
 }
 
 // ---- Going back ------------------------------------------------------------------------------
 
 /// Objects and snap records of the construction.
-std::pair<int, int> Pocty() {
-    return {PocetUtvaru, PocetTrojic};
+std::pair<int, int> Pocty(Rysovac& r) {
+    return {r.Hra.Pamet().PocetUtvaru, r.Hra.Pamet().PocetTrojic};
 }
 
 /// What is shown, less what the closed list held.
@@ -133,31 +132,31 @@ TEST_F(Trojuhelniky, VraciFaziZaFaziABodyNevraci) {
         const Panel faze1 = BezSeznamu(Dialogem(r).UkazPanel());
         r.Rysuj("vse");
         ASSERT_TRUE(Dialogem(r).Hotova());
-        EXPECT_EQ(Pocty(), (std::pair{3, 4}));
-        SoucetZapornychBodu = 4;
+        EXPECT_EQ(Pocty(r), (std::pair{3, 4}));
+        r.Hra.Pamet().SoucetZapornychBodu = 4;
 
         r.Rysuj("zpet");
         EXPECT_FALSE(Dialogem(r).Hotova());
-        EXPECT_EQ(Pocty(), (std::pair{2, 2}));
+        EXPECT_EQ(Pocty(r), (std::pair{2, 2}));
         Panel ceka = BezSeznamu(Dialogem(r).UkazPanel());
         EXPECT_EQ(ceka.lblText2, "2. útvar:");
         EXPECT_TRUE(ceka.PicZiva);
         for (std::size_t i = 0; i < 5; ++i) EXPECT_TRUE(ceka.cmd[i].Zive && ceka.cmd[i].Barevne);
 
         r.Rysuj("zpet");
-        EXPECT_EQ(Pocty(), (std::pair{1, 1}));
+        EXPECT_EQ(Pocty(r), (std::pair{1, 1}));
         ceka.lblText2 = "1. útvar:";
         EXPECT_EQ(BezSeznamu(Dialogem(r).UkazPanel()), ceka);
 
         r.Rysuj("zpet");
-        EXPECT_EQ(Pocty(), (std::pair{0, 0}));
+        EXPECT_EQ(Pocty(r), (std::pair{0, 0}));
         EXPECT_EQ(BezSeznamu(Dialogem(r).UkazPanel()), faze1);
-        EXPECT_EQ(SoucetZapornychBodu, 4);
+        EXPECT_EQ(r.Hra.Pamet().SoucetZapornychBodu, 4);
 
         // The same construction again, as if nothing had been.
         r.Rysuj("vse");
         EXPECT_TRUE(Dialogem(r).Hotova());
-        EXPECT_EQ(PocetChybnychKroku, 0);
+        EXPECT_EQ(r.Hra.Pamet().PocetChybnychKroku, 0);
     }
 }
 
@@ -173,13 +172,13 @@ TEST_F(Trojuhelniky, NeuzavrenaTrojiceSeVraciTake) {
     Rysovac r(SSS, 1);
     r.Zacni().Rysuj("AB rovnobezka rovnobezka");  // two parallels never meet
     EXPECT_FALSE(Dialogem(r).Hotova());
-    EXPECT_EQ(PocetUtvaru, 3);
+    EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 3);
     r.Kdo.Stiskni("cmd", 1).Stiskni("cmd", 4);  // a full construction takes nothing more
-    EXPECT_EQ(PocetUtvaru, 3);
+    EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 3);
     EXPECT_FALSE(r.Hra.Prvek("Combo").Visible);
     r.Rysuj("zpet");
-    EXPECT_EQ(Pocty(), (std::pair{2, 2}));
-    EXPECT_EQ(SoucetZapornychBodu, 6);
+    EXPECT_EQ(Pocty(r), (std::pair{2, 2}));
+    EXPECT_EQ(r.Hra.Pamet().SoucetZapornychBodu, 6);
 }
 
 // ---- Settling the example --------------------------------------------------------------------
@@ -212,19 +211,19 @@ TEST_F(Trojuhelniky, SoucetVerdiktABodyPodlePripadu) {
         SCOPED_TRACE(p.Kroky);
         Rysovac r(SSS, 1);
         r.Zacni(p.NavicZnacka).Rysuj(p.Kroky);
-        const std::size_t predtim = Chyby().size();
+        const std::size_t predtim = Chyby(r.Hra.Pamet()).size();
         r.Zkontroluj();
         std::string kontrola;
-        const auto vse = Chyby();
+        const auto vse = Chyby(r.Hra.Pamet());
         for (std::size_t i = predtim; i < vse.size(); ++i) {
             kontrola += (i == predtim ? "" : " ") + std::to_string(vse[i].Cislo);
         }
         EXPECT_EQ(kontrola, p.Kontrola);
-        const std::string& text = ChybneKroky[PocetChybnychKroku].Text;
+        const std::string& text = r.Hra.Pamet().ChybneKroky[r.Hra.Pamet().PocetChybnychKroku].Text;
         EXPECT_TRUE(text.ends_with(p.PosledniText)) << text;
-        EXPECT_EQ(SoucetZapornychBodu, p.Soucet);
-        EXPECT_EQ(KladneBody, p.Kladne);
-        EXPECT_EQ(ZaporneBody, p.Zaporne);
+        EXPECT_EQ(r.Hra.Pamet().SoucetZapornychBodu, p.Soucet);
+        EXPECT_EQ(r.Hra.Pamet().KladneBody, p.Kladne);
+        EXPECT_EQ(r.Hra.Pamet().ZaporneBody, p.Zaporne);
         EXPECT_TRUE(r.Hra.Prvek("ImgHodnoceni").Visible);
         EXPECT_EQ(r.Hra.Prvek("ImgHodnoceni").Enabled, p.Zaporne > 0);
         for (int i = 1; i <= 3; ++i) EXPECT_FALSE(r.Hra.Prvek("PicTop", i).Enabled);
@@ -239,7 +238,7 @@ TEST_F(Trojuhelniky, SeznamChybUkazeDesetANejdelDokudSeDrzi) {
     r.Zacni().Rysuj("AB");
     for (int i = 0; i < 11; ++i) r.Rysuj("kolmice zpet");
     r.Rysuj("kA kB").Zkontroluj();
-    ASSERT_EQ(PocetChybnychKroku, 11);
+    ASSERT_EQ(r.Hra.Pamet().PocetChybnychKroku, 11);
     r.Hra.Zmackni("ImgHodnoceni", 0, {5, 5});
     ASSERT_EQ(r.Hra.JmenoVpredu(), "ChybovyForm");
     const std::string& text = r.Hra.Prvek<TextBox>("Text1").Text;
@@ -278,15 +277,16 @@ TEST_F(Trojuhelniky, PosunutyVrcholZustavaVrcholemAZpetHoPusti) {
         r.Kdo.Stiskni("picSipka", 4);
         const Bod posunuty{vrchol.X + 60, vrchol.Y - 20};
         EXPECT_EQ(Dialogem(r).Stav().Vrchol, posunuty);
-        ASSERT_EQ(PocetTrojic, 4);
-        EXPECT_EQ((Bod{Trojice_tab[4].X1, Trojice_tab[4].Y1}), posunuty);
-        EXPECT_EQ(Trojice_tab[4].Jmeno1, Dialogem(r).Stav().PismenoVrcholu);
-        EXPECT_EQ(Utvary[1].X1, r.Prvni.X + 60);
+        ASSERT_EQ(r.Hra.Pamet().PocetTrojic, 4);
+        EXPECT_EQ((Bod{r.Hra.Pamet().Trojice_tab[4].X1, r.Hra.Pamet().Trojice_tab[4].Y1}),
+                  posunuty);
+        EXPECT_EQ(r.Hra.Pamet().Trojice_tab[4].Jmeno1, Dialogem(r).Stav().PismenoVrcholu);
+        EXPECT_EQ(r.Hra.Pamet().Utvary[1].X1, r.Prvni.X + 60);
         r.Rysuj("zpet");
-        EXPECT_EQ(PocetTrojic, 2);
+        EXPECT_EQ(r.Hra.Pamet().PocetTrojic, 2);
         EXPECT_EQ(Dialogem(r).Stav().Vrchol, BEZ_BODU);
         r.Kdo.Stiskni("picSipka", 2);
-        EXPECT_EQ((Bod{Trojice_tab[1].X1, Trojice_tab[1].Y1}),
+        EXPECT_EQ((Bod{r.Hra.Pamet().Trojice_tab[1].X1, r.Hra.Pamet().Trojice_tab[1].Y1}),
                   (Bod{r.Prvni.X + 40, r.Prvni.Y - 20}));
     }
 }
@@ -294,7 +294,8 @@ TEST_F(Trojuhelniky, PosunutyVrcholZustavaVrcholemAZpetHoPusti) {
 TEST_F(Trojuhelniky, SedmyStiskJesteOsmyUzNe) {
     Rysovac r(SSS, 1);
     r.Zacni();
-    const int* const POSUNY[] = {&PosunX, &PosunX, &PosunY, &PosunY};
+    const int* const POSUNY[] = {&r.Hra.Pamet().PosunX, &r.Hra.Pamet().PosunX,
+                                 &r.Hra.Pamet().PosunY, &r.Hra.Pamet().PosunY};
     for (int i = 1; i <= 4; ++i) {
         const int smer = i % 2 == 1 ? 1 : -1;
         const int& posun = *POSUNY[i - 1];
@@ -305,8 +306,8 @@ TEST_F(Trojuhelniky, SedmyStiskJesteOsmyUzNe) {
         EXPECT_EQ(posun, smer * 140);
     }
     r.Kdo.Stiskni("PicTop", 2);
-    EXPECT_EQ(PosunX, 0);
-    EXPECT_EQ(PosunY, 0);
+    EXPECT_EQ(r.Hra.Pamet().PosunX, 0);
+    EXPECT_EQ(r.Hra.Pamet().PosunY, 0);
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 #include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 #include "store/Soubory.h"
 
 namespace rysovna::testy {
@@ -24,12 +23,11 @@ class DokonaleTrojuhelniky : public testing::TestWithParam<int> {};
 
 TEST_P(DokonaleTrojuhelniky, KazdyRadekSouboruDaDesetBodu) {
     const int uloha = GetParam();
-    NastavVyrobceDesek(VyrobDesku);
     Relace hra;
     hra.Start();
     hra.SpustUlohu(uloha, "Žák", 5);
     Pokryti pokryti;
-    for (std::uint32_t seminko = 1; !pokryti.Cele(); ++seminko) {
+    for (std::uint32_t seminko = 1; !pokryti.Cele(hra.Pamet()); ++seminko) {
         ASSERT_LT(seminko, 100000U) << "some line of the file never comes";
         const auto& dialog = Dialogem(hra);
         const int radek = dialog.CisloPrikladu();
@@ -37,8 +35,9 @@ TEST_P(DokonaleTrojuhelniky, KazdyRadekSouboruDaDesetBodu) {
         DokonalyTrojuhelnik(ruka, seminko, seminko % 3 == 0).Sestroj();
         ruka.Zkontroluj();
         ASSERT_TRUE(dialog.Hotova()) << "seed " << seminko << ", kind " << dialog.Hrany().Druh;
-        ASSERT_EQ(SoucetZapornychBodu, 0) << "seed " << seminko << ", kind " << dialog.Hrany().Druh
-                                          << ": " << ChybneKroky[1].Text;
+        ASSERT_EQ(hra.Pamet().SoucetZapornychBodu, 0)
+            << "seed " << seminko << ", kind " << dialog.Hrany().Druh << ": "
+            << hra.Pamet().ChybneKroky[1].Text;
         pokryti.Odehran(radek);
         hra.Stiskni("picPokracuj");
         if (hra.JmenoVpredu() == "TabulkaForm") {
@@ -48,7 +47,7 @@ TEST_P(DokonaleTrojuhelniky, KazdyRadekSouboruDaDesetBodu) {
         hra.Cekej(200);
         hra.Cekej(1400);  // the panel comes out again
     }
-    EXPECT_EQ(ZaporneBody, 0);
+    EXPECT_EQ(hra.Pamet().ZaporneBody, 0);
     const std::string zaznam = "\x8E\xE1k|50|0|1\r\n";
     const std::string tabulka = hra.CtiSoubor("0" + std::to_string(uloha) + ".res");
     for (std::size_t od = 0; od < tabulka.size(); od += zaznam.size()) {

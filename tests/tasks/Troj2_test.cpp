@@ -22,7 +22,7 @@ void Oznac(StulTroj2& s, const std::string& velicina) {
 /// The closed figure against the given values. The pupil draws a radius up to 2 px off; the rest is
 /// the rounding of vertices and of the way that a height goes.
 void Zmer(const StulTroj2& s) {
-    const Utvar& prvni = Utvary[1];
+    const Utvar& prvni = s.Pamet().Utvary[1];
     std::map<std::string_view, Bod> v = {{prvni.Jmeno1, {prvni.X1, prvni.Y1}},
                                          {prvni.Jmeno2, {prvni.X2, prvni.Y2}}};
     const Bod treti = s.dialog.Stav().Vrchol;
@@ -56,8 +56,8 @@ TEST_P(Troj2Dokonaly, KazdyRadekDaDesetBoduAZadanyTrojuhelnik) {
         for (int zbyde = seminko % 4 == 0 ? 2 : -1; zbyde >= 0; --zbyde) {
             EXPECT_EQ(s.dialog.Hotova(), zbyde == 2);
             s.Zpet();
-            EXPECT_EQ(PocetUtvaru, zbyde);
-            EXPECT_EQ(PocetTrojic, zbyde);
+            EXPECT_EQ(s.Pamet().PocetUtvaru, zbyde);
+            EXPECT_EQ(s.Pamet().PocetTrojic, zbyde);
             const char* const VYZVY[] = {"", "1. útvar:", "2. útvar:"};
             EXPECT_EQ(s.dialog.UkazPanel().lblText2, VYZVY[zbyde]);
             if (zbyde > 0) continue;
@@ -221,7 +221,7 @@ TEST(Troj2Panel, StredUseckyUkazeSvouPopiskuASeznamNabidneJenSvujStred) {
     EXPECT_FALSE(s.dialog.UkazPanel().cmd[0].Zive) << "no mark yet";
     Oznac(s, "tc");
     s.Proved({{1, "AB", -2, A, {1, 0}}});
-    const Bod m{Utvary[1].X3, Utvary[1].Y3};
+    const Bod m{s.Pamet().Utvary[1].X3, s.Pamet().Utvary[1].Y3};
     const auto popiska = [&](int dx, int dy) {
         return s.dialog.Prejezd(static_cast<float>(m.X + dx), static_cast<float>(m.Y + dy));
     };

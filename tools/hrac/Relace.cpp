@@ -7,10 +7,8 @@
 #include "base/Cisla.h"
 #include "base/Text.h"
 #include "platform/Obrazovky.h"
-#include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/SelectForm.h"
-#include "screens/Start.h"
 
 namespace rysovna::hrac {
 namespace {
@@ -32,8 +30,12 @@ fs::path NovaSlozka() {
 
 }  // namespace
 
-Relace::Relace(std::uint32_t seminko, Cim cim)
-    : cim_(cim), los_(seminko), naDobu_(host_), koren_(NovaSlozka()), data_(koren_ / "data") {
+Relace::Relace(std::uint32_t seminko, Cim cim, VyrobceDesek vyrobce)
+    : sezeni_(host_, std::move(vyrobce)),
+      cim_(cim),
+      los_(seminko),
+      koren_(NovaSlozka()),
+      data_(koren_ / "data") {
     fs::copy(STAGING / "data", data_, fs::copy_options::recursive);
     // The staged copy may have been played with: a run begins with no results.
     for (const auto& soubor : fs::directory_iterator(data_)) {
@@ -46,7 +48,6 @@ Relace::Relace(std::uint32_t seminko, Cim cim)
     ini << "[RYSOVNA1]\r\nCD=" << (STAGING / "assets").string() << "\r\nHD=" << data_.string()
         << "\r\n";
     ini.close();
-    VychoziRelace();
 }
 
 Relace::~Relace() {
@@ -56,7 +57,7 @@ Relace::~Relace() {
 }
 
 void Relace::StartDoTitulu() {
-    host_.Okna().Nacti<SelectForm>();
+    host_.Okna().Nacti<SelectForm>(sezeni_);
 }
 
 void Relace::PreskocTitul() {

@@ -13,15 +13,16 @@
 #include "platform/Form.h"
 #include "platform/Obrazovky.h"
 #include "platform/headless/HeadlessHost.h"
+#include "screens/Desky.h"
+#include "screens/Sezeni.h"
 #include "zak/Los.h"
 #include "zak/Ruka.h"
 
 namespace rysovna::hrac {
 
 /// One run of the program on the headless host, with a data root of its own that goes with it:
-/// plays as a pupil does, by names of controls, through the same events. Session variables and
-/// tables are reset when it begins. What a person could not do (press what is hidden, on a screen
-/// that is not in front) throws NejdeUdelat.
+/// plays as a pupil does, by names of controls, through the same events. What a person could not do
+/// (press what is hidden, on a screen that is not in front) throws NejdeUdelat.
 class Relace {
 public:
     /// What the player plays with: by keys, whatever it presses or drags is reached by the ring,
@@ -30,13 +31,16 @@ public:
     enum class Cim { Mysi, Klavesami, Prstem };
 
     /// The data root is a copy of the staged one, with no results in it. seminko: of the generator
-    /// of examples.
-    explicit Relace(std::uint32_t seminko = 1, Cim cim = Cim::Mysi);
+    /// of examples. vyrobce: what makes the boards.
+    explicit Relace(std::uint32_t seminko = 1, Cim cim = Cim::Mysi,
+                    VyrobceDesek vyrobce = VyrobDesku);
     ~Relace();
     Relace(const Relace&) = delete;
     Relace& operator=(const Relace&) = delete;
 
     [[nodiscard]] HeadlessHost& Host() { return host_; }
+    /// The session that is played.
+    [[nodiscard]] Sezeni& Pamet() { return sezeni_; }
 
     [[nodiscard]] Cim Hraje() const { return cim_; }
 
@@ -130,10 +134,10 @@ private:
     void Prst(std::string_view co, Bod kde);
 
     HeadlessHost host_;
+    Sezeni sezeni_;
     Cim cim_;
     Los los_;         ///< how a finger errs
     int stisku_ = 0;  ///< presses by keys so far: they take turns at the ways there are
-    HostNaDobu naDobu_;
     std::filesystem::path koren_, data_;
     std::size_t slysenych_ = 0;
     std::ostream* zaznam_ = nullptr;

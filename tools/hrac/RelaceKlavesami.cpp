@@ -89,15 +89,15 @@ void Relace::KrizNa(Bod kam) {
         const Bod hrot = Ring().Hrot;
         return Bod{hrot.X - roh.X, hrot.Y - roh.Y};
     };
-    for (int i = 1; i <= PocetTrojic; ++i) {
-        const Trojice& t = Trojice_tab[i];
+    for (int i = 1; i <= sezeni_.PocetTrojic; ++i) {
+        const Trojice& t = sezeni_.Trojice_tab[i];
         for (const auto& [jmeno, misto] :
              {std::pair{t.Jmeno1, Bod{t.X1, t.Y1}}, std::pair{t.Jmeno2, Bod{t.X2, t.Y2}}}) {
             if (jmeno.empty() || jmeno[0] < 'A' || jmeno[0] > 'Z') continue;
             if (Daleko(misto, kam) >= Daleko(ted(), kam)) continue;
             const std::string pismeno{static_cast<char>(jmeno[0] - 'A' + 'a')};
             // Points of one letter come in turn.
-            for (int k = 0; k < PocetTrojic && ted() != misto; ++k) Klavesa(pismeno);
+            for (int k = 0; k < sezeni_.PocetTrojic && ted() != misto; ++k) Klavesa(pismeno);
         }
     }
     SipkyNa({roh.X + kam.X, roh.Y + kam.Y});

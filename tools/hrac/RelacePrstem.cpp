@@ -84,7 +84,7 @@ void Relace::TahniPrstem(Bod odkud, Bod kam) {
     const auto bod =
         dialog.ChytilBy(static_cast<float>(odkud.X), static_cast<float>(odkud.Y)).value_or(odkud);
     const Bod mirim{roh.X + bod.X, roh.Y + bod.Y};
-    Bod zacatek = PocetUtvaru == 0 ? mirim : los_.Vedle(mirim, CHYBA);
+    Bod zacatek = sezeni_.PocetUtvaru == 0 ? mirim : los_.Vedle(mirim, CHYBA);
     zacatek.X = std::clamp(zacatek.X, roh.X, roh.X + pic.Width - 1);
     zacatek.Y = std::clamp(zacatek.Y, roh.Y, roh.Y + pic.Height - 1);
     Rozmysli();

@@ -15,9 +15,9 @@ void OdehrajSerii(Relace& hra, int uloha, std::string_view jmeno, int prikladu,
     for (int i = 1; i <= prikladu; ++i) {
         Sestroj(ruka, seminko + static_cast<std::uint32_t>(i));
         ruka.Zkontroluj();
-        if (SoucetZapornychBodu != 0) {
+        if (hra.Pamet().SoucetZapornychBodu != 0) {
             throw NejdeUdelat("úloha " + std::to_string(uloha) + ", příklad " + std::to_string(i) +
-                              ": " + ChybneKroky[1].Text);
+                              ": " + hra.Pamet().ChybneKroky[1].Text);
         }
         hra.Stiskni("picPokracuj");
         hra.Cekej(i == prikladu ? PO_POKRACOVANI : NEZ_JE_ZADANI);

@@ -15,7 +15,6 @@
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
-#include "screens/VyrobaDesek.h"
 #include "store/Kodovani.h"
 #include "ukazka/Ovladace.h"
 
@@ -66,7 +65,6 @@ void OdehrajUlohu(Relace& hra, Fotograf& foto, int uloha) {
 }
 
 void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy, Relace::Cim cim) {
-    NastavVyrobceDesek(VyrobDesku);
     Relace hra(SEMINKO, cim);
     std::ofstream zaznam(kam / "udalosti.txt");
     hra.Zaznamenavej(zaznam);
@@ -101,7 +99,6 @@ int main(int pocet, char** slova) {
     }
     try {
         if (ovladace) {
-            NastavVyrobceDesek(VyrobDesku);
             Relace hra(SEMINKO, cim);
             NakresliOvladace(hra, argumenty[1]);
             return 0;

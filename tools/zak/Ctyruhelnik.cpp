@@ -92,9 +92,9 @@ std::string VelicinaRadku(const std::string& popis) {
 
 }  // namespace
 
-Bod VrcholNaPlose(std::string_view pismeno) {
+Bod VrcholNaPlose(const Tabulky& t, std::string_view pismeno) {
     for (int i = 1; i <= 3; ++i) {
-        if (Utvary[i].Jmeno1 == pismeno) return {Utvary[i].X1, Utvary[i].Y1};
+        if (t.Utvary[i].Jmeno1 == pismeno) return {t.Utvary[i].X1, t.Utvary[i].Y1};
     }
     throw NejdeUdelat("není vrchol " + std::string(pismeno));
 }
@@ -196,7 +196,7 @@ void DokonalyCtyruhelnik::Narysuj(int n) {
 
 void DokonalyCtyruhelnik::NarysujKruznici(const std::string& stred, int cm) {
     const bool prvni = Dialogem().Stav().Faze == 2;
-    const Bod b = VrcholNaPlose(stred);
+    const Bod b = VrcholNaPlose(ruka_.Pamet(), stred);
     const Bod stisk = los_.Vedle(b, CHYTNE);
     ruka_.Nastroj(4)
         .Vyber(std::string("kružnice ") + (prvni ? "k" : "l") + ", střed v bodě " + stred)
@@ -207,9 +207,9 @@ void DokonalyCtyruhelnik::NarysujKruznici(const std::string& stred, int cm) {
 void DokonalyCtyruhelnik::NarysujPaprsek(const std::string& vrchol, const std::string& rameno,
                                          int stupnu) {
     const bool prvni = Dialogem().Stav().Faze == 2;
-    const Bod v = VrcholNaPlose(vrchol);
+    const Bod v = VrcholNaPlose(ruka_.Pamet(), vrchol);
     const Bod stisk = los_.Vedle(v, CHYTNE);
-    const Bod r = VrcholNaPlose(rameno);
+    const Bod r = VrcholNaPlose(ruka_.Pamet(), rameno);
     const Bod t = Treti(vrchol, rameno);
     const bool vlevo = (r.X - v.X) * (t.Y - v.Y) - (r.Y - v.Y) * (t.X - v.X) < 0;
     ruka_.Nastroj(1)
@@ -222,8 +222,8 @@ void DokonalyCtyruhelnik::NarysujPaprsek(const std::string& vrchol, const std::s
 void DokonalyCtyruhelnik::NarysujRovnobezku(const std::string& strana) {
     const std::string od = strana.substr(0, 1);
     const std::string k = strana.substr(1);
-    const Bod p = VrcholNaPlose(od);
-    const Bod q = VrcholNaPlose(k);
+    const Bod p = VrcholNaPlose(ruka_.Pamet(), od);
+    const Bod q = VrcholNaPlose(ruka_.Pamet(), k);
     const Bod t = Treti(od, k);
     const auto kolem = [&](Bod b, double podel, double napric) {
         const double d = std::hypot(q.X - p.X, q.Y - p.Y);
@@ -248,16 +248,16 @@ void DokonalyCtyruhelnik::NarysujRovnobezku(const std::string& strana) {
 bool DokonalyCtyruhelnik::VejdeSe(Bod posun) const {
     constexpr int SIRKA = 384, VYSKA = 335, OKRAJ = 20;  // px
     if (!ruka_.Hrany().Hotova()) return false;
-    return std::ranges::all_of(std::array{1, 2, 3, 6}, [posun](int i) {
-        const int x = Utvary[i].X2 + posun.X;
-        const int y = Utvary[i].Y2 + posun.Y;
+    return std::ranges::all_of(std::array{1, 2, 3, 6}, [this, posun](int i) {
+        const int x = ruka_.Pamet().Utvary[i].X2 + posun.X;
+        const int y = ruka_.Pamet().Utvary[i].Y2 + posun.Y;
         return x >= OKRAJ && y >= OKRAJ && x < SIRKA - OKRAJ && y < VYSKA - OKRAJ;
     });
 }
 
 Bod DokonalyCtyruhelnik::Treti(const std::string& a, const std::string& b) const {
     for (const char c : Dialogem().Stav().ZvolenyTrojuhelnik) {
-        if (c != a[0] && c != b[0]) return VrcholNaPlose({&c, 1});
+        if (c != a[0] && c != b[0]) return VrcholNaPlose(ruka_.Pamet(), {&c, 1});
     }
     return {};
 }

@@ -81,6 +81,6 @@ private:
 };
 
 /// A vertex of the starting triangle as it stands on the plane; throws if there is none.
-[[nodiscard]] Bod VrcholNaPlose(std::string_view pismeno);
+[[nodiscard]] Bod VrcholNaPlose(const Tabulky& t, std::string_view pismeno);
 
 }  // namespace rysovna::hrac

@@ -37,6 +37,8 @@ public:
 
     /// The dialogue of the example in play, to look at.
     [[nodiscard]] virtual const Dialog& Hrany() const = 0;
+    /// The session of that example, to look at.
+    [[nodiscard]] const Misc& Pamet() const { return Hrany().Pamet(); }
     /// What the assignment says.
     [[nodiscard]] virtual std::vector<Zadano> Zadani() const = 0;
     /// Whether a press meets the very pixel that it aims at.

@@ -59,15 +59,15 @@ const std::map<std::string_view, std::vector<KrokZaka>> POSTUPY{
 struct V {
     double X, Y;
 };
-V Misto(std::string_view bod) {
-    const Bod b = NajdiBod(bod);
+V Misto(const Tabulky& t, std::string_view bod) {
+    const Bod b = NajdiBod(t, bod);
     if (b == BEZ_BODU) throw NejdeUdelat("není bod " + std::string(bod));
     return {static_cast<double>(b.X), static_cast<double>(b.Y)};
 }
-const Utvar& Cara(std::string_view jmeno) {
-    const int i = NajdiCaru(jmeno);
+const Utvar& Cara(const Tabulky& t, std::string_view jmeno) {
+    const int i = NajdiCaru(t, jmeno);
     if (i == 0) throw NejdeUdelat("není čára " + std::string(jmeno));
-    return Utvary[i];
+    return t.Utvary[i];
 }
 /// The direction of a line, one pixel long.
 V Smer(const Utvar& u) {
@@ -106,7 +106,7 @@ Bod NaNacrtu(const PrvekNacrtuTecny& e, float k) {
 }  // namespace
 
 std::string DokonaleTecny::Kod() const {
-    return Priklady[Dialogem().CisloPrikladu()].Druh;
+    return ruka_.Pamet().Priklady[Dialogem().CisloPrikladu()].Druh;
 }
 
 const KrokZaka& DokonaleTecny::Krok() const {
@@ -146,36 +146,37 @@ Ruka& DokonaleTecny::Nastroj(int tvar) {
 }
 
 std::vector<Bod> DokonaleTecny::Kandidati() const {
+    const Tabulky& t = ruka_.Pamet();
     const std::string kod = Kod();
     if (kod == "01" || kod == "02") {
-        const Utvar& k = Cara("k");
-        const V a = Smer(Cara("a"));
+        const Utvar& k = Cara(t, "k");
+        const V a = Smer(Cara(t, "a"));
         const V s = kod == "01" ? Napric(a) : a;
         const V stred{static_cast<double>(k.X1), static_cast<double>(k.Y1)};
         const double r = static_cast<double>(k.Polomer);
         return {Pixel(Dal(stred, s, r)), Pixel(Dal(stred, s, -r))};
     }
-    const V A = Misto("A");
+    const V A = Misto(t, "A");
     if (kod == "03" || kod == "09") {
-        const V S = Misto("S");
+        const V S = Misto(t, "S");
         const double sa = std::hypot(A.X - S.X, A.Y - S.Y);
         const double kam = std::atan2(A.Y - S.Y, A.X - S.X);
         const auto pod = [&](double r, double uhel) {
             return Pixel(Dal(S, {std::cos(kam + uhel), std::sin(kam + uhel)}, r));
         };
         if (kod == "09") {
-            const double r = static_cast<double>(Cara("k2").Polomer);
+            const double r = static_cast<double>(Cara(t, "k2").Polomer);
             return {pod(r, 0), pod(-r, 0)};
         }
-        const double r = static_cast<double>(Cara("k").Polomer);
+        const double r = static_cast<double>(Cara(t, "k").Polomer);
         return {pod(r, std::acos(r / sa)), pod(r, -std::acos(r / sa))};
     }
-    const Utvar& a = Cara("a");
+    const Utvar& a = Cara(t, "a");
     if (kod == "04") return {Prusecik(A, Napric(Smer(a)), a)};
-    if (kod == "07" || kod == "08") return {Prusecik(A, Napric(Smer(a)), Cara("b"))};
-    const V B = Misto("B");
+    if (kod == "07" || kod == "08") return {Prusecik(A, Napric(Smer(a)), Cara(t, "b"))};
+    const V B = Misto(t, "B");
     const V C{(A.X + B.X) / 2, (A.Y + B.Y) / 2};
-    const V osa = Napric(Smer(Cara("AB")));
+    const V osa = Napric(Smer(Cara(t, "AB")));
     if (kod == "05") return {Prusecik(C, osa, a)};
     return {Pixel(Prusecik(C, osa, B, Napric(Smer(a))))};
 }
@@ -203,18 +204,18 @@ void DokonaleTecny::Proved(const KrokZaka& k, bool druhy) {
         ruka_.Klikni(los_.Vedle(kam.size() == 2 && druhy != Obracene ? kam[1] : kam[0], 3));
         return;
     }
-    const Bod od = NajdiBod(k.Od);
+    const Bod od = NajdiBod(ruka_.Pamet(), k.Od);
     if (k.Tvar == STRED) {
-        const Bod b = NajdiBod(k.K);
+        const Bod b = NajdiBod(ruka_.Pamet(), k.K);
         ruka_.Klikni(los_.Vedle(Pixel({(od.X + b.X) / 2.0, (od.Y + b.Y) / 2.0}), 4));
     } else if (k.Tvar == KRUH) {
-        const Bod a = NajdiBod("A");
+        const Bod a = NajdiBod(ruka_.Pamet(), "A");
         const int r = Zaokrouhli(std::hypot(od.X - a.X, od.Y - a.Y));
         const Bod stisk = Nahodne();
         ruka_.Tahni(stisk, NaKruznici(los_, od, r + los_.Mezi(-2, 2)));
     } else if (k.Tvar == PRIMKA_BODY) {
         const Bod stisk = los_.Vedle(od, CHYTNE);
-        ruka_.Tahni(stisk, los_.Vedle(NajdiBod(k.K), CHYTNE));
+        ruka_.Tahni(stisk, los_.Vedle(NajdiBod(ruka_.Pamet(), k.K), CHYTNE));
     } else {
         NarysujPrimku(k);
     }
@@ -222,7 +223,7 @@ void DokonaleTecny::Proved(const KrokZaka& k, bool druhy) {
 
 /// A perpendicular or parallel: half of them free, where a free one is right.
 void DokonaleTecny::NarysujPrimku(const KrokZaka& k) {
-    Bod odkud = los_.Vedle(NajdiBod(k.Od), CHYTNE);
+    Bod odkud = los_.Vedle(NajdiBod(ruka_.Pamet(), k.Od), CHYTNE);
     Bod kam = Nahodne();
     // Beside a point a pixel may decide.
     if (!k.JenZBodu && los_.Ano() && ruka_.Presna()) (void)NajdiVolnyTah(k, odkud, kam);
@@ -232,17 +233,17 @@ void DokonaleTecny::NarysujPrimku(const KrokZaka& k) {
 /// A drag that catches no point and yet makes a line past its point by a few pixels. A
 /// perpendicular stands where the base has the press's X, a parallel goes to the pointer.
 bool DokonaleTecny::NajdiVolnyTah(const KrokZaka& k, Bod& odkud, Bod& kam) {
-    const V bod = Misto(k.Od);
+    const V bod = Misto(ruka_.Pamet(), k.Od);
     const std::string_view radek = k.Radek;
-    const int cislo = NajdiCaru(radek.substr(radek.rfind(' ') + 1));
-    const Utvar& zakladna = Utvary[cislo];
+    const int cislo = NajdiCaru(ruka_.Pamet(), radek.substr(radek.rfind(' ') + 1));
+    const Utvar& zakladna = ruka_.Pamet().Utvary[cislo];
     const bool kolmo = k.Tvar == KOLMO;
-    const auto chyti = [cislo, kolmo](Bod b) {
+    const auto chyti = [this, cislo, kolmo](Bod b) {
         const auto blizko = [b](int x, int y) {
             return std::abs(b.X - x) <= CHYTNE && std::abs(b.Y - y) <= CHYTNE;
         };
-        for (int i = 1; i <= PocetTrojic; ++i) {
-            const Trojice& t = Trojice_tab[i];
+        for (int i = 1; i <= ruka_.Pamet().PocetTrojic; ++i) {
+            const Trojice& t = ruka_.Pamet().Trojice_tab[i];
             if (i == cislo && !kolmo) continue;  // no parallel from the points of its own base
             if (blizko(t.X1, t.Y1) || (!t.Jmeno2.empty() && blizko(t.X2, t.Y2))) return true;
         }

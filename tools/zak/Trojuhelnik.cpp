@@ -31,8 +31,8 @@ bool JeTeznice(std::string_view velicina) {
 }
 
 /// The line of a circle list: which circle it becomes, and about what.
-std::string RadekKruznice(const std::string& stred) {
-    return std::string("kružnice ") + (PocetUtvaru == 1 ? "k" : "l") + ", střed " + stred;
+std::string RadekKruznice(const Tabulky& t, const std::string& stred) {
+    return std::string("kružnice ") + (t.PocetUtvaru == 1 ? "k" : "l") + ", střed " + stred;
 }
 
 }  // namespace
@@ -82,7 +82,7 @@ Bod PodUhlem(Bod rameno1, Bod rameno2, int stupnu, int daleko) {
 }
 
 Bod DokonalyTrojuhelnik::Stred() const {
-    return {Utvary[1].X3, Utvary[1].Y3};
+    return {ruka_.Pamet().Utvary[1].X3, ruka_.Pamet().Utvary[1].Y3};
 }
 
 /// The side whose height or median is given, else any given one.
@@ -131,7 +131,7 @@ void DokonalyTrojuhelnik::UmistiPrvni(int px) {
 
 void DokonalyTrojuhelnik::NarysujPaprsek(std::string_view uhel) {
     const std::string vrchol(VrcholUhlu(uhel));
-    const bool prvni = PocetUtvaru == 1;
+    const bool prvni = ruka_.Pamet().PocetUtvaru == 1;
     const int stupnu = ruka_.Hodnota(uhel);
     const bool zacatek = vrchol == strana_.Od;
     const Bod start = zacatek ? strana_.OdBod : strana_.DoBod;
@@ -160,7 +160,7 @@ void DokonalyTrojuhelnik::NarysujKruznici(std::string_view velicina) {
     const int cm = ruka_.Hodnota(velicina);
     // A triangle by a median may be nearly flat: there two pixels decide whether it closes.
     const int r = cm * PIXELU_NA_CM + (nahoru_ ? 0 : los_.Mezi(-2, 2));
-    ruka_.Nastroj(4).Vyber(RadekKruznice(kde)).Napis(cm);
+    ruka_.Nastroj(4).Vyber(RadekKruznice(ruka_.Pamet(), kde)).Napis(cm);
     const Bod stisk = los_.Vedle(s, CHYTNE);
     ruka_.Tahni(stisk, NaKruznici(los_, s, r));
 }

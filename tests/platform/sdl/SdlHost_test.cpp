@@ -113,7 +113,6 @@ protected:
     }
 
     SdlHost Host_{1};
-    HostNaDobu NaDobu_{Host_};
 };
 
 /// The move is taken alone, the press and the release come after it in one batch, and then nothing
@@ -152,15 +151,15 @@ protected:
             << "[RYSOVNA1]\r\nCD=" << staging << "/assets\r\nHD=" << staging << "/data\r\n";
         for (const char* slozka : {"XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_DATA_HOME"})
             setenv(slozka, Nastaveni_.c_str(), 1);
-        VychoziRelace();
     }
     ~Titul() override { fs::remove_all(Nastaveni_); }
 
+    Sezeni Hra_{Host_, {}};
     fs::path Nastaveni_ = fs::temp_directory_path() / ("rysovna_" + std::to_string(getpid()));
 };
 
 TEST_P(Titul, SkonciPoKratkemKliku) {
-    Host_.Okna().Nacti<SelectForm>();
+    Host_.Okna().Nacti<SelectForm>(Hra_);
     ASSERT_EQ(Host_.Okna().Vpredu()->Jmeno(), "IntroForm");
     const auto zacatek = Hodiny::now();
     // From another thread, while the program waits.
