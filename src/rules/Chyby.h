@@ -2,13 +2,14 @@
 
 #include <string_view>
 
+#include "rules/KatalogChyb.h"
 #include "rules/Misc.h"
 
 namespace rysovna {
 
-/// Charges a wrong step: the points to SoucetZapornychBodu and a row of ChybneKroky, the sentence
-/// with text (the points in words) behind it. A number that has no sentence charges nothing; one
-/// that has two charges twice.
-void PridejChybu(Misc& misc, int cislo, std::string_view text, int body);
+/// Charges a wrong step: its points to SoucetZapornychBodu and a row of ChybneKroky, the sentence
+/// with the points in words behind it. slovy: the board's own words between them, of a step that is
+/// worded with such. A number that has no sentence charges nothing; one that has two charges twice.
+void PridejChybu(Misc& misc, ChybaKroku chyba, std::string_view slovy = {});
 
 }  // namespace rysovna

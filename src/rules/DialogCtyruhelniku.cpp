@@ -28,7 +28,7 @@ constexpr RadekVety RADKY_VET[] = {{"podle věty SSS", "sss"}, {"podle věty SUS
 constexpr std::string_view TROJUHELNIK = "trojuhelnik";
 constexpr std::string_view PODLE_VETY = "podlevety";
 
-constexpr int CHYBA_TROJUHELNIK = 133, CHYBA_VETA = 101;
+constexpr ChybaKroku CHYBA_TROJUHELNIK = 133, CHYBA_VETA = 101;
 
 constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhelník!";
 
@@ -42,7 +42,7 @@ DialogCtyruhelniku::DialogCtyruhelniku(Misc& misc, Platna platna,
                                        const PravidlaCtyruhelniku& pravidla)
     : DialogKroku(
           misc, platna,
-          {pravidla.Uvod, pravidla.NacrtFigury, JMENA, CENY_POCATKU, {1, 2}, TvarBodu::PodleCisla}),
+          {pravidla.Uvod, pravidla.NacrtFigury, JMENA, CENY_POCATKU, {1, 2}, CHYBA_NEDOKONCENA}),
       pravidla_(pravidla) {}
 
 // ---- The life of an example ------------------------------------------------------------------
@@ -120,7 +120,7 @@ void DialogCtyruhelniku::ZvolTrojuhelnik(const std::string& trojuhelnik) {
 void DialogCtyruhelniku::ZvolVetu(const std::string& veta) {
     stav_.ZvolenaVeta = veta;
     stav_.Vstupy = {};
-    if (veta != Hrany().Text1) ChybnaVolba(CHYBA_VETA, veta + "." + std::string(TRI_BODY));
+    if (veta != Hrany().Text1) ChybnaVolba(CHYBA_VETA, veta + ".");
 }
 
 const VetaTrojuhelniku* DialogCtyruhelniku::ZvolenaVetaRadek() const {
@@ -146,9 +146,9 @@ void DialogCtyruhelniku::PotvrdHodnoty() {
         for (std::size_t i = 0; i < stav_.Vstupy.size(); ++i) {
             const VstupVety& v = veta->Vstupy[i];
             const std::optional<int> hodnota = Hodnota(v.Velicina);
-            if (!hodnota || v.Chyba == 0) continue;
+            if (!hodnota || !v.Chyba) continue;
             const double ma = v.Pulka ? *hodnota / 2.0 : *hodnota;
-            if (Cislo(stav_.Vstupy[i]) != ma) PridejChybu(misc_, v.Chyba, JEDEN_BOD, 1);
+            if (Cislo(stav_.Vstupy[i]) != ma) PridejChybu(misc_, v.Chyba);
         }
     }
     NakresliTrojuhelnik(*veta);

@@ -19,7 +19,7 @@ constexpr std::string_view PAPRSKY[] = {"AXAD", "AXAB", "BXBC", "BXBA",
 /// A circle about a vertex.
 struct RadekStredu {
     std::string_view Prvek, Stred;
-    int Chyba;  ///< wrong step when the data expect no such circle
+    ChybaKroku Chyba;  ///< wrong step when the data expect no such circle
 };
 constexpr RadekStredu KRUZNICE_RADKY[] = {
     {"KA", "A", 32}, {"KB", "B", 33}, {"KC", "C", 34}, {"KD", "D", 46}};
@@ -33,14 +33,11 @@ constexpr VyskaStrany VYSKY[] = {{"AB", "vc"}, {"BC", "va"}, {"CD", "vb"}, {"DA"
 /// What a read-out costs that is not the expected value.
 struct CenaOdectu {
     std::string_view Druh;
-    int Chyba;
+    ChybaKroku Chyba;
 };
 constexpr CenaOdectu CENY_ODECTU[] = {{POLOPRIMKA, 30}, {KRUZNICE, 126}};
 
-constexpr int CHYBA_PAPRSEK_PRVEK = 49;
-
-// These boards' own spelling for a perpendicular and a parallel.
-constexpr std::string_view TRI_BODY_PRIMKY = " - 3 body";
+constexpr ChybaKroku CHYBA_PAPRSEK_PRVEK = 49;
 
 constexpr int STRAN_TROJUHELNIKU = 3;
 
@@ -160,8 +157,7 @@ void DialogCtyruhelnikuVrchol::ZvolPaprsek(const std::string& kod) {
         ChybnaVolba(CHYBA_PAPRSEK_NECEKANY);
     } else if (!JeOcekavany(kod)) {
         ChybnaVolba(CHYBA_PAPRSEK_PRVEK, vrchol + Jmeno() + " vůči úsečce " + strana +
-                                             " - nesprávný postup konstrukce." +
-                                             std::string(TRI_BODY));
+                                             " - nesprávný postup konstrukce.");
     }
 }
 
@@ -179,7 +175,7 @@ void DialogCtyruhelnikuVrchol::ZvolKruznici(const std::string& kod) {
 void DialogCtyruhelnikuVrchol::ZvolKolmici(const std::string& jmena) {
     Upravit().ZvolenyPrvek.clear();
     ZacniPrimku(jmena, jmena);
-    ChybnaVolba(CHYBA_KOLMICE, TRI_BODY_PRIMKY);
+    ChybnaVolba(CHYBA_KOLMICE.Jinde());
 }
 
 void DialogCtyruhelnikuVrchol::ZvolRovnobezku(const std::string& jmena) {
@@ -188,7 +184,7 @@ void DialogCtyruhelnikuVrchol::ZvolRovnobezku(const std::string& jmena) {
     if (vrchol_.Rovnobezky) {
         ObsadKrok(ROVNOBEZKA);
     } else {
-        ChybnaVolba(CHYBA_ROVNOBEZKA, TRI_BODY_PRIMKY);
+        ChybnaVolba(CHYBA_ROVNOBEZKA.Jinde());
     }
 }
 
@@ -235,7 +231,7 @@ void DialogCtyruhelnikuVrchol::PosudOdecet(double odecet) {
         const Krok& krok = Hrany().Kroky[n];
         if (krok.Utvar != druh || krok.UtvarB != Stav().ZvolenyPrvek) continue;
         if (odecet != Hodnoty()[static_cast<std::size_t>(n) + 2]) {
-            PridejChybu(misc_, cena->Chyba, JEDEN_BOD, 1);
+            PridejChybu(misc_, cena->Chyba);
         }
         break;
     }

@@ -198,8 +198,8 @@ void DialogKroku::ZacniPrimku(const std::string& jmena, const std::string& nazev
     s.txtVstup = {};
 }
 
-void DialogKroku::ChybnaVolba(int cislo, std::string_view text) {
-    PridejChybu(misc_, cislo, text, 3);
+void DialogKroku::ChybnaVolba(ChybaKroku chyba, std::string_view slovy) {
+    PridejChybu(misc_, chyba, slovy);
     Upravit().KrokChybny = true;
 }
 
@@ -259,7 +259,7 @@ void DialogKroku::Zkontroluj() {
         if (JeZadana(prvky[i].Velicina)) ocekavane |= 1U << i;
     }
     UctujZnacky(misc_, s.Znacky == ocekavane);
-    if (!s.HotovaKonstrukce) UctujNedokoncenou(misc_, pravidlaKroku_.Zbytek);
+    if (!s.HotovaKonstrukce) PridejChybu(misc_, pravidlaKroku_.Nedokoncena);
 }
 
 // ---- The panel -------------------------------------------------------------------------------

@@ -17,8 +17,8 @@
 namespace rysovna {
 
 /// Wrong steps that several boards charge: an object that no expected step asks for.
-constexpr int CHYBA_PAPRSEK_NECEKANY = 18, CHYBA_KOLMICE = 19, CHYBA_ROVNOBEZKA = 20,
-              CHYBA_KRUZNICE_NECEKANA = 21;
+constexpr ChybaKroku CHYBA_PAPRSEK_NECEKANY = 18, CHYBA_KOLMICE = 19, CHYBA_ROVNOBEZKA = 20,
+                     CHYBA_KRUZNICE_NECEKANA = 21;
 
 /// The names of sides' midpoints, and so of the circles about them, begin with this letter.
 constexpr char STRED_STRANY = 'S';
@@ -32,7 +32,7 @@ struct JmenaUtvaru {
 /// What a release costs when the object does not start at its vertex or centre.
 struct CenaPocatku {
     std::string_view Druh;
-    int Prvni, Druhy;
+    ChybaKroku Prvni, Druhy;
 };
 
 /// What the boards of one figure have of their own in every step.
@@ -42,7 +42,7 @@ struct PravidlaKroku {
     std::span<const JmenaUtvaru> Jmena;
     std::span<const CenaPocatku> CenyPocatku;
     std::array<int, 2> Ocekavane;  ///< numbers of the data's steps with the two expected objects
-    TvarBodu Zbytek;               ///< wording of an unfinished construction's charge
+    ChybaKroku Nedokoncena;        ///< what an unfinished construction costs
 };
 
 /// What changes from step to step besides the construction, as far as the boards of triangles and
@@ -169,8 +169,8 @@ protected:
     void ZacniPrimku(const std::string& jmena, const std::string& nazev);
     /// Opens the next row of the construction for a drag.
     void ZacniUtvar(std::string jmeno1, std::string jmeno2);
-    /// Charges a choice: 3 points, and the step is wrong from now on.
-    void ChybnaVolba(int cislo, std::string_view text = TRI_BODY);
+    /// Charges a choice; the step is wrong from now on.
+    void ChybnaVolba(ChybaKroku chyba, std::string_view slovy = {});
     /// Takes the first expected step of this kind that was not taken yet; false if there is none.
     bool ObsadKrok(std::string_view druh);
     /// What the pupil chose in this phase, for the check.

@@ -128,7 +128,7 @@ void DialogKroku::PusteniPlochy(float x, float y) {
         PosudOdecet(CisloZOdectu(Tah(x, y).Text));
         for (const CenaPocatku& c : pravidlaKroku_.CenyPocatku) {
             if (c.Druh != Stav().ZvolenyUtvar || ZacinaSpravne()) continue;
-            PridejChybu(misc_, Stav().Faze == 2 ? c.Prvni : c.Druhy, JEDEN_BOD, 1);
+            PridejChybu(misc_, Stav().Faze == 2 ? c.Prvni : c.Druhy);
         }
     }
     NakresliUtvar(NaPixely(x, y));

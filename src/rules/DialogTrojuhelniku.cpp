@@ -18,7 +18,7 @@ constexpr JmenaUtvaru JMENA[] = {
 
 constexpr CenaPocatku CENY_POCATKU[] = {{POLOPRIMKA, 31, 31}, {KRUZNICE, 22, 45}};
 
-constexpr int CHYBA_PAPRSEK_JINDE = 23;
+constexpr ChybaKroku CHYBA_PAPRSEK_JINDE = 23;
 
 constexpr int SIRKA_HOTOVYCH_STRAN = 2;  // px
 
@@ -32,7 +32,7 @@ DialogTrojuhelniku::DialogTrojuhelniku(Misc& misc, Platna platna,
                    JMENA,
                    CENY_POCATKU,
                    {2, 3},
-                   TvarBodu::VzdyBod}),
+                   CHYBA_NEDOKONCENY_TROJUHELNIK}),
       pravidla_(pravidla) {
     // The labels' captions as designed: a caption that no rule sets stays as it is.
     for (const std::string_view navrh : {"a", "b", "c"}) {
@@ -74,14 +74,14 @@ void DialogTrojuhelniku::PosudStisk(const Zachyt& zachyt) {
     const std::string& druh = stav_.ZvolenyUtvar;
     const CenaVeliciny* cena = stav_.KrokChybny ? nullptr : Cena();
     if (cena != nullptr && !HodnotaSedi(Cislo(stav_.txtVstup.Text))) {
-        PridejChybu(misc_, cena->Napsana, JEDEN_BOD, 1);
+        PridejChybu(misc_, cena->Napsana);
     } else if (druh == POLOPRIMKA && !stav_.KrokChybny && zachyt.Je &&
                !BodMaJmeno(misc_, zachyt.Misto, stav_.ZvolenyPrvek.substr(0, 1))) {
-        PridejChybu(misc_, CHYBA_PAPRSEK_JINDE, JEDEN_BOD, 1);
+        PridejChybu(misc_, CHYBA_PAPRSEK_JINDE);
     }
-    if (druh == KOLMICE) PridejChybu(misc_, CHYBA_KOLMICE, TRI_BODY, 3);
-    if (druh == ROVNOBEZKA && pravidla_.ChybaRovnobezky != 0) {
-        PridejChybu(misc_, pravidla_.ChybaRovnobezky, TRI_BODY, 3);
+    if (druh == KOLMICE) PridejChybu(misc_, CHYBA_KOLMICE);
+    if (druh == ROVNOBEZKA && pravidla_.ChybaRovnobezky) {
+        PridejChybu(misc_, pravidla_.ChybaRovnobezky);
     }
 }
 
@@ -96,7 +96,7 @@ std::string DialogTrojuhelniku::OdectiPaprsek(Bod konec) const {
 
 void DialogTrojuhelniku::PosudOdecet(double odecet) {
     const CenaVeliciny* cena = Cena();
-    if (cena != nullptr && !HodnotaSedi(odecet)) PridejChybu(misc_, cena->Nakreslena, JEDEN_BOD, 1);
+    if (cena != nullptr && !HodnotaSedi(odecet)) PridejChybu(misc_, cena->Nakreslena);
 }
 
 // ---- Closing and back ------------------------------------------------------------------------

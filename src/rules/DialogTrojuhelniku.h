@@ -18,13 +18,13 @@ struct RadekKruznice {
     std::string_view Stred;  ///< name of the centre's point
     std::string_view Text;   ///< the end of the list line, behind "kružnice k, "
     std::array<Podle, 3> PodleStrany;
-    int ChybaVolby;  ///< wrong step when the quantity is not given
+    ChybaKroku ChybaVolby;  ///< wrong step when the quantity is not given
 };
 
 /// What a value costs when it is wrong: typed, then drawn. A tool with no row has no value.
 struct CenaVeliciny {
     std::string_view Nastroj, Velicina;
-    int Napsana, Nakreslena;
+    ChybaKroku Napsana, Nakreslena;
 };
 
 /// What one triangle board has of its own. All rows; the interpreter is DialogTrojuhelniku.
@@ -32,9 +32,9 @@ struct PravidlaTrojuhelniku {
     std::span<const RadekKruznice> Kruznice;
     std::span<const CenaVeliciny> Ceny;
     std::span<const PrvekNacrtu> Nacrt;
-    /// Wrong step of each press with a parallel in hand. 0: a parallel stands for the height upon
-    /// its base, and the choice of the base is judged.
-    int ChybaRovnobezky;
+    /// Wrong step of each press with a parallel in hand. None: a parallel stands for the height
+    /// upon its base, and the choice of the base is judged.
+    ChybaKroku ChybaRovnobezky;
 };
 
 /// The dialogue's own record. Faze: 1 first side, 2 first object, 3 second object, 4 closed.

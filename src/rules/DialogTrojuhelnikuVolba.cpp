@@ -16,14 +16,14 @@ constexpr int UZKY = 105, SIROKY = 200;
 /// it is not the one to start with.
 struct RadekStrany {
     std::string_view Text, Prvek;
-    int ChybaVolby;
+    ChybaKroku ChybaVolby;
 };
 constexpr RadekStrany STRANY[] = {{"AB", "c", 3}, {"AC", "b", 2}, {"BC", "a", 1}};
 
 /// The angle at a vertex; wrong steps when it is not given.
 struct RadekPaprsku {
     std::string_view Vrchol, Uhel;
-    int ChybaFaze2, ChybaFaze3;
+    ChybaKroku ChybaFaze2, ChybaFaze3;
 };
 constexpr RadekPaprsku PAPRSKY[] = {
     {"A", "alfa", 38, 39}, {"B", "beta", 40, 41}, {"C", "gama", 42, 43}};
@@ -31,7 +31,7 @@ constexpr RadekPaprsku PAPRSKY[] = {
 /// The height that a parallel to a side stands for; wrong step when it is not given.
 struct VyskaStrany {
     std::string_view Strana, Vyska;
-    int ChybaVolby;
+    ChybaKroku ChybaVolby;
 };
 constexpr VyskaStrany VYSKY[] = {{"AB", "vc", 26}, {"AC", "vb", 25}, {"BC", "va", 24}};
 
@@ -158,14 +158,14 @@ void DialogTrojuhelniku::ZvolPaprsek(std::size_t i) {
 void DialogTrojuhelniku::ZvolRovnobezku(std::size_t i) {
     stav_.ZvolenyNazev = stav_.Combo.Radky[i].Tag;
     ZacniPrimku(stav_.ZvolenyNazev, stav_.ZvolenyNazev);
-    int chyba = 0;  // of a parallel to what is no side: none, and no value either
+    ChybaKroku chyba;  // of a parallel to what is no side: none, and no value either
     for (const VyskaStrany& v : VYSKY) {
         if (v.Strana != stav_.ZvolenyNazev) continue;
         stav_.Velicina = v.Vyska;
         chyba = v.ChybaVolby;
     }
     stav_.ZvolenyPrvek = stav_.Velicina;
-    const bool soudiSe = pravidla_.ChybaRovnobezky == 0 && chyba != 0;
+    const bool soudiSe = !pravidla_.ChybaRovnobezky && chyba;
     if (soudiSe && !JeZadana(stav_.Velicina)) ChybnaVolba(chyba);
     Zapis(ROVNOBEZKA, stav_.Velicina);
 }

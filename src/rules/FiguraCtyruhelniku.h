@@ -7,6 +7,7 @@
 
 #include "base/Bod.h"
 #include "base/Plane.h"
+#include "rules/KatalogChyb.h"
 #include "rules/Zadani.h"
 
 namespace rysovna {
@@ -15,7 +16,7 @@ namespace rysovna {
 struct VstupVety {
     std::string_view Velicina;  ///< the quantity whose value it is
     std::string_view Popis;     ///< its name in the prompt
-    int Chyba;                  ///< wrong step when it differs; 0: none
+    ChybaKroku Chyba;           ///< wrong step when it differs
     bool Pulka = false;         ///< half of the quantity is typed
 };
 

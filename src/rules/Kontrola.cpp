@@ -8,33 +8,13 @@
 
 namespace rysovna {
 
-namespace {
-
-constexpr int CHYBA_NEDOKONCENA = 300;
-constexpr int CHYBA_PRVKY = 301;
-
-constexpr std::string_view TEXTY_PRVKU[] = {JEDEN_BOD, DVA_BODY, TRI_BODY};
-
-std::string_view SlovoBodu(int n, TvarBodu tvar) {
-    if (tvar == TvarBodu::VzdyBod || n == 1) return " bod";
-    return n >= 2 && n <= 4 ? " body" : " bodů";
-}
-
-}  // namespace
-
 void UctujChybnePrvky(Misc& misc, int pocet) {
-    if (pocet >= 1 && pocet <= 3) PridejChybu(misc, CHYBA_PRVKY, TEXTY_PRVKU[pocet - 1], pocet);
+    const auto i = static_cast<std::size_t>(pocet - 1);
+    if (i < katalog::CHYBNE_PRVKY.size()) PridejChybu(misc, katalog::CHYBNE_PRVKY[i]);
 }
 
 void UctujZnacky(Misc& misc, bool spravne) {
-    if (!spravne && misc.SoucetZapornychBodu != 0) PridejChybu(misc, CHYBA_ZNACKY, JEDEN_BOD, 1);
-}
-
-void UctujNedokoncenou(Misc& misc, TvarBodu tvar) {
-    const int zbyva = BODU_ZA_PRIKLAD - misc.SoucetZapornychBodu;
-    std::string text;
-    if (zbyva > 0) text = "    -" + TextCisla(zbyva) + std::string(SlovoBodu(zbyva, tvar));
-    PridejChybu(misc, CHYBA_NEDOKONCENA, text, BODU_ZA_PRIKLAD);
+    if (!spravne && misc.SoucetZapornychBodu != 0) PridejChybu(misc, CHYBA_ZNACKY);
 }
 
 Verdikt Vyuctuj(Misc& misc, bool hotova) {

@@ -1,36 +1,23 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
+#include "rules/KatalogChyb.h"
 #include "rules/Misc.h"
 
 namespace rysovna {
 
-// The points texts that stand behind the sentence of a wrong step.
-constexpr std::string_view JEDEN_BOD = "  -1 bod";
-constexpr std::string_view DVA_BODY = "  -2 body";
-constexpr std::string_view TRI_BODY = "  -3 body";
+/// Marks of the sketch that are not those that are given.
+constexpr ChybaKroku CHYBA_ZNACKY = 16;
+/// An unfinished construction, whatever was lost before.
+constexpr ChybaKroku CHYBA_NEDOKONCENY_TROJUHELNIK = 300;
+constexpr ChybaKroku CHYBA_NEDOKONCENA = CHYBA_NEDOKONCENY_TROJUHELNIK.Jinde();
 
-/// An example is worth this many points.
-constexpr int BODU_ZA_PRIKLAD = 10;
-
-/// The wrong step for marks of the sketch that are not those that are given.
-constexpr int CHYBA_ZNACKY = 16;
-
-/// How the remainder of an unfinished construction's charge is worded.
-enum class TvarBodu {
-    VzdyBod,    ///< always "bod"
-    PodleCisla  ///< "bod", "body", "bodů"
-};
-
-/// Charges the count of wrong elements: 1, 2 or 3 points for as many; nothing for none.
+/// Charges the count of wrong elements, up to three; nothing for none.
 void UctujChybnePrvky(Misc& misc, int pocet);
-/// Charges wrong marks one point; nothing when they are right, and nothing on an example that is
+/// Charges wrong marks; nothing when they are right, and nothing on an example that is
 /// clean until now.
 void UctujZnacky(Misc& misc, bool spravne);
-/// Charges an unfinished construction 10 points; the text tells what was still to be lost.
-void UctujNedokoncenou(Misc& misc, TvarBodu tvar);
 
 /// How an example ended.
 enum class Verdikt { Bezchybne, SChybami };

@@ -21,7 +21,7 @@ constexpr VetaTrojuhelniku SeStranou(std::string_view t, VstupVety strana, Vstup
 }
 constexpr VstupVety AS{"e", "AS", 127, true}, BS{"f", "BS", 128, true}, CS{"e", "CS", 127, true},
     DS{"f", "DS", 128, true};
-constexpr VstupVety EPSI{"epsi", "epsi", 0}, OMEG{"omeg", "omeg", 0};
+constexpr VstupVety EPSI{"epsi", "epsi", {}}, OMEG{"omeg", "omeg", {}};
 constexpr auto VETY = Spoj(VETY_CELYCH, std::array<VetaTrojuhelniku, 8>{
                                             SeStranou("ABS", {"a", "a", 113}, BS, AS),
                                             SeStranou("BCS", {"b", "b", 114}, CS, BS),
@@ -68,7 +68,7 @@ constexpr Losovani LOSOVANI[] = {{"01", "24", {DELKA, DELKA}, false, false},
 
 constexpr std::string_view STRED_SOUMERNOSTI = "stredsoumernosti", OBRAZ_BODU = "obrazbodu";
 constexpr std::string_view STRED = "S";
-constexpr int CHYBA_STRED = 112, CHYBA_VZOR = 137;
+constexpr ChybaKroku CHYBA_STRED = 112, CHYBA_VZOR = 137;
 constexpr int KROKU = 6;
 
 constexpr int NASTROJ_STRED = 1;

@@ -109,11 +109,11 @@ void TecnyDialog::Zkontroluj() {
     stav_.Skontrolovano = true;
     stav_.Tazeni = false;
     ZavriSeznam();
-    if (!stav_.HotovaKonstrukce) UctujNedokoncenou(misc_, TvarBodu::PodleCisla);
+    if (!stav_.HotovaKonstrukce) PridejChybu(misc_, CHYBA_NEDOKONCENA);
     if (c == nullptr) return;
     const bool oznaceno = (stav_.Znacky & c->PovinneZnacky) == c->PovinneZnacky;
     if (!oznaceno && misc_.SoucetZapornychBodu < BODU_ZA_PRIKLAD) {
-        PridejChybu(misc_, CHYBA_ZNACKY, JEDEN_BOD, 1);
+        PridejChybu(misc_, CHYBA_ZNACKY);
     }
 }
 
@@ -192,7 +192,7 @@ void TecnyDialog::StiskNastroje(int i) {
 
 /// A wrong button: charged at once; the object can be drawn all the same and costs no more.
 void TecnyDialog::Chybne() {
-    PridejChybu(misc_, CHYBA_TLACITKO, TRI_BODY, 3);
+    PridejChybu(misc_, CHYBA_TLACITKO);
     stav_.KrokChybny = true;
 }
 

@@ -139,7 +139,7 @@ private:
     [[nodiscard]] std::optional<Bod> PosudPrimku(const KrokTecny& krok, Dvojice& body);
     void PosudKonce(const KrokTecny& krok, const Dvojice& body);
     void PosudPolomer(const KrokTecny& krok, Bod stred, int r);
-    void Uctuj(int cislo);
+    void Uctuj(ChybaKroku chyba);
     [[nodiscard]] int NovyRadek(std::string_view jmeno1, std::string_view jmeno2);
     void NakresliBod(Bod misto, const std::string& jmeno, std::string_view naPrimce);
     void SpocitejPruseciky(const KrokTecny& krok);

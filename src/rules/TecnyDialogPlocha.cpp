@@ -130,7 +130,7 @@ void TecnyDialog::KlikniStred(float x, float y) {
 void TecnyDialog::KlikniPrusecik(float x, float y) {
     const KrokTecny* krok = KrokFaze();
     if (krok == nullptr) return;
-    if (ObeHotove()) return PridejChybu(misc_, CHYBA_OBA_HOTOVE, TRI_BODY, 3);
+    if (ObeHotove()) return PridejChybu(misc_, CHYBA_OBA_HOTOVE);
     const DvaPruseciky& p = stav_.Pary;
     int volny = -1;
     for (int i = 1; i >= 0; --i) {
@@ -268,9 +268,9 @@ void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
 
 // ---- Judgement -------------------------------------------------------------------------------
 
-/// Charges one point, unless the step is known to be wrong already.
-void TecnyDialog::Uctuj(int cislo) {
-    if (!stav_.KrokChybny && cislo != 0) PridejChybu(misc_, cislo, JEDEN_BOD, 1);
+/// Charges it, unless the step is known to be wrong already.
+void TecnyDialog::Uctuj(ChybaKroku chyba) {
+    if (!stav_.KrokChybny && chyba) PridejChybu(misc_, chyba);
 }
 
 /// Holds the line against the nearest of its points that is still free; under the 15-pixel rule it

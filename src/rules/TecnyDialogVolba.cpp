@@ -33,7 +33,7 @@ void TecnyDialog::VyberRadku(int i) {
     if (stav_.Tvar == Nastroj::Osa) return ZvolOsu();
     stav_.CekaNaKresleni = true;
     if (stav_.Spravny && !krok->SpravnaVolba.empty() && radek.Tag != krok->SpravnaVolba) {
-        PridejChybu(misc_, krok->ChybaVolby, TRI_BODY, 3);
+        PridejChybu(misc_, krok->ChybaVolby);
         stav_.KrokChybny = true;
     }
     if (stav_.Tvar == Nastroj::Kruznice) return ZvolKruznici(*krok, radek.Tag);

@@ -30,7 +30,7 @@ constexpr std::array<Nastroj, 4> S_OSOU{Osa, Stred, Rovnobezka, Kruznice};
 constexpr std::array<Nastroj, 4> S_PRIMKOU{Poloprimka, Kolmice, Rovnobezka, Primka};
 constexpr std::array<Nastroj, 4> OZNAC{Prusecik, Zadny, Zadny, Zadny};
 
-constexpr KrokTecny Oznac(std::string_view jmeno, std::string_view vyzva, int chyba,
+constexpr KrokTecny Oznac(std::string_view jmeno, std::string_view vyzva, ChybaKroku chyba,
                           std::string_view naPrimce) {
     return {.Tvary = OZNAC,
             .Spravny = Prusecik,
@@ -253,7 +253,7 @@ constexpr KrokTecny KROKY_06[] = {
      .Pocita = Prunik::Primky,
      .Ceho = {"b", "c"},
      .Zakladny = {"AB", "a", "b"}},
-    Oznac("D", PRUSECIK_PRIMEK, 219, "b"),
+    Oznac("D", PRUSECIK_PRIMEK, katalog::MIMO_PRUSECIK, "b"),
     // A midpoint here is a second point of the name D.
     {.Tvary = SE_STREDEM,
      .Spravny = Kruznice,
@@ -329,7 +329,7 @@ constexpr KrokTecny KROKY_08[] = {
      .Ceho = {"c", "b"},
      .ChybaPruniku = 209,
      .Zakladny = {"a", "b"}},
-    Oznac("B", PRUSECIK_KOLMICE, 219, "a"),
+    Oznac("B", PRUSECIK_KOLMICE, katalog::MIMO_PRUSECIK, "a"),
     {.Tvary = SE_STREDEM,
      .Spravny = Kruznice,
      .Chybne = {Stred},

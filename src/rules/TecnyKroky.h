@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+#include "rules/KatalogChyb.h"
+
 namespace rysovna {
 
 // The nine exercises of the tangent board as rows. The interpreter is TecnyDialog.
@@ -52,19 +54,19 @@ struct KrokTecny {
 
     std::array<Volba, 3> Volby{};     ///< list of the right tool
     std::string_view SpravnaVolba{};  ///< empty: any row is right
-    int ChybaVolby = 0;
+    ChybaKroku ChybaVolby{};
     std::string_view VedlejsiVolba{};  ///< a row that by itself costs nothing and makes no result
 
     /// Of a line the points through which it may go, of a midpoint the ends of its segment.
     std::array<std::string_view, 2> Body{};
     Soud Jak = Soud::Zadny;
-    int ChybaRysovani = 0;        ///< a line past its point, a wrong radius, a missed click
+    ChybaKroku ChybaRysovani{};   ///< a line past its point, a wrong radius, a missed click
     std::string_view NaPrimce{};  ///< of a point that was hit: the line on which it is said to lie
     std::string_view Odecet{};    ///< of a midpoint: what stands by the pointer
 
     Prunik Pocita = Prunik::Nic;
     std::array<std::string_view, 2> Ceho{};
-    int ChybaPruniku = 0;  ///< when there is none; 0: costs nothing
+    ChybaKroku ChybaPruniku{};  ///< when there is none
 
     /// Bases for perpendiculars and parallels that are not the right tool.
     std::array<std::string_view, 3> Zakladny{};
@@ -99,7 +101,7 @@ struct Cviceni {
 [[nodiscard]] std::span<const Cviceni> VsechnaCviceni();
 
 /// Wrong steps that do not depend on the exercise.
-constexpr int CHYBA_TLACITKO = 21;
-constexpr int CHYBA_OBA_HOTOVE = 219;
+constexpr ChybaKroku CHYBA_TLACITKO = ChybaKroku(21).Jinde();
+constexpr ChybaKroku CHYBA_OBA_HOTOVE = katalog::OBA_HOTOVE;
 
 }  // namespace rysovna

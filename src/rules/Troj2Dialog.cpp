@@ -43,7 +43,7 @@ constexpr auto NACRT =
               CaraNacrtu("tc", {147, 153, 0, 97, 37}, 150, 30, 150, 140, 155, 114)}});
 
 constexpr PravidlaTrojuhelniku PRAVIDLA{
-    .Kruznice = KRUZNICE_RADKY, .Ceny = CENY, .Nacrt = NACRT, .ChybaRovnobezky = 0};
+    .Kruznice = KRUZNICE_RADKY, .Ceny = CENY, .Nacrt = NACRT, .ChybaRovnobezky = {}};
 
 // ---- Values of an example --------------------------------------------------------------------
 

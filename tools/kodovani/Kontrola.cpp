@@ -12,6 +12,7 @@
 #include "KontrolaPrikladu.h"
 #include "Pravidla.h"
 #include "Prevod.h"
+#include "rules/KatalogChyb.h"
 #include "rules/Ulohy.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
@@ -130,10 +131,11 @@ private:
     }
 
     void Vety(const std::vector<Radek>& radky) {
-        std::map<int, int> kde;  // number of a step: its line
-        std::set<int> chybi;
-        for (const RozsahKroku& r : CHYBNE_KROKY) {
-            for (int n = r.Od; n <= r.Po; ++n) chybi.insert(n);
+        std::map<int, int> kde;      // number of a step: its line
+        std::set<int> chybi, uvody;  // those to whose sentence the board adds words of its own
+        for (const DruhChyby& d : katalog::RADKY) {
+            chybi.insert(d.Cislo);
+            if (d.Kde.Jak == Zneni::SeSlovy) uvody.insert(d.Cislo);
         }
         const std::set<int> zname = chybi;
         for (const Radek& radek : radky) {
@@ -147,8 +149,8 @@ private:
             }
             if (text.find_first_not_of(' ', mezera) == std::string_view::npos) {
                 Pridej(radek.Cislo, "věta", "chybí");
-            } else if (std::ranges::find(UVODY_VET, *cislo) != std::end(UVODY_VET) &&
-                       !text.ends_with(' ')) {
+            } else if (uvody.contains(*cislo) && !text.ends_with(' ')) {
+                // An editor that trims the ends of lines takes it away.
                 Pridej(radek.Cislo, "věta",
                        "musí končit mezerou: program k ní připojí další slova");
             }

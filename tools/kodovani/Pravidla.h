@@ -275,19 +275,4 @@ constexpr PravidloReseni RESENI[]{
     {Nastroj::Rovnobezka, ROVNOBEZKA, false}, {Nastroj::Kruznice, KRUZNICE, false},
 };
 
-// ---- Error sentences -------------------------------------------------------------------------
-
-/// Numbers of wrong steps that the boards charge, each with a sentence in Errors.
-struct RozsahKroku {
-    int Od, Po;
-};
-constexpr RozsahKroku CHYBNE_KROKY[]{
-    {1, 3},     {7, 16},    {18, 43},   {45, 46},   {49, 49},   {52, 60},   {101, 101}, {112, 120},
-    {124, 124}, {126, 128}, {130, 135}, {137, 137}, {202, 212}, {214, 217}, {219, 219}, {300, 301},
-};
-
-/// Sentences to which the board adds words of its own, so that they must end in a blank. An editor
-/// that trims the ends of lines takes it away.
-constexpr int UVODY_VET[]{49, 101};
-
 }  // namespace rysovna::kodovani
