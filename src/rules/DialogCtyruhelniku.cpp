@@ -32,8 +32,6 @@ constexpr ChybaKroku CHYBA_TROJUHELNIK = 133, CHYBA_VETA = 101;
 
 constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhelník!";
 
-constexpr int SIRKA_SEZNAMU_TROJUHELNIKU = 105, SIRKA_SEZNAMU_VET = 140;  // px
-
 constexpr int NASTROJ_TROJUHELNIK = 1, NASTROJ_VETA = 2;
 
 }  // namespace
@@ -82,13 +80,13 @@ void DialogCtyruhelniku::Nabidni(int i) {
             const std::string t(v.Trojuhelnik);
             if (v.Veta == "sss") radky.push_back({t, true, true, t});
         }
-        OtevriSeznam(SIRKA_SEZNAMU_TROJUHELNIKU, std::move(radky));
+        OtevriSeznam(Seznam::UZKY, std::move(radky));
     } else if (i == NASTROJ_VETA) {
         stav_.ZvolenyUtvar = PODLE_VETY;
         for (const RadekVety& r : RADKY_VET) {
             radky.push_back({std::string(r.Text), true, true, std::string(r.Veta)});
         }
-        OtevriSeznam(SIRKA_SEZNAMU_VET, std::move(radky));
+        OtevriSeznam(Seznam::STREDNI, std::move(radky));
     } else {
         PotvrdHodnoty();
     }

@@ -94,7 +94,7 @@ void DialogCtyruhelnikuVrchol::NabidniDalsi(int i) {
     const Nastroj& n = Nastroje()[static_cast<std::size_t>(i - 1)];
     Upravit().ZvolenyUtvar = n.Druh;
     std::vector<RadekSeznamu> radky = (this->*n.Radky)();
-    if (!radky.empty()) OtevriSeznam(Seznam::SIRKA_SIROKEHO, std::move(radky));
+    if (!radky.empty()) OtevriSeznam(Seznam::SIROKY, std::move(radky));
 }
 
 std::vector<RadekSeznamu> DialogCtyruhelnikuVrchol::Paprsky() const {

@@ -9,9 +9,6 @@ namespace rysovna {
 
 namespace {
 
-// Widths of the lists, px.
-constexpr int UZKY = 105, SIROKY = 200;
-
 /// A side that the triangle starts with: its list line, the letters of both ends; wrong step when
 /// it is not the one to start with.
 struct RadekStrany {
@@ -52,11 +49,12 @@ struct DialogTrojuhelniku::Nastroj {
 /// The first is the only tool of the first phase, the others stand in the order of the buttons.
 std::span<const DialogTrojuhelniku::Nastroj> DialogTrojuhelniku::Nastroje() {
     using D = DialogTrojuhelniku;
-    static constexpr Nastroj NASTROJE[] = {{USECKA, UZKY, &D::Strany, &D::ZvolStranu},
-                                           {POLOPRIMKA, UZKY, &D::Paprsky, &D::ZvolPaprsek},
-                                           {KOLMICE, SIROKY, &D::Primky, &D::ZvolKolmici},
-                                           {ROVNOBEZKA, SIROKY, &D::Primky, &D::ZvolRovnobezku},
-                                           {KRUZNICE, SIROKY, &D::Kruznice, &D::ZvolKruznici}};
+    static constexpr Nastroj NASTROJE[] = {
+        {USECKA, Seznam::UZKY, &D::Strany, &D::ZvolStranu},
+        {POLOPRIMKA, Seznam::UZKY, &D::Paprsky, &D::ZvolPaprsek},
+        {KOLMICE, Seznam::SIROKY, &D::Primky, &D::ZvolKolmici},
+        {ROVNOBEZKA, Seznam::SIROKY, &D::Primky, &D::ZvolRovnobezku},
+        {KRUZNICE, Seznam::SIROKY, &D::Kruznice, &D::ZvolKruznici}};
     return NASTROJE;
 }
 

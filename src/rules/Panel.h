@@ -34,10 +34,11 @@ struct RadekSeznamu {
 /// The pick list of the step dialogue.
 struct Seznam {
     static constexpr int VYSKA_RADKU = 20, OKRAJ = 4;  ///< px; the edge is that of both sides
-    static constexpr int SIRKA_SIROKEHO = 200;         ///< px, where a line is a whole phrase
+    /// Widths, px: for names, for a few words, for a phrase, for a long one.
+    static constexpr int UZKY = 105, STREDNI = 140, SIROKY = 200, NEJSIRSI = 250;
     bool Otevreny = false;
-    int Sirka = 105, Vyska = 64;  ///< px
-    int SirkaRadku = 101;         ///< px
+    int Sirka = UZKY, Vyska = 3 * VYSKA_RADKU + OKRAJ;  ///< px
+    int SirkaRadku = UZKY - OKRAJ;                      ///< px
     std::vector<RadekSeznamu> Radky;
 
     /// An open list, so many px wide and as high as its lines want.

@@ -72,7 +72,6 @@ constexpr ChybaKroku CHYBA_STRED = 112, CHYBA_VZOR = 137;
 constexpr int KROKU = 6;
 
 constexpr int NASTROJ_STRED = 1;
-constexpr int SIRKA_SEZNAMU_STREDU = 140, SIRKA_SEZNAMU_OBRAZU = 250;  // px
 
 constexpr std::string_view VYZVA_STRED = "Nyní zvol střed souměrnosti.";
 constexpr std::string_view VYZVA_STRED_KLIK = "Zvol kliknutím na kreslící ploše střed úsečky.";
@@ -244,7 +243,7 @@ void RovnoDialog::NabidniStredy() {
     for (const char c : t) {
         radky.push_back({"vrchol " + std::string(1, c), true, true, std::string(1, c)});
     }
-    OtevriSeznam(SIRKA_SEZNAMU_STREDU, std::move(radky));
+    OtevriSeznam(Seznam::STREDNI, std::move(radky));
 }
 
 void RovnoDialog::NabidniObrazy() {
@@ -257,7 +256,7 @@ void RovnoDialog::NabidniObrazy() {
         radky.push_back(
             {"hledaný bod " + HledanyBod() + " je obrazem vrcholu " + vzor, true, true, vzor});
     }
-    OtevriSeznam(SIRKA_SEZNAMU_OBRAZU, std::move(radky));
+    OtevriSeznam(Seznam::NEJSIRSI, std::move(radky));
 }
 
 void RovnoDialog::ZvolDalsi(std::size_t i) {

@@ -211,7 +211,7 @@ void TecnyDialog::OtevriSeznam(std::vector<RadekSeznamu> radky) {
         stav_.CekaNaKresleni = true;
         return;
     }
-    stav_.Combo = Seznam::SRadky(Seznam::SIRKA_SIROKEHO, std::move(radky));
+    stav_.Combo = Seznam::SRadky(Seznam::SIROKY, std::move(radky));
 }
 
 /// Perpendicular and parallel: the bases that there are.

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -11,53 +14,49 @@ namespace rysovna {
 /// The boards by name.
 enum class Deska { Troj1Form, Troj2Form, CtyrUForm, RovnoForm, LichoForm, TecnyForm };
 
-/// A family of tasks: one picture on the left of the menu.
-struct Rodina {
-    std::string_view NazevHry;
-    int PrvniUloha;            ///< number of its first task; the others follow
-    int Pocet;                 ///< how many tasks
-    std::array<int, 6> Vysky;  ///< heights of their pictures, top to bottom, px; 0 past the last
-};
-
-/// The families in the order of the menu. Neighbours of a stack share a row of pixels, so each
-/// stack is 298 px tall.
-constexpr std::array<Rodina, 5> RODINY{{
-    {"Trojúhelník 1", 1, 3, {102, 93, 105}},
-    {"Trojúhelník 2", 4, 5, {66, 56, 56, 56, 68}},
-    {"Čtyřúhelník", 9, 3, {102, 93, 105}},
-    {"Kružnice", 12, 6, {57, 46, 47, 47, 46, 60}},
-    {"Tečny", 18, 3, {102, 93, 105}},
-}};
+/// The families of tasks in the order of the menu, the pictures on its left.
+constexpr std::array<std::string_view, 5> RODINY = {"Trojúhelník 1", "Trojúhelník 2", "Čtyřúhelník",
+                                                    "Kružnice", "Tečny"};
 
 /// A task: its number is the number of its files.
 struct Uloha {
     int Cislo;
+    std::size_t Rodina;  ///< index in RODINY
+    int Vyska;           ///< px, of its picture on the right of the menu
     std::string_view TypUlohy;
     Deska deska;
 };
 
-constexpr std::array<Uloha, 20> ULOHY{{
-    {1, "podle věty SSS", Deska::Troj1Form},
-    {2, "podle věty SUS", Deska::Troj1Form},
-    {3, "podle věty USU", Deska::Troj1Form},
-    {4, "strana-výška-úhel", Deska::Troj2Form},
-    {5, "strana-strana-těžnice", Deska::Troj2Form},
-    {6, "strana-těžnice-úhel", Deska::Troj2Form},
-    {7, "strana-strana-výška", Deska::Troj2Form},
-    {8, "strana-výška-těžnice", Deska::Troj2Form},
-    {9, "obecný čtyřúhelník", Deska::CtyrUForm},
-    {10, "rovnoběžník", Deska::RovnoForm},
-    {11, "lichoběžník", Deska::LichoForm},
-    {12, "kružnice-bod-tečna", Deska::TecnyForm},
-    {13, "kružnice-dva body-přímka", Deska::TecnyForm},
-    {14, "kružnice-dvě rovnoběžné tečny", Deska::TecnyForm},
-    {15, "kružnice-přímka-tečna", Deska::TecnyForm},
-    {16, "kružnice-dva body-tečna", Deska::TecnyForm},
-    {17, "dvě soustředné kružnice", Deska::TecnyForm},
-    {18, "rovnoběžné s přímkou", Deska::TecnyForm},
-    {19, "kolmé k přímce", Deska::TecnyForm},
-    {20, "procházející bodem", Deska::TecnyForm},
-}};
+/// All tasks; those of a family follow one another. Neighbours of a stack of pictures share a row
+/// of pixels, so each stack is 298 px tall.
+constexpr Uloha ULOHY[] = {
+    {1, 0, 102, "podle věty SSS", Deska::Troj1Form},
+    {2, 0, 93, "podle věty SUS", Deska::Troj1Form},
+    {3, 0, 105, "podle věty USU", Deska::Troj1Form},
+    {4, 1, 66, "strana-výška-úhel", Deska::Troj2Form},
+    {5, 1, 56, "strana-strana-těžnice", Deska::Troj2Form},
+    {6, 1, 56, "strana-těžnice-úhel", Deska::Troj2Form},
+    {7, 1, 56, "strana-strana-výška", Deska::Troj2Form},
+    {8, 1, 68, "strana-výška-těžnice", Deska::Troj2Form},
+    {9, 2, 102, "obecný čtyřúhelník", Deska::CtyrUForm},
+    {10, 2, 93, "rovnoběžník", Deska::RovnoForm},
+    {11, 2, 105, "lichoběžník", Deska::LichoForm},
+    {12, 3, 57, "kružnice-bod-tečna", Deska::TecnyForm},
+    {13, 3, 46, "kružnice-dva body-přímka", Deska::TecnyForm},
+    {14, 3, 47, "kružnice-dvě rovnoběžné tečny", Deska::TecnyForm},
+    {15, 3, 47, "kružnice-přímka-tečna", Deska::TecnyForm},
+    {16, 3, 46, "kružnice-dva body-tečna", Deska::TecnyForm},
+    {17, 3, 60, "dvě soustředné kružnice", Deska::TecnyForm},
+    {18, 4, 102, "rovnoběžné s přímkou", Deska::TecnyForm},
+    {19, 4, 93, "kolmé k přímce", Deska::TecnyForm},
+    {20, 4, 105, "procházející bodem", Deska::TecnyForm},
+};
+
+/// The tasks of a family, in their order.
+constexpr std::span<const Uloha> UlohyRodiny(std::size_t rodina) {
+    const auto [od, po] = std::ranges::equal_range(ULOHY, rodina, {}, &Uloha::Rodina);
+    return {od, po};
+}
 
 /// The task of this number; null if there is none.
 constexpr const Uloha* NajdiUlohu(int cislo) {

@@ -93,10 +93,11 @@ void DeskaForm::RozlozOvladace() {
     Image1.Tag = "1";
 
     RozlozRadu();
-    Pridej(Combo, "Combo", {372, 444, 105, 64});
+    const Seznam seznam;
+    Pridej(Combo, "Combo", {372, 444, seznam.Sirka, seznam.Vyska});
     Combo.Ramecek = true;
     Combo.Visible = false;
-    PridejPole(ComboLabel, "ComboLabel", {3, 2, 101, Seznam::VYSKA_RADKU}, &Combo);
+    PridejPole(ComboLabel, "ComboLabel", {3, 2, seznam.SirkaRadku, Seznam::VYSKA_RADKU}, &Combo);
     for (std::size_t i = 0; i < ComboLabel.size(); ++i) {
         ComboLabel[i].Top = 2 + static_cast<int>(i) * Seznam::VYSKA_RADKU;
         ComboLabel[i].WordWrap = false;

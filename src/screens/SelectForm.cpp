@@ -101,17 +101,15 @@ void SelectForm::ZvolRodinu(std::size_t i) {
     ZvukStisku(s_);
     for (Image& ri : RI) ri.Tag = "0";
     if (!Zvoleny(LI[i])) {
-        const Rodina& rodina = RODINY[i];
-        const auto pocet = static_cast<std::size_t>(rodina.Pocet);
-        for (std::size_t j = 0; j < pocet; ++j) {
-            prave_[j] = NactiDvojici(
-                s_, "Bitmap\\Select\\r_" + DveCislice(rodina.PrvniUloha + static_cast<int>(j)));
+        const std::span<const Uloha> ulohy = UlohyRodiny(i);
+        for (std::size_t j = 0; j < ulohy.size(); ++j) {
+            prave_[j] = NactiDvojici(s_, "Bitmap\\Select\\r_" + DveCislice(ulohy[j].Cislo));
         }
         for (std::size_t j = 0; j < RI.size(); ++j) {
-            RI[j].Visible = j < pocet;
+            RI[j].Visible = j < ulohy.size();
             if (!RI[j].Visible) continue;
             RI[j].Picture = prave_[j].Normalni;
-            RI[j].Height = rodina.Vysky[j];
+            RI[j].Height = ulohy[j].Vyska;
             if (j > 0) RI[j].Top = RI[j - 1].Top + RI[j - 1].Height - 1;
         }
     }
@@ -123,12 +121,11 @@ void SelectForm::ZvolRodinu(std::size_t i) {
 void SelectForm::ZvolUlohu(std::size_t j) {
     ZvukStisku(s_);
     for (std::size_t i = 0; i < LI.size(); ++i) {
-        const Rodina& rodina = RODINY[i];
-        if (static_cast<int>(j) >= rodina.Pocet || !Zvoleny(LI[i])) continue;
-        const int cislo = rodina.PrvniUloha + static_cast<int>(j);
-        s_.CisloUlohy = Bajt(cislo);
-        s_.NazevHry = rodina.NazevHry;
-        s_.TypUlohy = NajdiUlohu(cislo)->TypUlohy;
+        const std::span<const Uloha> ulohy = UlohyRodiny(i);
+        if (j >= ulohy.size() || !Zvoleny(LI[i])) continue;
+        s_.CisloUlohy = Bajt(ulohy[j].Cislo);
+        s_.NazevHry = RODINY[i];
+        s_.TypUlohy = ulohy[j].TypUlohy;
         break;
     }
     OdzvolVse(RI, prave_);

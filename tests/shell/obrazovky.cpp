@@ -89,19 +89,19 @@ TEST_F(Nabidka, KazdaUlohaJdeZvolitASloupceJsouSlozene) {
         EXPECT_EQ(Sviti(), rodina);
         int spodek = 141;
         for (const Image& uloha : Menu(relace.Pamet()).RI) {
-            EXPECT_EQ(uloha.Visible, uloha.Index <= RODINY[i].Pocet);
+            EXPECT_EQ(uloha.Visible, uloha.Index <= static_cast<int>(UlohyRodiny(i).size()));
             if (!uloha.Visible) continue;
             EXPECT_EQ(uloha.Top, spodek - 1);
             EXPECT_EQ(uloha.Height, uloha.Picture.Height());
             spodek = uloha.Top + uloha.Height;
         }
         EXPECT_EQ(spodek, 140 + 298);
-        for (int j = 1; j <= RODINY[i].Pocet; ++j) {
+        for (int j = 1; j <= static_cast<int>(UlohyRodiny(i).size()); ++j) {
             relace.Stiskni("RI", j);
             EXPECT_EQ(relace.JmenoVpredu(), "SetupForm");
             EXPECT_EQ(relace.Pamet().AktivniForm.lock().get(), relace.Vpredu());
             EXPECT_EQ(relace.Pamet().CisloUlohy, ++cislo);
-            EXPECT_EQ(relace.Pamet().NazevHry, RODINY[i].NazevHry);
+            EXPECT_EQ(relace.Pamet().NazevHry, RODINY[i]);
             EXPECT_EQ(relace.Pamet().TypUlohy, NajdiUlohu(cislo)->TypUlohy);
             relace.Stiskni("picKonec");
             EXPECT_EQ(Sviti(), rodina + "R" + std::to_string(j) + " ");

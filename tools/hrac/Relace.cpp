@@ -78,19 +78,15 @@ void Relace::Start() {
 }
 
 void Relace::SpustUlohu(int cisloUlohy, std::string_view jmeno, int priklady) {
-    for (std::size_t i = 0; i < RODINY.size(); ++i) {
-        const int poradi = cisloUlohy - RODINY[i].PrvniUloha;
-        if (poradi < 0 || poradi >= RODINY[i].Pocet) continue;
-        Stiskni("LI", static_cast<int>(i) + 1);
-        Stiskni("RI", poradi + 1);
-        Napis(jmeno);
-        Stiskni("ICislo", priklady);
-        Cekej(600);
-        Stiskni("picPokracuj");
-        Cekej(200);
-        return;
-    }
-    throw NejdeUdelat("není taková úloha: " + std::to_string(cisloUlohy));
+    const Uloha* uloha = NajdiUlohu(cisloUlohy);
+    if (uloha == nullptr) throw NejdeUdelat("není taková úloha: " + std::to_string(cisloUlohy));
+    Stiskni("LI", static_cast<int>(uloha->Rodina) + 1);
+    Stiskni("RI", static_cast<int>(uloha - UlohyRodiny(uloha->Rodina).data()) + 1);
+    Napis(jmeno);
+    Stiskni("ICislo", priklady);
+    Cekej(600);
+    Stiskni("picPokracuj");
+    Cekej(200);
 }
 
 Form* Relace::Vpredu() {

@@ -7,6 +7,7 @@
 #include "Hlaseni.h"
 #include "base/Chyba.h"
 #include "base/Text.h"
+#include "rules/Ulohy.h"
 #include "store/Kodovani.h"
 
 namespace rysovna::kodovani {
@@ -28,7 +29,7 @@ int CisloUlohy(const std::string& jmeno) {
                                 return std::isdigit(c) != 0;
                             });
     const int cislo = dveCislice ? std::stoi(jmeno) : 0;
-    return cislo <= 20 ? cislo : 0;
+    return NajdiUlohu(cislo) == nullptr ? 0 : cislo;
 }
 
 bool MaKodovaneRadky(const Soubor& soubor) {
