@@ -303,13 +303,13 @@ TEST_F(RamecDesky, TabulatorVedePolickyAOznaciCoVNichJe) {
 /// The list of wrong steps cannot be scrolled: ten rows of any length must be seen.
 TEST_F(RamecDesky, SeznamChybSeVejdeCely) {
     Rysovac r(SSS, 1);
-    PridejChybu(r.Hra.Pamet(), 301, JEDEN_BOD, 1);
+    PridejChybu(r.Hra.Pamet(), katalog::CHYBNE_PRVKY[0]);
     const auto kratky = r.Hra.Host().Okna().Nacti<ChybovyForm>(r.Hra.Pamet());
     EXPECT_TRUE(kratky->Text1.VejdeSe());
     EXPECT_EQ(kratky->Text1.Font.Velikost, 10);
     r.Hra.Pamet().PocetChybnychKroku = 0;
     for (int i = 0; i < ChybovyForm::RADKU; ++i)
-        PridejChybu(r.Hra.Pamet(), i % 2 == 0 ? 36 : 127, TRI_BODY, 3);
+        PridejChybu(r.Hra.Pamet(), i % 2 == 0 ? ChybaKroku(36) : ChybaKroku(127));
     EXPECT_TRUE(r.Hra.Host().Okna().Nacti<ChybovyForm>(r.Hra.Pamet())->Text1.VejdeSe());
 }
 

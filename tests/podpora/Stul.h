@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <map>
@@ -16,6 +17,7 @@
 #include "podpora/Prostredi.h"
 #include "podpora/RukaPravidel.h"
 #include "rules/Dialog.h"
+#include "rules/KatalogChyb.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/Start.h"
@@ -59,6 +61,10 @@ public:
         if (!NactiKonfiguraci(Pamet())) throw std::runtime_error("bez konfigurace");
         Pamet().CisloUlohy = static_cast<std::uint8_t>(uloha);
         NactiPriklady(Pamet(), Disk_(), Soubor(), DeskaUlohy(uloha));
+        Pamet().Vety = [this, vety = Pamet().Vety](int cislo) {
+            OverMisto(cislo);
+            return vety(cislo);
+        };
     }
 
     /// The task's file now holds this line alone.
@@ -135,6 +141,17 @@ protected:
     [[nodiscard]] const Dialog& Hra() const override { return dialog; }
 
 private:
+    /// A wrong step falls on a board and in a phase of which the catalogue says that it can.
+    void OverMisto(int cislo) const {
+        const auto& s = dialog.Stav();
+        const Bity deska = NaDesce(DeskaUlohy(Pamet().CisloUlohy));
+        const Bity kdy = s.Skontrolovano ? PRI_KONTROLE : VeFazi(s.Faze);
+        EXPECT_TRUE(std::ranges::any_of(
+            katalog::RADKY,
+            [&](const DruhChyby& d) { return d.Cislo == cislo && d.MuzePadnout(deska, kdy); }))
+            << "wrong step " << cislo << ", task " << int{Pamet().CisloUlohy} << ", phase "
+            << s.Faze;
+    }
     [[nodiscard]] std::string Soubor() const {
         return Pamet().CestaHD + DveCislice(Pamet().CisloUlohy) + ".dat";
     }

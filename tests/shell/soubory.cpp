@@ -96,7 +96,7 @@ TEST_F(Soubory, RadkyUlohy) {
 TEST_F(Soubory, VadneSouboryJmenujiMisto) {
     const auto cti = [&](const std::string& jmeno) {
         const std::string soubor = Cesta(jmeno).string();
-        if (jmeno == "Errors.dat") return PridejChybu(misc, 2, "", 1);
+        if (jmeno == "Errors.dat") return PridejChybu(misc, 2);
         if (jmeno == "Znamky.dat") return NactiZnamky(misc, Disk_(), soubor);
         NactiPriklady(misc, Disk_(), soubor, Deska::Troj1Form);
     };
@@ -138,17 +138,18 @@ TEST_F(Soubory, VadneSouboryJmenujiMisto) {
 TEST_F(Soubory, ChybnyKrokUctujeKolikratVSouboruStoji) {
     Pis("Errors.dat", Zakodovane({"001 Strana.|", "  7-Délka.|", "45xZ|", "300 |", "007 Ještě #.|",
                                   "abc Nic.|"}));
-    for (const int cislo : {1, 2, 7, 45, 300}) PridejChybu(misc, cislo, "  -3 body", cislo);
-    const ChybnyKrok ocekavane[]{{"1", "Strana.  -3 body", 0, 1},
-                                 {"7", "Délka.  -3 body", 0, 7},
-                                 {"7", "Ještě #.  -3 body", 0, 7},
-                                 {"45", "  -3 body", 0, 45},
-                                 {"300", "  -3 body", 0, 300}};
+    const ChybaKroku chyby[]{1, 2, 7, 45, 300};
+    for (const ChybaKroku chyba : chyby) PridejChybu(misc, chyba);
+    const ChybnyKrok ocekavane[]{{"1", "Strana.  -3 body", 0, 3},
+                                 {"7", "Délka.  -1 bod", 0, 1},
+                                 {"7", "Ještě #.  -1 bod", 0, 1},
+                                 {"45", "  -1 bod", 0, 1},
+                                 {"300", "    -4 bod", 0, 10}};
     ASSERT_EQ(misc.PocetChybnychKroku, 5);
     for (int i = 1; i <= 5; ++i) EXPECT_EQ(misc.ChybneKroky[i], ocekavane[i - 1]) << i;
-    EXPECT_EQ(misc.SoucetZapornychBodu, 360);
+    EXPECT_EQ(misc.SoucetZapornychBodu, 16);
     misc.PocetChybnychKroku = 100;
-    EXPECT_NE(Chyba([&] { PridejChybu(misc, 1, "", 1); }), "");
+    EXPECT_NE(Chyba([&] { PridejChybu(misc, 1); }), "");
 }
 
 TEST_F(Soubory, Znamky) {

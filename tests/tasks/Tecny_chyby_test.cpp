@@ -15,6 +15,32 @@ namespace {
 
 using Cisla = std::vector<int>;
 
+/// The catalogue says of the steps of all exercises what they cost, and of nothing else.
+TEST(TecnyChyby, KatalogZnaKrokyCviceni) {
+    const Bity tecny = NaDesce(Deska::TecnyForm);
+    std::map<std::pair<int, int>, Bity> kroky;  // number and points: phases
+    for (const Cviceni& c : VsechnaCviceni()) {
+        int faze = 0;
+        for (const KrokTecny& k : c.Kroky) {
+            ++faze;
+            const auto padne = [&](ChybaKroku chyba) {
+                if (chyba) kroky[{chyba.Cislo(), chyba.Body()}] |= VeFazi(faze);
+            };
+            padne(k.ChybaVolby);
+            padne(k.ChybaRysovani);
+            padne(k.ChybaPruniku);
+            if (k.Chybne[0] != Nastroj::Zadny) padne(CHYBA_TLACITKO);
+            if (!c.Znacene[0].empty() && k.Spravny == Nastroj::Prusecik) padne(CHYBA_OBA_HOTOVE);
+        }
+    }
+    for (const DruhChyby& d : katalog::RADKY) {
+        const Bity vKatalogu = ((d.Kde.Desky & tecny) != 0 ? d.Kde.Faze : 0) |
+                               ((d.Jinde.Desky & tecny) != 0 ? d.Jinde.Faze : 0);
+        if (vKatalogu == PRI_KONTROLE) continue;
+        EXPECT_EQ(vKatalogu, (kroky[{d.Cislo, d.Body}])) << d.Cislo;
+    }
+}
+
 /// Faces that cost three points at the press, by exercise and step. Drawn afterwards, they cost no
 /// more and take up the step.
 TEST(TecnyChyby, ChybnaTlacitka) {
