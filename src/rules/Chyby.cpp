@@ -17,7 +17,7 @@ std::string_view SlovoBodu(int n) {
 
 /// What stands behind the sentence. zbyva: points of the example that are not lost yet.
 std::string TextBodu(ChybaKroku chyba, std::string_view slovy, int zbyva) {
-    const std::string body = TextCisla(chyba.Body()) + std::string(SlovoBodu(chyba.Body()));
+    const std::string body = TextBezMezery(chyba.Body()) + std::string(SlovoBodu(chyba.Body()));
     switch (chyba.Jak()) {
         case Zneni::Obvykle:
             return "  -" + body;

@@ -144,7 +144,7 @@ TEST_F(Soubory, ChybnyKrokUctujeKolikratVSouboruStoji) {
                                  {"7", "Délka.  -1 bod", 0, 1},
                                  {"7", "Ještě #.  -1 bod", 0, 1},
                                  {"45", "  -1 bod", 0, 1},
-                                 {"300", "    -4 bod", 0, 10}};
+                                 {"300", "    - 4 bod", 0, 10}};
     ASSERT_EQ(misc.PocetChybnychKroku, 5);
     for (int i = 1; i <= 5; ++i) EXPECT_EQ(misc.ChybneKroky[i], ocekavane[i - 1]) << i;
     EXPECT_EQ(misc.SoucetZapornychBodu, 16);
