@@ -1,12 +1,12 @@
 #include "engine/Kresleni.h"
 
 #include <array>
-#include <cmath>
 #include <cstdlib>
 #include <string>
 
 #include "base/Chyba.h"
 #include "base/Cisla.h"
+#include "base/Matematika.h"
 #include "engine/Okraj.h"
 #include "engine/Resitele.h"
 #include "engine/Sluzby.h"
@@ -85,7 +85,7 @@ struct Ramena {
 };
 
 Ramena RamenaKrize(const Sektor& sektor, float smer) {
-    const double t = std::tan(static_cast<double>(smer));
+    const double t = Tan(static_cast<double>(smer));
     Ramena ramena{};
     switch (sektor.kriz) {
         case Kriz::Vodorovny:
@@ -233,8 +233,8 @@ Bod MistoPopisuKruznice(const Plane& plane, Bod stred, double r) {
         const int krok = usek.prvni > usek.posledni ? -1 : 1;
         for (int i = usek.prvni; i != usek.posledni + krok; i += krok) {
             const double uhel = i * KROK_UHLU / (STUPNU_PULOTACKY / PI);
-            bod = {Zaokrouhli(r * std::sin(uhel) + stred.X),
-                   Zaokrouhli(r * std::cos(uhel) + stred.Y) - VYSKA_NAD_KRUZNICI};
+            bod = {Zaokrouhli(r * Sin(uhel) + stred.X),
+                   Zaokrouhli(r * Cos(uhel) + stred.Y) - VYSKA_NAD_KRUZNICI};
             if (bod.X > 0 && bod.X < plane.Width() && bod.Y > 0 && bod.Y < plane.Height()) {
                 return bod;
             }

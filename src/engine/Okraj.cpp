@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Cisla.h"
+#include "base/Matematika.h"
 
 namespace rysovna {
 
@@ -64,7 +65,7 @@ bool JeVpredu(Bod od, Bod k, Bod bod) {
 /// A line by a point and its direction.
 struct Primka {
     Bod Od, Smer;
-    [[nodiscard]] double Delka() const { return std::hypot(Smer.X, Smer.Y); }
+    [[nodiscard]] double Delka() const { return Hypot(Smer.X, Smer.Y); }
     [[nodiscard]] Bod Dal(int kolikrat = 1) const {
         return {Od.X + kolikrat * Smer.X, Od.Y + kolikrat * Smer.Y};
     }
@@ -104,7 +105,7 @@ Konec KonecPrimky(const Plane& plane, const Primka& p, int strana) {
     const Bod k = p.Dal(strana);
     const Bod bod = BodOkraje(plane, p.Od, k);
     if (!JeVpredu(p.Od, k, bod)) return {bod};
-    return {bod, std::hypot(bod.X - p.Od.X, bod.Y - p.Od.Y)};
+    return {bod, Hypot(bod.X - p.Od.X, bod.Y - p.Od.Y)};
 }
 
 bool JeVBoxu(const Box& box, Bod b) {

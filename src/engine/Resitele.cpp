@@ -2,8 +2,10 @@
 
 #include <cmath>
 #include <cstdint>
+#include <numbers>
 
 #include "base/Cisla.h"
+#include "base/Matematika.h"
 #include "engine/Tabulky.h"
 
 namespace rysovna {
@@ -14,6 +16,10 @@ namespace {
 constexpr double PRIRAZKA_PRUSECIKU = 0.2;
 /// What keeps an upright line's slope from a division by zero.
 constexpr double PRIRAZKA_SMERNICE = 0.001;
+
+double Ctverec(double x) {
+    return x * x;
+}
 
 double Rozdil(int a, int b) {
     return static_cast<double>(std::int64_t{a} - b);
@@ -45,8 +51,8 @@ DvaKoreny KorenyPrimkyAKruznice(Bod C, float r, Bod P1, Bod P2) {
     const float dy = y2 - y1;
     const auto m = static_cast<float>(dy / (dx + PRIRAZKA_SMERNICE));
     const float c = y1 - m * x1;
-    const double q = std::pow(m, 2) + 1;
-    const double D = std::pow(r, 2) * q - std::pow(c, 2);
+    const double q = Ctverec(m) + 1;
+    const double D = Ctverec(r) * q - Ctverec(c);
     DvaKoreny koreny;
     if (q == 0 || D < 0) return koreny;
     koreny.protina = D > 0;
@@ -67,7 +73,7 @@ double Arccos(double x) {
     const double t = 1 - x * x;
     if (t < 0) return BEZ;
     if (std::sqrt(t) == 0) return 0;
-    return std::atan(-x / std::sqrt(t)) + 2 * std::atan(1.0);
+    return Atan(-x / std::sqrt(t)) + std::numbers::pi / 2;
 }
 
 bool StejneZnamenko(double a, double b) {
@@ -91,16 +97,16 @@ double DelkaVCm(double px) {
 
 void PolarniBod(Bod P, float r, float uhel, Bod& out1, Bod& out2) {
     out1 = out2 = BEZ_BODU;
-    out1.Y = Zaokrouhli(P.Y - r * std::sin(static_cast<double>(uhel)));
-    out1.X = Zaokrouhli(P.X + r * std::cos(static_cast<double>(uhel)));
+    out1.Y = Zaokrouhli(P.Y - r * Sin(static_cast<double>(uhel)));
+    out1.X = Zaokrouhli(P.X + r * Cos(static_cast<double>(uhel)));
 }
 
 void PrunikKruznic(const Plane& plane, Bod C1, float r1, Bod C2, float r2, Bod& out1, Bod& out2) {
     out1 = out2 = BEZ_BODU;
-    const double d = std::sqrt(std::pow(Rozdil(C1.X, C2.X), 2) + std::pow(Rozdil(C1.Y, C2.Y), 2));
+    const double d = std::sqrt(Ctverec(Rozdil(C1.X, C2.X)) + Ctverec(Rozdil(C1.Y, C2.Y)));
     if (d == 0) return;
-    const double a = ((std::pow(r1, 2) - std::pow(r2, 2)) + std::pow(d, 2)) / (2 * d);
-    const double h2 = std::pow(r1, 2) - std::pow(a, 2);
+    const double a = ((Ctverec(r1) - Ctverec(r2)) + Ctverec(d)) / (2 * d);
+    const double h2 = Ctverec(r1) - Ctverec(a);
     if (h2 < 0) return;
     const double h = std::sqrt(h2);
     const double dx = Rozdil(C2.X, C1.X);

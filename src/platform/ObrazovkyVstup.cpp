@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/Matematika.h"
 #include "platform/Host.h"
 #include "platform/Klavesnice.h"
 #include "platform/ObrazovkyVnitrek.h"
@@ -349,8 +350,7 @@ void Obrazovky::DorucPohyb(const Vstup& s) {
     v.MysY = s.Y;
     if (!v.DrziKlavesa.empty()) return;
     // A hand that rests on the mouse while the other one is at the keys takes nothing over.
-    if (std::hypot(s.X - v.MysPriPrstenuX, s.Y - v.MysPriPrstenuY) >= POHNULA_SE)
-        v.PrstenVidet = false;
+    if (Hypot(s.X - v.MysPriPrstenuX, s.Y - v.MysPriPrstenuY) >= POHNULA_SE) v.PrstenVidet = false;
     // The release of one that is held no more got lost outside.
     if (!s.Odlozeny) v.Zahozena &= s.Tlacitko;
     const int drzena = s.Tlacitko & ~v.Zahozena;

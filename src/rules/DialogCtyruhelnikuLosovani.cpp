@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Cisla.h"
+#include "base/Matematika.h"
 #include "engine/Resitele.h"
 #include "rules/DialogCtyruhelnikuVrchol.h"
 #include "rules/Misc.h"
@@ -69,8 +70,7 @@ bool Vylosuj(Nahoda& nahoda, const SkupinaDruhu& s, bool rovnobeznost, HodnotyPr
     const double a = h[0];
     const double b = h[1];
     const double c =
-        s.Sus ? std::sqrt(a * a + b * b - 2 * a * b * std::cos(h[2] * PI / STUPNU_PULOTACKY))
-              : h[2];
+        s.Sus ? std::sqrt(a * a + b * b - 2 * a * b * Cos(h[2] * PI / STUPNU_PULOTACKY)) : h[2];
     if (!s.Sus && !Trojuhelnikova(a, b, c)) return false;
     const double t[] = {0, Uhel(a, c, b), Uhel(b, c, a)};
     for (const auto& [i, v] : {std::pair{3, s.Ctvrta}, std::pair{4, s.Pata}}) {
@@ -119,12 +119,12 @@ Utvar Idealni(const Trojuhelnik& t, const Krok& krok, int hodnota, double navic)
         const double dy = rameno->Y - v->Y;
         const bool vlevo = dx * (treti->Y - v->Y) - dy * (treti->X - v->X) < 0;
         const double uhel = (hodnota + navic) * PI / STUPNU_PULOTACKY * (vlevo ? 1 : -1);
-        const double smer = std::atan2(-dy, dx) + uhel;
+        const double smer = Atan2(-dy, dx) + uhel;
         u.Druh = POLOPRIMKA;
         u.X1 = v->X;
         u.Y1 = v->Y;
-        u.X2 = Zaokrouhli(v->X + TAH_PAPRSKU * std::cos(smer));
-        u.Y2 = Zaokrouhli(v->Y - TAH_PAPRSKU * std::sin(smer));
+        u.X2 = Zaokrouhli(v->X + TAH_PAPRSKU * Cos(smer));
+        u.Y2 = Zaokrouhli(v->Y - TAH_PAPRSKU * Sin(smer));
     } else if (krok.Utvar == ROVNOBEZKA) {
         // Parallel to the side of the triangle with this height, through its third vertex.
         for (std::size_t i = 0; i < 2; ++i) {
@@ -150,7 +150,7 @@ bool JeLichobeznik(const Trojuhelnik& t, const Krok& krok, Bod d) {
     const Bod pocatek = prvni ? p2 : p0;
     const double dx = k.X - od.X;
     const double dy = k.Y - od.Y;
-    const double delka = std::hypot(dx, dy);
+    const double delka = Hypot(dx, dy);
     const double protejsi = ((d.X - pocatek.X) * dx + (d.Y - pocatek.Y) * dy) / delka;
     return protejsi >= NEJMENSI_ROZDIL && std::fabs(protejsi - delka) >= NEJMENSI_ROZDIL;
 }

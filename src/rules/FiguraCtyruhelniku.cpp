@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "base/Cisla.h"
+#include "base/Matematika.h"
 #include "engine/Resitele.h"
 #include "rules/Dialog.h"
 #include "rules/Tahy.h"
@@ -31,7 +32,7 @@ bool Blizko(Bod b) {
 
 /// The angle at v between the ways to p and to q, degrees, 0 to 180.
 double UhelStran(Bod v, Bod p, Bod q) {
-    const double u = std::atan2(p.Y - v.Y, p.X - v.X) - std::atan2(q.Y - v.Y, q.X - v.X);
+    const double u = Atan2(p.Y - v.Y, p.X - v.X) - Atan2(q.Y - v.Y, q.X - v.X);
     return std::fabs(std::remainder(u, DVE_PI)) * STUPNU_PULOTACKY / PI;
 }
 
@@ -54,16 +55,16 @@ std::optional<std::array<Bod, 3>> SpocitejTrojuhelnik(const Plane& plocha, std::
     } else {
         // Below the first side, as the circles would have it, if the vertex has room there.
         const double uhel = hodnoty[2] * PI / STUPNU_PULOTACKY;
-        const double dolu = p2.Y + b * std::sin(uhel);
-        const double x = p2.X - b * std::cos(uhel);
+        const double dolu = p2.Y + b * Sin(uhel);
+        const double x = p2.X - b * Cos(uhel);
         const bool dole = x > OKRAJ_PRUSECIKU && x < plocha.Width() - OKRAJ_PRUSECIKU &&
                           dolu > OKRAJ_PRUSECIKU && dolu < plocha.Height() - OKRAJ_PRUSECIKU;
         Utvar paprsek;
         paprsek.Druh = POLOPRIMKA;
         paprsek.X1 = p2.X;
         paprsek.Y1 = p2.Y;
-        paprsek.X2 = Zaokrouhli(p2.X - DALEKO_PO_PAPRSKU * std::cos(uhel));
-        paprsek.Y2 = Zaokrouhli(p2.Y + (dole ? 1 : -1) * DALEKO_PO_PAPRSKU * std::sin(uhel));
+        paprsek.X2 = Zaokrouhli(p2.X - DALEKO_PO_PAPRSKU * Cos(uhel));
+        paprsek.Y2 = Zaokrouhli(p2.Y + (dole ? 1 : -1) * DALEKO_PO_PAPRSKU * Sin(uhel));
         Utvar kruznice;
         kruznice.Druh = KRUZNICE;
         kruznice.X1 = p2.X;

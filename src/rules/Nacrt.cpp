@@ -1,8 +1,8 @@
 #include "rules/Nacrt.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "base/Matematika.h"
 #include "engine/Tabulky.h"
 
 namespace rysovna {
@@ -15,15 +15,15 @@ constexpr int SIRKA_OBLOUKU = 1;       // px
 /// An arc about the first point, between the directions to the second and to the third, drawn as
 /// short lines; the shorter way round.
 void KresliOblouk(Plane& p, const PrvekNacrtu& e) {
-    const double od = std::atan2(e.Y1 - e.Y2, e.X2 - e.X1);
-    double sirka = std::atan2(e.Y1 - e.Y3, e.X3 - e.X1) - od;
+    const double od = static_cast<float>(Atan2(e.Y1 - e.Y2, e.X2 - e.X1));
+    double sirka = static_cast<float>(Atan2(e.Y1 - e.Y3, e.X3 - e.X1)) - od;
     if (sirka > PI) sirka -= DVE_PI;
     if (sirka < -PI) sirka += DVE_PI;
     constexpr int DILKU = 16;
     const auto bod = [&](int i, float& x, float& y) {
         const double uhel = od + sirka * i / DILKU;
-        x = static_cast<float>(e.X1 + e.Polomer * std::cos(uhel));
-        y = static_cast<float>(e.Y1 - e.Polomer * std::sin(uhel));
+        x = static_cast<float>(e.X1 + e.Polomer * Cos(uhel));
+        y = static_cast<float>(e.Y1 - e.Polomer * Sin(uhel));
     };
     float x1 = 0;
     float y1 = 0;

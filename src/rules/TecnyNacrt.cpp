@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/Cisla.h"
+#include "base/Matematika.h"
 #include "engine/Tabulky.h"
 #include "rules/Nacrt.h"
 #include "rules/TecnyKroky.h"
@@ -110,8 +111,8 @@ void KresliPrvek(Plane& p, const Prvek& e, bool oznaceny) {
             p.Circle(e.X1, e.Y1, e.X2);
             if (oznaceny) {
                 const double uhel = static_cast<double>(e.Y2) * PI / STUPNU_PULOTACKY;
-                KresliKotouc(p, e.X1 + e.X2 * static_cast<float>(std::cos(uhel)),
-                             e.Y1 - e.X2 * static_cast<float>(std::sin(uhel)));
+                KresliKotouc(p, e.X1 + e.X2 * static_cast<float>(Cos(uhel)),
+                             e.Y1 - e.X2 * static_cast<float>(Sin(uhel)));
             }
             break;
         case Misto:
@@ -135,8 +136,7 @@ bool PrvekNacrtuTecny::Obsahuje(double x, double y) const {
             return x >= x1 && x <= x2 && std::fabs(y - vyska) <= Pasmo;
         }
         case Kruh:
-            return std::fabs(x - x1) <= x2 &&
-                   std::fabs(std::hypot(x - x1, y - y1) - x2) <= PRSTENEC;
+            return std::fabs(x - x1) <= x2 && std::fabs(Hypot(x - x1, y - y1) - x2) <= PRSTENEC;
         case Misto:
             return std::fabs(x - x1) <= POL_BOXU && std::fabs(y - y1) <= POL_BOXU;
     }
@@ -166,8 +166,8 @@ std::vector<Bod> MistaNacrtuTecny(std::string_view kod) {
             x += podel * (e.X2 - e.X1);
             y += podel * (e.Y2 - e.Y1);
         } else if (e.Druh == Kruh) {
-            x += e.X2 * std::cos(podel * DVE_PI);
-            y += e.X2 * std::sin(podel * DVE_PI);
+            x += e.X2 * Cos(podel * DVE_PI);
+            y += e.X2 * Sin(podel * DVE_PI);
         }
         return Bod{Zaokrouhli(x), Zaokrouhli(y)};
     };

@@ -6,6 +6,7 @@
 #include <initializer_list>
 
 #include "base/Cisla.h"
+#include "base/Matematika.h"
 #include "engine/Kresleni.h"
 #include "engine/Resitele.h"
 #include "engine/Tabulky.h"
@@ -37,7 +38,7 @@ double Vektorovy(V a, V b) {
     return a.X * b.Y - a.Y * b.X;
 }
 double Delka(V a) {
-    return std::hypot(a.X, a.Y);
+    return Hypot(a.X, a.Y);
 }
 V Kolmo(V a) {
     return {-a.Y, a.X};
@@ -65,7 +66,7 @@ V Prunik(V a, V s, V b, V t) {
 
 // The angle of two ways, degrees, 0 to 90.
 double Uhel(V s, V t) {
-    return std::asin(std::min(1.0, std::fabs(Vektorovy(s, t)) / (Delka(s) * Delka(t)))) *
+    return Asin(std::min(1.0, std::fabs(Vektorovy(s, t)) / (Delka(s) * Delka(t)))) *
            STUPNU_PULOTACKY / PI;
 }
 bool MimoOsy(V s, double uhel = UHEL_OD_OSY) {
@@ -274,7 +275,7 @@ bool SoustredneKruznice(Pokus& p, Utvary_& u) {
     const int sx = Zaokrouhli((p.W - 2 * R) * p.Rnd() + R);
     const Bod S{sx, Zaokrouhli((p.H - 2 * R) * p.Rnd() + R)};
     const double uhel = p.Rnd() * PI;
-    const V smer{std::cos(uhel), -std::sin(uhel)};
+    const V smer{Cos(uhel), -Sin(uhel)};
     const Bod A = Pixel(V(S) + smer * r1);
     const V podle = Jednotkovy(V(A) - S);
     const V B1 = V(S) + podle * R;
