@@ -113,17 +113,26 @@ constexpr auto SINY = [] {
     return siny;
 }();
 
-/// The sine of the angle and so many parts more.
-Dvojcislo Sinus(double uhel, int dilku) {
-    if (!std::isfinite(uhel)) return NENI_CISLO;
+/// An angle as whole parts and what is left, at most half a part.
+struct Rozklad {
+    unsigned Dilku = 0;
+    Dvojcislo Zbyva;
+};
+
+Rozklad Rozloz(double uhel) {
+    if (!std::isfinite(uhel)) return {0, NENI_CISLO};
     if (std::fabs(uhel) > NEJVETSI_UHEL) Selhani("Přetečení čísla");
     const double k = std::floor(uhel * (CTVRT / PUL_PI.Hlavni) + 0.5);
     Dvojcislo r = Soucet(uhel - k * DILEK[0], -k * DILEK[1]);
     r.Zbytek -= k * DILEK[2];
+    return {static_cast<unsigned>(static_cast<int>(k)), r};
+}
+
+/// The sine of an angle of so many parts and the rest.
+Dvojcislo Sinus(unsigned dilku, Dvojcislo r) {
     // Of the sum of two angles: s, its greater part, then what the series add to it.
-    const auto i = static_cast<unsigned>(static_cast<int>(k) + dilku);
-    const Dvojcislo s = SINY[i % SINY.size()];
-    const Dvojcislo c = SINY[(i + CTVRT) % SINY.size()];
+    const Dvojcislo s = SINY[dilku % SINY.size()];
+    const Dvojcislo c = SINY[(dilku + CTVRT) % SINY.size()];
     const double t = r.Hlavni * r.Hlavni;
     const double sinus = -t * r.Hlavni * (1.0 / 6 - t * (1.0 / 120 - t * (1.0 / 5040)));
     const double kosinus = -t * (1.0 / 2 - t * (1.0 / 24 - t * (1.0 / 720))) - r.Hlavni * r.Zbytek;
@@ -165,8 +174,8 @@ double SmerBodu(Dvojcislo y, Dvojcislo x) {
     const bool strme = y.Hlavni > x.Hlavni;
     if (strme) std::swap(x, y);
     // Turned back by the angle of the table, the point is nearly ahead, in the direction t.
-    const double k = std::floor(y.Hlavni / x.Hlavni * DILKU + 0.5);
-    const double c = k / DILKU;
+    const auto k = static_cast<int>(y.Hlavni / x.Hlavni * DILKU + 0.5);
+    const double c = static_cast<double>(k) / DILKU;
     const Dvojcislo cx = Soucin(c, x.Hlavni), cy = Soucin(c, y.Hlavni);
     Dvojcislo pres = Srovnej(x.Hlavni, cy.Hlavni);
     pres.Zbytek += cy.Zbytek + (x.Zbytek + c * y.Zbytek);
@@ -191,15 +200,18 @@ double Meritko(double vetsi) {
 }  // namespace
 
 double Sin(double uhel) {
-    return uhel == 0 ? uhel : Sinus(uhel, 0).Hlavni;
+    const auto [dilku, zbyva] = Rozloz(uhel);
+    return uhel == 0 ? uhel : Sinus(dilku, zbyva).Hlavni;
 }
 
 double Cos(double uhel) {
-    return Sinus(uhel, CTVRT).Hlavni;
+    const auto [dilku, zbyva] = Rozloz(uhel);
+    return Sinus(dilku + CTVRT, zbyva).Hlavni;
 }
 
 double Tan(double uhel) {
-    return uhel == 0 ? uhel : (Sinus(uhel, 0) / Sinus(uhel, CTVRT)).Hlavni;
+    const auto [dilku, zbyva] = Rozloz(uhel);
+    return uhel == 0 ? uhel : (Sinus(dilku, zbyva) / Sinus(dilku + CTVRT, zbyva)).Hlavni;
 }
 
 double Asin(double x) {

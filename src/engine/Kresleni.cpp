@@ -204,18 +204,14 @@ float SmerPodleJmena(const Tabulky& tabulky, std::string_view naPrimce) {
     const std::string_view pismeno1 = naPrimce.substr(0, 1);
     const std::string_view pismeno2 =
         naPrimce.size() > 1 ? naPrimce.substr(1, 1) : std::string_view{};
-    Bod A, B;
-    for (int i = 1; i <= tabulky.PocetTrojic; ++i) {
+    for (int i = tabulky.PocetTrojic; i >= 1; --i) {
         const Trojice& t = tabulky.Trojice_tab[i];
-        if (pismeno1 == t.Jmeno1 && pismeno2 == t.Jmeno2) {
-            A = {t.X1, t.Y1};
-            B = {t.X2, t.Y2};
-        } else if (pismeno2 == t.Jmeno1 && pismeno1 == t.Jmeno2) {
-            A = {t.X2, t.Y2};
-            B = {t.X1, t.Y1};
-        }
+        const Bod A{t.X1, t.Y1};
+        const Bod B{t.X2, t.Y2};
+        if (pismeno1 == t.Jmeno1 && pismeno2 == t.Jmeno2) return Smer(A, B, 0);
+        if (pismeno2 == t.Jmeno1 && pismeno1 == t.Jmeno2) return Smer(B, A, 0);
     }
-    return Smer(A, B, 0);
+    return 0;
 }
 
 // The label of a circle is tried every 15 degrees from the first angle to the last: from the
