@@ -69,6 +69,8 @@ public:
     [[nodiscard]] virtual std::vector<Bod> MistaNacrtu() const = 0;
     /// The element, from 0, that a press here hits; -1: none.
     [[nodiscard]] virtual int PrvekNacrtu(float x, float y) const = 0;
+    /// The element as it is seen; -1: none.
+    [[nodiscard]] virtual PrvekVNacrtu VidetPrvek(int prvek) const = 0;
     /// The press on the sketch. True if it hit something.
     virtual bool StiskNacrtu(float x, float y) = 0;
     /// Draws the sketch with its marks.

@@ -92,6 +92,12 @@ int DialogKroku::PrvekNacrtu(float x, float y) const {
     return PrvekPod(NacrtPrikladu().Prvky, x, y);
 }
 
+PrvekVNacrtu DialogKroku::VidetPrvek(int prvek) const {
+    if (prvek < 0) return {};
+    const auto i = static_cast<std::size_t>(prvek);
+    return {std::string(NacrtPrikladu().Prvky[i].Velicina), (Stav().Znacky >> i & 1U) != 0};
+}
+
 bool DialogKroku::StiskNacrtu(float x, float y) {
     const int prvek = PrvekNacrtu(x, y);
     if (prvek < 0 || Stav().Skontrolovano) return false;

@@ -89,6 +89,7 @@ public:
     }
     [[nodiscard]] std::vector<Bod> MistaNacrtu() const override;
     [[nodiscard]] int PrvekNacrtu(float x, float y) const override;
+    [[nodiscard]] PrvekVNacrtu VidetPrvek(int prvek) const override;
     bool StiskNacrtu(float x, float y) override;
     void KresliNacrt(Plane& plocha) const override;
     void Zkontroluj() override;

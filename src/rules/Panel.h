@@ -93,6 +93,14 @@ struct PolozkaZadani {
     friend bool operator==(const PolozkaZadani&, const PolozkaZadani&) = default;
 };
 
+/// An element of the sketch as it is seen: the name that stands beside it ("a", "alfa", "va";
+/// empty: there is none), and whether it is marked.
+struct PrvekVNacrtu {
+    std::string Jmeno;
+    bool Oznaceny = false;
+    friend bool operator==(const PrvekVNacrtu&, const PrvekVNacrtu&) = default;
+};
+
 /// What the plane waits for, as the pressed tool, the prompt and the chosen line tell it. A point
 /// is named only where one of these names it.
 struct Gesto {

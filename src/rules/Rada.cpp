@@ -59,12 +59,16 @@ std::string_view Mira(std::string_view odecet) {
     return odecet.substr(0, odecet.find_first_not_of("-0123456789"));
 }
 
+/// A box for a value waits to be filled in.
+bool JePrazdne(const Vstup& box) {
+    return box.Videt && box.Text.empty();
+}
+
 /// The object in hand.
 Rada::Co CoSUtvarem(const Videne& v) {
     using enum Rada::Co;
     if (v.Tahne) return Tahni;
-    const Vstup& box = v.Krok.txtVstup;
-    return box.Videt && box.Text.empty() ? NapisHodnotu : Kresli;
+    return JePrazdne(v.Krok.txtVstup) ? NapisHodnotu : Kresli;
 }
 
 /// No object in hand, and no list open.
@@ -91,6 +95,7 @@ Rada::Co CoPriHre(const Videne& v) {
     if (!v.Tahne) {
         if (const Rada::Co hrozi = CoHrozi(v); hrozi != Nic) return hrozi;
     }
+    if (!v.Tahne && !v.PodPrstenem.Jmeno.empty()) return OznacPrvek;
     if (!p.PicZiva) return Zkontroluj;
     if (p.Combo.Otevreny) return VyberRadek;
     if (p.Kresleni.Druh != Gesto::Tvar::Zadny) return CoSUtvarem(v);
@@ -120,7 +125,9 @@ Rada UrciRadu(const Videne& v) {
         r.Zpet = JeZivy(v.Krok, TVAR_ZPET);
         r.SMirou = v.Krok.txtVstup.Videt && !v.Krok.txtVstup.Text.empty();
     }
+    if (r.Druh == OznacPrvek) r.Prvek = v.PodPrstenem;
     if (r.Druh == Tahni) {
+        r.BezMiry = JePrazdne(v.Krok.txtVstup);
         r.Odecet = v.Odecet;
         r.Shoda = r.SMirou && Mira(v.Odecet) == v.Krok.txtVstup.Text;
         r.Podlozka = v.Podlozka;

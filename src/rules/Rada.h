@@ -30,6 +30,7 @@ struct Videne {
     /// What a press would do that the pointer (or the ring of the keys) is over.
     enum class CoPod { Nic, Zpet, Sestroj, Kontrola, Odchod };
     CoPod Pod = CoPod::Nic;
+    PrvekVNacrtu PodPrstenem;   ///< element of the sketch that the ring of the keys is at
     VysledekPrikladu Vysledek;  ///< after the check
     friend bool operator==(const Videne&, const Videne&) = default;
 };
@@ -55,6 +56,8 @@ struct Rada {
         Zkontroluj,
         VratNezavrenou,    ///< a step back: the objects do not close the figure
         VratNesestrojeny,  ///< a step back: there is no triangle of the values
+        // with the ring of the keys on the sketch
+        OznacPrvek,  ///< which element a press would mark
         // why a tool is not live
         MrtvyBezZnacek,   ///< nothing is marked yet
         MrtvySUtvarem,    ///< an object waits to be drawn
@@ -75,8 +78,10 @@ struct Rada {
     bool ZasunNacrt = false;  ///< the sketch lies over the plane that is to be drawn on
     bool Podlozka = false;    ///< the drag is ended by the pad
     bool SMirou = false;      ///< a value is typed that the read-out is to reach
+    bool BezMiry = false;     ///< its box is empty
     bool Shoda = false;       ///< it is reached
     bool Zpet = false;        ///< the step in hand can be laid down by a step back
+    PrvekVNacrtu Prvek;
     std::string Odecet;
     VysledekPrikladu Priklad;
     friend bool operator==(const Rada&, const Rada&) = default;

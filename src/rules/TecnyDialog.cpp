@@ -99,6 +99,13 @@ int TecnyDialog::PrvekNacrtu(float x, float y) const {
     return c == nullptr ? -1 : PrvekNacrtuPod(c->Kod, x, y);
 }
 
+PrvekVNacrtu TecnyDialog::VidetPrvek(int prvek) const {
+    const Cviceni* c = Hrane();
+    if (c == nullptr || prvek < 0) return {};
+    const PrvekNacrtuTecny& e = NacrtTecny(c->Kod)[static_cast<std::size_t>(prvek)];
+    return {std::string(e.Jmeno), (stav_.Znacky & Znacka(e.Znacka)) != 0};
+}
+
 void TecnyDialog::KresliNacrt(Plane& plocha) const {
     const Cviceni* c = Hrane();
     KresliNacrtTecny(plocha, c == nullptr ? std::string_view{} : c->Kod, stav_.Znacky);

@@ -79,6 +79,7 @@ public:
     [[nodiscard]] std::optional<Bod> TrefilBy(float x, float y) const override;
     [[nodiscard]] std::vector<Bod> MistaNacrtu() const override;
     [[nodiscard]] int PrvekNacrtu(float x, float y) const override;
+    [[nodiscard]] PrvekVNacrtu VidetPrvek(int prvek) const override;
     bool StiskNacrtu(float x, float y) override;
     void KresliNacrt(Plane& plocha) const override;
     void Posun(int dx, int dy) override;

@@ -131,6 +131,7 @@ private:
     // DeskaRada.cpp: the guide line
     void RozlozRadu();
     void ObnovRadu();
+    [[nodiscard]] PrvekVNacrtu PrvekPodPrstenem() const;
     [[nodiscard]] int MrtvyNastrojPod(const Mys& m) const;
     void UkazatelNad(const Ovladac* o);
     // DeskaSerie.cpp: check, verdict, series

@@ -173,6 +173,7 @@ bool DeskaForm::KlavesaNa(Ovladac& o, std::string_view klavesa, int shift) {
     if (&o == &SamplePic && smer) {
         const auto pocet = static_cast<int>(dialog_->MistaNacrtu().size());
         if (pocet > 0) zona_ = (zona_ % pocet + smer->X + smer->Y + pocet) % pocet;
+        ObnovRadu();
         return true;
     }
     if (&o != &Pic) return false;

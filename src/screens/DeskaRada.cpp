@@ -3,6 +3,7 @@
 
 #include "engine/Tabulky.h"
 #include "platform/Host.h"
+#include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
 #include "screens/DeskaForm.h"
 #include "screens/RadaCesky.h"
@@ -67,6 +68,15 @@ void DeskaForm::UkazatelNad(const Ovladac* o) {
     ObnovRadu();
 }
 
+/// The element of the sketch that the shown ring is at.
+PrvekVNacrtu DeskaForm::PrvekPodPrstenem() const {
+    const auto prsten = s_.Okna().PrstenVpredu();
+    if (!prsten || prsten->Co != &SamplePic) return {};
+    const Bod b = Ukazatel(SamplePic).Hrot;
+    return dialog_->VidetPrvek(
+        dialog_->PrvekNacrtu(static_cast<float>(b.X), static_cast<float>(b.Y)));
+}
+
 void DeskaForm::ObnovRadu() {
     if (JeUprostred()) return;
     using Doba = Videne::Doba;
@@ -75,6 +85,7 @@ void DeskaForm::ObnovRadu() {
                                          : Doba::Hraje;
     videne_.NacrtVysunuty = Image1.Tag == "1";
     videne_.Narysovano = s_.PocetUtvaru > danych_;
+    videne_.PodPrstenem = PrvekPodPrstenem();
     const Rada r = UrciRadu(videne_);
     const CimSeHraje cim = s_.Okna().HrajeSe();
     if (r == rada_ && cim == cimRady_) return;

@@ -1,5 +1,6 @@
 #include "screens/RadaCesky.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "base/Cisla.h"
@@ -65,8 +66,12 @@ constexpr Postup POSTUPY[] = {
 
 constexpr std::string_view ZASUN_NACRT = "Náčrtek v cestě zasuneš šipkou na jeho levém okraji.";
 constexpr std::string_view SHODNA_MIRA = "Pusť, až se ukázaná míra shodne s napsanou.";
+constexpr std::string_view BEZ_MIRY = "Velikost není napsaná, políčko vlevo je prázdné.";
+constexpr std::string_view TAH_BEZ_MIRY = " – velikost není napsaná, políčko vlevo je prázdné.";
 constexpr std::string_view PRESNE_NA_BOD = "Označ na ploše přesně hledaný bod.";
 constexpr std::string_view STRED_STRANY = "Začni ve středu strany {}, táhni vodorovně a pusť.";
+constexpr std::string_view OZNACI = "Mezerník označí: ", ZRUSI_ZNACKU = "Mezerník zruší značku: ";
+constexpr std::string_view DALSI_PRVEK = "Označ všechno, co je zadáno. Na další prvek vedou šipky.";
 constexpr std::string_view POSUN_KONEC = "Posuň konec šipkami a klepni na „hotovo“.";
 constexpr std::string_view POSUN_K_MIRE = " – dolaď šipkami a klepni na „hotovo“.";
 constexpr std::string_view UKAZ_CHYBY =
@@ -88,11 +93,19 @@ constexpr Slova ZPET_BEZ_BODU{
     "Nejde-li bod označit, vrať se o krok zpět.",
     "Šipky vedou kříž, mezerník označí. Nejde-li bod označit, vrať se o krok zpět.",
     "Nejde-li bod označit, vrať se o krok zpět."};
+constexpr Slova STRED_K_MIRE{
+    "Střed se ukáže, když na něj najedeš. Pusť, až se ukázaná míra shodne s napsanou.",
+    "Střed se ukáže, když k němu dojde kříž. Pusť, až se míra shodne s napsanou.",
+    "Začni blízko středu, kružnice si ho najde. Pusť, až se míra shodne s napsanou."};
 constexpr Slova STRED_SE_UKAZE{"Střed se ukáže, když na něj najedeš.",
                                "Střed se ukáže, když k němu dojde kříž.",
                                "Začni blízko středu, kružnice si ho najde."};
-constexpr Slova ZAVRI_SEZNAM{"Kliknutím jinam se seznam zavře.", "Klávesou Esc se seznam zavře.",
+constexpr Slova ZAVRI_SEZNAM{"Klepnutím jinam se seznam zavře.", "Klávesou Esc se seznam zavře.",
                              "Klepnutím jinam se seznam zavře."};
+/// With a value that is to be reached.
+constexpr Slova CIM_KRESLIT_K_MIRE{
+    SHODNA_MIRA, "Písmeno skočí na bod, mezerník začne, šipky táhnou. Pusť, až míra souhlasí.",
+    SHODNA_MIRA};
 constexpr Slova CIM_KRESLIT{
     "", "Mezerník začne i pustí, šipky (se Shiftem víc) táhnou, písmeno skočí na bod.", ""};
 constexpr Slova CIM_UKAZAT{
@@ -141,10 +154,39 @@ std::string Bodu(int n) {
 std::string_view CoPritom(const Rada& r, CimSeHraje cim) {
     const bool bod = r.Kresleni.Druh == Tvar::Bod;
     if (bod && r.Zpet) return ZPET_BEZ_BODU.Pro(cim);
+    const bool stred = JeStredStrany(r.Kresleni);
+    // How far to draw goes before what only makes room for it.
+    if (r.SMirou) return (stred ? STRED_K_MIRE : CIM_KRESLIT_K_MIRE).Pro(cim);
     if (r.ZasunNacrt) return ZASUN_NACRT;
-    if (JeStredStrany(r.Kresleni)) return STRED_SE_UKAZE.Pro(cim);
-    const std::string_view jak = (bod ? CIM_UKAZAT : CIM_KRESLIT).Pro(cim);
-    return jak.empty() && r.SMirou ? SHODNA_MIRA : jak;
+    return (stred ? STRED_SE_UKAZE : bod ? CIM_UKAZAT : CIM_KRESLIT).Pro(cim);
+}
+
+RadkyRady PriTahu(const Rada& r, CimSeHraje cim) {
+    if (r.BezMiry) {
+        const std::string prvni =
+            r.Odecet.empty() ? std::string(BEZ_MIRY) : r.Odecet + std::string(TAH_BEZ_MIRY);
+        return {prvni, std::string(r.Podlozka ? POSUN_KONEC : "")};
+    }
+    if (r.Podlozka)
+        return {r.Odecet + std::string(r.Odecet.empty() ? POSUN_KONEC : POSUN_K_MIRE), ""};
+    const Slova& slova = r.Odecet.empty() ? TAH_BEZ_ODECTU
+                         : r.Shoda        ? TAH_NA_MIRE
+                         : r.SMirou       ? TAH_K_MIRE
+                                          : TAH_NA_MISTO;
+    return {r.Odecet + std::string(slova.Pro(cim)), ""};
+}
+
+/// The letters of the sketch's angles.
+struct Uhel {
+    std::string_view Jmeno, Pismeno;
+};
+constexpr Uhel UHLY[] = {{"alfa", "α"}, {"beta", "β"}, {"gama", "γ"}, {"delta", "δ"}};
+
+RadkyRady OPrvku(const PrvekVNacrtu& p) {
+    const auto* u = std::ranges::find(UHLY, std::string_view(p.Jmeno), &Uhel::Jmeno);
+    return {std::string(p.Oznaceny ? ZRUSI_ZNACKU : OZNACI) +
+                (u == std::end(UHLY) ? p.Jmeno : std::string(u->Pismeno)),
+            std::string(DALSI_PRVEK)};
 }
 
 RadkyRady OVysledku(const VysledekPrikladu& v) {
@@ -166,15 +208,10 @@ RadkyRady RadaCesky(const Rada& r, CimSeHraje cim) {
             return {std::string(NAPIS_HODNOTU.Pro(cim)), JakKreslit(r.Kresleni)};
         case Co::VyberRadek:
             return {std::string(VYBER_RADEK), std::string(ZAVRI_SEZNAM.Pro(cim))};
-        case Co::Tahni: {
-            if (r.Podlozka)
-                return {r.Odecet + std::string(r.Odecet.empty() ? POSUN_KONEC : POSUN_K_MIRE), ""};
-            const Slova& slova = r.Odecet.empty() ? TAH_BEZ_ODECTU
-                                 : r.Shoda        ? TAH_NA_MIRE
-                                 : r.SMirou       ? TAH_K_MIRE
-                                                  : TAH_NA_MISTO;
-            return {r.Odecet + std::string(slova.Pro(cim)), ""};
-        }
+        case Co::Tahni:
+            return PriTahu(r, cim);
+        case Co::OznacPrvek:
+            return OPrvku(r.Prvek);
         case Co::ZvolNastroj:
             return {"Zvol nástroj pro další krok.", std::string(r.ZasunNacrt ? ZASUN_NACRT : "")};
         case Co::Kresli:

@@ -63,6 +63,13 @@ constexpr Podminka PODMINKY[] = {
     {Co::Zkontroluj, [](const DeskaForm& d) { return Zije(d.PicTop[0]) && !d.Pic.Enabled; }},
     {Co::VratNezavrenou, ZijeZpet},
     {Co::VratNesestrojeny, ZijeZpet},
+    {Co::OznacPrvek,
+     [](const DeskaForm& d) {
+         const Bod b = d.Ukazatel(d.SamplePic).Hrot;
+         const Dialog& dialog = d.Dialogem();
+         const int prvek = dialog.PrvekNacrtu(static_cast<float>(b.X), static_cast<float>(b.Y));
+         return Zije(d.SamplePic) && dialog.VidetPrvek(prvek) == d.RadaTed().Prvek;
+     }},
     {Co::MrtvyBezZnacek, JeMrtvy},
     {Co::MrtvySUtvarem, JeMrtvy},
     {Co::MrtvySeSeznamem, [](const DeskaForm& d) { return JeMrtvy(d) && ZijeRadek(d); }},
@@ -88,8 +95,8 @@ std::string CoJeVidet(const DeskaForm& d) {
     std::ostringstream s;
     s << int{m.CisloUlohy} << '|' << static_cast<int>(d.CimRady()) << '|' << m.PocetUtvaru << '|'
       << v.NacrtVysunuty << v.Tahne << v.Podlozka << '|' << v.Odecet << '|' << v.MrtvyNastroj
-      << static_cast<int>(v.Pod) << '|' << (p.Kresleni.Druh != Gesto::Tvar::Zadny) << p.PicZiva
-      << p.Nesestrojen << '|';
+      << static_cast<int>(v.Pod) << '|' << v.PodPrstenem.Jmeno << v.PodPrstenem.Oznaceny << '|'
+      << (p.Kresleni.Druh != Gesto::Tvar::Zadny) << p.PicZiva << p.Nesestrojen << '|';
     for (const Tlacitko& t : p.cmd) s << t.Tvar << (t.Barevne ? 'b' : 's') << t.Zive << ' ';
     s << '|' << p.lblText1 << '|' << p.lblText2 << '|' << p.lblText3 << '|' << p.lblText4.Text;
     s << '|' << p.txtVstup.Videt << p.txtVstup.Ziva << p.txtVstup.Text;
