@@ -71,7 +71,8 @@ constexpr std::string_view TAH_BEZ_MIRY = " – velikost není napsaná, políč
 constexpr std::string_view PRESNE_NA_BOD = "Označ na ploše přesně hledaný bod.";
 constexpr std::string_view STRED_STRANY = "Začni ve středu strany {}, táhni vodorovně a pusť.";
 constexpr std::string_view OZNACI = "Mezerník označí: ", ZRUSI_ZNACKU = "Mezerník zruší značku: ";
-constexpr std::string_view DALSI_PRVEK = "Označ všechno, co je zadáno. Na další prvek vedou šipky.";
+constexpr std::string_view DALSI_PRVEK =
+    "Označ všechno, co je zadáno. Na další prvek vedou šipky, dál Tab.";
 constexpr std::string_view POSUN_KONEC = "Posuň konec šipkami a klepni na „hotovo“.";
 constexpr std::string_view POSUN_K_MIRE = " – dolaď šipkami a klepni na „hotovo“.";
 constexpr std::string_view UKAZ_CHYBY =
