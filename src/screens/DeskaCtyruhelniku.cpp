@@ -16,8 +16,6 @@ constexpr Obdelnik BOX_UTVARU{98, 371, 56, BOX_VYSKA};
 // The assignment has a third row here.
 constexpr int VYZVA_NAHORE = 182, VYZVA_VYSKA = 70;
 
-constexpr int TVARY[] = {3, 4, 5, 6, 10, 12, 13, 14};
-
 void Poloz(Ovladac& o, const Obdelnik& kam) {
     o.Left = kam.Left;
     o.Top = kam.Top;
@@ -27,7 +25,7 @@ void Poloz(Ovladac& o, const Obdelnik& kam) {
 
 }  // namespace
 
-DeskaCtyruhelniku::DeskaCtyruhelniku(Sezeni& s) : DeskaForm(s) {
+DeskaCtyruhelniku::DeskaCtyruhelniku(Sezeni& s, const RadekDesky& deska) : DeskaForm(s, deska) {
     Label* const nazvy[] = {&lblText5, &lblText6, &lblText7};
     const char* const jmena[] = {"lblText5", "lblText6", "lblText7"};
     for (int i = 0; i < 3; ++i) {
@@ -48,10 +46,6 @@ DeskaCtyruhelniku::DeskaCtyruhelniku(Sezeni& s) : DeskaForm(s) {
     txtVstup3.Zastavka = txtVstup.Zastavka + 2;
     Pridej(lblText8, "lblText8", jednotka(1));
     Pridej(lblText9, "lblText9", jednotka(2));
-}
-
-std::span<const int> DeskaCtyruhelniku::Tvary() const {
-    return TVARY;
 }
 
 void DeskaCtyruhelniku::Load() {

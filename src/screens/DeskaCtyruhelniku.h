@@ -8,7 +8,7 @@ namespace rysovna {
 /// values of the starting triangle are typed, and room for five given quantities.
 class DeskaCtyruhelniku : public DeskaForm {
 public:
-    explicit DeskaCtyruhelniku(Sezeni& s);
+    DeskaCtyruhelniku(Sezeni& s, const RadekDesky& deska);
 
     Label lblText5, lblText6, lblText7;  ///< names of the three values
     Label lblText8, lblText9;            ///< units of the second and third; lblText4 of the first
@@ -18,7 +18,6 @@ public:
     void Change(TextBox& t) override;
 
 protected:
-    [[nodiscard]] std::span<const int> Tvary() const override;
     void UkazDalsi(const Panel& panel) override;
 };
 

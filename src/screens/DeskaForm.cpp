@@ -7,7 +7,6 @@
 #include "rules/Ulohy.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
-#include "store/MapaPoli.h"
 #include "store/Soubory.h"
 
 namespace rysovna {
@@ -39,7 +38,7 @@ constexpr float PISMO_PANELU = 8;  // points, at 15 twips a pixel
 
 }  // namespace
 
-DeskaForm::DeskaForm(Sezeni& s) : FormHry(s) {
+DeskaForm::DeskaForm(Sezeni& s, const RadekDesky& deska) : FormHry(s), deska_(deska) {
     RozlozOvladace();
 }
 
@@ -130,7 +129,8 @@ void DeskaForm::NactiObrazky() {
     s_.PokracujObrazek = NactiObrazek(s_, hry + "pokracbg.bmp");
     picPokracuj.Picture = s_.PokracujObrazek;
     picPokracuj.Enabled = false;
-    for (const int tvar : Tvary()) tvary_[tvar] = NactiDvojici(s_, hry + "what" + DveCislice(tvar));
+    for (const int tvar : deska_.Tvary)
+        tvary_[tvar] = NactiDvojici(s_, hry + "what" + DveCislice(tvar));
     kontrolovano_ = NactiObrazek(s_, hry + "mkont.bmp");
     hodnoceniDobre_ = NactiObrazek(s_, hry + "Check_ok.bmp");
     hodnoceniSpatne_ = NactiObrazek(s_, hry + "Check_ko.bmp");
@@ -158,9 +158,8 @@ void DeskaForm::Load() {
     s_.SmazTabulky();
     s_.KladneBody = s_.ZaporneBody = 0;
     zbyvaPrikladu_ = s_.PocetPrikladuSerie;
-    dialog_ = VyrobDialog({Pic.Plocha(), HidenPic.Plocha()});
-    NactiPriklady(s_, s_.Disk(), s_.CestaHD + DveCislice(s_.CisloUlohy) + ".dat",
-                  DeskaUlohy(s_.CisloUlohy));
+    dialog_ = deska_.VyrobDialog(s_, {Pic.Plocha(), HidenPic.Plocha()});
+    NactiPriklady(s_, s_.Disk(), s_.CestaHD + DveCislice(s_.CisloUlohy) + ".dat", deska_.Mapa);
     dialog_->NovyPriklad();
     NoveZadani();
     PolozKlidnyPanel();

@@ -14,10 +14,32 @@
 #include "rules/Rada.h"
 #include "screens/Hover.h"
 #include "screens/Sezeni.h"
+#include "store/MapaPoli.h"
 
 namespace rysovna {
 
-/// The frame that all six boards share: window, top buttons, arrows, the sliding panel with the
+/// A board: all that the screens know of it. The program's own stand in Desky.cpp.
+struct RadekDesky {
+    std::string_view Jmeno;      ///< of its screen
+    MapaRadku Mapa;              ///< of its tasks' files
+    std::span<const int> Tvary;  ///< numbers of the faces whatNN that its step buttons can have
+    std::unique_ptr<Dialog> (*VyrobDialog)(Misc& misc, Platna platna);
+    std::shared_ptr<Form> (*VyrobForm)(Sezeni& s, const RadekDesky& deska);
+};
+
+/// The row of a board with the dialogue D in the frame F.
+template <class D, class F>
+constexpr RadekDesky DeskaS(std::string_view jmeno, MapaRadku mapa, std::span<const int> tvary) {
+    return {jmeno, mapa, tvary,
+            [](Misc& misc, Platna platna) -> std::unique_ptr<Dialog> {
+                return std::make_unique<D>(misc, platna);
+            },
+            [](Sezeni& s, const RadekDesky& deska) -> std::shared_ptr<Form> {
+                return std::make_shared<F>(s, deska);
+            }};
+}
+
+/// The frame that all boards share: window, top buttons, arrows, the sliding panel with the
 /// sketch, the plane, the step dialogue's controls, the check and the series. It passes events to
 /// the dialogue of the board and shows the panel that the dialogue computes; the rules are there.
 ///
@@ -28,7 +50,9 @@ class DeskaForm : public FormHry {
 public:
     static constexpr int ZASTAVKA_PLOCHY = 9;  ///< of the plane, where it is one
 
-    explicit DeskaForm(Sezeni& s);
+    DeskaForm(Sezeni& s, const RadekDesky& deska);
+
+    [[nodiscard]] std::string_view Jmeno() const override { return deska_.Jmeno; }
 
     PictureBox Pic;       ///< the drawing plane, 384 by 335 px
     PictureBox HidenPic;  ///< its off-screen twin
@@ -89,9 +113,6 @@ public:
     [[nodiscard]] bool JeUprostred() const { return vybiraSe_ || poustiSe_ || posouvaSe_; }
 
 protected:
-    [[nodiscard]] virtual std::unique_ptr<Dialog> VyrobDialog(Platna platna) = 0;
-    /// Numbers of the faces whatNN that the step buttons can have on this board.
-    [[nodiscard]] virtual std::span<const int> Tvary() const = 0;
     /// Shows what a board's panel has beyond the common controls.
     virtual void UkazDalsi(const Panel& /*panel*/) {}
     void Ukaz();
@@ -145,6 +166,7 @@ private:
     void UkazChyby();
     void SkryjChyby();
 
+    const RadekDesky deska_;
     std::unique_ptr<Dialog> dialog_;
     Hover hover_{s_};  ///< 1 to 4 PicTop, 5 to 8 picSipka
     std::array<DvojiceObrazku, 4> horni_, sipky_;

@@ -6,7 +6,7 @@
 
 namespace rysovna {
 
-/// Makes the board of a task, 1 to 20; null if no board is there for it. Not loaded yet: the
+/// Makes the board of a task; null for a number that is none. Not loaded yet: the
 /// caller hands it to the screens.
 [[nodiscard]] std::shared_ptr<Form> VyrobDesku(Sezeni& s, int cisloUlohy);
 

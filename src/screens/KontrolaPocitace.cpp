@@ -43,8 +43,9 @@ void ZkontrolujData(Disk& disk, const std::string& slozka, std::vector<Nalez>& n
         nalezy.push_back(jeden.front());
     };
     for (const Uloha& uloha : ULOHY) {
-        zkus(DveCislice(uloha.Cislo) + ".dat",
-             [&](const std::string& soubor) { NactiPriklady(misc, disk, soubor, uloha.deska); });
+        zkus(DveCislice(uloha.Cislo) + ".dat", [&](const std::string& soubor) {
+            NactiPriklady(misc, disk, soubor, MapaDesky(uloha.deska));
+        });
     }
     zkus("Znamky.dat", [&](const std::string& soubor) {
         NactiZnamky(misc, disk, soubor);

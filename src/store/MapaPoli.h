@@ -78,23 +78,27 @@ constexpr Slot TECNY[]{Druh, Nazev1, Dalsi1, Nazev2, Dalsi2, Nazev3, Dalsi3, K1J
                        K1U,  K2J,    K2U,    K3J,    K3U,    K4J,    K4U,    K5J,
                        K5U,  K6J,    K6U,    K7J,    K7U,    K8J,    K8U};
 
-struct RadekMapy {
-    Deska deska;
-    std::span<const Slot> Pole;
-};
-
-constexpr RadekMapy MAPA[]{
-    {Deska::Troj1Form, TROJ1},       {Deska::Troj2Form, TROJ2},
-    {Deska::CtyrUForm, CTYRUHELNIK}, {Deska::LichoForm, CTYRUHELNIK},
-    {Deska::RovnoForm, ROVNOBEZNIK}, {Deska::TecnyForm, TECNY},
-};
-
 }  // namespace mapa
 
-/// The fields of a board's line in their order, field 1 first.
-constexpr std::span<const Slot> PoleDesky(Deska deska) {
-    for (const mapa::RadekMapy& radek : mapa::MAPA) {
-        if (radek.deska == deska) return radek.Pole;
+/// What a board's line of a task file holds.
+struct MapaRadku {
+    std::span<const Slot> Pole;  ///< its fields in their order, field 1 first
+    bool NulujeKroky = false;    ///< reading clears the done flags of the three steps
+};
+
+constexpr MapaRadku MapaDesky(Deska deska) {
+    switch (deska) {
+        case Deska::Troj1Form:
+            return {mapa::TROJ1, true};
+        case Deska::Troj2Form:
+            return {mapa::TROJ2};
+        case Deska::CtyrUForm:
+        case Deska::LichoForm:
+            return {mapa::CTYRUHELNIK};
+        case Deska::RovnoForm:
+            return {mapa::ROVNOBEZNIK};
+        case Deska::TecnyForm:
+            return {mapa::TECNY};
     }
     return {};
 }

@@ -72,14 +72,12 @@ void NactiZnamky(Misc& misc, Disk& disk, std::string_view soubor) {
     }
 }
 
-void NactiPriklady(Zaznamy& z, Disk& disk, std::string_view soubor, Deska deska) {
-    const std::span<const Slot> mapa = PoleDesky(deska);
+void NactiPriklady(Zaznamy& z, Disk& disk, std::string_view soubor, const MapaRadku& mapa) {
     constexpr int RADKU = decltype(Zaznamy::Priklady)::POSLEDNI;
     for (int i = 1; i <= RADKU; ++i) {
-        for (const Slot& slot : mapa) slot.V(z.Priklady[i]).clear();
-        if (deska == Deska::Troj1Form) {
-            for (const int k : {1, 2, 3}) z.Priklady[i].Kroky[k].Hotovo = 0;
-        }
+        for (const Slot& slot : mapa.Pole) slot.V(z.Priklady[i]).clear();
+        if (!mapa.NulujeKroky) continue;
+        for (const int k : {1, 2, 3}) z.Priklady[i].Kroky[k].Hotovo = 0;
     }
     z.PocetPrikladu = 0;
 
@@ -94,7 +92,7 @@ void NactiPriklady(Zaznamy& z, Disk& disk, std::string_view soubor, Deska deska)
         const std::string text = Z1250(DekodujRadek(ulozeny), misto);
         prazdny = prazdny && text.find_first_not_of(" #") == std::string::npos;
         std::string_view zbytek = text;
-        for (const Slot& slot : mapa) {
+        for (const Slot& slot : mapa.Pole) {
             const std::size_t konec = zbytek.find('#');
             slot.V(priklad) = zbytek.substr(0, konec);
             if (konec == std::string_view::npos) break;

@@ -6,7 +6,7 @@
 
 #include "base/Disk.h"
 #include "rules/Misc.h"
-#include "rules/Ulohy.h"
+#include "store/MapaPoli.h"
 
 namespace rysovna {
 
@@ -23,7 +23,7 @@ void NactiZnamky(Misc& misc, Disk& disk, std::string_view soubor);
 /// PocetPrikladu. Fields past the board's last are dropped, those that a line does not reach are
 /// empty. Slots that the board does not read keep what they held. A 101st line is a fault, and so
 /// is a file without a line that says anything.
-void NactiPriklady(Zaznamy& z, Disk& disk, std::string_view soubor, Deska deska);
+void NactiPriklady(Zaznamy& z, Disk& disk, std::string_view soubor, const MapaRadku& mapa);
 
 /// The sentences of a wrong step, in the order of the file, which is read anew each time; none if
 /// it does not hold the number. More than a hundred of one number are a fault.

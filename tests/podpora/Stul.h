@@ -60,7 +60,7 @@ public:
     explicit Stul(int uloha) {
         if (!NactiKonfiguraci(Pamet())) throw std::runtime_error("bez konfigurace");
         Pamet().CisloUlohy = static_cast<std::uint8_t>(uloha);
-        NactiPriklady(Pamet(), Disk_(), Soubor(), DeskaUlohy(uloha));
+        NactiPriklady(Pamet(), Disk_(), Soubor(), MapaDesky(DeskaUlohy(uloha)));
         Pamet().Vety = [this, vety = Pamet().Vety](int cislo) {
             OverMisto(cislo);
             return vety(cislo);
@@ -71,7 +71,7 @@ public:
     Stul& Radek(std::string_view radek) {
         relace_.PisSoubor(DveCislice(Pamet().CisloUlohy) + ".dat",
                           ZakodujRadek(Do1250(radek)) + "\r\n");
-        NactiPriklady(Pamet(), Disk_(), Soubor(), DeskaUlohy(Pamet().CisloUlohy));
+        NactiPriklady(Pamet(), Disk_(), Soubor(), MapaDesky(DeskaUlohy(Pamet().CisloUlohy)));
         return *this;
     }
     /// Plays each line of the task's file, Seminek() new examples of each, until one fails: calls

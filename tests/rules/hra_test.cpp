@@ -71,7 +71,7 @@ Misc Otevri(const Priprava& p) {
     misc.CisloUlohy = static_cast<std::uint8_t>(p.Uloha);
     misc.PocetPrikladu = 1;
     std::string_view zbytek = p.Radek;
-    for (const Slot& slot : PoleDesky(DeskaUlohy(p.Uloha))) {
+    for (const Slot& slot : MapaDesky(DeskaUlohy(p.Uloha)).Pole) {
         const std::size_t konec = zbytek.find('#');
         slot.V(misc.Priklady[1]) = zbytek.substr(0, konec);
         if (konec == std::string_view::npos) break;

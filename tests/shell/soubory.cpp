@@ -64,14 +64,14 @@ TEST_F(Soubory, PoleSestiDesek) {
     const std::string soubor = Pis("01.dat", Zakodovane({radek})).string();
     for (int uloha = 1; uloha <= 20; ++uloha) {
         misc.Priklady.Smaz();
-        NactiPriklady(misc, Disk_(), soubor, DeskaUlohy(uloha));
+        NactiPriklady(misc, Disk_(), soubor, MapaDesky(DeskaUlohy(uloha)));
         EXPECT_EQ(PoradiPoli(misc.Priklady[1]), pole[poradi[uloha - 1]]) << uloha;
     }
 }
 
 TEST_F(Soubory, RadkyUlohy) {
     const auto nacti = [&](std::string_view obsah) {
-        NactiPriklady(misc, Disk_(), Pis("01.dat", obsah).string(), Deska::Troj1Form);
+        NactiPriklady(misc, Disk_(), Pis("01.dat", obsah).string(), MapaDesky(Deska::Troj1Form));
     };
     misc.Priklady[100].Druh = "starý";
     misc.Priklady[2].Text2 = "cizí slot";
@@ -98,7 +98,7 @@ TEST_F(Soubory, VadneSouboryJmenujiMisto) {
         const std::string soubor = Cesta(jmeno).string();
         if (jmeno == "Errors.dat") return PridejChybu(misc, 2);
         if (jmeno == "Znamky.dat") return NactiZnamky(misc, Disk_(), soubor);
-        NactiPriklady(misc, Disk_(), soubor, Deska::Troj1Form);
+        NactiPriklady(misc, Disk_(), soubor, MapaDesky(Deska::Troj1Form));
     };
     const std::string sto = Zakodovane(std::vector<std::string>(100, "1#x"));
     const std::string pet = "1|2|3\r\n1|2|3\r\n1|2|3\r\n1|2|3\r\n1|2|3\r\n";

@@ -121,7 +121,7 @@ private:
     }
 
     void Priklad(const Radek& radek) {
-        const std::span<const Slot> mapa = PoleDesky(DeskaUlohy(soubor_.Uloha));
+        const std::span<const Slot> mapa = MapaDesky(DeskaUlohy(soubor_.Uloha)).Pole;
         for (const auto& [pole, duvod] : ZkontrolujPriklad(soubor_.Uloha, radek.Text)) {
             const auto i = static_cast<std::size_t>(pole);
             std::string misto = i == 0 ? "" : "pole " + std::to_string(i);

@@ -56,7 +56,7 @@ public:
     HledaniVRadku(int uloha, std::string_view radek)
         : uloha_(uloha),
           pole_(Rozdel(radek, '#')),
-          jichMaByt_(PoleDesky(DeskaUlohy(uloha)).size()) {}
+          jichMaByt_(MapaDesky(DeskaUlohy(uloha)).Pole.size()) {}
 
     std::vector<NalezPole> Proved() {
         if (pole_.size() > jichMaByt_) {
