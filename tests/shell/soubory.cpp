@@ -11,7 +11,6 @@
 #include "rules/Kontrola.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
-#include "screens/DeskyForm.h"
 #include "shell/soubory_pomoc.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
