@@ -46,9 +46,7 @@ constexpr DeskaProgramu DESKY[] = {
 }  // namespace
 
 std::shared_ptr<Form> VyrobDesku(Sezeni& s, int cisloUlohy) {
-    const Uloha* uloha = NajdiUlohu(cisloUlohy);
-    if (uloha == nullptr) return nullptr;
-    const auto* d = std::ranges::find(DESKY, uloha->deska, &DeskaProgramu::Ktera);
+    const auto* d = std::ranges::find(DESKY, DeskaUlohy(cisloUlohy), &DeskaProgramu::Ktera);
     return d->Radek.VyrobForm(s, d->Radek);
 }
 

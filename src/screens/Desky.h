@@ -6,8 +6,7 @@
 
 namespace rysovna {
 
-/// Makes the board of a task; null for a number that is none. Not loaded yet: the
-/// caller hands it to the screens.
+/// Makes the board of a task. Not loaded yet: the caller hands it to the screens.
 [[nodiscard]] std::shared_ptr<Form> VyrobDesku(Sezeni& s, int cisloUlohy);
 
 }  // namespace rysovna

@@ -3,13 +3,15 @@
 #include <utility>
 
 #include "platform/Cesta.h"
+#include "rules/Ulohy.h"
 
 namespace rysovna {
 
 Sezeni::Sezeni(Host& kde, VyrobceDesek vyrobce) : Stroj(kde), vyrobce_(std::move(vyrobce)) {}
 
 std::shared_ptr<Form> Sezeni::VyrobDesku(int cisloUlohy) {
-    return vyrobce_ ? vyrobce_(*this, cisloUlohy) : nullptr;
+    if (NajdiUlohu(cisloUlohy) == nullptr || !vyrobce_) return nullptr;
+    return vyrobce_(*this, cisloUlohy);
 }
 
 Ukladani& Sezeni::Vysledky() {

@@ -14,7 +14,7 @@ namespace rysovna {
 
 struct Sezeni;
 
-/// Makes the board of a task, not loaded yet; null for a number that is none.
+/// Makes the board of a task, not loaded yet. It is asked for tasks only.
 using VyrobceDesek = std::function<std::shared_ptr<Form>(Sezeni& s, int cisloUlohy)>;
 
 /// One session of the game: what all screens share, on the machine that they run on. Whoever
