@@ -1,0 +1,199 @@
+// The order in which handlers that wait go on.
+
+#include <algorithm>
+#include <sstream>
+
+#include "base/Chyba.h"
+#include "platform/PlatformTest.h"
+
+namespace rysovna::testy {
+namespace {
+
+/// A form whose button 1 to 4 runs handler A to D, and its timer handler T. What each does is told
+/// in words: "50" waits so many ms, "z50" does so closed, "box" asks a question, "pryc" unloads the
+/// form, "konec" ends the process, "chyba" is a fault. Written down: "A0" when A begins at 0 ms,
+/// "A50" when it goes on at 50 ms, "A-" when what it holds goes, "form-" when the form goes.
+class CekajiciForm final : public Form {
+public:
+    using Deje = std::map<char, std::string>;
+
+    CekajiciForm(Deje deje, std::string& zapis) : deje_(std::move(deje)), zapis_(zapis) {}
+    ~CekajiciForm() override { zapis_ += "form- "; }
+    CekajiciForm(const CekajiciForm&) = delete;
+    CekajiciForm& operator=(const CekajiciForm&) = delete;
+
+    std::string_view Jmeno() const override { return "CekajiciForm"; }
+    void Load() override {
+        PridejPole(cmd, "cmd", {0, 0, 50, 20});
+        for (PictureBox& c : cmd) c.Top = 100 * c.Index;
+        Pridej(Hodiny, "Hodiny", {});
+        Hodiny.Interval = 60;
+        Hodiny.Enabled = deje_.contains('T');
+        zacatek_ = Stroj().TickCount();
+    }
+    void MouseDown(Ovladac* o, const Mys& /*m*/) override {
+        if (o != nullptr) Proved(static_cast<char>('A' + o->Index - 1));
+    }
+    void TimerTick(Timer& /*t*/) override { Proved('T'); }
+
+    std::array<PictureBox, 4> cmd;
+    Timer Hodiny;
+
+private:
+    void Zapis(char kdo) { zapis_ += kdo + std::to_string(Stroj().TickCount() - zacatek_) + " "; }
+    void Proved(char kdo) {
+        struct Drzene {
+            char Kdo;
+            std::string& Zapis;
+            ~Drzene() { Zapis += std::string{Kdo} + "- "; }
+        };
+        Zapis(kdo);
+        const Drzene drzene{kdo, zapis_};
+        std::istringstream kroky(deje_.at(kdo));
+        for (std::string krok; kroky >> krok;) {
+            if (krok == "pryc") {
+                Stroj().Okna().Unload(*this);
+            } else if (krok == "konec") {
+                Stroj().Okna().Konec();
+            } else if (krok == "chyba") {
+                Selhani("chyba");
+            } else {
+                Pockej(krok);
+                if (Zavreny() || Stroj().Okna().JeKonec()) return;
+                Zapis(kdo);
+            }
+        }
+    }
+    static void Pockej(const std::string& jak) {
+        Host& host = Stroj();
+        if (jak == "box") {
+            (void)host.MsgBox("Text", "Titul", Styl::OtazkaAnoNe);
+        } else if (jak[0] == 'z') {
+            host.Okna().CekejZavrene(
+                [&] { host.Spi(static_cast<std::uint32_t>(std::stoi(jak.substr(1)))); });
+        } else {
+            const std::uint32_t konec =
+                host.TickCount() + static_cast<std::uint32_t>(std::stoi(jak));
+            while (host.TickCount() < konec && !host.Okna().JeKonec())
+                host.DoEvents(konec - host.TickCount());
+        }
+    }
+
+    Deje deje_;
+    std::string& zapis_;
+    std::uint32_t zacatek_ = 0;
+};
+
+/// Something that happens at a time of the script: a button ("A"), a key ("Escape"), "pryc",
+/// "konec" from outside.
+struct Udalost_ {
+    std::uint32_t Kdy;
+    std::string_view Co;
+};
+
+struct PripadCekani {
+    std::string_view Jmeno;
+    CekajiciForm::Deje Deje;
+    std::vector<Udalost_> Udalosti;
+    std::string_view Zapis;
+    bool Chyba = false;
+};
+
+class CekaniTest : public NaStroji {
+protected:
+    void Udalost(CekajiciForm& form, std::string_view co) {
+        if (co == "pryc") return Okna().Unload(form);
+        if (co == "konec") return Okna().Konec();
+        if (co.size() > 1) return Okna().Klavesa(co, 0);
+        Okna().MysDolu(10, 100 * (co[0] - 'A' + 1) + 5, 1, 0);
+        Okna().MysNahoru(10, 100 * (co[0] - 'A' + 1) + 5, 1, 0);
+    }
+    std::string Hraj(const PripadCekani& p) {
+        std::string zapis;
+        Host_.Spi(1000);
+        auto form = Okna().Nacti<CekajiciForm>(p.Deje, zapis);
+        CekajiciForm* f = form.get();
+        Okna().Show(*form);
+        form.reset();
+        for (const auto& u : p.Udalosti)
+            Host_.NaplanujZa(u.Kdy, [this, f, co = u.Co] { Udalost(*f, co); });
+        const std::uint32_t konec = Host_.TickCount() + 600;
+        bool chyba = false;
+        try {
+            while (Host_.TickCount() < konec && !Okna().JeKonec())
+                Host_.DoEvents(konec - Host_.TickCount());
+        } catch (const BehovaChyba&) {
+            chyba = true;
+        }
+        EXPECT_EQ(chyba, p.Chyba);
+        EXPECT_FALSE(Okna().JeZavreno());
+        zapis += "| ";
+        Okna().UnloadVse();
+        return zapis;
+    }
+};
+
+TEST_F(CekaniTest, PokracujeJenTenKdoZacalPosledni) {
+    Host_.SkutecneZpravy = true;
+    const PripadCekani PRIPADY[] = {
+        {"the one below waits for the one above",
+         {{'A', "50"}, {'B', "100"}},
+         {{0, "A"}, {10, "B"}},
+         "A0 B10 B110 B- A110 A- | form- "},
+        {"also through its later waits, and three deep",
+         {{'A', "50 20"}, {'B', "30 100"}, {'C', "5 5"}},
+         {{0, "A"}, {10, "B"}, {60, "C"}},
+         "A0 B10 B40 C60 C65 C70 C- B140 B- A140 A160 A- | form- "},
+        {"the same handler again",
+         {{'A', "50"}},
+         {{0, "A"}, {30, "A"}},
+         "A0 A30 A80 A- A80 A- | form- "},
+        {"a message box in a wait holds it up until it is answered",
+         {{'A', "50"}, {'B', "box 10"}},
+         {{0, "A"}, {10, "B"}, {20, "C"}, {200, "Escape"}},
+         "A0 B10 B200 B210 B- A210 A- | form- "},
+        {"a timer's handler is one as others, and entered anew when it is done",
+         {{'A', "30"}, {'T', "100"}},
+         {{50, "A"}, {165, "pryc"}},
+         "A50 T60 T160 T- A160 A- T160 T- form- | "},
+        {"unloaded in a wait it is ended when that would have ended",
+         {{'A', "50 50"}, {'B', "100"}},
+         {{0, "A"}, {10, "B"}, {20, "pryc"}},
+         "A0 B10 B- A- form- | "},
+        {"and does what comes before its next wait",
+         {{'A', "10 pryc 50 10"}},
+         {{0, "A"}},
+         "A0 A10 A- form- | "},
+        {"unloaded behind its message box",
+         {{'A', "box 10"}},
+         {{0, "A"}, {10, "pryc"}, {90, "Escape"}},
+         "A0 A- form- | "},
+        {"a closed wait: no press, no timer, the key later",
+         {{'A', "40 z100 40"}, {'B', "1"}, {'T', ""}},
+         {{0, "A"}, {55, "B"}, {139, "B"}, {150, "B"}, {175, "pryc"}},
+         "A0 A40 A140 T140 T- B150 B151 B- A- form- | "},
+        {"the end of the process ends all waits, the last one first",
+         {{'A', "50 50"}, {'B', "box"}, {'C', "200"}},
+         {{0, "A"}, {10, "B"}, {30, "konec"}},
+         "A0 B10 B- A- | form- "},
+        {"also from a handler",
+         {{'A', "50 50"}, {'B', "10 konec 100"}},
+         {{0, "A"}, {10, "B"}},
+         "A0 B10 B20 B- A- | form- "},
+        {"a fault before a wait", {{'A', "chyba 10"}}, {{0, "A"}}, "A0 A- | form- ", true},
+        {"a fault after one, those below end with it",
+         {{'A', "50"}, {'B', "20 chyba"}},
+         {{0, "A"}, {10, "B"}},
+         "A0 B10 B30 B- A- | form- ",
+         true},
+        {"a fault after a message box and after a closed wait",
+         {{'A', "box z10 chyba"}},
+         {{0, "A"}, {5, "Escape"}},
+         "A0 A5 A15 A- | form- ",
+         true},
+    };
+    for (const PripadCekani& p : PRIPADY) EXPECT_EQ(Hraj(p), p.Zapis) << p.Jmeno;
+}
+
+}  // namespace
+}  // namespace rysovna::testy
