@@ -15,7 +15,6 @@
 #include "platform/sdl/Zvuk.h"
 #include "screens/Desky.h"
 #include "screens/KontrolaPocitace.h"
-#include "screens/SelectForm.h"
 #include "screens/Start.h"
 
 namespace {
@@ -43,14 +42,13 @@ void VypisChybu(const std::exception& chyba) {
 }
 
 /// Tells the fault in the window; where that cannot be done either, on the error output.
-void OznamChybu(rysovna::Sezeni& sezeni, const std::exception& chyba) {
+void OznamChybu(rysovna::SdlHost& host, rysovna::Sezeni& sezeni, const std::exception& chyba) {
     using namespace rysovna;
-    Host& host = sezeni.Stroj;
     try {
         // No screen may act behind the message: what they share is not to be trusted any more.
         host.Okna().UnloadVse();
-        host.MsgBox(chyba.what(), "Chyba", Styl::Stop);
-        ObnovObrazovku(sezeni);
+        host.Proved(host.MsgBox(chyba.what(), "Chyba", Styl::Stop));
+        host.Proved(ObnovObrazovku(sezeni));
     } catch (const std::exception& dalsi) {
         VypisChybu(chyba);
         VypisChybu(dalsi);
@@ -77,16 +75,16 @@ int Zkontroluj() {
                            .Zvuk = [&] { return host ? host->OverZvuk() : Zvuk().Over(); }}));
 }
 
-int Hraj(rysovna::Host& host) {
+int Hraj(rysovna::SdlHost& host) {
     using namespace rysovna;
     Sezeni sezeni(host, VyrobDesku);
     try {
-        host.Okna().Nacti<SelectForm>(sezeni);
-        while (!host.Okna().JeKonec()) host.DoEvents(1000);
+        Zacni(sezeni);
+        while (!host.Okna().JeKonec()) host.Obrat(1000);
         host.Okna().UnloadVse();
         return host.Okna().StavKonce();
     } catch (const std::exception& chyba) {
-        OznamChybu(sezeni, chyba);
+        OznamChybu(host, sezeni, chyba);
         return STAV_CHYBA;
     }
 }

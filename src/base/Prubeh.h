@@ -62,7 +62,7 @@ struct PrislibPrubehu {
 
 template <class T>
 struct PrislibHodnoty : PrislibPrubehu {
-    void return_value(T hodnota) { Hodnota = std::move(hodnota); }
+    void return_value(T hodnota) { Hodnota.emplace(std::move(hodnota)); }
     std::optional<T> Hodnota;
 };
 template <>
@@ -158,8 +158,8 @@ private:
 /// whatever happened; at the latest when the process is to end.
 class Cekani {
 public:
-    /// So many milliseconds; 0 is no wait.
-    explicit Cekani(std::uint32_t ms) : ms_(ms) {}
+    /// So many milliseconds; 0 is no wait. nac: what for, so that it can be asked after.
+    explicit Cekani(std::uint32_t ms, int nac = 0) : ms_(ms), nac_(nac) {}
     /// Until the condition holds, or so many milliseconds.
     explicit Cekani(std::function<bool()> dokud, std::optional<std::uint32_t> ms = {})
         : ms_(ms), dokud_(std::move(dokud)) {}
@@ -183,6 +183,7 @@ private:
     std::optional<std::uint32_t> ms_;
     std::function<bool()> dokud_;
     bool vzdy_ = false;
+    int nac_ = 0;
     std::uint32_t od_ = 0;
 };
 

@@ -92,8 +92,9 @@ std::optional<std::uint32_t> Zasobnik::Zbyva() const {
     return *cekani.ms_ - (ted_() - cekani.od_);
 }
 
-bool Zasobnik::Ceka(const Majitel& komu) const {
+bool Zasobnik::Ceka(const Majitel& komu, int nac) const {
     return std::ranges::any_of(vlakna_, [&](const auto& v) {
+        if (v->ceka_ == nullptr || (nac != 0 && v->ceka_->nac_ != nac)) return false;
         return std::ranges::any_of(v->ramce_, [&](const auto& r) { return r.Komu == &komu; });
     });
 }

@@ -38,8 +38,8 @@ public:
 
     /// How many works are begun and not done.
     [[nodiscard]] std::size_t Hloubka() const { return vlakna_.size(); }
-    /// Whether a work of this owner waits.
-    [[nodiscard]] bool Ceka(const Majitel& komu) const;
+    /// Whether a work of this owner waits; nac: for that.
+    [[nodiscard]] bool Ceka(const Majitel& komu, int nac = 0) const;
     /// Ends all that wait, the last one first.
     void Zrus();
 

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Prubeh.h"
 #include "platform/Ovladace.h"
 
 namespace rysovna {
@@ -22,16 +23,18 @@ struct UkazatelKlaves {
     bool Kriz = false;  ///< that place is shown by a cross
 };
 
+/// The answer to a key: none if it was not used, else what is still to be done.
+using Odezva = std::optional<Prubeh<>>;
+
 /// A screen: a record of its own with its objects, and the calls by which events reach it. One
 /// class per screen derives from it. Made and destroyed by Obrazovky alone.
 ///
-/// A wait inside a handler lets further events through, and one of them may unload the very form
-/// whose handler waits. Unloading hides at once; the form is destroyed when no handler of it is
-/// running. After a wait, a handler asks Zavreny() and touches nothing shared if it says yes.
-class Form : public std::enable_shared_from_this<Form> {
+/// A handler that waits does at once what comes before its waits and gives the rest back, to be run
+/// next. A wait lets further events through, and one of them may unload the very form whose handler
+/// waits. Unloading hides at once; the handler is ended when its wait would have ended, also when
+/// the process is to end, and the form is destroyed when no handler of it is left.
+class Form : public std::enable_shared_from_this<Form>, public Majitel, public SmiCekat {
 public:
-    virtual ~Form() = default;
-
     /// Name of the screen, "SelectForm": tests find it by this.
     [[nodiscard]] virtual std::string_view Jmeno() const = 0;
 
@@ -44,6 +47,7 @@ public:
 
     [[nodiscard]] bool Viditelny() const { return viditelny_; }
     [[nodiscard]] bool Zavreny() const { return zavreny_; }
+    [[nodiscard]] bool Skoncil() const final { return zavreny_; }
 
     /// The objects in the order of painting: later ones cover earlier ones.
     [[nodiscard]] const std::vector<Ovladac*>& Ovladace() const { return ovladace_; }
@@ -63,21 +67,21 @@ public:
     virtual void Activate() {}
     /// Just before a painter paints the form: for what is laid out anew only when it is seen.
     virtual void Paint() {}
-    virtual void MouseDown(Ovladac* /*o*/, const Mys& /*m*/) {}
+    virtual Prubeh<> MouseDown(Ovladac* /*o*/, const Mys& /*m*/) { return {}; }
     virtual void MouseMove(Ovladac* /*o*/, const Mys& /*m*/) {}
-    virtual void MouseUp(Ovladac* /*o*/, const Mys& /*m*/) {}
+    virtual Prubeh<> MouseUp(Ovladac* /*o*/, const Mys& /*m*/) { return {}; }
     /// The left button went down and up over the same object.
-    virtual void Click(Ovladac* /*o*/) {}
+    virtual Prubeh<> Click(Ovladac* /*o*/) { return {}; }
     /// Comes with the second press of a double click, between its MouseDown and MouseUp, and takes
     /// nothing away: each of the two presses gives MouseDown, MouseUp and Click of its own. So a
     /// screen that counts presses has no use for it.
     virtual void DblClick(Ovladac* /*o*/) {}
     /// The person edited the text. What the program itself writes into a text box gives no event.
     virtual void Change(TextBox& /*t*/) {}
-    virtual void TimerTick(Timer& /*t*/) {}
-    /// A key that no text box took: "Return", "Escape", ... (shift: 1 Shift, 2 Ctrl). True if the
-    /// form used it; what is left moves the ring or presses what it is on.
-    virtual bool Klavesa(std::string_view /*klavesa*/, int /*shift*/) { return false; }
+    virtual Prubeh<> TimerTick(Timer& /*t*/) { return {}; }
+    /// A key that no text box took: "Return", "Escape", ... (shift: 1 Shift, 2 Ctrl). What the
+    /// form does not use moves the ring or presses what it is on.
+    virtual Odezva Klavesa(std::string_view /*klavesa*/, int /*shift*/) { return std::nullopt; }
     /// A key for the object that has the shown ring, before it moves the ring. True if it was used.
     virtual bool KlavesaNa(Ovladac& /*o*/, std::string_view /*klavesa*/, int /*shift*/) {
         return false;
@@ -101,7 +105,7 @@ public:
     /// The point that a press would catch where the pointer is, design px.
     [[nodiscard]] virtual std::optional<Bod> Zachytne() const { return std::nullopt; }
     /// The window is being closed from outside. The shell's root screen asks its exit question.
-    virtual void QueryUnload() {}
+    virtual Prubeh<> QueryUnload() { return {}; }
 
 protected:
     /// Enters an object into the form at its place, as the design lays it out.

@@ -8,6 +8,7 @@
 
 #include "base/DatumACas.h"
 #include "base/Disk.h"
+#include "base/Prubeh.h"
 
 namespace rysovna {
 
@@ -24,8 +25,9 @@ enum class Styl : int { Ok = 0, Stop = 16, OtazkaAnoNe = 36 };
 enum class Odpoved : int { Ok = 1, Ano = 6, Ne = 7 };
 
 /// All that the program wants from a machine. There are two full hosts: the window and the
-/// headless one. The program asks no clock, no screen and no sound device but through here.
-class Host {
+/// headless one. The program asks no clock, no screen and no sound device but through here. The
+/// loop is no part of it: see Smycka.
+class Host : public SmiCekat {
 public:
     Host();
     virtual ~Host();
@@ -34,17 +36,12 @@ public:
 
     /// Milliseconds since some start. The headless clock moves only when the program waits.
     [[nodiscard]] virtual std::uint32_t TickCount() = 0;
-    /// Handles what is pending (input, timers), paints what changed, then waits for the next thing
-    /// to happen, at most the given milliseconds. 0 never waits.
-    virtual void DoEvents(std::uint32_t nejvyseMs) = 0;
-    /// Waits with no event let through: the pace of an animation. Within Obrazovky::CekejZavrene
-    /// it takes in and sorts what comes meanwhile; 0 only does that.
-    virtual void Spi(std::uint32_t ms) = 0;
     /// Paints what changed, at once, with no event let through.
     virtual void Prekresli() = 0;
 
-    /// A modal message box in the window, in the program's own style.
-    virtual Odpoved MsgBox(const std::string& text, const std::string& titul, Styl styl) = 0;
+    /// A modal message box in the window, in the program's own style; awaited, it gives the answer,
+    /// or that of Escape if the process is to end before.
+    virtual Prubeh<Odpoved> MsgBox(std::string text, std::string titul, Styl styl) = 0;
     /// Starts a sound and returns at once; the sound that was playing ends. A missing device is
     /// no fault. cesta: with backslashes, as the program spells paths.
     virtual void SndPlaySound(std::string_view cesta) = 0;
@@ -80,6 +77,11 @@ public:
 
     /// The screens that stand on this machine.
     [[nodiscard]] Obrazovky& Okna() { return *okna_; }
+
+protected:
+    /// Shows a message box over the screens until it is answered. The fonts must be there
+    /// (MamePisma).
+    Prubeh<Odpoved> UkazZpravu(std::string text, std::string titul, Styl styl);
 
 private:
     std::unique_ptr<Obrazovky> okna_;

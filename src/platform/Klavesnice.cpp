@@ -165,80 +165,73 @@ bool Obrazovky::DrziKlavesa() const {
     return !vnitrek_->DrziKlavesa.empty();
 }
 
-void Obrazovky::Klepni(Form& form, Ovladac& o) {
+Prubeh<> Obrazovky::Klepni(DrzenyForm form, DrzenyOvladac o) {
     const Vnitrek& v = *vnitrek_;
-    if (v.Drzi) return;
-    const Formular drz = form.shared_from_this();
-    const Mys m = UdalostKlaves(form, o, LEVE);
-    form.MouseDown(&o, m);
-    if (!v.Dostava(form) || !Dosazitelny(&o)) return;
-    form.MouseUp(&o, m);
-    if (v.Cilovy() == drz && Dosazitelny(&o)) form.Click(&o);
+    if (v.Drzi) co_return;
+    const Mys m = UdalostKlaves(*form, *o, LEVE);
+    co_await form->MouseDown(o.get(), m).Komu(form);
+    if (!v.Dostava(*form) || !Dosazitelny(o.get())) co_return;
+    co_await form->MouseUp(o.get(), m).Komu(form);
+    if (v.Cilovy() == form && Dosazitelny(o.get())) co_await form->Click(o.get()).Komu(form);
 }
 
-bool Obrazovky::StiskniZastavku(Form& form, Ovladac& o) {
-    if (!JeZivaZastavka(o)) return false;
+Odezva Obrazovky::StiskniZastavku(Form& form, Ovladac& o) {
+    if (!JeZivaZastavka(o)) return std::nullopt;
     DejPrsten(form, o);
-    Klepni(form, o);
-    return true;
+    const DrzenyForm drzeny = form.shared_from_this();
+    return Klepni(drzeny, {drzeny, &o});
 }
 
-void Obrazovky::ZmackniKlavesou(Form& form, Ovladac& o, std::string_view jmeno) {
+Prubeh<> Obrazovky::ZmackniKlavesou(DrzenyForm form, DrzenyOvladac o, std::string jmeno) {
     Vnitrek& v = *vnitrek_;
-    if (v.Drzi) return;
+    if (v.Drzi) co_return;
     v.Drzi = true;
-    v.DrziForm = form.weak_from_this();
-    v.DrziObjekt = &o;
+    v.DrziForm = form;
+    v.DrziObjekt = o.get();
     v.DrziTlacitka = LEVE;
     v.DrziKlavesa = jmeno;
-    v.DrziJak = o.Klavesou;
-    form.MouseDown(&o, UdalostKlaves(form, o, LEVE));
+    v.DrziJak = o->Klavesou;
+    co_await form->MouseDown(o.get(), UdalostKlaves(*form, *o, LEVE)).Komu(form);
     // What a drag shows it shows at once: there is no hand that would move.
-    const Formular drzi = v.Drzici();
-    if (DrziKlavesa() && v.DrziJak == StiskKlavesou::Tah && drzi.get() == &form && Dosazitelny(&o))
-        PosunutUkazatel(form, o);
+    const bool tah = DrziKlavesa() && v.DrziJak == StiskKlavesou::Tah;
+    if (tah && v.Drzici() == form && Dosazitelny(o.get())) PosunutUkazatel(*form, *o);
 }
 
-void Obrazovky::PustKlavesou() {
+Prubeh<> Obrazovky::PustKlavesou() {
     Vnitrek& v = *vnitrek_;
     v.PustDrzeni();
     const Formular form = v.Drzici();
     Ovladac* o = v.DrziObjekt;
-    if (form == nullptr || !Dosazitelny(o)) return;
-    Pust(form, o, UdalostKlaves(*form, *o, LEVE));
+    if (form == nullptr || !Dosazitelny(o)) return {};
+    return Pust(form, o, UdalostKlaves(*form, *o, LEVE));
 }
 
 void Obrazovky::PosunutUkazatel(Form& form, Ovladac& o) {
     form.MouseMove(&o, UdalostKlaves(form, o, DrziKlavesa() ? LEVE : 0));
 }
 
-void Obrazovky::DorucPusteniKlavesy(const Vstup& s) {
+Prubeh<> Obrazovky::DorucPusteniKlavesy(const Vstup& s) {
     const Vnitrek& v = *vnitrek_;
-    if (v.DrziJak == StiskKlavesou::Drzeni && v.DrziKlavesa == s.Text) PustKlavesou();
+    if (v.DrziJak != StiskKlavesou::Drzeni || v.DrziKlavesa != s.Text) return {};
+    return PustKlavesou();
 }
 
-/// A key while the press of another one lasts. True if it is dealt with.
-bool Obrazovky::ZaDrzeni(const Vstup& s) {
+/// A key while the press of another one lasts. None if it is not dealt with by that.
+Odezva Obrazovky::ZaDrzeni(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
-    if (v.DrziKlavesa.empty()) return false;
+    if (v.DrziKlavesa.empty()) return std::nullopt;
     const Formular form = v.Drzici();
     const bool tah = v.DrziJak == StiskKlavesou::Tah;
     if (form == nullptr || !Dosazitelny(v.DrziObjekt) || (tah && v.Cilovy() != form)) {
         v.PustDrzeni();
-        return false;
+        return std::nullopt;
     }
-    if (!tah) {
-        // The same key again: its release got lost outside.
-        if (s.Text == v.DrziKlavesa) PustKlavesou();
-        return true;
-    }
+    // The same key again: its release got lost outside.
+    if (!tah) return s.Text == v.DrziKlavesa ? PustKlavesou() : Prubeh<>();
     UkazPrsten();
-    if (s.Text == "Space") {
-        PustKlavesou();
-    } else if (SmerSipky(s.Text) || JeZnak(s.Text)) {
-        form->KlavesaNa(*v.DrziObjekt, s.Text, s.Shift);
-    }
-    return true;
+    if (s.Text == "Space") return PustKlavesou();
+    if (SmerSipky(s.Text) || JeZnak(s.Text)) form->KlavesaNa(*v.DrziObjekt, s.Text, s.Shift);
+    return Prubeh<>();
 }
 
 /// Arrows carry the mouse that is held on a plane on by a pixel: a hand cannot be so fine.
@@ -262,38 +255,41 @@ bool Obrazovky::PosunDrzenouMys(const Vstup& s) {
     return true;
 }
 
-void Obrazovky::DorucKlavesu(const Vstup& s) {
+Prubeh<> Obrazovky::DorucKlavesu(const Vstup& s) {
     const std::string& jmeno = s.Text;
-    if (vnitrek_->Zvednuty() != nullptr || ZaDrzeni(s) || PosunDrzenouMys(s)) return;
+    if (vnitrek_->Zvednuty() != nullptr) return {};
+    if (Odezva zaDrzeni = ZaDrzeni(s)) return std::move(*zaDrzeni);
+    if (PosunDrzenouMys(s)) return {};
     const Formular form = vnitrek_->Cilovy();
-    if (form == nullptr) return;
+    if (form == nullptr) return {};
     if (TextBox* t = Psane()) {
         bool vzal = false;
         const bool zmena = PsaniTextu(host_, *t).Klavesa(jmeno, s.Shift, vzal);
         if (vzal) vnitrek_->Psano = host_.TickCount();
         if (zmena) form->Change(*t);
-        if (vzal || JeZnak(jmeno) || jmeno == "Space") return;
+        if (vzal || JeZnak(jmeno) || jmeno == "Space") return {};
     }
-    if ((s.Shift & CTRL) != 0 && JeZnak(jmeno)) return;
-    if (!form->Klavesa(jmeno, s.Shift)) KlavesaPrstenu(form, jmeno, s.Shift);
+    if ((s.Shift & CTRL) != 0 && JeZnak(jmeno)) return {};
+    if (Odezva odezva = form->Klavesa(jmeno, s.Shift)) return std::move(*odezva).Komu(form);
+    return KlavesaPrstenu(form, jmeno, s.Shift);
 }
 
-void Obrazovky::KlavesaPrstenu(const Formular& form, std::string_view jmeno, int shift) {
+Prubeh<> Obrazovky::KlavesaPrstenu(const DrzenyForm& form, std::string_view jmeno, int shift) {
     const Vnitrek& v = *vnitrek_;
     if (jmeno == "F1") {
         Ovladac* napoveda = form->Napoveda();
-        if (napoveda != nullptr && Dosazitelny(napoveda)) Klepni(*form, *napoveda);
-        return;
+        if (napoveda == nullptr || !Dosazitelny(napoveda)) return {};
+        return Klepni(form, {form, napoveda});
     }
     const std::vector<Ovladac*> zive = Zastavky(*form);
-    if (zive.empty() || (!v.PrstenVidet && !JdePrstenu(jmeno))) return;
+    if (zive.empty() || (!v.PrstenVidet && !JdePrstenu(jmeno))) return {};
     TextBox* pise = Psane();
     Ovladac* o = pise != nullptr ? pise : MistoPrstenu(*form);
     const bool videl = v.PrstenVidet || pise != nullptr;
     UkazPrsten();
     form->Prsten(*o);
-    if (!videl) return form->PriselPrsten(*o);
-    if (form->KlavesaNa(*o, jmeno, shift)) return;
+    if (!videl) form->PriselPrsten(*o);
+    if (!videl || form->KlavesaNa(*o, jmeno, shift)) return {};
     if (jmeno == "Tab") {
         const auto kde = std::ranges::find(zive, o) - zive.begin();
         const auto pocet = std::ssize(zive);
@@ -302,12 +298,10 @@ void Obrazovky::KlavesaPrstenu(const Formular& form, std::string_view jmeno, int
     } else if (const auto smer = SmerSipky(jmeno)) {
         if (Ovladac* dalsi = VeSmeru(zive, *o, *smer)) DejPrsten(*form, *dalsi);
     } else if (Tiskne(jmeno) && o->Druh != Ovladac::Typ::TextBox) {
-        if (o->Klavesou == StiskKlavesou::Klik) {
-            Klepni(*form, *o);
-        } else {
-            ZmackniKlavesou(*form, *o, jmeno);
-        }
+        if (o->Klavesou == StiskKlavesou::Klik) return Klepni(form, {form, o});
+        return ZmackniKlavesou(form, {form, o}, std::string(jmeno));
     }
+    return {};
 }
 
 }  // namespace rysovna

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/Host.h"
 #include "platform/ObrazovkyVnitrek.h"
 
 namespace rysovna {
@@ -29,9 +30,14 @@ void Obrazovky::Vnitrek::Aktivuj(const Formular& f) {
     f->Activate();
 }
 
-Obrazovky::Obrazovky(Host& host) : host_(host), vnitrek_(std::make_unique<Vnitrek>()) {}
+Obrazovky::Obrazovky(Host& host)
+    : host_(host),
+      vnitrek_(std::make_unique<Vnitrek>([&host] { return host.TickCount(); },
+                                         [this] { return konec_; })) {}
 
-Obrazovky::~Obrazovky() = default;
+Obrazovky::~Obrazovky() {
+    vnitrek_->Prace.Zrus();
+}
 
 void Obrazovky::Zaved(const Formular& form) {
     vnitrek_->Nactene.push_back(form);
@@ -78,7 +84,24 @@ void Obrazovky::Unload(Form& form) {
     Vnitrek::Vyrad(vnitrek_->Nactene, form);
 }
 
+void Obrazovky::Spust(Prubeh<> prace) {
+    vnitrek_->Prace.Spust(std::move(prace));
+}
+
+void Obrazovky::Spust(Form& form, Prubeh<> prace) {
+    Spust(std::move(prace).Komu(form.shared_from_this()));
+}
+
+bool Obrazovky::Ceka(const Form& form, int nac) const {
+    return vnitrek_->Prace.Ceka(form, nac);
+}
+
+Zasobnik& Obrazovky::Prace() {
+    return vnitrek_->Prace;
+}
+
 void Obrazovky::UnloadVse() {
+    vnitrek_->Prace.Zrus();
     vnitrek_->Konci = true;
     while (!vnitrek_->Nactene.empty()) {
         const Formular posledni = vnitrek_->Nactene.back();
@@ -134,15 +157,25 @@ void Obrazovky::Casovace(std::uint32_t ted) {
                                 v.BeziciCasovace.end();
             if (uvnitr || static_cast<std::int32_t>(ted - t.Pristi) < 0) continue;
             t.Pristi = ted + t.Interval;
-            struct Uvnitr {
-                std::vector<const Timer*>& Kde;
-                ~Uvnitr() { Kde.pop_back(); }
-            };
-            v.BeziciCasovace.push_back(&t);
-            const Uvnitr zapis{v.BeziciCasovace};
-            f->TimerTick(t);
+            Spust(Tik(f, {f, &t}));
         }
     }
+}
+
+/// A timer whose handler waits does not fire again.
+Prubeh<> Obrazovky::Tik(DrzenyForm form, std::shared_ptr<Timer> t) {
+    struct Uvnitr {
+        std::vector<const Timer*>& Kde;
+        const Timer* Co;
+        Uvnitr(std::vector<const Timer*>& kde, const Timer* co) : Kde(kde), Co(co) {
+            Kde.push_back(Co);
+        }
+        ~Uvnitr() { std::erase(Kde, Co); }
+        Uvnitr(const Uvnitr&) = delete;
+        Uvnitr& operator=(const Uvnitr&) = delete;
+    };
+    const Uvnitr uvnitr(vnitrek_->BeziciCasovace, t.get());
+    co_await form->TimerTick(*t).Komu(form);
 }
 
 bool Obrazovky::PristiCasovac(std::uint32_t ted, std::uint32_t& zaMs) const {

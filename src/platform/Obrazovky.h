@@ -4,9 +4,12 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "base/Zasobnik.h"
 #include "platform/Form.h"
 
 namespace rysovna {
@@ -30,7 +33,7 @@ enum class CimSeHraje { Mysi, Klavesami, Prstem };
 /// A press within 500 ms and 4 px on each axis of the one before acts only on the very object that
 /// the first of such a row hit, and not even there if that object takes no double clicks. What a
 /// dropped press drags along (moves, release) goes to nobody.
-class Obrazovky {
+class Obrazovky : public SmiCekat {
 public:
     explicit Obrazovky(Host& host);
     ~Obrazovky();
@@ -50,8 +53,8 @@ public:
     void Hide(Form& form);
     /// Hides at once, runs Unload, forgets. The object lives on while a handler of it runs.
     void Unload(Form& form);
-    /// Unloads everything: the end of the process or of a test. Nothing is to end any more after
-    /// it, so that a message about a fault waits for its answer.
+    /// Ends all that waits and unloads everything: the end of the process or of a test. Nothing is
+    /// to end any more after it, so that a message about a fault waits for its answer.
     void UnloadVse();
 
     /// The loaded form of this name; null if there is none.
@@ -67,16 +70,34 @@ public:
     void NastavModalni(const std::shared_ptr<Form>& form);
     [[nodiscard]] bool JeModalni() const;
 
-    /// Runs a piece of work that waits or paces itself by Host::Spi with nothing let through, as
-    /// the slide of a panel, or the waiting for a lock: presses made meanwhile are dropped with
-    /// their releases, no timer fires, and all other input (keys, the window's close, moves, a
-    /// press on a form that takes presses always) is delivered in its order when the program lets
-    /// events through again. A message box that comes up inside gets its input as ever.
-    void CekejZavrene(const std::function<void()>& prace);
-    /// Whether such a wait runs.
+    /// Begins a work that waits, as the form's own, where a call that does not wait asks for it:
+    /// it goes on before whatever was begun before it.
+    void Spust(Form& form, Prubeh<> prace);
+    /// The same for a work of nobody: only the fault of another one ends it.
+    void Spust(Prubeh<> prace);
+    /// Whether a handler of the form waits; nac: for that.
+    [[nodiscard]] bool Ceka(const Form& form, int nac = 0) const;
+
+    /// As long as this lives, waits are closed, as those of a panel that slides, or of the storing
+    /// of a result: presses made meanwhile are dropped with their releases, no timer fires, and all
+    /// other input (keys, the window's close, moves, a press on a form that takes presses always)
+    /// is delivered in its order when the program lets events through again. A message box that
+    /// comes up inside gets its input as ever. Who closes waits once more at the end by
+    /// Cekani::SPrijmem(0): what has come since the last look belongs to the closed wait too.
+    class Zavreni {
+    public:
+        explicit Zavreni(Obrazovky& kde);
+        ~Zavreni();
+        Zavreni(const Zavreni&) = delete;
+        Zavreni& operator=(const Zavreni&) = delete;
+
+    private:
+        Obrazovky& kde_;
+    };
+    /// Whether waits are closed.
     [[nodiscard]] bool JeZavreno() const;
-    /// For a host that lets events through: delivers what closed waits have kept.
-    void DorucOdlozene();
+    /// Delivers what closed waits have kept, one after the other.
+    Prubeh<> DorucOdlozene();
 
     // Input, design pixels.
     void MysDolu(double x, double y, int tlacitko, int shift, CasStisku cas);
@@ -139,8 +160,8 @@ public:
     // For forms, in their handlers of keys:
     /// Shows the ring on an object; a text box gets the keyboard, all of it marked.
     void DejPrsten(Form& form, Ovladac& o);
-    /// Shows the ring on a live object and clicks it. False if it is not live.
-    bool StiskniZastavku(Form& form, Ovladac& o);
+    /// Shows the ring on a live object and clicks it. None if it is not live.
+    Odezva StiskniZastavku(Form& form, Ovladac& o);
     /// The form's pointer of the keys moved on the object that has the ring.
     void PosunutUkazatel(Form& form, Ovladac& o);
 
@@ -148,10 +169,9 @@ public:
     void ZadostOZavreni();
     /// A press beside the design area, or the return from another application.
     void Navrat();
-    /// Fires the timers that are due.
-    void Casovace(std::uint32_t ted);
-    /// When the next timer is due; false if none runs.
-    [[nodiscard]] bool PristiCasovac(std::uint32_t ted, std::uint32_t& zaMs) const;
+    /// Called after each of these, with how many works were there before it: for a player that goes
+    /// on only when what it began is done.
+    void PoVstupu(std::function<void(std::size_t)> co) { poVstupu_ = std::move(co); }
 
     /// What main and the start-up set: the process is to end, with this exit status.
     void Konec(int stav = 0) {
@@ -168,37 +188,57 @@ private:
     struct Vnitrek;
     struct Vstup;
     friend class RadaStisku;
+    friend class Smycka;
+    using DrzenyForm = std::shared_ptr<Form>;
+    /// An object, its form held by it; null is the form itself.
+    using DrzenyOvladac = std::shared_ptr<Ovladac>;
+    // What the loop wants.
+    /// Delivers what closed waits have kept.
+    void SpustOdlozene();
+    /// Fires the timers that are due.
+    void Casovace(std::uint32_t ted);
+    /// When the next timer is due; false if none runs.
+    [[nodiscard]] bool PristiCasovac(std::uint32_t ted, std::uint32_t& zaMs) const;
+    [[nodiscard]] Zasobnik& Prace();
+    Prubeh<> Tik(DrzenyForm form, std::shared_ptr<Timer> t);
+    // ObrazovkyVstup.cpp
     void Prijmi(const Vstup& vstup);
     void Odloz(const Vstup& vstup);
-    void Doruc(const Vstup& vstup);
-    void DorucStisk(const Vstup& s);
+    Prubeh<> Doruc(const Vstup& vstup);
+    Prubeh<> DorucPoOdlozenych(Vstup vstup);
+    Prubeh<> DorucStisk(const Vstup& s);
     void DorucPohyb(const Vstup& s);
-    void DorucPusteni(const Vstup& s);
-    void Pust(const std::shared_ptr<Form>& form, Ovladac* o, const Mys& m);
+    Prubeh<> DorucPusteni(const Vstup& s);
+    Prubeh<> Pust(const DrzenyForm& form, Ovladac* o, const Mys& m);
+    Prubeh<> Klik(const DrzenyForm& form, Ovladac* o, const Mys& m);
+    Prubeh<> PakKlik(Prubeh<> pusteni, DrzenyForm form, DrzenyOvladac o, Mys m);
+    Prubeh<> PakDvojklik(Prubeh<> stisk, DrzenyForm form, DrzenyOvladac o);
     // ObrazovkyDotyk.cpp
-    void DorucPrst(const Vstup& s);
-    void PrstSeDotkl(Bod kde, const Vstup& s);
-    void PrstSeHnul(Bod kde, const Vstup& s);
-    void PrstSeZvedl(Bod kde, const Vstup& s);
-    void PrstNaZvednutem(Bod kde, const Vstup& s);
+    Prubeh<> DorucPrst(const Vstup& s);
+    Prubeh<> PrstSeDotkl(Bod kde, const Vstup& s);
+    void DorucPohybPrstu(const Vstup& s);
+    Prubeh<> PrstSeZvedl(Bod kde, const Vstup& s);
+    Prubeh<> PrstNaZvednutem(Bod kde, const Vstup& s);
     void PresunKonec(Bod kam);
     void NechTah(Bod konec);
-    void DokonciTah();
+    Prubeh<> DokonciTah();
     [[nodiscard]] Bod KamKlepl(const Form& form, Bod kde) const;
     void DorucText(const Vstup& s);
-    void DorucKlavesu(const Vstup& s);
-    void DorucPusteniKlavesy(const Vstup& s);
+    // Klavesnice.cpp
+    Prubeh<> DorucKlavesu(const Vstup& s);
+    Prubeh<> DorucPusteniKlavesy(const Vstup& s);
     bool PosunDrzenouMys(const Vstup& s);
-    bool ZaDrzeni(const Vstup& s);
-    void KlavesaPrstenu(const std::shared_ptr<Form>& form, std::string_view jmeno, int shift);
-    void ZmackniKlavesou(Form& form, Ovladac& o, std::string_view jmeno);
-    void PustKlavesou();
-    void Klepni(Form& form, Ovladac& o);
+    Odezva ZaDrzeni(const Vstup& s);
+    Prubeh<> KlavesaPrstenu(const DrzenyForm& form, std::string_view jmeno, int shift);
+    Prubeh<> ZmackniKlavesou(DrzenyForm form, DrzenyOvladac o, std::string jmeno);
+    Prubeh<> PustKlavesou();
+    Prubeh<> Klepni(DrzenyForm form, DrzenyOvladac o);
     void UkazPrsten();
-    void DorucZavreni();
+    Prubeh<> DorucZavreni();
     void DorucNavrat();
     Host& host_;
     std::unique_ptr<Vnitrek> vnitrek_;
+    std::function<void(std::size_t)> poVstupu_;
     bool konec_ = false;
     int stavKonce_ = 0;
     std::uint64_t verze_ = 0;

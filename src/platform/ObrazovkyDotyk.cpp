@@ -17,6 +17,10 @@ constexpr int LEVE = 1;
 constexpr int KRAJ_RAMU = 3;
 constexpr int PRED_TEXTEM = 2;  // px, of a frame around a line of text
 
+Bod NaPixel(double x, double y) {
+    return {static_cast<int>(std::floor(x)), static_cast<int>(std::floor(y))};
+}
+
 bool Blizko(Bod a, Bod b) {
     return std::abs(a.X - b.X) <= DOSAH_PRSTU && std::abs(a.Y - b.Y) <= DOSAH_PRSTU;
 }
@@ -37,25 +41,23 @@ Formular Obrazovky::Vnitrek::Zvednuty() const {
 }
 
 /// The mouse comes here too while a drag is held: it plays the finger then.
-void Obrazovky::DorucPrst(const Vstup& s) {
+Prubeh<> Obrazovky::DorucPrst(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
-    const Bod kde{static_cast<int>(std::floor(s.X)), static_cast<int>(std::floor(s.Y))};
+    const Bod kde = NaPixel(s.X, s.Y);
     switch (s.Co) {
         case Vstup::Druh::PrstDolu:
             v.PrstZahozen = false;
             return PrstSeDotkl(kde, s);
         case Vstup::Druh::Dolu:
-            if (s.Tlacitko == LEVE) PrstSeDotkl(kde, s);
-            return;
+            return s.Tlacitko == LEVE ? PrstSeDotkl(kde, s) : Prubeh<>();
         case Vstup::Druh::PrstNahoru:
-            if (!s.Odlozeny && std::exchange(v.PrstZahozen, false)) return;
+            if (!s.Odlozeny && std::exchange(v.PrstZahozen, false)) return {};
             return PrstSeZvedl(kde, s);
         case Vstup::Druh::Nahoru:
-            if (s.Tlacitko == LEVE) PrstSeZvedl(kde, s);
-            return;
+            return s.Tlacitko == LEVE ? PrstSeZvedl(kde, s) : Prubeh<>();
         default:
-            if (s.Odlozeny || !v.PrstZahozen) PrstSeHnul(kde, s);
-            return;
+            DorucPohybPrstu(s);
+            return {};
     }
 }
 
@@ -76,7 +78,7 @@ Bod Obrazovky::KamKlepl(const Form& form, Bod kde) const {
     return NajdiCil(kde, coTamJe).value_or(kde);
 }
 
-void Obrazovky::PrstSeDotkl(Bod kde, const Vstup& s) {
+Prubeh<> Obrazovky::PrstSeDotkl(Bod kde, const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     v.ZnaMys = false;
     v.PrstOd = kde;
@@ -85,7 +87,7 @@ void Obrazovky::PrstSeDotkl(Bod kde, const Vstup& s) {
     if (v.Drzi && v.DrziKlavesa.empty()) v.PustDrzeni();
     v.Prst = PracePrstu::Mrtva;
     const Formular form = v.Cilovy();
-    if (form == nullptr || v.KresliKlavesy()) return;
+    if (form == nullptr || v.KresliKlavesy()) return {};
     // A message box may stand over the screen of a drag; any other screen has ended it.
     if (!JeModalni()) v.Zvednuty_.reset();
     const Bod kam = KamKlepl(*form, kde);
@@ -94,17 +96,19 @@ void Obrazovky::PrstSeDotkl(Bod kde, const Vstup& s) {
     const bool kresli = o != nullptr && JeZivaZastavka(*o) && o->Klavesou == StiskKlavesou::Tah;
     v.Prst = kresli ? PracePrstu::Tahne : PracePrstu::Klepa;
     v.Stopa.Zacni(kde, s.Cas.Nejpozdeji);
-    DorucStisk({.Co = Vstup::Druh::Dolu,
-                .X = static_cast<double>(kam.X),
-                .Y = static_cast<double>(kam.Y),
-                .Tlacitko = LEVE,
-                .Cas = s.Cas,
-                .Text = {},
-                .Prst = true});
+    return DorucStisk({.Co = Vstup::Druh::Dolu,
+                       .X = static_cast<double>(kam.X),
+                       .Y = static_cast<double>(kam.Y),
+                       .Tlacitko = LEVE,
+                       .Cas = s.Cas,
+                       .Text = {},
+                       .Prst = true});
 }
 
-void Obrazovky::PrstSeHnul(Bod kde, const Vstup& s) {
+void Obrazovky::DorucPohybPrstu(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
+    if (!s.Odlozeny && v.PrstZahozen) return;
+    const Bod kde = NaPixel(s.X, s.Y);
     if (v.Prst != PracePrstu::Tahne && v.Prst != PracePrstu::Znovu) return;
     v.Stopa.Pridej(kde, s.Cas.Nejpozdeji);
     if (v.Prst == PracePrstu::Znovu) return PresunKonec(kde);
@@ -118,30 +122,31 @@ void Obrazovky::PrstSeHnul(Bod kde, const Vstup& s) {
                 .Prst = true});
 }
 
-void Obrazovky::PrstSeZvedl(Bod kde, const Vstup& s) {
+Prubeh<> Obrazovky::PrstSeZvedl(Bod kde, const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     const PracePrstu prace = std::exchange(v.Prst, PracePrstu::Zadna);
-    if (prace == PracePrstu::Zadna || prace == PracePrstu::Mrtva) return;
+    if (prace == PracePrstu::Zadna || prace == PracePrstu::Mrtva) return {};
     if (prace == PracePrstu::Znovu) {
         if (v.Zvednuty() != nullptr) NechTah(v.Stopa.Konec(s.Cas.Nejpozdeji));
-        return;
+        return {};
     }
     const Formular form = v.Drzi ? v.Drzici() : nullptr;
     if (prace == PracePrstu::Tahne && form != nullptr && Dosazitelny(v.DrziObjekt)) {
         v.PustDrzeni();
         v.Zvednuty_ = {form, v.DrziObjekt, v.PrstOd, {}, {}};
-        return NechTah(v.Stopa.Konec(s.Cas.Nejpozdeji));
+        NechTah(v.Stopa.Konec(s.Cas.Nejpozdeji));
+        return {};
     }
     // Slid away, it takes nothing; the shake of a tap counts as none.
     const Bod pustil = Blizko(kde, v.PrstOd) ? v.PrstOd : kde;
-    DorucPusteni({.Co = Vstup::Druh::Nahoru,
-                  .X = static_cast<double>(pustil.X + v.PosunPrstu.X),
-                  .Y = static_cast<double>(pustil.Y + v.PosunPrstu.Y),
-                  .Tlacitko = LEVE,
-                  .Cas = s.Cas,
-                  .Text = {},
-                  .Odlozeny = s.Odlozeny,
-                  .Prst = true});
+    return DorucPusteni({.Co = Vstup::Druh::Nahoru,
+                         .X = static_cast<double>(pustil.X + v.PosunPrstu.X),
+                         .Y = static_cast<double>(pustil.Y + v.PosunPrstu.Y),
+                         .Tlacitko = LEVE,
+                         .Cas = s.Cas,
+                         .Text = {},
+                         .Odlozeny = s.Odlozeny,
+                         .Prst = true});
 }
 
 // ---- The drag that is held -------------------------------------------------------------------
@@ -168,13 +173,13 @@ void Obrazovky::PresunKonec(Bod kam) {
     form->MouseMove(tah.Objekt, m);
 }
 
-void Obrazovky::PrstNaZvednutem(Bod kde, const Vstup& s) {
+Prubeh<> Obrazovky::PrstNaZvednutem(Bod kde, const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     const ZvednutyTah& tah = *v.Zvednuty_;
     v.Prst = PracePrstu::Mrtva;
     if (tah.Pad.Obsahuje(kde)) {
         const std::optional<Bod> smer = tah.Pad.Pole(kde);
-        if (!smer) return;
+        if (!smer) return {};
         if (*smer == Bod{}) return DokonciTah();
         PresunKonec({tah.Konec.X + smer->X, tah.Konec.Y + smer->Y});
     } else if (NajdiObjekt(*v.Zvednuty(), kde.X, kde.Y) == tah.Objekt) {
@@ -182,14 +187,15 @@ void Obrazovky::PrstNaZvednutem(Bod kde, const Vstup& s) {
         v.Stopa.Zacni(kde, s.Cas.Nejpozdeji);
         PresunKonec(kde);
     }
+    return {};
 }
 
-void Obrazovky::DokonciTah() {
+Prubeh<> Obrazovky::DokonciTah() {
     Vnitrek& v = *vnitrek_;
     const Formular form = v.Zvednuty();
     const ZvednutyTah tah = *v.Zvednuty_;
     v.Zvednuty_.reset();
-    Pust(form, tah.Objekt, Udalost(*form, tah.Objekt, tah.Konec.X, tah.Konec.Y, LEVE, 0));
+    return Pust(form, tah.Objekt, Udalost(*form, tah.Objekt, tah.Konec.X, tah.Konec.Y, LEVE, 0));
 }
 
 // ---- What answers the pointer ----------------------------------------------------------------

@@ -94,6 +94,9 @@ private:
 };
 
 struct Obrazovky::Vnitrek {
+    Vnitrek(std::function<std::uint32_t()> ted, std::function<bool()> konec)
+        : Prace(std::move(ted), std::move(konec)) {}
+
     std::vector<Formular> Nactene;
     std::vector<Formular> Viditelne;  ///< modal ones at the end
     std::vector<Formular> Modalni;
@@ -125,11 +128,12 @@ struct Obrazovky::Vnitrek {
 
     RadaStisku Rada;
     int Zahozena = 0;            ///< buttons held whose presses were dropped, their sum
-    int Zavreno = 0;             ///< closed waits that run, one in another
+    int Zavreno = 0;             ///< how many keep waits closed, one in another
     std::deque<Vstup> Odlozene;  ///< what came in them and is to be delivered
 
     std::vector<const Timer*> BeziciCasovace;  ///< whose handlers are running
     std::uint32_t Psano = 0;
+    Zasobnik Prace;  ///< the last one: what waits goes before what it may touch
 
     [[nodiscard]] Formular Cilovy() const { return Viditelne.empty() ? nullptr : Viditelne.back(); }
     [[nodiscard]] bool Modalne(const Form& f) const;

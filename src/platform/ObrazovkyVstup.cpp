@@ -174,12 +174,19 @@ void Obrazovky::Navrat() {
 }
 
 void Obrazovky::Prijmi(const Vstup& vstup) {
+    Vnitrek& v = *vnitrek_;
     if (JeZavreno()) {
         Odloz(vstup);
         return;
     }
-    DorucOdlozene();
-    Doruc(vstup);
+    const std::size_t pred = v.Prace.Hloubka();
+    Spust(v.Odlozene.empty() ? Doruc(vstup) : DorucPoOdlozenych(vstup));
+    if (poVstupu_) poVstupu_(pred);
+}
+
+Prubeh<> Obrazovky::DorucPoOdlozenych(Vstup vstup) {
+    co_await DorucOdlozene();
+    co_await Doruc(vstup);
 }
 
 void Obrazovky::Odloz(const Vstup& vstup) {
@@ -224,41 +231,41 @@ void Obrazovky::Odloz(const Vstup& vstup) {
     v.Odlozene.back().Odlozeny = true;
 }
 
-void Obrazovky::DorucOdlozene() {
+Prubeh<> Obrazovky::DorucOdlozene() {
     Vnitrek& v = *vnitrek_;
     while (!v.Odlozene.empty() && !JeZavreno()) {
         // Taken out first: its handler may wait, and the wait delivers the rest.
         const Vstup vstup = std::move(v.Odlozene.front());
         v.Odlozene.pop_front();
-        Doruc(vstup);
+        co_await Doruc(vstup);
     }
+}
+
+void Obrazovky::SpustOdlozene() {
+    while (!vnitrek_->Odlozene.empty() && !JeZavreno()) Spust(DorucOdlozene());
 }
 
 bool Obrazovky::JeZavreno() const {
     return vnitrek_->Zavreno > 0 && !JeModalni();
 }
 
-void Obrazovky::CekejZavrene(const std::function<void()>& prace) {
-    struct Zavreni {
-        explicit Zavreni(int& kolik) : Kolik(kolik) { ++Kolik; }
-        ~Zavreni() { --Kolik; }
-        Zavreni(const Zavreni&) = delete;
-        Zavreni& operator=(const Zavreni&) = delete;
-        int& Kolik;
-    };
-    const Zavreni zavreni(vnitrek_->Zavreno);
-    prace();
-    host_.Spi(0);  // what has come since the last look belongs to this wait too
+Obrazovky::Zavreni::Zavreni(Obrazovky& kde) : kde_(kde) {
+    ++kde_.vnitrek_->Zavreno;
+}
+
+Obrazovky::Zavreni::~Zavreni() {
+    --kde_.vnitrek_->Zavreno;
 }
 
 // ---- Delivering ------------------------------------------------------------------------------
 
-void Obrazovky::Doruc(const Vstup& vstup) {
+Prubeh<> Obrazovky::Doruc(const Vstup& vstup) {
     switch (vstup.Co) {
         case Vstup::Druh::Dolu:
             return DorucStisk(vstup);
         case Vstup::Druh::Pohyb:
-            return DorucPohyb(vstup);
+            DorucPohyb(vstup);
+            break;
         case Vstup::Druh::Nahoru:
             return DorucPusteni(vstup);
         case Vstup::Druh::PrstDolu:
@@ -266,7 +273,8 @@ void Obrazovky::Doruc(const Vstup& vstup) {
         case Vstup::Druh::PrstNahoru:
             return DorucPrst(vstup);
         case Vstup::Druh::Text:
-            return DorucText(vstup);
+            DorucText(vstup);
+            break;
         case Vstup::Druh::Klavesa:
             return DorucKlavesu(vstup);
         case Vstup::Druh::KlavesaNahoru:
@@ -274,10 +282,13 @@ void Obrazovky::Doruc(const Vstup& vstup) {
         case Vstup::Druh::Zavreni:
             return DorucZavreni();
         case Vstup::Druh::Navrat:
-            return DorucNavrat();
+            DorucNavrat();
+            break;
     }
+    return {};
 }
-void Obrazovky::DorucStisk(const Vstup& s) {
+
+Prubeh<> Obrazovky::DorucStisk(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     if (!s.Prst && v.Zvednuty() != nullptr) return DorucPrst(s);
     v.Zahozena &= ~s.Tlacitko;
@@ -289,30 +300,30 @@ void Obrazovky::DorucStisk(const Vstup& s) {
     if (!v.DrziKlavesa.empty()) {
         if (v.KresliKlavesy()) {
             v.Zahozena |= s.Tlacitko;
-            return;
+            return {};
         }
         v.PustDrzeni();
     }
     const Formular form = v.Cilovy();
-    if (form == nullptr) return;
+    if (form == nullptr) return {};
     // The same button again: its release got lost outside.
     if (v.Drzi && (v.DrziTlacitka & s.Tlacitko) != 0) v.Drzi = false;
     if (v.Drzi) {
         v.DrziTlacitka |= s.Tlacitko;
-        if (v.Drzici() == form && Dosazitelny(v.DrziObjekt))
-            form->MouseDown(v.DrziObjekt, Udalost(*form, v.DrziObjekt, s.X + v.Posun.X,
-                                                  s.Y + v.Posun.Y, s.Tlacitko, s.Shift));
-        return;
+        if (v.Drzici() != form || !Dosazitelny(v.DrziObjekt)) return {};
+        const Mys m =
+            Udalost(*form, v.DrziObjekt, s.X + v.Posun.X, s.Y + v.Posun.Y, s.Tlacitko, s.Shift);
+        return form->MouseDown(v.DrziObjekt, m).Komu(form);
     }
     if (!MistoFormu(*form).Obsahuje(s.X, s.Y)) {
         DorucNavrat();
-        return;
+        return {};
     }
     Ovladac* o = NajdiObjekt(*form, s.X, s.Y);
     const PoradiStisku poradi = v.Rada.Zarad(form, o, s);
     if (poradi == PoradiStisku::Zahodit) {
         v.Zahozena |= s.Tlacitko;
-        return;
+        return {};
     }
     const bool dvojklik = poradi == PoradiStisku::Druhy;
     v.Drzi = true;
@@ -333,13 +344,18 @@ void Obrazovky::DorucStisk(const Vstup& s) {
             v.Psano = host_.TickCount();
         }
     }
-    form->MouseDown(o, m);
-    if (dvojklik && form->Viditelny() && Dosazitelny(o)) form->DblClick(o);
+    Prubeh<> stisk = form->MouseDown(o, m).Komu(form);
+    return dvojklik ? PakDvojklik(std::move(stisk), form, {form, o}) : std::move(stisk);
+}
+
+Prubeh<> Obrazovky::PakDvojklik(Prubeh<> stisk, DrzenyForm form, DrzenyOvladac o) {
+    co_await stisk;
+    if (form->Viditelny() && Dosazitelny(o.get())) form->DblClick(o.get());
 }
 
 void Obrazovky::DorucPohyb(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
-    if (!s.Prst && v.Zvednuty() != nullptr) return DorucPrst(s);
+    if (!s.Prst && v.Zvednuty() != nullptr) return DorucPohybPrstu(s);
     if (!v.ZnaMys) {
         v.MysPriPrstenuX = s.X;
         v.MysPriPrstenuY = s.Y;
@@ -374,31 +390,40 @@ void Obrazovky::DorucPohyb(const Vstup& s) {
     form->MouseMove(o, Udalost(*form, o, s.X, s.Y, drzena, s.Shift));
 }
 
-void Obrazovky::DorucPusteni(const Vstup& s) {
+Prubeh<> Obrazovky::DorucPusteni(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     if (!s.Prst && v.Zvednuty() != nullptr) return DorucPrst(s);
     if (!s.Odlozeny && (v.Zahozena & s.Tlacitko) != 0) {
         v.Zahozena &= ~s.Tlacitko;
-        return;
+        return {};
     }
-    if (!v.Drzi || !v.DrziKlavesa.empty() || (v.DrziTlacitka & s.Tlacitko) == 0) return;
+    if (!v.Drzi || !v.DrziKlavesa.empty() || (v.DrziTlacitka & s.Tlacitko) == 0) return {};
     v.DrziTlacitka &= ~s.Tlacitko;
     v.Drzi = v.DrziTlacitka != 0;
     const Formular form = v.Drzici();
     Ovladac* o = v.DrziObjekt;
-    if (form == nullptr || !Dosazitelny(o)) return;
+    if (form == nullptr || !Dosazitelny(o)) return {};
     Mys m = Udalost(*form, o, s.X + v.Posun.X, s.Y + v.Posun.Y, s.Tlacitko, s.Shift);
     m.Prst = s.Prst;
-    Pust(form, o, m);
+    return Pust(form, o, m);
 }
 
-void Obrazovky::Pust(const Formular& form, Ovladac* o, const Mys& m) {
-    const Vnitrek& v = *vnitrek_;
-    form->MouseUp(o, m);
-    if (m.Button != LEVE || v.Cilovy() != form || !Dosazitelny(o)) return;
+Prubeh<> Obrazovky::Pust(const DrzenyForm& form, Ovladac* o, const Mys& m) {
+    Prubeh<> pusteni = form->MouseUp(o, m).Komu(form);
+    return pusteni.JePrazdny() ? Klik(form, o, m) : PakKlik(std::move(pusteni), form, {form, o}, m);
+}
+
+Prubeh<> Obrazovky::PakKlik(Prubeh<> pusteni, DrzenyForm form, DrzenyOvladac o, Mys m) {
+    co_await pusteni;
+    co_await Klik(form, o.get(), m);
+}
+
+Prubeh<> Obrazovky::Klik(const DrzenyForm& form, Ovladac* o, const Mys& m) {
+    if (m.Button != LEVE || vnitrek_->Cilovy() != form || !Dosazitelny(o)) return {};
     const Obdelnik misto = o != nullptr ? Obdelnik{0, 0, o->Width, o->Height}
                                         : Obdelnik{0, 0, form->Width, form->Height};
-    if (misto.Obsahuje(static_cast<double>(m.X), static_cast<double>(m.Y))) form->Click(o);
+    if (!misto.Obsahuje(static_cast<double>(m.X), static_cast<double>(m.Y))) return {};
+    return form->Click(o).Komu(form);
 }
 
 TextBox* Obrazovky::Psane() const {
@@ -426,14 +451,12 @@ void Obrazovky::DorucText(const Vstup& s) {
     if (PsaniTextu(host_, *t).Napis(s.Text)) form->Change(*t);
 }
 
-void Obrazovky::DorucZavreni() {
-    const std::vector<Formular> vse = vnitrek_->Nactene;
-    if (JeModalni()) {
-        vnitrek_->Modalni.back()->QueryUnload();
-        return;
-    }
+Prubeh<> Obrazovky::DorucZavreni() {
+    const std::vector<Formular> vse =
+        JeModalni() ? std::vector{vnitrek_->Modalni.back()} : vnitrek_->Nactene;
+    const bool modalne = JeModalni();
     for (const Formular& f : vse) {
-        if (!f->Zavreny() && !JeModalni()) f->QueryUnload();
+        if (!f->Zavreny() && JeModalni() == modalne) co_await f->QueryUnload().Komu(f);
     }
 }
 

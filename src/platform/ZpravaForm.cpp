@@ -154,8 +154,9 @@ void ZpravaForm::Odpovez(Odpoved odpoved) {
     host_.Okna().Unload(*this);
 }
 
-void ZpravaForm::MouseDown(Ovladac* o, const Mys& m) {
+Prubeh<> ZpravaForm::MouseDown(Ovladac* o, const Mys& m) {
     MouseMove(o, m);
+    return {};
 }
 
 void ZpravaForm::MouseMove(Ovladac* o, const Mys& /*m*/) {
@@ -167,48 +168,50 @@ void ZpravaForm::MouseMove(Ovladac* o, const Mys& /*m*/) {
     }
 }
 
-void ZpravaForm::Click(Ovladac* o) {
+Prubeh<> ZpravaForm::Click(Ovladac* o) {
     for (std::size_t i = 0; i < Tlacitka.size(); ++i) {
         if (Tlacitka[i].get() != o) continue;
         Odpovez(odpovedi_[i]);
-        return;
+        break;
     }
+    return {};
 }
 
-bool ZpravaForm::Klavesa(std::string_view klavesa, int shift) {
+Odezva ZpravaForm::Klavesa(std::string_view klavesa, int shift) {
     const std::size_t pocet = Tlacitka.size();
     const bool tabZpet = klavesa == "Tab" && (shift & 1) != 0;
     if (klavesa == "Escape") {
         Odpovez(odpovedi_.back());
-        return true;
+        return Prubeh<>();
     }
     if (klavesa == "Return" || klavesa == "Space") {
         Odpovez(odpovedi_[vybrane_]);
-        return true;
+        return Prubeh<>();
     }
     if (klavesa == "Left" || klavesa == "Up" || tabZpet) {
         vybrane_ = (vybrane_ + pocet - 1) % pocet;
     } else if (klavesa == "Right" || klavesa == "Down" || klavesa == "Tab") {
         vybrane_ = (vybrane_ + 1) % pocet;
     } else {
-        return false;
+        return std::nullopt;
     }
     NakresliTlacitka();
     host_.Okna().DejPrsten(*this, *Tlacitka[vybrane_]);
-    return true;
+    return Prubeh<>();
 }
 
-void ZpravaForm::QueryUnload() {
+Prubeh<> ZpravaForm::QueryUnload() {
     Odpovez(odpovedi_.back());
+    return {};
 }
 
-Odpoved UkazZpravu(Host& host, const std::string& text, const std::string& titul, Styl styl) {
-    constexpr std::uint32_t KROK_MS = 100;
-    const auto form = host.Okna().Nacti<ZpravaForm>(host, text, titul, styl);
-    host.Okna().NastavModalni(form);
-    while (!form->Zavreny() && !host.Okna().JeKonec()) host.DoEvents(KROK_MS);
-    host.Okna().Unload(*form);
-    return form->Vysledek();
+Prubeh<Odpoved> Host::UkazZpravu(std::string text, std::string titul, Styl styl) {
+    const auto form = Okna().Nacti<ZpravaForm>(*this, text, titul, styl);
+    Okna().NastavModalni(form);
+    Cekani odpoved([form] { return form->Zavreny(); });
+    co_await odpoved;
+    Okna().Unload(*form);
+    co_return form->Vysledek();
 }
 
 }  // namespace rysovna

@@ -17,11 +17,11 @@ public:
     ZpravaForm(Host& host, const std::string& text, const std::string& titul, Styl styl);
 
     [[nodiscard]] std::string_view Jmeno() const override { return "ZpravaForm"; }
-    void MouseDown(Ovladac* o, const Mys& m) override;
+    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
-    void Click(Ovladac* o) override;
-    bool Klavesa(std::string_view klavesa, int shift) override;
-    void QueryUnload() override;
+    Prubeh<> Click(Ovladac* o) override;
+    Odezva Klavesa(std::string_view klavesa, int shift) override;
+    Prubeh<> QueryUnload() override;
 
     /// What was chosen; the answer of Escape until something is.
     [[nodiscard]] Odpoved Vysledek() const { return vysledek_; }
@@ -43,9 +43,5 @@ private:
     std::size_t vybrane_ = 0;
     Odpoved vysledek_;
 };
-
-/// Shows a message box over the screens of the host and pumps its events until it is answered or
-/// the process is to end. The fonts must be there (MamePisma).
-Odpoved UkazZpravu(Host& host, const std::string& text, const std::string& titul, Styl styl);
 
 }  // namespace rysovna

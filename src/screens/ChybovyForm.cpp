@@ -46,14 +46,15 @@ void ChybovyForm::Load() {
     while (!Text1.VejdeSe() && Text1.Font.Velikost > NEJMENSI_PISMO) Text1.Font.Velikost -= 1;
 }
 
-void ChybovyForm::MouseDown(Ovladac*, const Mys&) {
+Prubeh<> ChybovyForm::MouseDown(Ovladac*, const Mys&) {
     s_.Okna().Unload(*this);
+    return {};
 }
 
-bool ChybovyForm::Klavesa(std::string_view klavesa, int /*shift*/) {
-    if (klavesa != "Escape" && klavesa != "Return" && klavesa != "Space") return false;
+Odezva ChybovyForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    if (klavesa != "Escape" && klavesa != "Return" && klavesa != "Space") return std::nullopt;
     s_.Okna().Unload(*this);
-    return true;
+    return Prubeh<>();
 }
 
 }  // namespace rysovna

@@ -20,8 +20,8 @@ public:
 
     void Load() override;
     /// A press on the list closes it: only a release that got lost leaves it standing so long.
-    void MouseDown(Ovladac* o, const Mys& m) override;
-    bool Klavesa(std::string_view klavesa, int shift) override;
+    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
+    Odezva Klavesa(std::string_view klavesa, int shift) override;
 };
 
 /// The text of the list: the lead-in, then a row for each of the first ten wrong steps.

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -85,12 +86,12 @@ public:
     void Load() override;
     void Unload() override;
     void Activate() override;
-    void MouseDown(Ovladac* o, const Mys& m) override;
+    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
-    void MouseUp(Ovladac* o, const Mys& m) override;
-    void Click(Ovladac* o) override;
+    Prubeh<> MouseUp(Ovladac* o, const Mys& m) override;
+    Prubeh<> Click(Ovladac* o) override;
     void Change(TextBox& t) override;
-    bool Klavesa(std::string_view klavesa, int shift) override;
+    Odezva Klavesa(std::string_view klavesa, int shift) override;
     bool KlavesaNa(Ovladac& o, std::string_view klavesa, int shift) override;
     void PriselPrsten(Ovladac& o) override;
     [[nodiscard]] Ovladac* PrvniZastavka() override;
@@ -110,7 +111,7 @@ public:
     /// Whom it speaks to.
     [[nodiscard]] CimSeHraje CimRady() const { return cimRady_; }
     /// Something is being handled while a wait runs: the guide keeps its words until it is done.
-    [[nodiscard]] bool JeUprostred() const { return vybiraSe_ || poustiSe_ || posouvaSe_; }
+    [[nodiscard]] bool JeUprostred() const;
 
 protected:
     /// Shows what a board's panel has beyond the common controls.
@@ -120,18 +121,24 @@ protected:
     void Napis(int ktery, const TextBox& box);
 
 private:
+    /// Waits that other handlers ask after.
+    static constexpr int PO_VOLBE = 1;    ///< a line was picked
+    static constexpr int PO_PUSTENI = 2;  ///< a release on the plane is being handled
+    [[nodiscard]] bool Ceka(int nac) const { return s_.Okna().Ceka(*this, nac); }
     // DeskaForm.cpp: making and loading
     void RozlozOvladace();
     void NactiObrazky();
     // DeskaUdalosti.cpp: events
     void StiskNastroje(const PictureBox& tlacitko, const Mys& m);
-    void VyberRadku(int i);
+    Prubeh<> VyberRadku(int i);
     void SkryjSeznam();
     void UkazTah(const Gumicka& g, const Mys& m);
+    void SchovejTah();
     void SkryjTah();
-    void PustPlochu(const Mys& m);
+    Prubeh<> PustPlochu(Mys m);
     void StiskSipky(int i);
-    void StiskMaleSipky();
+    Prubeh<> StiskMaleSipky();
+    Prubeh<> VratPanel();
     void ZhasniHorni();
     void ZhasniSipky();
     void UkazOdecet(const Gumicka& g, const Mys& m);
@@ -147,8 +154,9 @@ private:
     void SlozPanel();
     void PolozPanel(int odsunuti);
     void PolozKlidnyPanel();
-    void ZasunPanel();
-    void VysunPanel();
+    Prubeh<> PosunPanel(bool ven);
+    Prubeh<> ZasunPanel();
+    Prubeh<> VysunPanel();
     // DeskaRada.cpp: the guide line
     void RozlozRadu();
     void ObnovRadu();
@@ -156,13 +164,14 @@ private:
     [[nodiscard]] int MrtvyNastrojPod(const Mys& m) const;
     void UkazatelNad(const Ovladac* o);
     // DeskaSerie.cpp: check, verdict, series
-    void Zkontroluj();
-    void NovyPriklad();
+    Prubeh<> Zkontroluj();
+    Prubeh<> NovyPriklad();
     void NoveZadani();
-    void Pokracuj();
-    void UkonciSerii();
-    void UkazTabulku();
-    void Zpet();
+    Prubeh<> Pokracuj();
+    Prubeh<> UkonciSerii();
+    Prubeh<> Oznam(std::shared_ptr<Form> drzeny, std::string zprava);
+    Prubeh<> UkazTabulku();
+    Prubeh<> Zpet();
     void UkazChyby();
     void SkryjChyby();
 
@@ -173,11 +182,7 @@ private:
     std::map<int, DvojiceObrazku> tvary_;
     Obrazek panel_, hodnoceniDobre_, hodnoceniSpatne_, kontrolovano_;
     int zbyvaPrikladu_ = 0;
-    bool zaneprazdnen_ = false;  ///< a new example is being set up
     bool cekaNaZadani_ = false;  ///< the plane is empty, the new example not chosen yet
-    bool vybiraSe_ = false;      ///< a line was picked and its wait runs
-    bool posouvaSe_ = false;     ///< the panel is sliding
-    bool poustiSe_ = false;      ///< a release on the plane is being handled
     int danych_ = 0;             ///< objects that the example began with
     Videne videne_;
     Rada rada_;

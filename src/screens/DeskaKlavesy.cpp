@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <utility>
 
 #include "engine/Tabulky.h"
 #include "platform/Host.h"
@@ -121,23 +122,26 @@ void DeskaForm::UkazSeznamKlavesam() {
     }
 }
 
-bool DeskaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+Odezva DeskaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     if (klavesa == "Escape" && Combo.Visible) {
         SkryjSeznam();
         Prsten(cmd[static_cast<std::size_t>(nastroj_ - 1)]);
-        return true;
+        return Prubeh<>();
     }
-    if (klavesa == "Return") return EnterVPoli();
-    if (!JeZnak(klavesa) || klavesa[0] < '1' || klavesa[0] > '9') return false;
+    if (klavesa == "Return") return EnterVPoli() ? Odezva(Prubeh<>()) : std::nullopt;
+    if (!JeZnak(klavesa) || klavesa[0] < '1' || klavesa[0] > '9') return std::nullopt;
     const auto i = static_cast<std::size_t>(klavesa[0] - '1');
     Obrazovky& okna = s_.Okna();
+    Odezva stisk;
     if (Combo.Visible) {
-        if (i < ComboLabel.size()) okna.StiskniZastavku(*this, ComboLabel[i]);
-    } else if (i < cmd.size() && !okna.StiskniZastavku(*this, cmd[i])) {
+        if (i < ComboLabel.size()) stisk = okna.StiskniZastavku(*this, ComboLabel[i]);
+    } else if (i < cmd.size()) {
+        stisk = okna.StiskniZastavku(*this, cmd[i]);
         // The guide says why, as to a press beside what is live.
-        MouseDown(nullptr, {1, 0, static_cast<float>(cmd[i].Left), static_cast<float>(cmd[i].Top)});
+        const Mys vedle{1, 0, static_cast<float>(cmd[i].Left), static_cast<float>(cmd[i].Top)};
+        if (!stisk) stisk = MouseDown(nullptr, vedle);
     }
-    return true;
+    return stisk ? std::move(stisk) : Prubeh<>();
 }
 
 /// From a box for a value on to the next one, then to the button that confirms, else to the plane.

@@ -1,7 +1,5 @@
 // The panel of the dialogue as the controls show it, and the sliding panel with the sketch.
 
-#include <functional>
-
 #include "engine/Sluzby.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
@@ -167,48 +165,44 @@ void DeskaForm::PolozKlidnyPanel() {
                             Rop::SrcCopy);
 }
 
-/// Slides the panel by frames, with no event let through until the last one: what is pressed
-/// meanwhile was meant for the panel. snimek(k) gives the push of frame k.
-static void PosouvejPanel(Host& stroj, const std::function<void(int)>& snimek) {
-    const std::uint32_t zacatek = stroj.TickCount();
-    stroj.Okna().CekejZavrene([&] {
-        for (int k = 0; k < SNIMKU; ++k) {
-            snimek(k);
-            stroj.Prekresli();
-            const std::uint32_t konec = zacatek + static_cast<std::uint32_t>(k + 1) * DOBA_SNIMKU;
-            const std::uint32_t ted = stroj.TickCount();
-            stroj.Spi(ted < konec ? konec - ted : 0);
-        }
-    });
+/// Slides the panel out or in by frames, with no event let through until the last one: what is
+/// pressed meanwhile was meant for the panel.
+Prubeh<> DeskaForm::PosunPanel(bool ven) {
+    const Obrazovky::Zavreni zavreni(s_.Okna());
+    const std::uint32_t zacatek = s_.Stroj.TickCount();
+    for (int k = 0; k < SNIMKU; ++k) {
+        PolozPanel(KROK_SNIMKU * (ven ? SNIMKU - 1 - k : k));
+        s_.Stroj.Prekresli();
+        const std::uint32_t konec = zacatek + static_cast<std::uint32_t>(k + 1) * DOBA_SNIMKU;
+        const std::uint32_t ted = s_.Stroj.TickCount();
+        co_await Cekani::SPrijmem(ted < konec ? konec - ted : 0);
+    }
+    co_await Cekani::SPrijmem(0);
 }
 
-void DeskaForm::ZasunPanel() {
-    if (Image1.Tag == "0" || posouvaSe_) return;
-    posouvaSe_ = true;
+Prubeh<> DeskaForm::ZasunPanel() {
+    if (Image1.Tag == "0") co_return;
     SlozPanel();
     SamplePic.Visible = Image1.Visible = false;
-    PosouvejPanel(s_.Stroj, [this](int k) { PolozPanel(KROK_SNIMKU * k); });
+    co_await PosunPanel(false);
     Image1.Tag = "0";
     MalaSipka.Visible = true;
     Prsten(MalaSipka);  // pressed once more by keys, the panel is back
     VPImage.Visible = false;
-    posouvaSe_ = false;
     ObnovRadu();
-    Cekej(s_, 20);
+    co_await Cekani(20);
 }
 
-void DeskaForm::VysunPanel() {
-    if (Image1.Tag == "1" || posouvaSe_) return;
-    posouvaSe_ = true;
+Prubeh<> DeskaForm::VysunPanel() {
+    if (Image1.Tag == "1") co_return;
     SlozPanel();
     SamplePic.Visible = Image1.Visible = false;
     VPImage.Visible = true;
-    PosouvejPanel(s_.Stroj, [this](int k) { PolozPanel(KROK_SNIMKU * (SNIMKU - 1 - k)); });
+    co_await PosunPanel(true);
     PolozKlidnyPanel();
     Image1.Tag = "1";
     MalaSipka.Visible = false;
     SamplePic.Visible = Image1.Visible = true;
-    posouvaSe_ = false;
     ObnovRadu();
 }
 

@@ -7,8 +7,6 @@
 #include "rules/Kontrola.h"
 #include "screens/ChybovyForm.h"
 #include "screens/DeskaForm.h"
-#include "screens/Konec.h"
-#include "screens/Rolovani.h"
 #include "screens/Spolecne.h"
 #include "screens/TabulkaForm.h"
 #include "store/Soubory.h"
@@ -27,8 +25,8 @@ constexpr std::uint32_t PO_NAVRATU = 100;
 
 }  // namespace
 
-void DeskaForm::Zkontroluj() {
-    if (cekaNaZadani_) return;  // there is nothing to judge yet
+Prubeh<> DeskaForm::Zkontroluj() {
+    if (cekaNaZadani_) co_return;  // there is nothing to judge yet
     PicTop[0].Picture = kontrolovano_;
     for (std::size_t i = 0; i < 3; ++i) PicTop[i].Enabled = false;
     SamplePic.Enabled = false;
@@ -48,28 +46,27 @@ void DeskaForm::Zkontroluj() {
                         .Prikladu = s_.PocetPrikladuSerie,
                         .Bezchybny = bezchybne};
     ObnovRadu();
-    Cekej(s_, PO_VERDIKTU);
-    if (Skoncil(s_, *this)) return;
+    co_await Cekani(PO_VERDIKTU);
     picPokracuj.Enabled = true;
     const int priklad = zbyvaPrikladu_;
-    Roluj(s_, *this, picPokracuj, [this, priklad] { return zbyvaPrikladu_ == priklad; });
+    co_await Roluj({shared_from_this(), &picPokracuj},
+                   [this, priklad] { return zbyvaPrikladu_ == priklad; });
 }
 
-void DeskaForm::Pokracuj() {
+Prubeh<> DeskaForm::Pokracuj() {
     --zbyvaPrikladu_;
     if (zbyvaPrikladu_ > 0) {
         picPokracuj.Enabled = false;
         picPokracuj.Picture = s_.PokracujObrazek;
         for (PictureBox& s : picSipka) s.Enabled = true;
-        NovyPriklad();
-    } else if (zbyvaPrikladu_ == 0) {
-        UkonciSerii();
+        return NovyPriklad();
     }
+    return zbyvaPrikladu_ == 0 ? UkonciSerii() : Prubeh<>();
 }
 
-void DeskaForm::NovyPriklad() {
-    if (zaneprazdnen_ || cekaNaZadani_) return;
-    zaneprazdnen_ = cekaNaZadani_ = true;
+Prubeh<> DeskaForm::NovyPriklad() {
+    if (cekaNaZadani_) co_return;
+    cekaNaZadani_ = true;
     for (std::size_t i = 0; i < PicTop.size(); ++i) PicTop[i].Enabled = true;
     ZhasniHorni();
     SamplePic.Enabled = true;
@@ -78,12 +75,9 @@ void DeskaForm::NovyPriklad() {
     dialog_->NovyPriklad();
     KresliNacrt();
     Ukaz();
-    zaneprazdnen_ = false;
-    Cekej(s_, PO_UKLIDU);
-    if (Skoncil(s_, *this)) return;
-    if (Image1.Tag == "0") StiskMaleSipky();
-    Cekej(s_, PRED_ZADANIM);
-    if (Skoncil(s_, *this)) return;
+    co_await Cekani(PO_UKLIDU);
+    if (Image1.Tag == "0") co_await StiskMaleSipky();
+    co_await Cekani(PRED_ZADANIM);
     NoveZadani();
 }
 
@@ -96,7 +90,7 @@ void DeskaForm::NoveZadani() {
     Ukaz();
 }
 
-void DeskaForm::UkonciSerii() {
+Prubeh<> DeskaForm::UkonciSerii() {
     Host& stroj = s_.Stroj;
     Obrazovky& okna = stroj.Okna();
     const Vysledek vysledek{
@@ -111,7 +105,11 @@ void DeskaForm::UkonciSerii() {
         .Konec = stroj.Nyni()};
     Ukladani::Ulozeni zprava;
     // The lock of the results may have to be waited for: nothing is let through meanwhile.
-    okna.CekejZavrene([&] { zprava = s_.Vysledky().Uloz(vysledek); });
+    {
+        const Obrazovky::Zavreni zavreni(okna);
+        zprava = co_await s_.Vysledky().Uloz(vysledek);
+        co_await Cekani::SPrijmem(0);
+    }
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
     const auto tabulka = okna.Nacti<TabulkaForm>(s_);
     tabulka->Vlastnik = okna.Najdi("SetupForm");
@@ -120,25 +118,29 @@ void DeskaForm::UkonciSerii() {
     okna.Hide(*this);
     okna.Unload(*this);
     s_.AktivniForm = tabulka;
-    if (zprava.Text.empty()) return;
-    // Keys that came while the lock was waited for are not for the message.
-    okna.DorucOdlozene();
-    stroj.MsgBox(zprava.Text, "Upozornění", Styl::Ok);
+    // Told by nobody: the board is unloaded.
+    if (!zprava.Text.empty()) okna.Spust(Oznam(shared_from_this(), zprava.Text));
 }
 
-void DeskaForm::UkazTabulku() {
+/// Keys that came while the lock was waited for are not for the message.
+Prubeh<> DeskaForm::Oznam(std::shared_ptr<Form> /*drzeny*/, std::string zprava) {
+    co_await s_.Okna().DorucOdlozene();
+    co_await s_.Stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
+}
+
+Prubeh<> DeskaForm::UkazTabulku() {
     Obrazovky& okna = s_.Okna();
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
     const auto tabulka = okna.Nacti<TabulkaForm>(s_);
-    Cekej(s_, PRED_TABULKOU);
+    co_await Cekani(PRED_TABULKOU);
     // Help that came up meanwhile stays in front.
-    if (Skoncil(s_, *this) || tabulka->Zavreny() || !Viditelny()) return;
+    if (tabulka->Zavreny() || !Viditelny()) co_return;
     tabulka->Vlastnik = shared_from_this();
     okna.Show(*tabulka);
     s_.AktivniForm = tabulka;
 }
 
-void DeskaForm::Zpet() {
+Prubeh<> DeskaForm::Zpet() {
     Obrazovky& okna = s_.Okna();
     if (const auto tabulka = okna.Najdi("TabulkaForm")) okna.Unload(*tabulka);
     if (const auto setup = okna.Najdi("SetupForm")) {
@@ -146,7 +148,7 @@ void DeskaForm::Zpet() {
         s_.AktivniForm = setup;
     }
     okna.Unload(*this);
-    Cekej(s_, PO_NAVRATU);
+    co_await Cekani(PO_NAVRATU);
 }
 
 void DeskaForm::UkazChyby() {

@@ -8,7 +8,6 @@
 #include "platform/Obrazovky.h"
 #include "screens/DeskaForm.h"
 #include "screens/HelpForm.h"
-#include "screens/Konec.h"
 #include "screens/Spolecne.h"
 
 namespace rysovna {
@@ -36,27 +35,33 @@ constexpr std::uint8_t HOVER_SIPKY = 4;  ///< hover number before the first arro
 }  // namespace
 
 void DeskaForm::SkryjSeznam() {
-    if (vybiraSe_) return;  // it is hidden already, and the pick holds
+    if (Ceka(PO_VOLBE)) return;  // it is hidden already, and the pick holds
     if (!Combo.Visible && !dialog_->UkazPanel().Combo.Otevreny) return;
     dialog_->ZavriSeznam();
     Ukaz();
 }
 
-void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
+bool DeskaForm::JeUprostred() const {
+    return Ceka(PO_VOLBE) || Ceka(PO_PUSTENI) || s_.Okna().JeZavreno();
+}
+
+Prubeh<> DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
     if (o == nullptr) {
         SkryjSeznam();
         videne_.MrtvyNastroj = MrtvyNastrojPod(m);
-        return ObnovRadu();
+        ObnovRadu();
+        return {};
     }
     if (std::exchange(videne_.MrtvyNastroj, 0) != 0) ObnovRadu();
     // Between two examples there is nothing to work on yet.
-    if (cekaNaZadani_ && (Je(cmd, o) || Je(ComboLabel, o) || o == &Pic || o == &SamplePic)) return;
-    if (Je(cmd, o)) return StiskNastroje(cmd[static_cast<std::size_t>(o->Index - 1)], m);
+    if (cekaNaZadani_ && (Je(cmd, o) || Je(ComboLabel, o) || o == &Pic || o == &SamplePic))
+        return {};
+    if (Je(cmd, o)) StiskNastroje(cmd[static_cast<std::size_t>(o->Index - 1)], m);
     if (Je(ComboLabel, o)) return VyberRadku(o->Index);
     if (o == &Pic) {
         SkryjSeznam();
         zachytne_.reset();
-        if (m.Button != LEVE || poustiSe_) return;
+        if (m.Button != LEVE || Ceka(PO_PUSTENI)) return {};
         dialog_->StiskPlochy(m.X, m.Y);
         Ukaz();
     } else if (o == &SamplePic) {
@@ -68,17 +73,17 @@ void DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
     } else if (o == &Image1) {
         ZvukStisku(s_);
         SkryjSeznam();
-        ZasunPanel();
+        return ZasunPanel();
     } else if (o == &MalaSipka) {
-        StiskMaleSipky();
-        Prsten(Image1);
+        return VratPanel();
     } else if (o == &ImgHodnoceni) {
         UkazChyby();
     } else if (o == &picPokracuj) {
         ZvukStisku(s_);
         SkryjSeznam();
-        Pokracuj();
+        return Pokracuj();
     }
+    return {};
 }
 
 void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
@@ -101,10 +106,10 @@ void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
         ZhasniSipky();
         if ((m.Button & LEVE) == 0) {
             UkazTah(dialog_->Prejezd(m.X, m.Y), m);
-            if (!cekaNaZadani_ && !poustiSe_) zachytne_ = dialog_->ChytilBy(m.X, m.Y);
+            if (!cekaNaZadani_ && !Ceka(PO_PUSTENI)) zachytne_ = dialog_->ChytilBy(m.X, m.Y);
             return;
         }
-        if (!poustiSe_ && dialog_->CekaNaKresleni()) UkazTah(dialog_->Tah(m.X, m.Y), m);
+        if (!Ceka(PO_PUSTENI) && dialog_->CekaNaKresleni()) UkazTah(dialog_->Tah(m.X, m.Y), m);
         return;
     }
     const bool sipka = Je(picSipka, o);
@@ -121,13 +126,14 @@ void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
     }
 }
 
-void DeskaForm::MouseUp(Ovladac* o, const Mys& m) {
-    if (o == &Pic) kriz_ = VRozsahu(kriz_);  // the next press is on the plane again
-    if (o == &Pic && m.Button == LEVE) PustPlochu(m);
+Prubeh<> DeskaForm::MouseUp(Ovladac* o, const Mys& m) {
     if (o == &ImgHodnoceni) SkryjChyby();
+    if (o != &Pic) return {};
+    kriz_ = VRozsahu(kriz_);  // the next press is on the plane again
+    return m.Button == LEVE ? PustPlochu(m) : Prubeh<>();
 }
 
-void DeskaForm::Click(Ovladac* o) {
+Prubeh<> DeskaForm::Click(Ovladac* o) {
     if (o == &INadpis) {
         ZvukStisku(s_);
         UkazNapovedu(s_, "Bitmap\\Help\\" + DveCislice(s_.CisloUlohy) + ".bmp", *this);
@@ -147,6 +153,7 @@ void DeskaForm::Click(Ovladac* o) {
                 return Zpet();
         }
     }
+    return {};
 }
 
 void DeskaForm::Change(TextBox& t) {
@@ -160,10 +167,15 @@ void DeskaForm::Napis(int ktery, const TextBox& box) {
     ObnovRadu();
 }
 
-void DeskaForm::StiskMaleSipky() {
+Prubeh<> DeskaForm::StiskMaleSipky() {
     ZvukStisku(s_);
     SkryjSeznam();
-    VysunPanel();
+    return VysunPanel();
+}
+
+Prubeh<> DeskaForm::VratPanel() {
+    co_await StiskMaleSipky();
+    Prsten(Image1);
 }
 
 void DeskaForm::StiskNastroje(const PictureBox& tlacitko, const Mys& m) {
@@ -177,15 +189,12 @@ void DeskaForm::StiskNastroje(const PictureBox& tlacitko, const Mys& m) {
     UkazSeznamKlavesam();
 }
 
-void DeskaForm::VyberRadku(int i) {
+Prubeh<> DeskaForm::VyberRadku(int i) {
     ZvukStisku(s_);
     const Seznam seznam = dialog_->UkazPanel().Combo;
     Combo.Visible = false;
-    if (vybiraSe_) return;
-    vybiraSe_ = true;
-    Cekej(s_, CEKANI_PO_VOLBE);
-    vybiraSe_ = false;
-    if (Skoncil(s_, *this)) return;
+    if (Ceka(PO_VOLBE)) co_return;
+    co_await Cekani(CEKANI_PO_VOLBE, PO_VOLBE);
     // Another list may have come up, or this one gone, while the wait let events through.
     if (dialog_->UkazPanel().Combo == seznam) dialog_->VyberRadku(i);
     Ukaz();
@@ -228,28 +237,32 @@ void DeskaForm::UkazOdecet(const Gumicka& g, const Mys& m) {
     Text.Top = nad >= 0 ? std::min(nad, Pic.Height - Text.Height) : Zaokrouhli(m.Y) + NAD_PRSTEM;
 }
 
-void DeskaForm::SkryjTah() {
+void DeskaForm::SchovejTah() {
     Line1.Visible = Circle1.Visible = Text.Visible = false;
     zachytne_.reset();
     videne_.Tahne = videne_.Podlozka = false;
     videne_.Odecet.clear();
+}
+
+void DeskaForm::SkryjTah() {
+    SchovejTah();
     ObnovRadu();
 }
 
-void DeskaForm::PustPlochu(const Mys& m) {
-    const bool kresli = !poustiSe_ && dialog_->CekaNaKresleni();
-    poustiSe_ = poustiSe_ || kresli;
-    SkryjTah();
-    if (!kresli) return;
-    Cekej(s_, dialog_->CekaniPoTahu());
-    poustiSe_ = false;
-    if (Skoncil(s_, *this)) return;
+Prubeh<> DeskaForm::PustPlochu(Mys m) {
+    SchovejTah();
+    if (Ceka(PO_PUSTENI)) co_return;
+    if (!dialog_->CekaNaKresleni()) {
+        ObnovRadu();
+        co_return;
+    }
+    co_await Cekani(dialog_->CekaniPoTahu(), PO_PUSTENI);
     dialog_->PusteniPlochy(m.X, m.Y);
     Ukaz();
 }
 
 void DeskaForm::StiskSipky(int i) {
-    if (poustiSe_) return;  // what was drawn belongs to the plane as it is
+    if (Ceka(PO_PUSTENI)) return;  // what was drawn belongs to the plane as it is
     const SmerPosunu& s = SMERY[static_cast<std::size_t>(i - 1)];
     int& posun = s.Dx != 0 ? s_.PosunX : s_.PosunY;
     const int krok = s.Dx + s.Dy;

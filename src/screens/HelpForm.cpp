@@ -12,15 +12,15 @@ void HelpForm::Load() {
     Caption = "Rysovna 1";
 }
 
-void HelpForm::Click(Ovladac*) {
+Prubeh<> HelpForm::Click(Ovladac*) {
     ZvukStisku(s_);
     VratSeK(s_, Vlastnik, *this);
+    return {};
 }
 
-bool HelpForm::Klavesa(std::string_view klavesa, int /*shift*/) {
-    if (klavesa != "Escape" && klavesa != "Return" && klavesa != "Space") return false;
-    Click(nullptr);
-    return true;
+Odezva HelpForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    if (klavesa != "Escape" && klavesa != "Return" && klavesa != "Space") return std::nullopt;
+    return Click(nullptr);
 }
 
 void UkazNapovedu(Sezeni& s, std::string_view obrazek, Form& vlastnik) {

@@ -20,8 +20,8 @@ public:
     std::weak_ptr<Form> Vlastnik;
 
     void Load() override;
-    void Click(Ovladac* o) override;
-    bool Klavesa(std::string_view klavesa, int shift) override;
+    Prubeh<> Click(Ovladac* o) override;
+    Odezva Klavesa(std::string_view klavesa, int shift) override;
 };
 
 /// Shows a help picture (below the asset root) on top of a screen and hides that screen; the click

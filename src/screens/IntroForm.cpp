@@ -1,8 +1,9 @@
 #include "screens/IntroForm.h"
 
+#include <algorithm>
+
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
-#include "screens/Konec.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
 #include "screens/Zdroje.h"
@@ -35,13 +36,14 @@ void IntroForm::Load() {
     s_.AktivniForm = weak_from_this();
 }
 
-void IntroForm::MouseDown(Ovladac*, const Mys&) {
+Prubeh<> IntroForm::MouseDown(Ovladac*, const Mys&) {
     Preskoc();
+    return {};
 }
 
-bool IntroForm::Klavesa(std::string_view, int) {
+Odezva IntroForm::Klavesa(std::string_view, int) {
     Preskoc();
-    return true;
+    return Prubeh<>();
 }
 
 void IntroForm::Preskoc() {
@@ -49,27 +51,21 @@ void IntroForm::Preskoc() {
     preskoceno_ = true;
 }
 
-void IntroForm::TimerTick(Timer& t) {
+Prubeh<> IntroForm::TimerTick(Timer& t) {
     t.Enabled = false;
-    Host& stroj = s_.Stroj;
-    std::int32_t zbyva = 0;
-    do {
-        if (preskoceno_) {
-            termin_ = stroj.TickCount() - 1000;
-        } else {
-            zbyva = static_cast<std::int32_t>(termin_ - stroj.TickCount());
-            stroj.DoEvents(zbyva > 0 ? static_cast<std::uint32_t>(zbyva) : 0);
-            if (Skoncil(s_, *this)) return;
-        }
-        zbyva = static_cast<std::int32_t>(termin_ - stroj.TickCount());
-    } while (zbyva > 0);
-    Cekej(s_, 20);
-    if (Skoncil(s_, *this)) return;
+    return DoMenu();
+}
+
+Prubeh<> IntroForm::DoMenu() {
+    const auto zbyva = static_cast<std::int32_t>(termin_ - s_.Stroj.TickCount());
+    Cekani titul([this] { return preskoceno_; }, static_cast<std::uint32_t>(std::max(zbyva, 0)));
+    co_await titul;
+    co_await Cekani(20);
     SelectForm& menu = Menu(s_);
-    stroj.Okna().Show(menu);
+    s_.Okna().Show(menu);
     s_.AktivniForm = menu.weak_from_this();
-    stroj.Okna().Hide(*this);
-    stroj.Okna().Unload(*this);
+    s_.Okna().Hide(*this);
+    s_.Okna().Unload(*this);
 }
 
 }  // namespace rysovna

@@ -1,7 +1,5 @@
 #include "screens/PozadiForm.h"
 
-#include "screens/Spolecne.h"
-
 namespace rysovna {
 
 void UkazPozadi(Sezeni& s) {
@@ -14,10 +12,11 @@ void PozadiForm::Activate() {
     if (!aktivni || aktivni->Zavreny()) return;
     s_.Okna().Show(*aktivni);
     // One wait at a time: a pupil who keeps pressing beside the window must not pile waits up.
-    if (ceka_) return;
-    ceka_ = true;
-    Cekej(s_, 100);
-    ceka_ = false;
+    if (!s_.Okna().Ceka(*this)) s_.Okna().Spust(*this, Pockej());
+}
+
+Prubeh<> PozadiForm::Pockej() {
+    co_await Cekani(100);
 }
 
 }  // namespace rysovna

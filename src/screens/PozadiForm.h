@@ -14,7 +14,7 @@ public:
     void Activate() override;
 
 private:
-    bool ceka_ = false;
+    Prubeh<> Pockej();
 };
 
 /// Loads and shows it.

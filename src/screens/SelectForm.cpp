@@ -9,7 +9,7 @@
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
 #include "screens/IntroForm.h"
-#include "screens/Konec.h"
+#include "screens/PozadiForm.h"
 #include "screens/SetupForm.h"
 #include "screens/Spolecne.h"
 #include "screens/Start.h"
@@ -45,18 +45,26 @@ SelectForm::SelectForm(Sezeni& s) : FormHry(s) {
     for (Image& ri : RI) ri.Zastavka = 4;
 }
 
-void SelectForm::Load() {
-    if (!NactiKonfiguraci(s_)) {
+Prubeh<> SelectForm::Start() {
+    const std::string chybi = NactiKonfiguraci(s_);
+    if (!chybi.empty()) {
+        co_await s_.Stroj.MsgBox(chybi, "Chyba", Styl::Stop);
         s_.Okna().Konec(STAV_NESPUSTENO);
-        return;
+        co_return;
     }
+    std::string zprava;
+    {
+        const Obrazovky::Zavreni zavreni(s_.Okna());
+        zprava = co_await s_.Vysledky().ZkusCekajici();
+    }
+    if (!zprava.empty()) co_await s_.Stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
     IntroForm::Prednacti(s_);
-    Cekej(s_, 100);
-    PrepniObrazovku(s_);
+    co_await Cekani(100);
+    co_await PrepniObrazovku(s_);
+    UkazPozadi(s_);
     const auto titul = s_.Okna().Nacti<IntroForm>(s_);
     s_.Okna().Show(*titul);
-    Cekej(s_, 100);
-    if (Skoncil(s_, *this)) return;
+    co_await Cekani(100);
     titul->Timer1.Enabled = true;
 
     Maximised = true;
@@ -85,15 +93,27 @@ void SelectForm::Unload() {
     MouseMove(nullptr, {.Button = 1, .Shift = 0, .X = 1, .Y = 1});
 }
 
-void SelectForm::MouseDown(Ovladac* o, const Mys&) {
+Prubeh<> SelectForm::MouseDown(Ovladac* o, const Mys&) {
     if (Je(LI, o)) {
         ZvolRodinu(static_cast<std::size_t>(o->Index) - 1);
     } else if (Je(RI, o)) {
         ZvolUlohu(static_cast<std::size_t>(o->Index) - 1);
     } else if (o == &picKonec) {
         ZvukStisku(s_);
-        ZeptejSeNaKonec(s_);
+        return ZeptejSeNaKonec();
     }
+    return {};
+}
+
+/// Asks, and on Yes restores the screen mode and ends the program. Closing the window asks too,
+/// whatever screen is in front. While another message box stands, nothing is asked.
+Prubeh<> SelectForm::ZeptejSeNaKonec() {
+    if (s_.Okna().JeModalni()) co_return;
+    const Odpoved odpoved = co_await s_.Stroj.MsgBox("Opravdu chcete ukončit tento program?",
+                                                     "Ukončení aplikace", Styl::OtazkaAnoNe);
+    if (odpoved != Odpoved::Ano) co_return;
+    co_await ObnovObrazovku(s_);
+    s_.Okna().Konec();
 }
 
 /// A press on the family that is chosen already leaves the pictures of the tasks alone.
@@ -166,16 +186,16 @@ void SelectForm::MouseMove(Ovladac* o, const Mys&) {
     }
 }
 
-void SelectForm::Click(Ovladac* o) {
-    if (o != &Image1) return;
+Prubeh<> SelectForm::Click(Ovladac* o) {
+    if (o != &Image1) return {};
     ZvukStisku(s_);
     UkazNapovedu(s_, "Bitmap\\Help\\credits.bmp", *this);
+    return {};
 }
 
-bool SelectForm::Klavesa(std::string_view klavesa, int /*shift*/) {
-    if (klavesa != "Escape") return false;
-    MouseDown(&picKonec, {});
-    return true;
+Odezva SelectForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    if (klavesa != "Escape") return std::nullopt;
+    return MouseDown(&picKonec, {});
 }
 
 Ovladac* SelectForm::PrvniZastavka() {
@@ -183,8 +203,8 @@ Ovladac* SelectForm::PrvniZastavka() {
     return zvolena != LI.end() ? &*zvolena : &LI.front();
 }
 
-void SelectForm::QueryUnload() {
-    ZeptejSeNaKonec(s_);
+Prubeh<> SelectForm::QueryUnload() {
+    return ZeptejSeNaKonec();
 }
 
 SelectForm& Menu(const Sezeni& s) {

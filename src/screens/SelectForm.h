@@ -7,7 +7,7 @@
 
 namespace rysovna {
 
-/// The menu, and the first screen that the program makes: its load is the start-up. Families of
+/// The menu, and the first screen that the program makes. Families of
 /// tasks on the left, the tasks of the chosen family on the right. Lives to the end; only hidden
 /// and shown, so that the last choice stays lit.
 class SelectForm final : public FormHry {
@@ -25,17 +25,20 @@ public:
     /// The roll-in of the continue button: one row of 23 cells.
     PictureClip PicClip;
 
-    void Load() override;
+    /// The start-up: the configuration, what waits to be stored, the switch of the screen, the
+    /// title.
+    Prubeh<> Start();
     void Unload() override;
-    void MouseDown(Ovladac* o, const Mys& m) override;
+    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
-    void Click(Ovladac* o) override;
-    bool Klavesa(std::string_view klavesa, int shift) override;
+    Prubeh<> Click(Ovladac* o) override;
+    Odezva Klavesa(std::string_view klavesa, int shift) override;
     [[nodiscard]] Ovladac* PrvniZastavka() override;
     [[nodiscard]] Ovladac* Napoveda() override { return &Image1; }
-    void QueryUnload() override;
+    Prubeh<> QueryUnload() override;
 
 private:
+    Prubeh<> ZeptejSeNaKonec();
     void NactiObrazky();
     void ZvolRodinu(std::size_t i);
     void ZvolUlohu(std::size_t j);

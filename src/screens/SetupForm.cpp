@@ -1,6 +1,7 @@
 #include "screens/SetupForm.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Cisla.h"
 #include "base/Text.h"
@@ -10,9 +11,7 @@
 #include "platform/Paleta.h"
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
-#include "screens/Konec.h"
 #include "screens/Prechody.h"
-#include "screens/Rolovani.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
 
@@ -95,62 +94,58 @@ void SetupForm::Activate() {
 }
 
 /// Name and digit there: the continue button rolls in, once; one of them gone: it hides.
-void SetupForm::Kontrola() {
+Prubeh<> SetupForm::Kontrola() {
     UkazCoDal();
     const bool uplne = !TJmeno.Text.empty() && std::ranges::any_of(ICislo, Zvoleny);
     if (!uplne) {
         picPokracuj.Picture = s_.PokracujObrazek;
         picPokracuj.Visible = false;
         pokracujNahore_ = false;
-        return;
+        return {};
     }
-    if (pokracujNahore_) return;
+    if (pokracujNahore_) return {};
     pokracujNahore_ = true;
     picPokracuj.Visible = true;
     const unsigned moje = ++rolovani_;
-    Roluj(s_, *this, picPokracuj, [this, moje] { return pokracujNahore_ && rolovani_ == moje; });
+    return Roluj({shared_from_this(), &picPokracuj},
+                 [this, moje] { return pokracujNahore_ && rolovani_ == moje; });
 }
 
 void SetupForm::Change(TextBox& /*t*/) {
-    Kontrola();
+    s_.Okna().Spust(*this, Kontrola());
 }
 
-void SetupForm::MouseDown(Ovladac* o, const Mys&) {
-    if (Je(ICislo, o)) {
-        ZvolPocet(static_cast<std::size_t>(o->Index) - 1);
-    } else if (o == &picPokracuj) {
-        SpustDesku();
-    } else if (o == &picKonec) {
-        ZpetDoMenu();
-    }
+Prubeh<> SetupForm::MouseDown(Ovladac* o, const Mys&) {
+    if (Je(ICislo, o)) return ZvolPocet(static_cast<std::size_t>(o->Index) - 1);
+    if (o == &picPokracuj) return SpustDesku();
+    if (o == &picKonec) ZpetDoMenu();
+    return {};
 }
 
-void SetupForm::ZvolPocet(std::size_t k) {
+Prubeh<> SetupForm::ZvolPocet(std::size_t k) {
     ZvukStisku(s_);
     OdzvolVse(ICislo, cislice_);
     ICislo[k].Tag = "1";
     ICislo[k].Picture = cislice_[k].Rozsviceny;
     ISipka.Picture = sipky_[k];
     s_.PocetPrikladuSerie = static_cast<std::uint8_t>(k + 1);
-    Cekej(s_, 100);
-    if (Skoncil(s_, *this)) return;
-    Kontrola();
+    co_await Cekani(100);
+    co_await Kontrola();
 }
 
 /// A number that is no task starts nothing. The board is the active screen from the moment it
 /// shows: a press on it during the wait may already lead on to another screen.
-void SetupForm::SpustDesku() {
+Prubeh<> SetupForm::SpustDesku() {
     ZvukStisku(s_);
     s_.JmenoHrace = BezKrajnichMezer(TJmeno.Text);
     const std::shared_ptr<Form> deska = s_.VyrobDesku(s_.CisloUlohy);
-    if (!deska) return;
+    if (!deska) co_return;
     Obrazovky& okna = s_.Okna();
     okna.Zaved(deska);
     okna.Show(*deska);
     s_.AktivniForm = deska;
-    Cekej(s_, 100);
-    if (Skoncil(s_, *this) || deska->Zavreny()) return;
-    okna.Hide(*this);
+    co_await Cekani(100);
+    if (!deska->Zavreny()) okna.Hide(*this);
 }
 
 void SetupForm::ZpetDoMenu() {
@@ -177,29 +172,38 @@ void SetupForm::MouseMove(Ovladac* o, const Mys&) {
     }
 }
 
-void SetupForm::Click(Ovladac* o) {
-    if (o != &Image1) return;
+Prubeh<> SetupForm::Click(Ovladac* o) {
+    if (o != &Image1) return {};
     ZvukStisku(s_);
     UkazNapovedu(s_, "Bitmap\\Help\\setup.bmp", *this);
+    return {};
 }
 
 /// From a digit, which it chooses, or from the name on to what is still missing; where nothing is
 /// any more, to the board, by way of the button after a digit that is new.
-bool SetupForm::Enter() {
+Odezva SetupForm::Enter() {
     Obrazovky& okna = s_.Okna();
     const Ovladac* kde = okna.Psane();
     if (const auto prsten = okna.PrstenVpredu()) kde = prsten->Co;
-    const bool cislo = kde != nullptr && Je(ICislo, kde);
-    if (kde != nullptr && kde != &TJmeno && !cislo) return false;
-    bool novy = false;
-    if (cislo) {
-        Image& volba = ICislo[static_cast<std::size_t>(kde->Index) - 1];
-        novy = !Zvoleny(volba);
-        if (novy) okna.StiskniZastavku(*this, volba);
-        // The waits in it may have led on from here.
-        if (Skoncil(s_, *this) || okna.Vpredu().get() != this || MistoPrstenu(*this) != &volba)
-            return true;
+    if (kde != nullptr && Je(ICislo, kde)) {
+        const auto k = static_cast<std::size_t>(kde->Index) - 1;
+        return Zvoleny(ICislo[k]) ? DalEnterem(false) : ZvolEnterem(k);
     }
+    if (kde != nullptr && kde != &TJmeno) return std::nullopt;
+    return DalEnterem(false);
+}
+
+Prubeh<> SetupForm::ZvolEnterem(std::size_t k) {
+    Odezva stisk = s_.Okna().StiskniZastavku(*this, ICislo[k]);
+    if (stisk) co_await *stisk;
+    // The waits in it may have led on from here.
+    if (s_.Okna().Vpredu().get() != this || MistoPrstenu(*this) != &ICislo[k]) co_return;
+    co_await DalEnterem(true);
+}
+
+/// novy: the digit was chosen just now.
+Prubeh<> SetupForm::DalEnterem(bool novy) {
+    Obrazovky& okna = s_.Okna();
     if (TJmeno.Text.empty()) {
         okna.DejPrsten(*this, TJmeno);
     } else if (std::ranges::none_of(ICislo, Zvoleny)) {
@@ -207,26 +211,24 @@ bool SetupForm::Enter() {
     } else if (novy) {
         okna.DejPrsten(*this, picPokracuj);
     } else if (picPokracuj.Visible) {
-        SpustDesku();
+        return SpustDesku();
     }
-    return true;
+    return {};
 }
 
-bool SetupForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+Odezva SetupForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     Obrazovky& okna = s_.Okna();
     const std::size_t cislice =
         klavesa.size() == 1 ? std::string_view("12345").find(klavesa) : std::string_view::npos;
     if (cislice != std::string_view::npos) {
-        okna.StiskniZastavku(*this, ICislo[cislice]);
-    } else if (klavesa == "Return") {
-        return Enter();
-    } else if (klavesa == "Escape" && TJmeno.Text.empty()) {
-        // With a name there, one key by mistake must not throw it away.
-        ZpetDoMenu();
-    } else {
-        return false;
+        Odezva stisk = okna.StiskniZastavku(*this, ICislo[cislice]);
+        return stisk ? std::move(*stisk) : Prubeh<>();
     }
-    return true;
+    if (klavesa == "Return") return Enter();
+    // With a name there, one key by mistake must not throw it away.
+    if (klavesa != "Escape" || !TJmeno.Text.empty()) return std::nullopt;
+    ZpetDoMenu();
+    return Prubeh<>();
 }
 
 }  // namespace rysovna

@@ -26,20 +26,22 @@ public:
 
     void Load() override;
     void Activate() override;
-    void MouseDown(Ovladac* o, const Mys& m) override;
+    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
-    void Click(Ovladac* o) override;
+    Prubeh<> Click(Ovladac* o) override;
     void Change(TextBox& t) override;
-    bool Klavesa(std::string_view klavesa, int shift) override;
+    Odezva Klavesa(std::string_view klavesa, int shift) override;
     [[nodiscard]] Ovladac* PrvniZastavka() override { return &TJmeno; }
     [[nodiscard]] Ovladac* Napoveda() override { return &Image1; }
 
 private:
-    void Kontrola();
+    Prubeh<> Kontrola();
     void UkazCoDal();
-    void ZvolPocet(std::size_t k);
-    bool Enter();
-    void SpustDesku();
+    Prubeh<> ZvolPocet(std::size_t k);
+    Odezva Enter();
+    Prubeh<> ZvolEnterem(std::size_t k);
+    Prubeh<> DalEnterem(bool novy);
+    Prubeh<> SpustDesku();
     void ZpetDoMenu();
 
     Hover hover_{s_};  ///< 1 to 5 ICislo, 12 Image1, 20 picKonec

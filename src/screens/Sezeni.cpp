@@ -16,10 +16,9 @@ std::shared_ptr<Form> Sezeni::VyrobDesku(int cisloUlohy) {
 
 Ukladani& Sezeni::Vysledky() {
     if (!vysledky_) {
-        const Hodiny hodiny{.Ted = [this] { return Stroj.TickCount(); },
-                            .Spi = [this](std::uint32_t ms) { Stroj.Spi(ms); }};
-        vysledky_ = std::make_unique<Ukladani>(Disk(), hodiny, NativniCesta(CestaVysledku),
-                                               Stroj.SlozkaStavu());
+        vysledky_ = std::make_unique<Ukladani>(
+            Disk(), [this] { return Stroj.TickCount(); }, NativniCesta(CestaVysledku),
+            Stroj.SlozkaStavu());
     }
     return *vysledky_;
 }

@@ -16,16 +16,6 @@ bool MaRozmery(const Ovladac& o) {
 
 }  // namespace
 
-void Cekej(Sezeni& s, std::uint32_t ms) {
-    Host& stroj = s.Stroj;
-    const std::uint32_t termin = stroj.TickCount() + ms;
-    // The difference, not the times, is compared: the tick count may wrap meanwhile.
-    const auto zbyva = [&] { return static_cast<std::int32_t>(termin - stroj.TickCount()); };
-    while (zbyva() > 0 && !stroj.Okna().JeKonec()) {
-        stroj.DoEvents(static_cast<std::uint32_t>(zbyva()));
-    }
-}
-
 double Meritko(const Sezeni& s) {
     return s.Stroj.TwipsPerPixel() / NAVRHOVYCH_TWIPU;
 }

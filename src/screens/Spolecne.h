@@ -1,16 +1,10 @@
 #pragma once
 
-#include <cstdint>
-
 #include "screens/Sezeni.h"
 
 namespace rysovna {
 
 // What all screens do.
-
-/// Waits ms milliseconds. Events are let through: a click during the wait is handled during it, so
-/// the caller's form may be unloaded when this returns. Ends early when the process is to end.
-void Cekej(Sezeni& s, std::uint32_t ms);
 
 /// Pixels to a design pixel, by the twips per pixel: 1 at the 15 that every host gives.
 [[nodiscard]] double Meritko(const Sezeni& s);

@@ -7,7 +7,7 @@
 
 #include "platform/Cesta.h"
 #include "platform/Surface.h"
-#include "screens/PozadiForm.h"
+#include "screens/SelectForm.h"
 #include "store/Cesty.h"
 #include "store/Soubory.h"
 
@@ -64,7 +64,12 @@ bool ZalozVysledky(Sezeni& s) {
 
 }  // namespace
 
-bool NactiKonfiguraci(Sezeni& s) {
+void Zacni(Sezeni& s) {
+    const auto menu = s.Okna().Nacti<SelectForm>(s);
+    s.Okna().Spust(*menu, menu->Start());
+}
+
+std::string NactiKonfiguraci(Sezeni& s) {
     Host& stroj = s.Stroj;
     std::string adresar = stroj.WindowsDirectory();
     std::erase(adresar, '\0');
@@ -82,8 +87,7 @@ bool NactiKonfiguraci(Sezeni& s) {
         VypisChybejici("v souboru " +
                        NativniCesta(s.AdresarSystemu + std::string(JMENO_INI)).string() +
                        " není klíč " + (s.CestaCD.empty() ? "CD" : "HD"));
-        stroj.MsgBox(CHYBI_INI, "Chyba", Styl::Stop);
-        return false;
+        return CHYBI_INI;
     }
     const bool zalozeno = !cesty.Oddelene || ZalozVysledky(s);
     const auto jeVDatech = [&s](const std::string& jmeno) { return JeTu(s, s.CestaHD + jmeno); };
@@ -91,35 +95,29 @@ bool NactiKonfiguraci(Sezeni& s) {
         return JeTu(s, s.CestaVysledku + jmeno);
     };
     if (!zalozeno || !std::ranges::all_of(JmenaDat(), jeVDatech) ||
-        !std::ranges::all_of(JmenaVysledku(), jeVeVysledcich)) {
-        stroj.MsgBox(CHYBI_DATA, "Chyba", Styl::Stop);
-        return false;
-    }
+        !std::ranges::all_of(JmenaVysledku(), jeVeVysledcich))
+        return CHYBI_DATA;
     NactiZnamky(s, stroj.Disk(), s.CestaHD + "Znamky.dat");
     s.Vety = [&s](int cislo) { return CtiVety(s.Disk(), s.CestaHD + "Errors.dat", cislo); };
     s.Generator.Zasej(stroj.Seminko());
-    const std::string zprava = s.Vysledky().ZkusCekajici();
-    if (!zprava.empty()) stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
-    return true;
+    return {};
 }
 
-void PrepniObrazovku(Sezeni& s) {
+Prubeh<Odpoved> PrepniObrazovku(Sezeni& s) {
     Host& stroj = s.Stroj;
     const RezimObrazovky puvodni = stroj.GetDeviceCaps();
     s.PuvodniSirka = puvodni.Sirka;
     s.PuvodniVyska = puvodni.Vyska;
     s.PuvodniBarvy = puvodni.Barvy;
-    if (stroj.ChangeDisplaySettings(REZIM_HRY) != 0) {
-        stroj.MsgBox(NELZE_PREPNOUT, "Upozornění", Styl::Ok);
-    }
-    UkazPozadi(s);
+    if (stroj.ChangeDisplaySettings(REZIM_HRY) == 0) return {};
+    return stroj.MsgBox(NELZE_PREPNOUT, "Upozornění", Styl::Ok);
 }
 
-void ObnovObrazovku(Sezeni& s) {
+Prubeh<Odpoved> ObnovObrazovku(Sezeni& s) {
     Host& stroj = s.Stroj;
-    if (stroj.ChangeDisplaySettings({s.PuvodniSirka, s.PuvodniVyska, s.PuvodniBarvy}) != 0) {
-        stroj.MsgBox(NELZE_OBNOVIT, "Systémová chyba", Styl::Ok);
-    }
+    if (stroj.ChangeDisplaySettings({s.PuvodniSirka, s.PuvodniVyska, s.PuvodniBarvy}) == 0)
+        return {};
+    return stroj.MsgBox(NELZE_OBNOVIT, "Systémová chyba", Styl::Ok);
 }
 
 }  // namespace rysovna

@@ -1,21 +1,26 @@
 #pragma once
 
+#include <string>
+
 #include "screens/Sezeni.h"
 
 namespace rysovna {
 
+/// Makes the first screen, the menu, and begins the start-up, which is a work of the menu's.
+void Zacni(Sezeni& s);
+
 /// The first step of the start-up: paths from Rysovna.ini, a look whether all files of game data
 /// and of results are there (missing results are made, empty, where they have a folder of their
-/// own), the grade table, the seed of the generator, results that wait. False when something is
-/// missing: it was told in a message box, which file is meant on the error output, and the process
-/// must end; nothing else was touched. The font folder is set as soon as the asset root is known,
-/// so that the message can be printed.
-[[nodiscard]] bool NactiKonfiguraci(Sezeni& s);
+/// own), the grade table, the seed of the generator. What is to be told when something is missing:
+/// the process must end then, which file is meant is on the error output, and nothing else was
+/// touched; empty if all is there. The font folder is set as soon as the asset root is known, so
+/// that the message can be printed.
+[[nodiscard]] std::string NactiKonfiguraci(Sezeni& s);
 
-/// Remembers the screen mode, switches to 640 by 480 by 16 bits and shows the black background. A
-/// screen that cannot be switched gets a warning, and the program goes on in a window.
-void PrepniObrazovku(Sezeni& s);
+/// Remembers the screen mode and switches to 640 by 480 by 16 bits. A screen that cannot be
+/// switched gets a warning, and the program goes on in a window.
+Prubeh<Odpoved> PrepniObrazovku(Sezeni& s);
 /// Switches back to the mode that PrepniObrazovku remembered; warns if that fails.
-void ObnovObrazovku(Sezeni& s);
+Prubeh<Odpoved> ObnovObrazovku(Sezeni& s);
 
 }  // namespace rysovna

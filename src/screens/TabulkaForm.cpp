@@ -158,8 +158,9 @@ void TabulkaForm::NactiTabulku() {
     }
 }
 
-void TabulkaForm::MouseDown(Ovladac* o, const Mys&) {
+Prubeh<> TabulkaForm::MouseDown(Ovladac* o, const Mys&) {
     if (o == &picKonec) Zpet();
+    return {};
 }
 
 void TabulkaForm::Zpet() {
@@ -175,16 +176,17 @@ void TabulkaForm::MouseMove(Ovladac* o, const Mys&) {
     }
 }
 
-void TabulkaForm::Click(Ovladac* o) {
-    if (o != &INadpis) return;
+Prubeh<> TabulkaForm::Click(Ovladac* o) {
+    if (o != &INadpis) return {};
     ZvukStisku(s_);
     UkazNapovedu(s_, "Bitmap\\Help\\tab.bmp", *this);
+    return {};
 }
 
-bool TabulkaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
-    if (klavesa != "Escape") return false;
+Odezva TabulkaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    if (klavesa != "Escape") return std::nullopt;
     Zpet();
-    return true;
+    return Prubeh<>();
 }
 
 }  // namespace rysovna

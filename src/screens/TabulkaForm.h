@@ -41,10 +41,10 @@ public:
     [[nodiscard]] const std::vector<ZaznamTabulky>& Zaznamy() const { return zaznamy_; }
 
     void Load() override;
-    void MouseDown(Ovladac* o, const Mys& m) override;
+    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
-    void Click(Ovladac* o) override;
-    bool Klavesa(std::string_view klavesa, int shift) override;
+    Prubeh<> Click(Ovladac* o) override;
+    Odezva Klavesa(std::string_view klavesa, int shift) override;
     [[nodiscard]] Ovladac* PrvniZastavka() override { return &picKonec; }
     [[nodiscard]] Ovladac* Napoveda() override { return &INadpis; }
 

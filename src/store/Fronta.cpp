@@ -19,7 +19,6 @@ constexpr std::string_view PRIPONA = ".vysledek";
 constexpr const char* JMENO_ZAMKU = "zamek";
 constexpr std::string_view PRIPONA_NOVEHO = ".novy";  // of an entry that is being written
 constexpr std::size_t SIRKA_CASU = 20;
-constexpr std::uint32_t KROK_CEKANI = 20;  // ms
 
 /// The texts of a result by their names in the file.
 constexpr std::pair<std::string_view, std::string Vysledek::*> TEXTY[] = {
@@ -142,14 +141,6 @@ bool JeZaznam(const std::string& jmeno) {
 
 }  // namespace
 
-void PockejNaZamek(Soubor& soubor, const fs::path& cesta, const Hodiny& hodiny, std::uint32_t od) {
-    while (!soubor.Zamkni()) {
-        if (hodiny.Ted() - od + KROK_CEKANI > NEJDELE_NA_ZAMEK)
-            throw ChybaDisku(Pricina::Zamceno, cesta);
-        hodiny.Spi(KROK_CEKANI);
-    }
-}
-
 std::string TextCekajiciho(const CekajiciVysledek& v) {
     std::string text(PRVNI_RADEK);
     text += "\nkoren=" + NaRadek(v.Koren) + "\nuloha=" + std::to_string(v.Co.CisloUlohy) + "\n";
@@ -193,7 +184,7 @@ Fronta::Fronta(Disk& disk, const fs::path& slozkaStavu)
     disk_.ZalozSlozku(slozka_);
 }
 
-void Fronta::Zamkni(const Hodiny& hodiny, std::uint32_t od) {
+const std::shared_ptr<Soubor>& Fronta::OtevriZamek() {
     const fs::path zamek = slozka_ / JMENO_ZAMKU;
     try {
         if (!disk_.JeSoubor(zamek)) zamek_ = disk_.NovySoubor(zamek);
@@ -201,7 +192,7 @@ void Fronta::Zamkni(const Hodiny& hodiny, std::uint32_t od) {
         if (chyba.Proc() != Pricina::UzJe) throw;
     }
     if (!zamek_) zamek_ = disk_.Otevri(zamek, Disk::Jak::Zapis);
-    PockejNaZamek(*zamek_, zamek, hodiny, od);
+    return zamek_;
 }
 
 std::vector<CekajiciVysledek> Fronta::Cekajici(const std::string& koren) {

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -13,22 +12,6 @@
 #include "store/Vysledek.h"
 
 namespace rysovna {
-
-/// What waiting for a lock wants of the machine: a clock and a sleep, milliseconds. Nothing may
-/// happen to the screens during the sleep.
-struct Hodiny {
-    std::function<std::uint32_t()> Ted;
-    std::function<void(std::uint32_t)> Spi;
-};
-
-/// How long a lock is waited for, ms.
-constexpr std::uint32_t NEJDELE_NA_ZAMEK = 3000;
-
-/// Waits for the lock of an open file until NEJDELE_NA_ZAMEK has passed since od (as Hodiny::Ted
-/// says), and asks once at least. ChybaDisku (Zamceno, that names the file) if another program
-/// keeps it for so long.
-void PockejNaZamek(Soubor& soubor, const std::filesystem::path& cesta, const Hodiny& hodiny,
-                   std::uint32_t od);
 
 /// A result on its way into log and table, and how far it came.
 struct CekajiciVysledek {
@@ -52,8 +35,8 @@ struct CekajiciVysledek {
 
 /// The queue of results that are not written yet, of one account: a file an entry, in the account's
 /// state folder. Putting an entry in needs no lock, so a program that waits for somebody else keeps
-/// nobody from it; what is in is read, noted and taken out under a lock of the account's programs.
-/// Every call throws ChybaDisku.
+/// nobody from it; what is in is read, noted and taken out under a lock of the account's programs,
+/// which whoever does so has. Every call throws ChybaDisku.
 class Fronta {
 public:
     /// The folder of the queue below the account's state folder.
@@ -68,8 +51,8 @@ public:
     /// Puts an entry in and notes its file; it is on the disk when this returns. Needs no lock. Of
     /// one that failed nothing is left, or it is noted as Nejisty.
     void Zarad(CekajiciVysledek& v);
-    /// Waits for the lock as PockejNaZamek does, and keeps it for life.
-    void Zamkni(const Hodiny& hodiny, std::uint32_t od);
+    /// The file of its lock, open. Once locked, the lock is kept for life.
+    [[nodiscard]] const std::shared_ptr<Soubor>& OtevriZamek();
 
     /// The entries of one folder of results, oldest first. What a program that was killed left of
     /// an entry is taken away. One that cannot be read is passed over.
@@ -83,7 +66,7 @@ public:
 private:
     Disk& disk_;
     std::filesystem::path slozka_;
-    std::unique_ptr<Soubor> zamek_;
+    std::shared_ptr<Soubor> zamek_;
 };
 
 /// How many entries wait in the queue of an account, without its lock; 0 where there is none.

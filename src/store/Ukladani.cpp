@@ -62,28 +62,30 @@ std::string JenVPameti(const std::string& proc) {
 
 }  // namespace
 
-Ukladani::Ukladani(Disk& disk, Hodiny hodiny, const fs::path& koren, fs::path slozkaStavu)
+Ukladani::Ukladani(Disk& disk, std::function<std::uint32_t()> ted, const fs::path& koren,
+                   fs::path slozkaStavu)
     : disk_(disk),
-      hodiny_(std::move(hodiny)),
+      ted_(std::move(ted)),
       koren_(disk.Jednoznacna(koren)),
       slozkaStavu_(std::move(slozkaStavu)) {}
 
-Ukladani::Ulozeni Ukladani::Uloz(const Vysledek& vysledek) {
+Prubeh<Ukladani::Ulozeni> Ukladani::Uloz(Vysledek vysledek) {
     // No fault of any kind may end the game over a result, one of the memory included.
     try {
         cekaji_.push_back({.Koren = koren_.string(), .Co = vysledek});
-        return Zapis();
+        co_return co_await Zapis();
     } catch (const std::exception&) {
-        return {.Text = "Výsledek se nepodařilo zapsat.", .Misto = 0};
+        co_return Ulozeni{.Text = "Výsledek se nepodařilo zapsat.", .Misto = 0};
     }
 }
 
-std::string Ukladani::ZkusCekajici() {
+Prubeh<std::string> Ukladani::ZkusCekajici() {
     try {
-        if (cekaji_.empty() && PocetCekajicich(disk_, slozkaStavu_) == 0) return {};
-        return Zapis().Text;
+        if (cekaji_.empty() && PocetCekajicich(disk_, slozkaStavu_) == 0) co_return {};
+        const Ulozeni zprava = co_await Zapis();
+        co_return zprava.Text;
     } catch (const std::exception&) {
-        return {};  // a queue that cannot be looked into; the next result will tell
+        co_return {};  // a queue that cannot be looked into; the next result will tell
     }
 }
 
@@ -95,9 +97,18 @@ std::vector<ZaznamTabulky> Ukladani::Nezapsane(int cisloUlohy) const {
     return zaznamy;
 }
 
-Ukladani::Ulozeni Ukladani::Zapis() {
-    od_ = hodiny_.Ted();
-    Rozvrh rozvrh = Rozvrhni();
+Prubeh<> Ukladani::PockejNaZamek(std::shared_ptr<Soubor> soubor, fs::path cesta) {
+    constexpr std::uint32_t KROK_CEKANI = 20;  // ms
+    while (!soubor->Zamkni()) {
+        if (ted_() - od_ + KROK_CEKANI > NEJDELE_NA_ZAMEK)
+            throw ChybaDisku(Pricina::Zamceno, cesta);
+        co_await Cekani::SPrijmem(KROK_CEKANI);
+    }
+}
+
+Prubeh<Ukladani::Ulozeni> Ukladani::Zapis() {
+    od_ = ted_();
+    Rozvrh rozvrh = co_await Rozvrhni();
     Fronta* const fronta = rozvrh.Fronta ? &*rozvrh.Fronta : nullptr;
     Ulozeni zprava;
     std::string zamceno;  // waited for once, not for each result
@@ -106,7 +117,14 @@ Ukladani::Ulozeni Ukladani::Zapis() {
         // A table too large for the memory is a fault of one result and no more.
         try {
             if (zamceno.empty()) {
-                ZapisJeden(v, fronta);
+                if (!v.VDeniku || !v.VTabulce) {
+                    const fs::path cesta = Cesta(JMENO_DENIKU);
+                    const std::shared_ptr<Soubor> denik = disk_.Otevri(cesta, Disk::Jak::Pripisek);
+                    co_await PockejNaZamek(denik, cesta);
+                    if (!v.VDeniku) ZapisVysledek(v, *denik, fronta);
+                    if (!v.VTabulce) DoTabulky(v, fronta);
+                }
+                VyradZapsany(v, fronta);
                 zprava.Misto = v.Misto;  // the newest is the last
                 continue;
             }
@@ -119,7 +137,7 @@ Ukladani::Ulozeni Ukladani::Zapis() {
         Neuspel(std::move(v), proc, fronta, zprava);
     }
     for (CekajiciVysledek& v : rozvrh.Nechat) Neuspel(std::move(v), rozvrh.Proc, nullptr, zprava);
-    return zprava;
+    co_return zprava;
 }
 
 /// Keeps a result that did not go, and tells it once.
@@ -146,16 +164,16 @@ void Ukladani::Neuspel(CekajiciVysledek v, const std::string& proc, Fronta* fron
 /// Puts what is in memory alone into the queue and takes over all that is there. Where another
 /// program of the account is at work in the queue for too long, its entries are left to that one;
 /// what could not be put there is written all the same.
-Ukladani::Rozvrh Ukladani::Rozvrhni() {
+Prubeh<Ukladani::Rozvrh> Ukladani::Rozvrhni() {
     Rozvrh rozvrh;
     std::vector<fs::path> nove;
     bezFronty_.clear();
     try {
         rozvrh.Fronta.emplace(disk_, slozkaStavu_);
         Zarad(rozvrh, nove);
-        rozvrh.Fronta->Zamkni(hodiny_, od_);
+        co_await PockejNaZamek(rozvrh.Fronta->OtevriZamek(), Fronta::Zamek(slozkaStavu_));
         Prevezmi(rozvrh);
-        return rozvrh;
+        co_return rozvrh;
     } catch (const ChybaDisku& chyba) {
         rozvrh.Fronta.reset();
         rozvrh.Proc = chyba.what();
@@ -167,7 +185,7 @@ Ukladani::Rozvrh Ukladani::Rozvrhni() {
     }
     if (bezFronty_.empty()) bezFronty_ = rozvrh.Proc;
     Stahni(rozvrh, nove);
-    return rozvrh;
+    co_return rozvrh;
 }
 
 /// nove: the files of entries that were not there before.
@@ -242,14 +260,7 @@ void Ukladani::Poznamenej(CekajiciVysledek& v, Fronta* fronta) {
     }
 }
 
-void Ukladani::ZapisJeden(CekajiciVysledek& v, Fronta* fronta) {
-    if (!v.VDeniku || !v.VTabulce) {
-        const fs::path cesta = Cesta(JMENO_DENIKU);
-        const auto denik = disk_.Otevri(cesta, Disk::Jak::Pripisek);
-        PockejNaZamek(*denik, cesta, hodiny_, od_);
-        if (!v.VDeniku) ZapisVysledek(v, *denik, fronta);
-        if (!v.VTabulce) DoTabulky(v, fronta);
-    }
+void Ukladani::VyradZapsany(const CekajiciVysledek& v, Fronta* fronta) {
     try {
         if (fronta != nullptr && !v.Soubor_.empty()) fronta->Vyrad(v);
     } catch (const ChybaDisku&) {

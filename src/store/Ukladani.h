@@ -1,12 +1,16 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "base/Disk.h"
+#include "base/Prubeh.h"
 #include "store/Fronta.h"
 #include "store/TabulkaVysledku.h"
 #include "store/Vysledek.h"
@@ -22,7 +26,10 @@ constexpr std::string_view JMENO_DENIKU = "Vysledky.dat";
 /// only then is the entry taken out. What did not go stays and is tried again with the next result
 /// and at the next start, only in its own folder, from where it stopped. Where the queue cannot be
 /// had, log and table are written all the same, and what then fails is kept in memory.
-class Ukladani {
+///
+/// For a lock of another program it waits: one call at a time, while nothing happens to the
+/// screens.
+class Ukladani : public SmiCekat {
 public:
     /// What became of a result.
     struct Ulozeni {
@@ -30,14 +37,18 @@ public:
         int Misto = 0;     ///< of its row in the stored table, from 1; 0: it is not there yet
     };
 
-    /// koren: the folder of results. slozkaStavu: the account's state folder; may be empty.
-    Ukladani(Disk& disk, Hodiny hodiny, const std::filesystem::path& koren,
+    /// How long locks are waited for in one call, all of them together, ms.
+    static constexpr std::uint32_t NEJDELE_NA_ZAMEK = 3000;
+
+    /// ted: tick count, ms. koren: the folder of results. slozkaStavu: the account's state folder;
+    /// may be empty.
+    Ukladani(Disk& disk, std::function<std::uint32_t()> ted, const std::filesystem::path& koren,
              std::filesystem::path slozkaStavu);
 
     /// Stores a result, and whatever waits. Never throws.
-    [[nodiscard]] Ulozeni Uloz(const Vysledek& vysledek);
+    [[nodiscard]] Prubeh<Ulozeni> Uloz(Vysledek vysledek);
     /// Stores whatever waits, at the start of the program.
-    [[nodiscard]] std::string ZkusCekajici();
+    [[nodiscard]] Prubeh<std::string> ZkusCekajici();
 
     /// Rows of this task's table that are not in its file yet, as texts for showing; the latest
     /// last.
@@ -54,20 +65,23 @@ private:
         std::string Proc{};                       ///< why the latter
     };
 
-    [[nodiscard]] Ulozeni Zapis();
-    [[nodiscard]] Rozvrh Rozvrhni();
+    [[nodiscard]] Prubeh<Ulozeni> Zapis();
+    [[nodiscard]] Prubeh<Rozvrh> Rozvrhni();
+    /// Asks once at least. ChybaDisku (Zamceno, that names the file) if another program keeps the
+    /// lock for too long.
+    Prubeh<> PockejNaZamek(std::shared_ptr<Soubor> soubor, std::filesystem::path cesta);
     void Zarad(Rozvrh& rozvrh, std::vector<std::filesystem::path>& nove);
     void Prevezmi(Rozvrh& rozvrh);
     void Stahni(Rozvrh& rozvrh, const std::vector<std::filesystem::path>& nove);
     void Neuspel(CekajiciVysledek v, const std::string& proc, Fronta* fronta, Ulozeni& zprava);
-    void ZapisJeden(CekajiciVysledek& v, Fronta* fronta);
+    void VyradZapsany(const CekajiciVysledek& v, Fronta* fronta);
     void ZapisVysledek(CekajiciVysledek& v, Soubor& denik, Fronta* fronta);
     void DoTabulky(CekajiciVysledek& v, Fronta* fronta);
     void Poznamenej(CekajiciVysledek& v, Fronta* fronta);
     [[nodiscard]] std::filesystem::path Cesta(std::string_view jmeno) const;
 
     Disk& disk_;
-    Hodiny hodiny_;
+    std::function<std::uint32_t()> ted_;
     std::filesystem::path koren_, slozkaStavu_;
     std::vector<CekajiciVysledek> cekaji_;
     std::uint32_t od_ = 0;   ///< since when locks are waited for, all of them together

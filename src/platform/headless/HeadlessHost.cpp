@@ -5,7 +5,6 @@
 #include "base/Chyba.h"
 #include "platform/Cesta.h"
 #include "platform/Malir.h"
-#include "platform/ZpravaForm.h"
 
 namespace rysovna {
 
@@ -16,7 +15,9 @@ constexpr std::uint32_t NEJDELE_MODALNE = 600'000;
 
 }  // namespace
 
-HeadlessHost::HeadlessHost() = default;
+HeadlessHost::HeadlessHost() : Smycka(static_cast<Host&>(*this)) {
+    Okna().PoVstupu([this](std::size_t pred) { Dobehni(pred); });
+}
 
 HeadlessHost::~HeadlessHost() = default;
 
@@ -24,49 +25,34 @@ void HeadlessHost::Naplanuj(std::uint32_t cas, std::function<void()> co) {
     scenar_.emplace(cas, std::move(co));
 }
 
-void HeadlessHost::DorucPrvni() {
-    // Taken out first: what it does may pump events itself.
-    const auto udalost = std::move(scenar_.begin()->second);
-    scenar_.erase(scenar_.begin());
-    udalost();
-}
-
-void HeadlessHost::Dorucit() {
-    Okna().DorucOdlozene();
-    while (!scenar_.empty() && scenar_.begin()->first <= cas_) DorucPrvni();
-}
-
-void HeadlessHost::Spi(std::uint32_t ms) {
-    if (PriSpanku) PriSpanku(ms);
-    if (!Okna().JeZavreno()) {
-        cas_ += ms;
-        return;
+bool HeadlessHost::Prijmi() {
+    bool neco = false;
+    while (!scenar_.empty() && scenar_.begin()->first <= cas_) {
+        // Taken out first: what it does may turn the loop itself.
+        const auto udalost = std::move(scenar_.begin()->second);
+        scenar_.erase(scenar_.begin());
+        udalost();
+        neco = true;
     }
-    const std::uint32_t konec = cas_ + ms;
-    while (!scenar_.empty() && scenar_.begin()->first <= konec) {
-        cas_ = std::max(cas_, scenar_.begin()->first);
-        DorucPrvni();
-    }
-    cas_ = std::max(cas_, konec);  // what the script did may have taken longer itself
+    return neco;
 }
 
-void HeadlessHost::DoEvents(std::uint32_t nejvyseMs) {
-    Dorucit();
-    Okna().Casovace(cas_);
-    std::uint32_t za = std::max(nejvyseMs, 1U);
-    std::uint32_t casovac = 0;
-    const bool maCasovac = Okna().PristiCasovac(cas_, casovac);
-    if (maCasovac) za = std::min(za, casovac);
+/// The clock goes to what the script has next.
+void HeadlessHost::Vyckej(std::uint32_t nejvyseMs) {
+    std::uint32_t za = nejvyseMs;
     if (!scenar_.empty()) za = std::min(za, std::max(scenar_.begin()->first, cas_) - cas_);
+    if (PriSpanku && Okna().JeZavreno()) PriSpanku(za);
     cas_ += za;
-    if (Okna().JeModalni() && scenar_.empty() && !maCasovac) {
-        modalne_ += za;
-        if (modalne_ > NEJDELE_MODALNE) Selhani("Zprávu nikdo nezavřel");
-    } else {
-        modalne_ = 0;
-    }
-    Dorucit();
-    Okna().Casovace(cas_);
+    modalne_ = Okna().JeModalni() && scenar_.empty() ? modalne_ + za : 0;
+    if (modalne_ > NEJDELE_MODALNE) Selhani("Zprávu nikdo nezavřel");
+}
+
+void HeadlessHost::Bez(std::uint32_t ms) {
+    const std::size_t dno = Hloubka();
+    const std::uint32_t konec = cas_ + ms;
+    const auto zbyva = [&] { return static_cast<std::int32_t>(konec - cas_); };
+    while (zbyva() > 0) Obrat(static_cast<std::uint32_t>(zbyva()), dno);
+    Dobehni(dno);
 }
 
 void HeadlessHost::Prekresli() {
@@ -74,18 +60,18 @@ void HeadlessHost::Prekresli() {
     if (PriPrekresleni) PriPrekresleni();
 }
 
-Odpoved HeadlessHost::MsgBox(const std::string& text, const std::string& titul, Styl styl) {
+Prubeh<Odpoved> HeadlessHost::MsgBox(std::string text, std::string titul, Styl styl) {
     Odpoved odpoved = styl == Styl::OtazkaAnoNe ? Odpoved::Ne : Odpoved::Ok;
     const std::size_t ktera = Zpravy.size();
     Zpravy.push_back({text, titul, styl, odpoved});
     if (SkutecneZpravy) {
-        odpoved = UkazZpravu(*this, text, titul, styl);
+        odpoved = co_await UkazZpravu(text, titul, styl);
     } else if (!odpovedi_.empty()) {
         odpoved = odpovedi_.front();
         odpovedi_.pop_front();
     }
     Zpravy[ktera].Odpovezeno = odpoved;
-    return odpoved;
+    co_return odpoved;
 }
 
 void HeadlessHost::SndPlaySound(std::string_view cesta) {

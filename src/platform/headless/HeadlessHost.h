@@ -3,18 +3,23 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
+#include "platform/Smycka.h"
 
 namespace rysovna {
 
-/// The machine without a machine: a virtual clock that moves only while the program waits or pumps,
-/// events from a script, message boxes answered by the script, sounds and screen modes recorded.
-/// Every run of a script is the same. Input goes to Okna() directly, or through Naplanuj at a time.
-class HeadlessHost final : public Host {
+/// The machine without a machine: a virtual clock that moves only while the loop is turned, events
+/// from a script, message boxes answered by the script, sounds and screen modes recorded. Every run
+/// of a script is the same. Input goes to Okna() directly, or through Naplanuj at a time; whoever
+/// gives it goes on when what it began is done, waits and all: the loop is turned until then, which
+/// may be inside of another turn.
+class HeadlessHost final : public Host, public Smycka {
 public:
     /// A message box that was shown, and what was answered.
     struct Zprava {
@@ -33,16 +38,9 @@ public:
     ~HeadlessHost() override;
 
     [[nodiscard]] std::uint32_t TickCount() override { return cas_; }
-    /// Delivers what the script has due, fires timers, then moves the clock to the next thing to
-    /// happen, at most by nejvyseMs, and delivers that. With nothing to deliver the clock moves by
-    /// the whole nejvyseMs. 0 moves it by one millisecond, so that a busy wait comes to its end.
-    void DoEvents(std::uint32_t nejvyseMs) override;
-    /// Moves the clock; the script's events that fall due wait for the next DoEvents. Within
-    /// Obrazovky::CekejZavrene they come at their time.
-    void Spi(std::uint32_t ms) override;
     /// Paints nothing: counts, and calls PriPrekresleni.
     void Prekresli() override;
-    Odpoved MsgBox(const std::string& text, const std::string& titul, Styl styl) override;
+    Prubeh<Odpoved> MsgBox(std::string text, std::string titul, Styl styl) override;
     void SndPlaySound(std::string_view cesta) override;
     [[nodiscard]] RezimObrazovky GetDeviceCaps() override { return Rezim; }
     /// Records the mode; when VysledekRezimu is 0 it becomes the present one.
@@ -60,6 +58,11 @@ public:
 
     // The script.
 
+    /// Lets the program run for so many milliseconds, and on until all that began meanwhile is
+    /// done.
+    void Bez(std::uint32_t ms);
+    /// Moves the clock alone: nothing happens meanwhile, what falls due comes with the next turn.
+    void PosunHodiny(std::uint32_t ms) { cas_ += ms; }
     /// Does something (mostly an input call of Okna()) when the clock has reached cas (tick count)
     /// and the program lets events through. Same time: in the order of planning.
     void Naplanuj(std::uint32_t cas, std::function<void()> co);
@@ -92,14 +95,15 @@ public:
     bool SkutecneZpravy = false;
     /// What the looks at screen and sound find fault with; empty: nothing.
     std::string NeniObrazovka, NeniZvuk;
-    /// Called by Spi: to let other processes run in the meantime.
+    /// Called when the clock moves in a closed wait: to let other processes run in the meantime.
     std::function<void(std::uint32_t)> PriSpanku;
     std::uint64_t Prekresleni = 0;         ///< how many times Prekresli was called
     std::function<void()> PriPrekresleni;  ///< to look at the frames of an animation
 
 private:
-    void DorucPrvni();
-    void Dorucit();
+    bool Prijmi() override;
+    void Ukaz() override {}
+    void Vyckej(std::uint32_t nejvyseMs) override;
     [[nodiscard]] std::filesystem::path SlozkaUctu(const char* jmeno) const;
     [[nodiscard]] static std::string Overeni(const std::string& neni);
 

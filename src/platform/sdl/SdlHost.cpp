@@ -19,7 +19,6 @@
 #include "platform/ObrazekData.h"
 #include "platform/Obrazovky.h"
 #include "platform/Surface.h"
-#include "platform/ZpravaForm.h"
 #include "platform/sdl/Okno.h"
 #include "platform/sdl/OknoX11.h"
 #include "platform/sdl/Zvuk.h"
@@ -228,7 +227,8 @@ struct SdlHost::Vnitrek {
     void SrovnejKurzor();
 };
 
-SdlHost::SdlHost(std::optional<std::uint32_t> seminko) : seminko_(seminko) {
+SdlHost::SdlHost(std::optional<std::uint32_t> seminko)
+    : Smycka(static_cast<Host&>(*this)), seminko_(seminko) {
     if (!MaDisplej()) Selhani("Není k dispozici obrazovka");
     vnitrek_ = std::make_unique<Vnitrek>(*this);
     const RezimObrazovky rezim = GetDeviceCaps();
@@ -265,53 +265,32 @@ std::uint32_t SdlHost::TickCount() {
     return SDL_GetTicks();
 }
 
-void SdlHost::DoEvents(std::uint32_t nejvyseMs) {
-    Okna().DorucOdlozene();
-    const bool neco = vnitrek_->Zpracuj();
-    Okna().Casovace(TickCount());
+bool SdlHost::Prijmi() {
+    return vnitrek_->Zpracuj();
+}
+
+void SdlHost::Ukaz() {
     vnitrek_->SrovnejPsani();
     vnitrek_->SrovnejKurzor();
     Prekresli();
-    // Who waits for a press must hear of one that was pending; nothing else may come after it.
-    if (neco || nejvyseMs == 0 || Okna().JeKonec()) return;
-
-    const std::uint32_t ted = TickCount();
-    std::uint32_t cekat = nejvyseMs;
-    std::uint32_t casovac = 0;
-    if (Okna().PristiCasovac(ted, casovac)) cekat = std::min(cekat, casovac);
-    if (Okna().Psane() != nullptr)
-        cekat = std::min(cekat, BLIKANI - (ted - Okna().PosledniPsani()) % BLIKANI);
-    if (cekat > 0) {
-        vnitrek_->Cekej(cekat);
-        vnitrek_->Zpracuj();
-    }
-    Okna().Casovace(TickCount());
-    Prekresli();
 }
 
-void SdlHost::Spi(std::uint32_t ms) {
-    if (!Okna().JeZavreno()) {
-        SDL_Delay(ms);
-        return;
-    }
-    const std::uint32_t konec = TickCount() + ms;
-    for (;;) {
-        if (vnitrek_->Zpracuj()) Prekresli();
-        const auto zbyva = static_cast<std::int32_t>(konec - TickCount());
-        if (zbyva <= 0) return;
-        vnitrek_->Cekej(static_cast<std::uint32_t>(zbyva));
-    }
+void SdlHost::Vyckej(std::uint32_t nejvyseMs) {
+    std::uint32_t cekat = nejvyseMs;
+    if (Okna().Psane() != nullptr)
+        cekat = std::min(cekat, BLIKANI - (TickCount() - Okna().PosledniPsani()) % BLIKANI);
+    vnitrek_->Cekej(cekat);
 }
 
 void SdlHost::Prekresli() {
     vnitrek_->Okno_.Prekresli(Okna(), TickCount());
 }
 
-Odpoved SdlHost::MsgBox(const std::string& text, const std::string& titul, Styl styl) {
+Prubeh<Odpoved> SdlHost::MsgBox(std::string text, std::string titul, Styl styl) {
     Okno& okno = vnitrek_->Okno_;
     if (!MamePisma() || (!okno.Otevrene() && !okno.Otevri(false)) || !okno.MaPlochu())
-        return SystemovaZprava(text, titul, styl);
-    return UkazZpravu(*this, text, titul, styl);
+        co_return SystemovaZprava(text, titul, styl);
+    co_return co_await UkazZpravu(text, titul, styl);
 }
 
 void SdlHost::SndPlaySound(std::string_view cesta) {

@@ -6,6 +6,7 @@
 
 #include "platform/Host.h"
 #include "platform/PosixDisk.h"
+#include "platform/Smycka.h"
 
 namespace rysovna {
 
@@ -13,7 +14,7 @@ namespace rysovna {
 /// screen, on the monitor with the pointer) or at the first message box (an ordinary window). The
 /// design area keeps its aspect ratio, black beside it. Alt+Enter and F11 switch between full
 /// screen and a window; the close button asks the program's own question.
-class SdlHost final : public Host {
+class SdlHost final : public Host, public Smycka {
 public:
     /// A display that cannot be opened is a run-time fault: ask MaDisplej() first. With a seed the
     /// same examples come in the same order at each start; otherwise the clock seeds them.
@@ -24,10 +25,8 @@ public:
     [[nodiscard]] static bool MaDisplej();
 
     [[nodiscard]] std::uint32_t TickCount() override;
-    void DoEvents(std::uint32_t nejvyseMs) override;
-    void Spi(std::uint32_t ms) override;
     void Prekresli() override;
-    Odpoved MsgBox(const std::string& text, const std::string& titul, Styl styl) override;
+    Prubeh<Odpoved> MsgBox(std::string text, std::string titul, Styl styl) override;
     void SndPlaySound(std::string_view cesta) override;
     [[nodiscard]] RezimObrazovky GetDeviceCaps() override;
     /// 640 by 480 fills the screen, the first time; any other mode, and any later call, puts the
@@ -51,6 +50,10 @@ public:
     void PsaniTextu(bool ano, int x, int y) override;
 
 private:
+    bool Prijmi() override;
+    void Ukaz() override;
+    void Vyckej(std::uint32_t nejvyseMs) override;
+
     struct Vnitrek;
     std::optional<std::uint32_t> seminko_;
     std::unique_ptr<Vnitrek> vnitrek_;
