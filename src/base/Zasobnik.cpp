@@ -10,7 +10,8 @@ Vlakno::Vlakno(Zasobnik& kde, Prubeh<> prace)
 
 bool Vlakno::Zacni(Cekani& cekani) {
     cekani.od_ = kde_.ted_();
-    if (!cekani.vzdy_ && kde_.Uplynulo(cekani)) return false;
+    // Once the process is to end, the wait is where the handler is ended.
+    if (!cekani.vzdy_ && !kde_.konec_() && kde_.Uplynulo(cekani)) return false;
     ceka_ = &cekani;
     return true;
 }
@@ -84,8 +85,8 @@ Zasobnik::Krok Zasobnik::Pokracuj(std::size_t dno) {
     return vlakna_.size() < pred ? Krok::Dobehl : Krok::Ceka;
 }
 
-std::optional<std::uint32_t> Zasobnik::Zbyva() const {
-    if (vlakna_.empty() || vlakna_.back()->ceka_ == nullptr) return std::nullopt;
+std::optional<std::uint32_t> Zasobnik::Zbyva(std::size_t dno) const {
+    if (vlakna_.size() <= dno || vlakna_.back()->ceka_ == nullptr) return std::nullopt;
     const Cekani& cekani = *vlakna_.back()->ceka_;
     if (Uplynulo(cekani)) return 0;
     if (!cekani.ms_) return std::nullopt;

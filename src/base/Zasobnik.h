@@ -33,8 +33,9 @@ public:
     /// Lets the last one go on if its wait is over and more than dno are there. Its fault comes out
     /// here.
     Krok Pokracuj(std::size_t dno = 0);
-    /// In how many milliseconds the last one's time is over; none if it waits for no time.
-    [[nodiscard]] std::optional<std::uint32_t> Zbyva() const;
+    /// In how many milliseconds the last one's time is over, if more than dno are there; none if it
+    /// waits for no time.
+    [[nodiscard]] std::optional<std::uint32_t> Zbyva(std::size_t dno = 0) const;
 
     /// How many works are begun and not done.
     [[nodiscard]] std::size_t Hloubka() const { return vlakna_.size(); }

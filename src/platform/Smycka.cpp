@@ -39,11 +39,11 @@ void Smycka::Obrat(std::uint32_t nejvyseMs, std::size_t dno) {
         const bool neco = Splatne(dno);
         Ukaz();
         // Who waits for a press must hear of one that was pending; nothing else may come after it.
-        if (neco || nejvyseMs == 0 || okna.JeKonec()) return;
+        if (neco || nejvyseMs == 0) return;
         std::uint32_t cekat = nejvyseMs;
         std::uint32_t casovac = 0;
         if (okna.PristiCasovac(host_.TickCount(), casovac)) cekat = std::min(cekat, casovac);
-        cekat = std::min(cekat, okna.Prace().Zbyva().value_or(cekat));
+        cekat = std::min(cekat, okna.Prace().Zbyva(dno).value_or(cekat));
         if (cekat > 0) Vyckej(cekat);
         Splatne(dno);
         Ukaz();

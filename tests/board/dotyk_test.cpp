@@ -150,7 +150,8 @@ TEST_F(DotykDesky, ZpravaNadZvednutymTahemSeDaOdklepnout) {
             Klepni({zprava->Left + o->Left + o->Width / 2, zprava->Top + o->Top + o->Height / 2});
         }
     });
-    r.Hra.Host().MsgBox("Zpráva", "Titul", Styl::Ok);
+    HeadlessHost& host = r.Hra.Host();
+    host.Proved(host.MsgBox("Zpráva", "Titul", Styl::Ok));
     EXPECT_TRUE(byla);
     EXPECT_FALSE(Okna().JeModalni());
     EXPECT_EQ(Ohlasu(Ohlas::Druh::Konec), konec);

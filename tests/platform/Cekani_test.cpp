@@ -17,7 +17,8 @@ class CekajiciForm final : public Form {
 public:
     using Deje = std::map<char, std::string>;
 
-    CekajiciForm(Deje deje, std::string& zapis) : deje_(std::move(deje)), zapis_(zapis) {}
+    CekajiciForm(Host& host, Deje deje, std::string& zapis)
+        : host_(host), deje_(std::move(deje)), zapis_(zapis) {}
     ~CekajiciForm() override { zapis_ += "form- "; }
     CekajiciForm(const CekajiciForm&) = delete;
     CekajiciForm& operator=(const CekajiciForm&) = delete;
@@ -29,19 +30,19 @@ public:
         Pridej(Hodiny, "Hodiny", {});
         Hodiny.Interval = 60;
         Hodiny.Enabled = deje_.contains('T');
-        zacatek_ = Stroj().TickCount();
+        zacatek_ = host_.TickCount();
     }
-    void MouseDown(Ovladac* o, const Mys& /*m*/) override {
-        if (o != nullptr) Proved(static_cast<char>('A' + o->Index - 1));
+    Prubeh<> MouseDown(Ovladac* o, const Mys& /*m*/) override {
+        return o != nullptr ? Proved(static_cast<char>('A' + o->Index - 1)) : Prubeh<>();
     }
-    void TimerTick(Timer& /*t*/) override { Proved('T'); }
+    Prubeh<> TimerTick(Timer& /*t*/) override { return Proved('T'); }
 
     std::array<PictureBox, 4> cmd;
     Timer Hodiny;
 
 private:
-    void Zapis(char kdo) { zapis_ += kdo + std::to_string(Stroj().TickCount() - zacatek_) + " "; }
-    void Proved(char kdo) {
+    void Zapis(char kdo) { zapis_ += kdo + std::to_string(host_.TickCount() - zacatek_) + " "; }
+    Prubeh<> Proved(char kdo) {
         struct Drzene {
             char Kdo;
             std::string& Zapis;
@@ -52,33 +53,29 @@ private:
         std::istringstream kroky(deje_.at(kdo));
         for (std::string krok; kroky >> krok;) {
             if (krok == "pryc") {
-                Stroj().Okna().Unload(*this);
+                host_.Okna().Unload(*this);
             } else if (krok == "konec") {
-                Stroj().Okna().Konec();
+                host_.Okna().Konec();
             } else if (krok == "chyba") {
                 Selhani("chyba");
             } else {
-                Pockej(krok);
-                if (Zavreny() || Stroj().Okna().JeKonec()) return;
+                co_await Pockej(krok);
                 Zapis(kdo);
             }
         }
     }
-    static void Pockej(const std::string& jak) {
-        Host& host = Stroj();
+    Prubeh<> Pockej(std::string jak) {
         if (jak == "box") {
-            (void)host.MsgBox("Text", "Titul", Styl::OtazkaAnoNe);
+            co_await host_.MsgBox("Text", "Titul", Styl::OtazkaAnoNe);
         } else if (jak[0] == 'z') {
-            host.Okna().CekejZavrene(
-                [&] { host.Spi(static_cast<std::uint32_t>(std::stoi(jak.substr(1)))); });
+            const Obrazovky::Zavreni zavreni(host_.Okna());
+            co_await Cekani::SPrijmem(static_cast<std::uint32_t>(std::stoi(jak.substr(1))));
         } else {
-            const std::uint32_t konec =
-                host.TickCount() + static_cast<std::uint32_t>(std::stoi(jak));
-            while (host.TickCount() < konec && !host.Okna().JeKonec())
-                host.DoEvents(konec - host.TickCount());
+            co_await Cekani(static_cast<std::uint32_t>(std::stoi(jak)));
         }
     }
 
+    Host& host_;
     Deje deje_;
     std::string& zapis_;
     std::uint32_t zacatek_ = 0;
@@ -110,8 +107,8 @@ protected:
     }
     std::string Hraj(const PripadCekani& p) {
         std::string zapis;
-        Host_.Spi(1000);
-        auto form = Okna().Nacti<CekajiciForm>(p.Deje, zapis);
+        Host_.PosunHodiny(1000);
+        auto form = Okna().Nacti<CekajiciForm>(Host_, p.Deje, zapis);
         CekajiciForm* f = form.get();
         Okna().Show(*form);
         form.reset();
@@ -121,7 +118,7 @@ protected:
         bool chyba = false;
         try {
             while (Host_.TickCount() < konec && !Okna().JeKonec())
-                Host_.DoEvents(konec - Host_.TickCount());
+                Host_.Obrat(konec - Host_.TickCount());
         } catch (const BehovaChyba&) {
             chyba = true;
         }

@@ -76,7 +76,7 @@ TEST_F(KlavesniceTest, StiskKlavesouJeCelyKlikANikdyDvojklik) {
         Okna().Klavesa("Tab", 0);
         Okna().Klavesa("Space", 0);
         EXPECT_EQ(Form_->Vezmi(), klik);
-        Host_.Spi(1000);
+        Host_.PosunHodiny(1000);
     }
     Host_.Stiskni(405, 105);  // the mouse's own pair is measured as ever
     Okna().Klavesa("Tab", 0);
@@ -85,7 +85,7 @@ TEST_F(KlavesniceTest, StiskKlavesouJeCelyKlikANikdyDvojklik) {
     Host_.Stiskni(405, 105);
     EXPECT_EQ(Form_->Vezmi().at(1), "DblClick cmd(1)");
     // While the mouse holds something, keys press nothing.
-    Host_.Spi(1000);
+    Host_.PosunHodiny(1000);
     Okna().MysDolu(425, 110, 1, 0);
     Form_->Vezmi();
     Okna().Klavesa("Tab", 0);
@@ -122,7 +122,7 @@ TEST_F(KlavesniceTest, SipkyPosouvajiDrzenouMysPoPixelu) {
               (Seznam_t{"Down Pic 50,50", "Move Pic 51,50", "Move Pic 52,50", "Move Pic 52,51",
                         "Move Pic 72,51", "Up Pic 72,51", "Click Pic"}));
     // Gone with the release; and elsewhere there is nothing so fine.
-    Host_.Spi(1000);
+    Host_.PosunHodiny(1000);
     Okna().MysDolu(150, 100, 1, 0);
     Okna().MysNahoru(150, 100, 1, 0);
     EXPECT_EQ(Form_->Vezmi().at(1), "Up Pic 50,50");
@@ -131,7 +131,7 @@ TEST_F(KlavesniceTest, SipkyPosouvajiDrzenouMysPoPixelu) {
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Down cmd(1) 10,5"});
     // Its form went while it was held.
     Okna().MysNahoru(410, 105, 1, 0);
-    Host_.Spi(1000);
+    Host_.PosunHodiny(1000);
     Okna().MysDolu(150, 100, 1, 0);
     Okna().Unload(*Form_);
     Form_.reset();

@@ -98,7 +98,7 @@ TEST_F(MalirTest, PoKouscichJeTotezCoNaraz) {
         [&] { f.Zamereni() == nullptr ? f.SetFocus(f.Pole) : f.ZrusZamereni(); },
         [&] { Okna().Text("ab"); },
         [&] { Okna().Klavesa("Left", d(2)); },
-        [&] { Host_.Spi(300); },
+        [&] { Host_.PosunHodiny(300); },
         [&] { f.cmd[0].Ramecek = !f.cmd[0].Ramecek; },
         [&] { Okna().Klavesa("Tab", d(2)); },
         [&] { Okna().Klavesa("Down", 0); },

@@ -34,18 +34,18 @@ TEST_F(ObrazovkyTest, UdalostDostaneNejvyssiObjektPodUkazatelem) {
     };
     for (const auto& [x, y, vypni, dostane] : PRIPADY) {
         *vypni = false;
-        Host_.Spi(1000);  // no double click
+        Host_.PosunHodiny(1000);  // no double click
         Host_.Stiskni(x, y);
         EXPECT_EQ(Form_->Vezmi().at(0), dostane);
         *vypni = true;
     }
     // What is later in the order lies higher.
     Form_->cmd[1].Top = Form_->cmd[0].Top;
-    Host_.Spi(1000);
+    Host_.PosunHodiny(1000);
     Host_.Stiskni(410, 105);
     EXPECT_EQ(Form_->Vezmi().at(0), "Down cmd(2) 10,5");
     Form_->DoPopredi(Form_->cmd[0]);
-    Host_.Spi(1000);
+    Host_.PosunHodiny(1000);
     Host_.Stiskni(410, 105);
     EXPECT_EQ(Form_->Vezmi().at(0), "Down cmd(1) 10,5");
 }
@@ -63,7 +63,10 @@ TEST_F(ObrazovkyTest, StiskDrziUkazatelAzDoPusteni) {
 }
 
 TEST_F(ObrazovkyTest, ZmizelyObjektNedostaneNicANikdoJiny) {
-    Form_->PriStisku = [&] { Form_->cmd[0].Visible = false; };
+    Form_->PriStisku = [&] {
+        Form_->cmd[0].Visible = false;
+        return Prubeh<>();
+    };
     Okna().MysDolu(410, 105, 1, 0);
     Okna().MysPohyb(150, 100, 1, 0);
     Okna().MysNahoru(150, 100, 1, 0);
@@ -78,9 +81,9 @@ TEST_F(ObrazovkyTest, DvojklikJeDvaStiskyAJednoNavic) {
     Host_.Stiskni(410, 105);
     EXPECT_EQ(Form_->Vezmi().size(), 3U) << "the third is a plain one";
     const auto dvojkliky = [&](double x2, std::uint32_t pauza) {
-        Host_.Spi(1000);
+        Host_.PosunHodiny(1000);
         Host_.Stiskni(410, 105);
-        Host_.Spi(pauza);
+        Host_.PosunHodiny(pauza);
         Host_.Stiskni(x2, 105);
         const Seznam_t u = Form_->Vezmi();
         return std::count(u.begin(), u.end(), "DblClick cmd(1)");
@@ -89,13 +92,16 @@ TEST_F(ObrazovkyTest, DvojklikJeDvaStiskyAJednoNavic) {
     EXPECT_EQ(dvojkliky(420, 100), 0) << "too far";
 
     // The first press took its form away: the second one is not for the form below.
-    Host_.Spi(1000);
+    Host_.PosunHodiny(1000);
     const auto nahore = Okna().Nacti<ZapisForm>(Host_);
     Okna().Show(*nahore);
-    nahore->PriStisku = [&] { Okna().Hide(*nahore); };
+    nahore->PriStisku = [&] {
+        Okna().Hide(*nahore);
+        return Prubeh<>();
+    };
     for (int i = 0; i < 2; ++i) Host_.Stiskni(410, 105);
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Activate"});
-    Host_.Spi(501);
+    Host_.PosunHodiny(501);
     Host_.Stiskni(410, 105);
     EXPECT_EQ(Form_->Vezmi().size(), 3U);
 }
@@ -121,11 +127,11 @@ TEST_F(ObrazovkyTest, RadaStiskuPatriTomuCoZasahlPrvni) {
     };
     Form_->Pic.BereDvojklik = false;
     for (const auto& rada : RADY) {
-        Host_.Spi(1000);
+        Host_.PosunHodiny(1000);
         for (const Stisk& s : rada) {
             SCOPED_TRACE(std::to_string(&rada - RADY) + ", press " +
                          std::to_string(&s - rada.data()));
-            Host_.Spi(s.Po);
+            Host_.PosunHodiny(s.Po);
             Okna().MysDolu(s.X, s.Y, s.Tlacitko, 0);
             Okna().MysPohyb(s.X + 1, s.Y, s.Tlacitko, 0);
             Okna().MysNahoru(s.X, s.Y, s.Tlacitko, 0);
@@ -136,7 +142,7 @@ TEST_F(ObrazovkyTest, RadaStiskuPatriTomuCoZasahlPrvni) {
         }
     }
     // Times that are known roughly are taken to be as near as they can be.
-    Host_.Spi(1000);
+    Host_.PosunHodiny(1000);
     Okna().MysDolu(410, 118, 1, 0, {100, 700});
     Okna().MysNahoru(410, 118, 1, 0);
     Form_->Vezmi();
@@ -184,41 +190,33 @@ TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
     };
     for (const Pripad& p : PRIPADY) {
         SCOPED_TRACE(&p - PRIPADY);
-        Host_.Spi(1000);
+        Host_.PosunHodiny(1000);
         Form_->Pole.Text.clear();
         const std::uint32_t zacatek = Host_.TickCount();
         for (const auto& [kdy, co] : p.Co) Host_.NaplanujZa(kdy, co);
-        Okna().CekejZavrene([&] {
-            for (int i = 0; i < 10; ++i) Host_.Spi(10);
-        });
+        Host_.Proved(Zavrene(10, 10));
         EXPECT_EQ(Host_.TickCount() - zacatek, 100U);
         EXPECT_EQ(Form_->Vezmi(), Seznam_t{}) << "nothing comes through, nor does the timer";
         Form_->Hodiny.Enabled = false;
-        while (Host_.Naplanovano() > 0) Host_.DoEvents(10);
-        Host_.DoEvents(0);
+        while (Host_.Naplanovano() > 0) Host_.Obrat(10);
+        Host_.Obrat(0);
         EXPECT_EQ(Form_->Vezmi(), p.Dostane);
         Form_->Hodiny.Enabled = true;
     }
     // A release whose press came before the wait is its own; and some forms take presses always.
     Form_->Hodiny.Enabled = false;
     for (const bool vzdy : {false, true}) {
-        Host_.Spi(1000);
+        Host_.PosunHodiny(1000);
         Form_->StiskVzdy = vzdy;
         if (!vzdy) Okna().MysDolu(410, 105, 1, 0);
-        Okna().CekejZavrene([&] {
+        {
+            const Obrazovky::Zavreni zavreni(Okna());
             if (vzdy) Okna().MysDolu(410, 105, 1, 0);
             Okna().MysNahoru(410, 105, 1, 0);
-        });
-        Host_.DoEvents(0);
+        }
+        Host_.Obrat(0);
         EXPECT_EQ(Form_->Vezmi(), (Seznam_t{"Down cmd(1) 10,5", "Up cmd(1) 10,5", "Click cmd(1)"}));
     }
-    // A fault in it leaves nothing closed; a message box in it is answered.
-    EXPECT_THROW(Okna().CekejZavrene([] { Selhani("x"); }), BehovaChyba);
-    EXPECT_FALSE(Okna().JeZavreno());
-    Host_.SkutecneZpravy = true;
-    Host_.NaplanujZa(20, [&] { Okna().Klavesa("Escape", 0); });
-    Okna().CekejZavrene(
-        [&] { EXPECT_EQ(Host_.MsgBox("Text", "Titul", Styl::OtazkaAnoNe), Odpoved::Ne); });
 }
 
 TEST_F(ObrazovkyTest, ActivateDostaneTenKdoPrijdeDoPopredi) {
@@ -246,45 +244,48 @@ TEST_F(ObrazovkyTest, ActivateDostaneTenKdoPrijdeDoPopredi) {
 TEST_F(ObrazovkyTest, CasovaceJdouPodleHodin) {
     Form_->Hodiny.Interval = 1000;
     Form_->Hodiny.Enabled = true;
-    for (int i = 0; i < 25; ++i) Host_.DoEvents(100);
+    Host_.Bez(2500);
     EXPECT_EQ(Form_->Vezmi(), (Seznam_t{"Tick 1000", "Tick 2000"}));
     // A handler that waits longer than the interval is not entered again.
     Form_->PriTiku = [&] {
-        const std::uint32_t konec = Host_.TickCount() + 2500;
-        while (Host_.TickCount() < konec) Host_.DoEvents(100);
         Form_->Hodiny.Enabled = false;
+        return Cekej(2500);
     };
-    for (int i = 0; i < 60; ++i) Host_.DoEvents(100);
+    Form_->Hodiny.Enabled = true;
+    Host_.Bez(6000);
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Tick 3000"});
 }
 
-TEST_F(ObrazovkyTest, FormularZnicenyVeVnorenemCekaniDoziveSvujHandler) {
+TEST_F(ObrazovkyTest, FormularOdstranenyPriCekaniNicNedrzi) {
     // The form unloads while its handler waits: by its own second press, by its timer, by another.
     for (int jak = 0; jak < 3; ++jak) {
         auto form = Okna().Nacti<ZapisForm>(Host_);
         const std::weak_ptr<ZapisForm> zije = form;
-        Host_.Spi(1000);
+        Host_.PosunHodiny(1000);
         Okna().Show(*form);
         ZapisForm* f = form.get();
         form.reset();
-        bool dobehl = false;
+        const auto pryc = [this, f] {
+            Okna().Unload(*f);
+            return Prubeh<>();
+        };
         f->PriStisku = [&, f] {
-            f->PriStisku = [this, f] { Okna().Unload(*f); };
-            f->PriTiku = f->PriStisku;
-            if (jak == 0) Okna().MysNahoru(150, 150, 1, 0);
-            if (jak == 0) Host_.NaplanujZa(50, [&] { Okna().MysDolu(410, 105, 1, 0); });
-            f->Hodiny.Interval = 30;
-            f->Hodiny.Enabled = jak == 1;
-            if (jak == 2) Host_.NaplanujZa(50, [&, f] { Okna().Unload(*f); });
-            const std::uint32_t konec = Host_.TickCount() + 200;
-            while (Host_.TickCount() < konec) Host_.DoEvents(20);
+            f->PriStisku = f->PriTiku = pryc;
+            return Cekej(200);
+        };
+        if (jak == 0) {
+            Host_.NaplanujZa(10, [&] { Okna().MysNahoru(150, 150, 1, 0); });
+            Host_.NaplanujZa(50, [&] { Okna().MysDolu(410, 105, 1, 0); });
+        }
+        f->Hodiny.Interval = 30;
+        f->Hodiny.Enabled = jak == 1;
+        if (jak == 2) Host_.NaplanujZa(50, pryc);
+        Host_.NaplanujZa(150, [&, f] {
             EXPECT_TRUE(f->Zavreny() && !f->Viditelny() && !zije.expired());
             f->SetFocus(f->Pole);
-            dobehl = true;
-        };
+        });
         Okna().MysDolu(150, 150, 1, 0);
-        EXPECT_TRUE(dobehl);
-        EXPECT_TRUE(zije.expired()) << "destroyed when its handler was done";
+        EXPECT_TRUE(zije.expired()) << "destroyed when its handler was ended";
         Form_->Vezmi();
         Okna().MysPohyb(160, 160, 1, 0);
         Okna().Text("x");
@@ -306,7 +307,7 @@ TEST_F(ObrazovkyTest, ModalniFormularMaVsechnoSam) {
     Okna().Text("x");
     Okna().Klavesa("Return", 0);
     Okna().ZadostOZavreni();
-    for (int i = 0; i < 5; ++i) Host_.DoEvents(10);
+    Host_.Bez(50);
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{});
     EXPECT_EQ(modalni->Vezmi(), (Seznam_t{"Down Pic 50,100", "Up Pic 50,100", "Click Pic",
                                           "Klavesa Return", "QueryUnload"}));
@@ -319,7 +320,7 @@ TEST_F(ObrazovkyTest, StiskZapocatyPredZpravouUzNikomuNepatri) {
     Form_->PriStisku = [&] {
         Host_.NaplanujZa(10, [&] { Okna().MysNahoru(410, 105, 1, 0); });
         Host_.NaplanujZa(20, [&] { Okna().Klavesa("Return", 0); });
-        EXPECT_EQ(Host_.MsgBox("Opravdu?", "Konec", Styl::OtazkaAnoNe), Odpoved::Ano);
+        return Zeptej("Opravdu?", Odpoved::Ano);
     };
     Okna().MysDolu(410, 105, 1, 0);
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Down cmd(1) 10,5"});
@@ -338,7 +339,7 @@ TEST_F(NaStroji, ZpravaOdpovidaNaKlavesyIMys) {
     };
     for (const auto& [styl, stisky, ceka] : PRIPADY) {
         for (const std::string& k : stisky) Host_.NaplanujZa(10, [&] { Okna().Klavesa(k, 0); });
-        EXPECT_EQ(Host_.MsgBox("Text", "Titul", styl), ceka) << stisky.front();
+        EXPECT_EQ(Host_.Proved(Host_.MsgBox("Text", "Titul", styl)), ceka) << stisky.front();
         EXPECT_EQ(Host_.Naplanovano(), 0U) << "closed too soon";
         EXPECT_FALSE(Okna().JeModalni());
     }
@@ -349,8 +350,8 @@ TEST_F(NaStroji, ZpravaOdpovidaNaKlavesyIMys) {
         EXPECT_EQ(Okna().Vpredu(), form) << "a press beside the buttons answers nothing";
         Host_.Stiskni(form->Left + ne->Left + 3, form->Top + ne->Top + 3);
     });
-    EXPECT_EQ(Host_.MsgBox("Text", "Titul", Styl::OtazkaAnoNe), Odpoved::Ne);
-    EXPECT_THROW((void)Host_.MsgBox("Text", "Titul", Styl::Ok), BehovaChyba)
+    EXPECT_EQ(Host_.Proved(Host_.MsgBox("Text", "Titul", Styl::OtazkaAnoNe)), Odpoved::Ne);
+    EXPECT_THROW((void)Host_.Proved(Host_.MsgBox("Text", "Titul", Styl::Ok)), BehovaChyba)
         << "a script that never answers must not hang";
 }
 

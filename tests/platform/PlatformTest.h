@@ -27,7 +27,7 @@ inline std::filesystem::path Staging() {
 }
 
 /// A host and the fonts, new for each case.
-class NaStroji : public testing::Test {
+class NaStroji : public testing::Test, public SmiCekat {
 protected:
     NaStroji() { NastavSlozkuPisem((Staging() / "assets" / "Fonts").string()); }
     ~NaStroji() override {
@@ -41,6 +41,17 @@ protected:
         Docasne_.push_back(testing::TempDir() + std::to_string(::getpid()) + jmeno);
         std::ofstream(Docasne_.back(), std::ios::binary) << obsah;
         return Docasne_.back();
+    }
+
+    // What handlers that wait give back.
+    Prubeh<> Cekej(std::uint32_t ms) { co_await Cekani(ms); }
+    Prubeh<> Zeptej(std::string text, Odpoved ceka) {
+        EXPECT_EQ(co_await Host_.MsgBox(text, "Konec", Styl::OtazkaAnoNe), ceka);
+    }
+    Prubeh<> Zavrene(int kolikrat, std::uint32_t ms) {
+        const Obrazovky::Zavreni zavreni(Okna());
+        for (int i = 0; i < kolikrat; ++i) co_await Cekani::SPrijmem(ms);
+        co_await Cekani::SPrijmem(0);
     }
 
     std::vector<std::string> Docasne_;
@@ -62,28 +73,37 @@ public:
         PridejPole(cmd, "cmd", {400, 100, 50, 20});
         cmd[1].Top = 140;
     }
-    void MouseDown(Ovladac* o, const Mys& m) override {
+    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override {
         Zapis("Down", o, &m);
-        Zavolej(PriStisku);
+        return PriStisku ? PriStisku() : Prubeh<>();
     }
     void MouseMove(Ovladac* o, const Mys& m) override { Zapis("Move", o, &m); }
-    void MouseUp(Ovladac* o, const Mys& m) override { Zapis("Up", o, &m); }
-    void Click(Ovladac* o) override { Zapis("Click", o); }
+    Prubeh<> MouseUp(Ovladac* o, const Mys& m) override {
+        Zapis("Up", o, &m);
+        return {};
+    }
+    Prubeh<> Click(Ovladac* o) override {
+        Zapis("Click", o);
+        return {};
+    }
     void DblClick(Ovladac* o) override { Zapis("DblClick", o); }
     void Change(TextBox& t) override { Udalosti.push_back("Change " + t.Text); }
     void Activate() override {
         Udalosti.push_back("Activate");
-        Zavolej(PriAktivaci);
+        if (PriAktivaci) PriAktivaci();
     }
-    void QueryUnload() override { Udalosti.push_back("QueryUnload"); }
-    void TimerTick(Timer& /*t*/) override {
+    Prubeh<> QueryUnload() override {
+        Udalosti.push_back("QueryUnload");
+        return {};
+    }
+    Prubeh<> TimerTick(Timer& /*t*/) override {
         Udalosti.push_back("Tick " + std::to_string(host_.TickCount()));
-        Zavolej(PriTiku);
+        return PriTiku ? PriTiku() : Prubeh<>();
     }
-    bool Klavesa(std::string_view k, int /*shift*/) override {
-        if (!BereKlavesy) return false;
+    Odezva Klavesa(std::string_view k, int /*shift*/) override {
+        if (!BereKlavesy) return std::nullopt;
         Udalosti.push_back("Klavesa " + std::string(k));
-        return true;
+        return Prubeh<>();
     }
 
     /// What was written down since the last call.
@@ -97,14 +117,11 @@ public:
     Timer Hodiny;
     std::array<PictureBox, 2> cmd;
     std::vector<std::string> Udalosti;
-    std::function<void()> PriStisku, PriAktivaci, PriTiku;
+    std::function<Prubeh<>()> PriStisku, PriTiku;
+    std::function<void()> PriAktivaci;
 
 private:
     Host& host_;
-    /// A copy is run: what it does may put another one in its place.
-    static void Zavolej(std::function<void()> co) {
-        if (co) co();
-    }
     void Zapis(const char* co, const Ovladac* o, const Mys* m = nullptr) {
         const auto cislo = [](double x) { return std::to_string(static_cast<int>(x)); };
         std::string radek = std::string(co) + " " + (o == nullptr ? "form" : o->Name);

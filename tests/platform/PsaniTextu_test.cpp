@@ -125,7 +125,7 @@ TEST_F(PsaniTest, MysSadiKurzorAVybira) {
     Okna().MysNahoru(naX(8), y + 300, 1, 0);
     Hraj({"+B"});
     EXPECT_EQ(Pole().Text, "Jan B Novák");
-    Host_.Spi(1000);
+    Host_.PosunHodiny(1000);
     for (int i = 0; i < 2; ++i) Host_.Stiskni(naX(1), y);
     EXPECT_EQ(Stav(Pole()), "<Jan| B Novák") << "a double click takes the word";
 }

@@ -58,7 +58,7 @@ template <class D>
 class Stul : public RukaPravidel {
 public:
     explicit Stul(int uloha) {
-        if (!NactiKonfiguraci(Pamet())) throw std::runtime_error("bez konfigurace");
+        if (!NactiKonfiguraci(Pamet()).empty()) throw std::runtime_error("bez konfigurace");
         Pamet().CisloUlohy = static_cast<std::uint8_t>(uloha);
         NactiPriklady(Pamet(), Disk_(), Soubor(), MapaDesky(DeskaUlohy(uloha)));
         Pamet().Vety = [this, vety = Pamet().Vety](int cislo) {

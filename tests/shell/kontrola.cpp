@@ -118,7 +118,7 @@ TEST_F(KontrolaHodiny, Vysledky) {
         ASSERT_TRUE(cizi->Zamkni());
         EXPECT_EQ(VadyVysledku(), "! Zámek výsledků: Vysledky.dat: drží jej jiný program\n");
         const std::uint32_t od = host.TickCount();
-        EXPECT_NE(relace.Pamet().Vysledky().Uloz({.CisloUlohy = 1}).Text, "");
+        EXPECT_NE(Uloz(relace, {.CisloUlohy = 1}).Text, "");
         EXPECT_GT(host.TickCount(), od);
     }
     const std::string fronta = Fronta::Slozka(host.SlozkaStavu()).string();

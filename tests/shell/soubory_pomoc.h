@@ -13,10 +13,16 @@
 #include "platform/Host.h"
 #include "rules/Misc.h"
 #include "store/Soubory.h"
+#include "store/Ukladani.h"
 
 namespace rysovna::testy {
 
 using hrac::Relace;
+
+/// Stores a result in a session, and waits for what it waits for.
+inline Ukladani::Ulozeni Uloz(Relace& relace, const Vysledek& vysledek) {
+    return relace.Host().Proved(relace.Pamet().Vysledky().Uloz(vysledek));
+}
 
 /// A data root to write into.
 class Soubory : public ::testing::Test {

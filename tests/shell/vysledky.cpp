@@ -9,6 +9,7 @@
 
 #include "base/Cisla.h"
 #include "platform/PosixDisk.h"
+#include "podpora/UkladaniHned.h"
 #include "screens/Spolecne.h"
 #include "shell/soubory_pomoc.h"
 #include "store/Fronta.h"
@@ -202,13 +203,17 @@ protected:
     /// The storing of a new start of the program.
     std::string Start() {
         relace.Pamet().ZapomenVysledky();
-        return relace.Pamet().Vysledky().ZkusCekajici();
+        return host.Proved(relace.Pamet().Vysledky().ZkusCekajici());
     }
     /// Another program of the account, on a disk of its own.
-    Ukladani Program(Disk& disk) {
+    UkladaniHned Program(Disk& disk) {
         return {disk,
                 {.Ted = [this] { return host.TickCount(); },
-                 .Spi = [this](std::uint32_t ms) { host.Spi(ms); }},
+                 .Spi =
+                     [this](std::uint32_t ms) {
+                         if (host.PriSpanku) host.PriSpanku(ms);
+                         host.PosunHodiny(ms);
+                     }},
                 Cesta(""),
                 host.SlozkaStavu()};
     }
@@ -226,7 +231,7 @@ protected:
 
 TEST_F(Ulozeni, CtyriRadkyDenikuBajtPoBajtu) {
     Pis("Vysledky.dat", "co tu bylo");
-    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("Žaneta Křížová")).Text, "");
+    EXPECT_EQ(Uloz(relace, Novy("Žaneta Křížová")).Text, "");
     // What is longer stays whole; a character that the code page lacks counts and prints as one.
     const std::string jmeno(34, 'x'), hra(25, 'h'), typ(31, 't'), cara = std::string(75, '=');
     Vysledek dlouhy = Novy(jmeno + "Ω");
@@ -236,7 +241,7 @@ TEST_F(Ulozeni, CtyriRadkyDenikuBajtPoBajtu) {
     dlouhy.Zaporne = "7654321";
     dlouhy.Znamka = "";
     dlouhy.Konec = {2024, 12, 31, 23, 59};
-    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(dlouhy).Text, "");
+    EXPECT_EQ(Uloz(relace, dlouhy).Text, "");
     EXPECT_EQ(
         Cti("Vysledky.dat"),
         "co tu bylo\r\n" +
@@ -260,7 +265,7 @@ TEST_F(Ulozeni, DenikZacinaNaNovemRadku) {
     for (const auto& [konec, pred] : std::initializer_list<std::array<std::string, 2>>{
              {"", ""}, {"x\r\n", ""}, {"x\n", ""}, {"x\r", "\n"}, {"x", "\r\n"}}) {
         Pis("Vysledky.dat", konec);
-        EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("A")).Text, "");
+        EXPECT_EQ(Uloz(relace, Novy("A")).Text, "");
         EXPECT_EQ(Cti("Vysledky.dat"), konec + pred + RadkyDeniku(Novy("A")));
     }
 }
@@ -269,17 +274,13 @@ TEST_F(Ulozeni, DenikZacinaNaNovemRadku) {
 TEST_F(Ulozeni, PlnyDiskNechaDenikCelyAVysledekPocka) {
     Pis("Vysledky.dat", std::string(4000, 'd') + "\r\n");
     std::string zprava;
-    EXPECT_EQ(
-        ChybaNaPlnemDisku(4096, [&] { zprava = relace.Pamet().Vysledky().Uloz(Novy("A")).Text; }),
-        "");
+    EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { zprava = Uloz(relace, Novy("A")).Text; }), "");
     EXPECT_EQ(zprava, "Výsledek se nepodařilo zapsat: " + Cesta("Vysledky.dat").string() +
                           " (na disku není místo).\n\nJe uložen stranou a zapíše se s příštím "
                           "výsledkem nebo při příštím spuštění programu.");
     EXPECT_EQ(Cti("Vysledky.dat"), std::string(4000, 'd') + "\r\n");
     EXPECT_EQ(Cti("01.res"), "");
-    EXPECT_EQ(
-        ChybaNaPlnemDisku(4096, [&] { zprava = relace.Pamet().Vysledky().Uloz(Novy("B")).Text; }),
-        "");
+    EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { zprava = Uloz(relace, Novy("B")).Text; }), "");
     EXPECT_NE(zprava, "");  // each result is told once
     EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { zprava = Start(); }), "");
     EXPECT_EQ(zprava, "");
@@ -324,7 +325,7 @@ private:
 /// where the table could not be looked at again.
 TEST_F(Ulozeni, CiziStejnyRadekPoChybeNeniTen) {
     VadnyDisk disk;
-    Ukladani ukladani = Program(disk);
+    UkladaniHned ukladani = Program(disk);
     disk.Vada = VadnyDisk::Co::NovaTabulkaAPakStara;
     EXPECT_NE(ukladani.Uloz(Novy("A")).Text, "");
     Pis("01.res", "A|50|0|1\r\n");
@@ -338,9 +339,7 @@ TEST_F(Ulozeni, CiziStejnyRadekPoChybeNeniTen) {
 TEST_F(Ulozeni, CiziStejneRadkyDenikuNejsouTy) {
     const std::string zacatek = std::string(3998, 'd') + "\r\n";
     Pis("Vysledky.dat", zacatek);
-    EXPECT_EQ(ChybaNaPlnemDisku(
-                  4096, [&] { EXPECT_NE(relace.Pamet().Vysledky().Uloz(Novy("A")).Text, ""); }),
-              "");
+    EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { EXPECT_NE(Uloz(relace, Novy("A")).Text, ""); }), "");
     ASSERT_EQ(Cti("Vysledky.dat"), zacatek);
     Pis("Vysledky.dat", zacatek + RadkyDeniku(Novy("A")));
     EXPECT_EQ(Start(), "");
@@ -371,11 +370,11 @@ TEST_F(Ulozeni, TriProgramyUctuZaCizimZamkem) {
     ASSERT_TRUE(cizi->Zamkni());
     int program = 0;
     const std::function<void()> dalsi = [&] {
-        Ukladani ukladani = Program(host.Disk());
+        UkladaniHned ukladani = Program(host.Disk());
         const std::string jmeno(1, static_cast<char>('A' + program++));
         const std::string zprava = ukladani.Uloz(Novy(jmeno)).Text;
         EXPECT_NE(zprava.find("Je uložen stranou"), std::string::npos) << zprava;
-        EXPECT_EQ(ukladani.Cekaji().size(), 1U) << jmeno;
+        EXPECT_EQ(ukladani.Sam().Cekaji().size(), 1U) << jmeno;
     };
     host.PriSpanku = [&](std::uint32_t) {
         if (program < 3) dalsi();
@@ -383,7 +382,7 @@ TEST_F(Ulozeni, TriProgramyUctuZaCizimZamkem) {
     const std::uint32_t od = host.TickCount();
     dalsi();
     EXPECT_EQ(program, 3);
-    EXPECT_LE(host.TickCount() - od, NEJDELE_NA_ZAMEK + 100);
+    EXPECT_LE(host.TickCount() - od, Ukladani::NEJDELE_NA_ZAMEK + 100);
     host.PriSpanku = nullptr;
     EXPECT_EQ(Ceka(), 3);
     cizi.reset();
@@ -398,9 +397,7 @@ TEST_F(Ulozeni, CiziStejnyRadekNeniTen) {
     while (stara.size() < 4000) stara += "Eva|50|0|1\r\n";
     Pis("01.res", stara + std::string(90, ' ') + "\r\n");
     std::string zprava;
-    EXPECT_EQ(
-        ChybaNaPlnemDisku(4096, [&] { zprava = relace.Pamet().Vysledky().Uloz(Novy("A")).Text; }),
-        "");
+    EXPECT_EQ(ChybaNaPlnemDisku(4096, [&] { zprava = Uloz(relace, Novy("A")).Text; }), "");
     EXPECT_NE(zprava.find("01.res"), std::string::npos) << zprava;
     EXPECT_EQ(Denik(), "A ");
     Pis("01.res", stara + "A|50|0|1\r\n");
@@ -411,13 +408,13 @@ TEST_F(Ulozeni, CiziStejnyRadekNeniTen) {
 
 TEST_F(Ulozeni, VysledekZnaSvujKoren) {
     fs::rename(Cesta("Vysledky.dat"), Cesta("stranou"));
-    EXPECT_NE(relace.Pamet().Vysledky().Uloz(Novy("A")).Text, "");
+    EXPECT_NE(Uloz(relace, Novy("A")).Text, "");
     const fs::path jiny = Cesta("jiny");
     fs::create_directory(jiny);
     for (const char* s : {"Vysledky.dat", "01.res"}) Pis(std::string("jiny/") + s, "");
     relace.Pamet().CestaVysledku = (jiny / "").string();
     EXPECT_EQ(Start(), "");
-    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("B")).Text, "");
+    EXPECT_EQ(Uloz(relace, Novy("B")).Text, "");
     EXPECT_EQ(Cti("jiny/01.res"), "B|50|0|1\r\n");
     relace.Pamet().CestaVysledku = Cesta("").string();
     fs::rename(Cesta("stranou"), Cesta("Vysledky.dat"));
@@ -428,17 +425,17 @@ TEST_F(Ulozeni, VysledekZnaSvujKoren) {
 
 TEST_F(Ulozeni, BezFrontySeZapiseAJinakSeDrziVPameti) {
     Pis("../stav", "soubor místo složky");
-    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("A")).Text, "");
+    EXPECT_EQ(Uloz(relace, Novy("A")).Text, "");
     EXPECT_EQ(Cti("01.res"), "A|50|0|1\r\n");
     fs::rename(Cesta("01.res"), Cesta("stranou"));
     fs::create_directory(Cesta("01.res"));
-    const std::string zprava = relace.Pamet().Vysledky().Uloz(Novy("B")).Text;
+    const std::string zprava = Uloz(relace, Novy("B")).Text;
     EXPECT_NE(zprava.find("01.res (disk hlásí chybu)"), std::string::npos) << zprava;
     EXPECT_NE(zprava.find("výsledek se ztratí"), std::string::npos) << zprava;
     EXPECT_EQ(Denik(), "A B ");
     fs::remove(Cesta("01.res"));
     fs::rename(Cesta("stranou"), Cesta("01.res"));
-    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("C")).Text, "");
+    EXPECT_EQ(Uloz(relace, Novy("C")).Text, "");
     EXPECT_EQ(Denik(), "A B C ");
     EXPECT_EQ(Cti("01.res"), "A|50|0|1\r\nB|50|0|1\r\nC|50|0|1\r\n");
 }
@@ -448,14 +445,14 @@ TEST_F(Ulozeni, CizimuZamkuSeCekaTriSekundy) {
     auto cizi = host.Disk().Otevri(Cesta("Vysledky.dat"), Disk::Jak::Zapis);
     ASSERT_TRUE(cizi->Zamkni());
     const std::uint32_t od = host.TickCount();
-    const std::string zprava = relace.Pamet().Vysledky().Uloz(Novy("A")).Text;
+    const std::string zprava = Uloz(relace, Novy("A")).Text;
     EXPECT_NE(zprava.find("Vysledky.dat (zapisuje do něj jiný program)"), std::string::npos);
-    EXPECT_LE(host.TickCount() - od, NEJDELE_NA_ZAMEK);
-    EXPECT_GE(host.TickCount() - od, NEJDELE_NA_ZAMEK - 50);
+    EXPECT_LE(host.TickCount() - od, Ukladani::NEJDELE_NA_ZAMEK);
+    EXPECT_GE(host.TickCount() - od, Ukladani::NEJDELE_NA_ZAMEK - 50);
     host.PriSpanku = [&, n = 0](std::uint32_t) mutable {
         if (++n == 10) cizi.reset();
     };
-    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("B")).Text, "");
+    EXPECT_EQ(Uloz(relace, Novy("B")).Text, "");
     EXPECT_EQ(Denik(), "A B ");
     EXPECT_EQ(Ceka(), 0);
 }
@@ -495,16 +492,16 @@ TEST_F(Ulozeni, TabulkaSiDrziPravaAOdkaz) {
     fs::create_symlink(Cesta("skutecna.res"), Cesta("01.res"));
     Pis("skutecna.res.0123456789abcdef.nove", "zbytek po zabitém");
     const auto souboru = Pocet();
-    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("A")).Text, "");
+    EXPECT_EQ(Uloz(relace, Novy("A")).Text, "");
     EXPECT_TRUE(fs::is_symlink(Cesta("01.res")));
     EXPECT_EQ(Cti("skutecna.res"), "A|50|0|1\r\n");
     EXPECT_EQ(fs::status(Cesta("skutecna.res")).permissions(), fs::perms(0664));
     EXPECT_EQ(Pocet(), souboru - 1);
     // A table that went missing comes back with the rights of its folder.
     fs::permissions(Cesta(""), fs::perms(0775));
-    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("A", 2)).Text, "");
+    EXPECT_EQ(Uloz(relace, Novy("A", 2)).Text, "");
     fs::remove(Cesta("02.res"));
-    EXPECT_EQ(relace.Pamet().Vysledky().Uloz(Novy("B", 2)).Text, "");
+    EXPECT_EQ(Uloz(relace, Novy("B", 2)).Text, "");
     EXPECT_EQ(fs::status(Cesta("02.res")).permissions(), fs::perms(0664));
     EXPECT_EQ(Cti("02.res"), "B|50|0|1\r\n");
 }
@@ -519,7 +516,7 @@ TEST_F(UlozeniDeathTest, SlozkaASouboryJenKeCteni) {
     const auto hraj = [&] {
         // Somebody whom the permissions of files bind.
         if (geteuid() == 0 && setuid(65534) != 0) std::abort();
-        std::cerr << relace.Pamet().Vysledky().Uloz(Novy("A")).Text;
+        std::cerr << Uloz(relace, Novy("A")).Text;
         std::exit(0);
     };
     for (const char* s : {"01.res", "Vysledky.dat"}) fs::permissions(Cesta(s), fs::perms(0444));

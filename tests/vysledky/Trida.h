@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "platform/PosixDisk.h"
+#include "podpora/UkladaniHned.h"
 #include "store/Kodovani.h"
 #include "store/Ukladani.h"
 

@@ -71,7 +71,7 @@ protected:
         *sdelene = {};
         return Pockej(Spust(UCET, [&] {
             PosixDisk disk;
-            Ukladani ukladani(disk, Virtualni(), data, Stav());
+            UkladaniHned ukladani(disk, Virtualni(), data, Stav());
             NastavPoruchu(druh.Co, kolikate, druh.Trvale);
             const std::string zprava = ukladani.Uloz(Drivejsi(jmeno)).Text;
             sdelene->Volani = PocetVolani();
@@ -85,7 +85,7 @@ protected:
     int Start(Porucha druh = Porucha::Zadna, int kolikate = 0) {
         return Pockej(Spust(UCET, [&] {
             PosixDisk disk;
-            Ukladani ukladani(disk, Virtualni(), data, Stav());
+            UkladaniHned ukladani(disk, Virtualni(), data, Stav());
             NastavPoruchu(druh, kolikate);
             const std::string zprava = ukladani.ZkusCekajici();
             sdelene->Volani = PocetVolani();

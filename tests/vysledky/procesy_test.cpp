@@ -41,7 +41,7 @@ protected:
     void Hraj(int program) const {
         std::ofstream receno(koren / ("receno" + std::to_string(program)));
         PosixDisk disk;
-        Ukladani ukladani(disk, SkutecneHodiny(), data, StavUctu(program));
+        UkladaniHned ukladani(disk, SkutecneHodiny(), data, StavUctu(program));
         for (int i = 0; i < vysledku; ++i) {
             const std::string jmeno = JmenoZaka(program, i);
             const bool ulozen = ukladani.Uloz(Drivejsi(jmeno)).Text.empty();
@@ -125,7 +125,7 @@ TEST_P(Procesy, KazdyVysledekPraveJednou) {
         EXPECT_EQ(Pockej(SpustProgram(p,
                                       [&, p] {
                                           PosixDisk disk;
-                                          Ukladani u(disk, SkutecneHodiny(), data, StavUctu(p));
+                                          UkladaniHned u(disk, SkutecneHodiny(), data, StavUctu(p));
                                           _exit(u.ZkusCekajici().empty() ? 0 : 1);
                                       })),
                   0);

@@ -8,7 +8,7 @@
 #include "base/Text.h"
 #include "platform/Obrazovky.h"
 #include "rules/Ulohy.h"
-#include "screens/SelectForm.h"
+#include "screens/Start.h"
 
 namespace rysovna::hrac {
 namespace {
@@ -57,7 +57,8 @@ Relace::~Relace() {
 }
 
 void Relace::StartDoTitulu() {
-    host_.Okna().Nacti<SelectForm>(sezeni_);
+    Zacni(sezeni_);
+    host_.Dobehni();
 }
 
 void Relace::PreskocTitul() {
@@ -223,8 +224,7 @@ void Relace::Klavesa(std::string_view klavesa, int shift) {
 }
 
 void Relace::Cekej(std::uint32_t ms) {
-    const std::uint32_t konec = host_.TickCount() + ms;
-    while (host_.TickCount() < konec) host_.DoEvents(konec - host_.TickCount());
+    host_.Bez(ms);
     Po("cekej " + std::to_string(ms));
 }
 

@@ -41,7 +41,7 @@ bool HeadlessHost::Prijmi() {
 void HeadlessHost::Vyckej(std::uint32_t nejvyseMs) {
     std::uint32_t za = nejvyseMs;
     if (!scenar_.empty()) za = std::min(za, std::max(scenar_.begin()->first, cas_) - cas_);
-    if (PriSpanku && Okna().JeZavreno()) PriSpanku(za);
+    if (PriSpanku) PriSpanku(za);
     cas_ += za;
     modalne_ = Okna().JeModalni() && scenar_.empty() ? modalne_ + za : 0;
     if (modalne_ > NEJDELE_MODALNE) Selhani("Zprávu nikdo nezavřel");

@@ -95,7 +95,7 @@ public:
     bool SkutecneZpravy = false;
     /// What the looks at screen and sound find fault with; empty: nothing.
     std::string NeniObrazovka, NeniZvuk;
-    /// Called when the clock moves in a closed wait: to let other processes run in the meantime.
+    /// Called when the clock moves: to let other processes run in the meantime.
     std::function<void(std::uint32_t)> PriSpanku;
     std::uint64_t Prekresleni = 0;         ///< how many times Prekresli was called
     std::function<void()> PriPrekresleni;  ///< to look at the frames of an animation

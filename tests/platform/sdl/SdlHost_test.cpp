@@ -89,18 +89,24 @@ public:
         Maximised = true;
         Pridej(Pole, "Pole", {10, 10, 100, 20});
     }
-    void MouseDown(Ovladac* /*o*/, const Mys& /*m*/) override { ++Stisku; }
-    void Click(Ovladac* /*o*/) override { ++Kliku; }
-    bool Klavesa(std::string_view klavesa, int /*shift*/) override {
+    Prubeh<> MouseDown(Ovladac* /*o*/, const Mys& /*m*/) override {
+        ++Stisku;
+        return {};
+    }
+    Prubeh<> Click(Ovladac* /*o*/) override {
+        ++Kliku;
+        return {};
+    }
+    Odezva Klavesa(std::string_view klavesa, int /*shift*/) override {
         Klavesy += std::string(klavesa) + ' ';
-        return true;
+        return Prubeh<>();
     }
     TextBox Pole;
     int Stisku = 0, Kliku = 0;
     std::string Klavesy;
 };
 
-class NaOkne : public testing::Test {
+class NaOkne : public testing::Test, public SmiCekat {
 protected:
     NaOkne() {
         const std::string staging = std::getenv("RYSOVNA_STAGING");
@@ -109,7 +115,16 @@ protected:
     ~NaOkne() override { Host_.Okna().UnloadVse(); }
     /// Paints, and takes what the window itself has to say.
     void Ustal() {
-        for (int i = 0; i < 10; ++i) Host_.DoEvents(20);
+        for (int i = 0; i < 10; ++i) Host_.Obrat(20);
+    }
+
+    /// Presses, keys and a text at the beginning, another press at the end.
+    Prubeh<> Zavrene() {
+        const Obrazovky::Zavreni zavreni(Host_.Okna());
+        Davka({Tlacitko(true), Tlacitko(false), Klavesa(SDLK_RETURN), Psano("x")});
+        for (int i = 0; i < 5; ++i) co_await Cekani::SPrijmem(40);
+        Davka({Tlacitko(true)});
+        co_await Cekani::SPrijmem(0);
     }
 
     SdlHost Host_{1};
@@ -129,10 +144,10 @@ TEST_F(NaOkne, CoCekaNaStiskNecekaAzNaDalsiUdalost) {
     for (const auto& davka : {klik, seZamerenim, klik}) {
         Davka(davka);
         const auto zacatek = Hodiny::now();
-        Host_.DoEvents(DLOUHO);
+        Host_.Obrat(DLOUHO);
         EXPECT_LT(Ms(zacatek), DLOUHO / 2) << "batch " << kliku;
         EXPECT_EQ(form->Kliku, ++kliku);
-        Host_.Spi(600);  // no double click
+        SDL_Delay(600);  // no double click
     }
 }
 
@@ -159,7 +174,8 @@ protected:
 };
 
 TEST_P(Titul, SkonciPoKratkemKliku) {
-    Host_.Okna().Nacti<SelectForm>(Hra_);
+    Zacni(Hra_);
+    Host_.Dobehni();
     ASSERT_EQ(Host_.Okna().Vpredu()->Jmeno(), "IntroForm");
     const auto zacatek = Hodiny::now();
     // From another thread, while the program waits.
@@ -173,7 +189,7 @@ TEST_P(Titul, SkonciPoKratkemKliku) {
             return 0;
         },
         &klik);
-    while (Host_.Okna().Vpredu()->Jmeno() == "IntroForm") Host_.DoEvents(100);
+    while (Host_.Okna().Vpredu()->Jmeno() == "IntroForm") Host_.Obrat(100);
     SDL_RemoveTimer(casovac);
     EXPECT_LT(Ms(zacatek), std::max(GetParam().Kdy, 1000U) + 4000) << "ten seconds by itself";
     EXPECT_EQ(Host_.Okna().Vpredu()->Jmeno(), "SelectForm");
@@ -193,11 +209,7 @@ TEST_F(NaOkne, ZavreneCekaniBereVstupZaBehu) {
     form->SetFocus(form->Pole);
     Ustal();
     const auto zacatek = Hodiny::now();
-    Host_.Okna().CekejZavrene([&] {
-        Davka({Tlacitko(true), Tlacitko(false), Klavesa(SDLK_RETURN), Psano("x")});
-        for (int i = 0; i < 5; ++i) Host_.Spi(40);
-        Davka({Tlacitko(true)});
-    });
+    Host_.Proved(Zavrene());
     EXPECT_GE(Ms(zacatek), 150);   // it slept: clocks may round
     EXPECT_LT(Ms(zacatek), 5000);  // it came back at all: the machine may be busy
     EXPECT_EQ(std::to_string(form->Stisku) + form->Pole.Text, "0");
@@ -257,17 +269,17 @@ TEST_F(NaOkne, DvojklikPlatiIKdyzProgramMeziTimPracoval) {
         const auto nahore = Host_.Okna().Nacti<PocitadloForm>();
         Host_.Okna().Show(*nahore);
         Davka({Tlacitko(true), Tlacitko(false)});
-        Host_.DoEvents(0);
+        Host_.Obrat(0);
         Host_.Okna().Unload(*nahore);
         if (pracoval) {
             SDL_Delay(700);
         } else {
             const auto zacatek = Hodiny::now();
-            while (Ms(zacatek) < 700) Host_.DoEvents(20);
+            while (Ms(zacatek) < 700) Host_.Obrat(20);
         }
         form->Stisku = 0;
         Davka({Tlacitko(true), Tlacitko(false)});
-        Host_.DoEvents(0);
+        Host_.Obrat(0);
         return form->Stisku;
     };
     EXPECT_EQ(dvakrat(true), 0);
