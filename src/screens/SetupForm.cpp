@@ -194,8 +194,8 @@ Odezva SetupForm::Enter() {
 }
 
 Prubeh<> SetupForm::ZvolEnterem(std::size_t k) {
-    Odezva stisk = s_.Okna().StiskniZastavku(*this, ICislo[k]);
-    if (stisk) co_await *stisk;
+    Prubeh<> stisk = s_.Okna().StiskniZastavku(*this, ICislo[k]).value_or(Prubeh<>());
+    co_await stisk;
     // The waits in it may have led on from here.
     if (s_.Okna().Vpredu().get() != this || MistoPrstenu(*this) != &ICislo[k]) co_return;
     co_await DalEnterem(true);
@@ -221,8 +221,7 @@ Odezva SetupForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     const std::size_t cislice =
         klavesa.size() == 1 ? std::string_view("12345").find(klavesa) : std::string_view::npos;
     if (cislice != std::string_view::npos) {
-        Odezva stisk = okna.StiskniZastavku(*this, ICislo[cislice]);
-        return stisk ? std::move(*stisk) : Prubeh<>();
+        return okna.StiskniZastavku(*this, ICislo[cislice]).value_or(Prubeh<>());
     }
     if (klavesa == "Return") return Enter();
     // With a name there, one key by mistake must not throw it away.
