@@ -5,8 +5,8 @@
 
 namespace rysovna {
 
-Vlakno::Vlakno(Zasobnik& kde, Prubeh<> prace)
-    : kde_(kde), prace_(std::make_unique<Prubeh<>>(std::move(prace))) {}
+Vlakno::Vlakno(Zasobnik& kde, Cinnost<> prace)
+    : kde_(kde), prace_(std::make_unique<Cinnost<>>(std::move(prace))) {}
 
 bool Vlakno::Zacni(Cekani& cekani) {
     cekani.od_ = kde_.ted_();
@@ -18,7 +18,7 @@ bool Vlakno::Zacni(Cekani& cekani) {
 
 /// Runs to the next wait or to the end. Nothing resumes anything but this loop, so that a work
 /// within works takes no room on the stack of the process.
-void Vlakno::Bez() {
+void Vlakno::Jdi() {
     while (!ramce_.empty() && ceka_ == nullptr) {
         const std::coroutine_handle<> co = ramce_.back().Co;
         co.resume();
@@ -52,19 +52,19 @@ bool Zasobnik::Uplynulo(const Cekani& cekani) const {
     return cekani.ms_ && ted_() - cekani.od_ >= *cekani.ms_;
 }
 
-void Zasobnik::Spust(Prubeh<> prace) {
+void Zasobnik::Spust(Cinnost<> prace) {
     if (prace.JePrazdny()) return;
     auto nove = std::unique_ptr<Vlakno>(new Vlakno(*this, std::move(prace)));
     Vlakno& v = *nove;
     vlakna_.push_back(std::move(nove));
-    const Prubeh<>& p = *v.prace_;
+    const Cinnost<>& p = *v.prace_;
     p.ramec_.promise().Kdo = &v;
     v.Vnor(p.ramec_, p.komu_.get());
-    Bez(v);
+    Vykonej(v);
 }
 
-void Zasobnik::Bez(Vlakno& v) {
-    v.Bez();
+void Zasobnik::Vykonej(Vlakno& v) {
+    v.Jdi();
     if (!v.ramce_.empty()) return;
     const auto kde = std::ranges::find(vlakna_, &v, &std::unique_ptr<Vlakno>::get);
     const std::unique_ptr<Vlakno> hotove = std::move(*kde);
@@ -81,7 +81,7 @@ Zasobnik::Krok Zasobnik::Pokracuj(std::size_t dno) {
     v.ceka_ = nullptr;
     v.UkonciOsirele(konec_());
     const std::size_t pred = vlakna_.size();
-    Bez(v);
+    Vykonej(v);
     return vlakna_.size() < pred ? Krok::Dobehl : Krok::Ceka;
 }
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-#include "base/Prubeh.h"
+#include "base/Cinnost.h"
 
 namespace rysovna {
 
@@ -23,7 +23,7 @@ public:
     Zasobnik& operator=(const Zasobnik&) = delete;
 
     /// Begins a work: runs it to its first wait. Its fault comes out here.
-    void Spust(Prubeh<> prace);
+    void Spust(Cinnost<> prace);
 
     enum class Krok {
         Nic,     ///< nothing could go on
@@ -46,7 +46,7 @@ public:
 
 private:
     friend class Vlakno;
-    void Bez(Vlakno& v);
+    void Vykonej(Vlakno& v);
     [[nodiscard]] bool Uplynulo(const Cekani& cekani) const;
 
     std::function<std::uint32_t()> ted_;

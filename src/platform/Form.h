@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/Prubeh.h"
+#include "base/Cinnost.h"
 #include "platform/Ovladace.h"
 
 namespace rysovna {
@@ -24,7 +24,7 @@ struct UkazatelKlaves {
 };
 
 /// The answer to a key: none if it was not used, else what is still to be done.
-using Odezva = std::optional<Prubeh<>>;
+using Odezva = std::optional<Cinnost<>>;
 
 /// A screen: a record of its own with its objects, and the calls by which events reach it. One
 /// class per screen derives from it. Made and destroyed by Obrazovky alone.
@@ -67,18 +67,18 @@ public:
     virtual void Activate() {}
     /// Just before a painter paints the form: for what is laid out anew only when it is seen.
     virtual void Paint() {}
-    virtual Prubeh<> MouseDown(Ovladac* /*o*/, const Mys& /*m*/) { return {}; }
+    virtual Cinnost<> MouseDown(Ovladac* /*o*/, const Mys& /*m*/) { return {}; }
     virtual void MouseMove(Ovladac* /*o*/, const Mys& /*m*/) {}
-    virtual Prubeh<> MouseUp(Ovladac* /*o*/, const Mys& /*m*/) { return {}; }
+    virtual Cinnost<> MouseUp(Ovladac* /*o*/, const Mys& /*m*/) { return {}; }
     /// The left button went down and up over the same object.
-    virtual Prubeh<> Click(Ovladac* /*o*/) { return {}; }
+    virtual Cinnost<> Click(Ovladac* /*o*/) { return {}; }
     /// Comes with the second press of a double click, between its MouseDown and MouseUp, and takes
     /// nothing away: each of the two presses gives MouseDown, MouseUp and Click of its own. So a
     /// screen that counts presses has no use for it.
     virtual void DblClick(Ovladac* /*o*/) {}
     /// The person edited the text. What the program itself writes into a text box gives no event.
     virtual void Change(TextBox& /*t*/) {}
-    virtual Prubeh<> TimerTick(Timer& /*t*/) { return {}; }
+    virtual Cinnost<> TimerTick(Timer& /*t*/) { return {}; }
     /// A key that no text box took: "Return", "Escape", ... (shift: 1 Shift, 2 Ctrl). What the
     /// form does not use moves the ring or presses what it is on.
     virtual Odezva Klavesa(std::string_view /*klavesa*/, int /*shift*/) { return std::nullopt; }
@@ -105,7 +105,7 @@ public:
     /// The point that a press would catch where the pointer is, design px.
     [[nodiscard]] virtual std::optional<Bod> Zachytne() const { return std::nullopt; }
     /// The window is being closed from outside. The shell's root screen asks its exit question.
-    virtual Prubeh<> QueryUnload() { return {}; }
+    virtual Cinnost<> QueryUnload() { return {}; }
 
 protected:
     /// Enters an object into the form at its place, as the design lays it out.

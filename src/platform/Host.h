@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/Cinnost.h"
 #include "base/DatumACas.h"
 #include "base/Disk.h"
-#include "base/Prubeh.h"
 
 namespace rysovna {
 
@@ -41,7 +41,7 @@ public:
 
     /// A modal message box in the window, in the program's own style; awaited, it gives the answer,
     /// or that of Escape if the process is to end before.
-    virtual Prubeh<Odpoved> MsgBox(std::string text, std::string titul, Styl styl) = 0;
+    virtual Cinnost<Odpoved> MsgBox(std::string text, std::string titul, Styl styl) = 0;
     /// Starts a sound and returns at once; the sound that was playing ends. A missing device is
     /// no fault. cesta: with backslashes, as the program spells paths.
     virtual void SndPlaySound(std::string_view cesta) = 0;
@@ -81,7 +81,7 @@ public:
 protected:
     /// Shows a message box over the screens until it is answered. The fonts must be there
     /// (MamePisma).
-    Prubeh<Odpoved> UkazZpravu(std::string text, std::string titul, Styl styl);
+    Cinnost<Odpoved> UkazZpravu(std::string text, std::string titul, Styl styl);
 
 private:
     std::unique_ptr<Obrazovky> okna_;

@@ -165,7 +165,7 @@ bool Obrazovky::DrziKlavesa() const {
     return !vnitrek_->DrziKlavesa.empty();
 }
 
-Prubeh<> Obrazovky::Klepni(DrzenyForm form, DrzenyOvladac o) {
+Cinnost<> Obrazovky::Klepni(DrzenyForm form, DrzenyOvladac o) {
     const Vnitrek& v = *vnitrek_;
     if (v.Drzi) co_return;
     const Mys m = UdalostKlaves(*form, *o, LEVE);
@@ -182,7 +182,7 @@ Odezva Obrazovky::StiskniZastavku(Form& form, Ovladac& o) {
     return Klepni(drzeny, {drzeny, &o});
 }
 
-Prubeh<> Obrazovky::ZmackniKlavesou(DrzenyForm form, DrzenyOvladac o, std::string jmeno) {
+Cinnost<> Obrazovky::ZmackniKlavesou(DrzenyForm form, DrzenyOvladac o, std::string jmeno) {
     Vnitrek& v = *vnitrek_;
     if (v.Drzi) co_return;
     v.Drzi = true;
@@ -197,7 +197,7 @@ Prubeh<> Obrazovky::ZmackniKlavesou(DrzenyForm form, DrzenyOvladac o, std::strin
     if (tah && v.Drzici() == form && Dosazitelny(o.get())) PosunutUkazatel(*form, *o);
 }
 
-Prubeh<> Obrazovky::PustKlavesou() {
+Cinnost<> Obrazovky::PustKlavesou() {
     Vnitrek& v = *vnitrek_;
     v.PustDrzeni();
     const Formular form = v.Drzici();
@@ -210,7 +210,7 @@ void Obrazovky::PosunutUkazatel(Form& form, Ovladac& o) {
     form.MouseMove(&o, UdalostKlaves(form, o, DrziKlavesa() ? LEVE : 0));
 }
 
-Prubeh<> Obrazovky::DorucPusteniKlavesy(const Vstup& s) {
+Cinnost<> Obrazovky::DorucPusteniKlavesy(const Vstup& s) {
     const Vnitrek& v = *vnitrek_;
     if (v.DrziJak != StiskKlavesou::Drzeni || v.DrziKlavesa != s.Text) return {};
     return PustKlavesou();
@@ -227,11 +227,11 @@ Odezva Obrazovky::ZaDrzeni(const Vstup& s) {
         return std::nullopt;
     }
     // The same key again: its release got lost outside.
-    if (!tah) return s.Text == v.DrziKlavesa ? PustKlavesou() : Prubeh<>();
+    if (!tah) return s.Text == v.DrziKlavesa ? PustKlavesou() : Cinnost<>();
     UkazPrsten();
     if (s.Text == "Space") return PustKlavesou();
     if (SmerSipky(s.Text) || JeZnak(s.Text)) form->KlavesaNa(*v.DrziObjekt, s.Text, s.Shift);
-    return Prubeh<>();
+    return Cinnost<>();
 }
 
 /// Arrows carry the mouse that is held on a plane on by a pixel: a hand cannot be so fine.
@@ -255,7 +255,7 @@ bool Obrazovky::PosunDrzenouMys(const Vstup& s) {
     return true;
 }
 
-Prubeh<> Obrazovky::DorucKlavesu(const Vstup& s) {
+Cinnost<> Obrazovky::DorucKlavesu(const Vstup& s) {
     const std::string& jmeno = s.Text;
     if (vnitrek_->Zvednuty() != nullptr) return {};
     if (Odezva zaDrzeni = ZaDrzeni(s)) return std::move(*zaDrzeni);
@@ -274,7 +274,7 @@ Prubeh<> Obrazovky::DorucKlavesu(const Vstup& s) {
     return KlavesaPrstenu(form, jmeno, s.Shift);
 }
 
-Prubeh<> Obrazovky::KlavesaPrstenu(const DrzenyForm& form, std::string_view jmeno, int shift) {
+Cinnost<> Obrazovky::KlavesaPrstenu(const DrzenyForm& form, std::string_view jmeno, int shift) {
     const Vnitrek& v = *vnitrek_;
     if (jmeno == "F1") {
         Ovladac* napoveda = form->Napoveda();

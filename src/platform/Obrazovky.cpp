@@ -84,11 +84,11 @@ void Obrazovky::Unload(Form& form) {
     Vnitrek::Vyrad(vnitrek_->Nactene, form);
 }
 
-void Obrazovky::Spust(Prubeh<> prace) {
+void Obrazovky::Spust(Cinnost<> prace) {
     vnitrek_->Prace.Spust(std::move(prace));
 }
 
-void Obrazovky::Spust(Form& form, Prubeh<> prace) {
+void Obrazovky::Spust(Form& form, Cinnost<> prace) {
     Spust(std::move(prace).Komu(form.shared_from_this()));
 }
 
@@ -163,7 +163,7 @@ void Obrazovky::Casovace(std::uint32_t ted) {
 }
 
 /// A timer whose handler waits does not fire again.
-Prubeh<> Obrazovky::Tik(DrzenyForm form, std::shared_ptr<Timer> t) {
+Cinnost<> Obrazovky::Tik(DrzenyForm form, std::shared_ptr<Timer> t) {
     struct Uvnitr {
         std::vector<const Timer*>& Kde;
         const Timer* Co;

@@ -72,9 +72,9 @@ public:
 
     /// Begins a work that waits, as the form's own, where a call that does not wait asks for it:
     /// it goes on before whatever was begun before it.
-    void Spust(Form& form, Prubeh<> prace);
+    void Spust(Form& form, Cinnost<> prace);
     /// The same for a work of nobody: only the fault of another one ends it.
-    void Spust(Prubeh<> prace);
+    void Spust(Cinnost<> prace);
     /// Whether a handler of the form waits; nac: for that.
     [[nodiscard]] bool Ceka(const Form& form, int nac = 0) const;
 
@@ -83,7 +83,7 @@ public:
     /// other input (keys, the window's close, moves, a press on a form that takes presses always)
     /// is delivered in its order when the program lets events through again. A message box that
     /// comes up inside gets its input as ever. Who closes waits once more at the end by
-    /// Cekani::SPrijmem(0): what has come since the last look belongs to the closed wait too.
+    /// Cekani::SVstupem(0): what has come since the last look belongs to the closed wait too.
     class Zavreni {
     public:
         explicit Zavreni(Obrazovky& kde);
@@ -97,7 +97,7 @@ public:
     /// Whether waits are closed.
     [[nodiscard]] bool JeZavreno() const;
     /// Delivers what closed waits have kept, one after the other.
-    Prubeh<> DorucOdlozene();
+    Cinnost<> DorucOdlozene();
 
     // Input, design pixels.
     void MysDolu(double x, double y, int tlacitko, int shift, CasStisku cas);
@@ -200,41 +200,41 @@ private:
     /// When the next timer is due; false if none runs.
     [[nodiscard]] bool PristiCasovac(std::uint32_t ted, std::uint32_t& zaMs) const;
     [[nodiscard]] Zasobnik& Prace();
-    Prubeh<> Tik(DrzenyForm form, std::shared_ptr<Timer> t);
+    Cinnost<> Tik(DrzenyForm form, std::shared_ptr<Timer> t);
     // ObrazovkyVstup.cpp
     void Prijmi(const Vstup& vstup);
     void Odloz(const Vstup& vstup);
-    Prubeh<> Doruc(const Vstup& vstup);
-    Prubeh<> DorucPoOdlozenych(Vstup vstup);
-    Prubeh<> DorucStisk(const Vstup& s);
+    Cinnost<> Doruc(const Vstup& vstup);
+    Cinnost<> DorucPoOdlozenych(Vstup vstup);
+    Cinnost<> DorucStisk(const Vstup& s);
     void DorucPohyb(const Vstup& s);
-    Prubeh<> DorucPusteni(const Vstup& s);
-    Prubeh<> Pust(const DrzenyForm& form, Ovladac* o, const Mys& m);
-    Prubeh<> Klik(const DrzenyForm& form, Ovladac* o, const Mys& m);
-    Prubeh<> PakKlik(Prubeh<> pusteni, DrzenyForm form, DrzenyOvladac o, Mys m);
-    Prubeh<> PakDvojklik(Prubeh<> stisk, DrzenyForm form, DrzenyOvladac o);
+    Cinnost<> DorucPusteni(const Vstup& s);
+    Cinnost<> Pust(const DrzenyForm& form, Ovladac* o, const Mys& m);
+    Cinnost<> Klik(const DrzenyForm& form, Ovladac* o, const Mys& m);
+    Cinnost<> PakKlik(Cinnost<> pusteni, DrzenyForm form, DrzenyOvladac o, Mys m);
+    Cinnost<> PakDvojklik(Cinnost<> stisk, DrzenyForm form, DrzenyOvladac o);
     // ObrazovkyDotyk.cpp
-    Prubeh<> DorucPrst(const Vstup& s);
-    Prubeh<> PrstSeDotkl(Bod kde, const Vstup& s);
+    Cinnost<> DorucPrst(const Vstup& s);
+    Cinnost<> PrstSeDotkl(Bod kde, const Vstup& s);
     void DorucPohybPrstu(const Vstup& s);
-    Prubeh<> PrstSeZvedl(Bod kde, const Vstup& s);
-    Prubeh<> PrstNaZvednutem(Bod kde, const Vstup& s);
+    Cinnost<> PrstSeZvedl(Bod kde, const Vstup& s);
+    Cinnost<> PrstNaZvednutem(Bod kde, const Vstup& s);
     void PresunKonec(Bod kam);
     void NechTah(Bod konec);
-    Prubeh<> DokonciTah();
+    Cinnost<> DokonciTah();
     [[nodiscard]] Bod KamKlepl(const Form& form, Bod kde) const;
     void DorucText(const Vstup& s);
     // Klavesnice.cpp
-    Prubeh<> DorucKlavesu(const Vstup& s);
-    Prubeh<> DorucPusteniKlavesy(const Vstup& s);
+    Cinnost<> DorucKlavesu(const Vstup& s);
+    Cinnost<> DorucPusteniKlavesy(const Vstup& s);
     bool PosunDrzenouMys(const Vstup& s);
     Odezva ZaDrzeni(const Vstup& s);
-    Prubeh<> KlavesaPrstenu(const DrzenyForm& form, std::string_view jmeno, int shift);
-    Prubeh<> ZmackniKlavesou(DrzenyForm form, DrzenyOvladac o, std::string jmeno);
-    Prubeh<> PustKlavesou();
-    Prubeh<> Klepni(DrzenyForm form, DrzenyOvladac o);
+    Cinnost<> KlavesaPrstenu(const DrzenyForm& form, std::string_view jmeno, int shift);
+    Cinnost<> ZmackniKlavesou(DrzenyForm form, DrzenyOvladac o, std::string jmeno);
+    Cinnost<> PustKlavesou();
+    Cinnost<> Klepni(DrzenyForm form, DrzenyOvladac o);
     void UkazPrsten();
-    Prubeh<> DorucZavreni();
+    Cinnost<> DorucZavreni();
     void DorucNavrat();
     Host& host_;
     std::unique_ptr<Vnitrek> vnitrek_;

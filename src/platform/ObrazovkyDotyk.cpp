@@ -41,7 +41,7 @@ Formular Obrazovky::Vnitrek::Zvednuty() const {
 }
 
 /// The mouse comes here too while a drag is held: it plays the finger then.
-Prubeh<> Obrazovky::DorucPrst(const Vstup& s) {
+Cinnost<> Obrazovky::DorucPrst(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     const Bod kde = NaPixel(s.X, s.Y);
     switch (s.Co) {
@@ -49,12 +49,12 @@ Prubeh<> Obrazovky::DorucPrst(const Vstup& s) {
             v.PrstZahozen = false;
             return PrstSeDotkl(kde, s);
         case Vstup::Druh::Dolu:
-            return s.Tlacitko == LEVE ? PrstSeDotkl(kde, s) : Prubeh<>();
+            return s.Tlacitko == LEVE ? PrstSeDotkl(kde, s) : Cinnost<>();
         case Vstup::Druh::PrstNahoru:
             if (!s.Odlozeny && std::exchange(v.PrstZahozen, false)) return {};
             return PrstSeZvedl(kde, s);
         case Vstup::Druh::Nahoru:
-            return s.Tlacitko == LEVE ? PrstSeZvedl(kde, s) : Prubeh<>();
+            return s.Tlacitko == LEVE ? PrstSeZvedl(kde, s) : Cinnost<>();
         default:
             DorucPohybPrstu(s);
             return {};
@@ -78,7 +78,7 @@ Bod Obrazovky::KamKlepl(const Form& form, Bod kde) const {
     return NajdiCil(kde, coTamJe).value_or(kde);
 }
 
-Prubeh<> Obrazovky::PrstSeDotkl(Bod kde, const Vstup& s) {
+Cinnost<> Obrazovky::PrstSeDotkl(Bod kde, const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     v.ZnaMys = false;
     v.PrstOd = kde;
@@ -122,7 +122,7 @@ void Obrazovky::DorucPohybPrstu(const Vstup& s) {
                 .Prst = true});
 }
 
-Prubeh<> Obrazovky::PrstSeZvedl(Bod kde, const Vstup& s) {
+Cinnost<> Obrazovky::PrstSeZvedl(Bod kde, const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     const PracePrstu prace = std::exchange(v.Prst, PracePrstu::Zadna);
     if (prace == PracePrstu::Zadna || prace == PracePrstu::Mrtva) return {};
@@ -173,7 +173,7 @@ void Obrazovky::PresunKonec(Bod kam) {
     form->MouseMove(tah.Objekt, m);
 }
 
-Prubeh<> Obrazovky::PrstNaZvednutem(Bod kde, const Vstup& s) {
+Cinnost<> Obrazovky::PrstNaZvednutem(Bod kde, const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     const ZvednutyTah& tah = *v.Zvednuty_;
     v.Prst = PracePrstu::Mrtva;
@@ -190,7 +190,7 @@ Prubeh<> Obrazovky::PrstNaZvednutem(Bod kde, const Vstup& s) {
     return {};
 }
 
-Prubeh<> Obrazovky::DokonciTah() {
+Cinnost<> Obrazovky::DokonciTah() {
     Vnitrek& v = *vnitrek_;
     const Formular form = v.Zvednuty();
     const ZvednutyTah tah = *v.Zvednuty_;

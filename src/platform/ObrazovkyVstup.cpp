@@ -184,7 +184,7 @@ void Obrazovky::Prijmi(const Vstup& vstup) {
     if (poVstupu_) poVstupu_(pred);
 }
 
-Prubeh<> Obrazovky::DorucPoOdlozenych(Vstup vstup) {
+Cinnost<> Obrazovky::DorucPoOdlozenych(Vstup vstup) {
     co_await DorucOdlozene();
     co_await Doruc(vstup);
 }
@@ -231,7 +231,7 @@ void Obrazovky::Odloz(const Vstup& vstup) {
     v.Odlozene.back().Odlozeny = true;
 }
 
-Prubeh<> Obrazovky::DorucOdlozene() {
+Cinnost<> Obrazovky::DorucOdlozene() {
     Vnitrek& v = *vnitrek_;
     while (!v.Odlozene.empty() && !JeZavreno()) {
         // Taken out first: its handler may wait, and the wait delivers the rest.
@@ -259,7 +259,7 @@ Obrazovky::Zavreni::~Zavreni() {
 
 // ---- Delivering ------------------------------------------------------------------------------
 
-Prubeh<> Obrazovky::Doruc(const Vstup& vstup) {
+Cinnost<> Obrazovky::Doruc(const Vstup& vstup) {
     switch (vstup.Co) {
         case Vstup::Druh::Dolu:
             return DorucStisk(vstup);
@@ -288,7 +288,7 @@ Prubeh<> Obrazovky::Doruc(const Vstup& vstup) {
     return {};
 }
 
-Prubeh<> Obrazovky::DorucStisk(const Vstup& s) {
+Cinnost<> Obrazovky::DorucStisk(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     if (!s.Prst && v.Zvednuty() != nullptr) return DorucPrst(s);
     v.Zahozena &= ~s.Tlacitko;
@@ -344,11 +344,11 @@ Prubeh<> Obrazovky::DorucStisk(const Vstup& s) {
             v.Psano = host_.TickCount();
         }
     }
-    Prubeh<> stisk = form->MouseDown(o, m).Komu(form);
+    Cinnost<> stisk = form->MouseDown(o, m).Komu(form);
     return dvojklik ? PakDvojklik(std::move(stisk), form, {form, o}) : std::move(stisk);
 }
 
-Prubeh<> Obrazovky::PakDvojklik(Prubeh<> stisk, DrzenyForm form, DrzenyOvladac o) {
+Cinnost<> Obrazovky::PakDvojklik(Cinnost<> stisk, DrzenyForm form, DrzenyOvladac o) {
     co_await stisk;
     if (form->Viditelny() && Dosazitelny(o.get())) form->DblClick(o.get());
 }
@@ -390,7 +390,7 @@ void Obrazovky::DorucPohyb(const Vstup& s) {
     form->MouseMove(o, Udalost(*form, o, s.X, s.Y, drzena, s.Shift));
 }
 
-Prubeh<> Obrazovky::DorucPusteni(const Vstup& s) {
+Cinnost<> Obrazovky::DorucPusteni(const Vstup& s) {
     Vnitrek& v = *vnitrek_;
     if (!s.Prst && v.Zvednuty() != nullptr) return DorucPrst(s);
     if (!s.Odlozeny && (v.Zahozena & s.Tlacitko) != 0) {
@@ -408,17 +408,17 @@ Prubeh<> Obrazovky::DorucPusteni(const Vstup& s) {
     return Pust(form, o, m);
 }
 
-Prubeh<> Obrazovky::Pust(const DrzenyForm& form, Ovladac* o, const Mys& m) {
-    Prubeh<> pusteni = form->MouseUp(o, m).Komu(form);
+Cinnost<> Obrazovky::Pust(const DrzenyForm& form, Ovladac* o, const Mys& m) {
+    Cinnost<> pusteni = form->MouseUp(o, m).Komu(form);
     return pusteni.JePrazdny() ? Klik(form, o, m) : PakKlik(std::move(pusteni), form, {form, o}, m);
 }
 
-Prubeh<> Obrazovky::PakKlik(Prubeh<> pusteni, DrzenyForm form, DrzenyOvladac o, Mys m) {
+Cinnost<> Obrazovky::PakKlik(Cinnost<> pusteni, DrzenyForm form, DrzenyOvladac o, Mys m) {
     co_await pusteni;
     co_await Klik(form, o.get(), m);
 }
 
-Prubeh<> Obrazovky::Klik(const DrzenyForm& form, Ovladac* o, const Mys& m) {
+Cinnost<> Obrazovky::Klik(const DrzenyForm& form, Ovladac* o, const Mys& m) {
     if (m.Button != LEVE || vnitrek_->Cilovy() != form || !Dosazitelny(o)) return {};
     const Obdelnik misto = o != nullptr ? Obdelnik{0, 0, o->Width, o->Height}
                                         : Obdelnik{0, 0, form->Width, form->Height};
@@ -451,7 +451,7 @@ void Obrazovky::DorucText(const Vstup& s) {
     if (PsaniTextu(host_, *t).Napis(s.Text)) form->Change(*t);
 }
 
-Prubeh<> Obrazovky::DorucZavreni() {
+Cinnost<> Obrazovky::DorucZavreni() {
     const std::vector<Formular> vse =
         JeModalni() ? std::vector{vnitrek_->Modalni.back()} : vnitrek_->Nactene;
     const bool modalne = JeModalni();

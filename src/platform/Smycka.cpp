@@ -58,7 +58,7 @@ void Smycka::Dobehni(std::size_t dno) {
     while (Hloubka() > dno) Obrat(KROK_MS, dno);
 }
 
-void Smycka::Proved(Prubeh<> prace) {
+void Smycka::Proved(Cinnost<> prace) {
     const std::size_t dno = Hloubka();
     host_.Okna().Spust(std::move(prace));
     Dobehni(dno);

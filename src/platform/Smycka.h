@@ -6,7 +6,7 @@
 #include <optional>
 #include <utility>
 
-#include "base/Prubeh.h"
+#include "base/Cinnost.h"
 
 namespace rysovna {
 
@@ -32,9 +32,9 @@ public:
     /// Turns until no more than dno are.
     void Dobehni(std::size_t dno = 0);
     /// Begins a work, turns until it is done, and gives what it gives.
-    void Proved(Prubeh<> prace);
+    void Proved(Cinnost<> prace);
     template <class T>
-    T Proved(Prubeh<T> prace) {
+    T Proved(Cinnost<T> prace) {
         std::optional<T> vysledek;
         Proved(Predej<T>(std::move(prace), [&](T v) { vysledek = std::move(v); }));
         return std::move(vysledek).value_or(T());
@@ -51,7 +51,7 @@ protected:
 private:
     bool Splatne(std::size_t dno);
     template <class T>
-    Prubeh<> Predej(Prubeh<T> prace, std::function<void(T)> kam) {
+    Cinnost<> Predej(Cinnost<T> prace, std::function<void(T)> kam) {
         kam(co_await prace);
     }
 

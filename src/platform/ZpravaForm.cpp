@@ -154,7 +154,7 @@ void ZpravaForm::Odpovez(Odpoved odpoved) {
     host_.Okna().Unload(*this);
 }
 
-Prubeh<> ZpravaForm::MouseDown(Ovladac* o, const Mys& m) {
+Cinnost<> ZpravaForm::MouseDown(Ovladac* o, const Mys& m) {
     MouseMove(o, m);
     return {};
 }
@@ -168,7 +168,7 @@ void ZpravaForm::MouseMove(Ovladac* o, const Mys& /*m*/) {
     }
 }
 
-Prubeh<> ZpravaForm::Click(Ovladac* o) {
+Cinnost<> ZpravaForm::Click(Ovladac* o) {
     for (std::size_t i = 0; i < Tlacitka.size(); ++i) {
         if (Tlacitka[i].get() != o) continue;
         Odpovez(odpovedi_[i]);
@@ -182,11 +182,11 @@ Odezva ZpravaForm::Klavesa(std::string_view klavesa, int shift) {
     const bool tabZpet = klavesa == "Tab" && (shift & 1) != 0;
     if (klavesa == "Escape") {
         Odpovez(odpovedi_.back());
-        return Prubeh<>();
+        return Cinnost<>();
     }
     if (klavesa == "Return" || klavesa == "Space") {
         Odpovez(odpovedi_[vybrane_]);
-        return Prubeh<>();
+        return Cinnost<>();
     }
     if (klavesa == "Left" || klavesa == "Up" || tabZpet) {
         vybrane_ = (vybrane_ + pocet - 1) % pocet;
@@ -197,15 +197,15 @@ Odezva ZpravaForm::Klavesa(std::string_view klavesa, int shift) {
     }
     NakresliTlacitka();
     host_.Okna().DejPrsten(*this, *Tlacitka[vybrane_]);
-    return Prubeh<>();
+    return Cinnost<>();
 }
 
-Prubeh<> ZpravaForm::QueryUnload() {
+Cinnost<> ZpravaForm::QueryUnload() {
     Odpovez(odpovedi_.back());
     return {};
 }
 
-Prubeh<Odpoved> Host::UkazZpravu(std::string text, std::string titul, Styl styl) {
+Cinnost<Odpoved> Host::UkazZpravu(std::string text, std::string titul, Styl styl) {
     const auto form = Okna().Nacti<ZpravaForm>(*this, text, titul, styl);
     Okna().NastavModalni(form);
     Cekani odpoved([form] { return form->Zavreny(); });

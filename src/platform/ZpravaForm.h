@@ -17,11 +17,11 @@ public:
     ZpravaForm(Host& host, const std::string& text, const std::string& titul, Styl styl);
 
     [[nodiscard]] std::string_view Jmeno() const override { return "ZpravaForm"; }
-    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
+    Cinnost<> MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
-    Prubeh<> Click(Ovladac* o) override;
+    Cinnost<> Click(Ovladac* o) override;
     Odezva Klavesa(std::string_view klavesa, int shift) override;
-    Prubeh<> QueryUnload() override;
+    Cinnost<> QueryUnload() override;
 
     /// What was chosen; the answer of Escape until something is.
     [[nodiscard]] Odpoved Vysledek() const { return vysledek_; }

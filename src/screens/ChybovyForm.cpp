@@ -46,7 +46,7 @@ void ChybovyForm::Load() {
     while (!Text1.VejdeSe() && Text1.Font.Velikost > NEJMENSI_PISMO) Text1.Font.Velikost -= 1;
 }
 
-Prubeh<> ChybovyForm::MouseDown(Ovladac*, const Mys&) {
+Cinnost<> ChybovyForm::MouseDown(Ovladac*, const Mys&) {
     s_.Okna().Unload(*this);
     return {};
 }
@@ -54,7 +54,7 @@ Prubeh<> ChybovyForm::MouseDown(Ovladac*, const Mys&) {
 Odezva ChybovyForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     if (klavesa != "Escape" && klavesa != "Return" && klavesa != "Space") return std::nullopt;
     s_.Okna().Unload(*this);
-    return Prubeh<>();
+    return Cinnost<>();
 }
 
 }  // namespace rysovna

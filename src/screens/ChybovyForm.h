@@ -20,7 +20,7 @@ public:
 
     void Load() override;
     /// A press on the list closes it: only a release that got lost leaves it standing so long.
-    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
+    Cinnost<> MouseDown(Ovladac* o, const Mys& m) override;
     Odezva Klavesa(std::string_view klavesa, int shift) override;
 };
 

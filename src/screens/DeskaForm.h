@@ -86,10 +86,10 @@ public:
     void Load() override;
     void Unload() override;
     void Activate() override;
-    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
+    Cinnost<> MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
-    Prubeh<> MouseUp(Ovladac* o, const Mys& m) override;
-    Prubeh<> Click(Ovladac* o) override;
+    Cinnost<> MouseUp(Ovladac* o, const Mys& m) override;
+    Cinnost<> Click(Ovladac* o) override;
     void Change(TextBox& t) override;
     Odezva Klavesa(std::string_view klavesa, int shift) override;
     bool KlavesaNa(Ovladac& o, std::string_view klavesa, int shift) override;
@@ -130,15 +130,15 @@ private:
     void NactiObrazky();
     // DeskaUdalosti.cpp: events
     void StiskNastroje(const PictureBox& tlacitko, const Mys& m);
-    Prubeh<> VyberRadku(int i);
+    Cinnost<> VyberRadku(int i);
     void SkryjSeznam();
     void UkazTah(const Gumicka& g, const Mys& m);
     void SchovejTah();
     void SkryjTah();
-    Prubeh<> PustPlochu(Mys m);
+    Cinnost<> PustPlochu(Mys m);
     void StiskSipky(int i);
-    Prubeh<> StiskMaleSipky();
-    Prubeh<> VratPanel();
+    Cinnost<> StiskMaleSipky();
+    Cinnost<> VratPanel();
     void ZhasniHorni();
     void ZhasniSipky();
     void UkazOdecet(const Gumicka& g, const Mys& m);
@@ -154,9 +154,9 @@ private:
     void SlozPanel();
     void PolozPanel(int odsunuti);
     void PolozKlidnyPanel();
-    Prubeh<> PosunPanel(bool ven);
-    Prubeh<> ZasunPanel();
-    Prubeh<> VysunPanel();
+    Cinnost<> PosunPanel(bool ven);
+    Cinnost<> ZasunPanel();
+    Cinnost<> VysunPanel();
     // DeskaRada.cpp: the guide line
     void RozlozRadu();
     void ObnovRadu();
@@ -164,14 +164,14 @@ private:
     [[nodiscard]] int MrtvyNastrojPod(const Mys& m) const;
     void UkazatelNad(const Ovladac* o);
     // DeskaSerie.cpp: check, verdict, series
-    Prubeh<> Zkontroluj();
-    Prubeh<> NovyPriklad();
+    Cinnost<> Zkontroluj();
+    Cinnost<> NovyPriklad();
     void NoveZadani();
-    Prubeh<> Pokracuj();
-    Prubeh<> UkonciSerii();
-    Prubeh<> Oznam(std::shared_ptr<Form> drzeny, std::string zprava);
-    Prubeh<> UkazTabulku();
-    Prubeh<> Zpet();
+    Cinnost<> Pokracuj();
+    Cinnost<> UkonciSerii();
+    Cinnost<> Oznam(std::shared_ptr<Form> drzeny, std::string zprava);
+    Cinnost<> UkazTabulku();
+    Cinnost<> Zpet();
     void UkazChyby();
     void SkryjChyby();
 

@@ -126,9 +126,9 @@ Odezva DeskaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     if (klavesa == "Escape" && Combo.Visible) {
         SkryjSeznam();
         Prsten(cmd[static_cast<std::size_t>(nastroj_ - 1)]);
-        return Prubeh<>();
+        return Cinnost<>();
     }
-    if (klavesa == "Return") return EnterVPoli() ? Odezva(Prubeh<>()) : std::nullopt;
+    if (klavesa == "Return") return EnterVPoli() ? Odezva(Cinnost<>()) : std::nullopt;
     if (!JeZnak(klavesa) || klavesa[0] < '1' || klavesa[0] > '9') return std::nullopt;
     const auto i = static_cast<std::size_t>(klavesa[0] - '1');
     Obrazovky& okna = s_.Okna();
@@ -141,7 +141,7 @@ Odezva DeskaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
         const Mys vedle{1, 0, static_cast<float>(cmd[i].Left), static_cast<float>(cmd[i].Top)};
         if (!stisk) stisk = MouseDown(nullptr, vedle);
     }
-    return stisk ? std::move(stisk) : Prubeh<>();
+    return stisk ? std::move(stisk) : Cinnost<>();
 }
 
 /// From a box for a value on to the next one, then to the button that confirms, else to the plane.

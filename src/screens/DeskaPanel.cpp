@@ -167,7 +167,7 @@ void DeskaForm::PolozKlidnyPanel() {
 
 /// Slides the panel out or in by frames, with no event let through until the last one: what is
 /// pressed meanwhile was meant for the panel.
-Prubeh<> DeskaForm::PosunPanel(bool ven) {
+Cinnost<> DeskaForm::PosunPanel(bool ven) {
     const Obrazovky::Zavreni zavreni(s_.Okna());
     const std::uint32_t zacatek = s_.Stroj.TickCount();
     for (int k = 0; k < SNIMKU; ++k) {
@@ -175,12 +175,12 @@ Prubeh<> DeskaForm::PosunPanel(bool ven) {
         s_.Stroj.Prekresli();
         const std::uint32_t konec = zacatek + static_cast<std::uint32_t>(k + 1) * DOBA_SNIMKU;
         const std::uint32_t ted = s_.Stroj.TickCount();
-        co_await Cekani::SPrijmem(ted < konec ? konec - ted : 0);
+        co_await Cekani::SVstupem(ted < konec ? konec - ted : 0);
     }
-    co_await Cekani::SPrijmem(0);
+    co_await Cekani::SVstupem(0);
 }
 
-Prubeh<> DeskaForm::ZasunPanel() {
+Cinnost<> DeskaForm::ZasunPanel() {
     if (Image1.Tag == "0") co_return;
     SlozPanel();
     SamplePic.Visible = Image1.Visible = false;
@@ -193,7 +193,7 @@ Prubeh<> DeskaForm::ZasunPanel() {
     co_await Cekani(20);
 }
 
-Prubeh<> DeskaForm::VysunPanel() {
+Cinnost<> DeskaForm::VysunPanel() {
     if (Image1.Tag == "1") co_return;
     SlozPanel();
     SamplePic.Visible = Image1.Visible = false;

@@ -25,7 +25,7 @@ constexpr std::uint32_t PO_NAVRATU = 100;
 
 }  // namespace
 
-Prubeh<> DeskaForm::Zkontroluj() {
+Cinnost<> DeskaForm::Zkontroluj() {
     if (cekaNaZadani_) co_return;  // there is nothing to judge yet
     PicTop[0].Picture = kontrolovano_;
     for (std::size_t i = 0; i < 3; ++i) PicTop[i].Enabled = false;
@@ -53,7 +53,7 @@ Prubeh<> DeskaForm::Zkontroluj() {
                    [this, priklad] { return zbyvaPrikladu_ == priklad; });
 }
 
-Prubeh<> DeskaForm::Pokracuj() {
+Cinnost<> DeskaForm::Pokracuj() {
     --zbyvaPrikladu_;
     if (zbyvaPrikladu_ > 0) {
         picPokracuj.Enabled = false;
@@ -61,10 +61,10 @@ Prubeh<> DeskaForm::Pokracuj() {
         for (PictureBox& s : picSipka) s.Enabled = true;
         return NovyPriklad();
     }
-    return zbyvaPrikladu_ == 0 ? UkonciSerii() : Prubeh<>();
+    return zbyvaPrikladu_ == 0 ? UkonciSerii() : Cinnost<>();
 }
 
-Prubeh<> DeskaForm::NovyPriklad() {
+Cinnost<> DeskaForm::NovyPriklad() {
     if (cekaNaZadani_) co_return;
     cekaNaZadani_ = true;
     for (std::size_t i = 0; i < PicTop.size(); ++i) PicTop[i].Enabled = true;
@@ -90,7 +90,7 @@ void DeskaForm::NoveZadani() {
     Ukaz();
 }
 
-Prubeh<> DeskaForm::UkonciSerii() {
+Cinnost<> DeskaForm::UkonciSerii() {
     Host& stroj = s_.Stroj;
     Obrazovky& okna = stroj.Okna();
     const Vysledek vysledek{
@@ -108,7 +108,7 @@ Prubeh<> DeskaForm::UkonciSerii() {
     {
         const Obrazovky::Zavreni zavreni(okna);
         zprava = co_await s_.Vysledky().Uloz(vysledek);
-        co_await Cekani::SPrijmem(0);
+        co_await Cekani::SVstupem(0);
     }
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
     const auto tabulka = okna.Nacti<TabulkaForm>(s_);
@@ -123,12 +123,12 @@ Prubeh<> DeskaForm::UkonciSerii() {
 }
 
 /// Keys that came while the lock was waited for are not for the message.
-Prubeh<> DeskaForm::Oznam(std::shared_ptr<Form> /*drzeny*/, std::string zprava) {
+Cinnost<> DeskaForm::Oznam(std::shared_ptr<Form> /*drzeny*/, std::string zprava) {
     co_await s_.Okna().DorucOdlozene();
     co_await s_.Stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
 }
 
-Prubeh<> DeskaForm::UkazTabulku() {
+Cinnost<> DeskaForm::UkazTabulku() {
     Obrazovky& okna = s_.Okna();
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
     const auto tabulka = okna.Nacti<TabulkaForm>(s_);
@@ -140,7 +140,7 @@ Prubeh<> DeskaForm::UkazTabulku() {
     s_.AktivniForm = tabulka;
 }
 
-Prubeh<> DeskaForm::Zpet() {
+Cinnost<> DeskaForm::Zpet() {
     Obrazovky& okna = s_.Okna();
     if (const auto tabulka = okna.Najdi("TabulkaForm")) okna.Unload(*tabulka);
     if (const auto setup = okna.Najdi("SetupForm")) {

@@ -45,7 +45,7 @@ bool DeskaForm::JeUprostred() const {
     return Ceka(PO_VOLBE) || Ceka(PO_PUSTENI) || s_.Okna().JeZavreno();
 }
 
-Prubeh<> DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
+Cinnost<> DeskaForm::MouseDown(Ovladac* o, const Mys& m) {
     if (o == nullptr) {
         SkryjSeznam();
         videne_.MrtvyNastroj = MrtvyNastrojPod(m);
@@ -126,14 +126,14 @@ void DeskaForm::MouseMove(Ovladac* o, const Mys& m) {
     }
 }
 
-Prubeh<> DeskaForm::MouseUp(Ovladac* o, const Mys& m) {
+Cinnost<> DeskaForm::MouseUp(Ovladac* o, const Mys& m) {
     if (o == &ImgHodnoceni) SkryjChyby();
     if (o != &Pic) return {};
     kriz_ = VRozsahu(kriz_);  // the next press is on the plane again
-    return m.Button == LEVE ? PustPlochu(m) : Prubeh<>();
+    return m.Button == LEVE ? PustPlochu(m) : Cinnost<>();
 }
 
-Prubeh<> DeskaForm::Click(Ovladac* o) {
+Cinnost<> DeskaForm::Click(Ovladac* o) {
     if (o == &INadpis) {
         ZvukStisku(s_);
         UkazNapovedu(s_, "Bitmap\\Help\\" + DveCislice(s_.CisloUlohy) + ".bmp", *this);
@@ -167,13 +167,13 @@ void DeskaForm::Napis(int ktery, const TextBox& box) {
     ObnovRadu();
 }
 
-Prubeh<> DeskaForm::StiskMaleSipky() {
+Cinnost<> DeskaForm::StiskMaleSipky() {
     ZvukStisku(s_);
     SkryjSeznam();
     return VysunPanel();
 }
 
-Prubeh<> DeskaForm::VratPanel() {
+Cinnost<> DeskaForm::VratPanel() {
     co_await StiskMaleSipky();
     Prsten(Image1);
 }
@@ -189,7 +189,7 @@ void DeskaForm::StiskNastroje(const PictureBox& tlacitko, const Mys& m) {
     UkazSeznamKlavesam();
 }
 
-Prubeh<> DeskaForm::VyberRadku(int i) {
+Cinnost<> DeskaForm::VyberRadku(int i) {
     ZvukStisku(s_);
     const Seznam seznam = dialog_->UkazPanel().Combo;
     Combo.Visible = false;
@@ -249,7 +249,7 @@ void DeskaForm::SkryjTah() {
     ObnovRadu();
 }
 
-Prubeh<> DeskaForm::PustPlochu(Mys m) {
+Cinnost<> DeskaForm::PustPlochu(Mys m) {
     SchovejTah();
     if (Ceka(PO_PUSTENI)) co_return;
     if (!dialog_->CekaNaKresleni()) {

@@ -12,7 +12,7 @@ void HelpForm::Load() {
     Caption = "Rysovna 1";
 }
 
-Prubeh<> HelpForm::Click(Ovladac*) {
+Cinnost<> HelpForm::Click(Ovladac*) {
     ZvukStisku(s_);
     VratSeK(s_, Vlastnik, *this);
     return {};

@@ -20,7 +20,7 @@ public:
     std::weak_ptr<Form> Vlastnik;
 
     void Load() override;
-    Prubeh<> Click(Ovladac* o) override;
+    Cinnost<> Click(Ovladac* o) override;
     Odezva Klavesa(std::string_view klavesa, int shift) override;
 };
 

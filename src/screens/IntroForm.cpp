@@ -36,14 +36,14 @@ void IntroForm::Load() {
     s_.AktivniForm = weak_from_this();
 }
 
-Prubeh<> IntroForm::MouseDown(Ovladac*, const Mys&) {
+Cinnost<> IntroForm::MouseDown(Ovladac*, const Mys&) {
     Preskoc();
     return {};
 }
 
 Odezva IntroForm::Klavesa(std::string_view, int) {
     Preskoc();
-    return Prubeh<>();
+    return Cinnost<>();
 }
 
 void IntroForm::Preskoc() {
@@ -51,12 +51,12 @@ void IntroForm::Preskoc() {
     preskoceno_ = true;
 }
 
-Prubeh<> IntroForm::TimerTick(Timer& t) {
+Cinnost<> IntroForm::TimerTick(Timer& t) {
     t.Enabled = false;
     return DoMenu();
 }
 
-Prubeh<> IntroForm::DoMenu() {
+Cinnost<> IntroForm::DoMenu() {
     const auto zbyva = static_cast<std::int32_t>(termin_ - s_.Stroj.TickCount());
     Cekani titul([this] { return preskoceno_; }, static_cast<std::uint32_t>(std::max(zbyva, 0)));
     co_await titul;

@@ -21,13 +21,13 @@ public:
     static void Prednacti(const Sezeni& s);
 
     void Load() override;
-    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
+    Cinnost<> MouseDown(Ovladac* o, const Mys& m) override;
     Odezva Klavesa(std::string_view klavesa, int shift) override;
-    Prubeh<> TimerTick(Timer& t) override;
+    Cinnost<> TimerTick(Timer& t) override;
 
 private:
     void Preskoc();
-    Prubeh<> DoMenu();
+    Cinnost<> DoMenu();
 
     std::uint32_t termin_ = 0;  ///< tick count at which the title ends, ms
     bool preskoceno_ = false;

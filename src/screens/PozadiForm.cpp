@@ -15,7 +15,7 @@ void PozadiForm::Activate() {
     if (!s_.Okna().Ceka(*this)) s_.Okna().Spust(*this, Pockej());
 }
 
-Prubeh<> PozadiForm::Pockej() {
+Cinnost<> PozadiForm::Pockej() {
     co_await Cekani(100);
 }
 

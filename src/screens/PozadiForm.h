@@ -14,7 +14,7 @@ public:
     void Activate() override;
 
 private:
-    Prubeh<> Pockej();
+    Cinnost<> Pockej();
 };
 
 /// Loads and shows it.

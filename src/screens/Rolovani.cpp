@@ -2,7 +2,7 @@
 
 namespace rysovna {
 
-Prubeh<> FormHry::Roluj(std::shared_ptr<PictureBox> kam, std::function<bool()> dal) {
+Cinnost<> FormHry::Roluj(std::shared_ptr<PictureBox> kam, std::function<bool()> dal) {
     constexpr std::uint32_t BUNKA_MS = 20;
     const PictureClip& pas = Menu(s_).PicClip;
     for (int i = 0; i < pas.Cols; ++i) {

@@ -45,7 +45,7 @@ SelectForm::SelectForm(Sezeni& s) : FormHry(s) {
     for (Image& ri : RI) ri.Zastavka = 4;
 }
 
-Prubeh<> SelectForm::Start() {
+Cinnost<> SelectForm::Start() {
     const std::string chybi = NactiKonfiguraci(s_);
     if (!chybi.empty()) {
         co_await s_.Stroj.MsgBox(chybi, "Chyba", Styl::Stop);
@@ -93,7 +93,7 @@ void SelectForm::Unload() {
     MouseMove(nullptr, {.Button = 1, .Shift = 0, .X = 1, .Y = 1});
 }
 
-Prubeh<> SelectForm::MouseDown(Ovladac* o, const Mys&) {
+Cinnost<> SelectForm::MouseDown(Ovladac* o, const Mys&) {
     if (Je(LI, o)) {
         ZvolRodinu(static_cast<std::size_t>(o->Index) - 1);
     } else if (Je(RI, o)) {
@@ -107,7 +107,7 @@ Prubeh<> SelectForm::MouseDown(Ovladac* o, const Mys&) {
 
 /// Asks, and on Yes restores the screen mode and ends the program. Closing the window asks too,
 /// whatever screen is in front. While another message box stands, nothing is asked.
-Prubeh<> SelectForm::ZeptejSeNaKonec() {
+Cinnost<> SelectForm::ZeptejSeNaKonec() {
     if (s_.Okna().JeModalni()) co_return;
     const Odpoved odpoved = co_await s_.Stroj.MsgBox("Opravdu chcete ukončit tento program?",
                                                      "Ukončení aplikace", Styl::OtazkaAnoNe);
@@ -186,7 +186,7 @@ void SelectForm::MouseMove(Ovladac* o, const Mys&) {
     }
 }
 
-Prubeh<> SelectForm::Click(Ovladac* o) {
+Cinnost<> SelectForm::Click(Ovladac* o) {
     if (o != &Image1) return {};
     ZvukStisku(s_);
     UkazNapovedu(s_, "Bitmap\\Help\\credits.bmp", *this);
@@ -203,7 +203,7 @@ Ovladac* SelectForm::PrvniZastavka() {
     return zvolena != LI.end() ? &*zvolena : &LI.front();
 }
 
-Prubeh<> SelectForm::QueryUnload() {
+Cinnost<> SelectForm::QueryUnload() {
     return ZeptejSeNaKonec();
 }
 

@@ -27,18 +27,18 @@ public:
 
     /// The start-up: the configuration, what waits to be stored, the switch of the screen, the
     /// title.
-    Prubeh<> Start();
+    Cinnost<> Start();
     void Unload() override;
-    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
+    Cinnost<> MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
-    Prubeh<> Click(Ovladac* o) override;
+    Cinnost<> Click(Ovladac* o) override;
     Odezva Klavesa(std::string_view klavesa, int shift) override;
     [[nodiscard]] Ovladac* PrvniZastavka() override;
     [[nodiscard]] Ovladac* Napoveda() override { return &Image1; }
-    Prubeh<> QueryUnload() override;
+    Cinnost<> QueryUnload() override;
 
 private:
-    Prubeh<> ZeptejSeNaKonec();
+    Cinnost<> ZeptejSeNaKonec();
     void NactiObrazky();
     void ZvolRodinu(std::size_t i);
     void ZvolUlohu(std::size_t j);

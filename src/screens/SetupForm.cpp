@@ -94,7 +94,7 @@ void SetupForm::Activate() {
 }
 
 /// Name and digit there: the continue button rolls in, once; one of them gone: it hides.
-Prubeh<> SetupForm::Kontrola() {
+Cinnost<> SetupForm::Kontrola() {
     UkazCoDal();
     const bool uplne = !TJmeno.Text.empty() && std::ranges::any_of(ICislo, Zvoleny);
     if (!uplne) {
@@ -115,14 +115,14 @@ void SetupForm::Change(TextBox& /*t*/) {
     s_.Okna().Spust(*this, Kontrola());
 }
 
-Prubeh<> SetupForm::MouseDown(Ovladac* o, const Mys&) {
+Cinnost<> SetupForm::MouseDown(Ovladac* o, const Mys&) {
     if (Je(ICislo, o)) return ZvolPocet(static_cast<std::size_t>(o->Index) - 1);
     if (o == &picPokracuj) return SpustDesku();
     if (o == &picKonec) ZpetDoMenu();
     return {};
 }
 
-Prubeh<> SetupForm::ZvolPocet(std::size_t k) {
+Cinnost<> SetupForm::ZvolPocet(std::size_t k) {
     ZvukStisku(s_);
     OdzvolVse(ICislo, cislice_);
     ICislo[k].Tag = "1";
@@ -135,7 +135,7 @@ Prubeh<> SetupForm::ZvolPocet(std::size_t k) {
 
 /// A number that is no task starts nothing. The board is the active screen from the moment it
 /// shows: a press on it during the wait may already lead on to another screen.
-Prubeh<> SetupForm::SpustDesku() {
+Cinnost<> SetupForm::SpustDesku() {
     ZvukStisku(s_);
     s_.JmenoHrace = BezKrajnichMezer(TJmeno.Text);
     const std::shared_ptr<Form> deska = s_.VyrobDesku(s_.CisloUlohy);
@@ -172,7 +172,7 @@ void SetupForm::MouseMove(Ovladac* o, const Mys&) {
     }
 }
 
-Prubeh<> SetupForm::Click(Ovladac* o) {
+Cinnost<> SetupForm::Click(Ovladac* o) {
     if (o != &Image1) return {};
     ZvukStisku(s_);
     UkazNapovedu(s_, "Bitmap\\Help\\setup.bmp", *this);
@@ -193,8 +193,8 @@ Odezva SetupForm::Enter() {
     return DalEnterem(false);
 }
 
-Prubeh<> SetupForm::ZvolEnterem(std::size_t k) {
-    Prubeh<> stisk = s_.Okna().StiskniZastavku(*this, ICislo[k]).value_or(Prubeh<>());
+Cinnost<> SetupForm::ZvolEnterem(std::size_t k) {
+    Cinnost<> stisk = s_.Okna().StiskniZastavku(*this, ICislo[k]).value_or(Cinnost<>());
     co_await stisk;
     // The waits in it may have led on from here.
     if (s_.Okna().Vpredu().get() != this || MistoPrstenu(*this) != &ICislo[k]) co_return;
@@ -202,7 +202,7 @@ Prubeh<> SetupForm::ZvolEnterem(std::size_t k) {
 }
 
 /// novy: the digit was chosen just now.
-Prubeh<> SetupForm::DalEnterem(bool novy) {
+Cinnost<> SetupForm::DalEnterem(bool novy) {
     Obrazovky& okna = s_.Okna();
     if (TJmeno.Text.empty()) {
         okna.DejPrsten(*this, TJmeno);
@@ -221,13 +221,13 @@ Odezva SetupForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     const std::size_t cislice =
         klavesa.size() == 1 ? std::string_view("12345").find(klavesa) : std::string_view::npos;
     if (cislice != std::string_view::npos) {
-        return okna.StiskniZastavku(*this, ICislo[cislice]).value_or(Prubeh<>());
+        return okna.StiskniZastavku(*this, ICislo[cislice]).value_or(Cinnost<>());
     }
     if (klavesa == "Return") return Enter();
     // With a name there, one key by mistake must not throw it away.
     if (klavesa != "Escape" || !TJmeno.Text.empty()) return std::nullopt;
     ZpetDoMenu();
-    return Prubeh<>();
+    return Cinnost<>();
 }
 
 }  // namespace rysovna

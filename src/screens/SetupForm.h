@@ -26,22 +26,22 @@ public:
 
     void Load() override;
     void Activate() override;
-    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
+    Cinnost<> MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
-    Prubeh<> Click(Ovladac* o) override;
+    Cinnost<> Click(Ovladac* o) override;
     void Change(TextBox& t) override;
     Odezva Klavesa(std::string_view klavesa, int shift) override;
     [[nodiscard]] Ovladac* PrvniZastavka() override { return &TJmeno; }
     [[nodiscard]] Ovladac* Napoveda() override { return &Image1; }
 
 private:
-    Prubeh<> Kontrola();
+    Cinnost<> Kontrola();
     void UkazCoDal();
-    Prubeh<> ZvolPocet(std::size_t k);
+    Cinnost<> ZvolPocet(std::size_t k);
     Odezva Enter();
-    Prubeh<> ZvolEnterem(std::size_t k);
-    Prubeh<> DalEnterem(bool novy);
-    Prubeh<> SpustDesku();
+    Cinnost<> ZvolEnterem(std::size_t k);
+    Cinnost<> DalEnterem(bool novy);
+    Cinnost<> SpustDesku();
     void ZpetDoMenu();
 
     Hover hover_{s_};  ///< 1 to 5 ICislo, 12 Image1, 20 picKonec

@@ -58,7 +58,7 @@ protected:
     /// of the form. The caller sets what says that the button is up before. Stops touching the box
     /// when dal (asked after each cell) says no: a handler that ran during the waits may have taken
     /// the button back.
-    Prubeh<> Roluj(std::shared_ptr<PictureBox> kam, std::function<bool()> dal);
+    Cinnost<> Roluj(std::shared_ptr<PictureBox> kam, std::function<bool()> dal);
 
     Sezeni& s_;
 };

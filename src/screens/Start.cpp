@@ -103,7 +103,7 @@ std::string NactiKonfiguraci(Sezeni& s) {
     return {};
 }
 
-Prubeh<Odpoved> PrepniObrazovku(Sezeni& s) {
+Cinnost<Odpoved> PrepniObrazovku(Sezeni& s) {
     Host& stroj = s.Stroj;
     const RezimObrazovky puvodni = stroj.GetDeviceCaps();
     s.PuvodniSirka = puvodni.Sirka;
@@ -113,7 +113,7 @@ Prubeh<Odpoved> PrepniObrazovku(Sezeni& s) {
     return stroj.MsgBox(NELZE_PREPNOUT, "Upozornění", Styl::Ok);
 }
 
-Prubeh<Odpoved> ObnovObrazovku(Sezeni& s) {
+Cinnost<Odpoved> ObnovObrazovku(Sezeni& s) {
     Host& stroj = s.Stroj;
     if (stroj.ChangeDisplaySettings({s.PuvodniSirka, s.PuvodniVyska, s.PuvodniBarvy}) == 0)
         return {};

@@ -19,8 +19,8 @@ void Zacni(Sezeni& s);
 
 /// Remembers the screen mode and switches to 640 by 480 by 16 bits. A screen that cannot be
 /// switched gets a warning, and the program goes on in a window.
-Prubeh<Odpoved> PrepniObrazovku(Sezeni& s);
+Cinnost<Odpoved> PrepniObrazovku(Sezeni& s);
 /// Switches back to the mode that PrepniObrazovku remembered; warns if that fails.
-Prubeh<Odpoved> ObnovObrazovku(Sezeni& s);
+Cinnost<Odpoved> ObnovObrazovku(Sezeni& s);
 
 }  // namespace rysovna

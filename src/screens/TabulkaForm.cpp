@@ -158,7 +158,7 @@ void TabulkaForm::NactiTabulku() {
     }
 }
 
-Prubeh<> TabulkaForm::MouseDown(Ovladac* o, const Mys&) {
+Cinnost<> TabulkaForm::MouseDown(Ovladac* o, const Mys&) {
     if (o == &picKonec) Zpet();
     return {};
 }
@@ -176,7 +176,7 @@ void TabulkaForm::MouseMove(Ovladac* o, const Mys&) {
     }
 }
 
-Prubeh<> TabulkaForm::Click(Ovladac* o) {
+Cinnost<> TabulkaForm::Click(Ovladac* o) {
     if (o != &INadpis) return {};
     ZvukStisku(s_);
     UkazNapovedu(s_, "Bitmap\\Help\\tab.bmp", *this);
@@ -186,7 +186,7 @@ Prubeh<> TabulkaForm::Click(Ovladac* o) {
 Odezva TabulkaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     if (klavesa != "Escape") return std::nullopt;
     Zpet();
-    return Prubeh<>();
+    return Cinnost<>();
 }
 
 }  // namespace rysovna

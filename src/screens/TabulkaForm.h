@@ -41,9 +41,9 @@ public:
     [[nodiscard]] const std::vector<ZaznamTabulky>& Zaznamy() const { return zaznamy_; }
 
     void Load() override;
-    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override;
+    Cinnost<> MouseDown(Ovladac* o, const Mys& m) override;
     void MouseMove(Ovladac* o, const Mys& m) override;
-    Prubeh<> Click(Ovladac* o) override;
+    Cinnost<> Click(Ovladac* o) override;
     Odezva Klavesa(std::string_view klavesa, int shift) override;
     [[nodiscard]] Ovladac* PrvniZastavka() override { return &picKonec; }
     [[nodiscard]] Ovladac* Napoveda() override { return &INadpis; }

@@ -69,7 +69,7 @@ Ukladani::Ukladani(Disk& disk, std::function<std::uint32_t()> ted, const fs::pat
       koren_(disk.Jednoznacna(koren)),
       slozkaStavu_(std::move(slozkaStavu)) {}
 
-Prubeh<Ukladani::Ulozeni> Ukladani::Uloz(Vysledek vysledek) {
+Cinnost<Ukladani::Ulozeni> Ukladani::Uloz(Vysledek vysledek) {
     // No fault of any kind may end the game over a result, one of the memory included.
     try {
         cekaji_.push_back({.Koren = koren_.string(), .Co = vysledek});
@@ -79,7 +79,7 @@ Prubeh<Ukladani::Ulozeni> Ukladani::Uloz(Vysledek vysledek) {
     }
 }
 
-Prubeh<std::string> Ukladani::ZkusCekajici() {
+Cinnost<std::string> Ukladani::ZkusCekajici() {
     try {
         if (cekaji_.empty() && PocetCekajicich(disk_, slozkaStavu_) == 0) co_return {};
         const Ulozeni zprava = co_await Zapis();
@@ -97,16 +97,16 @@ std::vector<ZaznamTabulky> Ukladani::Nezapsane(int cisloUlohy) const {
     return zaznamy;
 }
 
-Prubeh<> Ukladani::PockejNaZamek(std::shared_ptr<Soubor> soubor, fs::path cesta) {
+Cinnost<> Ukladani::PockejNaZamek(std::shared_ptr<Soubor> soubor, fs::path cesta) {
     constexpr std::uint32_t KROK_CEKANI = 20;  // ms
     while (!soubor->Zamkni()) {
         if (ted_() - od_ + KROK_CEKANI > NEJDELE_NA_ZAMEK)
             throw ChybaDisku(Pricina::Zamceno, cesta);
-        co_await Cekani::SPrijmem(KROK_CEKANI);
+        co_await Cekani::SVstupem(KROK_CEKANI);
     }
 }
 
-Prubeh<Ukladani::Ulozeni> Ukladani::Zapis() {
+Cinnost<Ukladani::Ulozeni> Ukladani::Zapis() {
     od_ = ted_();
     Rozvrh rozvrh = co_await Rozvrhni();
     Fronta* const fronta = rozvrh.Fronta ? &*rozvrh.Fronta : nullptr;
@@ -164,7 +164,7 @@ void Ukladani::Neuspel(CekajiciVysledek v, const std::string& proc, Fronta* fron
 /// Puts what is in memory alone into the queue and takes over all that is there. Where another
 /// program of the account is at work in the queue for too long, its entries are left to that one;
 /// what could not be put there is written all the same.
-Prubeh<Ukladani::Rozvrh> Ukladani::Rozvrhni() {
+Cinnost<Ukladani::Rozvrh> Ukladani::Rozvrhni() {
     Rozvrh rozvrh;
     std::vector<fs::path> nove;
     bezFronty_.clear();

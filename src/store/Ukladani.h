@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Cinnost.h"
 #include "base/Disk.h"
-#include "base/Prubeh.h"
 #include "store/Fronta.h"
 #include "store/TabulkaVysledku.h"
 #include "store/Vysledek.h"
@@ -46,9 +46,9 @@ public:
              std::filesystem::path slozkaStavu);
 
     /// Stores a result, and whatever waits. Never throws.
-    [[nodiscard]] Prubeh<Ulozeni> Uloz(Vysledek vysledek);
+    [[nodiscard]] Cinnost<Ulozeni> Uloz(Vysledek vysledek);
     /// Stores whatever waits, at the start of the program.
-    [[nodiscard]] Prubeh<std::string> ZkusCekajici();
+    [[nodiscard]] Cinnost<std::string> ZkusCekajici();
 
     /// Rows of this task's table that are not in its file yet, as texts for showing; the latest
     /// last.
@@ -65,11 +65,11 @@ private:
         std::string Proc{};                       ///< why the latter
     };
 
-    [[nodiscard]] Prubeh<Ulozeni> Zapis();
-    [[nodiscard]] Prubeh<Rozvrh> Rozvrhni();
+    [[nodiscard]] Cinnost<Ulozeni> Zapis();
+    [[nodiscard]] Cinnost<Rozvrh> Rozvrhni();
     /// Asks once at least. ChybaDisku (Zamceno, that names the file) if another program keeps the
     /// lock for too long.
-    Prubeh<> PockejNaZamek(std::shared_ptr<Soubor> soubor, std::filesystem::path cesta);
+    Cinnost<> PockejNaZamek(std::shared_ptr<Soubor> soubor, std::filesystem::path cesta);
     void Zarad(Rozvrh& rozvrh, std::vector<std::filesystem::path>& nove);
     void Prevezmi(Rozvrh& rozvrh);
     void Stahni(Rozvrh& rozvrh, const std::vector<std::filesystem::path>& nove);

@@ -19,13 +19,13 @@ protected:
         std::string& Zapis;
         ~Drzene() { Zapis += "-"; }
     };
-    Prubeh<int> Secti(int a, int b) {
+    Cinnost<int> Secti(int a, int b) {
         const Drzene drzene{Zapis};
         co_await Cekani(10);
         if (b < 0) throw std::runtime_error("chyba");
         co_return a + b;
     }
-    Prubeh<> Uvnitr(int b, std::shared_ptr<Pan> pan) {
+    Cinnost<> Uvnitr(int b, std::shared_ptr<Pan> pan) {
         const Drzene drzene{Zapis};
         int soucet = 0;
         try {
@@ -37,15 +37,15 @@ protected:
         Zapis += std::to_string(soucet);
         if (b == -2) throw std::logic_error("chyba");
     }
-    Prubeh<> Dokud() {
+    Cinnost<> Dokud() {
         co_await Cekani([this] { return Uz; }, 1000);
         Zapis += "uz";
         co_await Cekani(0);
-        co_await Cekani::SPrijmem(0);
+        co_await Cekani::SVstupem(0);
         Zapis += "prijem";
     }
     /// The loop.
-    void Bez(std::uint32_t ms) {
+    void Cekej(std::uint32_t ms) {
         for (const std::uint32_t konec = Ted + ms; Ted != konec; ++Ted)
             while (Zasobnik_.Pokracuj() != Zasobnik::Krok::Nic) {
             }
@@ -74,12 +74,12 @@ TEST_F(ZasobnikTest, PraceVPraciDavajiHodnotyChybyAKonciSMajitelem) {
         Konec = false;
         const auto pan = std::make_shared<Pan>();
         Zasobnik_.Spust(Uvnitr(p.B, pan));
-        Bez(5);
+        Cekej(5);
         EXPECT_EQ(Zapis, "");
         EXPECT_TRUE(Zasobnik_.Ceka(*pan));
         pan->Pryc = p.Pryc;
         Konec = p.Konec;
-        Bez(100);
+        Cekej(100);
         EXPECT_EQ(Zapis, p.Zapis);
         EXPECT_EQ(Zasobnik_.Hloubka(), 0U);
         EXPECT_EQ(pan.use_count(), 1);
@@ -88,7 +88,7 @@ TEST_F(ZasobnikTest, PraceVPraciDavajiHodnotyChybyAKonciSMajitelem) {
 
 TEST_F(ZasobnikTest, CekaniMaPodminkuAKonec) {
     Zasobnik_.Spust(Dokud());
-    Bez(500);
+    Cekej(500);
     EXPECT_EQ(Zasobnik_.Zbyva(), 500U);
     Uz = true;
     EXPECT_EQ(Zasobnik_.Pokracuj(1), Zasobnik::Krok::Nic) << "below the floor";
@@ -101,7 +101,7 @@ TEST_F(ZasobnikTest, CekaniMaPodminkuAKonec) {
     Zapis.clear();
     Zasobnik_.Spust(Uvnitr(1, nullptr));
     Zasobnik_.Spust(Uvnitr(-2, nullptr));
-    EXPECT_THROW(Bez(50), std::logic_error);
+    EXPECT_THROW(Cekej(50), std::logic_error);
     EXPECT_EQ(Zapis, "-!0-");
     EXPECT_EQ(Zasobnik_.Hloubka(), 1U);
     Zasobnik_.Zrus();

@@ -32,17 +32,17 @@ public:
         Hodiny.Enabled = deje_.contains('T');
         zacatek_ = host_.TickCount();
     }
-    Prubeh<> MouseDown(Ovladac* o, const Mys& /*m*/) override {
-        return o != nullptr ? Proved(static_cast<char>('A' + o->Index - 1)) : Prubeh<>();
+    Cinnost<> MouseDown(Ovladac* o, const Mys& /*m*/) override {
+        return o != nullptr ? Proved(static_cast<char>('A' + o->Index - 1)) : Cinnost<>();
     }
-    Prubeh<> TimerTick(Timer& /*t*/) override { return Proved('T'); }
+    Cinnost<> TimerTick(Timer& /*t*/) override { return Proved('T'); }
 
     std::array<PictureBox, 4> cmd;
     Timer Hodiny;
 
 private:
     void Zapis(char kdo) { zapis_ += kdo + std::to_string(host_.TickCount() - zacatek_) + " "; }
-    Prubeh<> Proved(char kdo) {
+    Cinnost<> Proved(char kdo) {
         struct Drzene {
             char Kdo;
             std::string& Zapis;
@@ -64,12 +64,12 @@ private:
             }
         }
     }
-    Prubeh<> Pockej(std::string jak) {
+    Cinnost<> Pockej(std::string jak) {
         if (jak == "box") {
             co_await host_.MsgBox("Text", "Titul", Styl::OtazkaAnoNe);
         } else if (jak[0] == 'z') {
             const Obrazovky::Zavreni zavreni(host_.Okna());
-            co_await Cekani::SPrijmem(static_cast<std::uint32_t>(std::stoi(jak.substr(1))));
+            co_await Cekani::SVstupem(static_cast<std::uint32_t>(std::stoi(jak.substr(1))));
         } else {
             co_await Cekani(static_cast<std::uint32_t>(std::stoi(jak)));
         }

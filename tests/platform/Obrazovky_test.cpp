@@ -65,7 +65,7 @@ TEST_F(ObrazovkyTest, StiskDrziUkazatelAzDoPusteni) {
 TEST_F(ObrazovkyTest, ZmizelyObjektNedostaneNicANikdoJiny) {
     Form_->PriStisku = [&] {
         Form_->cmd[0].Visible = false;
-        return Prubeh<>();
+        return Cinnost<>();
     };
     Okna().MysDolu(410, 105, 1, 0);
     Okna().MysPohyb(150, 100, 1, 0);
@@ -97,7 +97,7 @@ TEST_F(ObrazovkyTest, DvojklikJeDvaStiskyAJednoNavic) {
     Okna().Show(*nahore);
     nahore->PriStisku = [&] {
         Okna().Hide(*nahore);
-        return Prubeh<>();
+        return Cinnost<>();
     };
     for (int i = 0; i < 2; ++i) Host_.Stiskni(410, 105);
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Activate"});
@@ -244,7 +244,7 @@ TEST_F(ObrazovkyTest, ActivateDostaneTenKdoPrijdeDoPopredi) {
 TEST_F(ObrazovkyTest, CasovaceJdouPodleHodin) {
     Form_->Hodiny.Interval = 1000;
     Form_->Hodiny.Enabled = true;
-    Host_.Bez(2500);
+    Host_.Cekej(2500);
     EXPECT_EQ(Form_->Vezmi(), (Seznam_t{"Tick 1000", "Tick 2000"}));
     // A handler that waits longer than the interval is not entered again.
     Form_->PriTiku = [&] {
@@ -252,7 +252,7 @@ TEST_F(ObrazovkyTest, CasovaceJdouPodleHodin) {
         return Cekej(2500);
     };
     Form_->Hodiny.Enabled = true;
-    Host_.Bez(6000);
+    Host_.Cekej(6000);
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Tick 3000"});
 }
 
@@ -267,7 +267,7 @@ TEST_F(ObrazovkyTest, FormularOdstranenyPriCekaniNicNedrzi) {
         form.reset();
         const auto pryc = [this, f] {
             Okna().Unload(*f);
-            return Prubeh<>();
+            return Cinnost<>();
         };
         f->PriStisku = [&, f] {
             f->PriStisku = f->PriTiku = pryc;
@@ -307,7 +307,7 @@ TEST_F(ObrazovkyTest, ModalniFormularMaVsechnoSam) {
     Okna().Text("x");
     Okna().Klavesa("Return", 0);
     Okna().ZadostOZavreni();
-    Host_.Bez(50);
+    Host_.Cekej(50);
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{});
     EXPECT_EQ(modalni->Vezmi(), (Seznam_t{"Down Pic 50,100", "Up Pic 50,100", "Click Pic",
                                           "Klavesa Return", "QueryUnload"}));

@@ -44,14 +44,14 @@ protected:
     }
 
     // What handlers that wait give back.
-    Prubeh<> Cekej(std::uint32_t ms) { co_await Cekani(ms); }
-    Prubeh<> Zeptej(std::string text, Odpoved ceka) {
+    Cinnost<> Cekej(std::uint32_t ms) { co_await Cekani(ms); }
+    Cinnost<> Zeptej(std::string text, Odpoved ceka) {
         EXPECT_EQ(co_await Host_.MsgBox(text, "Konec", Styl::OtazkaAnoNe), ceka);
     }
-    Prubeh<> Zavrene(int kolikrat, std::uint32_t ms) {
+    Cinnost<> Zavrene(int kolikrat, std::uint32_t ms) {
         const Obrazovky::Zavreni zavreni(Okna());
-        for (int i = 0; i < kolikrat; ++i) co_await Cekani::SPrijmem(ms);
-        co_await Cekani::SPrijmem(0);
+        for (int i = 0; i < kolikrat; ++i) co_await Cekani::SVstupem(ms);
+        co_await Cekani::SVstupem(0);
     }
 
     std::vector<std::string> Docasne_;
@@ -73,16 +73,16 @@ public:
         PridejPole(cmd, "cmd", {400, 100, 50, 20});
         cmd[1].Top = 140;
     }
-    Prubeh<> MouseDown(Ovladac* o, const Mys& m) override {
+    Cinnost<> MouseDown(Ovladac* o, const Mys& m) override {
         Zapis("Down", o, &m);
-        return PriStisku ? PriStisku() : Prubeh<>();
+        return PriStisku ? PriStisku() : Cinnost<>();
     }
     void MouseMove(Ovladac* o, const Mys& m) override { Zapis("Move", o, &m); }
-    Prubeh<> MouseUp(Ovladac* o, const Mys& m) override {
+    Cinnost<> MouseUp(Ovladac* o, const Mys& m) override {
         Zapis("Up", o, &m);
         return {};
     }
-    Prubeh<> Click(Ovladac* o) override {
+    Cinnost<> Click(Ovladac* o) override {
         Zapis("Click", o);
         return {};
     }
@@ -92,18 +92,18 @@ public:
         Udalosti.push_back("Activate");
         if (PriAktivaci) PriAktivaci();
     }
-    Prubeh<> QueryUnload() override {
+    Cinnost<> QueryUnload() override {
         Udalosti.push_back("QueryUnload");
         return {};
     }
-    Prubeh<> TimerTick(Timer& /*t*/) override {
+    Cinnost<> TimerTick(Timer& /*t*/) override {
         Udalosti.push_back("Tick " + std::to_string(host_.TickCount()));
-        return PriTiku ? PriTiku() : Prubeh<>();
+        return PriTiku ? PriTiku() : Cinnost<>();
     }
     Odezva Klavesa(std::string_view k, int /*shift*/) override {
         if (!BereKlavesy) return std::nullopt;
         Udalosti.push_back("Klavesa " + std::string(k));
-        return Prubeh<>();
+        return Cinnost<>();
     }
 
     /// What was written down since the last call.
@@ -117,7 +117,7 @@ public:
     Timer Hodiny;
     std::array<PictureBox, 2> cmd;
     std::vector<std::string> Udalosti;
-    std::function<Prubeh<>()> PriStisku, PriTiku;
+    std::function<Cinnost<>()> PriStisku, PriTiku;
     std::function<void()> PriAktivaci;
 
 private:

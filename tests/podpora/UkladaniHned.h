@@ -30,11 +30,11 @@ public:
 
 private:
     template <class T>
-    Prubeh<> Predej(Prubeh<T> prace, std::function<void(T)> kam) {
+    Cinnost<> Predej(Cinnost<T> prace, std::function<void(T)> kam) {
         kam(co_await prace);
     }
     template <class T>
-    T Hned(Prubeh<T> prace) {
+    T Hned(Cinnost<T> prace) {
         Zasobnik zasobnik(hodiny_.Ted, [] { return false; });
         std::optional<T> vysledek;
         zasobnik.Spust(Predej<T>(std::move(prace), [&](T v) { vysledek = std::move(v); }));

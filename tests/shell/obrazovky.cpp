@@ -208,7 +208,7 @@ class ZkusebniDeska final : public FormHry {
 public:
     explicit ZkusebniDeska(Sezeni& s) : FormHry(s) { Pridej(PicTop, "PicTop", {546, 5, 91, 75}); }
     [[nodiscard]] std::string_view Jmeno() const override { return "ZkusebniDeska"; }
-    Prubeh<> MouseDown(Ovladac* o, const Mys&) override {
+    Cinnost<> MouseDown(Ovladac* o, const Mys&) override {
         if (o == &PicTop) VratSeK(s_, s_.Okna().Najdi("SetupForm"), *this);
         return {};
     }

@@ -224,7 +224,7 @@ void Relace::Klavesa(std::string_view klavesa, int shift) {
 }
 
 void Relace::Cekej(std::uint32_t ms) {
-    host_.Bez(ms);
+    host_.Cekej(ms);
     Po("cekej " + std::to_string(ms));
 }
 

@@ -47,7 +47,7 @@ void HeadlessHost::Vyckej(std::uint32_t nejvyseMs) {
     if (modalne_ > NEJDELE_MODALNE) Selhani("Zprávu nikdo nezavřel");
 }
 
-void HeadlessHost::Bez(std::uint32_t ms) {
+void HeadlessHost::Cekej(std::uint32_t ms) {
     const std::size_t dno = Hloubka();
     const std::uint32_t konec = cas_ + ms;
     const auto zbyva = [&] { return static_cast<std::int32_t>(konec - cas_); };
@@ -60,7 +60,7 @@ void HeadlessHost::Prekresli() {
     if (PriPrekresleni) PriPrekresleni();
 }
 
-Prubeh<Odpoved> HeadlessHost::MsgBox(std::string text, std::string titul, Styl styl) {
+Cinnost<Odpoved> HeadlessHost::MsgBox(std::string text, std::string titul, Styl styl) {
     Odpoved odpoved = styl == Styl::OtazkaAnoNe ? Odpoved::Ne : Odpoved::Ok;
     const std::size_t ktera = Zpravy.size();
     Zpravy.push_back({text, titul, styl, odpoved});

@@ -40,7 +40,7 @@ public:
     [[nodiscard]] std::uint32_t TickCount() override { return cas_; }
     /// Paints nothing: counts, and calls PriPrekresleni.
     void Prekresli() override;
-    Prubeh<Odpoved> MsgBox(std::string text, std::string titul, Styl styl) override;
+    Cinnost<Odpoved> MsgBox(std::string text, std::string titul, Styl styl) override;
     void SndPlaySound(std::string_view cesta) override;
     [[nodiscard]] RezimObrazovky GetDeviceCaps() override { return Rezim; }
     /// Records the mode; when VysledekRezimu is 0 it becomes the present one.
@@ -60,7 +60,7 @@ public:
 
     /// Lets the program run for so many milliseconds, and on until all that began meanwhile is
     /// done.
-    void Bez(std::uint32_t ms);
+    void Cekej(std::uint32_t ms);
     /// Moves the clock alone: nothing happens meanwhile, what falls due comes with the next turn.
     void PosunHodiny(std::uint32_t ms) { cas_ += ms; }
     /// Does something (mostly an input call of Okna()) when the clock has reached cas (tick count)

@@ -286,7 +286,7 @@ void SdlHost::Prekresli() {
     vnitrek_->Okno_.Prekresli(Okna(), TickCount());
 }
 
-Prubeh<Odpoved> SdlHost::MsgBox(std::string text, std::string titul, Styl styl) {
+Cinnost<Odpoved> SdlHost::MsgBox(std::string text, std::string titul, Styl styl) {
     Okno& okno = vnitrek_->Okno_;
     if (!MamePisma() || (!okno.Otevrene() && !okno.Otevri(false)) || !okno.MaPlochu())
         co_return SystemovaZprava(text, titul, styl);

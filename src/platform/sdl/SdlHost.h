@@ -26,7 +26,7 @@ public:
 
     [[nodiscard]] std::uint32_t TickCount() override;
     void Prekresli() override;
-    Prubeh<Odpoved> MsgBox(std::string text, std::string titul, Styl styl) override;
+    Cinnost<Odpoved> MsgBox(std::string text, std::string titul, Styl styl) override;
     void SndPlaySound(std::string_view cesta) override;
     [[nodiscard]] RezimObrazovky GetDeviceCaps() override;
     /// 640 by 480 fills the screen, the first time; any other mode, and any later call, puts the

@@ -89,17 +89,17 @@ public:
         Maximised = true;
         Pridej(Pole, "Pole", {10, 10, 100, 20});
     }
-    Prubeh<> MouseDown(Ovladac* /*o*/, const Mys& /*m*/) override {
+    Cinnost<> MouseDown(Ovladac* /*o*/, const Mys& /*m*/) override {
         ++Stisku;
         return {};
     }
-    Prubeh<> Click(Ovladac* /*o*/) override {
+    Cinnost<> Click(Ovladac* /*o*/) override {
         ++Kliku;
         return {};
     }
     Odezva Klavesa(std::string_view klavesa, int /*shift*/) override {
         Klavesy += std::string(klavesa) + ' ';
-        return Prubeh<>();
+        return Cinnost<>();
     }
     TextBox Pole;
     int Stisku = 0, Kliku = 0;
@@ -119,12 +119,12 @@ protected:
     }
 
     /// Presses, keys and a text at the beginning, another press at the end.
-    Prubeh<> Zavrene() {
+    Cinnost<> Zavrene() {
         const Obrazovky::Zavreni zavreni(Host_.Okna());
         Davka({Tlacitko(true), Tlacitko(false), Klavesa(SDLK_RETURN), Psano("x")});
-        for (int i = 0; i < 5; ++i) co_await Cekani::SPrijmem(40);
+        for (int i = 0; i < 5; ++i) co_await Cekani::SVstupem(40);
         Davka({Tlacitko(true)});
-        co_await Cekani::SPrijmem(0);
+        co_await Cekani::SVstupem(0);
     }
 
     SdlHost Host_{1};

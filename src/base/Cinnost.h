@@ -17,7 +17,7 @@ class Cekani;
 class Vlakno;
 class Zasobnik;
 template <class T = void>
-class Prubeh;
+class Cinnost;
 
 /// Whose work it is: what has no owner left is ended at its next wait.
 class Majitel {
@@ -51,7 +51,7 @@ constexpr bool JSOU_HODNOTY<A&, B...> = std::is_base_of_v<SmiCekat, std::remove_
                                         (JE_HODNOTA<B> && ...);
 
 /// What is common to all works: who runs it, and the fault that ended it.
-struct PrislibPrubehu {
+struct PrislibCinnosti {
     [[nodiscard]] std::suspend_always initial_suspend() const noexcept { return {}; }
     [[nodiscard]] std::suspend_always final_suspend() const noexcept { return {}; }
     void unhandled_exception() noexcept { Chyba = std::current_exception(); }
@@ -61,12 +61,12 @@ struct PrislibPrubehu {
 };
 
 template <class T>
-struct PrislibHodnoty : PrislibPrubehu {
+struct PrislibHodnoty : PrislibCinnosti {
     void return_value(T hodnota) { Hodnota.emplace(std::move(hodnota)); }
     std::optional<T> Hodnota;
 };
 template <>
-struct PrislibHodnoty<void> : PrislibPrubehu {
+struct PrislibHodnoty<void> : PrislibCinnosti {
     void return_void() const noexcept {}
 };
 
@@ -74,29 +74,29 @@ struct PrislibHodnoty<void> : PrislibPrubehu {
 /// it is awaited by another one, or handed to a Zasobnik; it owns its frame and ends with it. An
 /// empty one is nothing to be done. Its arguments are values, see JSOU_HODNOTY.
 template <class T>
-class [[nodiscard]] Prubeh {
+class [[nodiscard]] Cinnost {
 public:
     struct Prislib : PrislibHodnoty<T> {
-        Prubeh get_return_object() { return Prubeh(Ramec::from_promise(*this)); }
+        Cinnost get_return_object() { return Cinnost(Ramec::from_promise(*this)); }
     };
 
-    Prubeh() = default;
-    Prubeh(Prubeh&& jiny) noexcept
+    Cinnost() = default;
+    Cinnost(Cinnost&& jiny) noexcept
         : komu_(std::move(jiny.komu_)), ramec_(std::exchange(jiny.ramec_, nullptr)) {}
-    Prubeh& operator=(Prubeh&& jiny) noexcept {
+    Cinnost& operator=(Cinnost&& jiny) noexcept {
         std::swap(komu_, jiny.komu_);
         std::swap(ramec_, jiny.ramec_);
         return *this;
     }
-    Prubeh(const Prubeh&) = delete;
-    Prubeh& operator=(const Prubeh&) = delete;
-    ~Prubeh() {
+    Cinnost(const Cinnost&) = delete;
+    Cinnost& operator=(const Cinnost&) = delete;
+    ~Cinnost() {
         // The owner outlives what it owns.
         if (ramec_) ramec_.destroy();
     }
 
     /// The same work as somebody's: held by it, and ended with it.
-    [[nodiscard]] Prubeh Komu(std::shared_ptr<const Majitel> komu) && {
+    [[nodiscard]] Cinnost Komu(std::shared_ptr<const Majitel> komu) && {
         komu_ = std::move(komu);
         return std::move(*this);
     }
@@ -122,7 +122,7 @@ public:
 private:
     friend class Zasobnik;
     using Ramec = std::coroutine_handle<Prislib>;
-    explicit Prubeh(Ramec ramec) : ramec_(ramec) {}
+    explicit Cinnost(Ramec ramec) : ramec_(ramec) {}
 
     std::shared_ptr<const Majitel> komu_;
     Ramec ramec_ = nullptr;
@@ -144,12 +144,12 @@ private:
         std::coroutine_handle<> Co;
         const Majitel* Komu = nullptr;
     };
-    Vlakno(Zasobnik& kde, Prubeh<void> prace);
-    void Bez();
+    Vlakno(Zasobnik& kde, Cinnost<void> prace);
+    void Jdi();
     void UkonciOsirele(bool konec);
 
     Zasobnik& kde_;
-    std::unique_ptr<Prubeh<void>> prace_;
+    std::unique_ptr<Cinnost<void>> prace_;
     std::vector<Ramec> ramce_;  ///< the innermost one last
     Cekani* ceka_ = nullptr;
 };
@@ -164,7 +164,7 @@ public:
     explicit Cekani(std::function<bool()> dokud, std::optional<std::uint32_t> ms = {})
         : ms_(ms), dokud_(std::move(dokud)) {}
     /// So many milliseconds, in which at least what has come by now is taken in, were they none.
-    [[nodiscard]] static Cekani SPrijmem(std::uint32_t ms) {
+    [[nodiscard]] static Cekani SVstupem(std::uint32_t ms) {
         Cekani cekani(ms);
         cekani.vzdy_ = true;
         return cekani;
@@ -190,8 +190,8 @@ private:
 }  // namespace rysovna
 
 template <class T, class... A>
-struct std::coroutine_traits<rysovna::Prubeh<T>, A...> {
+struct std::coroutine_traits<rysovna::Cinnost<T>, A...> {
     static_assert(rysovna::JSOU_HODNOTY<A...>,
                   "arguments of a work that waits are values, and it is no lambda");
-    using promise_type = typename rysovna::Prubeh<T>::Prislib;
+    using promise_type = typename rysovna::Cinnost<T>::Prislib;
 };
