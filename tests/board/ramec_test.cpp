@@ -5,6 +5,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 
+#include "base/Chyba.h"
 #include "engine/Tabulky.h"
 #include "hrac/RukaNaDesce.h"
 #include "podpora/Rysovac.h"
@@ -145,13 +146,13 @@ TEST_F(RamecDesky, NapovedaATabulkaSeVraciKRozdelanePraciZpetJiZahodi) {
 // ---- Waits -----------------------------------------------------------------------------------
 
 /// A press that waits, and when in its wait something else is pressed.
-struct Cekani {
+struct CekaniDesky {
     const char* Co;
     std::vector<std::uint32_t> Kdy;  ///< ms from the press
     std::function<void(Rysovac&)> Priprav, Stisk;
 };
 
-TEST_F(RamecDesky, CoSeStiskneBehemCekaniNeublizi) {
+std::vector<CekaniDesky> VsechnaCekani() {
     const auto vyber = [](const char* kroky, int nastroj, const char* radek) {
         return [=](Rysovac& r) { r.Zacni().Rysuj(kroky).Kdo.Nastroj(nastroj).Vyber(radek); };
     };
@@ -160,7 +161,7 @@ TEST_F(RamecDesky, CoSeStiskneBehemCekaniNeublizi) {
     const auto stiskni = [](const char* jmeno, int i) {
         return [=](Rysovac& r) { r.Kdo.Stiskni(jmeno, i); };
     };
-    const Cekani cekani[] = {
+    return {
         {"line", {20}, [](Rysovac& r) { r.Zacni().Kdo.Nastroj(1); }, stiskni("ComboLabel", 1)},
         {"side", {4}, vyber("", 1, "AB"), tahni},
         {"circle", {50}, vyber("AB", 4, "kružnice k, střed v bodě A"), tahni},
@@ -177,9 +178,12 @@ TEST_F(RamecDesky, CoSeStiskneBehemCekaniNeublizi) {
          [](Rysovac& r) { r.Hra.Host().NaplanujZa(200, [&r] { r.Kdo.Stiskni("picPokracuj"); }); },
          stiskni("PicTop", 1)},
     };
+}
+
+TEST_F(RamecDesky, CoSeStiskneBehemCekaniNeublizi) {
     const std::pair<const char*, int> stisky[] = {
         {"PicTop", 4}, {"PicTop", 1}, {"PicTop", 2}, {"PicTop", 3}, {"INadpis", 0}};
-    for (const Cekani& c : cekani) {
+    for (const CekaniDesky& c : VsechnaCekani()) {
         for (const std::uint32_t kdy : c.Kdy) {
             for (const auto& [jmeno, index] : stisky) {
                 SCOPED_TRACE(std::string(c.Co) + ", after " + std::to_string(kdy) + " ms " + jmeno +
@@ -209,6 +213,46 @@ TEST_F(RamecDesky, CoSeStiskneBehemCekaniNeublizi) {
                           0);
                 r.Zacni().Rysuj("vse");
                 EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 3);
+            }
+        }
+    }
+}
+
+/// Unloaded, at the end of the process, or by a fault of something else: what waits is ended, and
+/// nothing holds the board.
+TEST_F(RamecDesky, CekaniSkonciSDeskouSProgramemISChybou) {
+    enum class Jak { Odstranena, Konec, Chyba };
+    for (const CekaniDesky& c : VsechnaCekani()) {
+        for (const std::uint32_t kdy : c.Kdy) {
+            for (const Jak jak : {Jak::Odstranena, Jak::Konec, Jak::Chyba}) {
+                SCOPED_TRACE(std::string(c.Co) + ", after " + std::to_string(kdy) + " ms, " +
+                             std::to_string(static_cast<int>(jak)));
+                Rysovac r(SSS, 1, 2);
+                c.Priprav(r);
+                HeadlessHost& host = r.Hra.Host();
+                const std::weak_ptr<Form> deska = host.Okna().Najdi("Troj1Form");
+                std::size_t cekalo = 0;
+                host.NaplanujZa(kdy, [&] {
+                    cekalo = host.Hloubka();
+                    if (jak == Jak::Chyba) Selhani("chyba");
+                    if (jak == Jak::Konec) host.Okna().Konec();
+                    const auto drz = deska.lock();
+                    if (jak == Jak::Odstranena && drz) host.Okna().Unload(*drz);
+                });
+                const auto hraj = [&] {
+                    c.Stisk(r);
+                    r.Hra.Cekej(3000);
+                };
+                if (jak == Jak::Chyba) {
+                    EXPECT_THROW(hraj(), BehovaChyba);
+                } else {
+                    hraj();
+                }
+                EXPECT_GT(cekalo, 0U) << "nothing waited";
+                EXPECT_EQ(host.Hloubka(), 0U);
+                EXPECT_FALSE(host.Okna().JeZavreno());
+                host.Okna().UnloadVse();
+                EXPECT_TRUE(deska.expired());
             }
         }
     }
