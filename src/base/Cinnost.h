@@ -100,7 +100,7 @@ public:
         komu_ = std::move(komu);
         return std::move(*this);
     }
-    [[nodiscard]] bool JePrazdny() const { return !ramec_; }
+    [[nodiscard]] bool JePrazdna() const { return !ramec_; }
 
     // co_await: runs it to its end first. One that was ended before gives T().
     [[nodiscard]] bool await_ready() const noexcept { return !ramec_; }

@@ -53,7 +53,7 @@ bool Zasobnik::Uplynulo(const Cekani& cekani) const {
 }
 
 void Zasobnik::Spust(Cinnost<> prace) {
-    if (prace.JePrazdny()) return;
+    if (prace.JePrazdna()) return;
     auto nove = std::unique_ptr<Vlakno>(new Vlakno(*this, std::move(prace)));
     Vlakno& v = *nove;
     vlakna_.push_back(std::move(nove));

@@ -410,7 +410,7 @@ Cinnost<> Obrazovky::DorucPusteni(const Vstup& s) {
 
 Cinnost<> Obrazovky::Pust(const DrzenyForm& form, Ovladac* o, const Mys& m) {
     Cinnost<> pusteni = form->MouseUp(o, m).Komu(form);
-    return pusteni.JePrazdny() ? Klik(form, o, m) : PakKlik(std::move(pusteni), form, {form, o}, m);
+    return pusteni.JePrazdna() ? Klik(form, o, m) : PakKlik(std::move(pusteni), form, {form, o}, m);
 }
 
 Cinnost<> Obrazovky::PakKlik(Cinnost<> pusteni, DrzenyForm form, DrzenyOvladac o, Mys m) {

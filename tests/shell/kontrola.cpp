@@ -57,7 +57,9 @@ TEST_F(KontrolaHodiny, VseVPoradkuAKazdaVadaSvymJmenem) {
     EXPECT_EQ(std::ranges::count(vypis.str(), '\n'), 12);
 
     // Another folder of assets, the same files but for a few.
-    const fs::path spravne = NativniCesta(CtiCesty(host.Disk(), host.SlozkaSystemu, host.SlozkaDat()).CD), nase = Cesta("../assets");
+    const fs::path spravne =
+                       NativniCesta(CtiCesty(host.Disk(), host.SlozkaSystemu, host.SlozkaDat()).CD),
+                   nase = Cesta("../assets");
     for (const auto& soubor : fs::recursive_directory_iterator(spravne)) {
         const fs::path sem = nase / fs::relative(soubor, spravne);
         fs::create_directories(sem.parent_path());
