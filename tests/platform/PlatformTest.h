@@ -75,7 +75,7 @@ public:
     }
     Cinnost<> MouseDown(Ovladac* o, const Mys& m) override {
         Zapis("Down", o, &m);
-        return PriStisku ? PriStisku() : Cinnost<>();
+        return Zavolej(PriStisku);
     }
     void MouseMove(Ovladac* o, const Mys& m) override { Zapis("Move", o, &m); }
     Cinnost<> MouseUp(Ovladac* o, const Mys& m) override {
@@ -98,7 +98,7 @@ public:
     }
     Cinnost<> TimerTick(Timer& /*t*/) override {
         Udalosti.push_back("Tick " + std::to_string(host_.TickCount()));
-        return PriTiku ? PriTiku() : Cinnost<>();
+        return Zavolej(PriTiku);
     }
     Odezva Klavesa(std::string_view k, int /*shift*/) override {
         if (!BereKlavesy) return std::nullopt;
@@ -121,6 +121,8 @@ public:
     std::function<void()> PriAktivaci;
 
 private:
+    /// A copy is run: what it does may put another one in its place.
+    static Cinnost<> Zavolej(std::function<Cinnost<>()> co) { return co ? co() : Cinnost<>(); }
     Host& host_;
     void Zapis(const char* co, const Ovladac* o, const Mys* m = nullptr) {
         const auto cislo = [](double x) { return std::to_string(static_cast<int>(x)); };
