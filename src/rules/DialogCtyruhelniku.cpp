@@ -32,8 +32,6 @@ constexpr ChybaKroku CHYBA_TROJUHELNIK = 133, CHYBA_VETA = 101;
 
 constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhelník!";
 
-constexpr int NASTROJ_TROJUHELNIK = 1, NASTROJ_VETA = 2;
-
 }  // namespace
 
 DialogCtyruhelniku::DialogCtyruhelniku(Misc& misc, Platna platna,
@@ -67,33 +65,33 @@ void DialogCtyruhelniku::Prekresli() {
 // ---- Tools and lists -------------------------------------------------------------------------
 
 /// The theorem and the confirmation go on with the step that the triangle began.
-bool DialogCtyruhelniku::ZacinaKrok(int i) const {
-    return stav_.Faze > 1 || i == NASTROJ_TROJUHELNIK;
+bool DialogCtyruhelniku::ZacinaKrok(Nastroj co) const {
+    return stav_.Faze > 1 || co == Nastroj::Trojuhelnik;
 }
 
-void DialogCtyruhelniku::Nabidni(int i) {
-    if (stav_.Faze > 1) return NabidniDalsi(i);
+void DialogCtyruhelniku::Nabidni(Nastroj co) {
+    if (stav_.Faze > 1) return NabidniDalsi(co);
     std::vector<RadekSeznamu> radky;
-    if (i == NASTROJ_TROJUHELNIK) {
+    if (co == Nastroj::Trojuhelnik) {
         stav_.ZvolenyUtvar = TROJUHELNIK;
         for (const VetaTrojuhelniku& v : pravidla_.Vety) {
             const std::string t(v.Trojuhelnik);
             if (v.Veta == "sss") radky.push_back({t, true, true, t});
         }
-        OtevriSeznam(Seznam::UZKY, std::move(radky));
-    } else if (i == NASTROJ_VETA) {
+        OtevriSeznam(Seznam::Obsah::Jmena, std::move(radky));
+    } else if (co == Nastroj::Veta) {
         stav_.ZvolenyUtvar = PODLE_VETY;
         for (const RadekVety& r : RADKY_VET) {
             radky.push_back({std::string(r.Text), true, true, std::string(r.Veta)});
         }
-        OtevriSeznam(Seznam::STREDNI, std::move(radky));
+        OtevriSeznam(Seznam::Obsah::Slova, std::move(radky));
     } else {
         PotvrdHodnoty();
     }
 }
 
 void DialogCtyruhelniku::ZvolRadek(std::size_t i) {
-    const std::string& kod = stav_.Combo.Radky[i].Tag;
+    const std::string& kod = stav_.Vyber.Radky[i].Jmena;
     if (stav_.ZvolenyUtvar == TROJUHELNIK) return ZvolTrojuhelnik(kod);
     if (stav_.ZvolenyUtvar == PODLE_VETY) return ZvolVetu(kod);
     ZvolDalsi(i);
@@ -245,26 +243,23 @@ void DialogCtyruhelniku::UkazFazi(Panel& p) const {
     p.Nesestrojen = stav_.Nesestrojen;
     if (stav_.Faze > 1) return UkazDalsi(p);
     const VetaTrojuhelniku* veta = ZvolenaVetaRadek();
-    p.lblText1 = "Nejprve zvol trojúhelník, kterým začneš konstrukci.";
+    p.Vyzva = "Nejprve zvol trojúhelník, kterým začneš konstrukci.";
     const bool zvolen = !stav_.ZvolenyTrojuhelnik.empty();
-    UkazNastroje(p, {10, 13, 0, 0, 12, 14},
+    using enum Nastroj;
+    UkazNastroje(p, {Trojuhelnik, Veta, Zadny, Zadny, Zpet, Sestroj},
                  {MuzeZacit(), zvolen, false, false, zvolen, veta != nullptr});
     if (veta == nullptr) {
-        if (zvolen) {
-            p.lblText2 = "trojúhelník " + stav_.ZvolenyTrojuhelnik;
-        }
+        if (zvolen) p.Nadpis = "trojúhelník " + stav_.ZvolenyTrojuhelnik;
         return;
     }
-    p.lblText2 = "Délky úseček a velikosti úhlů:";
+    p.Nadpis = "Délky úseček a velikosti úhlů:";
     for (std::size_t i = 0; i < stav_.Vstupy.size(); ++i) {
         const bool uhel = i == 2 && veta->Veta == "sus";
-        p.Vstupy.push_back(
+        p.Veliciny.push_back(
             {(uhel ? "vel. úhlu " : "délka strany ") + std::string(veta->Vstupy[i].Popis) + " = ",
              {stav_.Vstupy[i], true, !stav_.Skontrolovano},
              uhel ? "°" : " cm"});
     }
-    p.txtVstup = p.Vstupy[0].Box;
-    p.lblText4 = {p.Vstupy[0].Jednotka, true, false, 0, false};
 }
 
 }  // namespace rysovna

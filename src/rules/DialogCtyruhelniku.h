@@ -44,17 +44,17 @@ public:
 
 protected:
     /// A tool was pressed after the triangle; opens its list.
-    virtual void NabidniDalsi(int i) = 0;
+    virtual void NabidniDalsi(Nastroj co) = 0;
     /// Line i, from 0, of such a list was chosen; the list is closed by now.
     virtual void ZvolDalsi(std::size_t i) = 0;
     /// Whether the step of this phase is what the data expect.
     [[nodiscard]] virtual bool PrvekSpravny(int faze) const = 0;
-    /// Prompts and faces after the triangle.
+    /// Prompts and tools after the triangle.
     virtual void UkazDalsi(Panel& panel) const = 0;
 
     [[nodiscard]] StavCtyruhelniku& Upravit() override { return stav_; }
-    [[nodiscard]] bool ZacinaKrok(int i) const override;
-    void Nabidni(int i) override;
+    [[nodiscard]] bool ZacinaKrok(Nastroj co) const override;
+    void Nabidni(Nastroj co) override;
     void ZvolRadek(std::size_t i) override;
     /// In the first phase, before the triangle is drawn, takes the choice of it back: triangle,
     /// theorem and typed values. What was charged, and the row of what was chosen, stay.

@@ -74,27 +74,28 @@ bool DialogCtyruhelnikuVrchol::VylosujHodnoty(const Priklad& p, HodnotyPrikladu&
 // ---- Lists -----------------------------------------------------------------------------------
 
 /// A kind of object: its list, and what becomes of a chosen line.
-struct DialogCtyruhelnikuVrchol::Nastroj {
+struct DialogCtyruhelnikuVrchol::RadekNastroje {
+    Nastroj Co;
     std::string_view Druh;
     std::vector<RadekSeznamu> (DialogCtyruhelnikuVrchol::*Radky)() const;
     void (DialogCtyruhelnikuVrchol::*Zvol)(const std::string& kod);
 };
 
-/// In the order of the buttons.
-std::span<const DialogCtyruhelnikuVrchol::Nastroj> DialogCtyruhelnikuVrchol::Nastroje() {
+std::span<const DialogCtyruhelnikuVrchol::RadekNastroje> DialogCtyruhelnikuVrchol::Nastroje() {
     using D = DialogCtyruhelnikuVrchol;
-    static constexpr Nastroj NASTROJE[] = {{POLOPRIMKA, &D::Paprsky, &D::ZvolPaprsek},
-                                           {KOLMICE, &D::Primky, &D::ZvolKolmici},
-                                           {ROVNOBEZKA, &D::Primky, &D::ZvolRovnobezku},
-                                           {KRUZNICE, &D::Kruznice, &D::ZvolKruznici}};
+    static constexpr RadekNastroje NASTROJE[] = {
+        {Nastroj::Poloprimka, POLOPRIMKA, &D::Paprsky, &D::ZvolPaprsek},
+        {Nastroj::Kolmice, KOLMICE, &D::Primky, &D::ZvolKolmici},
+        {Nastroj::Rovnobezka, ROVNOBEZKA, &D::Primky, &D::ZvolRovnobezku},
+        {Nastroj::Kruznice, KRUZNICE, &D::Kruznice, &D::ZvolKruznici}};
     return NASTROJE;
 }
 
-void DialogCtyruhelnikuVrchol::NabidniDalsi(int i) {
-    const Nastroj& n = Nastroje()[static_cast<std::size_t>(i - 1)];
+void DialogCtyruhelnikuVrchol::NabidniDalsi(Nastroj co) {
+    const RadekNastroje& n = *std::ranges::find(Nastroje(), co, &RadekNastroje::Co);
     Upravit().ZvolenyUtvar = n.Druh;
     std::vector<RadekSeznamu> radky = (this->*n.Radky)();
-    if (!radky.empty()) OtevriSeznam(Seznam::SIROKY, std::move(radky));
+    if (!radky.empty()) OtevriSeznam(Seznam::Obsah::Popisy, std::move(radky));
 }
 
 std::vector<RadekSeznamu> DialogCtyruhelnikuVrchol::Paprsky() const {
@@ -117,8 +118,8 @@ std::vector<RadekSeznamu> DialogCtyruhelnikuVrchol::Primky() const {
         if (!r || u.Druh == POLOPRIMKA) continue;
         if (u.Druh == USECKA && vrchol_.Rovnobezky) {
             // A trapezoid's bases are sides; the starting triangle has a diagonal, too.
-            if (VyskaNaStranu(r->Tag).empty()) continue;
-            r->Text = r->Tag;
+            if (VyskaNaStranu(r->Jmena).empty()) continue;
+            r->Text = r->Jmena;
         }
         radky.push_back(std::move(*r));
     }
@@ -141,9 +142,9 @@ bool DialogCtyruhelnikuVrchol::JeOcekavany(std::string_view prvek) const {
 }
 
 void DialogCtyruhelnikuVrchol::ZvolDalsi(std::size_t i) {
-    const std::string kod = Stav().Combo.Radky[i].Tag;
+    const std::string kod = Stav().Vyber.Radky[i].Jmena;
     const auto n =
-        std::ranges::find(Nastroje(), std::string_view(Stav().ZvolenyUtvar), &Nastroj::Druh);
+        std::ranges::find(Nastroje(), std::string_view(Stav().ZvolenyUtvar), &RadekNastroje::Druh);
     (this->*n->Zvol)(kod);
     Zapis(Stav().ZvolenyUtvar, Stav().ZvolenyPrvek);
 }

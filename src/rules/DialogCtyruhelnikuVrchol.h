@@ -28,7 +28,7 @@ protected:
     /// The three of the record and, each with its step, those of the two objects.
     [[nodiscard]] std::vector<Zadana> Zadane() const override;
     [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;
-    void NabidniDalsi(int i) override;
+    void NabidniDalsi(Nastroj co) override;
     void ZvolDalsi(std::size_t i) override;
     [[nodiscard]] bool PrvekSpravny(int faze) const override;
     void UkazDalsi(Panel& panel) const override;
@@ -39,8 +39,8 @@ protected:
     void Uzavri() override;
 
 private:
-    struct Nastroj;
-    [[nodiscard]] static std::span<const Nastroj> Nastroje();
+    struct RadekNastroje;
+    [[nodiscard]] static std::span<const RadekNastroje> Nastroje();
     [[nodiscard]] std::vector<RadekSeznamu> Paprsky() const;
     [[nodiscard]] std::vector<RadekSeznamu> Primky() const;
     [[nodiscard]] std::vector<RadekSeznamu> Kruznice() const;

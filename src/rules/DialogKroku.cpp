@@ -11,10 +11,9 @@ namespace rysovna {
 
 namespace {
 
-constexpr std::array<int, 6> TVARY_UTVARU = {3, 4, 5, 6, 12, 0};
-
-// Where a unit stands behind its prompt, px.
-constexpr int ODSAZENI_JEDNOTKY = 142;
+constexpr std::array<Nastroj, 6> NASTROJE_UTVARU = {Nastroj::Poloprimka, Nastroj::Kolmice,
+                                                    Nastroj::Rovnobezka, Nastroj::Kruznice,
+                                                    Nastroj::Zpet,       Nastroj::Zadny};
 
 /// What stands before the names of a base in the lists of perpendiculars and parallels.
 struct UvodPrimky {
@@ -58,22 +57,17 @@ std::optional<int> DialogKroku::Hodnota(std::string_view velicina) const {
     return {};
 }
 
-void DialogKroku::SestavZadani(std::vector<PolozkaZadani>& zadani) const {
+void DialogKroku::SestavZadani(std::vector<ZadanaVelicina>& zadani) const {
+    using enum ZadanaVelicina::Druh;
     const std::vector<Zadana> zadane = Zadane();
     zadani.clear();
     for (std::size_t i = 0; i < zadane.size(); ++i) {
         const auto& [nazev, jednotka] = zadane[i];
-        const std::string_view pismeno = PismenoUhlu(nazev);
-        const bool uhel = !pismeno.empty();
-        const bool novyRadek = i % 2 == 0;
         const bool posledni = i + 1 == zadane.size();
-        zadani.push_back(uhel ? NazevUhlu(pismeno, MEZERA, novyRadek)
-                              : NazevStrany(nazev, MEZERA, novyRadek));
         // What has no unit has no value: it says all by its name.
-        zadani.push_back(HodnotaZadani(jednotka.empty()
-                                           ? std::string(posledni ? "" : ", ")
-                                           : TextHodnoty(hodnoty_[i], jednotka, posledni),
-                                       uhel ? MEZERA_UHLU : MEZERA));
+        zadani.push_back({JeUhel(nazev) ? Uhel : Delka, std::string(nazev),
+                          jednotka.empty() ? std::string(posledni ? "" : ", ")
+                                           : TextHodnoty(hodnoty_[i], jednotka, posledni)});
     }
 }
 
@@ -112,19 +106,20 @@ void DialogKroku::KresliNacrt(Plane& plocha) const {
 // ---- Tools and lists -------------------------------------------------------------------------
 
 void DialogKroku::StiskNastroje(int i) {
-    const Panel panel = UkazPanel();
-    const auto nastroju = static_cast<int>(panel.cmd.size());
-    if (i < 1 || i > nastroju || !panel.cmd[static_cast<std::size_t>(i - 1)].Zive) return;
+    const MistaNastroju nastroje = UkazPanel().Nastroje;
+    if (i < 1 || i > static_cast<int>(nastroje.size())) return;
+    const MistoNastroje& n = nastroje[static_cast<std::size_t>(i - 1)];
+    if (!n.Zivy()) return;
     misc_.KonstrukceZahajena = ANO;
     ZavriSeznam();
-    if (i == NASTROJ_ZPET) return Zpet();
+    if (n.Co == Nastroj::Zpet) return Zpet();
     if (Stav().Faze >= PosledniFaze()) return;  // a full construction takes no further object
-    if (ZacinaKrok(i)) Upravit().KrokChybny = false;
-    Nabidni(i);
+    if (ZacinaKrok(n.Co)) Upravit().KrokChybny = false;
+    Nabidni(n.Co);
 }
 
 void DialogKroku::VyberRadku(int i) {
-    const Seznam& seznam = Stav().Combo;
+    const Seznam& seznam = Stav().Vyber;
     if (!seznam.Otevreny || i < 1 || i > static_cast<int>(seznam.Radky.size())) return;
     const auto radek = static_cast<std::size_t>(i - 1);
     if (!seznam.Radky[radek].Videt || !seznam.Radky[radek].Ziva) return;
@@ -134,11 +129,11 @@ void DialogKroku::VyberRadku(int i) {
 }
 
 void DialogKroku::Napis(int /*ktery*/, const std::string& text) {
-    Upravit().txtVstup.Text = text;
+    Upravit().Rysovane.Hodnota.Text = text;
 }
 
-void DialogKroku::OtevriSeznam(int sirka, std::vector<RadekSeznamu> radky) {
-    Upravit().Combo = Seznam::SRadky(sirka, std::move(radky));
+void DialogKroku::OtevriSeznam(Seznam::Obsah coRika, std::vector<RadekSeznamu> radky) {
+    Upravit().Vyber = {true, coRika, std::move(radky)};
 }
 
 std::optional<RadekSeznamu> DialogKroku::RadekPrimky(const Utvar& u, bool kolmice) {
@@ -158,11 +153,8 @@ std::string DialogKroku::Jmeno() const {
     return std::string(Stav().Faze == 2 ? j->Prvni : j->Druhy);
 }
 
-void DialogKroku::Vyzvi(std::string vyzva, std::string jednotka) {
-    StavKroku& s = Upravit();
-    s.lblText3 = std::move(vyzva);
-    s.lblText4 = {std::move(jednotka), true, false, ODSAZENI_JEDNOTKY, false};
-    s.txtVstup = {"", true, true};
+void DialogKroku::Vyzvi(std::string nazev, std::string jednotka) {
+    Upravit().Rysovane = {std::move(nazev), {"", true, true}, std::move(jednotka)};
 }
 
 void DialogKroku::ZacniUtvar(std::string jmeno1, std::string jmeno2) {
@@ -193,15 +185,12 @@ void DialogKroku::ZacniPrimku(const std::string& jmena, const std::string& nazev
     const std::string jmeno = Jmeno();
     misc_.VybranyUtvar = UtvarSeJmeny(misc_, jmena);
     ZacniUtvar(jmeno, "");
-    StavKroku& s = Upravit();
-    if (s.ZvolenyUtvar == ROVNOBEZKA) {
+    if (Stav().ZvolenyUtvar == ROVNOBEZKA) {
         return Vyzvi(
             "přímka " + jmeno + ", " + jmeno + "||" + nazev + ", |" + jmeno + "," + nazev + "| = ",
             " cm");
     }
-    s.lblText3 = "přímka " + jmeno + ", " + jmeno + "      " + nazev;
-    s.lblText4 = TextPanelu::Kolmo();
-    s.txtVstup = {};
+    Upravit().Rysovane = {NazevKolmice(jmeno, nazev), {}, ""};
 }
 
 void DialogKroku::ChybnaVolba(ChybaKroku chyba, std::string_view slovy) {
@@ -235,9 +224,7 @@ void DialogKroku::DalsiFaze() {
     s.CekaNaKresleni = false;
     s.Tazeni = false;
     s.ZvolenyUtvar.clear();
-    s.txtVstup = {};
-    s.lblText3.clear();
-    s.lblText4 = {};
+    s.Rysovane = {};
     if (++s.Faze == PosledniFaze()) Uzavri();
 }
 
@@ -274,18 +261,19 @@ bool DialogKroku::MuzeZacit() const {
     return misc_.KonstrukceZahajena != NE || Stav().Znacky != 0;
 }
 
-void DialogKroku::UkazNastroje(Panel& panel, const std::array<int, 6>& tvary,
+void DialogKroku::UkazNastroje(Panel& panel, const std::array<Nastroj, 6>& nastroje,
                                const std::array<bool, 6>& naRade) const {
-    for (std::size_t i = 0; i < tvary.size(); ++i) {
-        const bool zive = naRade[i] && tvary[i] != 0 && !Stav().CekaNaKresleni;
-        panel.cmd[i] = {tvary[i], zive, zive};
+    using enum MistoNastroje::Stav;
+    for (std::size_t i = 0; i < nastroje.size(); ++i) {
+        const bool zivy = naRade[i] && nastroje[i] != Nastroj::Zadny && !Stav().CekaNaKresleni;
+        panel.Nastroje[i] = {nastroje[i], zivy ? Zivy : Sedy};
     }
 }
 
 void DialogKroku::UkazVolbuUtvaru(Panel& panel, std::string_view vyzva) const {
-    panel.lblText1 = vyzva;
-    panel.lblText2 = Stav().Faze == 2 ? "1. útvar:" : "2. útvar:";
-    UkazNastroje(panel, TVARY_UTVARU, {true, true, true, true, true, true});
+    panel.Vyzva = vyzva;
+    panel.Nadpis = Stav().Faze == 2 ? "1. útvar:" : "2. útvar:";
+    UkazNastroje(panel, NASTROJE_UTVARU, {true, true, true, true, true, true});
 }
 
 Gesto DialogKroku::GestoKroku() const {
@@ -311,20 +299,20 @@ Gesto DialogKroku::GestoKroku() const {
 Panel DialogKroku::UkazPanel() const {
     const StavKroku& s = Stav();
     Panel p;
-    p.Label1 = pravidlaKroku_.Uvod;
-    p.lblText3 = s.lblText3;
-    p.lblText4 = s.lblText4;
-    p.txtVstup = s.txtVstup;
-    p.Combo = s.Combo;
-    p.lblZadani = zadani_;
-    p.PicZiva = !s.HotovaKonstrukce && !s.Skontrolovano;
+    p.Uvod = pravidlaKroku_.Uvod;
+    p.Zadani = zadani_;
+    p.Rysovane = s.Rysovane;
+    p.Vyber = s.Vyber;
+    p.PlochaZiva = !s.HotovaKonstrukce && !s.Skontrolovano;
     p.Kresleni = GestoKroku();
     p.Nezavrena = s.Faze >= PosledniFaze() && !s.HotovaKonstrukce;
     UkazFazi(p);
-    p.txtVstup.Ziva = !s.Skontrolovano;
+    p.Rysovane.Hodnota.Ziva = !s.Skontrolovano;
     if (!s.Skontrolovano) return p;
-    for (Tlacitko& t : p.cmd) t.Zive = false;
-    p.cmd[NASTROJ_ZPET - 1].Barevne = false;
+    using enum MistoNastroje::Stav;
+    for (MistoNastroje& n : p.Nastroje) {
+        if (n.Zivy()) n.Jak = n.Co == Nastroj::Zpet ? Sedy : Zamceny;
+    }
     return p;
 }
 

@@ -59,10 +59,8 @@ struct StavKroku {
     Bod Start;
     std::string BodVyzvy;      ///< the vertex or centre that the prompt names; empty: none
     std::uint32_t Znacky = 0;  ///< marks of the sketch, bits in the order of its elements
-    Seznam Combo;
-    std::string lblText3;
-    TextPanelu lblText4;
-    Vstup txtVstup;
+    Seznam Vyber;
+    Velicina Rysovane;  ///< name and value of the object in hand
     friend bool operator==(const StavKroku&, const StavKroku&) = default;
 };
 
@@ -77,7 +75,7 @@ public:
     void NoveZadani() override;
     void StiskNastroje(int i) override;
     void VyberRadku(int i) override;
-    void ZavriSeznam() override { Upravit().Combo.Otevreny = false; }
+    void ZavriSeznam() override { Upravit().Vyber.Otevreny = false; }
     void Napis(int ktery, const std::string& text) override;
     void StiskPlochy(float x, float y) override;
     [[nodiscard]] std::optional<Bod> ChytilBy(float x, float y) const override;
@@ -114,12 +112,12 @@ protected:
     [[nodiscard]] virtual std::vector<Zadana> Zadane() const;
     /// Draws the values for a kind. False for an unknown kind: values and assignment stay.
     [[nodiscard]] virtual bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) = 0;
-    /// Sets the labels of the assignment, two a row; what has no unit has no value.
-    virtual void SestavZadani(std::vector<PolozkaZadani>& zadani) const;
-    /// Whether tool i begins a step, which is not judged wrong yet.
-    [[nodiscard]] virtual bool ZacinaKrok(int /*i*/) const { return true; }
-    /// Tool i, live, was pressed: opens its list. Not called for the step back.
-    virtual void Nabidni(int i) = 0;
+    /// Puts the assignment together; what has no unit has no value.
+    virtual void SestavZadani(std::vector<ZadanaVelicina>& zadani) const;
+    /// Whether the tool begins a step, which is not judged wrong yet.
+    [[nodiscard]] virtual bool ZacinaKrok(Nastroj /*co*/) const { return true; }
+    /// The tool, live, was pressed: opens its list. Not called for the step back.
+    virtual void Nabidni(Nastroj co) = 0;
     /// Line i, from 0, of the list was chosen; the list is closed by now.
     virtual void ZvolRadek(std::size_t i) = 0;
     /// Judges the press that begins a drag, by what it caught; its start is known by now.
@@ -148,20 +146,20 @@ protected:
     [[nodiscard]] virtual bool DruhSedi(const Krok& krok, std::string_view druh) const;
     /// How many of the three entered elements are wrong.
     [[nodiscard]] virtual int ChybnychPrvku() const = 0;
-    /// Prompts and faces of the phase.
+    /// Prompts and tools of the phase.
     virtual void UkazFazi(Panel& panel) const = 0;
 
     // What the boards build their answers from.
 
     /// Opens the list.
-    void OtevriSeznam(int sirka, std::vector<RadekSeznamu> radky);
+    void OtevriSeznam(Seznam::Obsah coRika, std::vector<RadekSeznamu> radky);
     /// The list line of a straight object that a perpendicular or a parallel can go by; none for
     /// any other object.
     [[nodiscard]] static std::optional<RadekSeznamu> RadekPrimky(const Utvar& u, bool kolmice);
     /// Name of the object in hand, by its kind and the phase.
     [[nodiscard]] std::string Jmeno() const;
-    /// Prompts for a value.
-    void Vyzvi(std::string vyzva, std::string jednotka);
+    /// Asks for the value of the object in hand.
+    void Vyzvi(std::string nazev, std::string jednotka);
     /// Names the object in hand and prompts for it: a ray by the far end of the angle's other arm,
     /// a circle by its centre, a perpendicular or parallel by the names of its base and by what
     /// the prompt calls it.
@@ -187,13 +185,13 @@ protected:
     [[nodiscard]] Gesto GestoKroku() const;
     /// Whether the first step may begin: it waits for a mark on the sketch until then.
     [[nodiscard]] bool MuzeZacit() const;
-    /// Faces of the tools; one without a face, out of turn or beside an awaited drag is not live.
-    void UkazNastroje(Panel& panel, const std::array<int, 6>& tvary,
+    /// The tools in their places; one out of turn or beside an awaited drag is not live.
+    void UkazNastroje(Panel& panel, const std::array<Nastroj, 6>& nastroje,
                       const std::array<bool, 6>& naRade) const;
     /// The step in which one of the two objects is chosen that meet in a vertex.
     void UkazVolbuUtvaru(Panel& panel, std::string_view vyzva) const;
     [[nodiscard]] Priklad& HranyProUpravu() { return misc_.Priklady[cisloPrikladu_]; }
-    [[nodiscard]] std::vector<PolozkaZadani>& ZadaniProUpravu() { return zadani_; }
+    [[nodiscard]] std::vector<ZadanaVelicina>& ZadaniProUpravu() { return zadani_; }
 
 private:
     struct DruhTahu;
@@ -211,7 +209,7 @@ private:
     [[nodiscard]] std::string OdectiPosunuti(Bod konec) const;
 
     PravidlaKroku pravidlaKroku_;
-    std::vector<PolozkaZadani> zadani_;
+    std::vector<ZadanaVelicina> zadani_;
     int cisloPrikladu_ = 1;
     HodnotyPrikladu hodnoty_{};
 };

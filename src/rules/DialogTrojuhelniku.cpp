@@ -34,10 +34,9 @@ DialogTrojuhelniku::DialogTrojuhelniku(Misc& misc, Platna platna,
                    {2, 3},
                    CHYBA_NEDOKONCENY_TROJUHELNIK}),
       pravidla_(pravidla) {
-    // The labels' captions as designed: a caption that no rule sets stays as it is.
-    for (const std::string_view navrh : {"a", "b", "c"}) {
-        ZadaniProUpravu().push_back(NazevStrany(navrh, MEZERA, navrh != "b"));
-        ZadaniProUpravu().push_back(HodnotaZadani("", MEZERA));
+    // As designed: what no rule sets stays as it is.
+    for (const char* navrh : {"a", "b", "c"}) {
+        ZadaniProUpravu().push_back({ZadanaVelicina::Druh::Delka, navrh, ""});
     }
 }
 
@@ -73,7 +72,7 @@ bool DialogTrojuhelniku::HodnotaSedi(double hodnota) const {
 void DialogTrojuhelniku::PosudStisk(const Zachyt& zachyt) {
     const std::string& druh = stav_.ZvolenyUtvar;
     const CenaVeliciny* cena = stav_.KrokChybny ? nullptr : Cena();
-    if (cena != nullptr && !HodnotaSedi(Cislo(stav_.txtVstup.Text))) {
+    if (cena != nullptr && !HodnotaSedi(Cislo(stav_.Rysovane.Hodnota.Text))) {
         PridejChybu(misc_, cena->Napsana);
     } else if (druh == POLOPRIMKA && !stav_.KrokChybny && zachyt.Je &&
                !BodMaJmeno(misc_, zachyt.Misto, stav_.ZvolenyPrvek.substr(0, 1))) {
@@ -174,8 +173,9 @@ void DialogTrojuhelniku::UkazFazi(Panel& panel) const {
         return UkazVolbuUtvaru(
             panel, "Třetí vrchol trojúhelníka leží v průniku následujících geometrických útvarů:");
     }
-    panel.lblText1 = "Nejprve narýsuješ stranu trojúhelníka. Zvol, kterou úsečkou začneš.";
-    UkazNastroje(panel, {1, 0, 0, 0, 12, 0}, {MuzeZacit()});
+    panel.Vyzva = "Nejprve narýsuješ stranu trojúhelníka. Zvol, kterou úsečkou začneš.";
+    using enum Nastroj;
+    UkazNastroje(panel, {Usecka, Zadny, Zadny, Zadny, Zpet, Zadny}, {MuzeZacit()});
 }
 
 }  // namespace rysovna

@@ -67,7 +67,7 @@ protected:
     [[nodiscard]] virtual bool StredVDosahu(std::string_view stred) const;
 
     [[nodiscard]] StavTrojuhelniku& Upravit() override { return stav_; }
-    void Nabidni(int i) override;
+    void Nabidni(Nastroj co) override;
     void ZvolRadek(std::size_t i) override;
     void PosudStisk(const Zachyt& zachyt) override;
     [[nodiscard]] std::string OdectiPaprsek(Bod konec) const override;
@@ -78,8 +78,8 @@ protected:
     void UkazFazi(Panel& panel) const override;
 
 private:
-    struct Nastroj;
-    [[nodiscard]] static std::span<const Nastroj> Nastroje();
+    struct RadekNastroje;
+    [[nodiscard]] static std::span<const RadekNastroje> Nastroje();
 
     // DialogTrojuhelnikuVolba.cpp: tools, their lists, choosing a line
     [[nodiscard]] std::vector<RadekSeznamu> Strany() const;

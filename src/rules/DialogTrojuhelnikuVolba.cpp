@@ -1,6 +1,8 @@
 // The tools of the triangle boards: each opens its list; a chosen line names the new object,
 // prompts for its value and is judged.
 
+#include <algorithm>
+
 #include "rules/Chyby.h"
 #include "rules/DialogTrojuhelniku.h"
 #include "rules/Misc.h"
@@ -39,36 +41,37 @@ constexpr std::string_view UVOD_KOLMICE = "k úsečce ";
 }  // namespace
 
 /// A kind of object: its list, and what becomes of a chosen line.
-struct DialogTrojuhelniku::Nastroj {
+struct DialogTrojuhelniku::RadekNastroje {
+    Nastroj Co;
     std::string_view Druh;
-    int Sirka;  ///< px, of the list
+    Seznam::Obsah CoRika;
     std::vector<RadekSeznamu> (DialogTrojuhelniku::*Radky)() const;
     void (DialogTrojuhelniku::*Zvol)(std::size_t i);
 };
 
-/// The first is the only tool of the first phase, the others stand in the order of the buttons.
-std::span<const DialogTrojuhelniku::Nastroj> DialogTrojuhelniku::Nastroje() {
+std::span<const DialogTrojuhelniku::RadekNastroje> DialogTrojuhelniku::Nastroje() {
     using D = DialogTrojuhelniku;
-    static constexpr Nastroj NASTROJE[] = {
-        {USECKA, Seznam::UZKY, &D::Strany, &D::ZvolStranu},
-        {POLOPRIMKA, Seznam::UZKY, &D::Paprsky, &D::ZvolPaprsek},
-        {KOLMICE, Seznam::SIROKY, &D::Primky, &D::ZvolKolmici},
-        {ROVNOBEZKA, Seznam::SIROKY, &D::Primky, &D::ZvolRovnobezku},
-        {KRUZNICE, Seznam::SIROKY, &D::Kruznice, &D::ZvolKruznici}};
+    using enum Seznam::Obsah;
+    static constexpr RadekNastroje NASTROJE[] = {
+        {Nastroj::Usecka, USECKA, Jmena, &D::Strany, &D::ZvolStranu},
+        {Nastroj::Poloprimka, POLOPRIMKA, Jmena, &D::Paprsky, &D::ZvolPaprsek},
+        {Nastroj::Kolmice, KOLMICE, Popisy, &D::Primky, &D::ZvolKolmici},
+        {Nastroj::Rovnobezka, ROVNOBEZKA, Popisy, &D::Primky, &D::ZvolRovnobezku},
+        {Nastroj::Kruznice, KRUZNICE, Popisy, &D::Kruznice, &D::ZvolKruznici}};
     return NASTROJE;
 }
 
-void DialogTrojuhelniku::Nabidni(int i) {
-    const Nastroj& n = Nastroje()[stav_.Faze == 1 ? 0 : static_cast<std::size_t>(i)];
+void DialogTrojuhelniku::Nabidni(Nastroj co) {
+    const RadekNastroje& n = *std::ranges::find(Nastroje(), co, &RadekNastroje::Co);
     stav_.ZvolenyUtvar = n.Druh;
     if (n.Druh == USECKA) HranyProUpravu().Kroky[1].Hotovo = ANO;
     if (n.Druh == ROVNOBEZKA) stav_.ZvolenyNazev.clear();
-    OtevriSeznam(n.Sirka, (this->*n.Radky)());
+    OtevriSeznam(n.CoRika, (this->*n.Radky)());
 }
 
 void DialogTrojuhelniku::ZvolRadek(std::size_t i) {
     stav_.Velicina.clear();
-    for (const Nastroj& n : Nastroje()) {
+    for (const RadekNastroje& n : Nastroje()) {
         if (n.Druh == stav_.ZvolenyUtvar) return (this->*n.Zvol)(i);
     }
 }
@@ -154,7 +157,7 @@ void DialogTrojuhelniku::ZvolPaprsek(std::size_t i) {
 }
 
 void DialogTrojuhelniku::ZvolRovnobezku(std::size_t i) {
-    stav_.ZvolenyNazev = stav_.Combo.Radky[i].Tag;
+    stav_.ZvolenyNazev = stav_.Vyber.Radky[i].Jmena;
     ZacniPrimku(stav_.ZvolenyNazev, stav_.ZvolenyNazev);
     ChybaKroku chyba;  // of a parallel to what is no side: none, and no value either
     for (const VyskaStrany& v : VYSKY) {
@@ -189,10 +192,10 @@ void DialogTrojuhelniku::ZvolKruznici(std::size_t i) {
 }
 
 void DialogTrojuhelniku::ZvolKolmici(std::size_t i) {
-    const RadekSeznamu& r = stav_.Combo.Radky[i];
+    const RadekSeznamu& r = stav_.Vyber.Radky[i];
     const bool useknout = r.Text.starts_with(UVOD_KOLMICE);
     stav_.ZvolenyNazev = useknout ? r.Text.substr(UVOD_KOLMICE.size()) : r.Text;
-    ZacniPrimku(r.Tag, stav_.ZvolenyNazev);
+    ZacniPrimku(r.Jmena, stav_.ZvolenyNazev);
     Zapis(KOLMICE, "");
 }
 

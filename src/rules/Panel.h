@@ -2,95 +2,93 @@
 
 #include <array>
 #include <string>
-#include <utility>
+#include <string_view>
 #include <vector>
-
-#include "base/Bod.h"
-#include "base/Plane.h"
 
 namespace rysovna {
 
-/// The step button that takes a step back, on every board, and its face.
-constexpr int NASTROJ_ZPET = 5, TVAR_ZPET = 12;
-
-/// A step button as it is shown. The face and whether it can be pressed are two things: after the
-/// check the buttons keep their live faces and cannot be pressed.
-struct Tlacitko {
-    int Tvar = 0;          ///< number of its picture, whatNN; 0: the button is hidden
-    bool Barevne = false;  ///< the live face "_1"; otherwise the grey one "_0"
-    bool Zive = false;     ///< can be pressed
-    friend bool operator==(const Tlacitko&, const Tlacitko&) = default;
+/// What a step is made with. How its button looks is the screen's.
+enum class Nastroj {
+    Zadny,  ///< no tool has this place now
+    Usecka,
+    Primka,
+    Poloprimka,
+    Kolmice,
+    Rovnobezka,
+    Kruznice,
+    Stred,  ///< midpoint of a segment
+    Osa,
+    Prusecik,
+    Trojuhelnik,  ///< the one to start with
+    Veta,         ///< by which it is built
+    Sestroj,      ///< builds it from the typed values
+    StredSoumernosti,
+    Obraz,  ///< of a vertex in the point symmetry
+    Zpet
 };
+
+/// The place of the tool that takes a step back, on every board, from 1.
+constexpr int NASTROJ_ZPET = 5;
+
+/// A place for a tool, and what stands there. What was on offer when the check took the example
+/// stays so to the eye and cannot be pressed.
+struct MistoNastroje {
+    enum class Stav { Sedy, Zamceny, Zivy };
+    Nastroj Co = Nastroj::Zadny;
+    Stav Jak = Stav::Sedy;
+
+    [[nodiscard]] bool Zivy() const { return Jak == Stav::Zivy; }
+    friend bool operator==(const MistoNastroje&, const MistoNastroje&) = default;
+};
+
+/// The tools in the order of their places.
+using MistaNastroju = std::array<MistoNastroje, 6>;
 
 /// A line of the pick list.
 struct RadekSeznamu {
     std::string Text;
     bool Videt = true;
     bool Ziva = true;
-    std::string Tag;  ///< names of the object that the line speaks of
+    std::string Jmena;  ///< of the object that the line speaks of
     friend bool operator==(const RadekSeznamu&, const RadekSeznamu&) = default;
 };
 
 /// The pick list of the step dialogue.
 struct Seznam {
-    static constexpr int VYSKA_RADKU = 20, OKRAJ = 4;  ///< px; the edge is that of both sides
-    /// Widths, px: for names, for a few words, for a phrase, for a long one.
-    static constexpr int UZKY = 105, STREDNI = 140, SIROKY = 200, NEJSIRSI = 250;
+    enum class Obsah { Jmena, Slova, Popisy, DlouhePopisy };
     bool Otevreny = false;
-    int Sirka = UZKY, Vyska = 3 * VYSKA_RADKU + OKRAJ;  ///< px
-    int SirkaRadku = UZKY - OKRAJ;                      ///< px
+    Obsah CoRika = Obsah::Jmena;  ///< how much its lines say
     std::vector<RadekSeznamu> Radky;
-
-    /// An open list, so many px wide and as high as its lines want.
-    [[nodiscard]] static Seznam SRadky(int sirka, std::vector<RadekSeznamu> radky) {
-        const int vyska = static_cast<int>(radky.size()) * VYSKA_RADKU + OKRAJ;
-        return {true, sirka, vyska, sirka - OKRAJ, std::move(radky)};
-    }
     friend bool operator==(const Seznam&, const Seznam&) = default;
 };
 
-/// A text of the panel with its face; hidden when it is not there.
-struct TextPanelu {
-    std::string Text;
-    bool Videt = false;
-    bool Symbol = false;        ///< set in the Symbol face
-    int Odsazeni = 0;           ///< px to the right of lblText3
-    bool NaRadkuVyzvy = false;  ///< stands on the prompt's own row, not on the value's
-
-    static constexpr int ODSAZENI_KOLMO = 66;  ///< px, behind "přímka b, b" of the prompt
-    /// The sign of a perpendicular; behind longer names so many px more.
-    [[nodiscard]] static TextPanelu Kolmo(int navic = 0) {
-        return {"^", true, true, ODSAZENI_KOLMO + navic, true};
-    }
-    friend bool operator==(const TextPanelu&, const TextPanelu&) = default;
-};
-
-/// A box for a typed value.
+/// A value that is typed.
 struct Vstup {
     std::string Text;
-    bool Videt = false;
+    bool Videt = false;  ///< it is asked for
     bool Ziva = true;
     friend bool operator==(const Vstup&, const Vstup&) = default;
 };
 
-/// A row with a value to type: what stands before the box and its unit behind. Boards that ask for
-/// several values at once have such rows in place of the one box.
-struct RadekVstupu {
+/// The sign of a perpendicular, between the names of two lines.
+constexpr std::string_view KOLMO = "⊥";
+
+/// A quantity of the step: its name as far as the value ("úsečka AB, |AB| = "), the value, and the
+/// unit behind it. Where no value is asked for, the name of the object ("přímka b, b ⊥ AB").
+struct Velicina {
     std::string Nazev;
-    Vstup Box;
+    Vstup Hodnota;
     std::string Jednotka;
-    friend bool operator==(const RadekVstupu&, const RadekVstupu&) = default;
+    friend bool operator==(const Velicina&, const Velicina&) = default;
 };
 
-/// One label of the assignment. Labels stand in up to three rows, each placed behind the one
-/// before.
-struct PolozkaZadani {
-    std::string Text;
-    Pismo Font{Pismo::Rez::MsSansSerif, 10};
-    int Mezera = 2;          ///< px behind the label before
-    bool NovyRadek = false;  ///< begins a row
-    bool Sazba = true;       ///< painted as a textbook prints it
-    friend bool operator==(const PolozkaZadani&, const PolozkaZadani&) = default;
+/// A quantity of the assignment: its name ("a", "alfa") and what it equals ("= 12 cm, "). What is
+/// given in words has no name.
+struct ZadanaVelicina {
+    enum class Druh { Delka, Uhel, Slovy };
+    Druh Co = Druh::Delka;
+    std::string Nazev, Hodnota;
+    friend bool operator==(const ZadanaVelicina&, const ZadanaVelicina&) = default;
 };
 
 /// An element of the sketch as it is seen: the name that stands beside it ("a", "alfa", "va";
@@ -121,19 +119,19 @@ struct Gesto {
     friend bool operator==(const Gesto&, const Gesto&) = default;
 };
 
-/// What the step dialogue shows. Computed from the construction and the dialogue, never patched,
-/// so that going back is an earlier phase shown again.
+/// What the step dialogue says, in its own words: which control shows it, where and how, is the
+/// screen's. Computed from the construction and the dialogue, never patched, so that going back is
+/// an earlier phase shown again.
 struct Panel {
-    std::array<Tlacitko, 6> cmd;  ///< cmd(1) to cmd(6); index 0 is cmd(1)
-    std::string Label1;           ///< lead-in of the assignment
-    std::string lblText1, lblText2;
-    std::string lblText3;
-    TextPanelu lblText4;
-    Vstup txtVstup;
-    std::vector<RadekVstupu> Vstupy;  ///< rows of values, where the board has them
-    Seznam Combo;
-    std::vector<PolozkaZadani> lblZadani;
-    bool PicZiva = true;  ///< the plane takes the mouse
+    std::string Uvod;  ///< lead-in of the assignment
+    std::vector<ZadanaVelicina> Zadani;
+    std::string Vyzva;
+    std::string Nadpis;  ///< heading of the step
+    MistaNastroju Nastroje;
+    Seznam Vyber;
+    Velicina Rysovane;               ///< of the object in hand
+    std::vector<Velicina> Veliciny;  ///< of the triangle to start with: typed all at once
+    bool PlochaZiva = true;          ///< the plane takes the mouse
     Gesto Kresleni;
     bool Nezavrena = false;    ///< all objects are drawn, and they do not close the figure
     bool Nesestrojen = false;  ///< the plane says that there is no triangle of the typed values
@@ -146,7 +144,7 @@ struct Gumicka {
     Tvar Druh = Tvar::Nic;
     int X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;  ///< of a line; of a circle its rectangle
     std::string Text;                    ///< the read-out; empty: none
-    int Odsazeni = 12;                   ///< px of the read-out to the right of the pointer
+    bool JmenoBodu = false;              ///< Text says which point lies under the pointer
     friend bool operator==(const Gumicka&, const Gumicka&) = default;
 };
 

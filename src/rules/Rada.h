@@ -26,7 +26,7 @@ struct Videne {
     bool Tahne = false;         ///< the button is held over the plane, and a rubber band follows
     bool Podlozka = false;      ///< a finger has left the drag, and the pad is up
     std::string Odecet;         ///< the live read-out; empty: there is none
-    int MrtvyNastroj = 0;       ///< cmd(i) under the pointer that cannot be pressed; 0: none
+    int MrtvyNastroj = 0;  ///< place, from 1, of the tool under the pointer that cannot be pressed
     /// What a press would do that the pointer (or the ring of the keys) is over.
     enum class CoPod { Nic, Zpet, Sestroj, Kontrola, Odchod };
     CoPod Pod = CoPod::Nic;

@@ -71,8 +71,6 @@ constexpr std::string_view STRED = "S";
 constexpr ChybaKroku CHYBA_STRED = 112, CHYBA_VZOR = 137;
 constexpr int KROKU = 6;
 
-constexpr int NASTROJ_STRED = 1;
-
 constexpr std::string_view VYZVA_STRED = "Nyní zvol střed souměrnosti.";
 constexpr std::string_view VYZVA_STRED_KLIK = "Zvol kliknutím na kreslící ploše střed úsečky.";
 constexpr std::string_view VYZVA_OBRAZ = "Nyní najdi obraz bodů ve středové souměrnosti.";
@@ -226,8 +224,8 @@ std::optional<Bod> RovnoDialog::Misto(std::string_view pismeno) const {
 
 // ---- Lists -----------------------------------------------------------------------------------
 
-void RovnoDialog::NabidniDalsi(int i) {
-    if (i == NASTROJ_STRED) return NabidniStredy();
+void RovnoDialog::NabidniDalsi(Nastroj co) {
+    if (co == Nastroj::StredSoumernosti) return NabidniStredy();
     NabidniObrazy();
 }
 
@@ -243,7 +241,7 @@ void RovnoDialog::NabidniStredy() {
     for (const char c : t) {
         radky.push_back({"vrchol " + std::string(1, c), true, true, std::string(1, c)});
     }
-    OtevriSeznam(Seznam::STREDNI, std::move(radky));
+    OtevriSeznam(Seznam::Obsah::Slova, std::move(radky));
 }
 
 void RovnoDialog::NabidniObrazy() {
@@ -256,11 +254,11 @@ void RovnoDialog::NabidniObrazy() {
         radky.push_back(
             {"hledaný bod " + HledanyBod() + " je obrazem vrcholu " + vzor, true, true, vzor});
     }
-    OtevriSeznam(Seznam::NEJSIRSI, std::move(radky));
+    OtevriSeznam(Seznam::Obsah::DlouhePopisy, std::move(radky));
 }
 
 void RovnoDialog::ZvolDalsi(std::size_t i) {
-    const std::string kod = Stav().Combo.Radky[i].Tag;
+    const std::string kod = Stav().Vyber.Radky[i].Jmena;
     Upravit().CekaNaKresleni = true;
     Upravit().ZvolenyPrvek = kod;
     Stav().ZvolenyUtvar == STRED_SOUMERNOSTI ? ZvolStred(kod) : ZvolObraz(kod);
@@ -349,11 +347,13 @@ void RovnoDialog::UkazDalsi(Panel& p) const {
     const bool ceka = Stav().CekaNaKresleni;
     const bool stred = Stav().Faze == 2;
     if (stred) {
-        p.lblText1 = ceka ? VYZVA_STRED_KLIK : VYZVA_STRED;
+        p.Vyzva = ceka ? VYZVA_STRED_KLIK : VYZVA_STRED;
     } else {
-        p.lblText1 = ceka ? VYZVA_OBRAZ_KLIK : VYZVA_OBRAZ;
+        p.Vyzva = ceka ? VYZVA_OBRAZ_KLIK : VYZVA_OBRAZ;
     }
-    UkazNastroje(p, {11, 15, 0, 0, 12, 0}, {stred, !stred, false, false, true});
+    using enum Nastroj;
+    UkazNastroje(p, {StredSoumernosti, Obraz, Zadny, Zadny, Zpet, Zadny},
+                 {stred, !stred, false, false, true});
 }
 
 }  // namespace rysovna

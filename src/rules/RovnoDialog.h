@@ -17,7 +17,7 @@ public:
 
 protected:
     [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;
-    void NabidniDalsi(int i) override;
+    void NabidniDalsi(Nastroj co) override;
     void ZvolDalsi(std::size_t i) override;
     [[nodiscard]] int PosledniFaze() const override;
     [[nodiscard]] bool PrvekSpravny(int faze) const override;

@@ -152,17 +152,17 @@ void TecnyDialog::Posun(int dx, int dy) {
 // ---- Tools -----------------------------------------------------------------------------------
 
 void TecnyDialog::StiskNastroje(int i) {
-    const Panel panel = UkazPanel();
-    if (i < 1 || i > NASTROJ_ZPET || !panel.cmd[static_cast<std::size_t>(i - 1)].Zive) return;
+    const MistaNastroju nastroje = UkazPanel().Nastroje;
+    if (i < 1 || i > NASTROJ_ZPET || !nastroje[static_cast<std::size_t>(i - 1)].Zivy()) return;
     misc_.KonstrukceZahajena = ANO;
     if (i == NASTROJ_ZPET) return Zpet();
     const KrokTecny* krok = KrokFaze();
     if (krok == nullptr) return;
     Odzbroj();
-    stav_.Tvar = krok->Tvary[static_cast<std::size_t>(i - 1)];
-    stav_.Spravny = stav_.Tvar == krok->Spravny;
-    if (std::ranges::find(krok->Chybne, stav_.Tvar) != krok->Chybne.end()) Chybne();
-    switch (stav_.Tvar) {
+    stav_.VRuce = krok->Nastroje[static_cast<std::size_t>(i - 1)];
+    stav_.Spravny = stav_.VRuce == krok->Spravny;
+    if (std::ranges::find(krok->Chybne, stav_.VRuce) != krok->Chybne.end()) Chybne();
+    switch (stav_.VRuce) {
         case Nastroj::Prusecik:
             return PripravOznaceni(*krok);
         case Nastroj::Stred:
@@ -176,7 +176,7 @@ void TecnyDialog::StiskNastroje(int i) {
             const std::string od(Hrane()->PocatekPoloprimky);
             stav_.ZvolenyUtvar = POLOPRIMKA;
             stav_.Jmeno = od;
-            stav_.lblText3 = "polopřímka " + od + "Y";
+            stav_.Rysovane = "polopřímka " + od + "Y";
             stav_.CekaNaKresleni = true;
             return;
         }
@@ -192,7 +192,7 @@ void TecnyDialog::StiskNastroje(int i) {
         case Nastroj::Rovnobezka:
             stav_.ZvolenyUtvar = ROVNOBEZKA;
             return NabidniPrimky(*krok);
-        case Nastroj::Zadny:
+        default:
             return;
     }
 }
@@ -209,7 +209,7 @@ void TecnyDialog::Odzbroj() {
 }
 
 void TecnyDialog::ZavriSeznam() {
-    if (stav_.Combo.Otevreny) Odzbroj();
+    if (stav_.Vyber.Otevreny) Odzbroj();
 }
 
 /// A list without a row cannot be picked from: the object is then drawn as dragged.
@@ -218,12 +218,12 @@ void TecnyDialog::OtevriSeznam(std::vector<RadekSeznamu> radky) {
         stav_.CekaNaKresleni = true;
         return;
     }
-    stav_.Combo = Seznam::SRadky(Seznam::SIROKY, std::move(radky));
+    stav_.Vyber = {true, Seznam::Obsah::Popisy, std::move(radky)};
 }
 
 /// Perpendicular and parallel: the bases that there are.
 void TecnyDialog::NabidniPrimky(const KrokTecny& krok) {
-    const bool kolmice = stav_.Tvar == Nastroj::Kolmice;
+    const bool kolmice = stav_.VRuce == Nastroj::Kolmice;
     std::vector<RadekSeznamu> radky;
     const auto pridej = [&](std::string_view jmeno) {
         std::string text = SlovyPrimku(misc_, jmeno, kolmice ? "k přímce " : "s přímkou ",
@@ -243,7 +243,7 @@ void TecnyDialog::NabidniKruznice(const KrokTecny& krok) {
     if (!stav_.Spravny) {
         const std::string_view jmeno = Hrane()->ChybnaKruznice;
         stav_.Jmeno = jmeno.empty() ? "k" + std::to_string(stav_.Faze) : std::string(jmeno);
-        stav_.lblText3 = "kružnice " + stav_.Jmeno;
+        stav_.Rysovane = "kružnice " + stav_.Jmeno;
         stav_.CekaNaKresleni = true;
         return;
     }
@@ -272,7 +272,7 @@ void TecnyDialog::PripravStred(const KrokTecny& krok) {
     stav_.ZvolenyUtvar = "stred";
     stav_.Jmeno =
         stav_.Spravny ? std::string(VolneJmeno(krok)) : std::string(krok.JmenoChybnehoStredu);
-    stav_.lblText3 = "střed úsečky " + std::string(krok.Body[0]) + std::string(krok.Body[1]);
+    stav_.Rysovane = "střed úsečky " + std::string(krok.Body[0]) + std::string(krok.Body[1]);
     const Bod a = NajdiBod(misc_, krok.Body[0]);
     const Bod b = NajdiBod(misc_, krok.Body[1]);
     if (!(a == BEZ_BODU) && !(b == BEZ_BODU)) stav_.StredUsecky = StredUseckyBodu(a, b);

@@ -24,11 +24,11 @@ struct DvaPruseciky {
 
 /// The step in hand: all of it goes when the step is done or laid down.
 struct KrokVRuce {
-    Nastroj Tvar = Nastroj::Zadny;  ///< face of the pressed button
-    std::string ZvolenyUtvar;       ///< kind chosen for the step; empty between steps
-    std::string Jmeno;              ///< name of the new object
-    std::string OcekavanyBod;       ///< point to be marked, or line picked from the list
-    bool Spravny = false;           ///< the step's own tool is in hand
+    Nastroj VRuce = Nastroj::Zadny;  ///< the tool that was pressed
+    std::string ZvolenyUtvar;        ///< kind chosen for the step; empty between steps
+    std::string Jmeno;               ///< name of the new object
+    std::string OcekavanyBod;        ///< point to be marked, or line picked from the list
+    bool Spravny = false;            ///< the step's own tool is in hand
     bool CekaNaKresleni = false;
     bool KrokChybny = false;     ///< judged wrong already: the step costs nothing more
     int Zakladna = 0;            ///< row of the base line; 0: none
@@ -37,9 +37,8 @@ struct KrokVRuce {
     bool Tazeni = false;         ///< the button is held over the plane
     bool Zachyceno = false;      ///< the press caught a point
     Bod Start;
-    Seznam Combo;
-    std::string lblText3;
-    TextPanelu lblText4;
+    Seznam Vyber;
+    std::string Rysovane;  ///< name of the object in hand
     friend bool operator==(const KrokVRuce&, const KrokVRuce&) = default;
 };
 
@@ -125,7 +124,7 @@ private:
     void ZvolPrimku(const std::string& zaklad);
     void ZvolKruznici(const KrokTecny& krok, const std::string& stred);
     void ZvolOsu();
-    [[nodiscard]] std::array<Tlacitko, 6> Tlacitka(const Cviceni& c) const;
+    [[nodiscard]] MistaNastroju Nastroje(const Cviceni& c) const;
     [[nodiscard]] Gesto GestoKroku() const;
 
     // TecnyDialogPlocha.cpp: the plane

@@ -62,18 +62,18 @@ Bod StredUseckyBodu(Bod a, Bod b) {
 }
 
 bool TecnyDialog::CekaNaKresleni() const {
-    return stav_.CekaNaKresleni && !stav_.Skontrolovano && stav_.Tvar != Nastroj::Prusecik &&
-           stav_.Tvar != Nastroj::Stred;
+    return stav_.CekaNaKresleni && !stav_.Skontrolovano && stav_.VRuce != Nastroj::Prusecik &&
+           stav_.VRuce != Nastroj::Stred;
 }
 
 // ---- Clicks ----------------------------------------------------------------------------------
 
 Zachyt TecnyDialog::Chyt(float x, float y) const {
-    if (stav_.Tvar == Nastroj::Kruznice) return ZachytNejblizsi(misc_, x, y);
+    if (stav_.VRuce == Nastroj::Kruznice) return ZachytNejblizsi(misc_, x, y);
     // A parallel from a point of its own base would be the base again. Every object of this board
     // has its snap points in the row of the same number.
     return ZachytPosledni(misc_, x, y, false,
-                          stav_.Tvar == Nastroj::Rovnobezka ? stav_.Zakladna : 0);
+                          stav_.VRuce == Nastroj::Rovnobezka ? stav_.Zakladna : 0);
 }
 
 std::optional<Bod> TecnyDialog::ChytilBy(float x, float y) const {
@@ -84,7 +84,7 @@ std::optional<Bod> TecnyDialog::ChytilBy(float x, float y) const {
 
 std::optional<Bod> TecnyDialog::TrefilBy(float x, float y) const {
     if (!stav_.CekaNaKresleni || stav_.Skontrolovano || CekaNaKresleni()) return std::nullopt;
-    if (stav_.Tvar == Nastroj::Stred) {
+    if (stav_.VRuce == Nastroj::Stred) {
         const bool zasah =
             stav_.StredUsecky != BEZ_BODU && VDosahu(x, y, stav_.StredUsecky, DOSAH_STREDU);
         return zasah ? std::optional(stav_.StredUsecky) : std::nullopt;
@@ -105,8 +105,8 @@ int TecnyDialog::ZasazenyPar(float x, float y) const {
 
 void TecnyDialog::StiskPlochy(float x, float y) {
     if (!stav_.CekaNaKresleni || stav_.Skontrolovano) return;
-    if (stav_.Tvar == Nastroj::Prusecik) return KlikniPrusecik(x, y);
-    if (stav_.Tvar == Nastroj::Stred) return KlikniStred(x, y);
+    if (stav_.VRuce == Nastroj::Prusecik) return KlikniPrusecik(x, y);
+    if (stav_.VRuce == Nastroj::Stred) return KlikniStred(x, y);
     stav_.Tazeni = true;
     const Zachyt z = Chyt(x, y);
     stav_.Zachyceno = z.Je;
@@ -175,7 +175,7 @@ Bod TecnyDialog::StredTahu() const {
 Dvojice TecnyDialog::BodyPrimky(Bod konec) const {
     if (stav_.Zakladna == 0) return {stav_.Start, konec};
     const Utvar& zakladna = misc_.Utvary[stav_.Zakladna];
-    if (stav_.Tvar == Nastroj::Kolmice) return Kolme(zakladna, stav_.Start, konec);
+    if (stav_.VRuce == Nastroj::Kolmice) return Kolme(zakladna, stav_.Start, konec);
     if (!stav_.Zachyceno) return Rovnobezne(zakladna, stav_.Start, konec);
     // From a caught point a parallel stays on it.
     return Rovnobezne(zakladna, {zakladna.X1, zakladna.Y1}, stav_.Start);
@@ -184,16 +184,16 @@ Dvojice TecnyDialog::BodyPrimky(Bod konec) const {
 Gumicka TecnyDialog::Tah(float x, float y) const {
     if (!CekaNaKresleni() || !stav_.Tazeni) return {};
     const Bod konec = NaPixely(x, y);
-    if (stav_.Tvar == Nastroj::Kruznice) {
+    if (stav_.VRuce == Nastroj::Kruznice) {
         const Bod s = StredTahu();
         const int r = std::abs(konec.X - s.X);
         return {Gumicka::Tvar::Kruh, s.X - r, s.Y - r, s.X + r, s.Y + r, OdectiDelku(r)};
     }
-    const bool volna = stav_.Tvar == Nastroj::Rovnobezka && !stav_.Zachyceno;
+    const bool volna = stav_.VRuce == Nastroj::Rovnobezka && !stav_.Zachyceno;
     Dvojice b = BodyPrimky(konec);
     if (stav_.Zakladna != 0 && !volna) b.P2 = PataUkazatele(b, konec);
     Gumicka g{Gumicka::Tvar::Cara, b.P1.X, b.P1.Y, b.P2.X, b.P2.Y, {}};
-    if (stav_.Tvar == Nastroj::Rovnobezka && stav_.Zakladna != 0) {
+    if (stav_.VRuce == Nastroj::Rovnobezka && stav_.Zakladna != 0) {
         g.Text = OdectiVzdalenost(misc_.Utvary[stav_.Zakladna], stav_.Start, volna ? konec : b.P1);
     }
     return g;
@@ -201,7 +201,7 @@ Gumicka TecnyDialog::Tah(float x, float y) const {
 
 Gumicka TecnyDialog::Prejezd(float /*x*/, float /*y*/) const {
     const KrokTecny* krok = KrokFaze();
-    if (krok == nullptr || stav_.Tvar != Nastroj::Stred || stav_.Skontrolovano) return {};
+    if (krok == nullptr || stav_.VRuce != Nastroj::Stred || stav_.Skontrolovano) return {};
     Gumicka g;
     g.Text = krok->Odecet;
     return g;
@@ -213,9 +213,9 @@ void TecnyDialog::PusteniPlochy(float x, float y) {
     const Bod konec = NaPixely(x, y);
     platna_.Pic.DrawWidth = 1;
     Pamatuj(1, 1);
-    if (stav_.Tvar == Nastroj::Kruznice) {
+    if (stav_.VRuce == Nastroj::Kruznice) {
         NakresliKruznici(*krok, konec);
-    } else if (stav_.Tvar == Nastroj::Poloprimka) {
+    } else if (stav_.VRuce == Nastroj::Poloprimka) {
         const Bod s = stav_.Start;
         KresliPoloprimku(misc_, platna_.Pic, NovyRadek(stav_.Jmeno, "Y"),
                          {.Druh = stav_.ZvolenyUtvar, .P1 = s, .P2 = konec, .Popis2 = "Y"}, ANO);
@@ -239,7 +239,7 @@ void TecnyDialog::NakresliKruznici(const KrokTecny& krok, Bod konec) {
 
 /// Judged as drawn; only then are its points put where they are stored.
 void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
-    const bool spojnice = stav_.Tvar == Nastroj::Primka;
+    const bool spojnice = stav_.VRuce == Nastroj::Primka;
     const Bod konec = NaPixely(x, y);
     Dvojice b = BodyPrimky(konec);
     std::optional<Bod> pres;  // the named point that it passes
@@ -255,10 +255,10 @@ void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
     const bool podleBodu = spojnice && stav_.Jmeno == stav_.OcekavanyBod;
     const int n = podleBodu ? NovyRadek(stav_.Jmeno.substr(0, 1), stav_.Jmeno.substr(1))
                             : NovyRadek(stav_.Jmeno, "");
-    if (stav_.Tvar == Nastroj::Kolmice) {
+    if (stav_.VRuce == Nastroj::Kolmice) {
         KresliKolmici(misc_, platna_.Pic, n, {.Druh = stav_.ZvolenyUtvar, .P1 = b.P1, .P2 = b.P2},
                       ANO);
-    } else if (stav_.Tvar == Nastroj::Rovnobezka && stav_.Zakladna != 0) {
+    } else if (stav_.VRuce == Nastroj::Rovnobezka && stav_.Zakladna != 0) {
         KresliPosunutou(misc_, platna_.Pic, n, UlozRovnobezku(platna_.Pic, b, pres, konec));
     } else {
         KresliPrimku(misc_, platna_.Pic, n, {.Druh = stav_.ZvolenyUtvar, .P1 = b.P1, .P2 = b.P2},

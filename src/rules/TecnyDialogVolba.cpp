@@ -16,37 +16,35 @@ namespace {
 constexpr std::string_view VYZVA_STRED = "Zvol kliknutím na kreslící ploše střed úsečky.";
 constexpr std::string_view VYZVA_HOTOVO = "Proveď kontrolu hotové konstrukce.";
 
-constexpr int SIRKA_ZNAKU = 7;  // px that a longer name pushes the sign of a perpendicular
-
 }  // namespace
 
 void TecnyDialog::VyberRadku(int i) {
     const KrokTecny* krok = KrokFaze();
-    if (krok == nullptr || !stav_.Combo.Otevreny || i < 1 ||
-        i > static_cast<int>(stav_.Combo.Radky.size())) {
+    if (krok == nullptr || !stav_.Vyber.Otevreny || i < 1 ||
+        i > static_cast<int>(stav_.Vyber.Radky.size())) {
         return;
     }
-    const RadekSeznamu radek = stav_.Combo.Radky[static_cast<std::size_t>(i - 1)];
+    const RadekSeznamu radek = stav_.Vyber.Radky[static_cast<std::size_t>(i - 1)];
     if (!radek.Videt || !radek.Ziva) return;
-    stav_.Combo.Otevreny = false;
-    stav_.OcekavanyBod = radek.Tag;
-    if (stav_.Tvar == Nastroj::Osa) return ZvolOsu();
+    stav_.Vyber.Otevreny = false;
+    stav_.OcekavanyBod = radek.Jmena;
+    if (stav_.VRuce == Nastroj::Osa) return ZvolOsu();
     stav_.CekaNaKresleni = true;
-    if (stav_.Spravny && !krok->SpravnaVolba.empty() && radek.Tag != krok->SpravnaVolba) {
+    if (stav_.Spravny && !krok->SpravnaVolba.empty() && radek.Jmena != krok->SpravnaVolba) {
         PridejChybu(misc_, krok->ChybaVolby);
         stav_.KrokChybny = true;
     }
-    if (stav_.Tvar == Nastroj::Kruznice) return ZvolKruznici(*krok, radek.Tag);
-    if (stav_.Tvar == Nastroj::Primka) {
-        stav_.lblText3 = radek.Text;
+    if (stav_.VRuce == Nastroj::Kruznice) return ZvolKruznici(*krok, radek.Jmena);
+    if (stav_.VRuce == Nastroj::Primka) {
+        stav_.Rysovane = radek.Text;
         // A line that is no result gets no result's name.
-        if (radek.Tag == krok->VedlejsiVolba || JeVzata(i)) {
+        if (radek.Jmena == krok->VedlejsiVolba || JeVzata(i)) {
             stav_.Jmeno = "p" + std::to_string(stav_.Faze);
             stav_.Spravny = false;
         }
         return;
     }
-    ZvolPrimku(radek.Tag);
+    ZvolPrimku(radek.Jmena);
 }
 
 /// Whether another line was drawn by this row of the list already: it cannot be both results.
@@ -58,21 +56,16 @@ bool TecnyDialog::JeVzata(int radek) const {
 void TecnyDialog::ZvolPrimku(const std::string& zaklad) {
     stav_.Zakladna = NajdiCaru(misc_, zaklad);
     misc_.VybranyUtvar = stav_.Zakladna;
-    const std::string zacatek = "přímka " + stav_.Jmeno + ", " + stav_.Jmeno;
-    if (stav_.Tvar == Nastroj::Rovnobezka) {
-        stav_.lblText3 = zacatek + "||" + zaklad;
-        return;
-    }
-    stav_.lblText3 = zacatek + "      " + zaklad;
-    const int navic = 2 * (static_cast<int>(stav_.Jmeno.size()) - 1);
-    stav_.lblText4 = TextPanelu::Kolmo(navic * SIRKA_ZNAKU);
+    stav_.Rysovane = stav_.VRuce == Nastroj::Rovnobezka
+                         ? "přímka " + stav_.Jmeno + ", " + stav_.Jmeno + "||" + zaklad
+                         : NazevKolmice(stav_.Jmeno, zaklad);
 }
 
 void TecnyDialog::ZvolKruznici(const KrokTecny& krok, const std::string& stred) {
     stav_.StredKruznice = stred;
     for (const Volba& v : krok.Volby) {
         if (v.Prvek != stred) continue;
-        stav_.lblText3 =
+        stav_.Rysovane =
             "kružnice " + stav_.Jmeno + "(" + stred + ", r = " + std::string(v.Polomer) + ")";
     }
 }
@@ -104,27 +97,29 @@ void TecnyDialog::ZvolOsu() {
 
 // ---- What is shown ---------------------------------------------------------------------------
 
-std::array<Tlacitko, 6> TecnyDialog::Tlacitka(const Cviceni& c) const {
-    std::array<Tlacitko, 6> cmd;
+MistaNastroju TecnyDialog::Nastroje(const Cviceni& c) const {
+    using enum MistoNastroje::Stav;
+    MistaNastroju mista;
     const int posledni = static_cast<int>(c.Kroky.size());
     const bool zaKoncem = stav_.Faze > posledni;
     const KrokTecny& krok = *KrokFaze(zaKoncem ? posledni : stav_.Faze);
-    const bool vRuce = stav_.CekaNaKresleni || stav_.Combo.Otevreny;
+    const bool vRuce = stav_.CekaNaKresleni || stav_.Vyber.Otevreny;
     const bool muzeZacit = stav_.Faze > 1 || misc_.KonstrukceZahajena != NE || stav_.Znacky != 0;
     const bool volno = zadano_ && !zaKoncem && !vRuce && muzeZacit;
-    const bool sede = vRuce && stav_.Tvar == krok.Spravny && krok.SedeTvary[0] != Nastroj::Zadny;
-    const auto& tvary = sede ? krok.SedeTvary : krok.Tvary;
-    for (std::size_t i = 0; i < tvary.size(); ++i) {
-        cmd[i] = {static_cast<int>(tvary[i]), volno, volno && !stav_.Skontrolovano};
-        if (tvary[i] == Nastroj::Zadny) cmd[i] = {};
+    const bool sede =
+        vRuce && stav_.VRuce == krok.Spravny && krok.SedeNastroje[0] != Nastroj::Zadny;
+    const auto& nastroje = sede ? krok.SedeNastroje : krok.Nastroje;
+    for (std::size_t i = 0; i < nastroje.size(); ++i) {
+        if (nastroje[i] == Nastroj::Zadny) continue;
+        mista[i] = {nastroje[i], !volno ? Sedy : stav_.Skontrolovano ? Zamceny : Zivy};
     }
     // Back stays live while a point is to be marked: a crossing that could not be computed cannot
     // be marked at all.
     const bool mrtve = stav_.Zpatky && !zaKoncem && krok.MrtveZpet &&
                        std::ranges::none_of(minulost_, &Minulost::Cizi);
     const bool zpet = stav_.Faze > 1 && !stav_.Skontrolovano && !mrtve && (!vRuce || Znaci());
-    cmd[NASTROJ_ZPET - 1] = {TVAR_ZPET, zpet, zpet};
-    return cmd;
+    mista[NASTROJ_ZPET - 1] = {Nastroj::Zpet, zpet ? Zivy : Sedy};
+    return mista;
 }
 
 /// A line through two points names both in its row; a ray and a circle name theirs in the prompt.
@@ -140,10 +135,10 @@ Gesto TecnyDialog::GestoKroku() const {
         {Nastroj::Kruznice, Tvar::Kruznice}, {Nastroj::Stred, Tvar::Bod},
         {Nastroj::Prusecik, Tvar::Bod}};
     if (!stav_.CekaNaKresleni || stav_.Skontrolovano) return {};
-    const auto* r = std::ranges::find(RADKY, stav_.Tvar, &TahDruhu::Nastroj_);
+    const auto* r = std::ranges::find(RADKY, stav_.VRuce, &TahDruhu::Nastroj_);
     if (r == std::end(RADKY)) return {};
     // With nothing to pick by, the tool in hand is not named anywhere.
-    if (r->Jak != Tvar::Bod && stav_.lblText3.empty()) return {Tvar::Utvar, {}, {}, false};
+    if (r->Jak != Tvar::Bod && stav_.Rysovane.empty()) return {Tvar::Utvar, {}, {}, false};
     Gesto g{r->Jak, {}, {}, r->Jak == Tvar::Bod};
     if (g.Druh == Tvar::Primka && !stav_.OcekavanyBod.empty()) {
         g.Od = stav_.OcekavanyBod.substr(0, 1);
@@ -159,27 +154,24 @@ Gesto TecnyDialog::GestoKroku() const {
 Panel TecnyDialog::UkazPanel() const {
     Panel p;
     const Cviceni* c = Hrane();
-    p.PicZiva = false;
+    p.PlochaZiva = false;
     if (c == nullptr) return p;
-    p.Label1 = c->Zadani;
-    PolozkaZadani dano = HodnotaZadani(std::string(c->Dano), MEZERA);
-    dano.NovyRadek = true;
-    p.lblZadani = {dano};
-    p.cmd = Tlacitka(*c);
+    p.Uvod = c->Zadani;
+    p.Zadani = {{ZadanaVelicina::Druh::Slovy, "", std::string(c->Dano)}};
+    p.Nastroje = Nastroje(*c);
     const KrokTecny* krok = KrokFaze();
     if (stav_.HotovaKonstrukce) {
-        p.lblText1 = VYZVA_HOTOVO;
-    } else if (stav_.Tvar == Nastroj::Stred) {
-        p.lblText1 = VYZVA_STRED;
+        p.Vyzva = VYZVA_HOTOVO;
+    } else if (stav_.VRuce == Nastroj::Stred) {
+        p.Vyzva = VYZVA_STRED;
     } else {
         // Past the last step without a finish, the last prompt stays.
         const KrokTecny& k = krok != nullptr ? *krok : c->Kroky.back();
-        p.lblText1 = stav_.Zpatky && !k.VyzvaZpet.empty() ? k.VyzvaZpet : k.Vyzva;
+        p.Vyzva = stav_.Zpatky && !k.VyzvaZpet.empty() ? k.VyzvaZpet : k.Vyzva;
     }
-    p.lblText3 = stav_.lblText3;
-    p.lblText4 = stav_.lblText4;
-    p.Combo = stav_.Combo;
-    p.PicZiva = !stav_.HotovaKonstrukce && !stav_.Skontrolovano;
+    p.Rysovane.Nazev = stav_.Rysovane;
+    p.Vyber = stav_.Vyber;
+    p.PlochaZiva = !stav_.HotovaKonstrukce && !stav_.Skontrolovano;
     p.Kresleni = GestoKroku();
     p.Nezavrena = krok == nullptr && !stav_.HotovaKonstrukce;
     return p;

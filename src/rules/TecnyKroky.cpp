@@ -23,7 +23,7 @@ constexpr std::string_view VSECHNY_TECNY = "Narýsuj všechny tečny, procházej
 
 constexpr std::string_view STRED = "Střed úsečky";
 
-// Faces that come again and again.
+// Tools that come together again and again.
 constexpr std::array<Nastroj, 4> RYSUJ{Poloprimka, Kolmice, Rovnobezka, Kruznice};
 constexpr std::array<Nastroj, 4> SE_STREDEM{Poloprimka, Stred, Rovnobezka, Kruznice};
 constexpr std::array<Nastroj, 4> S_OSOU{Osa, Stred, Rovnobezka, Kruznice};
@@ -32,7 +32,7 @@ constexpr std::array<Nastroj, 4> OZNAC{Prusecik, Zadny, Zadny, Zadny};
 
 constexpr KrokTecny Oznac(std::string_view jmeno, std::string_view vyzva, ChybaKroku chyba,
                           std::string_view naPrimce) {
-    return {.Tvary = OZNAC,
+    return {.Nastroje = OZNAC,
             .Spravny = Prusecik,
             .Jmena = {jmeno},
             .Vyzva = vyzva,
@@ -41,7 +41,7 @@ constexpr KrokTecny Oznac(std::string_view jmeno, std::string_view vyzva, ChybaK
 }
 
 // "01": the tangents parallel to a.
-constexpr KrokTecny TECNA_01{.Tvary = RYSUJ,
+constexpr KrokTecny TECNA_01{.Nastroje = RYSUJ,
                              .Spravny = Rovnobezka,
                              .Chybne = {Kruznice},
                              .Jmena = {"t1", "t2"},
@@ -54,7 +54,7 @@ constexpr KrokTecny TECNA_01{.Tvary = RYSUJ,
                              .ChybaRysovani = 215,
                              .Zakladny = {"a", "b"}};
 constexpr KrokTecny KROKY_01[] = {
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kolmice,
      .Chybne = {Kruznice},
      .Jmena = {"b"},
@@ -74,7 +74,7 @@ constexpr KrokTecny KROKY_01[] = {
 };
 
 // "02": the tangents perpendicular to a.
-constexpr KrokTecny TECNA_02{.Tvary = RYSUJ,
+constexpr KrokTecny TECNA_02{.Nastroje = RYSUJ,
                              .Spravny = Kolmice,
                              .Chybne = {Kruznice},
                              .Jmena = {"t1", "t2"},
@@ -87,7 +87,7 @@ constexpr KrokTecny TECNA_02{.Tvary = RYSUJ,
                              .ChybaRysovani = 211,
                              .Zakladny = {"a", "b"}};
 constexpr KrokTecny KROKY_02[] = {
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Rovnobezka,
      .Chybne = {Kruznice},
      .Jmena = {"b"},
@@ -108,7 +108,7 @@ constexpr KrokTecny KROKY_02[] = {
 
 // "03": the tangents through A. The row "AS" draws a line that is no tangent; by itself it costs
 // nothing.
-constexpr KrokTecny TECNA_03{.Tvary = S_PRIMKOU,
+constexpr KrokTecny TECNA_03{.Nastroje = S_PRIMKOU,
                              .Spravny = Primka,
                              .Jmena = {"t1", "t2"},
                              .Vyzva = VSECHNY_TECNY,
@@ -118,7 +118,7 @@ constexpr KrokTecny TECNA_03{.Tvary = S_PRIMKOU,
                              .ChybaRysovani = 208,
                              .Zakladny = {"SA", "t1"}};
 constexpr KrokTecny KROKY_03[] = {
-    {.Tvary = SE_STREDEM,
+    {.Nastroje = SE_STREDEM,
      .Spravny = Stred,
      .Chybne = {Kruznice},
      .Jmena = {"B"},
@@ -128,7 +128,7 @@ constexpr KrokTecny KROKY_03[] = {
      .NaPrimce = "SA",
      .Odecet = STRED,
      .Zakladny = {"SA"}},
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kruznice,
      .Jmena = {"l"},
      .Vyzva = PO_BODU,
@@ -148,7 +148,7 @@ constexpr KrokTecny KROKY_03[] = {
 
 // "04": the smallest circle through A that touches a.
 constexpr KrokTecny KROKY_04[] = {
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kolmice,
      .Chybne = {Kruznice},
      .Jmena = {"b"},
@@ -162,7 +162,7 @@ constexpr KrokTecny KROKY_04[] = {
      .ChybaPruniku = 209,
      .Zakladny = {"a"}},
     Oznac("B", PRUSECIK, 214, "b"),
-    {.Tvary = SE_STREDEM,
+    {.Nastroje = SE_STREDEM,
      .Spravny = Stred,
      .Chybne = {Kruznice},
      .Jmena = {"C"},
@@ -172,7 +172,7 @@ constexpr KrokTecny KROKY_04[] = {
      .NaPrimce = "b",
      .Odecet = STRED,
      .Zakladny = {"a", "b"}},
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kruznice,
      .Jmena = {"k"},
      .Vyzva = PO_BODU,
@@ -184,7 +184,7 @@ constexpr KrokTecny KROKY_04[] = {
 };
 
 // "05" and "06" begin with the axis of AB: midpoint and perpendicular, or both at once by "osa".
-constexpr KrokTecny STRED_AB{.Tvary = S_OSOU,
+constexpr KrokTecny STRED_AB{.Nastroje = S_OSOU,
                              .Spravny = Stred,
                              .Chybne = {Kruznice},
                              .Jmena = {"C"},
@@ -198,7 +198,7 @@ constexpr KrokTecny STRED_AB{.Tvary = S_OSOU,
 // "05": the circle through A and B with its centre on a.
 constexpr KrokTecny KROKY_05[] = {
     STRED_AB,
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kolmice,
      .Chybne = {Kruznice},
      .Jmena = {"b"},
@@ -213,7 +213,7 @@ constexpr KrokTecny KROKY_05[] = {
      .Ceho = {"b", "a"},
      .Zakladny = {"AB", "a"}},
     Oznac("D", PRUSECIK, 214, "a"),
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kruznice,
      .Jmena = {"k"},
      .Vyzva = PO_BODU,
@@ -227,7 +227,7 @@ constexpr KrokTecny KROKY_05[] = {
 // "06": the circle through A that touches a at B.
 constexpr KrokTecny KROKY_06[] = {
     STRED_AB,
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kolmice,
      .Chybne = {Kruznice},
      .Jmena = {"b"},
@@ -239,7 +239,7 @@ constexpr KrokTecny KROKY_06[] = {
      .Jak = Soud::PodleZacatku,
      .ChybaRysovani = 211,
      .Zakladny = {"AB", "a"}},
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kolmice,
      .Chybne = {Kruznice},
      .Jmena = {"c"},
@@ -255,7 +255,7 @@ constexpr KrokTecny KROKY_06[] = {
      .Zakladny = {"AB", "a", "b"}},
     Oznac("D", PRUSECIK_PRIMEK, katalog::MIMO_PRUSECIK, "b"),
     // A midpoint here is a second point of the name D.
-    {.Tvary = SE_STREDEM,
+    {.Nastroje = SE_STREDEM,
      .Spravny = Kruznice,
      .Chybne = {Stred},
      .Jmena = {"k"},
@@ -273,7 +273,7 @@ constexpr KrokTecny KROKY_06[] = {
 // "07": the circle through A with the parallel tangents a and b. B is said to lie on a, though it
 // lies on b.
 constexpr KrokTecny KROKY_07[] = {
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kolmice,
      .Chybne = {Kruznice},
      .Jmena = {"c"},
@@ -287,8 +287,8 @@ constexpr KrokTecny KROKY_07[] = {
      .ChybaPruniku = 209,
      .Zakladny = {"a", "b"}},
     Oznac("B", PRUSECIK_KOLMICE, 214, "a"),
-    // After the press the circle's button takes the grey face of the perpendicular.
-    {.Tvary = SE_STREDEM,
+    // After the press the circle's place shows a grey perpendicular.
+    {.Nastroje = SE_STREDEM,
      .Spravny = Stred,
      .Chybne = {Kruznice},
      .Jmena = {"C"},
@@ -298,8 +298,8 @@ constexpr KrokTecny KROKY_07[] = {
      .NaPrimce = "c",
      .Odecet = STRED,
      .Zakladny = {"a", "b", "c"},
-     .SedeTvary = {Poloprimka, Stred, Rovnobezka, Kolmice}},
-    {.Tvary = RYSUJ,
+     .SedeNastroje = {Poloprimka, Stred, Rovnobezka, Kolmice}},
+    {.Nastroje = RYSUJ,
      .Spravny = Kruznice,
      .Jmena = {"k"},
      .Vyzva = PO_BODU,
@@ -314,7 +314,7 @@ constexpr KrokTecny KROKY_07[] = {
 
 // "08": the circle through A that touches a, its centre on b. B is said to lie on a here as well.
 constexpr KrokTecny KROKY_08[] = {
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kolmice,
      .Chybne = {Kruznice},
      .Jmena = {"c"},
@@ -330,7 +330,7 @@ constexpr KrokTecny KROKY_08[] = {
      .ChybaPruniku = 209,
      .Zakladny = {"a", "b"}},
     Oznac("B", PRUSECIK_KOLMICE, katalog::MIMO_PRUSECIK, "a"),
-    {.Tvary = SE_STREDEM,
+    {.Nastroje = SE_STREDEM,
      .Spravny = Kruznice,
      .Chybne = {Stred},
      .Jmena = {"k"},
@@ -348,7 +348,7 @@ constexpr KrokTecny KROKY_08[] = {
 // "09": the circles through A that touch both concentric circles. At step 1 there is no base line:
 // perpendicular and parallel are drawn as dragged.
 constexpr KrokTecny KROKY_09[] = {
-    {.Tvary = {Primka, Kolmice, Rovnobezka, Kruznice},
+    {.Nastroje = {Primka, Kolmice, Rovnobezka, Kruznice},
      .Spravny = Primka,
      .Chybne = {Kolmice, Kruznice},
      .Jmena = {"AS"},
@@ -361,7 +361,7 @@ constexpr KrokTecny KROKY_09[] = {
      .ChybaPruniku = 203},
     Oznac("B1", PRUSECIKY_K2, 217, "AS"),
     Oznac("B2", PRUSECIKY_K2, 217, "AS"),
-    {.Tvary = SE_STREDEM,
+    {.Nastroje = SE_STREDEM,
      .Spravny = Stred,
      .Chybne = {Kruznice},
      .Jmena = {"S1"},
@@ -371,7 +371,7 @@ constexpr KrokTecny KROKY_09[] = {
      .NaPrimce = "AS",
      .Odecet = "Střed úsečky AB1",
      .Zakladny = {"AS"}},
-    {.Tvary = SE_STREDEM,
+    {.Nastroje = SE_STREDEM,
      .Spravny = Stred,
      .Chybne = {Kruznice},
      .Jmena = {"S2"},
@@ -382,7 +382,7 @@ constexpr KrokTecny KROKY_09[] = {
      .Odecet = "Střed úsečky AB2",
      .Zakladny = {"AS"},
      .MrtveZpet = true},
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kruznice,
      .Jmena = {"l1"},
      .Vyzva = PO_BODU,
@@ -392,7 +392,7 @@ constexpr KrokTecny KROKY_09[] = {
      .ChybaRysovani = 212,
      .Zakladny = {"AS"},
      .MrtveZpet = true},
-    {.Tvary = RYSUJ,
+    {.Nastroje = RYSUJ,
      .Spravny = Kruznice,
      .Jmena = {"l2"},
      .Vyzva = PO_CARE_S_PREKLEPEM,

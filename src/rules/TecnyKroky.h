@@ -6,23 +6,11 @@
 #include <string_view>
 
 #include "rules/KatalogChyb.h"
+#include "rules/Panel.h"
 
 namespace rysovna {
 
 // The nine exercises of the tangent board as rows. The interpreter is TecnyDialog.
-
-/// What a step button stands for. The number is that of its face, whatNN.
-enum class Nastroj {
-    Zadny = 0,
-    Primka = 2,
-    Poloprimka = 3,
-    Kolmice = 4,
-    Rovnobezka = 5,
-    Kruznice = 6,
-    Stred = 7,
-    Osa = 8,
-    Prusecik = 9
-};
 
 /// A line of the pick list. Of a circle the name of its centre and its radius in words; of a line
 /// the names of its two points; of a perpendicular or parallel the name of its base.
@@ -44,9 +32,9 @@ enum class Prunik { Nic, PrimkaKruznice, Primky, Kruznice };
 
 /// One step of an exercise.
 struct KrokTecny {
-    std::array<Nastroj, 4> Tvary{};  ///< faces of cmd(1) to cmd(4); Zadny: hidden
+    std::array<Nastroj, 4> Nastroje{};  ///< what is offered, in its order
     Nastroj Spravny = Nastroj::Zadny;
-    std::array<Nastroj, 2> Chybne{};  ///< faces that cost 3 points at the press
+    std::array<Nastroj, 2> Chybne{};  ///< tools that cost 3 points at the press
     /// Names that the right object can get: the first whose solution entry is not done.
     std::array<std::string_view, 2> Jmena{};
     std::string_view Vyzva{};      ///< prompt of the step, on the way forward
@@ -71,7 +59,7 @@ struct KrokTecny {
     /// Bases for perpendiculars and parallels that are not the right tool.
     std::array<std::string_view, 3> Zakladny{};
     std::string_view JmenoChybnehoStredu{};  ///< of a midpoint that is a wrong choice
-    std::array<Nastroj, 4> SedeTvary{};      ///< grey faces after the press; all Zadny: as Tvary
+    std::array<Nastroj, 4> SedeNastroje{};   ///< what is seen after the press; all Zadny: the same
     /// Reached by back, the step leaves the back button dead. Not where an earlier step holds
     /// another object than its own: only back leads to what is then still to be drawn.
     bool MrtveZpet = false;

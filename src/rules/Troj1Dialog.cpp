@@ -53,37 +53,36 @@ bool Vyhovuje(const Losovani& l, const HodnotyPrikladu& h) {
 
 // ---- The assignment --------------------------------------------------------------------------
 
-/// A label with a name: a side by its letter, or an angle whose caption is set only when the
-/// data's name is the given word.
+/// A given quantity: a side by its letter, or an angle that is named anew only when the data's name
+/// is the given word.
 struct NazevVZadani {
     bool Uhel;
-    std::string_view Slovo;    ///< a side: its fixed letter, empty: the data's name
-    std::string_view Pismeno;  ///< an angle: its Symbol letter
-    int MezeraPred, MezeraZa;  ///< px before the label and before its value
+    std::string_view Slovo;  ///< a side: its fixed letter, empty: the data's name
+    std::string_view Nazev;  ///< of an angle
 };
-struct Sazba {
+struct ZadaniDruhu {
     std::string_view Druh;
     std::array<NazevVZadani, 3> Nazvy;
 };
 
-constexpr int MEZERA_SIRSI = 5;  // px
-constexpr NazevVZadani Strana(std::string_view pevne = "", int za = MEZERA) {
-    return {false, pevne, "", MEZERA, za};
+constexpr NazevVZadani Strana(std::string_view pevne = "") {
+    return {false, pevne, ""};
 }
-constexpr NazevVZadani Uhel(std::string_view slovo, std::string_view pismeno,
-                            int za = MEZERA_UHLU) {
-    return {true, slovo, pismeno, MEZERA, za};
+constexpr NazevVZadani Uhel(std::string_view slovo, std::string_view nazev) {
+    return {true, slovo, nazev};
 }
-// Kind 7 tests its second name against "gama" and would set "b": the data write "beta", so the
-// caption stays the designed one, which is "b" as well.
-constexpr Sazba SAZBA[] = {
+constexpr NazevVZadani ALFA = Uhel("alfa", "alfa"), BETA = Uhel("beta", "beta"),
+                       GAMA = Uhel("gama", "gama");
+// Kind 7 tests its second name against "gama" and would set "beta": the data write "beta", so what
+// is shown stays the designed one, which is "b" as well.
+constexpr ZadaniDruhu ZADANI[] = {
     {"1", {Strana("a"), Strana("b"), Strana("c")}},
-    {"2", {Uhel("alfa", "a"), Strana(), Strana()}},
-    {"3", {Strana(), Uhel("beta", "b"), Strana()}},
-    {"4", {Strana(), Strana(), Uhel("gama", "g")}},
-    {"5", {Strana(), Uhel("beta", "b", MEZERA_SIRSI), Uhel("gama", "g", MEZERA_SIRSI)}},
-    {"6", {Uhel("alfa", "a"), Strana(), Uhel("gama", "g", MEZERA_SIRSI)}},
-    {"7", {Uhel("alfa", "a"), Uhel("gama", "b"), Strana("", MEZERA_SIRSI)}},
+    {"2", {ALFA, Strana(), Strana()}},
+    {"3", {Strana(), BETA, Strana()}},
+    {"4", {Strana(), Strana(), GAMA}},
+    {"5", {Strana(), BETA, GAMA}},
+    {"6", {ALFA, Strana(), GAMA}},
+    {"7", {ALFA, Uhel("gama", "beta"), Strana()}},
 };
 
 constexpr int ULOHA_SSS = 1, ULOHA_SUS = 2;
@@ -108,25 +107,20 @@ bool Troj1Dialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
     return true;
 }
 
-void Troj1Dialog::SestavZadani(std::vector<PolozkaZadani>& zadani) const {
-    const auto* s = std::ranges::find(SAZBA, std::string_view(Hrany().Druh), &Sazba::Druh);
-    if (s == std::end(SAZBA)) return;
+void Troj1Dialog::SestavZadani(std::vector<ZadanaVelicina>& zadani) const {
+    const auto* s = std::ranges::find(ZADANI, std::string_view(Hrany().Druh), &ZadaniDruhu::Druh);
+    if (s == std::end(ZADANI)) return;
     const std::vector<Zadana> zadane = Zadane();
     for (std::size_t i = 0; i < s->Nazvy.size(); ++i) {
         const NazevVZadani& n = s->Nazvy[i];
-        const bool novyRadek = i != 1;
-        PolozkaZadani& nazev = zadani[2 * i];
-        if (n.Uhel) {
-            const bool shoda = zadane[i].Nazev == n.Slovo;
-            nazev = NazevUhlu(shoda ? n.Pismeno : std::string_view(nazev.Text), n.MezeraPred,
-                              novyRadek);
-        } else {
-            nazev =
-                NazevStrany(n.Slovo.empty() ? zadane[i].Nazev : n.Slovo, n.MezeraPred, novyRadek);
+        ZadanaVelicina& z = zadani[i];
+        z.Co = n.Uhel ? ZadanaVelicina::Druh::Uhel : ZadanaVelicina::Druh::Delka;
+        if (!n.Uhel) {
+            z.Nazev = n.Slovo.empty() ? zadane[i].Nazev : n.Slovo;
+        } else if (zadane[i].Nazev == n.Slovo) {
+            z.Nazev = n.Nazev;
         }
-        const bool posledni = i + 1 == s->Nazvy.size();
-        zadani[2 * i + 1] =
-            HodnotaZadani(TextHodnoty(Hodnoty()[i], zadane[i].Jednotka, posledni), n.MezeraZa);
+        z.Hodnota = TextHodnoty(Hodnoty()[i], zadane[i].Jednotka, i + 1 == s->Nazvy.size());
     }
 }
 

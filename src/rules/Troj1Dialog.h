@@ -13,7 +13,7 @@ public:
 
 protected:
     [[nodiscard]] bool VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) override;
-    void SestavZadani(std::vector<PolozkaZadani>& zadani) const override;
+    void SestavZadani(std::vector<ZadanaVelicina>& zadani) const override;
     [[nodiscard]] bool KruzniceJeChyba(bool krokCekal) const override;
 };
 

@@ -97,8 +97,7 @@ constexpr PrvniStrana PRVNI_STRANA[] = {{4, &Priklad::Nazev2},
                                         {8, &Priklad::Nazev2}};
 
 constexpr std::string_view STRED_USECKY = "Střed úsečky";
-constexpr int DOSAH_STREDU = 5;      // px, on either axis
-constexpr int ODSAZENI_STREDU = 15;  // px, of its name from the pointer
+constexpr int DOSAH_STREDU = 5;  // px, on either axis
 
 }  // namespace
 
@@ -154,7 +153,7 @@ Gumicka Troj2Dialog::Prejezd(float x, float y) const {
     for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
         const Utvar& u = misc_.Utvary[i];
         if (u.Jmeno3.empty() || !blizko(x, u.X3) || !blizko(y, u.Y3)) continue;
-        return {.Text = std::string(STRED_USECKY), .Odsazeni = ODSAZENI_STREDU};
+        return {.Text = std::string(STRED_USECKY), .JmenoBodu = true};
     }
     return {};
 }

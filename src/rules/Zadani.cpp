@@ -1,6 +1,6 @@
 #include "rules/Zadani.h"
 
-#include <utility>
+#include <algorithm>
 
 #include "base/Cisla.h"
 
@@ -8,12 +8,7 @@ namespace rysovna {
 
 namespace {
 
-constexpr std::pair<std::string_view, std::string_view> UHLY[] = {
-    {"alfa", "a"}, {"beta", "b"}, {"gama", "g"}, {"delta", "d"},
-    {"delt", "d"}, {"epsi", "e"}, {"omeg", "w"},
-};
-
-constexpr float VELIKOST_ZADANI = 10;  // points
+constexpr std::string_view UHLY[] = {"alfa", "beta", "gama", "delta", "delt", "epsi", "omeg"};
 
 }  // namespace
 
@@ -32,33 +27,17 @@ bool StejnaVelicina(std::string_view a, std::string_view b) {
     return cele(a) == cele(b);
 }
 
-std::string_view PismenoUhlu(std::string_view nazev) {
-    for (const auto& [jmeno, pismeno] : UHLY) {
-        if (jmeno == nazev) return pismeno;
-    }
-    return {};
+bool JeUhel(std::string_view nazev) {
+    return std::ranges::find(UHLY, nazev) != std::end(UHLY);
 }
 
 std::string TextHodnoty(int hodnota, std::string_view jednotka, bool posledni) {
     return "= " + TextCisla(hodnota) + " " + std::string(jednotka) + (posledni ? "" : ", ");
 }
 
-PolozkaZadani NazevStrany(std::string_view nazev, int mezera, bool novyRadek) {
-    PolozkaZadani p{.Text = std::string(nazev), .Mezera = mezera, .NovyRadek = novyRadek};
-    p.Font = {Pismo::Rez::MsSansSerif, VELIKOST_ZADANI, true, false};
-    return p;
-}
-
-PolozkaZadani NazevUhlu(std::string_view pismeno, int mezera, bool novyRadek) {
-    PolozkaZadani p{.Text = std::string(pismeno), .Mezera = mezera, .NovyRadek = novyRadek};
-    p.Font = {Pismo::Rez::Symbol, VELIKOST_ZADANI, false, false};
-    return p;
-}
-
-PolozkaZadani HodnotaZadani(std::string text, int mezera) {
-    PolozkaZadani p{.Text = std::move(text), .Mezera = mezera};
-    p.Font = {Pismo::Rez::MsSansSerif, VELIKOST_ZADANI, false, false};
-    return p;
+std::string NazevKolmice(std::string_view jmeno, std::string_view zaklad) {
+    const std::string j(jmeno);
+    return "přímka " + j + ", " + j + " " + std::string(KOLMO) + " " + std::string(zaklad);
 }
 
 int VylosujPriklad(Misc& misc) {

@@ -34,24 +34,18 @@ struct Zadana {
 /// Whether two names mean the same quantity: data spell delta also "delt".
 [[nodiscard]] bool StejnaVelicina(std::string_view a, std::string_view b);
 
-/// Space before a label of the assignment, and before the value of an angle, px.
-constexpr int MEZERA = 2, MEZERA_UHLU = 4;
-
 /// Whether three lengths make a triangle, strictly.
 [[nodiscard]] bool Trojuhelnikova(double a, double b, double c);
 
-/// The Symbol letter of an angle's name ("alfa" is "a", "beta" "b", "gama" "g", "delta" and "delt"
-/// "d", "epsi" "e", "omeg" "w"); empty for a name that is no angle.
-[[nodiscard]] std::string_view PismenoUhlu(std::string_view nazev);
+/// Whether a quantity of this name is an angle.
+[[nodiscard]] bool JeUhel(std::string_view nazev);
 
-/// The caption of a value's label: "= ", the number with a blank in place of its sign, the unit,
-/// and ", " unless it is the last.
+/// What stands behind the name of a given quantity: "= ", the number with a blank in place of its
+/// sign, the unit, and ", " unless it is the last.
 [[nodiscard]] std::string TextHodnoty(int hodnota, std::string_view jednotka, bool posledni);
 
-/// A label with a side's name, italic, and one with an angle's, in Symbol.
-[[nodiscard]] PolozkaZadani NazevStrany(std::string_view nazev, int mezera, bool novyRadek);
-[[nodiscard]] PolozkaZadani NazevUhlu(std::string_view pismeno, int mezera, bool novyRadek);
-[[nodiscard]] PolozkaZadani HodnotaZadani(std::string text, int mezera);
+/// How the object in hand is called that stands upright on another: "přímka b, b ⊥ AB".
+[[nodiscard]] std::string NazevKolmice(std::string_view jmeno, std::string_view zaklad);
 
 /// Chooses an example of the file: the whole part of PocetPrikladu times r plus 1. There is no
 /// memory: the same may come twice.

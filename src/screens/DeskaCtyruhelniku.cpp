@@ -65,22 +65,22 @@ void DeskaCtyruhelniku::Change(TextBox& t) {
 }
 
 void DeskaCtyruhelniku::UkazDalsi(const Panel& panel) {
-    const bool radky = panel.Vstupy.size() == 3;
+    const bool radky = panel.Veliciny.size() == 3;
     for (Label* l : {&lblText5, &lblText6, &lblText7, &lblText8, &lblText9}) l->Visible = radky;
     txtVstup2.Visible = txtVstup3.Visible = radky;
     Obdelnik prvni = BOX_UTVARU;
     if (radky) {
         prvni = {BOX_VLEVO, RADEK_NAHORE, BOX_SIRKA, BOX_VYSKA};
-        lblText5.Caption = panel.Vstupy[0].Nazev;
-        lblText6.Caption = panel.Vstupy[1].Nazev;
-        lblText7.Caption = panel.Vstupy[2].Nazev;
+        lblText5.Caption = panel.Veliciny[0].Nazev;
+        lblText6.Caption = panel.Veliciny[1].Nazev;
+        lblText7.Caption = panel.Veliciny[2].Nazev;
         lblText4.Left = JEDNOTKA_VLEVO;
         lblText4.Top = RADEK_NAHORE + 2;
-        lblText8.Caption = panel.Vstupy[1].Jednotka;
-        lblText9.Caption = panel.Vstupy[2].Jednotka;
+        lblText8.Caption = panel.Veliciny[1].Jednotka;
+        lblText9.Caption = panel.Veliciny[2].Jednotka;
         TextBox* const boxy[] = {&txtVstup2, &txtVstup3};
         for (std::size_t i = 0; i < 2; ++i) {
-            const Vstup& v = panel.Vstupy[i + 1].Box;
+            const Vstup& v = panel.Veliciny[i + 1].Hodnota;
             boxy[i]->Enabled = v.Ziva;
             if (boxy[i]->Text == v.Text) continue;
             boxy[i]->Text = v.Text;

@@ -1,5 +1,7 @@
 #include "screens/DeskaForm.h"
 
+#include <algorithm>
+
 #include "base/Cisla.h"
 #include "platform/Host.h"
 #include "platform/Paleta.h"
@@ -33,6 +35,31 @@ constexpr std::array<Obdelnik, 6> TLACITKA = {{{16, 280, 94, 32},
                                                {111, 312, 94, 32},
                                                {16, 404, 94, 32},
                                                {111, 404, 94, 32}}};
+
+/// The face of a step button: the number NN of its pictures whatNN.
+constexpr struct {
+    Nastroj Co;
+    int Tvar;
+} TVARY[] = {{Nastroj::Usecka, 1},
+             {Nastroj::Primka, 2},
+             {Nastroj::Poloprimka, 3},
+             {Nastroj::Kolmice, 4},
+             {Nastroj::Rovnobezka, 5},
+             {Nastroj::Kruznice, 6},
+             {Nastroj::Stred, 7},
+             {Nastroj::Osa, 8},
+             {Nastroj::Prusecik, 9},
+             {Nastroj::Trojuhelnik, 10},
+             {Nastroj::StredSoumernosti, 11},
+             {Nastroj::Zpet, 12},
+             {Nastroj::Veta, 13},
+             {Nastroj::Sestroj, 14},
+             {Nastroj::Obraz, 15}};
+
+int TvarNastroje(Nastroj co) {
+    const auto* t = std::ranges::find_if(TVARY, [co](const auto& r) { return r.Co == co; });
+    return t == std::end(TVARY) ? 0 : t->Tvar;
+}
 
 constexpr float PISMO_PANELU = 8;  // points, at 15 twips a pixel
 
@@ -92,16 +119,7 @@ void DeskaForm::RozlozOvladace() {
     Image1.Tag = "1";
 
     RozlozRadu();
-    const Seznam seznam;
-    Pridej(Combo, "Combo", {372, 444, seznam.Sirka, seznam.Vyska});
-    Combo.Ramecek = true;
-    Combo.Visible = false;
-    PridejPole(ComboLabel, "ComboLabel", {3, 2, seznam.SirkaRadku, Seznam::VYSKA_RADKU}, &Combo);
-    for (std::size_t i = 0; i < ComboLabel.size(); ++i) {
-        ComboLabel[i].Top = 2 + static_cast<int>(i) * Seznam::VYSKA_RADKU;
-        ComboLabel[i].WordWrap = false;
-        ComboLabel[i].Sazba = true;
-    }
+    RozlozSeznam();
     OcislujZastavky();
     for (PictureBox& t : cmd) t.Ramovat = true;
     for (Label& l : ComboLabel) l.Ramovat = true;
@@ -129,8 +147,8 @@ void DeskaForm::NactiObrazky() {
     s_.PokracujObrazek = NactiObrazek(s_, hry + "pokracbg.bmp");
     picPokracuj.Picture = s_.PokracujObrazek;
     picPokracuj.Enabled = false;
-    for (const int tvar : deska_.Tvary)
-        tvary_[tvar] = NactiDvojici(s_, hry + "what" + DveCislice(tvar));
+    for (const Nastroj n : deska_.Nastroje)
+        tvary_[n] = NactiDvojici(s_, hry + "what" + DveCislice(TvarNastroje(n)));
     kontrolovano_ = NactiObrazek(s_, hry + "mkont.bmp");
     hodnoceniDobre_ = NactiObrazek(s_, hry + "Check_ok.bmp");
     hodnoceniSpatne_ = NactiObrazek(s_, hry + "Check_ko.bmp");

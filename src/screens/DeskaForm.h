@@ -21,17 +21,18 @@ namespace rysovna {
 
 /// A board: all that the screens know of it. The program's own stand in Desky.cpp.
 struct RadekDesky {
-    std::string_view Jmeno;      ///< of its screen
-    MapaRadku Mapa;              ///< of its tasks' files
-    std::span<const int> Tvary;  ///< numbers of the faces whatNN that its step buttons can have
+    std::string_view Jmeno;             ///< of its screen
+    MapaRadku Mapa;                     ///< of its tasks' files
+    std::span<const Nastroj> Nastroje;  ///< that its step buttons can stand for
     std::unique_ptr<Dialog> (*VyrobDialog)(Misc& misc, Platna platna);
     std::shared_ptr<Form> (*VyrobForm)(Sezeni& s, const RadekDesky& deska);
 };
 
 /// The row of a board with the dialogue D in the frame F.
 template <class D, class F>
-constexpr RadekDesky DeskaS(std::string_view jmeno, MapaRadku mapa, std::span<const int> tvary) {
-    return {jmeno, mapa, tvary,
+constexpr RadekDesky DeskaS(std::string_view jmeno, MapaRadku mapa,
+                            std::span<const Nastroj> nastroje) {
+    return {jmeno, mapa, nastroje,
             [](Misc& misc, Platna platna) -> std::unique_ptr<Dialog> {
                 return std::make_unique<D>(misc, platna);
             },
@@ -148,7 +149,10 @@ private:
     void UkazSeznamKlavesam();
     [[nodiscard]] Bod VRozsahu(Bod kriz) const;
     // DeskaPanel.cpp: the panel as it is shown, and its slide
-    void UkazZadani(const std::vector<PolozkaZadani>& zadani);
+    void RozlozSeznam();
+    void UkazNastroje(const MistaNastroju& mista);
+    void UkazVelicinu(const Panel& panel);
+    void UkazZadani(const std::vector<ZadanaVelicina>& zadani);
     void UkazSeznam(const Seznam& seznam);
     void KresliNacrt();
     void SlozPanel();
@@ -179,7 +183,7 @@ private:
     std::unique_ptr<Dialog> dialog_;
     Hover hover_{s_};  ///< 1 to 4 PicTop, 5 to 8 picSipka
     std::array<DvojiceObrazku, 4> horni_, sipky_;
-    std::map<int, DvojiceObrazku> tvary_;
+    std::map<Nastroj, DvojiceObrazku> tvary_;
     Obrazek panel_, hodnoceniDobre_, hodnoceniSpatne_, kontrolovano_;
     int zbyvaPrikladu_ = 0;
     bool cekaNaZadani_ = false;  ///< the plane is empty, the new example not chosen yet

@@ -16,8 +16,8 @@ namespace {
 
 constexpr int LEVE = 1;
 
-// How far below the pointer the read-out stands, px.
-constexpr int ODECET_Y = 2;
+// How far to the right of the pointer and below it the read-out stands, px; the name of a point.
+constexpr int ODECET_X = 12, ODECET_Y = 2, JMENO_X = 15;
 // How far above a finger, which hides what is below it, px.
 constexpr int NAD_PRSTEM = 48;
 
@@ -36,7 +36,7 @@ constexpr std::uint8_t HOVER_SIPKY = 4;  ///< hover number before the first arro
 
 void DeskaForm::SkryjSeznam() {
     if (Ceka(PO_VOLBE)) return;  // it is hidden already, and the pick holds
-    if (!Combo.Visible && !dialog_->UkazPanel().Combo.Otevreny) return;
+    if (!Combo.Visible && !dialog_->UkazPanel().Vyber.Otevreny) return;
     dialog_->ZavriSeznam();
     Ukaz();
 }
@@ -191,12 +191,12 @@ void DeskaForm::StiskNastroje(const PictureBox& tlacitko, const Mys& m) {
 
 Cinnost<> DeskaForm::VyberRadku(int i) {
     ZvukStisku(s_);
-    const Seznam seznam = dialog_->UkazPanel().Combo;
+    const Seznam seznam = dialog_->UkazPanel().Vyber;
     Combo.Visible = false;
     if (Ceka(PO_VOLBE)) co_return;
     co_await Cekani(CEKANI_PO_VOLBE, PO_VOLBE);
     // Another list may have come up, or this one gone, while the wait let events through.
-    if (dialog_->UkazPanel().Combo == seznam) dialog_->VyberRadku(i);
+    if (dialog_->UkazPanel().Vyber == seznam) dialog_->VyberRadku(i);
     Ukaz();
 }
 
@@ -229,7 +229,7 @@ void DeskaForm::UkazOdecet(const Gumicka& g, const Mys& m) {
     if (!Text.Visible) return;
     Text.Caption = g.Text;
     Text.PodleTextu();
-    Text.Left = Zaokrouhli(m.X) + g.Odsazeni;
+    Text.Left = Zaokrouhli(m.X) + (g.JmenoBodu ? JMENO_X : ODECET_X);
     Text.Top = Zaokrouhli(m.Y) + ODECET_Y;
     if (!m.Prst && !m.Zvednut) return;
     Text.Left = std::clamp(Text.Left, 0, Pic.Width - Text.Width);

@@ -18,10 +18,15 @@ namespace rysovna {
 
 namespace {
 
-constexpr int TVARY_TROJUHELNIKU[] = {1, 3, 4, 5, 6, 12},
-              TVARY_CTYRUHELNIKU[] = {3, 4, 5, 6, 10, 12, 13, 14},
-              TVARY_ROVNOBEZNIKU[] = {10, 11, 12, 13, 14, 15},
-              TVARY_TECEN[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 12};
+using enum Nastroj;
+constexpr Nastroj NASTROJE_TROJUHELNIKU[] = {Usecka,     Poloprimka, Kolmice,
+                                             Rovnobezka, Kruznice,   Zpet};
+constexpr Nastroj NASTROJE_CTYRUHELNIKU[] = {Poloprimka,  Kolmice, Rovnobezka, Kruznice,
+                                             Trojuhelnik, Zpet,    Veta,       Sestroj};
+constexpr Nastroj NASTROJE_ROVNOBEZNIKU[] = {Trojuhelnik, StredSoumernosti, Zpet,
+                                             Veta,        Sestroj,          Obraz};
+constexpr Nastroj NASTROJE_TECEN[] = {Usecka,   Primka, Poloprimka, Kolmice,  Rovnobezka,
+                                      Kruznice, Stred,  Osa,        Prusecik, Zpet};
 
 struct DeskaProgramu {
     Deska Ktera;
@@ -30,17 +35,18 @@ struct DeskaProgramu {
 
 /// The row of a board, its form named as it is in the list of tasks.
 template <class D, class F>
-constexpr DeskaProgramu Radek(Deska ktera, std::string_view jmeno, std::span<const int> tvary) {
-    return {ktera, DeskaS<D, F>(jmeno, MapaDesky(ktera), tvary)};
+constexpr DeskaProgramu Radek(Deska ktera, std::string_view jmeno,
+                              std::span<const Nastroj> nastroje) {
+    return {ktera, DeskaS<D, F>(jmeno, MapaDesky(ktera), nastroje)};
 }
 
 constexpr DeskaProgramu DESKY[] = {
-    Radek<Troj1Dialog, DeskaForm>(Deska::Troj1Form, "Troj1Form", TVARY_TROJUHELNIKU),
-    Radek<Troj2Dialog, DeskaForm>(Deska::Troj2Form, "Troj2Form", TVARY_TROJUHELNIKU),
-    Radek<CtyrUDialog, DeskaCtyruhelniku>(Deska::CtyrUForm, "CtyrUForm", TVARY_CTYRUHELNIKU),
-    Radek<RovnoDialog, DeskaCtyruhelniku>(Deska::RovnoForm, "RovnoForm", TVARY_ROVNOBEZNIKU),
-    Radek<LichoDialog, DeskaCtyruhelniku>(Deska::LichoForm, "LichoForm", TVARY_CTYRUHELNIKU),
-    Radek<TecnyDialog, TecnyForm>(Deska::TecnyForm, "TecnyForm", TVARY_TECEN),
+    Radek<Troj1Dialog, DeskaForm>(Deska::Troj1Form, "Troj1Form", NASTROJE_TROJUHELNIKU),
+    Radek<Troj2Dialog, DeskaForm>(Deska::Troj2Form, "Troj2Form", NASTROJE_TROJUHELNIKU),
+    Radek<CtyrUDialog, DeskaCtyruhelniku>(Deska::CtyrUForm, "CtyrUForm", NASTROJE_CTYRUHELNIKU),
+    Radek<RovnoDialog, DeskaCtyruhelniku>(Deska::RovnoForm, "RovnoForm", NASTROJE_ROVNOBEZNIKU),
+    Radek<LichoDialog, DeskaCtyruhelniku>(Deska::LichoForm, "LichoForm", NASTROJE_CTYRUHELNIKU),
+    Radek<TecnyDialog, TecnyForm>(Deska::TecnyForm, "TecnyForm", NASTROJE_TECEN),
 };
 
 }  // namespace

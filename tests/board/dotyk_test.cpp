@@ -126,10 +126,10 @@ TEST_F(DotykDesky, ZtraceneZvednutiNevadi) {
             Okna().PrstDolu(20, 20, r.Hra.Host().TickCount());
         }
         r.Hra.Cekej(700);
-        const auto predtim = deska.Dialogem().UkazPanel().cmd[0].Zive;
+        const auto predtim = deska.Dialogem().UkazPanel().Nastroje[0].Zivy();
         const Bod zona = deska.Dialogem().MistaNacrtu()[0];
         Klepni({roh.X + zona.X, roh.Y + zona.Y});
-        EXPECT_NE(deska.Dialogem().UkazPanel().cmd[0].Zive, predtim) << mysi;
+        EXPECT_NE(deska.Dialogem().UkazPanel().Nastroje[0].Zivy(), predtim) << mysi;
     }
 }
 
@@ -165,7 +165,7 @@ TEST_F(DotykDesky, KlepnutiVedleZonySePocitaJenJednoznacne) {
     };
     const auto znacek = [&] {
         const Panel p = deska->Dialogem().UkazPanel();
-        return std::ranges::count_if(p.cmd, [](const Tlacitko& t) { return t.Zive; }) > 0;
+        return std::ranges::any_of(p.Nastroje, &MistoNastroje::Zivy);
     };
     // Below the lowest side of the sketch there is nothing else.
     Bod dole{144, 176};

@@ -118,7 +118,7 @@ TEST_F(RamecDesky, SeznamZavreStiskVedleANepadneSNimKrok) {
         stisk(r);
         EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
         EXPECT_FALSE(r.Hra.Prvek("Combo").Visible);
-        EXPECT_FALSE(Ukazany(r).Combo.Otevreny);
+        EXPECT_FALSE(Ukazany(r).Vyber.Otevreny);
         EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 0);
     }
 }
@@ -276,7 +276,7 @@ TEST_F(RamecDesky, NezSeLosujePrikladKontrolaAniNovyNicNedelaji) {
             EXPECT_EQ(r.Hra.Prvek("Image1").Tag, "1");
             // What is pressed while it slides is not heard.
             EXPECT_EQ(std::ranges::count(r.Hra.NoveZvuky(), "click.wav"), kdy == 140 ? 2 : 3);
-            EXPECT_EQ(Ukazany(r).lblZadani.size(), 6U);
+            EXPECT_EQ(Ukazany(r).Zadani.size(), 3U);
             // The old marks are gone; the one made once the example was there stays.
             EXPECT_TRUE(r.Hra.Prvek("cmd", 1).Enabled);
             r.Kdo.Oznac("a");

@@ -61,9 +61,9 @@ protected:
         hodnoty[0] = misc_.Generator.D(DELKA.Rozpeti, DELKA.Zaklad);
         return true;
     }
-    void Nabidni(int /*i*/) override {
+    void Nabidni(Nastroj /*co*/) override {
         stav_.ZvolenyUtvar = USECKA;
-        OtevriSeznam(Seznam::UZKY, {{"AB", true, true, "AB"}});
+        OtevriSeznam(Seznam::Obsah::Jmena, {{"AB", true, true, "AB"}});
     }
     void ZvolRadek(std::size_t /*i*/) override {
         ZacniUtvar("A", "B");
@@ -71,7 +71,7 @@ protected:
         Zapis(USECKA, "a");
     }
     void PosudStisk(const Zachyt& /*zachyt*/) override {
-        if (Cislo(stav_.txtVstup.Text) != Hodnoty()[0]) PridejChybu(misc_, ZAPSANA);
+        if (Cislo(stav_.Rysovane.Hodnota.Text) != Hodnoty()[0]) PridejChybu(misc_, ZAPSANA);
     }
     void PosudOdecet(double odecet) override {
         if (odecet != Hodnoty()[0]) PridejChybu(misc_, NARYSOVANA);
@@ -83,9 +83,10 @@ protected:
     }
     [[nodiscard]] int ChybnychPrvku() const override { return 0; }
     void UkazFazi(Panel& panel) const override {
-        panel.lblText1 = "Zvol úsečku a narýsuj ji.";
+        panel.Vyzva = "Zvol úsečku a narýsuj ji.";
         const bool zacina = stav_.Faze == KONSTRUKCE && MuzeZacit();
-        UkazNastroje(panel, {1, 0, 0, 0, TVAR_ZPET, 0},
+        using enum Nastroj;
+        UkazNastroje(panel, {Usecka, Zadny, Zadny, Zadny, Zpet, Zadny},
                      {zacina, false, false, false, stav_.Faze > KONSTRUKCE});
     }
 
@@ -96,8 +97,8 @@ private:
 // ---- 3. Its row, and the task that it plays --------------------------------------------------
 
 constexpr Slot POLE[] = {mapa::Druh, mapa::Nazev1, mapa::Jednotka1};
-constexpr int TVARY[] = {1, TVAR_ZPET};
-constexpr RadekDesky DESKA = DeskaS<UseckaDialog, DeskaForm>("UseckaForm", {POLE}, TVARY);
+constexpr Nastroj NASTROJE[] = {Nastroj::Usecka, Nastroj::Zpet};
+constexpr RadekDesky DESKA = DeskaS<UseckaDialog, DeskaForm>("UseckaForm", {POLE}, NASTROJE);
 constexpr int ULOHA = 3;  // it takes the place of that task, and its pictures
 
 std::shared_ptr<Form> VyrobSedm(Sezeni& s, int cisloUlohy) {

@@ -96,13 +96,15 @@ std::string CoJeVidet(const DeskaForm& d) {
     s << int{m.CisloUlohy} << '|' << static_cast<int>(d.CimRady()) << '|' << m.PocetUtvaru << '|'
       << v.NacrtVysunuty << v.Tahne << v.Podlozka << '|' << v.Odecet << '|' << v.MrtvyNastroj
       << static_cast<int>(v.Pod) << '|' << v.PodPrstenem.Jmeno << v.PodPrstenem.Oznaceny << '|'
-      << (p.Kresleni.Druh != Gesto::Tvar::Zadny) << p.PicZiva << p.Nesestrojen << '|';
-    for (const Tlacitko& t : p.cmd) s << t.Tvar << (t.Barevne ? 'b' : 's') << t.Zive << ' ';
-    s << '|' << p.lblText1 << '|' << p.lblText2 << '|' << p.lblText3 << '|' << p.lblText4.Text;
-    s << '|' << p.txtVstup.Videt << p.txtVstup.Ziva << p.txtVstup.Text;
-    for (const RadekVstupu& r : p.Vstupy) s << '|' << r.Nazev << r.Box.Text;
-    if (p.Combo.Otevreny) {
-        for (const RadekSeznamu& r : p.Combo.Radky) s << '|' << r.Text << r.Videt << r.Ziva;
+      << (p.Kresleni.Druh != Gesto::Tvar::Zadny) << p.PlochaZiva << p.Nesestrojen << '|';
+    for (const MistoNastroje& n : p.Nastroje)
+        s << static_cast<int>(n.Co) << "sbz"[static_cast<int>(n.Jak)] << ' ';
+    const auto& [nazev, hodnota, jednotka] = p.Rysovane;
+    s << '|' << p.Vyzva << '|' << p.Nadpis << '|' << nazev << '|' << jednotka;
+    s << '|' << hodnota.Videt << hodnota.Ziva << hodnota.Text;
+    for (const Velicina& r : p.Veliciny) s << '|' << r.Nazev << r.Hodnota.Text;
+    if (p.Vyber.Otevreny) {
+        for (const RadekSeznamu& r : p.Vyber.Radky) s << '|' << r.Text << r.Videt << r.Ziva;
     }
     return s.str();
 }

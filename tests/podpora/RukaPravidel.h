@@ -18,7 +18,7 @@ class RukaPravidel : public hrac::Ruka {
 public:
     [[nodiscard]] const Dialog& Hrany() const override { return Hra(); }
     [[nodiscard]] std::vector<hrac::Zadano> Zadani() const override {
-        return hrac::CtiZadani(Hra().UkazPanel().lblZadani);
+        return hrac::CtiZadani(Hra().UkazPanel().Zadani);
     }
     void Posun(int dx, int dy) override { Hra().Posun(dx, dy); }
     void Zkontroluj() override { Hra().Zkontroluj(); }

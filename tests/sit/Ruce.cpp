@@ -33,7 +33,7 @@ int Vracejici::Faze() const {
 }
 
 bool Vracejici::MuzeZpet() const {
-    return Hrany().UkazPanel().cmd[ZPET - 1].Zive;
+    return Hrany().UkazPanel().Nastroje[ZPET - 1].Zivy();
 }
 
 void Vracejici::NovyPriklad(int poradi) {
@@ -118,7 +118,7 @@ void Vracejici::VratSe() {
     const auto naZacatek = [this] { return posunuto_ != Bod{} && Faze() == 2; };
     if (naZacatek()) return;
     // An open list may lie over an arrow.
-    const bool sipky = !Hrany().UkazPanel().Combo.Otevreny && los_.Cislo(KAZDY) == 0;
+    const bool sipky = !Hrany().UkazPanel().Vyber.Otevreny && los_.Cislo(KAZDY) == 0;
     const Bod posunuto = sipky ? Sipky() : Bod{};
     do {
         ++souhrn_.ZpetZFaze[Faze()];
@@ -153,16 +153,16 @@ Bod Nedbala::Nekde() {
 
 std::vector<int> Nedbala::ZiveNastroje() const {
     std::vector<int> zive;
-    const auto& cmd = Hrany().UkazPanel().cmd;
-    for (int i = 1; i <= static_cast<int>(cmd.size()); ++i) {
-        if (i != ZPET && cmd[static_cast<std::size_t>(i - 1)].Zive) zive.push_back(i);
+    const MistaNastroju nastroje = Hrany().UkazPanel().Nastroje;
+    for (int i = 1; i <= static_cast<int>(nastroje.size()); ++i) {
+        if (i != ZPET && nastroje[static_cast<std::size_t>(i - 1)].Zivy()) zive.push_back(i);
     }
     return zive;
 }
 
 std::vector<int> Nedbala::ZiveRadky() const {
     std::vector<int> zive;
-    const Seznam seznam = Hrany().UkazPanel().Combo;
+    const Seznam seznam = Hrany().UkazPanel().Vyber;
     for (std::size_t i = 0; seznam.Otevreny && i < seznam.Radky.size(); ++i) {
         if (seznam.Radky[i].Videt && seznam.Radky[i].Ziva) zive.push_back(static_cast<int>(i) + 1);
     }
@@ -210,7 +210,7 @@ void Nedbala::Pred(Ukon& u) {
             if (const auto zive = ZiveRadky(); !zive.empty()) {
                 u.Cislo = Nektere(zive);
                 u.Text =
-                    Hrany().UkazPanel().Combo.Radky[static_cast<std::size_t>(u.Cislo - 1)].Text;
+                    Hrany().UkazPanel().Vyber.Radky[static_cast<std::size_t>(u.Cislo - 1)].Text;
             }
             return;
         case Ukon::Druh::Text:
@@ -235,7 +235,7 @@ void Nedbala::Neco() {
     if (!radky.empty() && co < 8) {
         const int i = Nektere(radky);
         RukaNaDesce::StiskRadku(
-            i, Hrany().UkazPanel().Combo.Radky[static_cast<std::size_t>(i - 1)].Text);
+            i, Hrany().UkazPanel().Vyber.Radky[static_cast<std::size_t>(i - 1)].Text);
     } else if (!nastroje.empty() && co < 7) {
         RukaNaDesce::StiskNastroje(Nektere(nastroje));
     } else if (co < 2) {

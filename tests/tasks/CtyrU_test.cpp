@@ -78,7 +78,7 @@ TEST(CtyrUTrojuhelnik, ZpetPredNarysovanimVraciVolbu) {
     ZacniRadek(s, SSS);
     const auto zive = [&s] {
         std::string ktere;
-        for (const Tlacitko& t : s.dialog.UkazPanel().cmd) ktere += t.Zive ? '1' : '0';
+        for (const MistoNastroje& n : s.dialog.UkazPanel().Nastroje) ktere += n.Zivy() ? '1' : '0';
         return ktere;
     };
     EXPECT_EQ(zive(), "100000");
@@ -92,8 +92,8 @@ TEST(CtyrUTrojuhelnik, ZpetPredNarysovanimVraciVolbu) {
         StavCtyruhelniku ceka;
         ceka.Znacky = s.dialog.Stav().Znacky;
         ceka.KrokChybny = true;  // until the next choice
-        ceka.Combo = s.dialog.Stav().Combo;
-        EXPECT_FALSE(ceka.Combo.Otevreny);
+        ceka.Vyber = s.dialog.Stav().Vyber;
+        EXPECT_FALSE(ceka.Vyber.Otevreny);
         EXPECT_EQ(s.dialog.Stav(), ceka) << jak;
         EXPECT_EQ(zive(), "100000") << jak;
         EXPECT_EQ(s.Pamet().ZadanePrvky[1].Prvek, "BCD") << jak;

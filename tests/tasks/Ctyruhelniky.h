@@ -71,10 +71,10 @@ void OverZacatky(Stul<D>& s, const Zacatky& vse, const std::string& druhSss,
         const std::string& text = s.Pamet().ChybneKroky[spravny ? 1 : 2].Text;
         EXPECT_EQ(text.ends_with("podle věty " + veta + ".  -3 body"), sus != dana) << text;
     }
-    const auto zadani = s.dialog.UkazPanel().lblZadani;
+    const auto zadani = s.dialog.UkazPanel().Zadani;
     const auto hodnoty = s.dialog.Hodnoty();
     ZacniRadek(s, RadekDat("61", vse[0], false, konce[0]));
-    EXPECT_EQ(s.dialog.UkazPanel().lblZadani, zadani);
+    EXPECT_EQ(s.dialog.UkazPanel().Zadani, zadani);
     EXPECT_EQ(s.dialog.Hodnoty(), hodnoty);
 }
 
@@ -142,8 +142,8 @@ void OverNesestrojeny(Stul<D>& s, const std::string& radek, const std::vector<Po
         s.Napis(prvni, 1).Napis(druha, 2).Napis(treti, 3).Nastroj(6);
         EXPECT_EQ(s.Pamet().PocetUtvaru, 0);
         EXPECT_FALSE(s.Obraz().StejnyObraz(prazdna)) << "it says so";
-        if (s.dialog.UkazPanel().cmd[2].Zive) s.Nastroj(3);  // there are no lines to go by
-        EXPECT_FALSE(s.dialog.Stav().Combo.Otevreny);
+        if (s.dialog.UkazPanel().Nastroje[2].Zivy()) s.Nastroj(3);  // there are no lines to go by
+        EXPECT_FALSE(s.dialog.Stav().Vyber.Otevreny);
         s.Proved(dal);
         s.dialog.Posun(20, 0);
         EXPECT_FALSE(s.dialog.Hotova());
@@ -236,7 +236,7 @@ int OdehrajSoubor(int uloha, void (*zmer)(const Stul<D>&)) {
             EXPECT_EQ(s.Pamet().PocetTrojic, s.Pamet().PocetUtvaru);
             EXPECT_FALSE(s.dialog.Hotova());
             if (faze > 1) continue;
-            EXPECT_FALSE(s.dialog.UkazPanel().cmd[4].Zive);
+            EXPECT_FALSE(s.dialog.UkazPanel().Nastroje[4].Zivy());
             zak.Oznac();  // takes the marks off
             zak.Sestroj();
             s.dialog.Posun(20, -20);

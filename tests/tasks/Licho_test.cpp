@@ -38,11 +38,11 @@ TEST(LichoRovnobezka, NestojiNicAVedeVrcholemJenZBlizka) {
     Stul<LichoDialog> s(11);
     ZacniRadek(s, RADEK);
     std::string zadani;
-    for (const PolozkaZadani& z : s.dialog.UkazPanel().lblZadani) zadani += z.Text;
+    for (const ZadanaVelicina& z : s.dialog.UkazPanel().Zadani) zadani += z.Nazev + z.Hodnota;
     EXPECT_NE(zadani.find("°, AB||CD, d= "), std::string::npos) << zadani;
     DokonalyCtyruhelnik(s, 1).Trojuhelnik();
     s.Nastroj(3).Vyber("AB");
-    EXPECT_EQ(s.dialog.UkazPanel().lblText3, "přímka t, t||AB, |t,AB| = ");
+    EXPECT_EQ(s.dialog.UkazPanel().Rysovane.Nazev, "přímka t, t||AB, |t,AB| = ");
     s.Tahni({30, 30}, {46, 30}).Zpet();
     const Bod a = VrcholNaPlose(s.Pamet(), "A");
     const Bod c = VrcholNaPlose(s.Pamet(), "C");

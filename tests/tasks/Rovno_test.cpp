@@ -66,9 +66,9 @@ TEST(RovnoChyby, KazdyStredAKazdyVzor) {
         DokonalyRovnobeznik zak(s, 1);
         zak.Oznac();
         zak.Trojuhelnik();
-        const std::string stred = s.Nastroj(1).Hrany().UkazPanel().Combo.Radky[i / 4 % 6].Text;
+        const std::string stred = s.Nastroj(1).Hrany().UkazPanel().Vyber.Radky[i / 4 % 6].Text;
         s.Vyber(stred).Klikni({9, 9}).Posun(20, -20);
-        std::string vzor = s.Nastroj(2).Hrany().UkazPanel().Combo.Radky.back().Text;
+        std::string vzor = s.Nastroj(2).Hrany().UkazPanel().Vyber.Radky.back().Text;
         const char protejsi = "CDAB"[vzor[sizeof "hledaný bod " - 1] - 'A'];
         vzor.back() = "ABCD"[i % 4];
         s.Vyber(vzor).Klikni({9, 9});
@@ -88,7 +88,7 @@ TEST(RovnoPanel, VyzvyJednohoPrikladu) {
     s.Radek(RadekDat("01", CELE[0], false, JEDEN[0])).Zacni(3);
     DokonalyRovnobeznik zak(s, 1);
     zak.Oznac();
-    const auto vyzva = [&s] { return s.dialog.UkazPanel().lblText1; };
+    const auto vyzva = [&s] { return s.dialog.UkazPanel().Vyzva; };
     EXPECT_EQ(vyzva(), "Nejprve zvol trojúhelník, kterým začneš konstrukci.");
     zak.Trojuhelnik();
     EXPECT_EQ(vyzva(), "Nyní zvol střed souměrnosti.");

@@ -184,7 +184,7 @@ TEST(Zakladny, RovnobezkaVrcholemProchaziVrcholem) {
         zak.Trojuhelnik();
         s.Posun(los.Mezi(-7, 7) * 20, los.Mezi(-7, 7) * 20);
         s.Nastroj(3);
-        const auto radky = s.dialog.UkazPanel().Combo.Radky;
+        const auto radky = s.dialog.UkazPanel().Vyber.Radky;
         const std::string strana =
             radky[static_cast<std::size_t>(los.Cislo(static_cast<int>(radky.size())))].Text;
         s.Vyber(strana);

@@ -64,23 +64,23 @@ std::string Otisk::Rozdil(const Otisk& jiny) const {
 
 void TecnyHra::KrokVedle() {
     const KrokZaka k = zak.Krok();
-    zak.Nastroj(k.Tvar);
-    if (!k.Radek.empty() && P().Combo.Otevreny) Vyber(k.Radek);
-    if (k.Tvar == 6) {
+    zak.Nastroj(k.Cim);
+    if (!k.Radek.empty() && P().Vyber.Otevreny) Vyber(k.Radek);
+    if (k.Cim == Nastroj::Kruznice) {
         const Bod s = NajdiBod(Pamet(), k.Od);
         const Bod a = NajdiBod(Pamet(), "A");
         const int r = Zaokrouhli(std::hypot(s.X - a.X, s.Y - a.Y));
         Tahni(s, {s.X + r + 8, s.Y});
-    } else if (k.Tvar == 9 || k.Tvar == 7) {
+    } else if (k.Cim == Nastroj::Prusecik || k.Cim == Nastroj::Stred) {
         Klikni({3, 3});
-    } else if (k.Tvar == 2) {
+    } else if (k.Cim == Nastroj::Primka) {
         Tahni(NajdiBod(Pamet(), k.Od), {3, 3});
     } else {
         // Somewhere on the base where the line passes far from all points it could be meant for.
         const Utvar& z = Pamet().Utvary[Pamet().VybranyUtvar];
         const auto stranou = [&](Bod start, Bod bod) {
-            const double dx = k.Tvar == 4 ? -(z.Y2 - z.Y1) : z.X2 - z.X1;
-            const double dy = k.Tvar == 4 ? z.X2 - z.X1 : z.Y2 - z.Y1;
+            const double dx = k.Cim == Nastroj::Kolmice ? -(z.Y2 - z.Y1) : z.X2 - z.X1;
+            const double dy = k.Cim == Nastroj::Kolmice ? z.X2 - z.X1 : z.Y2 - z.Y1;
             return std::fabs(start.Y + (bod.X - start.X) * dy / dx - bod.Y);
         };
         for (;;) {

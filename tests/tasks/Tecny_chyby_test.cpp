@@ -13,6 +13,9 @@
 namespace rysovna::testy {
 namespace {
 
+using enum Nastroj;
+using enum MistoNastroje::Stav;
+
 using Cisla = std::vector<int>;
 
 /// The catalogue says of the steps of all exercises what they cost, and of nothing else.
@@ -41,36 +44,38 @@ TEST(TecnyChyby, KatalogZnaKrokyCviceni) {
     }
 }
 
-/// Faces that cost three points at the press, by exercise and step. Drawn afterwards, they cost no
+/// Tools that cost three points at the press, by exercise and step. Drawn afterwards, they cost no
 /// more and take up the step.
 TEST(TecnyChyby, ChybnaTlacitka) {
     struct Radek {
         const char* Kod;
-        int Tvar;
+        Nastroj Cim;
         std::vector<int> Kroky;
     };
-    const Radek radky[] = {{"01", 6, {1, 4, 5}}, {"02", 6, {1, 4, 5}}, {"03", 6, {1}},
-                           {"04", 6, {1, 3}},    {"05", 6, {1, 2}},    {"06", 6, {1, 2, 3}},
-                           {"07", 6, {1, 3}},    {"08", 6, {1}},       {"09", 6, {1, 4, 5}},
-                           {"06", 7, {5}},       {"08", 7, {3}},       {"09", 4, {1}}};
-    std::map<std::pair<std::string, int>, std::vector<int>> chybne;
+    const Radek radky[] = {
+        {"01", Kruznice, {1, 4, 5}}, {"02", Kruznice, {1, 4, 5}}, {"03", Kruznice, {1}},
+        {"04", Kruznice, {1, 3}},    {"05", Kruznice, {1, 2}},    {"06", Kruznice, {1, 2, 3}},
+        {"07", Kruznice, {1, 3}},    {"08", Kruznice, {1}},       {"09", Kruznice, {1, 4, 5}},
+        {"06", Stred, {5}},          {"08", Stred, {3}},          {"09", Kolmice, {1}}};
+    std::map<std::pair<std::string, int>, std::vector<Nastroj>> chybne;
     for (const Radek& r : radky) {
-        for (const int krok : r.Kroky) chybne[{r.Kod, krok}].push_back(r.Tvar);
+        for (const int krok : r.Kroky) chybne[{r.Kod, krok}].push_back(r.Cim);
     }
     int uctovanych = 0;
     for (const char* kod : {"01", "02", "03", "04", "05", "06", "07", "08", "09"}) {
         TecnyHra hra(kod, 5);
         for (int krok = 1; !hra.dialog.Hotova(); ++krok) {
-            for (const Tlacitko& t : hra.P().cmd) {
-                if (t.Tvar < 2 || t.Tvar > 8 || !t.Zive) continue;
+            for (const MistoNastroje& n : hra.P().Nastroje) {
+                if (n.Co == Prusecik || n.Co == Zpet || !n.Zivy()) continue;
                 const auto& vse = chybne[{kod, krok}];
-                const bool chyba = std::ranges::find(vse, t.Tvar) != vse.end();
+                const bool chyba = std::ranges::find(vse, n.Co) != vse.end();
                 uctovanych += chyba ? 1 : 0;
                 hra.Pamet().SoucetZapornychBodu = hra.Pamet().PocetChybnychKroku = 0;
                 const int utvaru = hra.Pamet().PocetUtvaru;
                 const Otisk pred(hra);
-                hra.zak.Nastroj(t.Tvar);
-                EXPECT_EQ(hra.Chyby(), chyba ? Cisla{21} : Cisla{}) << kod << krok << t.Tvar;
+                hra.zak.Nastroj(n.Co);
+                EXPECT_EQ(hra.Chyby(), chyba ? Cisla{21} : Cisla{})
+                    << kod << krok << static_cast<int>(n.Co);
                 EXPECT_EQ(hra.Pamet().SoucetZapornychBodu, chyba ? 3 : 0);
                 EXPECT_EQ(hra.dialog.Stav().KrokChybny, chyba);
                 if (!chyba) {
@@ -78,18 +83,19 @@ TEST(TecnyChyby, ChybnaTlacitka) {
                     if (!hra.dialog.Stav().CekaNaKresleni) continue;
                 }
                 hra.Tahni({30, 40}, {60, 90});
-                EXPECT_EQ(hra.Chyby().size(), chyba || t.Tvar == 7 ? 1U : 0U) << kod << krok;
-                EXPECT_EQ(hra.Pamet().PocetUtvaru, utvaru + 1) << kod << krok << t.Tvar;
+                EXPECT_EQ(hra.Chyby().size(), chyba || n.Co == Stred ? 1U : 0U) << kod << krok;
+                EXPECT_EQ(hra.Pamet().PocetUtvaru, utvaru + 1)
+                    << kod << krok << static_cast<int>(n.Co);
                 EXPECT_FALSE(hra.dialog.Hotova());
                 EXPECT_EQ(hra.Faze(), krok + 1);
                 hra.Zpet();
-                EXPECT_EQ(Otisk(hra).Rozdil(pred), "") << kod << krok << t.Tvar;
+                EXPECT_EQ(Otisk(hra).Rozdil(pred), "") << kod << krok << static_cast<int>(n.Co);
             }
             hra.Pamet().SoucetZapornychBodu = hra.Pamet().PocetChybnychKroku = 0;
             hra.zak.SpravnyKrok();
         }
     }
-    EXPECT_EQ(uctovanych, 23) << "a face is missing";
+    EXPECT_EQ(uctovanych, 23) << "a tool is missing";
 }
 
 /// A step done past its mark, and what it costs.
@@ -128,37 +134,37 @@ TEST(TecnyChyby, KrokyVedle) {
 TEST(TecnyChyby, ChybneRadky) {
     struct Pripad {
         const char* Kod;
-        int Krok, Tvar;
+        int Krok;
+        Nastroj Cim;
         const char* Radek;
         int Chyba;
         const char* Text3;
     };
     const Pripad pripady[] = {
-        {"01", 4, 5, "s přímkou b", 134, "přímka t1, t1||b"},
-        {"01", 5, 5, "s přímkou b", 134, "přímka t2, t2||b"},
-        {"02", 5, 4, "k přímce t1", 135, "přímka t2, t2      t1"},
-        {"03", 2, 6, "kružnice l, střed v bodě S", 124, "kružnice l(S, r = |SB|)"},
-        {"03", 2, 6, "kružnice l, střed v bodě A", 124, "kružnice l(A, r = |SB|)"},
-        {"04", 4, 6, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AC|)"},
-        {"04", 4, 6, "kružnice k, střed v bodě B", 124, "kružnice k(B, r = |BC|)"},
-        {"05", 2, 4, "k přímce a", 135, "přímka b, b      a"},
-        {"05", 4, 6, "kružnice k, střed v bodě C", 124, "kružnice k(C, r = |CA|)"},
-        {"06", 2, 4, "k přímce a", 135, "přímka b, b      a"},
-        {"06", 3, 4, "k úsečce AB", 135, "přímka c, c      AB"},
-        {"06", 5, 6, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AB|)"},
-        {"06", 5, 6, "kružnice k, střed v bodě B", 124, "kružnice k(B, r = |BA|)"},
-        {"07", 4, 6, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AC|)"},
-        {"08", 1, 4, "k přímce b", 135, "přímka c, c      b"},
-        {"08", 3, 6, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AB|)"},
-        {"09", 6, 6, "kružnice l1, střed v bodě B1", 124, "kružnice l1(B1, r = |AB1|)"},
-        {"09", 7, 6, "kružnice l2, střed v bodě B2", 124, "kružnice l2(B2, r = |AB2|)"},
+        {"01", 4, Rovnobezka, "s přímkou b", 134, "přímka t1, t1||b"},
+        {"01", 5, Rovnobezka, "s přímkou b", 134, "přímka t2, t2||b"},
+        {"02", 5, Kolmice, "k přímce t1", 135, "přímka t2, t2 ⊥ t1"},
+        {"03", 2, Kruznice, "kružnice l, střed v bodě S", 124, "kružnice l(S, r = |SB|)"},
+        {"03", 2, Kruznice, "kružnice l, střed v bodě A", 124, "kružnice l(A, r = |SB|)"},
+        {"04", 4, Kruznice, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AC|)"},
+        {"04", 4, Kruznice, "kružnice k, střed v bodě B", 124, "kružnice k(B, r = |BC|)"},
+        {"05", 2, Kolmice, "k přímce a", 135, "přímka b, b ⊥ a"},
+        {"05", 4, Kruznice, "kružnice k, střed v bodě C", 124, "kružnice k(C, r = |CA|)"},
+        {"06", 2, Kolmice, "k přímce a", 135, "přímka b, b ⊥ a"},
+        {"06", 3, Kolmice, "k úsečce AB", 135, "přímka c, c ⊥ AB"},
+        {"06", 5, Kruznice, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AB|)"},
+        {"06", 5, Kruznice, "kružnice k, střed v bodě B", 124, "kružnice k(B, r = |BA|)"},
+        {"07", 4, Kruznice, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AC|)"},
+        {"08", 1, Kolmice, "k přímce b", 135, "přímka c, c ⊥ b"},
+        {"08", 3, Kruznice, "kružnice k, střed v bodě A", 124, "kružnice k(A, r = |AB|)"},
+        {"09", 6, Kruznice, "kružnice l1, střed v bodě B1", 124, "kružnice l1(B1, r = |AB1|)"},
+        {"09", 7, Kruznice, "kružnice l2, střed v bodě B2", 124, "kružnice l2(B2, r = |AB2|)"},
     };
     for (const Pripad& p : pripady) {
         TecnyHra hra(p.Kod, 5);
         hra.zak.SpravneDo(p.Krok);
-        hra.zak.Nastroj(p.Tvar).Vyber(p.Radek);
-        EXPECT_EQ(hra.P().lblText3, p.Text3);
-        EXPECT_EQ(hra.P().lblText4.Videt, p.Tvar == 4);
+        hra.zak.Nastroj(p.Cim).Vyber(p.Radek);
+        EXPECT_EQ(hra.P().Rysovane.Nazev, p.Text3);
         hra.Tahni({5, 300}, {3, 100});
         EXPECT_EQ(hra.Chyby(), Cisla{p.Chyba}) << p.Kod << p.Krok;
         EXPECT_EQ(hra.Pamet().SoucetZapornychBodu, 3);
@@ -176,27 +182,27 @@ TEST(TecnyChyby, BezPrusecikuZbyvaJenZpet) {
         std::function<void(TecnyHra&)> Krok_;
         Cisla Chyby;
     };
-    const auto daleko = [](TecnyHra& hra, int tvar, const char* radek, int chyba) {
+    const auto daleko = [](TecnyHra& hra, Nastroj cim, const char* radek, int chyba) {
         // Random places until the line misses the circle.
         for (int i = 0; i < 1000; ++i) {
             hra.Pamet().SoucetZapornychBodu = hra.Pamet().PocetChybnychKroku = 0;
-            hra.zak.Nastroj(tvar).Vyber(radek).Tahni(hra.zak.Nahodne(), hra.zak.Nahodne());
+            hra.zak.Nastroj(cim).Vyber(radek).Tahni(hra.zak.Nahodne(), hra.zak.Nahodne());
             const Cisla chyby = hra.Chyby();
             if (!chyby.empty() && chyby.back() == chyba) return;
             hra.Zpet();
         }
     };
     const Pripad pripady[] = {
-        {"01", 1, [&](TecnyHra& h) { daleko(h, 4, "k přímce a", 203); }, {202, 203}},
-        {"02", 1, [&](TecnyHra& h) { daleko(h, 5, "s přímkou a", 204); }, {215, 204}},
+        {"01", 1, [&](TecnyHra& h) { daleko(h, Kolmice, "k přímce a", 203); }, {202, 203}},
+        {"02", 1, [&](TecnyHra& h) { daleko(h, Rovnobezka, "s přímkou a", 204); }, {215, 204}},
         {"03",
          2,
          [](TecnyHra& h) {
              const Bod B = NajdiBod(h.Pamet(), "B");
-             h.zak.Nastroj(6).Vyber("kružnice l, střed v bodě B").Tahni(B, {B.X + 3, B.Y});
+             h.zak.Nastroj(Kruznice).Vyber("kružnice l, střed v bodě B").Tahni(B, {B.X + 3, B.Y});
          },
          {206, 207}},
-        {"09", 1, [&](TecnyHra& h) { daleko(h, 2, "přímka AS", 203); }, {208, 203}},
+        {"09", 1, [&](TecnyHra& h) { daleko(h, Primka, "přímka AS", 203); }, {208, 203}},
     };
     for (const Pripad& p : pripady) {
         TecnyHra hra(p.Kod, 4);
@@ -204,13 +210,13 @@ TEST(TecnyChyby, BezPrusecikuZbyvaJenZpet) {
         p.Krok_(hra);
         EXPECT_EQ(hra.Chyby(), p.Chyby) << p.Kod;
         const int utvaru = hra.Pamet().PocetUtvaru;
-        EXPECT_TRUE(hra.P().cmd[4].Zive);
-        hra.zak.Nastroj(9);
+        EXPECT_TRUE(hra.P().Nastroje[4].Zivy());
+        hra.zak.Nastroj(Prusecik);
         for (const Bod b : {Bod{100, 100}, {-9999, -9999}, {0, 0}}) hra.Klikni(b);
         EXPECT_EQ(hra.Pamet().PocetUtvaru, utvaru);
         EXPECT_EQ(hra.Faze(), p.Krok + 1);
         EXPECT_EQ(hra.Chyby(), p.Chyby);
-        EXPECT_TRUE(hra.P().cmd[4].Zive);
+        EXPECT_TRUE(hra.P().Nastroje[4].Zivy());
         hra.Zpet();
         EXPECT_EQ(hra.Faze(), p.Krok);
         hra.zak.SpravneVse();
@@ -225,7 +231,9 @@ TEST(TecnyChyby, KolmiceKterouPrimkaNeprotne) {
         hra.Znovu(s);
         for (int i = 0; i < 20; ++i) {
             hra.Pamet().SoucetZapornychBodu = hra.Pamet().PocetChybnychKroku = 0;
-            hra.zak.Nastroj(4).Vyber("k přímce a").Tahni(hra.zak.Nahodne(), hra.zak.Nahodne());
+            hra.zak.Nastroj(Kolmice)
+                .Vyber("k přímce a")
+                .Tahni(hra.zak.Nahodne(), hra.zak.Nahodne());
             const Cisla chyby = hra.Chyby();
             if (chyby == Cisla{211, 209}) return;
             hra.Zpet();
@@ -238,7 +246,7 @@ TEST(TecnyChyby, ObaPrusecikyUzHotove) {
     TecnyHra hra("09", 2);
     hra.zak.SpravneDo(2);
     hra.Pamet().Priklady[1].Kroky[1].Hotovo = hra.Pamet().Priklady[1].Kroky[2].Hotovo = ANO;
-    hra.zak.Nastroj(9).Klikni(hra.zak.Kandidati()[0]);
+    hra.zak.Nastroj(Prusecik).Klikni(hra.zak.Kandidati()[0]);
     EXPECT_EQ(hra.Chyby(), Cisla{219});
     EXPECT_EQ(hra.Pamet().SoucetZapornychBodu, 3);
     EXPECT_EQ(hra.Faze(), 2);
@@ -250,7 +258,7 @@ TEST(TecnyChyby, Tolerance) {
         TecnyHra hra("04", 9);
         hra.zak.SpravneDo(2);
         const Bod B = hra.dialog.Stav().Pary.Misto[0];
-        hra.zak.Nastroj(9).Klikni({B.X + o, B.Y - o});
+        hra.zak.Nastroj(Prusecik).Klikni({B.X + o, B.Y - o});
         EXPECT_EQ(hra.Chyby(), chyby);
         EXPECT_EQ(NajdiBod(hra.Pamet(), "B"), B);
         EXPECT_EQ(hra.Pamet().Utvary[hra.Pamet().PocetUtvaru].NaPrimce, chyby.empty() ? "b" : "");
@@ -259,7 +267,7 @@ TEST(TecnyChyby, Tolerance) {
     for (const auto& [o, chyby] : {std::pair{5, Cisla{}}, {6, Cisla{205}}, {-5, Cisla{}}}) {
         TecnyHra hra("04", 9);
         hra.zak.SpravneDo(3);
-        hra.zak.Nastroj(7);
+        hra.zak.Nastroj(Stred);
         const Bod C = hra.dialog.Stav().StredUsecky;
         hra.Klikni({C.X + o, C.Y + o});
         EXPECT_EQ(hra.Chyby(), chyby);
@@ -276,7 +284,7 @@ TEST(TecnyChyby, PatnactPixelu) {
         for (const int o : {14, 15}) {
             hra.Znovu(s);
             hra.zak.SpravneDo(4);
-            hra.zak.Nastroj(4).Vyber("k přímce b");
+            hra.zak.Nastroj(Kolmice).Vyber("k přímce b");
             const Utvar z = hra.Pamet().Utvary[hra.Pamet().VybranyUtvar];
             const Bod A1 = NajdiBod(hra.Pamet(), "A1");
             // A perpendicular from a free place of b whose Y at A1 is o off, if there is such a
@@ -309,7 +317,9 @@ TEST(TecnyChyby, DruhaTecnaMusiDruhymBodem) {
     TecnyHra hra("01", 6);
     hra.zak.SpravneDo(4);
     for (int i = 0; i < 2; ++i) {
-        hra.zak.Nastroj(5).Vyber("s přímkou a").Tahni(NajdiBod(hra.Pamet(), "A2"), {200, 10});
+        hra.zak.Nastroj(Rovnobezka)
+            .Vyber("s přímkou a")
+            .Tahni(NajdiBod(hra.Pamet(), "A2"), {200, 10});
     }
     EXPECT_EQ(hra.Chyby(), Cisla{215});
     EXPECT_TRUE(hra.dialog.Hotova());
@@ -320,7 +330,7 @@ TEST(TecnyChyby, JednaTecnaDvakratNejsouDve) {
     TecnyHra hra("03", 6);
     hra.zak.SpravneDo(5);
     for (int i = 0; i < 2; ++i) {
-        hra.zak.Nastroj(2)
+        hra.zak.Nastroj(Primka)
             .Vyber("přímka AT1")
             .Tahni(NajdiBod(hra.Pamet(), "A"), NajdiBod(hra.Pamet(), "T1"));
     }
@@ -328,7 +338,7 @@ TEST(TecnyChyby, JednaTecnaDvakratNejsouDve) {
     EXPECT_EQ(hra.Pamet().Utvary[hra.Pamet().PocetUtvaru].Jmeno1, "p6");
     EXPECT_FALSE(hra.dialog.Hotova());
     hra.Zpet();
-    hra.zak.Nastroj(2)
+    hra.zak.Nastroj(Primka)
         .Vyber("přímka AT2")
         .Tahni(NajdiBod(hra.Pamet(), "A"), NajdiBod(hra.Pamet(), "T2"));
     EXPECT_TRUE(hra.dialog.Hotova());
@@ -338,17 +348,17 @@ TEST(TecnyChyby, JednaTecnaDvakratNejsouDve) {
 TEST(TecnyChyby, BezObouVysledkuNeniHotovo) {
     TecnyHra hra("03", 6);
     hra.zak.SpravneDo(5);
-    hra.zak.Nastroj(2)
+    hra.zak.Nastroj(Primka)
         .Vyber("přímka AS")
         .Tahni(NajdiBod(hra.Pamet(), "A"), NajdiBod(hra.Pamet(), "S"));
     EXPECT_EQ(hra.Pamet().Utvary[hra.Pamet().PocetUtvaru].Jmeno1, "p5");
-    hra.zak.Nastroj(2)
+    hra.zak.Nastroj(Primka)
         .Vyber("přímka AT1")
         .Tahni(NajdiBod(hra.Pamet(), "A"), NajdiBod(hra.Pamet(), "T1"));
     EXPECT_EQ(hra.Pamet().Utvary[hra.Pamet().PocetUtvaru].Jmeno1, "t1");
     EXPECT_FALSE(hra.dialog.Hotova());
-    for (std::size_t i = 0; i < 4; ++i) EXPECT_FALSE(hra.P().cmd[i].Zive);
-    EXPECT_TRUE(hra.P().cmd[4].Zive);
+    for (std::size_t i = 0; i < 4; ++i) EXPECT_FALSE(hra.P().Nastroje[i].Zivy());
+    EXPECT_TRUE(hra.P().Nastroje[4].Zivy());
     hra.Zpet().Zpet();
     hra.zak.SpravneVse();
     EXPECT_TRUE(hra.dialog.Hotova());
@@ -359,15 +369,15 @@ TEST(TecnyChyby, BezObouVysledkuNeniHotovo) {
 TEST(TecnyChyby, MrtveZpetNikohoNezavre) {
     TecnyHra hra("09", 6);
     hra.zak.SpravneDo(6);
-    hra.zak.Nastroj(3).Tahni({20, 300}, {60, 200});
-    hra.zak.Nastroj(6).Vyber("kružnice l2, střed v bodě S2");
+    hra.zak.Nastroj(Poloprimka).Tahni({20, 300}, {60, 200});
+    hra.zak.Nastroj(Kruznice).Vyber("kružnice l2, střed v bodě S2");
     hra.Tahni(NajdiBod(hra.Pamet(), "S2"), NajdiBod(hra.Pamet(), "A"));
     EXPECT_FALSE(hra.dialog.Hotova());
     hra.Zpet();
-    EXPECT_TRUE(hra.P().cmd[4].Zive);
+    EXPECT_TRUE(hra.P().Nastroje[4].Zivy());
     hra.Zpet();
     EXPECT_EQ(hra.Faze(), 6);
-    EXPECT_FALSE(hra.P().cmd[4].Zive);
+    EXPECT_FALSE(hra.P().Nastroje[4].Zivy());
     hra.zak.SpravneVse();
     EXPECT_TRUE(hra.dialog.Hotova());
 }
@@ -375,7 +385,7 @@ TEST(TecnyChyby, MrtveZpetNikohoNezavre) {
 /// A line that was clicked and not dragged is drawn upright, and its crossings lie on it.
 TEST(TecnyChyby, KliknutaPrimkaSeProtinaTamKdeStoji) {
     TecnyHra hra("09", 6);
-    hra.zak.Nastroj(2).Vyber("přímka AS").Klikni(NajdiBod(hra.Pamet(), "A"));
+    hra.zak.Nastroj(Primka).Vyber("přímka AS").Klikni(NajdiBod(hra.Pamet(), "A"));
     EXPECT_EQ(hra.Chyby(), Cisla{208});
     for (const Bod& b : hra.dialog.Stav().Pary.Misto)
         EXPECT_NEAR(b.X, NajdiBod(hra.Pamet(), "A").X, 1);
@@ -406,17 +416,18 @@ TEST(TecnyChyby, Kontrola) {
         hra.Pamet().SoucetZapornychBodu = p.Ztraceno;
         if (!p.Znacky) hra.dialog.StiskNacrtu(20, 150);
         hra.dialog.StiskNacrtu(100, 100);  // an extra mark is free
-        if (p.Krok == 4) hra.zak.Nastroj(6).Vyber("kružnice k, střed v bodě C");  // armed
-        const auto pred = hra.P().cmd;
+        if (p.Krok == 4) hra.zak.Nastroj(Kruznice).Vyber("kružnice k, střed v bodě C");  // armed
+        const auto pred = hra.P().Nastroje;
         hra.dialog.Zkontroluj();
         EXPECT_EQ(hra.Chyby(), p.Chyby) << p.Krok << " " << p.Ztraceno;
         if (!p.Chyby.empty()) {
             EXPECT_TRUE(hra.Pamet().ChybneKroky[1].Text.ends_with(p.Konec))
                 << hra.Pamet().ChybneKroky[1].Text;
         }
-        // The tools keep their faces and cannot be pressed; back turns grey.
+        // What was on offer stays so and cannot be pressed; back turns grey.
         for (std::size_t i = 0; i < pred.size(); ++i) {
-            EXPECT_EQ(hra.P().cmd[i], (Tlacitko{pred[i].Tvar, i != 4 && pred[i].Barevne, false}));
+            const bool nabizel = pred[i].Zivy() && pred[i].Co != Zpet;
+            EXPECT_EQ(hra.P().Nastroje[i], (MistoNastroje{pred[i].Co, nabizel ? Zamceny : Sedy}));
         }
     }
 }

@@ -11,6 +11,9 @@
 namespace rysovna::testy {
 namespace {
 
+using enum Nastroj;
+using enum MistoNastroje::Stav;
+
 class DokonaleTecny : public testing::TestWithParam<const char*> {};
 
 TEST_P(DokonaleTecny, KazdyObrazecDaDesetBodu) {
@@ -25,7 +28,7 @@ TEST_P(DokonaleTecny, KazdyObrazecDaDesetBodu) {
             hra.zak.Obracene = zpusob == 2;
             hra.zak.SpravneVse();
             ASSERT_TRUE(hra.dialog.Hotova()) << s;
-            EXPECT_EQ(hra.P().lblText1, "Proveď kontrolu hotové konstrukce.");
+            EXPECT_EQ(hra.P().Vyzva, "Proveď kontrolu hotové konstrukce.");
             hra.dialog.Zkontroluj();
             ASSERT_EQ(hra.Chyby(), std::vector<int>{}) << "seed " << s << " way " << zpusob;
             EXPECT_EQ(hra.Pamet().SoucetZapornychBodu, 0);
@@ -51,13 +54,14 @@ TEST_P(DokonaleTecny, ZpetVratiStavPredKrokem) {
             EXPECT_EQ(ted.Stav.Zpatky, true);
             // Settled: these steps, reached by back, leave back dead.
             const bool mrtve = (kod == "07" && faze == 4) || (kod == "09" && faze >= 5);
-            EXPECT_EQ(ted.P.cmd[4], (Tlacitko{12, !mrtve && faze > 1, !mrtve && faze > 1})) << faze;
+            EXPECT_EQ(ted.P.Nastroje[4], (MistoNastroje{Zpet, !mrtve && faze > 1 ? Zivy : Sedy}))
+                << faze;
             // And these have another prompt then.
             if ((kod == "07" && faze == 4) || (kod == "09" && faze == 7)) {
-                EXPECT_EQ(ted.P.lblText1, "Zvol další křivku, kterou budeš pokračovat.");
-                ted.P.lblText1 = pred.P.lblText1;
+                EXPECT_EQ(ted.P.Vyzva, "Zvol další křivku, kterou budeš pokračovat.");
+                ted.P.Vyzva = pred.P.Vyzva;
             }
-            ted.P.cmd[4] = pred.P.cmd[4];
+            ted.P.Nastroje[4] = pred.P.Nastroje[4];
             EXPECT_EQ(ted.Rozdil(pred), "") << kod << " step " << faze;
             EXPECT_TRUE(ted.P == pred.P) << kod << " step " << faze;
             EXPECT_TRUE(hra.Obraz().StejnyObraz(obraz)) << kod << " step " << faze;
@@ -68,14 +72,14 @@ TEST_P(DokonaleTecny, ZpetVratiStavPredKrokem) {
         if (!osou) continue;
         hra.Zpet();
         EXPECT_FALSE(hra.dialog.Hotova());
-        EXPECT_TRUE(hra.P().PicZiva);
+        EXPECT_TRUE(hra.P().PlochaZiva);
     }
 }
 
 TEST(Tecny, OsaJdeZpetNajednouAPoZpetJeZaseVolba) {
     for (const char* kod : {"05", "06"}) {
         TecnyHra hra(kod, 3);
-        hra.zak.Nastroj(8).Vyber("úsečky AB");
+        hra.zak.Nastroj(Osa).Vyber("úsečky AB");
         EXPECT_EQ(hra.Faze(), 3);
         EXPECT_EQ(hra.Pamet().Utvary[3].Jmeno1, "b");
         EXPECT_EQ(hra.Pamet().Utvary[4].Jmeno1, "C");
@@ -85,28 +89,28 @@ TEST(Tecny, OsaJdeZpetNajednouAPoZpetJeZaseVolba) {
         EXPECT_EQ(hra.Faze(), 1);
         EXPECT_EQ(hra.Pamet().PocetUtvaru, 2);
         hra.zak.SpravnyKrok();
-        EXPECT_EQ(hra.P().cmd[0].Tvar, 3);  // no axis any more
+        EXPECT_EQ(hra.P().Nastroje[0].Co, Poloprimka);  // no axis any more
     }
 }
 
-TEST(Tecny, TvaryPoVolbe) {
+TEST(Tecny, NastrojePoVolbe) {
     TecnyHra hra("07", 2);
     hra.zak.SpravneDo(3);
-    hra.zak.Nastroj(7);
-    const int sede[] = {3, 7, 5, 4};
+    hra.zak.Nastroj(Stred);
+    const Nastroj sede[] = {Poloprimka, Stred, Rovnobezka, Kolmice};
     for (std::size_t i = 0; i < 4; ++i)
-        EXPECT_EQ(hra.P().cmd[i], (Tlacitko{sede[i], false, false}));
-    EXPECT_EQ(hra.P().lblText3, "střed úsečky AB");
-    EXPECT_EQ(hra.P().lblText1, "Zvol kliknutím na kreslící ploše střed úsečky.");
+        EXPECT_EQ(hra.P().Nastroje[i], (MistoNastroje{sede[i], Sedy}));
+    EXPECT_EQ(hra.P().Rysovane.Nazev, "střed úsečky AB");
+    EXPECT_EQ(hra.P().Vyzva, "Zvol kliknutím na kreslící ploše střed úsečky.");
     EXPECT_EQ(hra.dialog.Prejezd(5, 5).Text, "Střed úsečky");
-    EXPECT_EQ(hra.P().cmd[3].Tvar, 4);
+    EXPECT_EQ(hra.P().Nastroje[3].Co, Kolmice);
 }
 
 TEST(Tecny, ZavrenySeznamVratiTlacitka) {
     TecnyHra hra("04", 2);
     const Panel pred = hra.P();
-    hra.zak.Nastroj(4);
-    EXPECT_FALSE(hra.P().cmd[1].Zive);
+    hra.zak.Nastroj(Kolmice);
+    EXPECT_FALSE(hra.P().Nastroje[1].Zivy());
     hra.Klikni({100, 100});  // not armed yet
     EXPECT_EQ(hra.Pamet().PocetUtvaru, 2);
     hra.dialog.ZavriSeznam();
@@ -115,21 +119,21 @@ TEST(Tecny, ZavrenySeznamVratiTlacitka) {
 
 TEST(Tecny, ZnackaJePodminkouZacatku) {
     TecnyHra hra("04", 2);
-    EXPECT_TRUE(hra.P().cmd[1].Zive);
+    EXPECT_TRUE(hra.P().Nastroje[1].Zivy());
     for (const auto& [x, y] : {std::pair{150.0F, 50.0F}, {20.0F, 150.0F}}) {
         EXPECT_TRUE(hra.dialog.StiskNacrtu(x, y));
     }
     EXPECT_EQ(hra.dialog.Stav().Znacky, 0U);
-    EXPECT_FALSE(hra.P().cmd[1].Zive);
+    EXPECT_FALSE(hra.P().Nastroje[1].Zivy());
     EXPECT_TRUE(hra.dialog.StiskNacrtu(155, 55));  // the corner of the box
     EXPECT_FALSE(hra.dialog.StiskNacrtu(156, 45.9F));
     for (const auto& [y, je] : {std::pair{147, false}, {148, true}, {152, true}, {153, false}}) {
         EXPECT_EQ(hra.dialog.StiskNacrtu(20, static_cast<float>(y)), je) << y;
     }
-    hra.zak.Nastroj(4);
+    hra.zak.Nastroj(Kolmice);
     hra.dialog.ZavriSeznam();
     EXPECT_TRUE(hra.dialog.StiskNacrtu(145, 45));
-    EXPECT_TRUE(hra.P().cmd[1].Zive);  // a tool was pressed already
+    EXPECT_TRUE(hra.P().Nastroje[1].Zivy());  // a tool was pressed already
 }
 
 TEST(Tecny, NeznamyKodNechaDeskuPrazdnouAZpetVede) {
@@ -139,8 +143,8 @@ TEST(Tecny, NeznamyKodNechaDeskuPrazdnouAZpetVede) {
     hra.Klikni({100, 100});
     hra.dialog.Posun(20, 0);
     EXPECT_EQ(hra.Pamet().PocetUtvaru, 0);
-    EXPECT_EQ(hra.P().Label1, "");
-    for (const Tlacitko& t : hra.P().cmd) EXPECT_EQ(t, Tlacitko{});
+    EXPECT_EQ(hra.P().Uvod, "");
+    for (const MistoNastroje& n : hra.P().Nastroje) EXPECT_EQ(n, MistoNastroje{});
     hra.dialog.Zkontroluj();
     EXPECT_EQ(hra.Chyby(), std::vector<int>{300});
 

@@ -85,16 +85,16 @@ bool Dodelej(TecnyHra& hra) {
     TecnyDialog& d = hra.dialog;
     d.ZavriSeznam();
     if (d.Stav().Znacky == 0) hra.zak.Oznac();
-    if (d.Stav().CekaNaKresleni && !hra.P().cmd[4].Zive) hra.Tahni({200, 200}, {210, 150});
+    if (d.Stav().CekaNaKresleni && !hra.P().Nastroje[4].Zivy()) hra.Tahni({200, 200}, {210, 150});
     for (int kolo = 0; kolo < 3 && !d.Hotova(); ++kolo) {
-        while (hra.P().cmd[4].Zive) hra.Zpet();
+        while (hra.P().Nastroje[4].Zivy()) hra.Zpet();
         for (int pred = 0; pred != hra.Faze();) {
             pred = hra.Faze();
             try {
                 hra.zak.SpravnyKrok();
             } catch (const hrac::NejdeUdelat&) {
                 // The row of a point that was never made: any other one.
-                if (hra.P().Combo.Otevreny) d.VyberRadku(1);
+                if (hra.P().Vyber.Otevreny) d.VyberRadku(1);
                 if (d.Stav().CekaNaKresleni) hra.Tahni({200, 200}, {210, 150});
             }
         }
@@ -135,7 +135,7 @@ TEST_P(Figury, NedbalyZak) {
                     break;
                 case 5:
                     d.StiskNastroje(hra.zak.Cislo(7));
-                    if (hra.P().Combo.Otevreny) d.VyberRadku(1 + hra.zak.Cislo(3));
+                    if (hra.P().Vyber.Otevreny) d.VyberRadku(1 + hra.zak.Cislo(3));
                     break;
                 default: {
                     Bod odkud = b;
@@ -162,8 +162,8 @@ TEST_P(Figury, NedbalyZak) {
             }
             const Panel p = hra.P();
             // There always is a way on.
-            bool zive = p.Combo.Otevreny || d.Stav().CekaNaKresleni || d.Stav().Znacky == 0;
-            for (const Tlacitko& t : p.cmd) zive = zive || t.Zive;
+            bool zive = p.Vyber.Otevreny || d.Stav().CekaNaKresleni || d.Stav().Znacky == 0;
+            for (const MistoNastroje& n : p.Nastroje) zive = zive || n.Zivy();
             ASSERT_TRUE(zive) << "figure " << i;
             if (hra.Pamet().PocetChybnychKroku > 60) break;  // a real example holds at most 100
         }

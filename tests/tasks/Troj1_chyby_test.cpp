@@ -120,7 +120,7 @@ std::pair<int, int> Pocty(Rysovac& r) {
 
 /// What is shown, less what the closed list held.
 Panel BezSeznamu(Panel p) {
-    p.Combo = {};
+    p.Vyber = {};
     return p;
 }
 
@@ -139,13 +139,13 @@ TEST_F(Trojuhelniky, VraciFaziZaFaziABodyNevraci) {
         EXPECT_FALSE(Dialogem(r).Hotova());
         EXPECT_EQ(Pocty(r), (std::pair{2, 2}));
         Panel ceka = BezSeznamu(Dialogem(r).UkazPanel());
-        EXPECT_EQ(ceka.lblText2, "2. útvar:");
-        EXPECT_TRUE(ceka.PicZiva);
-        for (std::size_t i = 0; i < 5; ++i) EXPECT_TRUE(ceka.cmd[i].Zive && ceka.cmd[i].Barevne);
+        EXPECT_EQ(ceka.Nadpis, "2. útvar:");
+        EXPECT_TRUE(ceka.PlochaZiva);
+        for (std::size_t i = 0; i < 5; ++i) EXPECT_TRUE(ceka.Nastroje[i].Zivy());
 
         r.Rysuj("zpet");
         EXPECT_EQ(Pocty(r), (std::pair{1, 1}));
-        ceka.lblText2 = "1. útvar:";
+        ceka.Nadpis = "1. útvar:";
         EXPECT_EQ(BezSeznamu(Dialogem(r).UkazPanel()), ceka);
 
         r.Rysuj("zpet");

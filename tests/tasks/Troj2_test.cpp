@@ -59,7 +59,7 @@ TEST_P(Troj2Dokonaly, KazdyRadekDaDesetBoduAZadanyTrojuhelnik) {
             EXPECT_EQ(s.Pamet().PocetUtvaru, zbyde);
             EXPECT_EQ(s.Pamet().PocetTrojic, zbyde);
             const char* const VYZVY[] = {"", "1. útvar:", "2. útvar:"};
-            EXPECT_EQ(s.dialog.UkazPanel().lblText2, VYZVY[zbyde]);
+            EXPECT_EQ(s.dialog.UkazPanel().Nadpis, VYZVY[zbyde]);
             if (zbyde > 0) continue;
             for (const Zadano& z : s.Zadani()) Oznac(s, z.Velicina);  // off: to be marked anew
             DokonalyTrojuhelnik(s, seminko + 7).Sestroj();
@@ -208,17 +208,17 @@ TEST(Troj2Zadani, DruhyOcekavanyUtvarStaciANeznamyDruhNechaZadani) {
         DokonalyTrojuhelnik(s, seminko).Sestroj();
         EXPECT_EQ(s.PoKontrole(), "") << seminko;
     }
-    const auto zadani = s.dialog.UkazPanel().lblZadani;
+    const auto zadani = s.dialog.UkazPanel().Zadani;
     const auto hodnoty = s.dialog.Hodnoty();
     s.Radek("28##a#ta#beta#cm#cm#°#usecka##kruznice##poloprimka#").Zacni(3);
-    EXPECT_EQ(s.dialog.UkazPanel().lblZadani, zadani);
+    EXPECT_EQ(s.dialog.UkazPanel().Zadani, zadani);
     EXPECT_EQ(s.dialog.Hodnoty(), hodnoty);
 }
 
 TEST(Troj2Panel, StredUseckyUkazeSvouPopiskuASeznamNabidneJenSvujStred) {
     StulTroj2 s(5);
     s.Radek(S_T).Zacni();
-    EXPECT_FALSE(s.dialog.UkazPanel().cmd[0].Zive) << "no mark yet";
+    EXPECT_FALSE(s.dialog.UkazPanel().Nastroje[0].Zivy()) << "no mark yet";
     Oznac(s, "tc");
     s.Proved({{1, "AB", -2, A, {1, 0}}});
     const Bod m{s.Pamet().Utvary[1].X3, s.Pamet().Utvary[1].Y3};
@@ -226,14 +226,14 @@ TEST(Troj2Panel, StredUseckyUkazeSvouPopiskuASeznamNabidneJenSvujStred) {
         return s.dialog.Prejezd(static_cast<float>(m.X + dx), static_cast<float>(m.Y + dy));
     };
     EXPECT_EQ(popiska(5, -5).Text, "Střed úsečky");
-    EXPECT_EQ(popiska(5, -5).Odsazeni, 15);
+    EXPECT_TRUE(popiska(5, -5).JmenoBodu);
     EXPECT_EQ(popiska(6, 0).Text, "");
     s.Nastroj(4);
     std::string zive;
-    for (const RadekSeznamu& r : s.dialog.UkazPanel().Combo.Radky) zive += r.Ziva ? '1' : '0';
+    for (const RadekSeznamu& r : s.dialog.UkazPanel().Vyber.Radky) zive += r.Ziva ? '1' : '0';
     EXPECT_EQ(zive, "110100");
     s.Vyber("kružnice k, střed ve středu AB");
-    EXPECT_EQ(s.dialog.UkazPanel().lblText3, "kružnice k(Sc, r = ");
+    EXPECT_EQ(s.dialog.UkazPanel().Rysovane.Nazev, "kružnice k(Sc, r = ");
 }
 
 }  // namespace

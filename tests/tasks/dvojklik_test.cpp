@@ -31,13 +31,14 @@ struct Vysledek {
 };
 
 std::size_t Otisk(const Panel& p) {
-    std::string t = p.lblText1 + '\n' + p.lblText2 + '\n' + p.lblText3 + '\n' + p.lblText4.Text;
-    for (const Tlacitko& c : p.cmd) {
-        t += '\n' + std::to_string(c.Tvar) + (c.Zive ? "+" : "-") + (c.Barevne ? "+" : "-");
+    std::string t =
+        p.Vyzva + '\n' + p.Nadpis + '\n' + p.Rysovane.Nazev + '\n' + p.Rysovane.Jednotka;
+    for (const MistoNastroje& n : p.Nastroje) {
+        t += '\n' + std::to_string(static_cast<int>(n.Co)) + " -+"[static_cast<int>(n.Jak)];
     }
-    for (const RadekSeznamu& r : p.Combo.Radky) t += '\n' + r.Text;
-    t += p.Combo.Otevreny ? "O" : "Z";
-    t += p.PicZiva ? "P" : "p";
+    for (const RadekSeznamu& r : p.Vyber.Radky) t += '\n' + r.Text;
+    t += p.Vyber.Otevreny ? "O" : "Z";
+    t += p.PlochaZiva ? "P" : "p";
     return std::hash<std::string>{}(t);
 }
 

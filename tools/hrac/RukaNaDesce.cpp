@@ -22,12 +22,20 @@ const Dialog& RukaNaDesce::Hrany() const {
 }
 
 std::vector<Zadano> RukaNaDesce::Zadani() const {
-    std::vector<PolozkaZadani> popisky;
+    // Name, value, name, value.
+    std::vector<ZadanaVelicina> zadani;
     DeskaForm& deska = Deska();
-    for (int i = 0;; ++i) {
+    const auto popisek = [&deska](int i) {
         const auto* l = dynamic_cast<Label*>(deska.Najdi("lblZadani", i));
-        if (l == nullptr || !l->Visible) return CtiZadani(popisky);
-        popisky.push_back({l->Caption, l->Font});
+        return l != nullptr && l->Visible ? l : nullptr;
+    };
+    for (int i = 0;; i += 2) {
+        const Label* nazev = popisek(i);
+        const Label* hodnota = popisek(i + 1);
+        if (nazev == nullptr || hodnota == nullptr) return CtiZadani(zadani);
+        using enum ZadanaVelicina::Druh;
+        zadani.push_back({nazev->Font.Nazev == Pismo::Rez::Symbol ? Uhel : Delka, nazev->Caption,
+                          hodnota->Caption});
     }
 }
 
@@ -63,7 +71,7 @@ void RukaNaDesce::StiskRadku(int i, std::string_view text) {
 }
 
 void RukaNaDesce::Pis(int ktery, const std::string& text) {
-    if (Hrany().UkazPanel().Vstupy.empty()) return relace_.Napis(text);  // the box has the keys
+    if (Hrany().UkazPanel().Veliciny.empty()) return relace_.Napis(text);  // the box has the keys
     relace_.Prepis(ktery == 1 ? "txtVstup" : "txtVstup" + std::to_string(ktery), text);
 }
 

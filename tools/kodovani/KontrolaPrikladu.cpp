@@ -314,7 +314,7 @@ private:
         auto reseni = maByt.begin() + POLE_RESENI - 1;
         for (const KrokTecny& k : c->Kroky) {
             const auto* r =
-                Najdi(RESENI, [&k](const PravidloReseni& x) { return x.Tvar == k.Spravny; });
+                Najdi(RESENI, [&k](const PravidloReseni& x) { return x.Cim == k.Spravny; });
             if (r == nullptr) continue;
             for (const std::string_view jmeno : Neprazdna(k.Jmena)) {
                 if (!r->Bod && !JeMezi(jmeno, c->Vysledky)) continue;

@@ -265,7 +265,7 @@ constexpr int POLE_DANYCH = 2, POLE_RESENI = 8;
 /// The kind of a solution entry by the tool that makes it. Points are entries always, lines and
 /// circles as far as they are results.
 struct PravidloReseni {
-    Nastroj Tvar;
+    Nastroj Cim;
     std::string_view Utvar;
     bool Bod;
 };

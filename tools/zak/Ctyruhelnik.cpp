@@ -135,7 +135,7 @@ void ZakCtyruhelniku::Trojuhelnik() {
     if (t == std::end(TROJUHELNIKY)) throw NejdeUdelat("zadání neurčuje trojúhelník");
     ruka_.Nastroj(1).Vyber(t->Trojuhelnik);
     ruka_.Nastroj(2).Vyber(t->Veta);
-    const auto radky = ruka_.Hrany().UkazPanel().Vstupy;
+    const auto radky = ruka_.Hrany().UkazPanel().Veliciny;
     if (radky.size() != t->Veliciny.size()) throw NejdeUdelat("hodnoty není kam napsat");
     std::vector<std::size_t> poradi = {0, 1, 2};
     los_.Zamichej(poradi);
@@ -287,7 +287,7 @@ void DokonalyRovnobeznik::Obrazy() {
     while (!ruka_.Hrany().Hotova()) {
         ruka_.Nastroj(2);
         // "hledaný bod D je obrazem vrcholu A": the pupil sees which point is looked for.
-        const auto seznam = ruka_.Hrany().UkazPanel().Combo.Radky;
+        const auto seznam = ruka_.Hrany().UkazPanel().Vyber.Radky;
         if (seznam.empty() || !seznam.back().Text.starts_with(UVOD)) {
             throw NejdeUdelat("obrazy se nenabízejí");
         }

@@ -7,9 +7,10 @@
 namespace rysovna::hrac {
 namespace {
 
-/// Letters of the Symbol face by which an assignment names angles.
+/// By what letters an assignment may name angles.
 constexpr std::pair<std::string_view, std::string_view> UHLY[] = {
-    {"a", "alfa"}, {"b", "beta"}, {"g", "gama"}, {"d", "delta"}, {"e", "epsi"}, {"w", "omeg"}};
+    {"a", "alfa"},     {"b", "beta"}, {"g", "gama"}, {"d", "delta"},
+    {"delt", "delta"}, {"e", "epsi"}, {"w", "omeg"}};
 
 [[noreturn]] void Nejde(std::string_view proc, std::string_view co) {
     throw NejdeUdelat(std::string(proc) + ": " + std::string(co));
@@ -17,17 +18,15 @@ constexpr std::pair<std::string_view, std::string_view> UHLY[] = {
 
 }  // namespace
 
-std::vector<Zadano> CtiZadani(const std::vector<PolozkaZadani>& popisky) {
+std::vector<Zadano> CtiZadani(const std::vector<ZadanaVelicina>& zadani) {
     std::vector<Zadano> vse;
-    for (std::size_t i = 0; i + 1 < popisky.size(); i += 2) {
-        std::string velicina = popisky[i].Text;
-        if (popisky[i].Font.Nazev == Pismo::Rez::Symbol) {
-            for (const auto& [pismeno, uhel] : UHLY) {
-                if (popisky[i].Text == pismeno) velicina = uhel;
-            }
+    for (const auto& [druh, nazev, hodnota] : zadani) {
+        if (druh == ZadanaVelicina::Druh::Slovy) continue;
+        std::string velicina = nazev;
+        for (const auto& [pismeno, uhel] : UHLY) {
+            if (druh == ZadanaVelicina::Druh::Uhel && nazev == pismeno) velicina = uhel;
         }
-        const std::string& hodnota = popisky[i + 1].Text;  // "= 12 cm, "
-        const std::size_t cislice = hodnota.find_first_of("0123456789");
+        const std::size_t cislice = hodnota.find_first_of("0123456789");  // "= 12 cm, "
         vse.push_back({velicina, cislice == std::string::npos
                                      ? 0
                                      : static_cast<int>(Cislo(hodnota.substr(cislice)))});
@@ -57,7 +56,7 @@ bool Ruka::JeZadano(std::string_view velicina) const {
 }
 
 int Ruka::CisloRadku(std::string_view text) const {
-    const Seznam seznam = Hrany().UkazPanel().Combo;
+    const Seznam seznam = Hrany().UkazPanel().Vyber;
     for (std::size_t i = 0; seznam.Otevreny && i < seznam.Radky.size(); ++i) {
         const RadekSeznamu& r = seznam.Radky[i];
         if (r.Videt && r.Ziva && r.Text == text) return static_cast<int>(i) + 1;
@@ -73,7 +72,7 @@ Ruka& Ruka::Oznac(Bod misto) {
 }
 
 Ruka& Ruka::Nastroj(int i) {
-    if (!Hrany().UkazPanel().cmd[static_cast<std::size_t>(i - 1)].Zive) {
+    if (!Hrany().UkazPanel().Nastroje[static_cast<std::size_t>(i - 1)].Zivy()) {
         Nejde("nástroj nejde stisknout", std::to_string(i));
     }
     StiskNastroje(i);

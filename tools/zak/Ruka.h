@@ -95,7 +95,7 @@ struct MistoZnacky {
 /// arrows. Plane px.
 [[nodiscard]] bool NaPlose(Bod b);
 
-/// Reads the labels of an assignment: name, value, name, value.
-[[nodiscard]] std::vector<Zadano> CtiZadani(const std::vector<PolozkaZadani>& popisky);
+/// Reads what is given.
+[[nodiscard]] std::vector<Zadano> CtiZadani(const std::vector<ZadanaVelicina>& zadani);
 
 }  // namespace rysovna::hrac

@@ -12,48 +12,62 @@
 namespace rysovna::hrac {
 namespace {
 
-// Faces of the buttons.
-constexpr int PRIMKA_BODY = 2, KOLMO = 4, KRUH = 6, STRED = 7, OSA = 8, PRUSECIK = 9;
+using enum Nastroj;
 
 constexpr int POKUSU = 60;     // to find a free line that is right
 constexpr double NEJDAL = 10;  // px along Y by which it may miss its point; the board allows 14
 
 const std::map<std::string_view, std::vector<KrokZaka>> POSTUPY{
     {"01",
-     {{4, "k přímce a", "S", "", true},
-      {9},
-      {9},
-      {5, "s přímkou a", "A1"},
-      {5, "s přímkou a", "A2"}}},
-    {"02", {{5, "s přímkou a", "S"}, {9}, {9}, {4, "k přímce b", "A1"}, {4, "k přímce b", "A2"}}},
+     {{Kolmice, "k přímce a", "S", "", true},
+      {Prusecik},
+      {Prusecik},
+      {Rovnobezka, "s přímkou a", "A1"},
+      {Rovnobezka, "s přímkou a", "A2"}}},
+    {"02",
+     {{Rovnobezka, "s přímkou a", "S"},
+      {Prusecik},
+      {Prusecik},
+      {Kolmice, "k přímce b", "A1"},
+      {Kolmice, "k přímce b", "A2"}}},
     {"03",
-     {{7, "", "S", "A"},
-      {6, "kružnice l, střed v bodě B", "B"},
-      {9},
-      {9},
-      {2, "přímka AT1", "A", "T1"},
-      {2, "přímka AT2", "A", "T2"}}},
+     {{Stred, "", "S", "A"},
+      {Kruznice, "kružnice l, střed v bodě B", "B"},
+      {Prusecik},
+      {Prusecik},
+      {Primka, "přímka AT1", "A", "T1"},
+      {Primka, "přímka AT2", "A", "T2"}}},
     {"04",
-     {{4, "k přímce a", "A"}, {9}, {7, "", "A", "B"}, {6, "kružnice k, střed v bodě C", "C"}}},
+     {{Kolmice, "k přímce a", "A"},
+      {Prusecik},
+      {Stred, "", "A", "B"},
+      {Kruznice, "kružnice k, střed v bodě C", "C"}}},
     {"05",
-     {{7, "", "A", "B"}, {4, "k úsečce AB", "C"}, {9}, {6, "kružnice k, střed v bodě D", "D"}}},
+     {{Stred, "", "A", "B"},
+      {Kolmice, "k úsečce AB", "C"},
+      {Prusecik},
+      {Kruznice, "kružnice k, střed v bodě D", "D"}}},
     {"06",
-     {{7, "", "A", "B"},
-      {4, "k úsečce AB", "C"},
-      {4, "k přímce a", "B"},
-      {9},
-      {6, "kružnice k, střed v bodě D", "D"}}},
+     {{Stred, "", "A", "B"},
+      {Kolmice, "k úsečce AB", "C"},
+      {Kolmice, "k přímce a", "B"},
+      {Prusecik},
+      {Kruznice, "kružnice k, střed v bodě D", "D"}}},
     {"07",
-     {{4, "k přímce a", "A"}, {9}, {7, "", "A", "B"}, {6, "kružnice k, střed v bodě C", "C"}}},
-    {"08", {{4, "k přímce a", "A"}, {9}, {6, "kružnice k, střed v bodě B", "B"}}},
+     {{Kolmice, "k přímce a", "A"},
+      {Prusecik},
+      {Stred, "", "A", "B"},
+      {Kruznice, "kružnice k, střed v bodě C", "C"}}},
+    {"08",
+     {{Kolmice, "k přímce a", "A"}, {Prusecik}, {Kruznice, "kružnice k, střed v bodě B", "B"}}},
     {"09",
-     {{2, "přímka AS", "A", "S"},
-      {9},
-      {9},
-      {7, "", "A", "B1"},
-      {7, "", "A", "B2"},
-      {6, "kružnice l1, střed v bodě S1", "S1"},
-      {6, "kružnice l2, střed v bodě S2", "S2"}}},
+     {{Primka, "přímka AS", "A", "S"},
+      {Prusecik},
+      {Prusecik},
+      {Stred, "", "A", "B1"},
+      {Stred, "", "A", "B2"},
+      {Kruznice, "kružnice l1, střed v bodě S1", "S1"},
+      {Kruznice, "kružnice l2, střed v bodě S2", "S2"}}},
 };
 
 struct V {
@@ -83,13 +97,13 @@ Bod Pixel(V v) {
 V Dal(V od, V smer, double px) {
     return {od.X + px * smer.X, od.Y + px * smer.Y};
 }
-V Prusecik(V p, V s, V q, V t) {
+V PrusecikCar(V p, V s, V q, V t) {
     return Dal(p, s, ((q.X - p.X) * t.Y - (q.Y - p.Y) * t.X) / (s.X * t.Y - s.Y * t.X));
 }
 /// Where the line from p along s meets the drawn line.
-Bod Prusecik(V p, V s, const Utvar& u) {
+Bod PrusecikCar(V p, V s, const Utvar& u) {
     const V q{static_cast<double>(u.X1), static_cast<double>(u.Y1)};
-    return Pixel(Prusecik(p, s, q, Smer(u)));
+    return Pixel(PrusecikCar(p, s, q, Smer(u)));
 }
 
 /// A place of an element of the sketch, by a parameter: along a straight one, round the left half
@@ -135,14 +149,14 @@ void DokonaleTecny::Oznac() {
     }
 }
 
-Ruka& DokonaleTecny::Nastroj(int tvar) {
-    const Panel p = ruka_.Hrany().UkazPanel();
-    for (int i = 0; i < 4; ++i) {
-        const Tlacitko& t = p.cmd[static_cast<std::size_t>(i)];
-        if (t.Tvar == tvar && t.Zive) return ruka_.Nastroj(i + 1);
+Ruka& DokonaleTecny::Nastroj(rysovna::Nastroj cim) {
+    const MistaNastroju nastroje = ruka_.Hrany().UkazPanel().Nastroje;
+    for (int i = 1; i < NASTROJ_ZPET; ++i) {
+        const MistoNastroje& n = nastroje[static_cast<std::size_t>(i - 1)];
+        if (n.Co == cim && n.Zivy()) return ruka_.Nastroj(i);
     }
-    throw NejdeUdelat("nejde stisknout nástroj " + std::to_string(tvar) + " v kroku " +
-                      std::to_string(Dialogem().Stav().Faze) + " úlohy " + Kod());
+    throw NejdeUdelat("nejde stisknout nástroj " + std::to_string(static_cast<int>(cim)) +
+                      " v kroku " + std::to_string(Dialogem().Stav().Faze) + " úlohy " + Kod());
 }
 
 std::vector<Bod> DokonaleTecny::Kandidati() const {
@@ -172,13 +186,13 @@ std::vector<Bod> DokonaleTecny::Kandidati() const {
         return {pod(r, std::acos(r / sa)), pod(r, -std::acos(r / sa))};
     }
     const Utvar& a = Cara(t, "a");
-    if (kod == "04") return {Prusecik(A, Napric(Smer(a)), a)};
-    if (kod == "07" || kod == "08") return {Prusecik(A, Napric(Smer(a)), Cara(t, "b"))};
+    if (kod == "04") return {PrusecikCar(A, Napric(Smer(a)), a)};
+    if (kod == "07" || kod == "08") return {PrusecikCar(A, Napric(Smer(a)), Cara(t, "b"))};
     const V B = Misto(t, "B");
     const V C{(A.X + B.X) / 2, (A.Y + B.Y) / 2};
     const V osa = Napric(Smer(Cara(t, "AB")));
-    if (kod == "05") return {Prusecik(C, osa, a)};
-    return {Pixel(Prusecik(C, osa, B, Napric(Smer(a))))};
+    if (kod == "05") return {PrusecikCar(C, osa, a)};
+    return {Pixel(PrusecikCar(C, osa, B, Napric(Smer(a))))};
 }
 
 void DokonaleTecny::SpravnyKrok() {
@@ -186,34 +200,34 @@ void DokonaleTecny::SpravnyKrok() {
     const auto& postup = POSTUPY.at(kod);
     const auto i = static_cast<std::size_t>(Dialogem().Stav().Faze - 1);
     if (Osou && i == 0 && (kod == "05" || kod == "06")) {
-        Nastroj(OSA).Vyber("úsečky AB");
+        Nastroj(Osa).Vyber("úsečky AB");
         return;
     }
     // The other of two lines through points that were marked in turn.
     const bool dvojice = i + 2 >= postup.size() && kod < "04";
-    const bool druhy = i > 0 && postup[i - 1].Tvar == PRUSECIK;
+    const bool druhy = i > 0 && postup[i - 1].Cim == Prusecik;
     Proved(Obracene && dvojice ? postup[2 * postup.size() - 3 - i] : Krok(), druhy);
 }
 
 /// druhy: of two crossings this is the second.
 void DokonaleTecny::Proved(const KrokZaka& k, bool druhy) {
-    Nastroj(k.Tvar);
+    Nastroj(k.Cim);
     if (!k.Radek.empty()) ruka_.Vyber(k.Radek);
-    if (k.Tvar == PRUSECIK) {
+    if (k.Cim == Prusecik) {
         const auto kam = Kandidati();
         ruka_.Klikni(los_.Vedle(kam.size() == 2 && druhy != Obracene ? kam[1] : kam[0], 3));
         return;
     }
     const Bod od = NajdiBod(ruka_.Pamet(), k.Od);
-    if (k.Tvar == STRED) {
+    if (k.Cim == Stred) {
         const Bod b = NajdiBod(ruka_.Pamet(), k.K);
         ruka_.Klikni(los_.Vedle(Pixel({(od.X + b.X) / 2.0, (od.Y + b.Y) / 2.0}), 4));
-    } else if (k.Tvar == KRUH) {
+    } else if (k.Cim == Kruznice) {
         const Bod a = NajdiBod(ruka_.Pamet(), "A");
         const int r = Zaokrouhli(std::hypot(od.X - a.X, od.Y - a.Y));
         const Bod stisk = Nahodne();
         ruka_.Tahni(stisk, NaKruznici(los_, od, r + los_.Mezi(-2, 2)));
-    } else if (k.Tvar == PRIMKA_BODY) {
+    } else if (k.Cim == Primka) {
         const Bod stisk = los_.Vedle(od, CHYTNE);
         ruka_.Tahni(stisk, los_.Vedle(NajdiBod(ruka_.Pamet(), k.K), CHYTNE));
     } else {
@@ -237,7 +251,7 @@ bool DokonaleTecny::NajdiVolnyTah(const KrokZaka& k, Bod& odkud, Bod& kam) {
     const std::string_view radek = k.Radek;
     const int cislo = NajdiCaru(ruka_.Pamet(), radek.substr(radek.rfind(' ') + 1));
     const Utvar& zakladna = ruka_.Pamet().Utvary[cislo];
-    const bool kolmo = k.Tvar == KOLMO;
+    const bool kolmo = k.Cim == Kolmice;
     const auto chyti = [this, cislo, kolmo](Bod b) {
         const auto blizko = [b](int x, int y) {
             return std::abs(b.X - x) <= CHYTNE && std::abs(b.Y - y) <= CHYTNE;

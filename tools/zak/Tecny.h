@@ -14,7 +14,7 @@ namespace rysovna::hrac {
 /// What the perfect pupil does at a step of an exercise. Where: the point from which a line starts,
 /// the centre of a circle, both ends of a line between points or of a midpoint's segment.
 struct KrokZaka {
-    int Tvar;  ///< number of the button's face
+    Nastroj Cim;
     std::string_view Radek = "", Od = "", K = "";
     bool JenZBodu = false;  ///< a line that must start on its point: near it is not right
 };
@@ -37,8 +37,8 @@ public:
     void SpravneDo(int faze);
     void SpravneVse();
 
-    /// Presses the live button that has this face; throws if there is none.
-    Ruka& Nastroj(int tvar);
+    /// Presses the button of this tool; throws if it is not live.
+    Ruka& Nastroj(rysovna::Nastroj cim);
     /// The row of the step in hand; throws past the last one.
     [[nodiscard]] const KrokZaka& Krok() const;
     /// Both places that the marking step could take.
