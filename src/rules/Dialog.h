@@ -8,6 +8,7 @@
 #include "base/Plane.h"
 #include "rules/Konstrukce.h"
 #include "rules/Misc.h"
+#include "rules/Nacrt.h"
 #include "rules/Panel.h"
 
 namespace rysovna {
@@ -65,16 +66,21 @@ public:
         return std::nullopt;
     }
 
-    /// A place in each element of the sketch where a press hits it, px of the sketch.
-    [[nodiscard]] virtual std::vector<Bod> MistaNacrtu() const = 0;
+    /// The sketch of the example in play, and its marks: bits in the order of its elements.
+    [[nodiscard]] virtual Nacrt NacrtPrikladu() const = 0;
+    [[nodiscard]] virtual std::uint32_t ZnackyNacrtu() const = 0;
     /// The element, from 0, that a press here hits; -1: none.
-    [[nodiscard]] virtual int PrvekNacrtu(float x, float y) const = 0;
+    [[nodiscard]] int PrvekNacrtu(float x, float y) const {
+        return PrvekPod(NacrtPrikladu(), static_cast<double>(x), static_cast<double>(y));
+    }
     /// The element as it is seen; -1: none.
-    [[nodiscard]] virtual PrvekVNacrtu VidetPrvek(int prvek) const = 0;
+    [[nodiscard]] PrvekVNacrtu VidetPrvek(int prvek) const {
+        if (prvek < 0) return {};
+        const auto i = static_cast<std::size_t>(prvek);
+        return {std::string(NacrtPrikladu().Prvky[i].Jmeno), (ZnackyNacrtu() >> i & 1U) != 0};
+    }
     /// The press on the sketch. True if it hit something.
     virtual bool StiskNacrtu(float x, float y) = 0;
-    /// Draws the sketch with its marks.
-    virtual void KresliNacrt(Plane& plocha) const = 0;
 
     /// The arrows: shifts the whole figure by whole pixels and draws it again.
     virtual void Posun(int dx, int dy) = 0;

@@ -71,36 +71,11 @@ void DialogKroku::SestavZadani(std::vector<ZadanaVelicina>& zadani) const {
     }
 }
 
-std::vector<Bod> DialogKroku::MistaNacrtu() const {
-    const Nacrt nacrt = NacrtPrikladu();
-    const auto kde = [&](std::size_t i, double podel) {
-        const PasNacrtu& p = nacrt.Prvky[i].Pas;
-        const double x = p.X1 + podel * (p.X2 - p.X1);
-        return Bod{Zaokrouhli(x), Zaokrouhli(p.K * x + p.Q)};
-    };
-    return MistaPrvku(nacrt.Prvky.size(), kde,
-                      [&](Bod b) { return PrvekPod(nacrt.Prvky, b.X, b.Y); });
-}
-
-int DialogKroku::PrvekNacrtu(float x, float y) const {
-    return PrvekPod(NacrtPrikladu().Prvky, x, y);
-}
-
-PrvekVNacrtu DialogKroku::VidetPrvek(int prvek) const {
-    if (prvek < 0) return {};
-    const auto i = static_cast<std::size_t>(prvek);
-    return {std::string(NacrtPrikladu().Prvky[i].Velicina), (Stav().Znacky >> i & 1U) != 0};
-}
-
 bool DialogKroku::StiskNacrtu(float x, float y) {
     const int prvek = PrvekNacrtu(x, y);
     if (prvek < 0 || Stav().Skontrolovano) return false;
     Upravit().Znacky ^= 1U << prvek;
     return true;
-}
-
-void DialogKroku::KresliNacrt(Plane& plocha) const {
-    KresliPrvkyNacrtu(plocha, NacrtPrikladu(), Stav().Znacky);
 }
 
 // ---- Tools and lists -------------------------------------------------------------------------
@@ -249,7 +224,7 @@ void DialogKroku::Zkontroluj() {
     std::uint32_t ocekavane = 0;
     const auto prvky = NacrtPrikladu().Prvky;
     for (std::size_t i = 0; i < prvky.size(); ++i) {
-        if (JeZadana(prvky[i].Velicina)) ocekavane |= 1U << i;
+        if (JeZadana(prvky[i].Jmeno)) ocekavane |= 1U << i;
     }
     UctujZnacky(misc_, s.Znacky == ocekavane);
     if (!s.HotovaKonstrukce) PridejChybu(misc_, pravidlaKroku_.Nedokoncena);

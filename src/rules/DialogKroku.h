@@ -85,11 +85,9 @@ public:
     [[nodiscard]] bool CekaNaKresleni() const override {
         return Stav().CekaNaKresleni && !Stav().Skontrolovano;
     }
-    [[nodiscard]] std::vector<Bod> MistaNacrtu() const override;
-    [[nodiscard]] int PrvekNacrtu(float x, float y) const override;
-    [[nodiscard]] PrvekVNacrtu VidetPrvek(int prvek) const override;
+    [[nodiscard]] Nacrt NacrtPrikladu() const override { return pravidlaKroku_.NacrtFigury; }
+    [[nodiscard]] std::uint32_t ZnackyNacrtu() const override { return Stav().Znacky; }
     bool StiskNacrtu(float x, float y) override;
-    void KresliNacrt(Plane& plocha) const override;
     void Zkontroluj() override;
     [[nodiscard]] bool Hotova() const override { return Stav().HotovaKonstrukce; }
     [[nodiscard]] Panel UkazPanel() const override;
@@ -105,8 +103,6 @@ public:
 protected:
     // What the boards answer each in its own way.
 
-    /// The sketch of the example in play.
-    [[nodiscard]] virtual Nacrt NacrtPrikladu() const { return pravidlaKroku_.NacrtFigury; }
     [[nodiscard]] virtual StavKroku& Upravit() = 0;
     /// The given quantities in their order: the three of the record.
     [[nodiscard]] virtual std::vector<Zadana> Zadane() const;

@@ -12,7 +12,6 @@ class LichoDialog final : public DialogCtyruhelnikuVrchol {
 public:
     LichoDialog(Misc& misc, Platna platna);
 
-protected:
     [[nodiscard]] Nacrt NacrtPrikladu() const override;
 };
 

@@ -1,7 +1,9 @@
 #include "rules/Nacrt.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "base/Cisla.h"
 #include "base/Matematika.h"
 #include "engine/Tabulky.h"
 
@@ -9,8 +11,8 @@ namespace rysovna {
 
 namespace {
 
-constexpr float VELIKOST_PISMEN = 10;  // points
-constexpr int SIRKA_OBLOUKU = 1;       // px
+constexpr int SIRKA_CARY = 2, SIRKA_OBLOUKU = 1, SIRKA_OZNACENE = 3;  // px
+constexpr float KRIZ = 4;                                             // px, arm of a point's cross
 
 /// An arc about the first point, between the directions to the second and to the third, drawn as
 /// short lines; the shorter way round.
@@ -38,47 +40,43 @@ void KresliOblouk(Plane& p, const PrvekNacrtu& e) {
     }
 }
 
+/// A small filled disc, as circles one in another.
+void KresliKotouc(Plane& p, float x, float y) {
+    p.DrawWidth = SIRKA_CARY;
+    for (float r = 1; r <= 3; r += 1) p.Circle(x, y, r);
+}
+
 void KresliPrvek(Plane& p, const PrvekNacrtu& e, bool oznaceny) {
+    using enum PrvekNacrtu::Tvar;
     p.ForeColor = oznaceny ? CERVENA : CERNA;
-    if (e.Druh == PrvekNacrtu::Tvar::Usecka) {
-        p.DrawWidth = oznaceny ? SIRKA_OZNACENE : SIRKA_CARY_NACRTU;
-        p.Line(e.X1, e.Y1, e.X2, e.Y2);
-    } else {
-        p.DrawWidth = oznaceny ? SIRKA_OZNACENE : SIRKA_OBLOUKU;
-        KresliOblouk(p, e);
+    p.DrawWidth = oznaceny ? SIRKA_OZNACENE : e.Druh == Oblouk ? SIRKA_OBLOUKU : SIRKA_CARY;
+    const bool kotouc = oznaceny && e.SKotoucem;
+    switch (e.Druh) {
+        case Usecka:
+            p.Line(e.X1, e.Y1, e.X2, e.Y2);
+            if (kotouc) KresliKotouc(p, e.X2, e.Y2);
+            break;
+        case Oblouk:
+            KresliOblouk(p, e);
+            break;
+        case Kruznice:
+            p.Circle(e.X1, e.Y1, e.Polomer);
+            if (kotouc) {
+                const double uhel = static_cast<double>(e.UhelKotouce) * PI / STUPNU_PULOTACKY;
+                KresliKotouc(p, e.X1 + e.Polomer * static_cast<float>(Cos(uhel)),
+                             e.Y1 - e.Polomer * static_cast<float>(Sin(uhel)));
+            }
+            break;
+        case PrvekNacrtu::Tvar::Bod:
+            p.Line(e.X1 - KRIZ, e.Y1, e.X1 + KRIZ, e.Y1);
+            p.Line(e.X1, e.Y1 - KRIZ, e.X1, e.Y1 + KRIZ);
+            if (kotouc) KresliKotouc(p, e.X1, e.Y1);
+            break;
     }
 }
 
-Pismo PismoPrvku(bool symbol, bool kurziva) {
-    const auto rez = symbol ? Pismo::Rez::Symbol : Pismo::Rez::MsSansSerif;
-    return {rez, VELIKOST_PISMEN, !symbol && kurziva, !symbol && !kurziva};
-}
-
-}  // namespace
-
-int PrvekPod(std::span<const PrvekNacrtu> prvky, double x, double y) {
-    for (std::size_t i = 0; i < prvky.size(); ++i) {
-        if (prvky[i].Pas.Obsahuje(x, y)) return static_cast<int>(i);
-    }
-    return -1;
-}
-
-std::vector<Bod> MistaPrvku(std::size_t pocet, const std::function<Bod(std::size_t, double)>& kde,
-                            const std::function<int(Bod)>& prvek) {
-    constexpr int DILKU = 20;
-    std::vector<Bod> mista;
-    for (std::size_t i = 0; i < pocet; ++i) {
-        Bod misto = kde(i, 0.5);
-        // To both sides from the middle, further and further.
-        for (int k = 1; k < DILKU && prvek(misto) != static_cast<int>(i); ++k) {
-            const int posun = k % 2 == 0 ? k / 2 : -(k + 1) / 2;
-            misto = kde(i, 0.5 + posun / static_cast<double>(DILKU));
-        }
-        mista.push_back(misto);
-    }
-    return mista;
-}
-
+/// Prints text in the plane's font, its top left corner at x, y, on a white ground: over lines it
+/// stays legible.
 void TiskniNaBilem(Plane& p, float x, float y, std::string_view text) {
     // One thick stroke under the letters, as high as they are: of the row it leaves out what is
     // above and below them, so that lines beside the text stay whole.
@@ -98,10 +96,81 @@ void TiskniNaBilem(Plane& p, float x, float y, std::string_view text) {
     p.Print(text);
 }
 
-void KresliPrvkyNacrtu(Plane& plocha, const Nacrt& nacrt, std::uint32_t znacky) {
+}  // namespace
+
+bool ZonaNacrtu::Obsahuje(double x, double y) const {
+    switch (Druh) {
+        case Tvar::Pas: {
+            const double odchylka = y - (K * x + Q);
+            return x >= X1 && x <= X2 && odchylka >= -Dosah && odchylka <= Dosah;
+        }
+        case Tvar::Usecka: {
+            const double vyska = Y1 + (x - X1) * (Y2 - Y1) / (X2 - X1);
+            return x >= X1 && x <= X2 && std::fabs(y - vyska) <= Dosah;
+        }
+        case Tvar::Kruznice:
+            return std::fabs(x - X1) <= Polomer &&
+                   std::fabs(Hypot(x - X1, y - Y1) - Polomer) <= Dosah;
+        case Tvar::Ctverec:
+            return std::fabs(x - X1) <= Dosah && std::fabs(y - Y1) <= Dosah;
+    }
+    return false;
+}
+
+Bod ZonaNacrtu::Misto(double podel) const {
+    double x = X1;
+    double y = Y1;
+    switch (Druh) {
+        case Tvar::Pas:
+            x += podel * (X2 - X1);
+            y = K * x + Q;
+            break;
+        case Tvar::Usecka:
+            x += podel * (X2 - X1);
+            y += podel * (Y2 - Y1);
+            break;
+        case Tvar::Kruznice:
+            x += Polomer * Cos(podel * DVE_PI);
+            y += Polomer * Sin(podel * DVE_PI);
+            break;
+        case Tvar::Ctverec:
+            break;
+    }
+    return {Zaokrouhli(x), Zaokrouhli(y)};
+}
+
+int PrvekPod(const Nacrt& nacrt, double x, double y) {
+    const auto e = std::ranges::find_if(
+        nacrt.Prvky, [&](const PrvekNacrtu& p) { return p.Zona.Obsahuje(x, y); });
+    return e == nacrt.Prvky.end() ? -1 : static_cast<int>(e - nacrt.Prvky.begin());
+}
+
+std::vector<Bod> MistaPrvku(const Nacrt& nacrt) {
+    constexpr int DILKU = 20;
+    std::vector<Bod> mista;
+    for (std::size_t i = 0; i < nacrt.Prvky.size(); ++i) {
+        const ZonaNacrtu& zona = nacrt.Prvky[i].Zona;
+        Bod misto = zona.Misto(0.5);
+        // To both sides from the middle, further and further.
+        for (int k = 1; k < DILKU && PrvekPod(nacrt, misto.X, misto.Y) != static_cast<int>(i);
+             ++k) {
+            const int posun = k % 2 == 0 ? k / 2 : -(k + 1) / 2;
+            misto = zona.Misto(0.5 + posun / static_cast<double>(DILKU));
+        }
+        mista.push_back(misto);
+    }
+    return mista;
+}
+
+void KresliPrvkyNacrtu(Plane& plocha, const Nacrt& nacrt, std::uint32_t znacky,
+                       const PismoNacrtu& pismo) {
     const auto oznaceny = [znacky](std::size_t i) { return (znacky >> i & 1U) != 0; };
+    const auto tiskni = [&](NapisNacrtu napis, std::string_view text, float x, float y) {
+        const std::string pismeny = pismo(plocha, napis, text);
+        TiskniNaBilem(plocha, x, y, pismeny);
+    };
     plocha.Cls();
-    // Marked elements go last, so that at a shared vertex red stays on top; all letters behind all
+    // Marked elements go last, so that where elements meet red stays on top; all names behind all
     // lines, so that none is crossed.
     for (const bool oznacene : {false, true}) {
         for (std::size_t i = 0; i < nacrt.Prvky.size(); ++i) {
@@ -111,14 +180,10 @@ void KresliPrvkyNacrtu(Plane& plocha, const Nacrt& nacrt, std::uint32_t znacky) 
     for (std::size_t i = 0; i < nacrt.Prvky.size(); ++i) {
         const PrvekNacrtu& e = nacrt.Prvky[i];
         plocha.ForeColor = oznaceny(i) ? CERVENA : CERNA;
-        plocha.Font = PismoPrvku(e.Symbol, true);
-        TiskniNaBilem(plocha, e.PX, e.PY, e.Pismeno);
+        tiskni(e.Napis, e.Jmeno, e.PX, e.PY);
     }
     plocha.ForeColor = CERNA;
-    for (const PismenoNacrtu& t : nacrt.Pismena) {
-        plocha.Font = PismoPrvku(t.Symbol, false);
-        TiskniNaBilem(plocha, t.X, t.Y, t.Text);
-    }
+    for (const PismenoNacrtu& t : nacrt.Pismena) tiskni(t.Napis, t.Text, t.X, t.Y);
 }
 
 }  // namespace rysovna

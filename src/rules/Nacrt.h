@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -12,70 +12,154 @@
 
 namespace rysovna {
 
-/// Where a press on the sketch belongs to an element: x from X1 to X2 and y within Tolerance of
-/// K * x + Q, all limits included. Pixels of the sketch.
+// The sketches of all boards: rows of elements and letters. All measures are pixels of the sketch.
+
+/// A band that is said by itself: x from X1 to X2 and y within Tolerance of K * x + Q.
 struct PasNacrtu {
     double X1, X2, K, Q, Tolerance;
-    [[nodiscard]] constexpr bool Obsahuje(double x, double y) const {
-        const double odchylka = y - (K * x + Q);
-        return x >= X1 && x <= X2 && odchylka >= -Tolerance && odchylka <= Tolerance;
-    }
+};
+
+/// Where a press belongs to an element, all limits included.
+struct ZonaNacrtu {
+    enum class Tvar {
+        Pas,       ///< K * x + Q from X1 to X2, so far above and below it
+        Usecka,    ///< from X1, Y1 on the left to X2, Y2, so far above and below it
+        Kruznice,  ///< about X1, Y1, so far to both sides, but not beyond its left and right end
+        Ctverec    ///< about X1, Y1, so far to all sides
+    };
+    Tvar Druh = Tvar::Pas;
+    double X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;
+    double K = 0, Q = 0;
+    double Polomer = 0;
+    double Dosah = 0;  ///< so far
+
+    [[nodiscard]] bool Obsahuje(double x, double y) const;
+    /// The place so far along it, 0 to 1.
+    [[nodiscard]] Bod Misto(double podel) const;
+};
+
+/// What is printed on a sketch. In which face, the screen knows.
+enum class NapisNacrtu {
+    Velicina,  ///< name of a length: "a", "va"
+    Uhel,      ///< name of an angle: "alfa"
+    Vrchol,
+    Jmeno  ///< name of an object or a point, where none of them is a quantity
 };
 
 /// One element of a sketch: what can be marked, where it is hit, how it is drawn.
 struct PrvekNacrtu {
-    enum class Tvar { Usecka, Oblouk };
-    std::string_view Velicina;  ///< "a", "alfa", "va", ...
-    PasNacrtu Pas;
+    enum class Tvar { Usecka, Oblouk, Kruznice, Bod };
+    std::string_view Jmeno;  ///< its name, which stands beside it
+    ZonaNacrtu Zona;
     Tvar Druh;
-    /// Of a segment its ends; of an arc its centre, then the points towards which its two sides go.
+    /// Of a segment its ends; of an arc its centre, then the points towards which its two sides go;
+    /// of a circle its centre; a point itself.
     float X1, Y1, X2, Y2, X3, Y3;
-    float Polomer;             ///< of an arc
-    std::string_view Pismeno;  ///< printed beside it
-    bool Symbol;               ///< in the Symbol face; otherwise italic
-    float PX, PY;              ///< where
+    float Polomer;  ///< of an arc and of a circle
+    NapisNacrtu Napis;
+    float PX, PY;            ///< where the name is printed
+    bool SKotoucem = false;  ///< marked, it has a small disc: at its end
+    float UhelKotouce = 0;   ///< of a circle: where on it, degrees
 };
 
 /// A segment, which bears the name of its quantity.
-[[nodiscard]] constexpr PrvekNacrtu CaraNacrtu(std::string_view velicina, PasNacrtu pas, float X1,
-                                               float Y1, float X2, float Y2, float PX, float PY) {
-    return {velicina, pas, PrvekNacrtu::Tvar::Usecka, X1, Y1, X2, Y2, 0, 0, 0, velicina, false,
-            PX,       PY};
+[[nodiscard]] constexpr PrvekNacrtu CaraNacrtu(std::string_view velicina, PasNacrtu pas, float x1,
+                                               float y1, float x2, float y2, float px, float py) {
+    return {.Jmeno = velicina,
+            .Zona = {.X1 = pas.X1, .X2 = pas.X2, .K = pas.K, .Q = pas.Q, .Dosah = pas.Tolerance},
+            .Druh = PrvekNacrtu::Tvar::Usecka,
+            .X1 = x1,
+            .Y1 = y1,
+            .X2 = x2,
+            .Y2 = y2,
+            .X3 = 0,
+            .Y3 = 0,
+            .Polomer = 0,
+            .Napis = NapisNacrtu::Velicina,
+            .PX = px,
+            .PY = py};
 }
 
-constexpr auto OBLOUK = PrvekNacrtu::Tvar::Oblouk;
+/// The arc of an angle at x1, y1, between the directions to the other two points.
+[[nodiscard]] constexpr PrvekNacrtu UhelNacrtu(std::string_view velicina, PasNacrtu pas, float x1,
+                                               float y1, float x2, float y2, float x3, float y3,
+                                               float polomer, float px, float py) {
+    PrvekNacrtu e = CaraNacrtu(velicina, pas, x1, y1, x2, y2, px, py);
+    e.Druh = PrvekNacrtu::Tvar::Oblouk;
+    e.X3 = x3;
+    e.Y3 = y3;
+    e.Polomer = polomer;
+    e.Napis = NapisNacrtu::Uhel;
+    return e;
+}
 
-/// A letter of the sketch that is no element: the name of a vertex, or of an angle without a mark.
+/// A straight object by its ends, the left one first; hit in the band of so many px above and below
+/// it, all along it.
+[[nodiscard]] constexpr PrvekNacrtu PrimkaNacrtu(std::string_view jmeno, float x1, float y1,
+                                                 float x2, float y2, float px, float py,
+                                                 double dosah = 4) {
+    PrvekNacrtu e = CaraNacrtu(jmeno, {}, x1, y1, x2, y2, px, py);
+    e.Zona = {.Druh = ZonaNacrtu::Tvar::Usecka,
+              .X1 = static_cast<double>(x1),
+              .Y1 = static_cast<double>(y1),
+              .X2 = static_cast<double>(x2),
+              .Y2 = static_cast<double>(y2),
+              .Dosah = dosah};
+    e.Napis = NapisNacrtu::Jmeno;
+    e.SKotoucem = true;
+    return e;
+}
+
+/// A circle, hit in a ring; its disc at this angle, degrees.
+[[nodiscard]] constexpr PrvekNacrtu KruzniceNacrtu(std::string_view jmeno, float x, float y,
+                                                   float polomer, float uhelKotouce, float px,
+                                                   float py) {
+    constexpr double PRSTENEC = 4;  // px to both sides
+    PrvekNacrtu e = PrimkaNacrtu(jmeno, x, y, 0, 0, px, py, PRSTENEC);
+    e.Druh = PrvekNacrtu::Tvar::Kruznice;
+    e.Zona.Druh = ZonaNacrtu::Tvar::Kruznice;
+    e.Polomer = polomer;
+    e.Zona.Polomer = static_cast<double>(polomer);
+    e.UhelKotouce = uhelKotouce;
+    return e;
+}
+
+/// A point, hit in a box of 10 by 10 px.
+[[nodiscard]] constexpr PrvekNacrtu BodNacrtu(std::string_view jmeno, float x, float y, float px,
+                                              float py) {
+    constexpr double POL_BOXU = 5;  // px
+    PrvekNacrtu e = PrimkaNacrtu(jmeno, x, y, 0, 0, px, py, POL_BOXU);
+    e.Druh = PrvekNacrtu::Tvar::Bod;
+    e.Zona.Druh = ZonaNacrtu::Tvar::Ctverec;
+    return e;
+}
+
+/// A name on the sketch that is no element: of a vertex, of an angle without a mark, of an end.
 struct PismenoNacrtu {
     std::string_view Text;
     float X, Y;
-    bool Symbol = false;  ///< in the Symbol face; otherwise bold
+    NapisNacrtu Napis = NapisNacrtu::Vrchol;
 };
 
-/// The sketch of a figure.
+/// The sketch of a figure. Where zones overlap, the first element wins.
 struct Nacrt {
     std::span<const PrvekNacrtu> Prvky;
     std::span<const PismenoNacrtu> Pismena;
 };
 
 /// The first element whose zone contains the press; -1 if none does.
-[[nodiscard]] int PrvekPod(std::span<const PrvekNacrtu> prvky, double x, double y);
+[[nodiscard]] int PrvekPod(const Nacrt& nacrt, double x, double y);
 
-/// A place for a press in each of so many elements: the middle of an element, or the nearest to it
-/// that no other one lies over. kde(i, podel): the place of an element so far along it, 0 to 1;
-/// prvek(place): the element that a press there hits.
-[[nodiscard]] std::vector<Bod> MistaPrvku(std::size_t pocet,
-                                          const std::function<Bod(std::size_t, double)>& kde,
-                                          const std::function<int(Bod)>& prvek);
+/// A place for a press in each element: its middle, or the nearest to it that no other one lies
+/// over.
+[[nodiscard]] std::vector<Bod> MistaPrvku(const Nacrt& nacrt);
 
-/// Lines of a sketch, px. What is marked is red and wider, so that colour is not the only sign.
-constexpr int SIRKA_CARY_NACRTU = 2, SIRKA_OZNACENE = 3;
+/// Sets the plane's font for what is printed next, and gives it as that font spells it.
+using PismoNacrtu = std::function<std::string(Plane&, NapisNacrtu, std::string_view)>;
 
-/// Prints text in the plane's font, its top left corner at x, y, on a white ground: over lines it
-/// stays legible. The pen's width goes to 1.
-void TiskniNaBilem(Plane& plocha, float x, float y, std::string_view text);
-
-/// Draws the sketch: bit i of znacky says that element i is marked (red), the others are black.
-void KresliPrvkyNacrtu(Plane& plocha, const Nacrt& nacrt, std::uint32_t znacky);
+/// Draws the sketch: bit i of znacky says that element i is marked (red and wider, so that colour
+/// is not the only sign), the others are black.
+void KresliPrvkyNacrtu(Plane& plocha, const Nacrt& nacrt, std::uint32_t znacky,
+                       const PismoNacrtu& pismo);
 
 }  // namespace rysovna

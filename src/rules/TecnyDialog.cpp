@@ -85,30 +85,13 @@ bool TecnyDialog::StiskNacrtu(float x, float y) {
     if (c == nullptr || !zadano_ || stav_.Skontrolovano) return false;
     const int prvek = PrvekNacrtu(x, y);
     if (prvek < 0) return false;
-    stav_.Znacky ^= Znacka(NacrtTecny(c->Kod)[static_cast<std::size_t>(prvek)].Znacka);
+    stav_.Znacky ^= 1U << prvek;
     return true;
 }
 
-std::vector<Bod> TecnyDialog::MistaNacrtu() const {
+Nacrt TecnyDialog::NacrtPrikladu() const {
     const Cviceni* c = Hrane();
-    return c == nullptr ? std::vector<Bod>{} : MistaNacrtuTecny(c->Kod);
-}
-
-int TecnyDialog::PrvekNacrtu(float x, float y) const {
-    const Cviceni* c = Hrane();
-    return c == nullptr ? -1 : PrvekNacrtuPod(c->Kod, x, y);
-}
-
-PrvekVNacrtu TecnyDialog::VidetPrvek(int prvek) const {
-    const Cviceni* c = Hrane();
-    if (c == nullptr || prvek < 0) return {};
-    const PrvekNacrtuTecny& e = NacrtTecny(c->Kod)[static_cast<std::size_t>(prvek)];
-    return {std::string(e.Jmeno), (stav_.Znacky & Znacka(e.Znacka)) != 0};
-}
-
-void TecnyDialog::KresliNacrt(Plane& plocha) const {
-    const Cviceni* c = Hrane();
-    KresliNacrtTecny(plocha, c == nullptr ? std::string_view{} : c->Kod, stav_.Znacky);
+    return c == nullptr ? Nacrt{} : NacrtTecny(c->Kod);
 }
 
 void TecnyDialog::Zkontroluj() {
@@ -118,7 +101,12 @@ void TecnyDialog::Zkontroluj() {
     ZavriSeznam();
     if (!stav_.HotovaKonstrukce) PridejChybu(misc_, CHYBA_NEDOKONCENA);
     if (c == nullptr) return;
-    const bool oznaceno = (stav_.Znacky & c->PovinneZnacky) == c->PovinneZnacky;
+    const auto prvky = NacrtPrikladu().Prvky;
+    bool oznaceno = true;
+    for (std::size_t i = 0; i < prvky.size(); ++i) {
+        const bool dany = std::ranges::find(c->Dane, prvky[i].Jmeno) != c->Dane.end();
+        if (dany && (stav_.Znacky >> i & 1U) == 0) oznaceno = false;
+    }
     if (!oznaceno && misc_.SoucetZapornychBodu < BODU_ZA_PRIKLAD) {
         PridejChybu(misc_, CHYBA_ZNACKY);
     }

@@ -76,11 +76,9 @@ public:
     [[nodiscard]] bool CekaNaKresleni() const override;
     [[nodiscard]] std::optional<Bod> ChytilBy(float x, float y) const override;
     [[nodiscard]] std::optional<Bod> TrefilBy(float x, float y) const override;
-    [[nodiscard]] std::vector<Bod> MistaNacrtu() const override;
-    [[nodiscard]] int PrvekNacrtu(float x, float y) const override;
-    [[nodiscard]] PrvekVNacrtu VidetPrvek(int prvek) const override;
+    [[nodiscard]] Nacrt NacrtPrikladu() const override;
+    [[nodiscard]] std::uint32_t ZnackyNacrtu() const override { return stav_.Znacky; }
     bool StiskNacrtu(float x, float y) override;
-    void KresliNacrt(Plane& plocha) const override;
     void Posun(int dx, int dy) override;
     void Zkontroluj() override;
     [[nodiscard]] bool Hotova() const override { return stav_.HotovaKonstrukce; }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -65,18 +64,12 @@ struct KrokTecny {
     bool MrtveZpet = false;
 };
 
-/// Marks of the sketch: eight by number and the ninth, of the segment whose axis is built.
-constexpr std::uint32_t Znacka(int i) {
-    return 1U << i;
-}
-constexpr int ZNACKA_OSY = 8;
-
 struct Cviceni {
     std::string_view Kod{};
-    std::string_view Zadani{}, Dano{};  ///< the assignment; the given objects
-    std::uint32_t PovinneZnacky = 0;
-    std::string_view PocatekPoloprimky{};  ///< name of the start of any ray
-    std::string_view ChybnaKruznice{};     ///< name of a wrong circle; empty: "k" and the step
+    std::string_view Zadani{}, Dano{};       ///< the assignment; the given objects
+    std::array<std::string_view, 3> Dane{};  ///< what is to be marked on the sketch
+    std::string_view PocatekPoloprimky{};    ///< name of the start of any ray
+    std::string_view ChybnaKruznice{};       ///< name of a wrong circle; empty: "k" and the step
     std::array<std::string_view, 2> Vysledky{};  ///< objects that the finish makes stand out
     /// The crossings that are marked; 219 when a marking finds both done. Empty: no such charge.
     std::array<std::string_view, 2> Znacene{};

@@ -100,7 +100,7 @@ UkazatelKlaves DeskaForm::Ukazatel(const Ovladac& o) const {
         u.Ram.Width -= POD_RADKEM;
         u.Ram.Height -= POD_RADKEM;
     } else if (&o == &SamplePic) {
-        const std::vector<Bod> mista = dialog_->MistaNacrtu();
+        const std::vector<Bod> mista = MistaPrvku(dialog_->NacrtPrikladu());
         if (mista.empty()) return u;
         u.Hrot = mista[static_cast<std::size_t>(zona_) % mista.size()];
         u.Ram = {u.Hrot.X - OKOLI_ZONY, u.Hrot.Y - OKOLI_ZONY, 2 * OKOLI_ZONY, 2 * OKOLI_ZONY};
@@ -175,7 +175,7 @@ Bod DeskaForm::VRozsahu(Bod kriz) const {
 bool DeskaForm::KlavesaNa(Ovladac& o, std::string_view klavesa, int shift) {
     const std::optional<Bod> smer = SmerSipky(klavesa);
     if (&o == &SamplePic && smer) {
-        const auto pocet = static_cast<int>(dialog_->MistaNacrtu().size());
+        const auto pocet = static_cast<int>(dialog_->NacrtPrikladu().Prvky.size());
         if (pocet > 0) zona_ = (zona_ % pocet + smer->X + smer->Y + pocet) % pocet;
         ObnovRadu();
         return true;

@@ -36,6 +36,18 @@ constexpr std::pair<std::string_view, std::string_view> UHLY[] = {
     {"delt", "d"}, {"epsi", "e"}, {"omeg", "w"},
 };
 
+/// How the names on the sketch are set.
+struct PismoNapisu {
+    NapisNacrtu Napis;
+    Pismo Font;
+};
+constexpr float PISMO_VELICIN = 10, PISMO_JMEN = 8;  // points
+constexpr PismoNapisu PISMA_NACRTU[] = {
+    {NapisNacrtu::Velicina, {Pismo::Rez::MsSansSerif, PISMO_VELICIN, true, false}},
+    {NapisNacrtu::Uhel, {Pismo::Rez::Symbol, PISMO_VELICIN, false, false}},
+    {NapisNacrtu::Vrchol, {Pismo::Rez::MsSansSerif, PISMO_VELICIN, false, true}},
+    {NapisNacrtu::Jmeno, {Pismo::Rez::MsSansSerif, PISMO_JMEN, false, false}}};
+
 // The unit beside the box for a value, px: to the right of the name of the object in hand; top.
 constexpr int JEDNOTKA_VPRAVO = 142, JEDNOTKA_NAHORE = 374;
 
@@ -74,9 +86,9 @@ int ZkraceniSazbou(const Label& vyzva) {
     return SirkaTextu(pred.Font, pred.Caption) - pred.Width;
 }
 
-std::string PismenoUhlu(const std::string& nazev) {
+std::string PismenoUhlu(std::string_view nazev) {
     const auto* u = std::ranges::find(UHLY, nazev, [](const auto& r) { return r.first; });
-    return u == std::end(UHLY) ? nazev : std::string(u->second);
+    return std::string(u == std::end(UHLY) ? nazev : u->second);
 }
 
 /// px between the name and the value of a given quantity.
@@ -233,8 +245,11 @@ void DeskaForm::UkazSeznam(const Seznam& seznam) {
 }
 
 void DeskaForm::KresliNacrt() {
-    Surface& p = SamplePic.Plocha();
-    dialog_->KresliNacrt(p);
+    const auto pismo = [](Plane& p, NapisNacrtu napis, std::string_view text) {
+        p.Font = std::ranges::find(PISMA_NACRTU, napis, &PismoNapisu::Napis)->Font;
+        return napis == NapisNacrtu::Uhel ? PismenoUhlu(text) : std::string(text);
+    };
+    KresliPrvkyNacrtu(SamplePic.Plocha(), dialog_->NacrtPrikladu(), dialog_->ZnackyNacrtu(), pismo);
 }
 
 /// Puts the panel together in a work picture of the menu: its picture, the heading, the sketch.

@@ -127,7 +127,7 @@ TEST_F(DotykDesky, ZtraceneZvednutiNevadi) {
         }
         r.Hra.Cekej(700);
         const auto predtim = deska.Dialogem().UkazPanel().Nastroje[0].Zivy();
-        const Bod zona = deska.Dialogem().MistaNacrtu()[0];
+        const Bod zona = MistaPrvku(deska.Dialogem().NacrtPrikladu())[0];
         Klepni({roh.X + zona.X, roh.Y + zona.Y});
         EXPECT_NE(deska.Dialogem().UkazPanel().Nastroje[0].Zivy(), predtim) << mysi;
     }
@@ -218,7 +218,8 @@ TEST_F(DotykDesky, KurzorARamyOdpovidajiTomuCoZije) {
     EXPECT_EQ(nad(plocha), Kurzor::Sipka);
     EXPECT_EQ(nad({300, 40}), Kurzor::Ruka);
     const Bod roh = r.Hra.Roh(r.Hra.Prvek("SamplePic"));
-    const Bod zona = dynamic_cast<const DeskaForm&>(*r.Hra.Vpredu()).Dialogem().MistaNacrtu()[0];
+    const Bod zona =
+        MistaPrvku(dynamic_cast<const DeskaForm&>(*r.Hra.Vpredu()).Dialogem().NacrtPrikladu())[0];
     EXPECT_EQ(nad({roh.X + zona.X, roh.Y + zona.Y}), Kurzor::Ruka);
     EXPECT_EQ(nad({roh.X + 2, roh.Y + 2}), Kurzor::Sipka);
     r.Zacni();

@@ -60,7 +60,8 @@ void Relace::StiskniKlavesami(std::string_view jmeno, int index, int dx, int dy)
             const Bod hrot = Ring().Hrot;
             return prvek(hrot.X - roh.X, hrot.Y - roh.Y);
         };
-        for (std::size_t i = d.MistaNacrtu().size(); i > 0 && ted() != chci; --i) Klavesa("Right");
+        for (std::size_t i = d.NacrtPrikladu().Prvky.size(); i > 0 && ted() != chci; --i)
+            Klavesa("Right");
         if (ted() != chci) throw NejdeUdelat("šipkami se nedá dojít na prvek náčrtu");
     }
     Klavesa(++stisku_ % 2 == 0 && jmeno != "Pic" ? "Return" : "Space");

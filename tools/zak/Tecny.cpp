@@ -108,12 +108,12 @@ Bod PrusecikCar(V p, V s, const Utvar& u) {
 
 /// A place of an element of the sketch, by a parameter: along a straight one, round the left half
 /// of a circle; a point itself.
-Bod NaNacrtu(const PrvekNacrtuTecny& e, float k) {
-    using Tvar = PrvekNacrtuTecny::Tvar;
+Bod NaNacrtu(const PrvekNacrtu& e, float k) {
+    using Tvar = PrvekNacrtu::Tvar;
     const float cast = k - std::floor(k);
     V v{static_cast<double>(e.X1), static_cast<double>(e.Y1)};
-    if (e.Druh == Tvar::Cara) v = Dal(v, {e.X2 - e.X1, e.Y2 - e.Y1}, cast);
-    if (e.Druh == Tvar::Kruh) v = Dal(v, {-std::cos(k), -std::sin(k)}, e.X2);
+    if (e.Druh == Tvar::Usecka) v = Dal(v, {e.X2 - e.X1, e.Y2 - e.Y1}, cast);
+    if (e.Druh == Tvar::Kruznice) v = Dal(v, {-std::cos(k), -std::sin(k)}, e.Polomer);
     return Pixel(v);
 }
 
@@ -134,9 +134,11 @@ void DokonaleTecny::Oznac() {
     const Cviceni* c = Dialogem().Hrane();
     if (c == nullptr) return;
     const auto znacky = [this] { return Dialogem().Stav().Znacky; };
-    for (const PrvekNacrtuTecny& e : NacrtTecny(Kod())) {
-        const std::uint32_t znacka = Znacka(e.Znacka);
-        if ((c->PovinneZnacky & znacka) == 0) continue;
+    const auto prvky = NacrtTecny(Kod()).Prvky;
+    for (std::size_t i = 0; i < prvky.size(); ++i) {
+        const PrvekNacrtu& e = prvky[i];
+        const std::uint32_t znacka = 1U << i;
+        if (std::ranges::find(c->Dane, e.Jmeno) == c->Dane.end()) continue;
         for (float k = static_cast<float>(los_.Cislo(100)) / 100; (znacky() & znacka) == 0;
              k += 0.05F) {
             if (k > 8) throw NejdeUdelat("nejde označit " + std::string(e.Jmeno));
