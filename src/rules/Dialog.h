@@ -35,13 +35,13 @@ public:
     /// Chooses an example of the task's file, draws its values, clears the marks of the sketch.
     virtual void NoveZadani() = 0;
 
-    /// The press on a step button, i from 1. A button that is not live does nothing.
+    /// The press on the tool in place i, from 1. A tool that is not live does nothing.
     virtual void StiskNastroje(int i) = 0;
     /// The press on line i (from 1) of the open list.
     virtual void VyberRadku(int i) = 0;
     /// The list goes without a pick.
     virtual void ZavriSeznam() = 0;
-    /// What now stands in the box for the value (which one, from 1).
+    /// What is now typed for the value (which one, from 1).
     virtual void Napis(int ktery, const std::string& text) = 0;
 
     /// The press on the plane, pixels of the plane. Snaps the start and judges what was typed.

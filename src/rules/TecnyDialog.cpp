@@ -1,4 +1,4 @@
-// The life of an example, the step buttons with their lists, and back.
+// The life of an example, the tools with their lists, and back.
 
 #include "rules/TecnyDialog.h"
 
@@ -185,13 +185,13 @@ void TecnyDialog::StiskNastroje(int i) {
     }
 }
 
-/// A wrong button: charged at once; the object can be drawn all the same and costs no more.
+/// A wrong tool: charged at once; the object can be drawn all the same and costs no more.
 void TecnyDialog::Chybne() {
-    PridejChybu(misc_, CHYBA_TLACITKO);
+    PridejChybu(misc_, CHYBA_NASTROJ);
     stav_.KrokChybny = true;
 }
 
-/// Lays the step in hand down, so that the buttons are live again.
+/// Lays the step in hand down, so that the tools are live again.
 void TecnyDialog::Odzbroj() {
     static_cast<KrokVRuce&>(stav_) = {};
 }

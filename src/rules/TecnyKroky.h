@@ -59,7 +59,7 @@ struct KrokTecny {
     std::array<std::string_view, 3> Zakladny{};
     std::string_view JmenoChybnehoStredu{};  ///< of a midpoint that is a wrong choice
     std::array<Nastroj, 4> SedeNastroje{};   ///< what is seen after the press; all Zadny: the same
-    /// Reached by back, the step leaves the back button dead. Not where an earlier step holds
+    /// Reached by back, the step leaves the way back dead. Not where an earlier step holds
     /// another object than its own: only back leads to what is then still to be drawn.
     bool MrtveZpet = false;
 };
@@ -82,7 +82,7 @@ struct Cviceni {
 [[nodiscard]] std::span<const Cviceni> VsechnaCviceni();
 
 /// Wrong steps that do not depend on the exercise.
-constexpr ChybaKroku CHYBA_TLACITKO = ChybaKroku(21).Jinde();
+constexpr ChybaKroku CHYBA_NASTROJ = ChybaKroku(21).Jinde();
 constexpr ChybaKroku CHYBA_OBA_HOTOVE = katalog::OBA_HOTOVE;
 
 }  // namespace rysovna

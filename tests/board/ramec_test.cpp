@@ -310,7 +310,7 @@ TEST_F(RamecDesky, UdajUUkazatelePatriJenNaPlochu) {
     hrac::DokonaleTecny zak(ruka, 1);
     zak.Oznac();
     ruka.ZasunPanel();
-    zak.Nastroj(7);
+    zak.Nastroj(Nastroj::Stred);
     const Ovladac& udaj = hra.Prvek("Text");
     const Bod plocha = hra.Roh(hra.Prvek("Pic"));
     hra.NajedNaMisto(plocha.X + 100, plocha.Y + 100);

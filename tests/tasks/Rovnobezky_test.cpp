@@ -82,7 +82,7 @@ TEST_P(Tecny, PosunJeRovnobezkouAPravyNestojiNic) {
         const int chyb = hra.Pamet().PocetChybnychKroku;
         const Utvar a = hra.Pamet().Utvary[NajdiCaru(hra.Pamet(), "a")];
         const int n = hra.Pamet().PocetUtvaru + 1;
-        hra.zak.Nastroj(5).Vyber(radek);
+        hra.zak.Nastroj(Nastroj::Rovnobezka).Vyber(radek);
         // Every third press aims at the base's own first point, which has no name of its own.
         Bod stisk = Nekde(los);
         if (los.Cislo(3) == 0) stisk = los.Vedle({a.X1, a.Y1}, 9);

@@ -32,7 +32,7 @@ TEST(TecnyChyby, KatalogZnaKrokyCviceni) {
             padne(k.ChybaVolby);
             padne(k.ChybaRysovani);
             padne(k.ChybaPruniku);
-            if (k.Chybne[0] != Nastroj::Zadny) padne(CHYBA_TLACITKO);
+            if (k.Chybne[0] != Nastroj::Zadny) padne(CHYBA_NASTROJ);
             if (!c.Znacene[0].empty() && k.Spravny == Nastroj::Prusecik) padne(CHYBA_OBA_HOTOVE);
         }
     }
