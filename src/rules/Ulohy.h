@@ -29,7 +29,7 @@ struct Uloha {
 
 /// All tasks; those of a family follow one another. Neighbours of a stack of pictures share a row
 /// of pixels, so each stack is 298 px tall.
-constexpr Uloha ULOHY[] = {
+inline constexpr Uloha ULOHY[] = {
     {1, 0, 102, "podle věty SSS", Deska::Troj1Form},
     {2, 0, 93, "podle věty SUS", Deska::Troj1Form},
     {3, 0, 105, "podle věty USU", Deska::Troj1Form},
