@@ -4,10 +4,10 @@
 
 namespace rysovna {
 
-void Selhani(std::string_view co, std::source_location kde) {
-    const char* soubor = kde.file_name();
+void Selhani(std::string_view co, MistoKodu kde) {
+    const char* soubor = kde.Soubor;
     if (const char* lomitko = std::strrchr(soubor, '/')) soubor = lomitko + 1;
-    throw BehovaChyba(std::string(co), std::string(soubor) + ":" + std::to_string(kde.line()));
+    throw BehovaChyba(std::string(co), std::string(soubor) + ":" + std::to_string(kde.Radek));
 }
 
 }  // namespace rysovna

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <source_location>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -24,8 +23,19 @@ private:
     std::string kde_;
 };
 
+/// A place of the code: as a default argument, that of the caller. A value, unlike what the library
+/// has for it, which leaves a writable record behind for each place.
+struct MistoKodu {
+    const char* Soubor;
+    int Radek;
+    static constexpr MistoKodu Tady(const char* soubor = __builtin_FILE(),
+                                    int radek = __builtin_LINE()) {
+        return {soubor, radek};
+    }
+};
+
 /// Throws a fault whose place is the caller's line of code.
 [[noreturn]] void Selhani(std::string_view co,
-                          std::source_location kde = std::source_location::current());
+                          MistoKodu kde = MistoKodu::Tady());
 
 }  // namespace rysovna

@@ -11,7 +11,7 @@ namespace rysovna {
 namespace {
 
 /// Throws unless the value, already whole, fits a signed 32-bit number.
-int DoCelehoCisla(double cele, std::source_location kde) {
+int DoCelehoCisla(double cele, MistoKodu kde) {
     if (!(cele >= static_cast<double>(std::numeric_limits<int>::min()) &&
           cele <= static_cast<double>(std::numeric_limits<int>::max()))) {
         Selhani("Přetečení čísla", kde);
@@ -36,15 +36,15 @@ std::string Tisk(const char* format, double x) {
 
 }  // namespace
 
-int Zaokrouhli(double x, std::source_location kde) {
+int Zaokrouhli(double x, MistoKodu kde) {
     return DoCelehoCisla(KSudemu(x), kde);
 }
 
-int Podlaha(double x, std::source_location kde) {
+int Podlaha(double x, MistoKodu kde) {
     return DoCelehoCisla(std::floor(x), kde);
 }
 
-std::uint8_t Bajt(double x, std::source_location kde) {
+std::uint8_t Bajt(double x, MistoKodu kde) {
     const int cele = Zaokrouhli(x, kde);
     if (cele < 0 || cele > 255) Selhani("Číslo mimo rozsah 0 až 255", kde);
     return static_cast<std::uint8_t>(cele);

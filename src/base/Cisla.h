@@ -1,22 +1,23 @@
 #pragma once
 
 #include <cstdint>
-#include <source_location>
 #include <string>
 #include <string_view>
+
+#include "base/Chyba.h"
 
 namespace rysovna {
 
 /// Rounds to the nearest whole number, ties to the even neighbour (0.5 to 0, 1.5 to 2): the rule
 /// by which a floating-point value becomes a pixel. A result that does not fit 32 bits, or a
 /// value that is not a number, is a run-time fault.
-int Zaokrouhli(double x, std::source_location kde = std::source_location::current());
+int Zaokrouhli(double x, MistoKodu kde = MistoKodu::Tady());
 
 /// The next lower whole number. Faults as Zaokrouhli.
-int Podlaha(double x, std::source_location kde = std::source_location::current());
+int Podlaha(double x, MistoKodu kde = MistoKodu::Tady());
 
 /// An unsigned byte, ties to even. A value below 0 or above 255 is a run-time fault.
-std::uint8_t Bajt(double x, std::source_location kde = std::source_location::current());
+std::uint8_t Bajt(double x, MistoKodu kde = MistoKodu::Tady());
 
 /// The lenient conversion of text to a number: leading blanks are skipped, then a sign, digits and
 /// a decimal point count as long as they last; what is no number is 0. "12,5" is 12, "" is 0.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <source_location>
 #include <string>
 
 #include "base/Chyba.h"
@@ -12,10 +11,10 @@ namespace rysovna {
 /// caller. Made from a plain whole number.
 struct Radek {
     // Implicit on purpose: a row is written as a number.
-    Radek(int cislo, std::source_location misto = std::source_location::current())
+    Radek(int cislo, MistoKodu misto = MistoKodu::Tady())
         : i(cislo), kde(misto) {}
     int i;
-    std::source_location kde;
+    MistoKodu kde;
 };
 
 /// A table of fixed size. Rows 0 to N, in use from 1. Any other index is a run-time fault, in

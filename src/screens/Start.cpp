@@ -1,8 +1,8 @@
 #include "screens/Start.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
-#include <iostream>
 #include <string>
 
 #include "platform/Cesta.h"
@@ -26,7 +26,7 @@ constexpr const char* NELZE_OBNOVIT =
 constexpr RezimObrazovky REZIM_HRY{.Sirka = 640, .Vyska = 480, .Barvy = 16};
 
 void VypisChybejici(const std::string& co) {
-    std::cerr << "Rysovna: " << co << '\n';
+    std::fprintf(stderr, "Rysovna: %s\n", co.c_str());
 }
 
 bool JeTu(Sezeni& s, const std::string& cesta) {

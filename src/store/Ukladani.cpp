@@ -51,7 +51,7 @@ bool NeniTam(Disk& disk, const fs::path& soubor) {
     }
 }
 
-const std::string ULOZEN_STRANOU =
+constexpr const char* ULOZEN_STRANOU =
     "Je uložen stranou a zapíše se s příštím výsledkem nebo při příštím spuštění programu.";
 
 std::string JenVPameti(const std::string& proc) {
