@@ -1,9 +1,5 @@
 #include "engine/Sluzby.h"
 
-#include <cstdint>
-#include <limits>
-
-#include "base/Chyba.h"
 #include "engine/Kresleni.h"
 #include "engine/Tabulky.h"
 
@@ -36,15 +32,6 @@ Kresba Ulozena(const Utvar& u) {
             .Znacky = u.Znacky};
 }
 
-/// Adds to a coordinate; one that runs over is a fault.
-void Pricti(int& souradnice, int o) {
-    const std::int64_t soucet = std::int64_t{souradnice} + o;
-    if (soucet < std::numeric_limits<int>::min() || soucet > std::numeric_limits<int>::max()) {
-        Selhani("Přetečení čísla");
-    }
-    souradnice = static_cast<int>(soucet);
-}
-
 }  // namespace
 
 void PrekresliVse(Tabulky& t, Plane& HidenPic, Plane& Pic) {
@@ -67,16 +54,8 @@ void PrekresliVse(Tabulky& t, Plane& HidenPic, Plane& Pic) {
 }
 
 void PosunVse(Tabulky& t, Plane& HidenPic, Plane& Pic, int dx, int dy) {
-    for (int i = 1; i <= t.PocetUtvaru; ++i) {
-        Utvar& u = t.Utvary[i];
-        for (int* x : {&u.X1, &u.X2, &u.X3, &u.X4}) Pricti(*x, dx);
-        for (int* y : {&u.Y1, &u.Y2, &u.Y3, &u.Y4}) Pricti(*y, dy);
-    }
-    for (int i = 1; i <= t.PocetTrojic; ++i) {
-        Trojice& r = t.Trojice_tab[i];
-        for (int* x : {&r.X1, &r.X2, &r.X3}) Pricti(*x, dx);
-        for (int* y : {&r.Y1, &r.Y2, &r.Y3}) Pricti(*y, dy);
-    }
+    for (int i = 1; i <= t.PocetUtvaru; ++i) Posun(t.Utvary[i], dx, dy);
+    for (int i = 1; i <= t.PocetTrojic; ++i) Posun(t.Trojice_tab[i], dx, dy);
     PrekresliVse(t, HidenPic, Pic);
 }
 

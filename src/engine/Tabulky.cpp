@@ -1,10 +1,26 @@
 #include "engine/Tabulky.h"
 
 #include <cmath>
+#include <cstdint>
+#include <limits>
 
+#include "base/Chyba.h"
 #include "base/Cisla.h"
 
 namespace rysovna {
+
+namespace {
+
+/// Adds to a coordinate; one that runs over is a fault.
+void Pricti(int& souradnice, int o) {
+    const std::int64_t soucet = std::int64_t{souradnice} + o;
+    if (soucet < std::numeric_limits<int>::min() || soucet > std::numeric_limits<int>::max()) {
+        Selhani("Přetečení čísla");
+    }
+    souradnice = static_cast<int>(soucet);
+}
+
+}  // namespace
 
 void Tabulky::SmazRadekUtvaru(Radek i) {
     Utvar& radek = Utvary[i];
@@ -14,6 +30,16 @@ void Tabulky::SmazRadekUtvaru(Radek i) {
 
 void Tabulky::SmazRadekTrojic(Radek i) {
     Trojice_tab[i] = Trojice{};
+}
+
+void Posun(Utvar& u, int dx, int dy) {
+    for (int* x : {&u.X1, &u.X2, &u.X3, &u.X4}) Pricti(*x, dx);
+    for (int* y : {&u.Y1, &u.Y2, &u.Y3, &u.Y4}) Pricti(*y, dy);
+}
+
+void Posun(Trojice& t, int dx, int dy) {
+    for (int* x : {&t.X1, &t.X2, &t.X3}) Pricti(*x, dx);
+    for (int* y : {&t.Y1, &t.Y2, &t.Y3}) Pricti(*y, dy);
 }
 
 bool RovneUhly(double a, double b) {

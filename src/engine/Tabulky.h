@@ -69,6 +69,11 @@ struct Trojice {
     friend bool operator==(const Trojice&, const Trojice&) = default;
 };
 
+/// Moves all places of an object, of a snap record, by so many pixels, unused slots too. One that
+/// runs over is a fault.
+void Posun(Utvar& u, int dx, int dy);
+void Posun(Trojice& t, int dx, int dy);
+
 /// The construction: objects in the order in which they were made, and what the mouse can snap
 /// to. Both are in use from row 1 to their counter. The two counters are independent: the drawing
 /// routines move PocetTrojic when told, PocetUtvaru is moved by their caller alone.

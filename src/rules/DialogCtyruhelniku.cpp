@@ -36,20 +36,15 @@ constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhe
 
 DialogCtyruhelniku::DialogCtyruhelniku(Misc& misc, Platna platna,
                                        const PravidlaCtyruhelniku& pravidla)
-    : DialogKroku(
+    : DialogSeStavem(
           misc, platna,
           {pravidla.Uvod, pravidla.NacrtFigury, JMENA, CENY_POCATKU, {1, 2}, CHYBA_NEDOKONCENA}),
       pravidla_(pravidla) {}
 
 // ---- The life of an example ------------------------------------------------------------------
 
-void DialogCtyruhelniku::NovyPriklad() {
-    VyprazdniKonstrukci(misc_, platna_);
-    stav_ = StavCtyruhelniku{};
-}
-
 void DialogCtyruhelniku::Posun(int dx, int dy) {
-    PosunVse(misc_, platna_.HidenPic, platna_.Pic, dx, dy);
+    DialogKroku::Posun(dx, dy);
     if (stav_.Nesestrojen) Prekresli();
 }
 
@@ -200,34 +195,6 @@ std::optional<Bod> DialogCtyruhelniku::MistoVrcholu(std::string_view pismeno) co
         if (u.Jmeno2 == pismeno) return Bod{u.X2, u.Y2};
     }
     return {};
-}
-
-void DialogCtyruhelniku::ZapomenTrojuhelnik() {
-    stav_.ZvolenyTrojuhelnik.clear();
-    stav_.ZvolenaVeta.clear();
-    stav_.Vstupy = {};
-}
-
-void DialogCtyruhelniku::Zpet() {
-    if (stav_.Faze > 1) return DialogKroku::Zpet();
-    stav_.ZvolenyUtvar.clear();
-    ZapomenTrojuhelnik();
-}
-
-void DialogCtyruhelniku::VratFazi() {
-    for (int n = 1; n <= decltype(Priklad::Kroky)::POSLEDNI; ++n) {
-        HranyProUpravu().Kroky[n].Hotovo = NE;
-    }
-    if (stav_.Faze == 1) {
-        // The whole triangle goes, and what it was chosen by.
-        misc_.PocetUtvaru = misc_.PocetTrojic = 0;
-        stav_.Nesestrojen = false;
-        ZapomenTrojuhelnik();
-    } else {
-        // Each step after the triangle made one object.
-        misc_.PocetUtvaru = misc_.PocetTrojic = (stav_.Nesestrojen ? 0 : 3) + stav_.Faze - 2;
-    }
-    Prekresli();
 }
 
 // ---- The check -------------------------------------------------------------------------------

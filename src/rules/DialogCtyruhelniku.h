@@ -26,21 +26,19 @@ struct StavCtyruhelniku : StavKroku {
     std::string ZvolenaVeta;            ///< "sss", "sus" or empty
     bool Nesestrojen = false;           ///< the typed values made no triangle
     std::array<std::string, 3> Vstupy;  ///< what was typed for the triangle
+    void ZpetNecha(const StavCtyruhelniku& /*ted*/) {}
     friend bool operator==(const StavCtyruhelniku&, const StavCtyruhelniku&) = default;
 };
 
 /// The step dialogue of the quadrilateral boards, as far as they share it: the sketch, the
 /// starting triangle that the board draws from three typed values, undo, the check. What follows
 /// the triangle is each board's own.
-class DialogCtyruhelniku : public DialogKroku {
+class DialogCtyruhelniku : public DialogSeStavem<StavCtyruhelniku> {
 public:
     DialogCtyruhelniku(Misc& misc, Platna platna, const PravidlaCtyruhelniku& pravidla);
 
-    void NovyPriklad() override;
     void Napis(int ktery, const std::string& text) override;
     void Posun(int dx, int dy) override;
-
-    [[nodiscard]] const StavCtyruhelniku& Stav() const override { return stav_; }
 
 protected:
     /// A tool was pressed after the triangle; opens its list.
@@ -52,14 +50,10 @@ protected:
     /// Prompts and tools after the triangle.
     virtual void UkazDalsi(Panel& panel) const = 0;
 
-    [[nodiscard]] StavCtyruhelniku& Upravit() override { return stav_; }
     [[nodiscard]] bool ZacinaKrok(Nastroj co) const override;
     void Nabidni(Nastroj co) override;
     void ZvolRadek(std::size_t i) override;
-    /// In the first phase, before the triangle is drawn, takes the choice of it back: triangle,
-    /// theorem and typed values. What was charged, and the row of what was chosen, stay.
-    void Zpet() override;
-    void VratFazi() override;
+    void Prekresli() override;
     [[nodiscard]] int ChybnychPrvku() const override;
     void UkazFazi(Panel& panel) const override;
 
@@ -80,11 +74,8 @@ private:
     void ZvolVetu(const std::string& veta);
     void PotvrdHodnoty();
     void NakresliTrojuhelnik(const VetaTrojuhelniku& veta);
-    void ZapomenTrojuhelnik();
-    void Prekresli();
 
     const PravidlaCtyruhelniku& pravidla_;
-    StavCtyruhelniku stav_;
 };
 
 }  // namespace rysovna

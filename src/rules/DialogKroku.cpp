@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/Cisla.h"
+#include "engine/Sluzby.h"
 #include "rules/Chyby.h"
 #include "rules/Misc.h"
 
@@ -36,6 +37,13 @@ int UtvarSeJmeny(const Tabulky& t, std::string_view jmena) {
 }  // namespace
 
 // ---- The example -----------------------------------------------------------------------------
+
+void DialogKroku::NovyPriklad() {
+    VyprazdniKonstrukci(misc_, platna_);
+    VymazStav();
+    snimky_.clear();
+    ZapamatujKrok();
+}
 
 void DialogKroku::NoveZadani() {
     Upravit().Znacky = 0;
@@ -200,17 +208,33 @@ void DialogKroku::DalsiFaze() {
     s.Tazeni = false;
     s.ZvolenyUtvar.clear();
     s.Rysovane = {};
-    if (++s.Faze == PosledniFaze()) Uzavri();
+    ++s.Faze;
+    ZapamatujKrok();
+    if (s.Faze == PosledniFaze()) Uzavri();
 }
 
+// ---- Back ------------------------------------------------------------------------------------
+
+void DialogKroku::ZapamatujKrok() {
+    snimky_.emplace_back(misc_);
+    ZapamatujStav();
+}
+
+/// The beginning of the step before; in the first phase that of this one. Points stay, and the rows
+/// of what was entered; every expected step is free again, whichever was undone.
 void DialogKroku::Zpet() {
     platna_.Pic.DrawWidth = 1;
-    StavKroku& s = Upravit();
-    --s.Faze;
-    s.CekaNaKresleni = false;
-    s.ZvolenyUtvar.clear();
-    s.HotovaKonstrukce = false;
-    VratFazi();
+    const int faze = std::max(Stav().Faze - 1, 1);
+    VratStav(faze);
+    snimky_.erase(snimky_.begin() + faze, snimky_.end());
+    snimky_.back().Vrat(misc_);
+    for (const int n : pravidlaKroku_.Ocekavane) HranyProUpravu().Kroky[n].Hotovo = NE;
+    Prekresli();
+}
+
+void DialogKroku::Posun(int dx, int dy) {
+    PosunVse(misc_, platna_.HidenPic, platna_.Pic, dx, dy);
+    for (SnimekKonstrukce& s : snimky_) s.Posun(dx, dy);
 }
 
 // ---- The check -------------------------------------------------------------------------------

@@ -5,6 +5,8 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "rules/Dialog.h"
@@ -64,6 +66,12 @@ struct StavKroku {
     friend bool operator==(const StavKroku&, const StavKroku&) = default;
 };
 
+/// What a step back leaves as it is now: marks, what the last step was judged and named by, where
+/// its drag began. All else of the record is what it was at the beginning of the step.
+inline constexpr std::tuple ZPET_NECHA{&StavKroku::Znacky, &StavKroku::KrokChybny,
+                                       &StavKroku::ZvolenyPrvek, &StavKroku::Start,
+                                       &StavKroku::BodVyzvy};
+
 /// The course of a step, as the boards of triangles and quadrilaterals share it: a tool, a line of
 /// its list, a typed value, a drag; then undo, the check, the panel. What is offered and what it
 /// costs is the board's.
@@ -72,7 +80,9 @@ public:
     DialogKroku(Misc& misc, Platna platna, const PravidlaKroku& pravidla)
         : Dialog(misc, platna), pravidlaKroku_(pravidla) {}
 
+    void NovyPriklad() override;
     void NoveZadani() override;
+    void Posun(int dx, int dy) override;
     void StiskNastroje(int i) override;
     void VyberRadku(int i) override;
     void ZavriSeznam() override { Upravit().Vyber.Otevreny = false; }
@@ -134,10 +144,13 @@ protected:
     [[nodiscard]] virtual int PosledniFaze() const { return 4; }
     /// The last phase was reached: closes the figure, if its objects meet.
     virtual void Uzavri() = 0;
-    /// Takes the last step back: an earlier phase.
-    virtual void Zpet();
-    /// Back: the construction of the phase that holds now, drawn anew.
-    virtual void VratFazi() = 0;
+    /// The record as at the beginning of an example.
+    virtual void VymazStav() = 0;
+    /// Keeps the record of the step that begins; puts the kept one of a phase, from 1, back.
+    virtual void ZapamatujStav() = 0;
+    virtual void VratStav(int faze) = 0;
+    /// Draws the construction anew.
+    virtual void Prekresli() = 0;
     /// Whether a kind of object is the one that an expected step asks for.
     [[nodiscard]] virtual bool DruhSedi(const Krok& krok, std::string_view druh) const;
     /// How many of the three entered elements are wrong.
@@ -190,6 +203,9 @@ protected:
     [[nodiscard]] std::vector<ZadanaVelicina>& ZadaniProUpravu() { return zadani_; }
 
 private:
+    void ZapamatujKrok();
+    void Zpet();
+
     struct DruhTahu;
     [[nodiscard]] const DruhTahu* Druh() const;
     [[nodiscard]] Zachyt ChytPosledni(float x, float y) const;
@@ -208,6 +224,36 @@ private:
     std::vector<ZadanaVelicina> zadani_;
     int cisloPrikladu_ = 1;
     HodnotyPrikladu hodnoty_{};
+    std::vector<SnimekKonstrukce> snimky_;  ///< at the beginning of each phase so far
+};
+
+/// The step dialogue with its record. A step back keeps of it what ZPET_NECHA names, and of what S
+/// has beyond StavKroku what S::ZpetNecha takes over.
+template <class S>
+class DialogSeStavem : public DialogKroku {
+public:
+    using DialogKroku::DialogKroku;
+    [[nodiscard]] const S& Stav() const override { return stav_; }
+
+protected:
+    [[nodiscard]] S& Upravit() override { return stav_; }
+    void VymazStav() override {
+        stav_ = S{};
+        stavy_.clear();
+    }
+    void ZapamatujStav() override { stavy_.push_back(stav_); }
+    void VratStav(int faze) override {
+        stavy_.resize(static_cast<std::size_t>(faze));
+        S vraceny = stavy_.back();
+        std::apply([&](auto... pole) { ((vraceny.*pole = stav_.*pole), ...); }, ZPET_NECHA);
+        vraceny.ZpetNecha(stav_);
+        stav_ = std::move(vraceny);
+    }
+
+    S stav_;
+
+private:
+    std::vector<S> stavy_;  ///< at the beginning of each phase so far
 };
 
 }  // namespace rysovna

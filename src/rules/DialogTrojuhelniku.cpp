@@ -26,13 +26,13 @@ constexpr int SIRKA_HOTOVYCH_STRAN = 2;  // px
 
 DialogTrojuhelniku::DialogTrojuhelniku(Misc& misc, Platna platna,
                                        const PravidlaTrojuhelniku& pravidla)
-    : DialogKroku(misc, platna,
-                  {"Sestroj trojúhelník ABC:",
-                   {pravidla.Nacrt, PISMENA},
-                   JMENA,
-                   CENY_POCATKU,
-                   {2, 3},
-                   CHYBA_NEDOKONCENY_TROJUHELNIK}),
+    : DialogSeStavem(misc, platna,
+                     {"Sestroj trojúhelník ABC:",
+                      {pravidla.Nacrt, PISMENA},
+                      JMENA,
+                      CENY_POCATKU,
+                      {2, 3},
+                      CHYBA_NEDOKONCENY_TROJUHELNIK}),
       pravidla_(pravidla) {
     // As designed: what no rule sets stays as it is.
     for (const char* navrh : {"a", "b", "c"}) {
@@ -40,13 +40,8 @@ DialogTrojuhelniku::DialogTrojuhelniku(Misc& misc, Platna platna,
     }
 }
 
-void DialogTrojuhelniku::NovyPriklad() {
-    VyprazdniKonstrukci(misc_, platna_);
-    stav_ = StavTrojuhelniku{};
-}
-
 void DialogTrojuhelniku::Posun(int dx, int dy) {
-    PosunVse(misc_, platna_.HidenPic, platna_.Pic, dx, dy);
+    DialogKroku::Posun(dx, dy);
     if (!stav_.HotovaKonstrukce) return;
     // The redraw wrote over the last snap record: the vertex is the dialogue's own, and goes on.
     stav_.Vrchol.X += dx;
@@ -98,7 +93,7 @@ void DialogTrojuhelniku::PosudOdecet(double odecet) {
     if (cena != nullptr && !HodnotaSedi(odecet)) PridejChybu(misc_, cena->Nakreslena);
 }
 
-// ---- Closing and back ------------------------------------------------------------------------
+// ---- Closing ---------------------------------------------------------------------------------
 
 void DialogTrojuhelniku::Uzavri() {
     if (!NajdiVrchol()) return;
@@ -140,17 +135,7 @@ void DialogTrojuhelniku::ZapisVrchol() {
     zachyt.Jmeno1 = stav_.PismenoVrcholu;
 }
 
-void DialogTrojuhelniku::VratFazi() {
-    --misc_.PocetUtvaru;
-    --misc_.PocetTrojic;
-    stav_.Vrchol = BEZ_BODU;
-    if (stav_.Faze >= 2) {
-        auto& kroky = HranyProUpravu().Kroky;
-        kroky[2].Hotovo = NE;
-        kroky[3].Hotovo = NE;
-    }
-    // The closing added a snap record of its own: the count of two objects is known.
-    if (stav_.Faze == 3) misc_.PocetUtvaru = misc_.PocetTrojic = 2;
+void DialogTrojuhelniku::Prekresli() {
     PrekresliVse(misc_, platna_.HidenPic, platna_.Pic);
 }
 

@@ -43,20 +43,22 @@ struct StavTrojuhelniku : StavKroku {
     std::string Velicina;      ///< the quantity that the step stands for: its value is judged
     Bod Vrchol = BEZ_BODU;     ///< the third vertex, once the triangle is closed
     std::string PismenoVrcholu;
+    /// A step back leaves the names of the last step: a line that has none takes them over.
+    void ZpetNecha(const StavTrojuhelniku& ted) {
+        ZvolenyNazev = ted.ZvolenyNazev;
+        Velicina = ted.Velicina;
+    }
     friend bool operator==(const StavTrojuhelniku&, const StavTrojuhelniku&) = default;
 };
 
 /// The step dialogue of the triangle boards: a side, then two objects whose meeting point is the
 /// third vertex. Every step is a tool, a line of the list, a typed value, a drag. Wrong choices
 /// are charged as they are made and drawn all the same.
-class DialogTrojuhelniku : public DialogKroku {
+class DialogTrojuhelniku : public DialogSeStavem<StavTrojuhelniku> {
 public:
     DialogTrojuhelniku(Misc& misc, Platna platna, const PravidlaTrojuhelniku& pravidla);
 
-    void NovyPriklad() override;
     void Posun(int dx, int dy) override;
-
-    [[nodiscard]] const StavTrojuhelniku& Stav() const override { return stav_; }
 
 protected:
     /// Whether the triangle is to start with this side.
@@ -66,14 +68,13 @@ protected:
     /// Whether a circle's line is offered now, by the name of its centre's point.
     [[nodiscard]] virtual bool StredVDosahu(std::string_view stred) const;
 
-    [[nodiscard]] StavTrojuhelniku& Upravit() override { return stav_; }
     void Nabidni(Nastroj co) override;
     void ZvolRadek(std::size_t i) override;
     void PosudStisk(const Zachyt& zachyt) override;
     [[nodiscard]] std::string OdectiPaprsek(Bod konec) const override;
     void PosudOdecet(double odecet) override;
     void Uzavri() override;
-    void VratFazi() override;
+    void Prekresli() override;
     [[nodiscard]] int ChybnychPrvku() const override;
     void UkazFazi(Panel& panel) const override;
 
@@ -101,7 +102,6 @@ private:
     void ZapisVrchol();
 
     const PravidlaTrojuhelniku& pravidla_;
-    StavTrojuhelniku stav_;
 };
 
 }  // namespace rysovna

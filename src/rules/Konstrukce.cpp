@@ -26,6 +26,22 @@ void VyprazdniKonstrukci(Misc& misc, const Platna& platna) {
     misc.PosunY = 0;
 }
 
+SnimekKonstrukce::SnimekKonstrukce(const Tabulky& t) {
+    for (int i = 1; i <= t.PocetUtvaru; ++i) utvary_.push_back(t.Utvary[i]);
+    for (int i = 1; i <= t.PocetTrojic; ++i) trojice_.push_back(t.Trojice_tab[i]);
+}
+
+void SnimekKonstrukce::Vrat(Tabulky& t) const {
+    t.PocetUtvaru = t.PocetTrojic = 0;
+    for (const Utvar& u : utvary_) t.Utvary[++t.PocetUtvaru] = u;
+    for (const Trojice& r : trojice_) t.Trojice_tab[++t.PocetTrojic] = r;
+}
+
+void SnimekKonstrukce::Posun(int dx, int dy) {
+    for (Utvar& u : utvary_) rysovna::Posun(u, dx, dy);
+    for (Trojice& t : trojice_) rysovna::Posun(t, dx, dy);
+}
+
 void ZapomenZadanePrvky(Misc& misc) {
     constexpr int RADKU = 10;
     for (int i = 1; i <= RADKU; ++i) {

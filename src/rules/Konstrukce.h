@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "base/Plane.h"
 #include "rules/Misc.h"
 
@@ -17,5 +19,19 @@ struct Platna {
 void VyprazdniKonstrukci(Misc& misc, const Platna& platna);
 /// Clears what the pupil entered in the first ten phases.
 void ZapomenZadanePrvky(Misc& misc);
+
+/// The construction as it stood at the beginning of a step: what a step back puts back.
+class SnimekKonstrukce {
+public:
+    explicit SnimekKonstrukce(const Tabulky& t);
+    /// Rows in use and counters; rows behind them are left alone.
+    void Vrat(Tabulky& t) const;
+    /// What the arrows have moved since then moves here too.
+    void Posun(int dx, int dy);
+
+private:
+    std::vector<Utvar> utvary_;
+    std::vector<Trojice> trojice_;
+};
 
 }  // namespace rysovna

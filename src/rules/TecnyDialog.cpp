@@ -131,7 +131,10 @@ void TecnyDialog::Posun(int dx, int dy) {
     };
     const auto posunPary = [&](DvaPruseciky& p) { std::ranges::for_each(p.Misto, posun); };
     posunPary(stav_.Pary);
-    for (Minulost& m : minulost_) posunPary(m.Pary);
+    for (Minulost& m : minulost_) {
+        m.Konstrukce.Posun(dx, dy);
+        posunPary(m.Pary);
+    }
     posun(stav_.StredUsecky);
     posun(stav_.Start);
     if (stav_.HotovaKonstrukce) ZvyrazniReseni();
@@ -290,10 +293,9 @@ void TecnyDialog::Zpet() {
     Odzbroj();
     const Minulost m = std::move(minulost_.back());
     minulost_.pop_back();
-    misc_.PocetUtvaru -= m.Utvaru;
-    misc_.PocetTrojic -= m.Utvaru;
-    for (int i = 0; i < m.Radku; ++i) misc_.ZadanePrvky[m.Faze + i] = {};
-    for (const int i : m.Polozky) misc_.Priklady[cisloPrikladu_].Kroky[i].Hotovo = NE;
+    m.Konstrukce.Vrat(misc_);
+    misc_.ZadanePrvky = m.ZadanePrvky;
+    misc_.Priklady[cisloPrikladu_].Kroky = m.Kroky;
     stav_.Faze = m.Faze;
     stav_.Pary = m.Pary;
     stav_.Pouzite = m.Pouzite;

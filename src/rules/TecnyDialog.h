@@ -90,14 +90,15 @@ public:
     [[nodiscard]] const Cviceni* Hrane() const;
 
 private:
-    /// What back takes away and gives back.
+    /// The beginning of a step, which a step back puts back. Points and marks stay.
     struct Minulost {
+        SnimekKonstrukce Konstrukce;
         int Faze;
         DvaPruseciky Pary;
         std::uint32_t Pouzite;
-        int Utvaru, Radku;         ///< objects made, rows of ZadanePrvky written
-        std::vector<int> Polozky;  ///< solution entries done
-        bool Cizi = false;         ///< the object was another than the step's own
+        Tabulka<Krok, 8> Kroky;  ///< of the example: which solution entries are done
+        decltype(Misc::ZadanePrvky) ZadanePrvky;
+        bool Cizi = false;  ///< the object was another than the step's own
     };
 
     [[nodiscard]] const KrokTecny* KrokFaze(int faze) const;
@@ -144,7 +145,7 @@ private:
     [[nodiscard]] bool ObeHotove() const;
     /// Number of the solution entry of this name; 0 if there is none.
     [[nodiscard]] int PolozkaReseni(std::string_view jmeno) const;
-    void Pamatuj(int utvaru, int radku);
+    void Pamatuj();
     void Zapis(int faze, std::string_view druh, std::string_view prvek);
     void SplnPolozku(std::string_view jmeno);
     void UkonciKrok(bool vlastni);

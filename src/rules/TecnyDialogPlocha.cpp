@@ -120,7 +120,7 @@ void TecnyDialog::KlikniStred(float x, float y) {
     if (krok == nullptr || stav_.StredUsecky == BEZ_BODU) return;
     const bool zasah = VDosahu(x, y, stav_.StredUsecky, DOSAH_STREDU);
     if (!zasah) Uctuj(krok->ChybaRysovani);
-    Pamatuj(1, 1);
+    Pamatuj();
     NakresliBod(stav_.StredUsecky, stav_.Jmeno, zasah ? krok->NaPrimce : std::string_view{});
     Zapis(stav_.Faze, stav_.ZvolenyUtvar, stav_.Jmeno);
     if (stav_.Spravny) SplnPolozku(stav_.Jmeno);
@@ -144,7 +144,7 @@ void TecnyDialog::KlikniPrusecik(float x, float y) {
     const auto par = static_cast<std::size_t>(zasah ? zasazeny : volny);
     const std::string jmeno = stav_.OcekavanyBod;
     const bool vReseni = PolozkaReseni(jmeno) != 0;
-    Pamatuj(1, 1);
+    Pamatuj();
     NakresliBod(p.Misto[par], jmeno, zasah && vReseni ? krok->NaPrimce : std::string_view{});
     Zapis(stav_.Faze, stav_.ZvolenyUtvar, jmeno);
     SplnPolozku(jmeno);
@@ -212,7 +212,7 @@ void TecnyDialog::PusteniPlochy(float x, float y) {
     if (krok == nullptr || !CekaNaKresleni() || !stav_.Tazeni) return;
     const Bod konec = NaPixely(x, y);
     platna_.Pic.DrawWidth = 1;
-    Pamatuj(1, 1);
+    Pamatuj();
     if (stav_.VRuce == Nastroj::Kruznice) {
         NakresliKruznici(*krok, konec);
     } else if (stav_.VRuce == Nastroj::Poloprimka) {
@@ -341,8 +341,9 @@ void TecnyDialog::NakresliBod(Bod misto, const std::string& jmeno, std::string_v
               {.Druh = BOD, .P1 = misto, .Popis1 = jmeno, .NaPrimce = naPrimce}, ANO);
 }
 
-void TecnyDialog::Pamatuj(int utvaru, int radku) {
-    minulost_.push_back({stav_.Faze, stav_.Pary, stav_.Pouzite, utvaru, radku, {}, false});
+void TecnyDialog::Pamatuj() {
+    minulost_.push_back({SnimekKonstrukce(misc_), stav_.Faze, stav_.Pary, stav_.Pouzite,
+                         misc_.Priklady[cisloPrikladu_].Kroky, misc_.ZadanePrvky});
 }
 
 void TecnyDialog::Zapis(int faze, std::string_view druh, std::string_view prvek) {
@@ -363,7 +364,6 @@ void TecnyDialog::SplnPolozku(std::string_view jmeno) {
     const int i = PolozkaReseni(jmeno);
     if (i == 0) return;
     misc_.Priklady[cisloPrikladu_].Kroky[i].Hotovo = ANO;
-    minulost_.back().Polozky.push_back(i);
 }
 
 /// Works out what the next step marks, and charges when there is nothing.

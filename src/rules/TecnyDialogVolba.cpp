@@ -81,7 +81,7 @@ void TecnyDialog::ZvolOsu() {
     const Bod C = StredUseckyBodu(a, b);
     const std::string jmenoC(stred.Jmena[0]);
     const std::string jmenoB(kolmice.Jmena[0]);
-    Pamatuj(2, 2);
+    Pamatuj();
     const Dvojice body = Kolme(misc_.Utvary[usecka], C, C);
     KresliKolmici(misc_, platna_.Pic, NovyRadek(jmenoB, ""),
                   {.Druh = KOLMICE, .P1 = body.P1, .P2 = body.P2}, ANO);
