@@ -164,9 +164,9 @@ constexpr JmenoStredu JMENA_STREDU[] = {{"A", "B", "Sc"}, {"A", "C", "Sb"}, {"B"
 
 /// What ray, line, parallel and perpendicular have in common: direction from the points as given,
 /// then the second point at the margin when the object is new, then the record.
-Utvar& UlozPrimy(Tabulky& t, const Plane& plane, int index, const Kresba& kresba, int NovaTrojice) {
-    const Bod od = kresba.P1;
-    Bod k = kresba.P2;
+Utvar& UlozPrimy(Tabulky& t, const Plane& plane, int index, const Nakres& nakres, int NovaTrojice) {
+    const Bod od = nakres.P1;
+    Bod k = nakres.P2;
     Utvar& utvar = t.Utvary[index];
     utvar.Smer = Smer(od, k, utvar.Smer);
     if (NovaTrojice == ANO) k = NaOkraj(plane, od, k);
@@ -174,7 +174,7 @@ Utvar& UlozPrimy(Tabulky& t, const Plane& plane, int index, const Kresba& kresba
     utvar.Y1 = od.Y;
     utvar.X2 = k.X;
     utvar.Y2 = k.Y;
-    utvar.Druh = kresba.Druh;
+    utvar.Druh = nakres.Druh;
     return utvar;
 }
 
@@ -241,7 +241,7 @@ Bod MistoPopisuKruznice(const Plane& plane, Bod stred, double r) {
 
 }  // namespace
 
-void KresliBod(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+void KresliBod(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice) {
     Utvar& utvar = t.Utvary[index];
     utvar.X1 = k.P1.X;
     utvar.Y1 = k.P1.Y;
@@ -259,7 +259,7 @@ void KresliBod(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTro
     ZapisStred(t, utvar, NovaTrojice);
 }
 
-void KresliUsecku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+void KresliUsecku(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice) {
     Utvar& utvar = t.Utvary[index];
     utvar.X1 = k.P1.X;
     utvar.Y1 = k.P1.Y;
@@ -298,7 +298,7 @@ void KresliUsecku(Tabulky& t, Plane& plane, int index, const Kresba& k, int Nova
     trojice.Jmeno3 = utvar.Jmeno3;
 }
 
-void KresliPoloprimku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+void KresliPoloprimku(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice) {
     Utvar& utvar = UlozPrimy(t, plane, index, k, NovaTrojice);
     utvar.Popis2 = k.Popis2;
 
@@ -317,7 +317,7 @@ void KresliPoloprimku(Tabulky& t, Plane& plane, int index, const Kresba& k, int 
     ZapisKonce(t, utvar, NovaTrojice);
 }
 
-void KresliPrimku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+void KresliPrimku(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice) {
     Utvar& utvar = UlozPrimy(t, plane, index, k, NovaTrojice);
     utvar.Delka = k.Delka;
     CaraPresPlochu(t, plane, utvar, NovaTrojice);
@@ -329,11 +329,11 @@ void KresliPosunutou(Tabulky& t, Plane& plane, int index, const PosunutaPrimka& 
     KresliPrimku(t, plane, index, {.Druh = ROVNOBEZKA, .P1 = primka.P1, .P2 = primka.P2}, NE);
 }
 
-void KresliKolmici(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+void KresliKolmici(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice) {
     CaraPresPlochu(t, plane, UlozPrimy(t, plane, index, k, NovaTrojice), NovaTrojice);
 }
 
-void KresliKruznici(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice) {
+void KresliKruznici(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice) {
     Utvar& utvar = t.Utvary[index];
     utvar.X1 = k.P1.X;
     utvar.Y1 = k.P1.Y;

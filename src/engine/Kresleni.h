@@ -22,7 +22,7 @@ namespace rysovna {
 // What the routine of a kind does not know it leaves alone.
 
 /// What an object is drawn by.
-struct Kresba {
+struct Nakres {
     std::string_view Druh;  ///< kind of object
     Bod P1, P2{};           ///< px of the plane
     std::string_view Popis1{}, Popis2{};
@@ -34,29 +34,29 @@ struct Kresba {
 
 /// A point: a cross at P1 that leans with the line NaPrimce (upright when that line has no snap
 /// row), and the label Popis1. Sets the pen's width to 1.
-void KresliBod(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
+void KresliBod(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice);
 
 /// A segment: with Cara the line itself, and with Znacky too a mark at each end; the two labels are
 /// printed in any case.
-void KresliUsecku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
+void KresliUsecku(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice);
 
 /// A ray from P1 through P2 to the plane's edge, a tick across it at P2, and the label Popis2
 /// there.
-void KresliPoloprimku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
+void KresliPoloprimku(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice);
 
 /// A line (also a parallel) across the whole plane, labelled Jmeno1 at its second point.
-void KresliPrimku(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
+void KresliPrimku(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice);
 
 /// A parallel that was pushed into its place: a line by the very points of its record, in a new
 /// snap row. Label and direction go by these points from the first drawing on.
 void KresliPosunutou(Tabulky& t, Plane& plane, int index, const PosunutaPrimka& primka);
 
 /// A perpendicular: as a line, without a length.
-void KresliKolmici(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
+void KresliKolmici(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice);
 
 /// A circle around P1 whose radius is how far P2 is from P1 along X, labelled Jmeno1 at a place on
 /// the circle that is inside the plane.
-void KresliKruznici(Tabulky& t, Plane& plane, int index, const Kresba& k, int NovaTrojice);
+void KresliKruznici(Tabulky& t, Plane& plane, int index, const Nakres& k, int NovaTrojice);
 
 /// A letter beside a point that no object labels, in a free spot looked for as at the ends of a
 /// level segment.

@@ -8,7 +8,7 @@ namespace rysovna {
 namespace {
 
 /// Draws an object of the tables again.
-using Prekresleni = void (*)(Tabulky& t, Plane& plane, int index, const Kresba& k, int novaTrojice);
+using Prekresleni = void (*)(Tabulky& t, Plane& plane, int index, const Nakres& k, int novaTrojice);
 
 struct RadekPrekresleni {
     std::string_view druh;
@@ -21,7 +21,7 @@ constexpr RadekPrekresleni PREKRESLENI[] = {
     {KOLMICE, KresliKolmici}};
 
 /// What a stored object is drawn by again. A parallel has no length.
-Kresba Ulozena(const Utvar& u) {
+Nakres Ulozena(const Utvar& u) {
     return {.Druh = u.Druh,
             .P1 = {u.X1, u.Y1},
             .P2 = {u.X2, u.Y2},

@@ -21,7 +21,7 @@ constexpr std::size_t NEJVIC_OBDELNIKU = 8;
 struct Zaznam {
     const Form* Formular = nullptr;  ///< of a form's ground; null of an object
     Umisteny Objekt;
-    std::uint64_t Otisk = 0;
+    Vzhled Jak;
 
     [[nodiscard]] bool Stejny(const Zaznam& z) const {
         return Formular == z.Formular && Objekt.Co == z.Objekt.Co;
@@ -47,9 +47,10 @@ public:
             z.Formular = &f;
             z.Objekt.Kde = misto;
             z.Objekt.Videt = Prunik(misto, NAVRH);
-            z.Otisk = OtiskFormu(f);
-            Radky.push_back(z);
-            Deti(f, nullptr, {misto.Left, misto.Top}, z.Objekt.Videt);
+            z.Jak = VzhledFormu(f);
+            const Obdelnik videt = z.Objekt.Videt;
+            Radky.push_back(std::move(z));
+            Deti(f, nullptr, {misto.Left, misto.Top}, videt);
         }
     }
 
@@ -71,10 +72,10 @@ private:
             z.Objekt.Videt = Prunik(z.Objekt.Kde, videt);
             if (JePrazdny(z.Objekt.Videt)) continue;
             z.Objekt.Zamereny = o == psane_;
-            z.Otisk = OtiskObjektu(z.Objekt, kurzor_);
-            Radky.push_back(z);
-            if (o->Druh == Ovladac::Typ::PictureBox)
-                Deti(f, o, {z.Objekt.Kde.Left, z.Objekt.Kde.Top}, z.Objekt.Videt);
+            z.Jak = VzhledObjektu(z.Objekt, kurzor_);
+            const Umisteny u = z.Objekt;
+            Radky.push_back(std::move(z));
+            if (o->Druh == Ovladac::Typ::PictureBox) Deti(f, o, {u.Kde.Left, u.Kde.Top}, u.Videt);
         }
     }
 
@@ -97,7 +98,7 @@ std::vector<Obdelnik> Rozdily(const std::vector<Zaznam>& drive, const std::vecto
             continue;
         }
         for (; i < j; ++i) pridej(drive[i]);
-        if (drive[i].Otisk != n.Otisk || !(drive[i].Objekt == n.Objekt)) {
+        if (!(drive[i].Jak == n.Jak) || !(drive[i].Objekt == n.Objekt)) {
             pridej(drive[i]);
             pridej(n);
         }

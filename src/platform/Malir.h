@@ -30,8 +30,8 @@ struct Umisteni {
     friend bool operator==(const Umisteni&, const Umisteni&) = default;
 };
 
-/// Paints the screens. Objects tell nobody of their changes: the painter takes a fingerprint of
-/// each and paints again where one differs from last time.
+/// Paints the screens. Objects tell nobody of their changes: the painter keeps what each
+/// looked like and paints again where that differs from last time.
 class Malir {
 public:
     Malir();

@@ -17,37 +17,6 @@ namespace {
 constexpr Pixel VYBER = DoPixelu(paleta::VYBER);
 constexpr Pixel OBRYS = DoPixelu(paleta::OBRYS);
 
-/// FNV-1a over whatever makes a look.
-class Otisk {
-public:
-    void Pridej(const void* data, std::size_t n) {
-        const auto* b = static_cast<const unsigned char*>(data);
-        for (std::size_t i = 0; i < n; ++i) otisk_ = (otisk_ ^ b[i]) * 1099511628211ULL;
-    }
-    template <class T>
-    requires std::is_arithmetic_v<T> || std::is_pointer_v<T> || std::is_enum_v<T>
-    void Pridej(T x) { Pridej(&x, sizeof x); }
-    void Pridej(const std::string& s) {
-        Pridej(s.size());
-        Pridej(s.data(), s.size());
-    }
-    void Pridej(const Pismo& p) {
-        Pridej(p.Nazev);
-        Pridej(p.Velikost);
-        Pridej(p.Kurziva);
-        Pridej(p.Tucne);
-    }
-    void Pridej(const Obrazek& o) {
-        Pridej(o.Data().get());
-        Pridej(o.Vyrez().Left);
-        Pridej(o.Vyrez().Width);
-    }
-    [[nodiscard]] std::uint64_t Hodnota() const { return otisk_; }
-
-private:
-    std::uint64_t otisk_ = 14695981039346656037ULL;
-};
-
 void NamalujObrazek(const Kresba& k, const Obdelnik& kde, const Obrazek& obrazek) {
     if (obrazek.Prazdny()) return;
     const Obdelnik& vyrez = obrazek.Vyrez();
@@ -226,76 +195,44 @@ void NamalujObjekt(const Kresba& k, const Umisteny& u) {
     }
 }
 
-std::uint64_t OtiskFormu(const Form& form) {
-    Otisk o;
-    o.Pridej(form.BackColor);
-    o.Pridej(form.Picture);
-    return o.Hodnota();
+Vzhled VzhledFormu(const Form& form) {
+    Vzhled v;
+    v.Jak = VzhledPictureBoxu{.Picture = form.Picture, .BackColor = form.BackColor};
+    return v;
 }
 
-std::uint64_t OtiskObjektu(const Umisteny& u, bool kurzor) {
-    Otisk o;
+Vzhled VzhledObjektu(const Umisteny& u, bool kurzor) {
+    Vzhled v;
+    if (u.Co->MaPismo()) v.Font = u.Co->Font;
     switch (u.Co->Druh) {
         case Ovladac::Typ::PictureBox: {
             const auto& p = static_cast<const PictureBox&>(*u.Co);
-            if (p.MaPlochu()) {
-                o.Pridej(p.PlochaNeboNic()->Verze());
-            } else {
-                o.Pridej(p.Picture);
-                o.Pridej(p.Pruhledny);
-                o.Pridej(p.BackColor);
-            }
-            o.Pridej(p.Ramecek);
+            v.Jak = static_cast<const VzhledPictureBoxu&>(p);
+            if (p.MaPlochu()) v.Kresleni = p.PlochaNeboNic()->Verze();
             break;
         }
         case Ovladac::Typ::Image:
-            o.Pridej(static_cast<const Image&>(*u.Co).Picture);
+            v.Jak = static_cast<const VzhledObrazku&>(static_cast<const Image&>(*u.Co));
             break;
-        case Ovladac::Typ::Label: {
-            const auto& l = static_cast<const Label&>(*u.Co);
-            o.Pridej(l.Caption);
-            o.Pridej(l.Font);
-            o.Pridej(l.Enabled);
-            o.Pridej(l.ForeColor);
-            o.Pridej(l.BackColor);
-            o.Pridej(l.WordWrap);
-            o.Pridej(l.Alignment);
-            o.Pridej(l.Sazba);
+        case Ovladac::Typ::Label:
+            v.Jak = static_cast<const VzhledLabelu&>(static_cast<const Label&>(*u.Co));
+            v.Zivy = u.Co->Enabled;
             break;
-        }
-        case Ovladac::Typ::TextBox: {
-            const auto& t = static_cast<const TextBox&>(*u.Co);
-            o.Pridej(t.Text);
-            o.Pridej(t.Font);
-            o.Pridej(t.BackColor);
-            o.Pridej(t.MultiLine);
-            o.Pridej(t.Posun);
-            o.Pridej(u.Zamereny);
-            if (u.Zamereny) {
-                o.Pridej(t.SelStart);
-                o.Pridej(t.SelAnchor);
-                o.Pridej(kurzor);
-            }
+        case Ovladac::Typ::TextBox:
+            v.Jak = static_cast<const VzhledTextBoxu&>(static_cast<const TextBox&>(*u.Co));
+            v.SKurzorem = u.Zamereny && kurzor;
             break;
-        }
-        case Ovladac::Typ::Line: {
-            const auto& l = static_cast<const LineShape&>(*u.Co);
-            o.Pridej((l.X1 <= l.X2) == (l.Y1 <= l.Y2));
-            o.Pridej(l.BorderColor);
-            o.Pridej(l.BorderWidth);
+        case Ovladac::Typ::Line:
+            v.Jak = static_cast<const VzhledTvaru&>(static_cast<const LineShape&>(*u.Co));
             break;
-        }
-        case Ovladac::Typ::Circle: {
-            const auto& c = static_cast<const CircleShape&>(*u.Co);
-            o.Pridej(c.BorderColor);
-            o.Pridej(c.BorderWidth);
+        case Ovladac::Typ::Circle:
+            v.Jak = static_cast<const VzhledTvaru&>(static_cast<const CircleShape&>(*u.Co));
             break;
-        }
         case Ovladac::Typ::Timer:
         case Ovladac::Typ::PictureClip:
             break;
     }
-    return o.Hodnota();
+    return v;
 }
 
 }  // namespace rysovna

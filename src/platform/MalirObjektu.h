@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <variant>
+
 #include "platform/Bitmapa.h"
 #include "platform/Form.h"
 #include "platform/Obrazovky.h"
@@ -45,9 +48,20 @@ void NamalujOhlas(const Kresba& k, const Obrazovky::Ohlas& o);
 /// Paints the ground of a form: its picture over its colour.
 void NamalujForm(const Kresba& k, const Form& form, const Obdelnik& kde);
 
-/// A number that differs when the look of the object does (its place apart).
-[[nodiscard]] std::uint64_t OtiskObjektu(const Umisteny& u, bool kurzor);
-[[nodiscard]] std::uint64_t OtiskFormu(const Form& form);
+/// What an object or a form's ground looks like, its place apart: two that are the same paint the
+/// same pixels.
+struct Vzhled {
+    std::variant<std::monostate, VzhledObrazku, VzhledPictureBoxu, VzhledLabelu, VzhledTextBoxu,
+                 VzhledTvaru>
+        Jak;
+    Pismo Font;
+    bool Zivy = true;            ///< of a label: not greyed
+    std::uint64_t Kresleni = 0;  ///< what was drawn on its surface; 0: it has none
+    bool SKurzorem = false;      ///< a text box with the caret in its visible half
+    friend bool operator==(const Vzhled&, const Vzhled&) = default;
+};
+[[nodiscard]] Vzhled VzhledObjektu(const Umisteny& u, bool kurzor);
+[[nodiscard]] Vzhled VzhledFormu(const Form& form);
 
 /// The rectangle that the pen of a line or circle reaches, pixels of its parent.
 [[nodiscard]] Obdelnik DosahTvaru(const Ovladac& o);

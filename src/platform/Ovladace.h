@@ -29,6 +29,51 @@ enum class Kurzor { Sipka, Ruka, Kriz, Text };
 /// held; the beginning of a drag, which the next press of the blank ends.
 enum class StiskKlavesou { Klik, Drzeni, Tah };
 
+// What an object looks like, its place apart, is a record of its own: the painter keeps the one
+// that it painted and compares. A field that is not in it changes no picture.
+
+struct VzhledObrazku {
+    Obrazek Picture;
+    friend bool operator==(const VzhledObrazku&, const VzhledObrazku&) = default;
+};
+
+struct VzhledPictureBoxu {
+    Obrazek Picture;
+    Barva BackColor = BILA;
+    /// Paints no ground of its own where it has neither surface nor picture.
+    bool Pruhledny = false;
+    bool Ramecek = false;  ///< a thin frame, as lists and panels have
+    friend bool operator==(const VzhledPictureBoxu&, const VzhledPictureBoxu&) = default;
+};
+
+struct VzhledLabelu {
+    std::string Caption;
+    Barva ForeColor = CERNA;
+    Barva BackColor = BEZ_BARVY;  ///< BEZ_BARVY: see-through
+    bool WordWrap = true;         ///< breaks lines at blanks to the width
+    /// 0 left, 1 right, 2 centred
+    int Alignment = 0;
+    bool Sazba = false;  ///< painted as a textbook prints it; the caption stays as it is
+    friend bool operator==(const VzhledLabelu&, const VzhledLabelu&) = default;
+};
+
+struct VzhledTextBoxu {
+    std::string Text;
+    Barva BackColor = BILA;
+    bool MultiLine = false;  ///< shown in rows, with no editing
+    int SelStart = 0;        ///< the caret's end of the selection
+    int SelAnchor = 0;       ///< the other end
+    int Posun = 0;           ///< how far the text is scrolled, px
+    friend bool operator==(const VzhledTextBoxu&, const VzhledTextBoxu&) = default;
+};
+
+struct VzhledTvaru {
+    int X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;  ///< of a line
+    int BorderWidth = 1;
+    Barva BorderColor = CERNA;
+    friend bool operator==(const VzhledTvaru&, const VzhledTvaru&) = default;
+};
+
 /// A screen object: a plain record that a painter paints and a dispatcher of events reads. Nothing
 /// is told of a change: the painter compares. Places are pixels of the parent.
 struct Ovladac {
@@ -65,13 +110,8 @@ protected:
 
 /// A picture box: a picture, a surface to draw on, a container of other objects. Pixels of the key
 /// colour PURPUROVA, in its picture or on its surface, are see-through on the screen.
-struct PictureBox : Ovladac {
+struct PictureBox : Ovladac, VzhledPictureBoxu {
     PictureBox() : Ovladac(Typ::PictureBox) {}
-    Obrazek Picture;
-    Barva BackColor = BILA;
-    /// Paints no ground of its own where it has neither surface nor picture.
-    bool Pruhledny = false;
-    bool Ramecek = false;  ///< a thin frame, as lists and panels have
 
     /// The surface, made at the first call with the box's size (made anew when the size changed)
     /// over the picture as its ground. A box that never draws has none.
@@ -90,20 +130,12 @@ private:
 
 /// A picture without a surface, shown at its own size, cut to the object's. The key colour is
 /// see-through.
-struct Image : Ovladac {
+struct Image : Ovladac, VzhledObrazku {
     Image() : Ovladac(Typ::Image) {}
-    Obrazek Picture;
 };
 
-struct Label : Ovladac {
+struct Label : Ovladac, VzhledLabelu {
     Label() : Ovladac(Typ::Label) {}
-    std::string Caption;
-    Barva ForeColor = CERNA;
-    Barva BackColor = BEZ_BARVY;  ///< BEZ_BARVY: see-through
-    bool WordWrap = true;         ///< breaks lines at blanks to the width
-    /// 0 left, 1 right, 2 centred
-    int Alignment = 0;
-    bool Sazba = false;  ///< painted as a textbook prints it; the caption stays as it is
     /// The caption as it is painted.
     [[nodiscard]] std::string Tisteny() const;
     /// Sets Width to the width of what is painted (a label with a single row).
@@ -111,17 +143,11 @@ struct Label : Ovladac {
 };
 
 /// A line of text to edit: caret, selection, clipboard. Positions count characters.
-struct TextBox : Ovladac {
+struct TextBox : Ovladac, VzhledTextBoxu {
     TextBox() : Ovladac(Typ::TextBox) { Zastavka = 1; }
-    std::string Text;
-    Barva BackColor = BILA;
-    bool MultiLine = false;         ///< shown in rows, with no editing
     int MaxLength = 0;              ///< characters; 0 is no limit
     std::u32string Zakazane;        ///< what cannot be typed or pasted, besides control characters
     bool BezUvodnichMezer = false;  ///< blanks at the beginning are left out
-    int SelStart = 0;               ///< the caret's end of the selection
-    int SelAnchor = 0;              ///< the other end
-    int Posun = 0;                  ///< how far the text is scrolled, px
 
     /// The rows in which a box of several lines shows its text.
     [[nodiscard]] std::vector<std::string> Radky() const;
@@ -130,18 +156,13 @@ struct TextBox : Ovladac {
 };
 
 /// Rubber bands: shapes that the painter lays over a plane without drawing into it.
-struct LineShape : Ovladac {
+struct LineShape : Ovladac, VzhledTvaru {
     LineShape() : Ovladac(Typ::Line) { Visible = false; }
-    int X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;
-    int BorderWidth = 1;
-    Barva BorderColor = CERNA;
 };
 
 /// A circle inscribed in its rectangle.
-struct CircleShape : Ovladac {
+struct CircleShape : Ovladac, VzhledTvaru {
     CircleShape() : Ovladac(Typ::Circle) { Visible = false; }
-    int BorderWidth = 1;
-    Barva BorderColor = CERNA;
 };
 
 /// Fires its form's TimerTick every Interval milliseconds while Enabled.

@@ -67,10 +67,11 @@ struct StavKroku {
 };
 
 /// What a step back leaves as it is now: marks, what the last step was judged and named by, where
-/// its drag began. All else of the record is what it was at the beginning of the step.
-inline constexpr std::tuple ZPET_NECHA{&StavKroku::Znacky, &StavKroku::KrokChybny,
+/// its drag began, the list that was closed. All else of the record is what it was at the beginning
+/// of the step.
+inline constexpr std::tuple ZPET_NECHA{&StavKroku::Znacky,       &StavKroku::KrokChybny,
                                        &StavKroku::ZvolenyPrvek, &StavKroku::Start,
-                                       &StavKroku::BodVyzvy};
+                                       &StavKroku::BodVyzvy,     &StavKroku::Combo};
 
 /// The course of a step, as the boards of triangles and quadrilaterals share it: a tool, a line of
 /// its list, a typed value, a drag; then undo, the check, the panel. What is offered and what it
