@@ -49,7 +49,7 @@ void DialogCtyruhelniku::Posun(int dx, int dy) {
 }
 
 void DialogCtyruhelniku::Prekresli() {
-    PrekresliVse(misc_, platna_.HidenPic, platna_.Pic);
+    DialogKroku::Prekresli();
     if (!stav_.Nesestrojen) return;
     Plane& pic = platna_.Pic;
     pic.CurrentX = static_cast<float>(pic.Width() - pic.TextWidth(NELZE)) / 2;

@@ -26,7 +26,6 @@ struct StavCtyruhelniku : StavKroku {
     std::string ZvolenaVeta;            ///< "sss", "sus" or empty
     bool Nesestrojen = false;           ///< the typed values made no triangle
     std::array<std::string, 3> Vstupy;  ///< what was typed for the triangle
-    void ZpetNecha(const StavCtyruhelniku& /*ted*/) {}
     friend bool operator==(const StavCtyruhelniku&, const StavCtyruhelniku&) = default;
 };
 

@@ -232,6 +232,10 @@ void DialogKroku::Zpet() {
     Prekresli();
 }
 
+void DialogKroku::Prekresli() {
+    PrekresliVse(misc_, platna_.HidenPic, platna_.Pic);
+}
+
 void DialogKroku::Posun(int dx, int dy) {
     PosunVse(misc_, platna_.HidenPic, platna_.Pic, dx, dy);
     for (SnimekKonstrukce& s : snimky_) s.Posun(dx, dy);

@@ -151,7 +151,7 @@ protected:
     virtual void ZapamatujStav() = 0;
     virtual void VratStav(int faze) = 0;
     /// Draws the construction anew.
-    virtual void Prekresli() = 0;
+    virtual void Prekresli();
     /// Whether a kind of object is the one that an expected step asks for.
     [[nodiscard]] virtual bool DruhSedi(const Krok& krok, std::string_view druh) const;
     /// How many of the three entered elements are wrong.
@@ -247,7 +247,7 @@ protected:
         stavy_.resize(static_cast<std::size_t>(faze));
         S vraceny = stavy_.back();
         std::apply([&](auto... pole) { ((vraceny.*pole = stav_.*pole), ...); }, ZPET_NECHA);
-        vraceny.ZpetNecha(stav_);
+        if constexpr (requires { vraceny.ZpetNecha(stav_); }) vraceny.ZpetNecha(stav_);
         stav_ = std::move(vraceny);
     }
 

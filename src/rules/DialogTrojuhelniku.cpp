@@ -135,10 +135,6 @@ void DialogTrojuhelniku::ZapisVrchol() {
     zachyt.Jmeno1 = stav_.PismenoVrcholu;
 }
 
-void DialogTrojuhelniku::Prekresli() {
-    PrekresliVse(misc_, platna_.HidenPic, platna_.Pic);
-}
-
 // ---- The check and the panel -----------------------------------------------------------------
 
 int DialogTrojuhelniku::ChybnychPrvku() const {

@@ -74,7 +74,6 @@ protected:
     [[nodiscard]] std::string OdectiPaprsek(Bod konec) const override;
     void PosudOdecet(double odecet) override;
     void Uzavri() override;
-    void Prekresli() override;
     [[nodiscard]] int ChybnychPrvku() const override;
     void UkazFazi(Panel& panel) const override;
 

@@ -33,26 +33,18 @@ constexpr int KONSTRUKCE = 1, HOTOVO = 2;
 
 constexpr DruhChyby ZAPSANA{901, 1, {}}, NARYSOVANA{902, 2, {}};
 
-class UseckaDialog final : public DialogKroku {
+class UseckaDialog final : public DialogSeStavem<StavKroku> {
 public:
     UseckaDialog(Misc& misc, Platna platna)
-        : DialogKroku(misc, platna,
-                      {.Uvod = "Narýsuj úsečku AB:",
-                       .NacrtFigury = {NACRT, PISMENA},
-                       .Jmena = {},
-                       .CenyPocatku = {},
-                       .Ocekavane = {1, 2},
-                       .Nedokoncena = CHYBA_NEDOKONCENA}) {}
-
-    void NovyPriklad() override {
-        VyprazdniKonstrukci(misc_, platna_);
-        stav_ = {};
-    }
-    void Posun(int dx, int dy) override { PosunVse(misc_, platna_.HidenPic, platna_.Pic, dx, dy); }
-    [[nodiscard]] const StavKroku& Stav() const override { return stav_; }
+        : DialogSeStavem(misc, platna,
+                         {.Uvod = "Narýsuj úsečku AB:",
+                          .NacrtFigury = {NACRT, PISMENA},
+                          .Jmena = {},
+                          .CenyPocatku = {},
+                          .Ocekavane = {1, 2},
+                          .Nedokoncena = CHYBA_NEDOKONCENA}) {}
 
 protected:
-    [[nodiscard]] StavKroku& Upravit() override { return stav_; }
     [[nodiscard]] int PosledniFaze() const override { return HOTOVO; }
     [[nodiscard]] std::vector<Zadana> Zadane() const override {
         return {{Hrany().Nazev1, Hrany().Jednotka1}};
@@ -77,10 +69,6 @@ protected:
         if (odecet != Hodnoty()[0]) PridejChybu(misc_, NARYSOVANA);
     }
     void Uzavri() override { stav_.HotovaKonstrukce = true; }
-    void VratFazi() override {
-        misc_.PocetUtvaru = misc_.PocetTrojic = 0;
-        PrekresliVse(misc_, platna_.HidenPic, platna_.Pic);
-    }
     [[nodiscard]] int ChybnychPrvku() const override { return 0; }
     void UkazFazi(Panel& panel) const override {
         panel.Vyzva = "Zvol úsečku a narýsuj ji.";
@@ -89,9 +77,6 @@ protected:
         UkazNastroje(panel, {Usecka, Zadny, Zadny, Zadny, Zpet, Zadny},
                      {zacina, false, false, false, stav_.Faze > KONSTRUKCE});
     }
-
-private:
-    StavKroku stav_;
 };
 
 // ---- 3. Its row, and the task that it plays --------------------------------------------------
