@@ -71,7 +71,7 @@ struct StavKroku {
 /// of the step.
 inline constexpr std::tuple ZPET_NECHA{&StavKroku::Znacky,       &StavKroku::KrokChybny,
                                        &StavKroku::ZvolenyPrvek, &StavKroku::Start,
-                                       &StavKroku::BodVyzvy,     &StavKroku::Combo};
+                                       &StavKroku::BodVyzvy,     &StavKroku::Vyber};
 
 /// The course of a step, as the boards of triangles and quadrilaterals share it: a tool, a line of
 /// its list, a typed value, a drag; then undo, the check, the panel. What is offered and what it
