@@ -162,18 +162,27 @@ void Obrazovky::Casovace(std::uint32_t ted) {
     }
 }
 
+namespace {
+
+/// As long as it lives, the timer's handler runs or waits.
+class Uvnitr {
+public:
+    Uvnitr(std::vector<const Timer*>& kde, const Timer* co) : kde_(kde), co_(co) {
+        kde_.push_back(co_);
+    }
+    ~Uvnitr() { std::erase(kde_, co_); }
+    Uvnitr(const Uvnitr&) = delete;
+    Uvnitr& operator=(const Uvnitr&) = delete;
+
+private:
+    std::vector<const Timer*>& kde_;
+    const Timer* co_;
+};
+
+}  // namespace
+
 /// A timer whose handler waits does not fire again.
 Cinnost<> Obrazovky::Tik(DrzenyForm form, std::shared_ptr<Timer> t) {
-    struct Uvnitr {
-        std::vector<const Timer*>& Kde;
-        const Timer* Co;
-        Uvnitr(std::vector<const Timer*>& kde, const Timer* co) : Kde(kde), Co(co) {
-            Kde.push_back(Co);
-        }
-        ~Uvnitr() { std::erase(Kde, Co); }
-        Uvnitr(const Uvnitr&) = delete;
-        Uvnitr& operator=(const Uvnitr&) = delete;
-    };
     const Uvnitr uvnitr(vnitrek_->BeziciCasovace, t.get());
     co_await form->TimerTick(*t).Komu(form);
 }

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <span>
+#include <utility>
 
 #include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
@@ -205,10 +207,18 @@ Cinnost<> ZpravaForm::QueryUnload() {
     return {};
 }
 
+namespace {
+
+std::function<bool()> JeZavreny(std::shared_ptr<Form> form) {
+    return [form = std::move(form)] { return form->Zavreny(); };
+}
+
+}  // namespace
+
 Cinnost<Odpoved> Host::UkazZpravu(std::string text, std::string titul, Styl styl) {
     const auto form = Okna().Nacti<ZpravaForm>(*this, text, titul, styl);
     Okna().NastavModalni(form);
-    Cekani odpoved([form] { return form->Zavreny(); });
+    Cekani odpoved(JeZavreny(form));
     co_await odpoved;
     Okna().Unload(*form);
     co_return form->Vysledek();
