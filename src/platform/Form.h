@@ -72,10 +72,6 @@ public:
     virtual Cinnost<> MouseUp(Ovladac* /*o*/, const Mys& /*m*/) { return {}; }
     /// The left button went down and up over the same object.
     virtual Cinnost<> Click(Ovladac* /*o*/) { return {}; }
-    /// Comes with the second press of a double click, between its MouseDown and MouseUp, and takes
-    /// nothing away: each of the two presses gives MouseDown, MouseUp and Click of its own. So a
-    /// screen that counts presses has no use for it.
-    virtual void DblClick(Ovladac* /*o*/) {}
     /// The person edited the text. What the program itself writes into a text box gives no event.
     virtual void Change(TextBox& /*t*/) {}
     virtual Cinnost<> TimerTick(Timer& /*t*/) { return {}; }

@@ -212,7 +212,6 @@ private:
     Cinnost<> Pust(const DrzenyForm& form, Ovladac* o, const Mys& m);
     Cinnost<> Klik(const DrzenyForm& form, Ovladac* o, const Mys& m);
     Cinnost<> PakKlik(Cinnost<> pusteni, DrzenyForm form, DrzenyOvladac o, Mys m);
-    Cinnost<> PakDvojklik(Cinnost<> stisk, DrzenyForm form, DrzenyOvladac o);
     // ObrazovkyDotyk.cpp
     Cinnost<> DorucPrst(const Vstup& s);
     Cinnost<> PrstSeDotkl(Bod kde, const Vstup& s);

@@ -344,13 +344,7 @@ Cinnost<> Obrazovky::DorucStisk(const Vstup& s) {
             v.Psano = host_.TickCount();
         }
     }
-    Cinnost<> stisk = form->MouseDown(o, m).Komu(form);
-    return dvojklik ? PakDvojklik(std::move(stisk), form, {form, o}) : std::move(stisk);
-}
-
-Cinnost<> Obrazovky::PakDvojklik(Cinnost<> stisk, DrzenyForm form, DrzenyOvladac o) {
-    co_await stisk;
-    if (form->Viditelny() && Dosazitelny(o.get())) form->DblClick(o.get());
+    return form->MouseDown(o, m).Komu(form);
 }
 
 void Obrazovky::DorucPohyb(const Vstup& s) {

@@ -78,12 +78,6 @@ TEST_F(KlavesniceTest, StiskKlavesouJeCelyKlikANikdyDvojklik) {
         EXPECT_EQ(Form_->Vezmi(), klik);
         Host_.PosunHodiny(1000);
     }
-    Host_.Stiskni(405, 105);  // the mouse's own pair is measured as ever
-    Okna().Klavesa("Tab", 0);
-    Okna().Klavesa("Space", 0);
-    Form_->Vezmi();
-    Host_.Stiskni(405, 105);
-    EXPECT_EQ(Form_->Vezmi().at(1), "DblClick cmd(1)");
     // While the mouse holds something, keys press nothing.
     Host_.PosunHodiny(1000);
     Okna().MysDolu(425, 110, 1, 0);

@@ -86,7 +86,6 @@ public:
         Zapis("Click", o);
         return {};
     }
-    void DblClick(Ovladac* o) override { Zapis("DblClick", o); }
     void Change(TextBox& t) override { Udalosti.push_back("Change " + t.Text); }
     void Activate() override {
         Udalosti.push_back("Activate");

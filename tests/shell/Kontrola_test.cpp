@@ -6,7 +6,7 @@
 #include "platform/Host.h"
 #include "screens/KontrolaPocitace.h"
 #include "screens/Spolecne.h"
-#include "shell/soubory_pomoc.h"
+#include "shell/SouboryPomoc.h"
 #include "store/Cesty.h"
 #include "store/Fronta.h"
 #include "store/Ukladani.h"

@@ -11,7 +11,7 @@
 #include "platform/PosixDisk.h"
 #include "podpora/UkladaniHned.h"
 #include "screens/Spolecne.h"
-#include "shell/soubory_pomoc.h"
+#include "shell/SouboryPomoc.h"
 #include "store/Fronta.h"
 #include "store/Kodovani.h"
 #include "store/TabulkaVysledku.h"

@@ -11,7 +11,7 @@
 #include "rules/Kontrola.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
-#include "shell/soubory_pomoc.h"
+#include "shell/SouboryPomoc.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
 

@@ -6,7 +6,7 @@
 #include <map>
 
 #include "CeleSoubory.h"
-#include "shell/soubory_pomoc.h"
+#include "shell/SouboryPomoc.h"
 
 namespace rysovna::testy {
 namespace {

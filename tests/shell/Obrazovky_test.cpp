@@ -14,7 +14,7 @@
 #include "screens/SetupForm.h"
 #include "screens/Spolecne.h"
 #include "screens/TabulkaForm.h"
-#include "shell/soubory_pomoc.h"
+#include "shell/SouboryPomoc.h"
 #include "store/Ukladani.h"
 
 namespace rysovna::testy {

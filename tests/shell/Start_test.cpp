@@ -12,7 +12,7 @@
 #include "rules/Misc.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
-#include "shell/soubory_pomoc.h"
+#include "shell/SouboryPomoc.h"
 #include "store/Cesty.h"
 #include "store/Ini.h"
 #include "store/Ukladani.h"
