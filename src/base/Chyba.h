@@ -35,7 +35,6 @@ struct MistoKodu {
 };
 
 /// Throws a fault whose place is the caller's line of code.
-[[noreturn]] void Selhani(std::string_view co,
-                          MistoKodu kde = MistoKodu::Tady());
+[[noreturn]] void Selhani(std::string_view co, MistoKodu kde = MistoKodu::Tady());
 
 }  // namespace rysovna

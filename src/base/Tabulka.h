@@ -11,8 +11,7 @@ namespace rysovna {
 /// caller. Made from a plain whole number.
 struct Radek {
     // Implicit on purpose: a row is written as a number.
-    Radek(int cislo, MistoKodu misto = MistoKodu::Tady())
-        : i(cislo), kde(misto) {}
+    Radek(int cislo, MistoKodu misto = MistoKodu::Tady()) : i(cislo), kde(misto) {}
     int i;
     MistoKodu kde;
 };
