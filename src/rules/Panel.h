@@ -120,8 +120,8 @@ struct Gesto {
 };
 
 /// What the step dialogue says, in its own words: which control shows it, where and how, is the
-/// screen's. Computed from the construction and the dialogue, never patched, so that going back is
-/// an earlier phase shown again.
+/// screen's. Computed from the construction and the dialogue, never patched, so that after a step
+/// back it is right by itself.
 struct Panel {
     std::string Uvod;  ///< lead-in of the assignment
     std::vector<ZadanaVelicina> Zadani;

@@ -51,18 +51,17 @@ int DeskaForm::MrtvyNastrojPod(const Mys& m) const {
 /// The pointer, or the ring of the keys, is over an object; null: over none.
 void DeskaForm::UkazatelNad(const Ovladac* o) {
     using Pod = Videne::CoPod;
-    struct Hrozba {
-        const Ovladac* Co;
-        Pod Pod_;
-    };
-    const Hrozba hrozby[] = {{&cmd[NASTROJ_ZPET - 1], Pod::Zpet},
-                             {&cmd[5], Pod::Sestroj},
-                             {&PicTop[0], Pod::Kontrola},
-                             {&PicTop[3], Pod::Odchod}};
     Pod pod = Pod::Nic;
-    for (const Hrozba& h : hrozby) {
-        if (h.Co == o && o != nullptr && o->Enabled) pod = h.Pod_;
+    const auto pri = [&](const Ovladac& hrozi, Pod cim) {
+        if (&hrozi == o && o->Enabled) pod = cim;
+    };
+    for (std::size_t i = 0; i < cmd.size(); ++i) {
+        const Nastroj co = videne_.Krok.Nastroje[i].Co;
+        if (co == Nastroj::Zpet) pri(cmd[i], Pod::Zpet);
+        if (co == Nastroj::Sestroj) pri(cmd[i], Pod::Sestroj);
     }
+    pri(PicTop[0], Pod::Kontrola);
+    pri(PicTop[3], Pod::Odchod);
     if (pod == videne_.Pod) return;
     videne_.Pod = pod;
     ObnovRadu();

@@ -48,6 +48,13 @@ constexpr DeskaProgramu DESKY[] = {
     Radek<LichoDialog, DeskaCtyruhelniku>(Deska::LichoForm, "LichoForm", NASTROJE_CTYRUHELNIKU),
     Radek<TecnyDialog, TecnyForm>(Deska::TecnyForm, "TecnyForm", NASTROJE_TECEN),
 };
+static_assert(std::ranges::all_of(ULOHY,
+                                  [](const Uloha& u) {
+                                      return std::ranges::find(DESKY, u.deska,
+                                                               &DeskaProgramu::Ktera) !=
+                                             std::end(DESKY);
+                                  }),
+              "a task's board has no row");
 
 }  // namespace
 

@@ -56,6 +56,8 @@ Cinnost<> SelectForm::Start() {
     {
         const Obrazovky::Zavreni zavreni(s_.Okna());
         zprava = co_await s_.Vysledky().ZkusCekajici();
+        // What came while the lock was waited for is not for the message.
+        co_await Cekani::SVstupem(0);
     }
     if (!zprava.empty()) co_await s_.Stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
     IntroForm::Prednacti(s_);
