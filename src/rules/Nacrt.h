@@ -62,32 +62,37 @@ struct PrvekNacrtu {
     float UhelKotouce = 0;   ///< of a circle: where on it, degrees
 };
 
-/// A segment, which bears the name of its quantity.
-[[nodiscard]] constexpr PrvekNacrtu CaraNacrtu(std::string_view velicina, PasNacrtu pas, float x1,
-                                               float y1, float x2, float y2, float px, float py) {
+/// A place of the sketch, px of it.
+struct MistoNacrtu {
+    float X, Y;
+};
+
+/// A segment, which bears the name of its quantity, printed at popis.
+[[nodiscard]] constexpr PrvekNacrtu CaraNacrtu(std::string_view velicina, PasNacrtu pas,
+                                               MistoNacrtu od, MistoNacrtu k, MistoNacrtu popis) {
     return {.Jmeno = velicina,
             .Zona = {.X1 = pas.X1, .X2 = pas.X2, .K = pas.K, .Q = pas.Q, .Dosah = pas.Tolerance},
             .Druh = PrvekNacrtu::Tvar::Usecka,
-            .X1 = x1,
-            .Y1 = y1,
-            .X2 = x2,
-            .Y2 = y2,
+            .X1 = od.X,
+            .Y1 = od.Y,
+            .X2 = k.X,
+            .Y2 = k.Y,
             .X3 = 0,
             .Y3 = 0,
             .Polomer = 0,
             .Napis = NapisNacrtu::Velicina,
-            .PX = px,
-            .PY = py};
+            .PX = popis.X,
+            .PY = popis.Y};
 }
 
-/// The arc of an angle at x1, y1, between the directions to the other two points.
-[[nodiscard]] constexpr PrvekNacrtu UhelNacrtu(std::string_view velicina, PasNacrtu pas, float x1,
-                                               float y1, float x2, float y2, float x3, float y3,
-                                               float polomer, float px, float py) {
-    PrvekNacrtu e = CaraNacrtu(velicina, pas, x1, y1, x2, y2, px, py);
+/// The arc of an angle at its vertex, between the directions to two points.
+[[nodiscard]] constexpr PrvekNacrtu UhelNacrtu(std::string_view velicina, PasNacrtu pas,
+                                               MistoNacrtu vrchol, MistoNacrtu k1, MistoNacrtu k2,
+                                               float polomer, MistoNacrtu popis) {
+    PrvekNacrtu e = CaraNacrtu(velicina, pas, vrchol, k1, popis);
     e.Druh = PrvekNacrtu::Tvar::Oblouk;
-    e.X3 = x3;
-    e.Y3 = y3;
+    e.X3 = k2.X;
+    e.Y3 = k2.Y;
     e.Polomer = polomer;
     e.Napis = NapisNacrtu::Uhel;
     return e;
@@ -98,7 +103,7 @@ struct PrvekNacrtu {
 [[nodiscard]] constexpr PrvekNacrtu PrimkaNacrtu(std::string_view jmeno, float x1, float y1,
                                                  float x2, float y2, float px, float py,
                                                  double dosah = 4) {
-    PrvekNacrtu e = CaraNacrtu(jmeno, {}, x1, y1, x2, y2, px, py);
+    PrvekNacrtu e = CaraNacrtu(jmeno, {}, {x1, y1}, {x2, y2}, {px, py});
     e.Zona = {.Druh = ZonaNacrtu::Tvar::Usecka,
               .X1 = static_cast<double>(x1),
               .Y1 = static_cast<double>(y1),

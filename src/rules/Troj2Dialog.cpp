@@ -35,12 +35,12 @@ constexpr auto CENY = Spoj(CENY_STRAN, std::array<CenaVeliciny, 6>{{{KRUZNICE, "
 constexpr auto NACRT =
     Spoj(NACRT_STRAN,
          std::array<PrvekNacrtu, 6>{
-             {CaraNacrtu("va", {20, 130, -1, 140, 5}, 20, 120, 130, 10, 38, 72),
-              CaraNacrtu("vb", {170, 280, 1, -160, 5}, 170, 10, 280, 120, 243, 66),
-              CaraNacrtu("vc", {5, 11, 0, 85, 55}, 8, 30, 8, 140, 12, 78),
-              CaraNacrtu("ta", {90, 190, -1 / 3.0, 460 / 3.0, 4}, 40, 140, 205, 85, 166, 76),
-              CaraNacrtu("tb", {110, 210, 1 / 3.0, 160 / 3.0, 4}, 260, 140, 95, 85, 118, 76),
-              CaraNacrtu("tc", {147, 153, 0, 97, 37}, 150, 30, 150, 140, 155, 114)}});
+             {CaraNacrtu("va", {20, 130, -1, 140, 5}, {20, 120}, {130, 10}, {38, 72}),
+              CaraNacrtu("vb", {170, 280, 1, -160, 5}, {170, 10}, {280, 120}, {243, 66}),
+              CaraNacrtu("vc", {5, 11, 0, 85, 55}, {8, 30}, {8, 140}, {12, 78}),
+              CaraNacrtu("ta", {90, 190, -1 / 3.0, 460 / 3.0, 4}, {40, 140}, {205, 85}, {166, 76}),
+              CaraNacrtu("tb", {110, 210, 1 / 3.0, 160 / 3.0, 4}, {260, 140}, {95, 85}, {118, 76}),
+              CaraNacrtu("tc", {147, 153, 0, 97, 37}, {150, 30}, {150, 140}, {155, 114})}});
 
 constexpr PravidlaTrojuhelniku PRAVIDLA{
     .Kruznice = KRUZNICE_RADKY, .Ceny = CENY, .Nacrt = NACRT, .ChybaRovnobezky = {}};

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "screens/Sezeni.h"
+#include "screens/FormHry.h"
 
 namespace rysovna {
 

@@ -13,8 +13,8 @@
 #include "platform/Obrazovky.h"
 #include "rules/Dialog.h"
 #include "rules/Rada.h"
+#include "screens/FormHry.h"
 #include "screens/Hover.h"
-#include "screens/Sezeni.h"
 #include "store/MapaPoli.h"
 
 namespace rysovna {

@@ -3,8 +3,8 @@
 #include <memory>
 #include <string_view>
 
+#include "screens/FormHry.h"
 #include "screens/Prechody.h"
-#include "screens/Sezeni.h"
 
 namespace rysovna {
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "screens/Sezeni.h"
+#include "screens/FormHry.h"
 
 namespace rysovna {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/Sezeni.h"
+#include "screens/FormHry.h"
 
 namespace rysovna {
 

@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "screens/FormHry.h"
 #include "screens/Hover.h"
-#include "screens/Sezeni.h"
 
 namespace rysovna {
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "screens/FormHry.h"
 #include "screens/Hover.h"
-#include "screens/Sezeni.h"
 #include "store/TabulkaVysledku.h"
 #include "store/Vysledek.h"
 

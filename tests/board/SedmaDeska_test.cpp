@@ -24,7 +24,8 @@ using namespace hrac;
 
 // ---- 1. Its tables and its dialogue ----------------------------------------------------------
 
-constexpr PrvekNacrtu NACRT[] = {CaraNacrtu("a", {60, 230, 0, 90, 6}, 60, 90, 230, 90, 140, 96)};
+constexpr PrvekNacrtu NACRT[] = {
+    CaraNacrtu("a", {60, 230, 0, 90, 6}, {60, 90}, {230, 90}, {140, 96})};
 constexpr PismenoNacrtu PISMENA[] = {{"A", 44, 82}, {"B", 238, 82}};
 constexpr Vzorec DELKA{10, 5};  // cm
 constexpr int KONSTRUKCE = 1, HOTOVO = 2;

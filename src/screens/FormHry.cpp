@@ -1,3 +1,5 @@
+#include "screens/FormHry.h"
+
 #include "screens/SelectForm.h"
 
 namespace rysovna {
