@@ -148,12 +148,15 @@ private:
     bool EnterVPoli();
     void UkazSeznamKlavesam();
     [[nodiscard]] Bod VRozsahu(Bod kriz) const;
-    // DeskaPanel.cpp: the panel as it is shown, and its slide
+    // DeskaPanel.cpp: what the dialogue says, on its controls
+    /// The Symbol letter of an angle's name; any other name as it is.
+    [[nodiscard]] static std::string PismenoUhlu(std::string_view nazev);
     void RozlozSeznam();
     void UkazNastroje(const MistaNastroju& mista);
     void UkazVelicinu(const Panel& panel);
     void UkazZadani(const std::vector<ZadanaVelicina>& zadani);
     void UkazSeznam(const Seznam& seznam);
+    // DeskaNacrt.cpp: the sliding panel with the sketch, and its slide
     void KresliNacrt();
     void SlozPanel();
     void PolozPanel(int odsunuti);

@@ -1,4 +1,4 @@
-// The panel of the dialogue as the controls show it, and the sliding panel with the sketch.
+// The panel of the dialogue as the controls show it.
 
 #include <algorithm>
 #include <utility>
@@ -36,18 +36,6 @@ constexpr std::pair<std::string_view, std::string_view> UHLY[] = {
     {"delt", "d"}, {"epsi", "e"}, {"omeg", "w"},
 };
 
-/// How the names on the sketch are set.
-struct PismoNapisu {
-    NapisNacrtu Napis;
-    Pismo Font;
-};
-constexpr float PISMO_VELICIN = 10, PISMO_JMEN = 8;  // points
-constexpr PismoNapisu PISMA_NACRTU[] = {
-    {NapisNacrtu::Velicina, {Pismo::Rez::MsSansSerif, PISMO_VELICIN, true, false}},
-    {NapisNacrtu::Uhel, {Pismo::Rez::Symbol, PISMO_VELICIN, false, false}},
-    {NapisNacrtu::Vrchol, {Pismo::Rez::MsSansSerif, PISMO_VELICIN, false, true}},
-    {NapisNacrtu::Jmeno, {Pismo::Rez::MsSansSerif, PISMO_JMEN, false, false}}};
-
 // The unit beside the box for a value, px: to the right of the name of the object in hand; top.
 constexpr int JEDNOTKA_VPRAVO = 142, JEDNOTKA_NAHORE = 374;
 
@@ -66,17 +54,6 @@ constexpr struct {
              {Seznam::Obsah::Popisy, 200},
              {Seznam::Obsah::DlouhePopisy, 250}};
 
-// The slide: 34 frames of 40 ms, 9 px each.
-constexpr int SNIMKU = 34;
-constexpr int KROK_SNIMKU = 9;
-constexpr std::uint32_t DOBA_SNIMKU = 40;  // ms
-
-constexpr std::string_view NADPIS_STRANY = "Označ strany (resp. úhly), které jsou zadány:";
-constexpr std::string_view NADPIS_VSE =
-    "Označ strany (resp. úhly, výšky, těžnice), které jsou zadány:";
-constexpr int ULOHA_STRANY = 1;  // the one task with the short heading
-constexpr float NADPIS_X = 21, NADPIS_Y = 6;
-
 /// By how many px the prompt is painted shorter before its gap than it was measured for: the sign
 /// of a perpendicular moves with the gap.
 int ZkraceniSazbou(const Label& vyzva) {
@@ -84,11 +61,6 @@ int ZkraceniSazbou(const Label& vyzva) {
     pred.Caption = vyzva.Caption.substr(0, vyzva.Caption.find(MEZERA_KOLMO));
     pred.PodleTextu();
     return SirkaTextu(pred.Font, pred.Caption) - pred.Width;
-}
-
-std::string PismenoUhlu(std::string_view nazev) {
-    const auto* u = std::ranges::find(UHLY, nazev, [](const auto& r) { return r.first; });
-    return std::string(u == std::end(UHLY) ? nazev : u->second);
 }
 
 /// px between the name and the value of a given quantity.
@@ -110,6 +82,11 @@ int SirkaSeznamu(Seznam::Obsah coRika) {
 }
 
 }  // namespace
+
+std::string DeskaForm::PismenoUhlu(std::string_view nazev) {
+    const auto* u = std::ranges::find(UHLY, nazev, [](const auto& r) { return r.first; });
+    return std::string(u == std::end(UHLY) ? nazev : u->second);
+}
 
 void DeskaForm::Ukaz() {
     const Panel p = dialog_->UkazPanel();
@@ -242,96 +219,6 @@ void DeskaForm::UkazSeznam(const Seznam& seznam) {
         l.Enabled = seznam.Radky[i].Ziva;
         l.Tag = seznam.Radky[i].Jmena;
     }
-}
-
-void DeskaForm::KresliNacrt() {
-    const auto pismo = [](Plane& p, NapisNacrtu napis, std::string_view text) {
-        p.Font = std::ranges::find(PISMA_NACRTU, napis, &PismoNapisu::Napis)->Font;
-        return napis == NapisNacrtu::Uhel ? PismenoUhlu(text) : std::string(text);
-    };
-    KresliPrvkyNacrtu(SamplePic.Plocha(), dialog_->NacrtPrikladu(), dialog_->ZnackyNacrtu(), pismo);
-}
-
-/// Puts the panel together in a work picture of the menu: its picture, the heading, the sketch.
-/// What lies beneath it goes into another.
-void DeskaForm::SlozPanel() {
-    SelectForm& menu = Menu(s_);
-    Surface& pozadi = menu.Pozadi.Plocha();
-    pozadi.PaintPicture(Picture, -VPImage.Left, -VPImage.Top);
-    pozadi.BitBlt(0, 0, Pic.Left + Pic.Width - VPImage.Left, VPImage.Height, Pic.Plocha(),
-                  VPImage.Left - Pic.Left, VPImage.Top - Pic.Top, Rop::SrcCopy);
-
-    KresliNacrt();
-    Surface& celek = menu.Kopie2.Plocha();
-    celek.Vypln(0, 0, VPImage.Width, VPImage.Height, PURPUROVA);
-    celek.PaintPicture(panel_, 0, 0);
-    celek.Font = VPImage.Font;
-    celek.CurrentX = NADPIS_X;
-    celek.CurrentY = NADPIS_Y;
-    celek.Print(s_.CisloUlohy == ULOHA_STRANY ? NADPIS_STRANY : NADPIS_VSE);
-    celek.BitBlt(SamplePic.Left, SamplePic.Top, SamplePic.Width, SamplePic.Height,
-                 SamplePic.Plocha(), 0, 0, Rop::SrcCopy);
-}
-
-/// Lays the panel, pushed out to the right by so many pixels, on what lies beneath it.
-void DeskaForm::PolozPanel(int odsunuti) {
-    SelectForm& menu = Menu(s_);
-    const int w = VPImage.Width;
-    const int h = VPImage.Height;
-    Surface& kopie = menu.Kopie.Plocha();
-    kopie.Vypln(0, 0, w, h, PURPUROVA);
-    kopie.BitBlt(odsunuti, 0, w - odsunuti, h, menu.Kopie2.Plocha(), 0, 0, Rop::SrcCopy);
-    ProhledneKopirovani(kopie, w, h, PURPUROVA, menu.Pozadi.Plocha(), menu.Vysledek.Plocha());
-    VPImage.Plocha().BitBlt(0, 0, w, h, menu.Vysledek.Plocha(), 0, 0, Rop::SrcCopy);
-}
-
-/// The resting panel: the picture with its see-through parts, so that the plane and what is dragged
-/// over it show beside it as they are, whatever the scale.
-void DeskaForm::PolozKlidnyPanel() {
-    SlozPanel();
-    VPImage.Plocha().BitBlt(0, 0, VPImage.Width, VPImage.Height, Menu(s_).Kopie2.Plocha(), 0, 0,
-                            Rop::SrcCopy);
-}
-
-/// Slides the panel out or in by frames, with no event let through until the last one: what is
-/// pressed meanwhile was meant for the panel.
-Cinnost<> DeskaForm::PosunPanel(bool ven) {
-    const Obrazovky::Zavreni zavreni(s_.Okna());
-    const std::uint32_t zacatek = s_.Stroj.TickCount();
-    for (int k = 0; k < SNIMKU; ++k) {
-        PolozPanel(KROK_SNIMKU * (ven ? SNIMKU - 1 - k : k));
-        s_.Stroj.Prekresli();
-        const std::uint32_t konec = zacatek + static_cast<std::uint32_t>(k + 1) * DOBA_SNIMKU;
-        const std::uint32_t ted = s_.Stroj.TickCount();
-        co_await Cekani::SVstupem(ted < konec ? konec - ted : 0);
-    }
-    co_await Cekani::SVstupem(0);
-}
-
-Cinnost<> DeskaForm::ZasunPanel() {
-    if (Image1.Tag == "0") co_return;
-    SlozPanel();
-    SamplePic.Visible = Image1.Visible = false;
-    co_await PosunPanel(false);
-    Image1.Tag = "0";
-    MalaSipka.Visible = true;
-    Prsten(MalaSipka);  // pressed once more by keys, the panel is back
-    VPImage.Visible = false;
-    ObnovRadu();
-    co_await Cekani(20);
-}
-
-Cinnost<> DeskaForm::VysunPanel() {
-    if (Image1.Tag == "1") co_return;
-    SlozPanel();
-    SamplePic.Visible = Image1.Visible = false;
-    VPImage.Visible = true;
-    co_await PosunPanel(true);
-    PolozKlidnyPanel();
-    Image1.Tag = "1";
-    MalaSipka.Visible = false;
-    SamplePic.Visible = Image1.Visible = true;
-    ObnovRadu();
 }
 
 }  // namespace rysovna
