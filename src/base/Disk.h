@@ -120,6 +120,11 @@ public:
     [[nodiscard]] virtual bool SmiZakladat(const std::filesystem::path& slozka) = 0;
     /// Bytes that this account can still write there.
     [[nodiscard]] virtual std::uint64_t Volno(const std::filesystem::path& slozka) = 0;
+
+    /// Whether all that was done by now outlives the end of the program: asked until it is so, with
+    /// waits between. A disk whose calls are over when they return, as at home, says so at once;
+    /// one whose store answers later does when it has answered, and throws if that refused.
+    [[nodiscard]] virtual bool Uchovano() { return true; }
 };
 
 }  // namespace rysovna

@@ -22,34 +22,32 @@ constexpr std::array<std::string_view, 5> RODINY = {"Trojúhelník 1", "Trojúhe
 struct Uloha {
     int Cislo;
     std::size_t Rodina;  ///< index in RODINY
-    int Vyska;           ///< px, of its picture on the right of the menu
     std::string_view TypUlohy;
     Deska deska;
 };
 
-/// All tasks; those of a family follow one another. Neighbours of a stack of pictures share a row
-/// of pixels, so each stack is 298 px tall.
+/// All tasks; those of a family follow one another.
 inline constexpr Uloha ULOHY[] = {
-    {1, 0, 102, "podle věty SSS", Deska::Troj1Form},
-    {2, 0, 93, "podle věty SUS", Deska::Troj1Form},
-    {3, 0, 105, "podle věty USU", Deska::Troj1Form},
-    {4, 1, 66, "strana-výška-úhel", Deska::Troj2Form},
-    {5, 1, 56, "strana-strana-těžnice", Deska::Troj2Form},
-    {6, 1, 56, "strana-těžnice-úhel", Deska::Troj2Form},
-    {7, 1, 56, "strana-strana-výška", Deska::Troj2Form},
-    {8, 1, 68, "strana-výška-těžnice", Deska::Troj2Form},
-    {9, 2, 102, "obecný čtyřúhelník", Deska::CtyrUForm},
-    {10, 2, 93, "rovnoběžník", Deska::RovnoForm},
-    {11, 2, 105, "lichoběžník", Deska::LichoForm},
-    {12, 3, 57, "kružnice-bod-tečna", Deska::TecnyForm},
-    {13, 3, 46, "kružnice-dva body-přímka", Deska::TecnyForm},
-    {14, 3, 47, "kružnice-dvě rovnoběžné tečny", Deska::TecnyForm},
-    {15, 3, 47, "kružnice-přímka-tečna", Deska::TecnyForm},
-    {16, 3, 46, "kružnice-dva body-tečna", Deska::TecnyForm},
-    {17, 3, 60, "dvě soustředné kružnice", Deska::TecnyForm},
-    {18, 4, 102, "rovnoběžné s přímkou", Deska::TecnyForm},
-    {19, 4, 93, "kolmé k přímce", Deska::TecnyForm},
-    {20, 4, 105, "procházející bodem", Deska::TecnyForm},
+    {1, 0, "podle věty SSS", Deska::Troj1Form},
+    {2, 0, "podle věty SUS", Deska::Troj1Form},
+    {3, 0, "podle věty USU", Deska::Troj1Form},
+    {4, 1, "strana-výška-úhel", Deska::Troj2Form},
+    {5, 1, "strana-strana-těžnice", Deska::Troj2Form},
+    {6, 1, "strana-těžnice-úhel", Deska::Troj2Form},
+    {7, 1, "strana-strana-výška", Deska::Troj2Form},
+    {8, 1, "strana-výška-těžnice", Deska::Troj2Form},
+    {9, 2, "obecný čtyřúhelník", Deska::CtyrUForm},
+    {10, 2, "rovnoběžník", Deska::RovnoForm},
+    {11, 2, "lichoběžník", Deska::LichoForm},
+    {12, 3, "kružnice-bod-tečna", Deska::TecnyForm},
+    {13, 3, "kružnice-dva body-přímka", Deska::TecnyForm},
+    {14, 3, "kružnice-dvě rovnoběžné tečny", Deska::TecnyForm},
+    {15, 3, "kružnice-přímka-tečna", Deska::TecnyForm},
+    {16, 3, "kružnice-dva body-tečna", Deska::TecnyForm},
+    {17, 3, "dvě soustředné kružnice", Deska::TecnyForm},
+    {18, 4, "rovnoběžné s přímkou", Deska::TecnyForm},
+    {19, 4, "kolmé k přímce", Deska::TecnyForm},
+    {20, 4, "procházející bodem", Deska::TecnyForm},
 };
 
 /// The tasks of a family, in their order.

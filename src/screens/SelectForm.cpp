@@ -131,7 +131,8 @@ void SelectForm::ZvolRodinu(std::size_t i) {
             RI[j].Visible = j < ulohy.size();
             if (!RI[j].Visible) continue;
             RI[j].Picture = prave_[j].Normalni;
-            RI[j].Height = ulohy[j].Vyska;
+            RI[j].Height = RI[j].Picture.Height();
+            // Neighbours share a row of pixels.
             if (j > 0) RI[j].Top = RI[j - 1].Top + RI[j - 1].Height - 1;
         }
     }

@@ -51,6 +51,9 @@ bool NeniTam(Disk& disk, const fs::path& soubor) {
     }
 }
 
+/// Between two questions, ms.
+constexpr std::uint32_t KROK_CEKANI = 20;
+
 constexpr const char* ULOZEN_STRANOU =
     "Je uložen stranou a zapíše se s příštím výsledkem nebo při příštím spuštění programu.";
 
@@ -98,10 +101,17 @@ std::vector<ZaznamTabulky> Ukladani::Nezapsane(int cisloUlohy) const {
 }
 
 Cinnost<> Ukladani::PockejNaZamek(std::shared_ptr<Soubor> soubor, fs::path cesta) {
-    constexpr std::uint32_t KROK_CEKANI = 20;  // ms
     while (!soubor->Zamkni()) {
         if (ted_() - od_ + KROK_CEKANI > NEJDELE_NA_ZAMEK)
             throw ChybaDisku(Pricina::Zamceno, cesta);
+        co_await Cekani::SVstupem(KROK_CEKANI);
+    }
+}
+
+Cinnost<> Ukladani::PockejNaUchovani(fs::path cesta) {
+    const std::uint32_t od = ted_();
+    while (!disk_.Uchovano()) {
+        if (ted_() - od + KROK_CEKANI > NEJDELE_NA_UCHOVANI) throw ChybaDisku(Pricina::Jina, cesta);
         co_await Cekani::SVstupem(KROK_CEKANI);
     }
 }
@@ -121,8 +131,18 @@ Cinnost<Ukladani::Ulozeni> Ukladani::Zapis() {
                     const fs::path cesta = Cesta(JMENO_DENIKU);
                     const std::shared_ptr<Soubor> denik = disk_.Otevri(cesta, Disk::Jak::Pripisek);
                     co_await PockejNaZamek(denik, cesta);
-                    if (!v.VDeniku) ZapisVysledek(v, *denik, fronta);
-                    if (!v.VTabulce) DoTabulky(v, fronta);
+                    if (!v.VDeniku) {
+                        ZapisVysledek(v, *denik, fronta);
+                        co_await PockejNaUchovani(cesta);
+                        v.VDeniku = true;
+                        PoznamenejPotichu(v, fronta);
+                    }
+                    if (!v.VTabulce) {
+                        DoTabulky(v, fronta);
+                        co_await PockejNaUchovani(cesta);
+                        v.VTabulce = true;
+                        PoznamenejPotichu(v, fronta);
+                    }
                 }
                 VyradZapsany(v, fronta);
                 zprava.Misto = v.Misto;  // the newest is the last
@@ -295,8 +315,6 @@ void Ukladani::ZapisVysledek(CekajiciVysledek& v, Soubor& denik, Fronta* fronta)
         throw;
     }
     denik.NaDisk();
-    v.VDeniku = true;
-    PoznamenejPotichu(v, fronta);
 }
 
 void Ukladani::DoTabulky(CekajiciVysledek& v, Fronta* fronta) {
@@ -321,8 +339,6 @@ void Ukladani::DoTabulky(CekajiciVysledek& v, Fronta* fronta) {
             throw;
         }
     }
-    v.VTabulce = true;
-    PoznamenejPotichu(v, fronta);
 }
 
 fs::path Ukladani::Cesta(std::string_view jmeno) const {

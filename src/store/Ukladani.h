@@ -27,8 +27,8 @@ constexpr std::string_view JMENO_DENIKU = "Vysledky.dat";
 /// and at the next start, only in its own folder, from where it stopped. Where the queue cannot be
 /// had, log and table are written all the same, and what then fails is kept in memory.
 ///
-/// For a lock of another program it waits: one call at a time, while nothing happens to the
-/// screens.
+/// For a lock of another program, and for a disk that answers later, it waits: one call at a time,
+/// while nothing happens to the screens.
 class Ukladani : public SmiCekat {
 public:
     /// What became of a result.
@@ -39,6 +39,8 @@ public:
 
     /// How long locks are waited for in one call, all of them together, ms.
     static constexpr std::uint32_t NEJDELE_NA_ZAMEK = 3000;
+    /// How long a disk that answers later is waited for after each of log and table, ms.
+    static constexpr std::uint32_t NEJDELE_NA_UCHOVANI = 10'000;
 
     /// ted: tick count, ms. koren: the folder of results. slozkaStavu: the account's state folder;
     /// may be empty.
@@ -70,6 +72,8 @@ private:
     /// Asks once at least. ChybaDisku (Zamceno, that names the file) if another program keeps the
     /// lock for too long.
     Cinnost<> PockejNaZamek(std::shared_ptr<Soubor> soubor, std::filesystem::path cesta);
+    /// Until the disk has kept what was written; ChybaDisku (that names the file) if it did not.
+    Cinnost<> PockejNaUchovani(std::filesystem::path cesta);
     void Zarad(Rozvrh& rozvrh, std::vector<std::filesystem::path>& nove);
     void Prevezmi(Rozvrh& rozvrh);
     void Stahni(Rozvrh& rozvrh, const std::vector<std::filesystem::path>& nove);
