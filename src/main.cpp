@@ -80,7 +80,7 @@ int Hraj(rysovna::SdlHost& host) {
     Sezeni sezeni(host, VyrobDesku);
     try {
         Zacni(sezeni);
-        while (!host.Okna().JeKonec()) host.Obrat(1000);
+        while (!host.Okna().JeKonec()) host.Obrat(Smycka::BEZ_LHUTY);
         host.Okna().UnloadVse();
         return host.Okna().StavKonce();
     } catch (const std::exception& chyba) {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -21,6 +22,9 @@ public:
     virtual ~Smycka();
     Smycka(const Smycka&) = delete;
     Smycka& operator=(const Smycka&) = delete;
+
+    /// A wait that only something that happens will end.
+    static constexpr std::uint32_t BEZ_LHUTY = std::numeric_limits<std::uint32_t>::max();
 
     /// One turn: what is due (input, timers, then the waits whose time has come), and the picture.
     /// If there was nothing, it waits for the next thing to happen, at most so long (0: not at

@@ -13,9 +13,6 @@ jmeno="Žofie Řeřichová"
 # shellcheck source=tests/okno/spolecne.sh
 . "$(dirname "$0")/spolecne.sh"
 
-# shellcheck disable=SC2046
-mys() { xdotool mousemove $(na_obrazovku "$1" "$2"); sleep 0.05; }
-klik() { mys "$1" "$2"; xdotool click 1; sleep "${3:-0.2}"; }
 tah() {
     mys "$1" "$2"
     xdotool mousedown 1

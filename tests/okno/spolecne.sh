@@ -20,6 +20,10 @@ na_obrazovku() {
     awk -v x="$1" -v y="$2" -v w="$sirka" -v h="$vyska" \
         "$awk_meritko"' BEGIN { printf "%d %d", ox + (x + 0.5) * s, oy + (y + 0.5) * s }'
 }
+# shellcheck disable=SC2046
+mys() { xdotool mousemove $(na_obrazovku "$1" "$2"); sleep 0.05; }
+# klik X Y [SECONDS]: a click, and a while for what comes of it.
+klik() { mys "$1" "$2"; xdotool click 1; sleep "${3:-0.2}"; }
 fotka() { [ -z "$obrazky" ] || { mkdir -p "$obrazky"; import -window root "$obrazky/${sirka}_$1.png"; }; }
 
 # Types a name into the box that has the keyboard, until it looks the same twice. A letter that the

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <iostream>
+#include <limits>
 #include <memory>
 #include <optional>
 #if !defined(_WIN32) && !defined(__APPLE__)
@@ -394,7 +395,9 @@ void SdlHost::Vnitrek::SrovnejPsani() {
 
 void SdlHost::Vnitrek::Cekej(std::uint32_t nejvyseMs) {
     const std::uint32_t zacatek = SDL_GetTicks();
-    SDL_WaitEventTimeout(nullptr, static_cast<int>(nejvyseMs));
+    // Less than nothing is for ever.
+    constexpr std::uint32_t NEJDELE = std::numeric_limits<int>::max();
+    SDL_WaitEventTimeout(nullptr, nejvyseMs > NEJDELE ? -1 : static_cast<int>(nejvyseMs));
     const std::uint32_t ted = SDL_GetTicks();
     // What ends the wait at once may have been there before it.
     if (ted != zacatek) Videno = ted;

@@ -24,6 +24,9 @@ namespace {
 constexpr std::chrono::milliseconds NEJDELE_CEKA{300};
 /// How long a device may take to open before it is said not to answer.
 constexpr std::chrono::milliseconds NEJDELE_OTVIRA{2000};
+/// How long the device stays open after the end of the last sound. An open one wakes the program
+/// for every piece of silence.
+constexpr std::chrono::milliseconds ZUSTAVA_OTEVRENE{2000};
 
 #ifdef __linux__
 bool MaPromennou(const char* jmeno) {
@@ -55,6 +58,7 @@ bool MuzeZnit() {
 
 struct Zvuk::Prace {
     using Vzorky = std::vector<std::uint8_t>;
+    using Hodiny = std::chrono::steady_clock;
 
     std::mutex Zamek;
     std::condition_variable Budik;
@@ -63,18 +67,22 @@ struct Zvuk::Prace {
     bool Zacala = false;  ///< the thread was started
     bool Konec = false;   ///< the thread is to end
     bool Hotovo = false;  ///< the thread has ended its work
-    /// Whether there is a device; nothing while it is being opened.
+    /// Whether there is a device; nothing while it is being opened for the first time.
     std::optional<bool> Otevreno;
 
     // The thread's own.
-    std::uint32_t Zarizeni = 0;
+    std::uint32_t Zarizeni = 0;  ///< 0 while none is open
+    Hodiny::time_point Zavrit;   ///< when an open one is to be closed
     std::uint16_t Format = 0;
     std::uint8_t Kanaly = 0;
     int Frekvence = 0;
     std::map<std::filesystem::path, Vzorky> Nactene;
 
     void Pracuj();
+    std::optional<std::filesystem::path> CekejNaZadany();
     bool OtevriZarizeni();
+    void ZavriZarizeni();
+    void Prehraj(const std::filesystem::path& soubor);
     const Vzorky& DejVzorky(const std::filesystem::path& soubor);
 };
 
@@ -123,34 +131,49 @@ bool Zvuk::Skonci() {
 }
 
 void Zvuk::Prace::Pracuj() {
+    // Where there is none at first, none is looked for again.
     const bool mame = MuzeZnit() && OtevriZarizeni();
     {
         const std::lock_guard drzi(Zamek);
         Otevreno = mame;
     }
     Budik.notify_all();
-    while (true) {
-        std::filesystem::path soubor;
-        {
-            std::unique_lock drzi(Zamek);
-            Budik.wait(drzi, [this] { return Konec || Zadany.has_value(); });
-            if (Konec) break;
-            soubor = std::move(*Zadany);
-            Zadany.reset();
-        }
-        if (!mame) continue;
-        const Vzorky& vzorky = DejVzorky(soubor);
-        SDL_ClearQueuedAudio(Zarizeni);
-        if (!vzorky.empty())
-            SDL_QueueAudio(Zarizeni, vzorky.data(), static_cast<Uint32>(vzorky.size()));
+    while (const std::optional<std::filesystem::path> soubor = CekejNaZadany()) {
+        if (mame) Prehraj(*soubor);
     }
-    if (Zarizeni != 0) SDL_CloseAudioDevice(Zarizeni);
-    if (mame) SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    ZavriZarizeni();
     {
         const std::lock_guard drzi(Zamek);
         Hotovo = true;
     }
     Budik.notify_all();
+}
+
+/// The sound that is wanted next; nothing when the thread is to end. A device that is silent for
+/// long is closed meanwhile.
+std::optional<std::filesystem::path> Zvuk::Prace::CekejNaZadany() {
+    const auto budit = [this] { return Konec || Zadany.has_value(); };
+    std::unique_lock drzi(Zamek);
+    if (Zarizeni != 0 && !Budik.wait_until(drzi, Zavrit, budit)) {
+        drzi.unlock();
+        ZavriZarizeni();
+        drzi.lock();
+    }
+    Budik.wait(drzi, budit);
+    return Konec ? std::nullopt : std::exchange(Zadany, std::nullopt);
+}
+
+void Zvuk::Prace::Prehraj(const std::filesystem::path& soubor) {
+    if (Zarizeni == 0 && !OtevriZarizeni()) return;
+    const Vzorky& vzorky = DejVzorky(soubor);
+    SDL_ClearQueuedAudio(Zarizeni);
+    if (!vzorky.empty())
+        SDL_QueueAudio(Zarizeni, vzorky.data(), static_cast<Uint32>(vzorky.size()));
+    const std::int64_t bajtuZaSekundu =
+        std::int64_t{Frekvence} * Kanaly * (SDL_AUDIO_BITSIZE(Format) / 8);
+    const std::chrono::milliseconds zni(static_cast<std::int64_t>(vzorky.size()) * 1000 /
+                                        std::max(bajtuZaSekundu, std::int64_t{1}));
+    Zavrit = Hodiny::now() + zni + ZUSTAVA_OTEVRENE;
 }
 
 bool Zvuk::Prace::OtevriZarizeni() {
@@ -166,11 +189,21 @@ bool Zvuk::Prace::OtevriZarizeni() {
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
         return false;
     }
+    // The next one may want another format.
+    Nactene.clear();
     Format = dany.format;
     Kanaly = dany.channels;
     Frekvence = dany.freq;
     SDL_PauseAudioDevice(Zarizeni, 0);
+    Zavrit = Hodiny::now() + ZUSTAVA_OTEVRENE;
     return true;
+}
+
+/// The library's own thread that looks for new devices goes with it.
+void Zvuk::Prace::ZavriZarizeni() {
+    if (Zarizeni == 0) return;
+    SDL_CloseAudioDevice(std::exchange(Zarizeni, 0U));
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 
 /// The whole sound in the format of the device; empty if it cannot be read or converted.

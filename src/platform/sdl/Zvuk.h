@@ -7,8 +7,9 @@
 namespace rysovna {
 
 /// The sound device. All work is done on a thread of its own, begun at the first sound, so that
-/// neither opening the device nor reading a file holds the screen up. Without a device everything
-/// is silent.
+/// neither opening the device nor reading a file holds the screen up. The device is closed when
+/// nothing has sounded for two seconds and opened again at the next sound. Without a device
+/// everything is silent.
 class Zvuk {
 public:
     Zvuk();
