@@ -7,9 +7,26 @@
 #include <utility>
 
 #include "base/Zasobnik.h"
+#include "store/Kodovani.h"
 #include "store/Ukladani.h"
 
 namespace rysovna::testy {
+
+/// A pupil's result, and its row of the table.
+inline Vysledek VysledekZaka(const std::string& jmeno, int uloha = 1) {
+    return {.CisloUlohy = uloha,
+            .Jmeno = jmeno,
+            .Hra = "Trojúhelník 1",
+            .Typ = "podle věty SSS",
+            .Prikladu = "5",
+            .Kladne = "50",
+            .Zaporne = "0",
+            .Znamka = "1",
+            .Konec = {2024, 9, 3, 8, 5}};
+}
+inline std::string RadekTabulky(const std::string& jmeno) {
+    return Do1250(jmeno) + "|50|0|1\r\n";
+}
 
 /// A clock and a sleep, ms.
 struct Hodiny {

@@ -7,7 +7,9 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <type_traits>
 #include <unistd.h>
+#include <utility>
 
 // What is defined here must not be renamed by the headers to what it stands before.
 #ifdef __USE_FILE_OFFSET64
@@ -36,61 +38,41 @@ Porucha Dalsi() {
 }
 
 int Cislo(Porucha druh) {
-    switch (druh) {
-        case Porucha::Plno:
-            return ENOSPC;
-        case Porucha::Io:
-            return EIO;
-        case Porucha::Prava:
-            return EACCES;
-        case Porucha::Neumi:
-            return EOPNOTSUPP;
-        case Porucha::Zaneprazdneno:
-            return EBUSY;
-        default:
-            return 0;
+    constexpr std::pair<Porucha, int> CISLA[] = {{Porucha::Plno, ENOSPC},
+                                                 {Porucha::Io, EIO},
+                                                 {Porucha::Prava, EACCES},
+                                                 {Porucha::Neumi, EOPNOTSUPP},
+                                                 {Porucha::Zaneprazdneno, EBUSY}};
+    for (const auto& [co, cislo] : CISLA) {
+        if (co == druh) return cislo;
     }
+    return 0;
 }
 
-/// The call with the fault that is due; selhani: what it returns when it fails.
-template <class Volani, class Navrat>
-Navrat Proved(Navrat selhani, Volani&& volani) {
+/// The call with the fault that is due. FUNKCE: what stands before the right one, which is found
+/// once. kolik: of a write, how many bytes; a short one makes it half.
+template <auto FUNKCE, class... A>
+auto Proved(std::size_t* kolik, const char* jmeno, const A&... argumenty) {
+    static const auto prava = reinterpret_cast<decltype(FUNKCE)>(::dlsym(RTLD_NEXT, jmeno));
+    using Navrat = decltype(prava(argumenty...));
+    const auto selhani = [](int cislo) {
+        errno = cislo;
+        if constexpr (std::is_pointer_v<Navrat>)
+            return Navrat{nullptr};
+        else
+            return Navrat{-1};
+    };
+    if (kolik != nullptr && std::exchange(g_dalsiPlno, false)) return selhani(ENOSPC);
     const Porucha druh = Dalsi();
     if (druh == Porucha::ZabitPred) Zabij();
-    if (const int cislo = Cislo(druh); cislo != 0) {
-        errno = cislo;
-        return selhani;
-    }
-    const Navrat vysledek = volani();
-    if (druh == Porucha::ZabitPo) Zabij();
+    if (const int cislo = Cislo(druh); cislo != 0) return selhani(cislo);
+    const bool zabit = druh == Porucha::KratkyAZabit, plno = druh == Porucha::KratkyAPlno;
+    const bool kratky = kolik != nullptr && (zabit || plno || druh == Porucha::KratkyZapis);
+    g_dalsiPlno = kratky && plno && *kolik > 1;
+    if (kratky && *kolik > 1) *kolik /= 2;
+    const Navrat vysledek = prava(argumenty...);
+    if (druh == Porucha::ZabitPo || (kratky && zabit)) Zabij();
     return vysledek;
-}
-
-/// volani: writes so many bytes.
-template <class Volani>
-ssize_t ProvedZapis(std::size_t kolik, Volani&& volani) {
-    if (g_dalsiPlno) {
-        g_dalsiPlno = false;
-        errno = ENOSPC;
-        return -1;
-    }
-    const Porucha druh = Dalsi();
-    const bool kratky = druh == Porucha::KratkyZapis || druh == Porucha::KratkyAZabit ||
-                        druh == Porucha::KratkyAPlno;
-    if (druh == Porucha::ZabitPred) Zabij();
-    if (const int cislo = Cislo(druh); cislo != 0) {
-        errno = cislo;
-        return -1;
-    }
-    const ssize_t zapsano = volani(kratky && kolik > 1 ? kolik / 2 : kolik);
-    if (druh == Porucha::ZabitPo || druh == Porucha::KratkyAZabit) Zabij();
-    g_dalsiPlno = druh == Porucha::KratkyAPlno && kolik > 1;
-    return zapsano;
-}
-
-template <class Funkce>
-Funkce* Prava_(Funkce*, const char* jmeno) {
-    return reinterpret_cast<Funkce*>(::dlsym(RTLD_NEXT, jmeno));
 }
 
 }  // namespace
@@ -109,137 +91,110 @@ int PocetVolani() {
 
 }  // namespace rysovna::testy
 
-// Each function finds the right one once.
-#define PRAVA(jmeno) static auto* const prava = rysovna::testy::Prava_(&::jmeno, #jmeno)
-
 using rysovna::testy::Proved;
-using rysovna::testy::ProvedZapis;
 
 extern "C" {
 
+// The rights are there for a new file alone.
 int open(const char* cesta, int vlajky, ...) {
-    PRAVA(open);
     std::va_list dalsi;
     va_start(dalsi, vlajky);
-    const mode_t prava_souboru = (vlajky & O_CREAT) != 0 ? va_arg(dalsi, mode_t) : 0;
+    const mode_t prava = (vlajky & O_CREAT) != 0 ? va_arg(dalsi, mode_t) : 0;
     va_end(dalsi);
-    return Proved(-1, [&] { return prava(cesta, vlajky, prava_souboru); });
+    return Proved<&::open>(nullptr, "open", cesta, vlajky, prava);
 }
 
 int openat(int slozka, const char* cesta, int vlajky, ...) {
-    PRAVA(openat);
     std::va_list dalsi;
     va_start(dalsi, vlajky);
-    const mode_t prava_souboru = (vlajky & O_CREAT) != 0 ? va_arg(dalsi, mode_t) : 0;
+    const mode_t prava = (vlajky & O_CREAT) != 0 ? va_arg(dalsi, mode_t) : 0;
     va_end(dalsi);
-    return Proved(-1, [&] { return prava(slozka, cesta, vlajky, prava_souboru); });
+    return Proved<&::openat>(nullptr, "openat", slozka, cesta, vlajky, prava);
 }
 
 int fcntl(int popisovac, int povel, ...) {
-    PRAVA(fcntl);
     std::va_list dalsi;
     va_start(dalsi, povel);
     void* const argument = va_arg(dalsi, void*);
     va_end(dalsi);
-    return Proved(-1, [&] { return prava(popisovac, povel, argument); });
+    return Proved<&::fcntl>(nullptr, "fcntl", popisovac, povel, argument);
 }
 
 ssize_t write(int popisovac, const void* co, size_t kolik) {
-    PRAVA(write);
-    return ProvedZapis(kolik, [&](size_t n) { return prava(popisovac, co, n); });
+    return Proved<&::write>(&kolik, "write", popisovac, co, kolik);
 }
 
 ssize_t pwrite(int popisovac, const void* co, size_t kolik, off_t kam) {
-    PRAVA(pwrite);
-    return ProvedZapis(kolik, [&](size_t n) { return prava(popisovac, co, n, kam); });
+    return Proved<&::pwrite>(&kolik, "pwrite", popisovac, co, kolik, kam);
 }
 
 ssize_t pread(int popisovac, void* kam, size_t kolik, off_t odkud) {
-    PRAVA(pread);
-    return Proved(ssize_t{-1}, [&] { return prava(popisovac, kam, kolik, odkud); });
+    return Proved<&::pread>(nullptr, "pread", popisovac, kam, kolik, odkud);
 }
 
 off_t lseek(int popisovac, off_t kam, int odkud) noexcept {
-    PRAVA(lseek);
-    return Proved(off_t{-1}, [&] { return prava(popisovac, kam, odkud); });
+    return Proved<&::lseek>(nullptr, "lseek", popisovac, kam, odkud);
 }
 
 int ftruncate(int popisovac, off_t delka) noexcept {
-    PRAVA(ftruncate);
-    return Proved(-1, [&] { return prava(popisovac, delka); });
+    return Proved<&::ftruncate>(nullptr, "ftruncate", popisovac, delka);
 }
 
 int fsync(int popisovac) {
-    PRAVA(fsync);
-    return Proved(-1, [&] { return prava(popisovac); });
+    return Proved<&::fsync>(nullptr, "fsync", popisovac);
 }
 
 int fstat(int popisovac, struct stat* stav) noexcept {
-    PRAVA(fstat);
-    return Proved(-1, [&] { return prava(popisovac, stav); });
+    return Proved<&::fstat>(nullptr, "fstat", popisovac, stav);
 }
 
 int stat(const char* cesta, struct stat* stav) noexcept {
-    static auto* const prava =
-        reinterpret_cast<int (*)(const char*, struct stat*)>(::dlsym(RTLD_NEXT, "stat"));
-    return Proved(-1, [&] { return prava(cesta, stav); });
+    return Proved<static_cast<int (*)(const char*, struct stat*) noexcept>(&::stat)>(
+        nullptr, "stat", cesta, stav);
 }
 
 int fchmod(int popisovac, mode_t jak) noexcept {
-    PRAVA(fchmod);
-    return Proved(-1, [&] { return prava(popisovac, jak); });
+    return Proved<&::fchmod>(nullptr, "fchmod", popisovac, jak);
 }
 
 int fchown(int popisovac, uid_t kdo, gid_t skupina) noexcept {
-    PRAVA(fchown);
-    return Proved(-1, [&] { return prava(popisovac, kdo, skupina); });
+    return Proved<&::fchown>(nullptr, "fchown", popisovac, kdo, skupina);
 }
 
 int rename(const char* odkud, const char* kam) noexcept {
-    PRAVA(rename);
-    return Proved(-1, [&] { return prava(odkud, kam); });
+    return Proved<&::rename>(nullptr, "rename", odkud, kam);
 }
 
 int unlink(const char* cesta) noexcept {
-    PRAVA(unlink);
-    return Proved(-1, [&] { return prava(cesta); });
+    return Proved<&::unlink>(nullptr, "unlink", cesta);
 }
 
 int mkdir(const char* cesta, mode_t jak) noexcept {
-    PRAVA(mkdir);
-    return Proved(-1, [&] { return prava(cesta, jak); });
+    return Proved<&::mkdir>(nullptr, "mkdir", cesta, jak);
 }
 
 DIR* opendir(const char* cesta) {
-    PRAVA(opendir);
-    return Proved(static_cast<DIR*>(nullptr), [&] { return prava(cesta); });
+    return Proved<&::opendir>(nullptr, "opendir", cesta);
 }
 
 DIR* fdopendir(int popisovac) {
-    PRAVA(fdopendir);
-    return Proved(static_cast<DIR*>(nullptr), [&] { return prava(popisovac); });
+    return Proved<&::fdopendir>(nullptr, "fdopendir", popisovac);
 }
 
 /// An end of the folder and a fault differ in errno alone.
 struct dirent* readdir(DIR* slozka) {
-    PRAVA(readdir);
-    return Proved(static_cast<struct dirent*>(nullptr), [&] { return prava(slozka); });
+    return Proved<&::readdir>(nullptr, "readdir", slozka);
 }
 
 char* realpath(const char* cesta, char* kam) noexcept {
-    PRAVA(realpath);
-    return Proved(static_cast<char*>(nullptr), [&] { return prava(cesta, kam); });
+    return Proved<&::realpath>(nullptr, "realpath", cesta, kam);
 }
 
 /// Closes whatever it says, as the system does.
 int close(int popisovac) {
-    PRAVA(close);
-    bool zavreno = false;
-    const int vysledek = Proved(-1, [&] {
-        zavreno = true;
-        return prava(popisovac);
-    });
-    if (!zavreno) prava(popisovac);
+    const int vysledek = Proved<&::close>(nullptr, "close", popisovac);
+    static const auto prava = reinterpret_cast<int (*)(int)>(::dlsym(RTLD_NEXT, "close"));
+    if (vysledek != 0) prava(popisovac);
     return vysledek;
 }
 

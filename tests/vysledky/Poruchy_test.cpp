@@ -58,7 +58,7 @@ protected:
         fs::permissions(data, fs::perms(0777));
         fs::remove_all(data);
         fs::create_directory(data);
-        staryDenik = RadkyDeniku(Drivejsi("Eva")) + RadkyDeniku(Drivejsi("Jan"));
+        staryDenik = RadkyDeniku(VysledekZaka("Eva")) + RadkyDeniku(VysledekZaka("Jan"));
         staraTabulka = RadekTabulky("Eva") + RadekTabulky("Jan");
         Pis(data / "Vysledky.dat", staryDenik);
         Pis(data / "01.res", staraTabulka);
@@ -73,12 +73,12 @@ protected:
             PosixDisk disk;
             UkladaniHned ukladani(disk, Virtualni(), data, Stav());
             NastavPoruchu(druh.Co, kolikate, druh.Trvale);
-            const std::string zprava = ukladani.Uloz(Drivejsi(jmeno)).Text;
+            const std::string zprava = ukladani.Uloz(VysledekZaka(jmeno)).Text;
             sdelene->Volani = PocetVolani();
             NastavPoruchu(Porucha::Zadna, 0);
             std::strncpy(sdelene->Zprava, zprava.c_str(), sizeof sdelene->Zprava - 1);
             if (zprava.find("ztratí") != std::string::npos)
-                _exit(ukladani.Uloz(Drivejsi("Zuzana")).Text.empty() ? 0 : 98);
+                _exit(ukladani.Uloz(VysledekZaka("Zuzana")).Text.empty() ? 0 : 98);
         }));
     }
     /// The next start of the program, whole or killed on the way.
@@ -107,9 +107,9 @@ protected:
             }));
     }
     std::string Nova(const std::string& dalsi = "") const {
-        return staraTabulka + Do1250(RadekTabulky(NOVY)) + dalsi;
+        return staraTabulka + RadekTabulky(NOVY) + dalsi;
     }
-    std::string NovyDenik() const { return staryDenik + RadkyDeniku(Drivejsi(NOVY)); }
+    std::string NovyDenik() const { return staryDenik + RadkyDeniku(VysledekZaka(NOVY)); }
     std::string Zprava() const { return sdelene->Zprava; }
 
     Sdelene* sdelene = nullptr;
@@ -157,7 +157,8 @@ TEST_P(Poruchy, KazdeVolani) {
             // One that was killed before its entry was whole left all as it was.
             const bool nic = zabit && !ceka && tabulka == staraTabulka;
             const std::string cekanyDenik =
-                nic ? staryDenik : NovyDenik() + (ztracen ? RadkyDeniku(Drivejsi("Zuzana")) : "");
+                nic ? staryDenik
+                    : NovyDenik() + (ztracen ? RadkyDeniku(VysledekZaka("Zuzana")) : "");
             const std::string cekanaTabulka =
                 nic ? staraTabulka : Nova(ztracen ? RadekTabulky("Zuzana") : "");
             ASSERT_EQ(Denik(), cekanyDenik);
@@ -165,7 +166,7 @@ TEST_P(Poruchy, KazdeVolani) {
             ASSERT_EQ(Ceka(), 0);
             // Whoever comes next leaves nothing but the files themselves.
             ASSERT_EQ(Uloz({"", Porucha::Zadna}, 0, "Ota"), 0);
-            ASSERT_EQ(Denik(), cekanyDenik + RadkyDeniku(Drivejsi("Ota")));
+            ASSERT_EQ(Denik(), cekanyDenik + RadkyDeniku(VysledekZaka("Ota")));
             ASSERT_EQ(Cti(data / "01.res"), cekanaTabulka + RadekTabulky("Ota"));
             ASSERT_EQ(std::distance(fs::directory_iterator(data), {}), 2);
             ASSERT_EQ(fs::status(data / "01.res").permissions(), fs::perms(0666));

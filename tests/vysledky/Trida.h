@@ -19,29 +19,10 @@
 
 #include "platform/PosixDisk.h"
 #include "podpora/UkladaniHned.h"
-#include "store/Kodovani.h"
-#include "store/Ukladani.h"
 
 namespace rysovna::testy {
 
 namespace fs = std::filesystem;
-
-/// What stood in log and table of task 1 before.
-inline Vysledek Drivejsi(const std::string& jmeno) {
-    return {.CisloUlohy = 1,
-            .Jmeno = jmeno,
-            .Hra = "Trojúhelník 1",
-            .Typ = "podle věty SSS",
-            .Prikladu = "1",
-            .Kladne = "10",
-            .Zaporne = "0",
-            .Znamka = "1",
-            .Konec = {2024, 9, 3, 8, 5}};
-}
-
-inline std::string RadekTabulky(const std::string& jmeno) {
-    return jmeno + "|10|0|1\r\n";
-}
 
 /// A folder of results and state folders, in memory where the machine has such a disk.
 class Trida : public ::testing::Test {
