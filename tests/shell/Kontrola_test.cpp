@@ -76,7 +76,7 @@ TEST_F(KontrolaHodiny, VseVPoradkuAKazdaVadaSvymJmenem) {
     zmen("Bitmap/Help/19.png", "png");
     zmen("Sound/click.wav", "RIFF");
     zmen("Fonts/DejaVuSans.ttf", "");
-    Pis("../Rysovna.ini", "[RYSOVNA1]\r\nCD=assets\r\nHD=data\r\n");
+    Ini();
     Pis("03.dat", "\r\n");
     Pis("Znamky.dat", "");
     Pis("Errors.dat", "xxx0xxx0xxx2\r\n");
@@ -109,18 +109,17 @@ TEST_F(KontrolaHodiny, VseVPoradkuAKazdaVadaSvymJmenem) {
 TEST_F(KontrolaHodiny, Vysledky) {
     EXPECT_EQ(VadyVysledku(), "");
     fs::remove(Cesta("05.res"));
-    fs::remove(Cesta("06.res"));
-    fs::create_directory(Cesta("06.res"));
+    Schovej("06.res", true);
     EXPECT_EQ(VadyVysledku(),
               "! Soubor výsledků: 05.res (neexistuje)\n! Soubor výsledků: 06.res (neexistuje)\n");
-    fs::remove(Cesta("06.res"));
-    for (const char* s : {"05.res", "06.res"}) Pis(s, "");
+    Vrat("06.res");
+    Pis("05.res", "");
     {
         const auto cizi = host.Disk().Otevri(Cesta("Vysledky.dat"), Disk::Jak::Zapis);
         ASSERT_TRUE(cizi->Zamkni());
         EXPECT_EQ(VadyVysledku(), "! Zámek výsledků: Vysledky.dat: drží jej jiný program\n");
         const std::uint32_t od = host.TickCount();
-        EXPECT_NE(Uloz(relace, {.CisloUlohy = 1}).Text, "");
+        EXPECT_NE(UlozVysledek({.CisloUlohy = 1}).Text, "");
         EXPECT_GT(host.TickCount(), od);
     }
     const std::string fronta = Fronta::Slozka(host.SlozkaStavu()).string();
@@ -134,11 +133,11 @@ TEST_F(KontrolaHodiny, Vysledky) {
     }
     fs::remove_all(fronta);
     // Nothing is made, not even what the game would make.
-    Pis("../Rysovna.ini", "[RYSOVNA1]\r\nCD=assets\r\nHD=data\r\nVYSLEDKY=ucet\r\n");
+    Ini("VYSLEDKY=ucet");
     EXPECT_EQ(VadyVysledku(), "");
     EXPECT_FALSE(fs::exists(host.SlozkaDat()));
     EXPECT_FALSE(fs::exists(fronta));
-    Pis("../Rysovna.ini", "[RYSOVNA1]\r\nCD=assets\r\nHD=data\r\nVYSLEDKY=neni\r\n");
+    Ini("VYSLEDKY=neni");
     EXPECT_TRUE(VadyVysledku().starts_with("! Soubor výsledků: "));
 }
 

@@ -19,12 +19,7 @@ namespace rysovna::testy {
 
 using hrac::Relace;
 
-/// Stores a result in a session, and waits for what it waits for.
-inline Ukladani::Ulozeni Uloz(Relace& relace, const Vysledek& vysledek) {
-    return relace.Host().Proved(relace.Pamet().Vysledky().Uloz(vysledek));
-}
-
-/// A data root to write into.
+/// A session with a data root to write into.
 class Soubory : public ::testing::Test {
 protected:
     Soubory() {
@@ -38,8 +33,26 @@ protected:
         relace.PisSoubor(soubor, obsah);
         return Cesta(soubor);
     }
-    rysovna::Disk& Disk_() { return relace.Host().Disk(); }
+    /// The configuration, with more lines behind the two.
+    void Ini(const std::string& dalsi = "", const std::string& cd = "CD=assets",
+             const std::string& hd = "HD=data") const {
+        Pis("../Rysovna.ini", "[RYSOVNA1]\r\n" + cd + "\r\n" + hd + "\r\n" + dalsi + "\r\n");
+    }
+    /// Takes a file away, a folder in its place if that is asked for; puts it back.
+    void Schovej(std::string_view s, bool slozka = false) const {
+        std::filesystem::rename(Cesta(s), Cesta("stranou"));
+        if (slozka) std::filesystem::create_directory(Cesta(s));
+    }
+    void Vrat(std::string_view s) const {
+        std::filesystem::remove(Cesta(s));
+        std::filesystem::rename(Cesta("stranou"), Cesta(s));
+    }
+    rysovna::Disk& Disk_() { return host.Disk(); }
     std::string Cti(const std::string& soubor) const { return relace.CtiSoubor(soubor); }
+    /// Stores a result in the session, and waits for what it waits for.
+    Ukladani::Ulozeni UlozVysledek(const Vysledek& vysledek) {
+        return host.Proved(relace.Pamet().Vysledky().Uloz(vysledek));
+    }
     /// How many files there are.
     auto Pocet() const {
         return std::distance(std::filesystem::directory_iterator(relace.DataDir()), {});
@@ -73,7 +86,7 @@ protected:
     }
     Relace relace;
     HeadlessHost& host = relace.Host();
-    Misc& misc = relace.Pamet();
+    Sezeni& misc = relace.Pamet();
 };
 
 }  // namespace rysovna::testy

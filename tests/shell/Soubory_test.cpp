@@ -3,14 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
-#include <map>
 
-#include "base/Cisla.h"
-#include "engine/Tabulky.h"
 #include "rules/Chyby.h"
 #include "rules/Kontrola.h"
-#include "rules/Misc.h"
-#include "rules/Ulohy.h"
 #include "shell/SouboryPomoc.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
@@ -22,50 +17,6 @@ std::string Zakodovane(const std::vector<std::string>& radky) {
     std::string obsah;
     for (const std::string& radek : radky) obsah += ZakodujRadek(Do1250(radek)) + "\r\n";
     return obsah;
-}
-
-/// Names of the slots that hold "1", "2", ... in this order; "2JB" is
-/// Kroky[2].JmenoB.
-std::string PoradiPoli(const Priklad& p) {
-    std::map<int, std::string> poradi;
-    const auto pridej = [&](const std::string& jmeno, const std::string& pole) {
-        if (!pole.empty()) poradi[std::stoi(pole)] += jmeno + " ";
-    };
-    const std::pair<const char*, std::string Priklad::*> pole[]{
-        {"D", &Priklad::Druh},       {"T1", &Priklad::Text1},     {"T2", &Priklad::Text2},
-        {"N1", &Priklad::Nazev1},    {"N2", &Priklad::Nazev2},    {"N3", &Priklad::Nazev3},
-        {"J1", &Priklad::Jednotka1}, {"J2", &Priklad::Jednotka2}, {"J3", &Priklad::Jednotka3},
-        {"D1", &Priklad::Dalsi1},    {"D2", &Priklad::Dalsi2},    {"D3", &Priklad::Dalsi3}};
-    for (const auto& [jmeno, kde] : pole) pridej(jmeno, p.*kde);
-    for (int k = 1; k <= 8; ++k) {
-        pridej(std::to_string(k) + "J", p.Kroky[k].Jmeno);
-        pridej(std::to_string(k) + "JB", p.Kroky[k].JmenoB);
-        pridej(std::to_string(k) + "U", p.Kroky[k].Utvar);
-        pridej(std::to_string(k) + "UB", p.Kroky[k].UtvarB);
-    }
-    std::string text;
-    for (const auto& [cislo, jmeno] : poradi) text += jmeno;
-    return text;
-}
-
-TEST_F(Soubory, PoleSestiDesek) {
-    const std::string pole[]{
-        "D T1 N1 N2 N3 J1 J2 J3 1U 2U 3U ",
-        "D T1 N1 N2 N3 J1 J2 J3 1U 1UB 2U 2UB 3U 3UB ",
-        "D T2 N1 N2 N3 J1 J2 J3 T1 1J 1JB 1U 1UB 2J 2JB 2U 2UB ",
-        "D T2 N1 N2 N3 J1 J2 J3 T1 1U 1J 2U 2J 3U 3J 4U 4J 5U 5J 6U 6J ",
-        "D N1 D1 N2 D2 N3 D3 1J 1U 2J 2U 3J 3U 4J 4U 5J 5U 6J 6U 7J 7U 8J 8U ",
-    };
-    const int poradi[]{0, 0, 0, 1, 1, 1, 1, 1, 2, 3,
-                       2, 4, 4, 4, 4, 4, 4, 4, 4, 4};  // tasks 1 to 20
-    std::string radek = "1";
-    for (int i = 2; i <= 25; ++i) radek += "#" + std::to_string(i);
-    const std::string soubor = Pis("01.dat", Zakodovane({radek})).string();
-    for (int uloha = 1; uloha <= 20; ++uloha) {
-        misc.Priklady.Smaz();
-        NactiPriklady(misc, Disk_(), soubor, MapaDesky(DeskaUlohy(uloha)));
-        EXPECT_EQ(PoradiPoli(misc.Priklady[1]), pole[poradi[uloha - 1]]) << uloha;
-    }
 }
 
 TEST_F(Soubory, RadkyUlohy) {

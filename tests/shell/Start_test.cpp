@@ -4,22 +4,15 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-#include "base/Cisla.h"
-#include "engine/Tabulky.h"
-#include "hrac/Relace.h"
 #include "platform/Cesta.h"
 #include "platform/Obrazovky.h"
-#include "rules/Misc.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
 #include "shell/SouboryPomoc.h"
 #include "store/Cesty.h"
 #include "store/Ini.h"
-#include "store/Ukladani.h"
 
 namespace rysovna::testy {
-
-using hrac::Relace;
 namespace {
 
 namespace fs = std::filesystem;
@@ -40,20 +33,12 @@ TEST(Ini, Hodnota) {
 }
 
 using Zpravy = std::vector<HeadlessHost::Zprava>;
-const HeadlessHost::Zprava CHYBI_INI{
-    "Nelze nalézt soubor RYSOVNA.INI. Nainstalujte aplikaci znovu.", "Chyba", Styl::Stop,
-    Odpoved::Ok};
-const HeadlessHost::Zprava CHYBI_DATA{
-    "Nelze nalézt soubory se zdroji dat. Nainstalujte aplikaci znovu.", "Chyba", Styl::Stop,
-    Odpoved::Ok};
+const std::string CHYBI_INI = "Nelze nalézt soubor RYSOVNA.INI. Nainstalujte aplikaci znovu.",
+                  CHYBI_DATA = "Nelze nalézt soubory se zdroji dat. Nainstalujte aplikaci znovu.";
 
-class Start : public ::testing::Test {
+class Start : public Soubory {
 protected:
-    void Ini(const std::string& cd, const std::string& hd) {
-        relace.PisSoubor("../Rysovna.ini", "[RYSOVNA1]\r\n" + cd + "\r\n" + hd + "\r\n");
-    }
-    Relace relace;
-    HeadlessHost& host = relace.Host();
+    std::string Nacti() { return NactiKonfiguraci(relace.Pamet()); }
     const std::uint32_t start = host.TickCount();
 };
 
@@ -67,96 +52,91 @@ TEST_F(Start, Cesty) {
     for (const auto& [cd, hd, cestaCD, cestaHD] : pripady) {
         for (const std::string konec : {"", "/", "\\"}) {
             host.SlozkaSystemu = koren + konec + std::string(3, '\0');
-            Ini(cd, hd);
+            Ini("", cd, hd);
             host.SeminkoHry = 77;
-            EXPECT_EQ(NactiKonfiguraci(relace.Pamet()), "") << hd;
-            EXPECT_EQ(relace.Pamet().AdresarSystemu, koren + "\\");
-            EXPECT_EQ(relace.Pamet().DiskSystemu, koren.substr(0, 3));
-            EXPECT_EQ(relace.Pamet().CestaCD, cestaCD);
-            EXPECT_EQ(relace.Pamet().CestaHD, cestaHD);
+            EXPECT_EQ(Nacti(), "") << hd;
+            EXPECT_EQ(misc.AdresarSystemu, koren + "\\");
+            EXPECT_EQ(misc.DiskSystemu, koren.substr(0, 3));
+            EXPECT_EQ(misc.CestaCD, cestaCD);
+            EXPECT_EQ(misc.CestaHD, cestaHD);
         }
     }
     EXPECT_EQ(host.Zpravy, Zpravy{});
     Nahoda stejny;
     stejny.Zasej(77);
-    EXPECT_EQ(relace.Pamet().Generator.Rnd(), stejny.Rnd());
+    EXPECT_EQ(misc.Generator.Rnd(), stejny.Rnd());
 }
 
 TEST_F(Start, ChybejiciSouborKonciPredPrepnutimObrazovky) {
     const std::pair<std::string, std::string> inie[]{
         {"CD=assets", ""}, {"", "HD=data"}, {"CD=Chyba", "HD=data"}, {"CD=assets", "HD=Chyba\\"}};
     for (const auto& [cd, hd] : inie) {
-        Ini(cd, hd);
-        EXPECT_EQ(NactiKonfiguraci(relace.Pamet()), CHYBI_INI.Text) << cd << hd;
+        Ini("", cd, hd);
+        EXPECT_EQ(Nacti(), CHYBI_INI) << cd << hd;
     }
-    Ini("CD=assets", "HD=data");
+    Ini();
     const std::vector soubory(fs::directory_iterator(relace.DataDir()), {});
     EXPECT_EQ(soubory.size(), 43U);
     for (const auto& soubor : soubory) {
-        fs::rename(soubor, relace.DataDir() / "stranou");
-        EXPECT_EQ(NactiKonfiguraci(relace.Pamet()), CHYBI_DATA.Text) << soubor;
-        fs::rename(relace.DataDir() / "stranou", soubor);
+        Schovej(soubor.path().filename().string());
+        EXPECT_EQ(Nacti(), CHYBI_DATA) << soubor;
+        Vrat(soubor.path().filename().string());
     }
-    fs::rename(relace.DataDir() / "07.res", relace.DataDir() / "07.RES");  // any case will do
-    EXPECT_EQ(NactiKonfiguraci(relace.Pamet()), "");
+    fs::rename(Cesta("07.res"), Cesta("07.RES"));  // any case will do
+    EXPECT_EQ(Nacti(), "");
 
     host.Zpravy.clear();
-    fs::remove(relace.DataDir() / "../Rysovna.ini");
+    fs::remove(Cesta("../Rysovna.ini"));
     relace.StartDoTitulu();
     EXPECT_EQ(host.Okna().StavKonce(), 1);
-    EXPECT_EQ(host.Zpravy, Zpravy{CHYBI_INI});
+    EXPECT_EQ(host.Zpravy, (Zpravy{{CHYBI_INI, "Chyba", Styl::Stop, Odpoved::Ok}}));
     EXPECT_TRUE(host.Rezimy.empty());
 }
 
 /// Data where nobody writes, results where the pupil may.
 TEST_F(Start, VysledkyMajiSvouSlozku) {
     const fs::path koren = host.SlozkaSystemu;
-    const auto ini = [&](const std::string& vysledky) {
-        Ini("CD=assets", "HD=data\r\nVYSLEDKY=" + vysledky);
-    };
-    for (const auto& jmeno : JmenaVysledku()) fs::remove(relace.DataDir() / jmeno);
-    ini("vysledky");
+    for (const auto& jmeno : JmenaVysledku()) fs::remove(Cesta(jmeno));
+    Ini("VYSLEDKY=vysledky");
     // The folder itself is not made.
-    EXPECT_EQ(NactiKonfiguraci(relace.Pamet()), CHYBI_DATA.Text);
+    EXPECT_EQ(Nacti(), CHYBI_DATA);
     fs::create_directory(koren / "vysledky");
-    relace.PisSoubor("../vysledky/07.RES", "Eva|10|0|1\r\n");
+    Pis("../vysledky/07.RES", "Eva|10|0|1\r\n");
     const std::pair<std::string, fs::path> pripady[]{{"vysledky", koren / "vysledky"},
                                                      {"ucet", host.SlozkaDat()}};
     for (const auto& [klic, slozka] : pripady) {
-        ini(klic);
-        EXPECT_EQ(NactiKonfiguraci(relace.Pamet()), "") << klic;
-        EXPECT_EQ(NativniCesta(relace.Pamet().CestaVysledku), slozka / "");
-        EXPECT_EQ(NativniCesta(relace.Pamet().CestaHD), relace.DataDir() / "");
+        Ini(std::string("VYSLEDKY=") + klic);
+        EXPECT_EQ(Nacti(), "") << klic;
+        EXPECT_EQ(NativniCesta(misc.CestaVysledku), slozka / "");
+        EXPECT_EQ(NativniCesta(misc.CestaHD), relace.DataDir() / "");
         EXPECT_EQ(std::distance(fs::directory_iterator(slozka), {}), 21) << klic;
-        EXPECT_EQ(Uloz(relace, {.CisloUlohy = 7, .Jmeno = "A", .Kladne = "1"}).Text, "");
+        EXPECT_EQ(UlozVysledek({.CisloUlohy = 7, .Jmeno = "A", .Kladne = "1"}).Text, "");
     }
-    EXPECT_EQ(relace.CtiSoubor("../vysledky/07.RES"), "A|1||\r\nEva|10|0|1\r\n");
-    EXPECT_EQ(relace.CtiSoubor("../ucet/07.res"), "A|1||\r\n");
-    EXPECT_FALSE(fs::exists(relace.DataDir() / "07.res"));
+    EXPECT_EQ(Cti("../vysledky/07.RES"), "A|1||\r\nEva|10|0|1\r\n");
+    EXPECT_EQ(Cti("../ucet/07.res"), "A|1||\r\n");
+    EXPECT_FALSE(fs::exists(Cesta("07.res")));
     // A missing key, or the value of one: the data root holds both, and nothing is made.
     for (const char* klic : {"", "Chyba"}) {
-        ini(klic);
-        EXPECT_EQ(NactiKonfiguraci(relace.Pamet()), CHYBI_DATA.Text);
-        EXPECT_EQ(relace.Pamet().CestaVysledku, relace.Pamet().CestaHD);
+        Ini(std::string("VYSLEDKY=") + klic);
+        EXPECT_EQ(Nacti(), CHYBI_DATA);
+        EXPECT_EQ(misc.CestaVysledku, misc.CestaHD);
     }
 }
 
 /// What could not be told when it happened is told at the next start, once.
 TEST_F(Start, CekajiciVysledkySeZapisiPriStartu) {
-    EXPECT_EQ(NactiKonfiguraci(relace.Pamet()), "");
-    fs::rename(relace.DataDir() / "01.res", relace.DataDir() / "stranou");
-    fs::create_directory(relace.DataDir() / "01.res");
-    EXPECT_NE(Uloz(relace, {.CisloUlohy = 1, .Jmeno = "A"}).Text, "");
-    fs::remove(relace.DataDir() / "01.res");
-    fs::rename(relace.DataDir() / "stranou", relace.DataDir() / "01.res");
+    EXPECT_EQ(Nacti(), "");
+    Schovej("01.res", true);
+    EXPECT_NE(UlozVysledek({.CisloUlohy = 1, .Jmeno = "A"}).Text, "");
+    Vrat("01.res");
     relace.StartDoTitulu();
-    EXPECT_EQ(relace.CtiSoubor("01.res"), "A|||\r\n");
+    EXPECT_EQ(Cti("01.res"), "A|||\r\n");
     EXPECT_EQ(host.Zpravy, Zpravy{});
     // One of a program that was killed: nobody heard of it yet.
     const CekajiciVysledek v{.Koren = fs::canonical(relace.DataDir()).string(),
                              .Co = {.CisloUlohy = 1, .Jmeno = "B"}};
-    relace.PisSoubor("../stav/fronta/0000000009.vysledek", TextCekajiciho(v));
-    const auto cizi = host.Disk().Otevri(relace.DataDir() / "Vysledky.dat", Disk::Jak::Zapis);
+    Pis("../stav/fronta/0000000009.vysledek", TextCekajiciho(v));
+    const auto cizi = host.Disk().Otevri(Cesta("Vysledky.dat"), Disk::Jak::Zapis);
     ASSERT_TRUE(cizi->Zamkni());
     for (int i = 0; i < 2; ++i) {
         host.Okna().UnloadVse();
@@ -186,7 +166,6 @@ TEST_F(Start, Obrazovka) {
 }
 
 TEST_F(Start, SmazTabulkyJenPolovinuABezPocitadel) {
-    Misc misc;
     for (int i = 1; i <= 100; ++i) {
         misc.Trojice_tab[i].X3 = misc.Priklady[i].Kroky[8].Hotovo = misc.ChybneKroky[i].Body = ANO;
         misc.ZadanePrvky[std::min(i, 20)].Faze = 3;
@@ -222,7 +201,7 @@ TEST_P(Titul, TrvaDesetSekundNeboDoZasahu) {
     EXPECT_EQ(host.Okna().JeKonec(), zavreni);
     if (zavreni) return;
     EXPECT_GE(trvani, std::clamp(kdy, 1200U, 10100U));
-    EXPECT_EQ(relace.Pamet().AktivniForm.lock().get(), &Menu(relace.Pamet()));
+    EXPECT_EQ(misc.AktivniForm.lock().get(), &Menu(relace.Pamet()));
     EXPECT_EQ(relace.NoveZvuky().size(), kdy < 10000 ? 1U : 0U);
     relace.Cekej(3000);  // the timer is gone with the title: the menu stays in front
     EXPECT_EQ(relace.JmenoVpredu(), "SelectForm");
