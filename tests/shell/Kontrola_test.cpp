@@ -65,43 +65,37 @@ TEST_F(KontrolaHodiny, VseVPoradkuAKazdaVadaSvymJmenem) {
         fs::create_directories(sem.parent_path());
         if (!soubor.is_directory()) fs::create_symlink(soubor, sem);
     }
-    const auto zmen = [&](const std::string& jmeno, const std::string& obsah) {
-        fs::remove(nase / jmeno);
-        Pis("../assets/" + jmeno, obsah);
+    // Each file, what is put in its place (nothing if it is missing), what is found.
+    constexpr struct {
+        std::string_view Soubor;
+        const char* Obsah;
+        std::string_view Nalez;
+    } VADY[] = {
+        {"assets/Bitmap/Help/17.png", nullptr, "Help/17.bmp: chybí velké dvojče"},
+        {"assets/Bitmap/Help/18.bmp", "BM", "Help/18.bmp: Vadný obrázek: je useknutý"},
+        {"assets/Bitmap/Help/19.png", "png", "Help/19.bmp: velké dvojče nelze přečíst"},
+        {"assets/Bitmap/Tab/bckg.bmp", nullptr, "Tab/bckg.bmp: chybí"},
+        {"assets/Sound/enter.wav", nullptr, "Sound/enter.wav: chybí"},
+        {"assets/Sound/click.wav", "RIFF", "Sound/click.wav: není zvuk"},
+        {"assets/Fonts/DejaVuSans.ttf", "", "DejaVuSans.ttf: není písmo s českými znaky"},
+        {"data/03.dat", "\r\n", "! Data 03.dat: V souboru úlohy není žádný příklad"},
+        {"data/05.dat", nullptr, "! Data 05.dat: Soubor nelze přečíst"},
+        {"data/Znamky.dat", "", "! Data Znamky.dat: V souboru není žádná známka"},
+        {"data/Errors.dat", "xxx0xxx0xxx2\r\n", "! Data Errors.dat: Příliš krátký řádek"},
     };
-    fs::remove(nase / "Bitmap/Help/17.png");
-    fs::remove(nase / "Sound/enter.wav");
-    fs::remove(nase / "Bitmap/Tab/bckg.bmp");
-    zmen("Bitmap/Help/18.bmp", "BM");
-    zmen("Bitmap/Help/19.png", "png");
-    zmen("Sound/click.wav", "RIFF");
-    zmen("Fonts/DejaVuSans.ttf", "");
+    for (const auto& v : VADY) {
+        const std::string soubor = "../" + std::string(v.Soubor);
+        fs::remove(Cesta(soubor));
+        if (v.Obsah != nullptr) Pis(soubor, v.Obsah);
+    }
     Ini();
-    Pis("03.dat", "\r\n");
-    Pis("Znamky.dat", "");
-    Pis("Errors.dat", "xxx0xxx0xxx2\r\n");
-    fs::remove(Cesta("05.dat"));
     host.NeniObrazovka = "Okno nejde otevřít";
     host.NeniZvuk = "Není";
     const std::vector<Nalez> vadne = ZkontrolujPocitac(Stroj_());
-    std::string vady = Vady(vadne);
-    for (const std::string radek : {
-             "! Obrazovka: Okno nejde otevřít (headless)",
-             "? Zvukové zařízení: Není (headless)",
-             "Help/17.bmp: chybí velké dvojče",
-             "Help/18.bmp: Vadný obrázek: je useknutý",
-             "Help/19.bmp: velké dvojče nelze přečíst",
-             "Tab/bckg.bmp: chybí",
-             "Sound/enter.wav: chybí",
-             "Sound/click.wav: není zvuk",
-             "Fonts/DejaVuSans.ttf: není písmo s českými znaky",
-             "! Data 03.dat: V souboru úlohy není žádný příklad",
-             "! Data 05.dat: Soubor nelze přečíst",
-             "! Data Znamky.dat: V souboru není žádná známka",
-             "! Data Errors.dat: Příliš krátký řádek",
-         }) {
-        EXPECT_NE(vady.find(radek), std::string::npos) << radek << " v\n" << vady;
-    }
+    const std::string vady = Vady(vadne);
+    for (const auto& v : VADY) EXPECT_NE(vady.find(v.Nalez), vady.npos) << v.Nalez << vady;
+    EXPECT_NE(vady.find("! Obrazovka: Okno nejde otevřít (headless)"), vady.npos) << vady;
+    EXPECT_NE(vady.find("? Zvukové zařízení: Není (headless)"), vady.npos) << vady;
     EXPECT_EQ(std::ranges::count(vady, '\n'), 13) << vady;
     EXPECT_EQ(VypisKontrolu(vypis, vadne), 1);
 }
@@ -115,8 +109,7 @@ TEST_F(KontrolaHodiny, Vysledky) {
     Vrat("06.res");
     Pis("05.res", "");
     {
-        const auto cizi = host.Disk().Otevri(Cesta("Vysledky.dat"), Disk::Jak::Zapis);
-        ASSERT_TRUE(cizi->Zamkni());
+        const auto cizi = CiziZamek();
         EXPECT_EQ(VadyVysledku(), "! Zámek výsledků: Vysledky.dat: drží jej jiný program\n");
         const std::uint32_t od = host.TickCount();
         EXPECT_NE(UlozVysledek({.CisloUlohy = 1}).Text, "");
@@ -126,9 +119,7 @@ TEST_F(KontrolaHodiny, Vysledky) {
     const std::string stranou = "? Výsledky uložené stranou: " + fronta;
     EXPECT_TRUE(VadyVysledku().starts_with(stranou + ": čeká jich 1, volno ")) << VadyVysledku();
     {
-        const fs::path zamek = Fronta::Zamek(host.SlozkaStavu());
-        const auto cizi = host.Disk().Otevri(zamek, Disk::Jak::Zapis);
-        ASSERT_TRUE(cizi->Zamkni());
+        const auto cizi = CiziZamek(Fronta::Zamek(host.SlozkaStavu()));
         EXPECT_EQ(VadyVysledku(), stranou + "/zamek: drží jej jiný program\n");
     }
     fs::remove_all(fronta);

@@ -53,6 +53,13 @@ protected:
     Ukladani::Ulozeni UlozVysledek(const Vysledek& vysledek) {
         return host.Proved(relace.Pamet().Vysledky().Uloz(vysledek));
     }
+    /// The log, or another file, locked as another program locks it.
+    std::unique_ptr<Soubor> CiziZamek(const std::filesystem::path& co) {
+        auto cizi = host.Disk().Otevri(co, Disk::Jak::Zapis);
+        EXPECT_TRUE(cizi->Zamkni());
+        return cizi;
+    }
+    std::unique_ptr<Soubor> CiziZamek() { return CiziZamek(Cesta("Vysledky.dat")); }
     /// How many files there are.
     auto Pocet() const {
         return std::distance(std::filesystem::directory_iterator(relace.DataDir()), {});

@@ -136,8 +136,7 @@ TEST_F(Start, CekajiciVysledkySeZapisiPriStartu) {
     const CekajiciVysledek v{.Koren = fs::canonical(relace.DataDir()).string(),
                              .Co = {.CisloUlohy = 1, .Jmeno = "B"}};
     Pis("../stav/fronta/0000000009.vysledek", TextCekajiciho(v));
-    const auto cizi = host.Disk().Otevri(Cesta("Vysledky.dat"), Disk::Jak::Zapis);
-    ASSERT_TRUE(cizi->Zamkni());
+    const auto cizi = CiziZamek();
     for (int i = 0; i < 2; ++i) {
         host.Okna().UnloadVse();
         relace.StartDoTitulu();

@@ -176,12 +176,6 @@ protected:
         }
         return text + "| " + tabulka + "| " + std::to_string(Ceka());
     }
-    /// The log, locked as another program locks it.
-    std::unique_ptr<Soubor> CiziZamek() {
-        auto cizi = host.Disk().Otevri(Cesta("Vysledky.dat"), Disk::Jak::Zapis);
-        EXPECT_TRUE(cizi->Zamkni());
-        return cizi;
-    }
 };
 
 /// Who reads while the table is changed in place may get the beginning of one and the end of the
