@@ -8,6 +8,7 @@
 #include "platform/Cesta.h"
 #include "platform/Host.h"
 #include "platform/ObrazekData.h"
+#include "platform/bmp/Bmp.h"
 
 namespace rysovna {
 
@@ -69,6 +70,15 @@ void DataObrazku::PripravVelikost(double s) {
 
 void NastavOcekavaneMeritko(double s) {
     g_ocekavaneMeritko = s;
+}
+
+Bitmapa NactiBmp(const std::filesystem::path& soubor) {
+    ObrazBmp obraz = NactiObrazBmp(soubor);
+    Bitmapa b;
+    b.Sirka = obraz.Sirka;
+    b.Vyska = obraz.Vyska;
+    b.Body = std::move(obraz.Body);
+    return b;
 }
 
 Obrazek::Obrazek(std::shared_ptr<DataObrazku> data) : data_(std::move(data)) {

@@ -31,7 +31,7 @@ private:
 /// The scale at which the host is going to show pictures; 1 until it says so.
 void NastavOcekavaneMeritko(double s);
 
-/// Reads a bitmap file of 24 bits a pixel. Anything else is a run-time fault that names the file.
+/// Reads a bitmap file, packed or plain. Anything else is a run-time fault that names the file.
 [[nodiscard]] Bitmapa NactiBmp(const std::filesystem::path& soubor);
 
 }  // namespace rysovna

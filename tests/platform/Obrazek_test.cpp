@@ -1,6 +1,9 @@
+#include <random>
+
 #include "PlatformTest.h"
 #include "base/Chyba.h"
 #include "platform/ObrazekData.h"
+#include "platform/bmp/Bmp.h"
 
 namespace rysovna::testy {
 namespace {
@@ -53,6 +56,42 @@ TEST_F(NaStroji, VadnaBitmapaJeChybaSeJmenemSouboru) {
         }
     }
     EXPECT_THROW((void)LoadPicture("/neni/tady.bmp"), BehovaChyba);
+}
+
+TEST_F(NaStroji, ZabalenaBitmapaSeVratiAPoskozenaNespadne) {
+    std::mt19937 generator(7);
+    const auto nahoda = [&] { return static_cast<unsigned>(generator()); };
+    for (const unsigned barev : {1U, 2U, 256U, 257U, 5000U}) {
+        ObrazBmp obraz{83, 61, {}};
+        for (int i = 0; i < 83 * 61; ++i) {
+            const unsigned barva =
+                static_cast<unsigned>(i) < barev ? static_cast<unsigned>(i) : nahoda() % barev;
+            obraz.Body.push_back(0xFF000000U | barva * 3331U);
+        }
+        const std::string soubor = Soubor("zabaleny.bmp", ZabalenyBmp(obraz));
+        EXPECT_EQ(NactiObrazBmp(soubor).Body, obraz.Body) << barev;
+        const std::string prosty = Soubor("prosty.bmp", ProstyBmp(NactiObrazBmp(soubor)));
+        EXPECT_EQ(NactiObrazBmp(prosty).Body, obraz.Body) << barev;
+        EXPECT_EQ(NactiHlavuBmp(soubor).Otisk, OtiskBodu(obraz))
+            << "the same as that of its pixels";
+        EXPECT_EQ(NactiHlavuBmp(prosty).Otisk, std::nullopt);
+        obraz.Body[500] ^= 1;
+        EXPECT_NE(NactiHlavuBmp(soubor).Otisk, OtiskBodu(obraz));
+    }
+    const std::string zdravy = ZabalenyBmp({3, 2, {1, 2, 3, 4, 5, 6}});
+    int vadnych = 0;
+    for (int i = 0; i < 3000; ++i) {
+        std::string data = zdravy.substr(0, zdravy.size() - (i % 3 == 0 ? nahoda() % 90 : 0));
+        for (unsigned zmen = nahoda() % 3 + (i % 3 == 0 ? 0 : 1); zmen > 0; --zmen)
+            data[nahoda() % data.size()] = static_cast<char>(nahoda());
+        try {
+            (void)CtiBmp(data, "zmeneny.bmp");
+        } catch (const BehovaChyba& chyba) {
+            ASSERT_EQ(chyba.Kde(), "zmeneny.bmp");
+            ++vadnych;
+        }
+    }
+    EXPECT_GT(vadnych, 1500);
 }
 
 TEST_F(NaStroji, ObrazekSeDrziJedenADaSvePolickoPasu) {

@@ -9,9 +9,10 @@
 #include "Kontrola.h"
 #include "Prevod.h"
 #include "base/Chyba.h"
+#include "platform/bmp/Bmp.h"
 #include "store/Kodovani.h"
 
-// The data tool: codes, decodes and checks the files of the data root.
+// The data tool: codes, decodes and checks the files of the data root; packs bitmaps.
 
 namespace {
 
@@ -23,11 +24,16 @@ constexpr std::string_view POUZITI =
   kodovani zakoduj ZDROJ CÍL      čitelný soubor (.txt, UTF-8) uloží tak, jak ho čte Rysovna
   kodovani dekoduj ZDROJ CÍL      uložený soubor (.dat) převede na čitelný
   kodovani zkontroluj SOUBOR...   ohlásí chyby: soubor, řádek, pole a důvod
+  kodovani rozbal ZDROJ CÍL       obrázek (.bmp) uloží tak, aby ho otevřel každý malovací program
+  kodovani zabal ZDROJ CÍL        obrázek s 24 bity na bod uloží co nejmenší
   kodovani --help                 tato nápověda
 
 Co je v souboru, se pozná podle jména: 01 až 20 jsou příklady úloh, Errors věty k chybným krokům,
 Znamky stupnice známek; 01.res až 20.res jsou tabulky výsledků (ty jdou jen zkontrolovat a
 přečíst). V čitelném souboru jsou řádky začínající středníkem poznámky.
+
+Rysovna čte obrázky zabalené i prosté. Obrázek, který se od dodaného liší, se ve větším okně zvětší,
+jak je; dodaný se kreslí přesně.
 
 Návratová hodnota: 0 v pořádku, 1 nalezené chyby nebo soubor nejde přečíst či zapsat, 2 špatné
 zadání příkazu.
@@ -63,18 +69,33 @@ void Preved(std::string_view zdroj, std::string_view cil,
     PrepisSoubor(cil, jak(zdroj));
 }
 
+std::string ZabalObrazek(const std::filesystem::path& zdroj) {
+    return ZabalenyBmp(NactiObrazBmp(zdroj));
+}
+std::string RozbalObrazek(const std::filesystem::path& zdroj) {
+    return ProstyBmp(NactiObrazBmp(zdroj));
+}
+
+/// The conversions by the command that asks for them.
+constexpr struct {
+    std::string_view Prikaz;
+    std::string (*Jak)(const std::filesystem::path&);
+} PREVODY[] = {{"zakoduj", kodovani::Zakoduj},
+               {"dekoduj", kodovani::Dekoduj},
+               {"zabal", ZabalObrazek},
+               {"rozbal", RozbalObrazek}};
+
 int Spust(const Argumenty& a) {
     if (a.size() == 1 && (a[0] == "--help" || a[0] == "-h")) {
         std::cout << POUZITI;
         return V_PORADKU;
     }
-    if (a.size() == 3 && a[0] == "zakoduj") {
-        Preved(a[1], a[2], kodovani::Zakoduj);
-        return V_PORADKU;
-    }
-    if (a.size() == 3 && a[0] == "dekoduj") {
-        Preved(a[1], a[2], kodovani::Dekoduj);
-        return V_PORADKU;
+    if (a.size() == 3) {
+        for (const auto& [prikaz, jak] : PREVODY) {
+            if (a[0] != prikaz) continue;
+            Preved(a[1], a[2], jak);
+            return V_PORADKU;
+        }
     }
     if (a.size() >= 2 && a[0] == "zkontroluj") {
         return Zkontroluj(Argumenty(a.begin() + 1, a.end()));

@@ -7,33 +7,34 @@
 
 #include "Kresleni.h"
 #include "Predlohy.h"
+#include "base/Chyba.h"
 
 namespace rysovna::obrazky {
 
 namespace {
 
-/// A whole number of a file's head: bytes in the file's order, lowest or highest first.
-std::uint32_t Cislo(const std::string& data, std::size_t od, int bytu, bool odNejvyssiho) {
+/// A whole number of a file's head, highest byte first.
+int Cislo(const std::string& data, std::size_t od, std::size_t bytu) {
     std::uint32_t vysledek = 0;
-    for (int i = 0; i < bytu; ++i) {
-        const auto misto = od + static_cast<std::size_t>(odNejvyssiho ? i : bytu - 1 - i);
-        vysledek = vysledek << 8 | static_cast<unsigned char>(data.at(misto));
-    }
-    return vysledek;
+    for (std::size_t i = 0; i < bytu; ++i)
+        vysledek = vysledek << 8 | static_cast<unsigned char>(data.at(od + i));
+    return static_cast<int>(vysledek);
 }
 
 /// What is wrong with a picture and its twin, or an empty text.
-std::string VadaObrazku(const std::filesystem::path& soubor, std::uint32_t w, std::uint32_t h) {
+std::string VadaObrazku(const std::filesystem::path& soubor, int w, int h) {
     auto dvojce = soubor;
     dvojce.replace_extension(".png");
     if (!std::filesystem::exists(dvojce)) return "chybí velké dvojče";
-    const std::string bmp = NactiSoubor(soubor);
-    if (bmp.size() < 54 || bmp.compare(0, 2, "BM") != 0 || Cislo(bmp, 28, 2, false) != 24)
-        return "není 24bitový obrázek";
-    if (Cislo(bmp, 18, 4, false) != w || Cislo(bmp, 22, 4, false) != h) return "má jiný rozměr";
+    try {
+        const ObrazBmp obraz = NactiObrazBmp(soubor);
+        if (obraz.Sirka != w || obraz.Vyska != h) return "má jiný rozměr";
+    } catch (const BehovaChyba& chyba) {
+        return chyba.what();
+    }
     const std::string png = NactiSoubor(dvojce);
     if (png.size() < 24 || png.compare(1, 3, "PNG") != 0) return "dvojče není PNG";
-    if (Cislo(png, 16, 4, true) != w * ZVETSENI || Cislo(png, 20, 4, true) != h * ZVETSENI)
+    if (Cislo(png, 16, 4) != w * ZVETSENI || Cislo(png, 20, 4) != h * ZVETSENI)
         return "dvojče má jiný rozměr";
     return {};
 }
@@ -55,8 +56,8 @@ int Zkontroluj(const std::filesystem::path& seznam, const std::filesystem::path&
         if (!(radek >> jmeno) || jmeno[0] == '#') continue;
         zname.insert(jmeno);
         const auto soubor = assety / jmeno;
-        std::uint32_t w = 0;
-        std::uint32_t h = 0;
+        int w = 0;
+        int h = 0;
         if (!std::filesystem::exists(soubor)) {
             ohlas(jmeno, "chybí");
         } else if (radek >> w >> h) {

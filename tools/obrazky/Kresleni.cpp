@@ -13,7 +13,7 @@ namespace rysovna::obrazky {
 
 namespace {
 
-constexpr std::uint32_t BEZ_PRUHLEDNOSTI = 0xFFFFFF;
+constexpr std::uint32_t PLNE = 0xFF000000;
 
 struct Uvolni {
     void operator()(RsvgHandle* h) const { g_object_unref(h); }
@@ -21,10 +21,6 @@ struct Uvolni {
     void operator()(cairo_t* c) const { cairo_destroy(c); }
     void operator()(std::FILE* f) const { std::fclose(f); }
 };
-
-void Pripis(std::vector<unsigned char>& data, std::uint32_t hodnota, int bytu) {
-    for (int i = 0; i < bytu; ++i) data.push_back(static_cast<unsigned char>(hodnota >> (8 * i)));
-}
 
 }  // namespace
 
@@ -43,7 +39,8 @@ void NastavPisma(const std::filesystem::path& fonty, const std::filesystem::path
     setenv("FONTCONFIG_FILE", soubor.c_str(), 1);
 }
 
-Rastr Vykresli(const std::string& svg, int sirka, int vyska, int zvetseni, const std::string& kde) {
+ObrazBmp Vykresli(const std::string& svg, int sirka, int vyska, int zvetseni,
+                  const std::string& kde) {
     const std::string w = std::to_string(sirka);
     const std::string h = std::to_string(vyska);
     const std::string cele = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + w +
@@ -59,7 +56,7 @@ Rastr Vykresli(const std::string& svg, int sirka, int vyska, int zvetseni, const
     };
     if (!kresba) selhani();
 
-    Rastr rastr{sirka * zvetseni, vyska * zvetseni, {}};
+    ObrazBmp rastr{sirka * zvetseni, vyska * zvetseni, {}};
     const std::unique_ptr<cairo_surface_t, Uvolni> plocha(
         cairo_image_surface_create(CAIRO_FORMAT_RGB24, rastr.Sirka, rastr.Vyska));
     const std::unique_ptr<cairo_t, Uvolni> pero(cairo_create(plocha.get()));
@@ -74,12 +71,12 @@ Rastr Vykresli(const std::string& svg, int sirka, int vyska, int zvetseni, const
                        static_cast<std::size_t>(rastr.Vyska));
     for (int y = 0; y < rastr.Vyska; ++y) {
         const auto* radek = reinterpret_cast<const std::uint32_t*>(data + y * delka);
-        for (int x = 0; x < rastr.Sirka; ++x) rastr.Body.push_back(radek[x] & BEZ_PRUHLEDNOSTI);
+        for (int x = 0; x < rastr.Sirka; ++x) rastr.Body.push_back(radek[x] | PLNE);
     }
     return rastr;
 }
 
-void OverKlic(const Rastr& rastr, const std::string& kde) {
+void OverKlic(const ObrazBmp& rastr, const std::string& kde) {
     // No colour of the drawings has red and blue both this far above green, but mixtures have.
     constexpr int ODSTUP = 60;
     for (const std::uint32_t b : rastr.Body) {
@@ -91,35 +88,14 @@ void OverKlic(const Rastr& rastr, const std::string& kde) {
     }
 }
 
-void UlozBmp(const Rastr& rastr, const std::filesystem::path& soubor) {
-    constexpr std::uint32_t HLAVICKA = 54;
-    const auto delkaRadku = (static_cast<std::uint32_t>(rastr.Sirka) * 3 + 3) / 4 * 4;
-    const auto delka = delkaRadku * static_cast<std::uint32_t>(rastr.Vyska);
-    std::vector<unsigned char> data;
-    data.reserve(HLAVICKA + delka);
-    data.push_back('B');
-    data.push_back('M');
-    for (const std::uint32_t v :
-         {HLAVICKA + delka, 0U, HLAVICKA, 40U, static_cast<std::uint32_t>(rastr.Sirka),
-          static_cast<std::uint32_t>(rastr.Vyska)})
-        Pripis(data, v, 4);
-    Pripis(data, 1, 2);   // planes
-    Pripis(data, 24, 2);  // bits a pixel
-    // no compression, size, 96 dots an inch in dots a metre, no palette
-    for (const std::uint32_t v : {0U, delka, 3780U, 3780U, 0U, 0U}) Pripis(data, v, 4);
-    for (int y = rastr.Vyska - 1; y >= 0; --y) {
-        for (int x = 0; x < rastr.Sirka; ++x)
-            Pripis(data, rastr.Body[static_cast<std::size_t>(y * rastr.Sirka + x)], 3);
-        while ((data.size() - HLAVICKA) % 4 != 0) data.push_back(0);
-    }
+void Uloz(const std::string& data, const std::filesystem::path& soubor) {
     std::ofstream ven(soubor, std::ios::binary);
-    ven.write(reinterpret_cast<const char*>(data.data()),
-              static_cast<std::streamsize>(data.size()));
+    ven.write(data.data(), static_cast<std::streamsize>(data.size()));
     ven.close();
     if (!ven) throw BehovaChyba("Nelze zapsat", soubor.string());
 }
 
-void UlozPng(const Rastr& rastr, const std::filesystem::path& soubor) {
+void UlozPng(const ObrazBmp& rastr, const std::filesystem::path& soubor) {
     const std::unique_ptr<std::FILE, Uvolni> ven(std::fopen(soubor.c_str(), "wb"));
     if (!ven) throw BehovaChyba("Nelze zapsat", soubor.string());
     std::vector<unsigned char> radek(static_cast<std::size_t>(rastr.Sirka) * 3);

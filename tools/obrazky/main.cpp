@@ -26,7 +26,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Grows by one when the tool itself comes to draw differently: all is then rendered anew.
-constexpr std::uint64_t VERZE = 1;
+constexpr std::uint64_t VERZE = 2;
 
 /// A number by which a changed drawing is known (FNV-1a, 64 bits).
 std::uint64_t Otisk(const std::string& text,
@@ -58,13 +58,13 @@ fs::path Dvojce(fs::path soubor) {
 
 void Vyrob(const Obrazek& o, const fs::path& soubor) {
     fs::create_directories(soubor.parent_path());
-    const Rastr maly = Vykresli(o.Svg, o.Sirka, o.Vyska, 1, o.Soubor);
-    const Rastr velky = Vykresli(o.Svg, o.Sirka, o.Vyska, ZVETSENI, o.Soubor);
+    const ObrazBmp maly = Vykresli(o.Svg, o.Sirka, o.Vyska, 1, o.Soubor);
+    const ObrazBmp velky = Vykresli(o.Svg, o.Sirka, o.Vyska, ZVETSENI, o.Soubor);
     if (o.Klic) {
         OverKlic(maly, o.Soubor);
         OverKlic(velky, o.Soubor + ", dvojče");
     }
-    UlozBmp(maly, soubor);
+    Uloz(ZabalenyBmp(maly), soubor);
     UlozPng(velky, Dvojce(soubor));
 }
 

@@ -1,5 +1,5 @@
 # Tries the renderer on small lists of its own: what must come out, and each mistake in a source
-# that must be refused with a message that names it. Run with -DNASTROJ= -DFONTY= -DSLOZKA=.
+# that must be refused with a message that names it. Run with -DNASTROJ= -DKODOVANI= -DFONTY= -DSLOZKA=.
 
 # One run of the tool; its exit status in VYSLEDEK, what it printed in VYPIS.
 function(spust)
@@ -36,7 +36,8 @@ set(dva "${barvy}[a]\nsoubor = a_{{S}}.bmp\npredloha = plocha.svg\nrozmer = 3 2\
 vykresli("${dva}")
 ocekavej("two states" 0 "nově vykresleno 2")
 # 3 x 2 pixels: 9 bytes a row padded to 12, blue green red from the bottom row up
-file(READ ${SLOZKA}/assets/a_1.bmp data OFFSET 54 HEX)
+execute_process(COMMAND ${KODOVANI} rozbal ${SLOZKA}/assets/a_1.bmp ${SLOZKA}/prosty.bmp)
+file(READ ${SLOZKA}/prosty.bmp data OFFSET 54 HEX)
 if(NOT data STREQUAL "0080ff0080ff0080ff0000000080ff0080ff0080ff000000")
     message(SEND_ERROR "pixels of a_1.bmp: ${data}")
 endif()
