@@ -3,7 +3,7 @@
 # when nothing is missing.
 
 BALICKY_HRA="g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libfreetype-dev
-    librsvg2-dev zlib1g-dev fonts-liberation fonts-dejavu-core"
+    librsvg2-dev zlib1g-dev fonts-liberation fonts-dejavu-core python3-fonttools"
 BALICKY_TESTY="libgtest-dev xvfb xdotool x11-utils imagemagick sway grim
     clang-format clang-tidy-16"
 BALICKY_BENCH="libbenchmark-dev xvfb xdotool x11-utils"

@@ -23,8 +23,8 @@ namespace {
 
 /// The files in the order of italic (1) and bold (2), then the one that fills in.
 constexpr std::array<std::string_view, 5> SOUBORY = {
-    "LiberationSans-Regular.ttf", "LiberationSans-Italic.ttf", "LiberationSans-Bold.ttf",
-    "LiberationSans-BoldItalic.ttf", "DejaVuSans.ttf"};
+    "RysovnaSans-Regular.ttf", "RysovnaSans-Italic.ttf", "RysovnaSans-Bold.ttf",
+    "RysovnaSans-BoldItalic.ttf", "RysovnaZnaky.ttf"};
 constexpr int NAHRADNI = 4;
 
 /// What the letters of the typeface "Symbol" show.

@@ -77,7 +77,7 @@ TEST_F(KontrolaHodiny, VseVPoradkuAKazdaVadaSvymJmenem) {
         {"assets/Bitmap/Tab/bckg.bmp", nullptr, "Tab/bckg.bmp: chybí"},
         {"assets/Sound/enter.wav", nullptr, "Sound/enter.wav: chybí"},
         {"assets/Sound/click.wav", "RIFF", "Sound/click.wav: není zvuk"},
-        {"assets/Fonts/DejaVuSans.ttf", "", "DejaVuSans.ttf: není písmo s českými znaky"},
+        {"assets/Fonts/RysovnaZnaky.ttf", "", "RysovnaZnaky.ttf: není písmo s českými znaky"},
         {"data/03.dat", "\r\n", "! Data 03.dat: V souboru úlohy není žádný příklad"},
         {"data/05.dat", nullptr, "! Data 05.dat: Soubor nelze přečíst"},
         {"data/Znamky.dat", "", "! Data Znamky.dat: V souboru není žádná známka"},

@@ -45,7 +45,7 @@ ObrazBmp Vykresli(const std::string& svg, int sirka, int vyska, int zvetseni,
     const std::string h = std::to_string(vyska);
     const std::string cele = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + w +
                              "\" height=\"" + h + "\" viewBox=\"0 0 " + w + " " + h +
-                             "\" font-family=\"Liberation Sans, DejaVu Sans\">" + svg + "</svg>";
+                             "\" font-family=\"Rysovna Sans, Rysovna Znaky\">" + svg + "</svg>";
     GError* chyba = nullptr;
     const std::unique_ptr<RsvgHandle, Uvolni> kresba(rsvg_handle_new_from_data(
         reinterpret_cast<const guint8*>(cele.data()), cele.size(), &chyba));

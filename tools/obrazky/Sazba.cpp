@@ -25,9 +25,9 @@ constexpr double VELIKOST_INDEXU = 0.72;
 constexpr double POKLES_INDEXU = 0.2;
 
 /// Regular, bold, italic, both, and the one that has the signs the others lack.
-constexpr std::array<const char*, 5> SOUBORY = {
-    "LiberationSans-Regular.ttf", "LiberationSans-Bold.ttf", "LiberationSans-Italic.ttf",
-    "LiberationSans-BoldItalic.ttf", "DejaVuSans.ttf"};
+constexpr std::array<const char*, 5> SOUBORY = {"RysovnaSans-Regular.ttf", "RysovnaSans-Bold.ttf",
+                                                "RysovnaSans-Italic.ttf",
+                                                "RysovnaSans-BoldItalic.ttf", "RysovnaZnaky.ttf"};
 constexpr std::size_t NAHRADNI = 4;
 
 struct Znak {

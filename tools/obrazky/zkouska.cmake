@@ -51,7 +51,7 @@ vykresli("${jina}")
 ocekavej("one colour changed" 0 "nově vykresleno 1")
 
 # The staged files held against a list of them.
-file(WRITE ${SLOZKA}/soubory.txt "a_0.bmp 3 2\na_1.bmp 3 2\nFonts/DejaVuSans.ttf\n")
+file(WRITE ${SLOZKA}/soubory.txt "a_0.bmp 3 2\na_1.bmp 3 2\nFonts/RysovnaZnaky.ttf\n")
 spust(--zkontroluj ${SLOZKA}/soubory.txt ${SLOZKA}/assets)
 ocekavej("all there" 0 "^$")
 file(WRITE ${SLOZKA}/soubory.txt "a_0.bmp 2 3\nchybi.wav\n")
