@@ -1,51 +1,71 @@
 #!/bin/bash
-# Start and memory of the real window under a virtual display.
-#   start.sh STAGING
-# The time runs from the process's start to the title's picture on the screen, read off the screen
-# itself, median of ten; the waits that the start-up orders before the title (100 ms) are taken off.
-# Memory is the peak of the resident set after title, menu and a board.
+# Start and memory of the real window on virtual displays of three sizes, each beside its floor: an
+# empty window of that size.
+#   start.sh STAGING [OTHER_STAGING]
+# All programs start in turns, fifteen times; medians count. A start takes from the process's birth
+# to the picture on the screen, read off the screen itself, less the waits that the game's own start
+# orders (100 ms). Memory is what the process has for itself, and whole the segments that it shares
+# with the display's server, on each screen of a tour.
 set -eu
 staging="$1"
-prace="$(mktemp -d)"
-pid_x=""
-uklid() { [ -z "$pid_x" ] || kill "$pid_x" 2>/dev/null || true; rm -rf "$prace"; }
-trap uklid EXIT
+jina="${2:-}"
+programy="$(dirname "$staging")"
+behu=15
+narizeno=100  # ms
+obrazky=""
+# shellcheck source=tests/okno/spolecne.sh
+. "$(dirname "$0")/../tests/okno/spolecne.sh"
 
-obrazovka() {  # WIDTH HEIGHT: a display of our own
-    [ -z "$pid_x" ] || { kill "$pid_x"; wait "$pid_x" 2>/dev/null || true; }
-    rm -f "$prace/cislo"
-    exec 3<>"$prace/cislo"
-    Xvfb -displayfd 3 -screen 0 "$1x$2x24" -nolisten tcp -fbdir "$prace" >/dev/null 2>&1 &
-    pid_x=$!
-    for _ in $(seq 100); do [ -s "$prace/cislo" ] && break; sleep 0.05; done
-    DISPLAY=":$(cat "$prace/cislo")"
-    export DISPLAY
+# The memory of a process, MB.
+pamet() {
+    awk '/^[0-9a-f]+-[0-9a-f]+ / { sdileny = $6 ~ /^\/(SYSV|memfd:|dev\/shm)/ }
+         sdileny ? /^Size:/ : /^Private_(Clean|Dirty):/ { kb += $2 }
+         END { printf "%.1f", kb / 1024 }' "/proc/$1/smaps"
 }
+# One number of the tour, with how many times the floor it is.
+radek() { awk -v co="$1" -v mb="$(pamet "$pid_hra")" -v dno="$dno" \
+    'BEGIN { printf "    %6.1f MB, %.2f dna  %s\n", mb, mb / dno, co }'; }
 
-for rozmer in "640 480" "1920 1080"; do
-    # shellcheck disable=SC2086
-    set -- $rozmer
-    obrazovka "$1" "$2"
-    rm -rf "$prace/hra"
-    cp -r "$staging" "$prace/hra"
-    "$(dirname "$staging")/cekani_na_obraz" "$prace/Xvfb_screen0" "$1" "$2" 10 "$prace/hra/rysovna" \
-        2>/dev/null | sed "s/^/$1x$2  /"
-    "$prace/hra/rysovna" 2>/dev/null &
-    pid_hra=$!
-    sleep 1
-    klik() { xdotool mousemove "$(awk -v a="$1" -v w="$sx" -v h="$sy" 'BEGIN{s=w/640<h/480?w/640:h/480; printf "%d",(w-640*s)/2+a*s}')" \
-        "$(awk -v a="$2" -v w="$sx" -v h="$sy" 'BEGIN{s=w/640<h/480?w/640:h/480; printf "%d",(h-480*s)/2+a*s}')" click 1; sleep "$3"; }
-    sx=$1
-    sy=$2
-    klik 320 240 1.5
-    klik 150 166 0.4
-    klik 480 190 0.8
-    xdotool type "Jan"
-    klik 145 267 1
-    klik 570 468 1
-    klik 332 266 2
-    printf '%sx%s  nejvíce paměti: %s MB\n' "$sx" "$sy" \
-        "$(awk '/VmHWM/ {printf "%.0f", $2 / 1024}' "/proc/$pid_hra/status")"
+# Every screen, in the order in which a pupil comes to it.
+obchuzka() {
+    staging="$1"
+    hra
+    radek titul
+    klik 320 240 2; radek nabídka
+    klik 150 166 0.4; klik 480 190 1.6
+    xdotool type Jan
+    klik 145 267 1; radek nastavení
+    klik 570 468 1.5; radek deska
+    klik 332 266 2.5; radek zasunuto
+    klik 60 45 1.5; radek nápověda
+    klik 320 400 1; klik 487 42 1.5; radek tabulka
     kill "$pid_hra"
     wait "$pid_hra" 2>/dev/null || true
+    pid_hra=""
+}
+
+for rozmer in "640 480" "1920 1080" "3840 2160"; do
+    read -r sirka vyska <<<"$rozmer"
+    echo "== $sirka × $vyska"
+    displej -fbdir "$prace"
+    # Where they lie is where they look for what belongs to them.
+    hry=("$narizeno" "$staging/rysovna")
+    [ -z "$jina" ] || hry+=("$narizeno" "$jina/rysovna")
+    "$programy/cekani_na_obraz" "$prace/Xvfb_screen0" "$sirka" "$vyska" "$behu" \
+        0 "$programy/prazdne_okno" "${hry[@]}" 2>/dev/null
+    "$programy/prazdne_okno" &
+    pid_hra=$!
+    sleep 1
+    dno="$(pamet "$pid_hra")"
+    kill "$pid_hra"
+    wait "$pid_hra" 2>/dev/null || true
+    pid_hra=""
+    echo "paměť: prázdné okno $dno MB"
+    for kopie in "$staging" ${jina:+"$jina"}; do
+        echo "  $kopie"
+        (obchuzka "$kopie")
+    done
+    kill "$pid_x"
+    wait "$pid_x" 2>/dev/null || true
+    pid_x=""
 done

@@ -43,9 +43,11 @@ napis_jmeno() {
 }
 
 # A display with a number that nobody has.
+#   displej [arguments of the server...]
 displej() {
+    rm -f "$prace/cislo"
     exec 3<>"$prace/cislo"
-    Xvfb -displayfd 3 -screen 0 "${sirka}x${vyska}x24" -nolisten tcp -noreset >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "${sirka}x${vyska}x24" -nolisten tcp -noreset "$@" >/dev/null 2>&1 &
     pid_x=$!
     for _ in $(seq 100); do [ -s "$prace/cislo" ] && break; sleep 0.1; done
     DISPLAY=":$(cat "$prace/cislo")"
@@ -53,10 +55,17 @@ displej() {
     [ "$DISPLAY" != ":" ] || selhani "Xvfb se nespustil"
 }
 
-# A display, and on it the game with no results in it, in a full-screen window.
+# A display, and on it the game.
 #   spust [arguments of the game...]
 spust() {
     displej
+    hra "$@"
+}
+
+# The game on the display, with no results in it, in a full-screen window.
+#   hra [arguments of the game...]
+hra() {
+    rm -rf "$prace/hra"
     cp -r "$staging" "$prace/hra"
     for i in $(seq -w 20); do : >"$prace/hra/data/$i.res"; done
     : >"$prace/hra/data/Vysledky.dat"
