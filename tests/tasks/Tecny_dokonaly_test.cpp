@@ -5,8 +5,6 @@
 #include "TecnyHra.h"
 #include "hrac/Relace.h"
 #include "rules/Misc.h"
-#include "rules/Ulohy.h"
-#include "screens/Desky.h"
 
 namespace rysovna::testy {
 namespace {
@@ -30,8 +28,7 @@ TEST_P(DokonaleTecny, KazdyObrazecDaDesetBodu) {
             ASSERT_TRUE(hra.dialog.Hotova()) << s;
             EXPECT_EQ(hra.P().Vyzva, "Proveď kontrolu hotové konstrukce.");
             hra.dialog.Zkontroluj();
-            ASSERT_EQ(hra.Chyby(), std::vector<int>{}) << "seed " << s << " way " << zpusob;
-            EXPECT_EQ(hra.Pamet().SoucetZapornychBodu, 0);
+            ASSERT_EQ(hra.Chyby(), "") << "seed " << s << " way " << zpusob;
         }
     }
 }
@@ -43,33 +40,28 @@ TEST_P(DokonaleTecny, ZpetVratiStavPredKrokem) {
         hra.zak.Osou = osou;
         while (!hra.dialog.Hotova()) {
             const int faze = hra.Faze();
+            SCOPED_TRACE(kod + " step " + std::to_string(faze));
             const Otisk pred(hra);
+            Panel ceka = hra.P();
             const PametovaPlocha obraz = hra.Obraz();
             hra.zak.SpravnyKrok();
             hra.dialog.Posun(20, 0);  // what is remembered goes along with the figure
             hra.dialog.Posun(-20, 0);
             const int po = hra.Faze();
             hra.Zpet();
-            Otisk ted(hra);
-            EXPECT_EQ(ted.Stav.Zpatky, true);
-            // Settled: these steps, reached by back, leave back dead.
-            const bool mrtve = (kod == "07" && faze == 4) || (kod == "09" && faze >= 5);
-            EXPECT_EQ(ted.P.Nastroje[4], (MistoNastroje{Zpet, !mrtve && faze > 1 ? Zivy : Sedy}))
-                << faze;
-            // And these have another prompt then.
-            if ((kod == "07" && faze == 4) || (kod == "09" && faze == 7)) {
-                EXPECT_EQ(ted.P.Vyzva, "Zvol další křivku, kterou budeš pokračovat.");
-                ted.P.Vyzva = pred.P.Vyzva;
-            }
-            ted.P.Nastroje[4] = pred.P.Nastroje[4];
-            EXPECT_EQ(ted.Rozdil(pred), "") << kod << " step " << faze;
-            EXPECT_TRUE(ted.P == pred.P) << kod << " step " << faze;
-            EXPECT_TRUE(hra.Obraz().StejnyObraz(obraz)) << kod << " step " << faze;
+            // Settled: these steps, reached by back, leave back dead, and have another prompt then.
+            const bool jina = (kod == "07" && faze == 4) || (kod == "09" && faze == 7);
+            const bool mrtve = jina || (kod == "09" && faze >= 5);
+            ceka.Nastroje[4] = {Zpet, !mrtve && faze > 1 ? Zivy : Sedy};
+            if (jina) ceka.Vyzva = "Zvol další křivku, kterou budeš pokračovat.";
+            EXPECT_TRUE(hra.dialog.Stav().Zpatky);
+            EXPECT_TRUE(Otisk(hra) == pred);
+            EXPECT_TRUE(hra.P() == ceka);
+            EXPECT_TRUE(hra.Obraz().StejnyObraz(obraz));
             hra.zak.SpravnyKrok();
             EXPECT_EQ(hra.Faze(), po);
         }
-        EXPECT_EQ(hra.Chyby(), std::vector<int>{});
-        if (!osou) continue;
+        EXPECT_EQ(hra.Chyby(), "");
         hra.Zpet();
         EXPECT_FALSE(hra.dialog.Hotova());
         EXPECT_TRUE(hra.P().PlochaZiva);
@@ -94,8 +86,7 @@ TEST(Tecny, OsaJdeZpetNajednouAPoZpetJeZaseVolba) {
 }
 
 TEST(Tecny, NastrojePoVolbe) {
-    TecnyHra hra("07", 2);
-    hra.zak.SpravneDo(3);
+    TecnyHra hra("07", 2, 3);
     hra.zak.Nastroj(Stred);
     const Nastroj sede[] = {Poloprimka, Stred, Rovnobezka, Kolmice};
     for (std::size_t i = 0; i < 4; ++i)
@@ -103,18 +94,15 @@ TEST(Tecny, NastrojePoVolbe) {
     EXPECT_EQ(hra.P().Rysovane.Nazev, "střed úsečky AB");
     EXPECT_EQ(hra.P().Vyzva, "Zvol kliknutím na kreslící ploše střed úsečky.");
     EXPECT_EQ(hra.dialog.Prejezd(5, 5).Text, "Střed úsečky");
-    EXPECT_EQ(hra.P().Nastroje[3].Co, Kolmice);
-}
 
-TEST(Tecny, ZavrenySeznamVratiTlacitka) {
-    TecnyHra hra("04", 2);
-    const Panel pred = hra.P();
-    hra.zak.Nastroj(Kolmice);
-    EXPECT_FALSE(hra.P().Nastroje[1].Zivy());
-    hra.Klikni({100, 100});  // not armed yet
-    EXPECT_EQ(hra.Pamet().PocetUtvaru, 2);
-    hra.dialog.ZavriSeznam();
-    EXPECT_EQ(hra.P(), pred);
+    TecnyHra seznam("04", 2);
+    const Panel otevre = seznam.P();
+    seznam.zak.Nastroj(Kolmice);
+    EXPECT_FALSE(seznam.P().Nastroje[1].Zivy());
+    seznam.Klikni({100, 100});  // not armed yet
+    EXPECT_EQ(seznam.Pamet().PocetUtvaru, 2);
+    seznam.dialog.ZavriSeznam();
+    EXPECT_EQ(seznam.P(), otevre);
 }
 
 TEST(Tecny, ZnackaJePodminkouZacatku) {
@@ -146,7 +134,7 @@ TEST(Tecny, NeznamyKodNechaDeskuPrazdnouAZpetVede) {
     EXPECT_EQ(hra.P().Uvod, "");
     for (const MistoNastroje& n : hra.P().Nastroje) EXPECT_EQ(n, MistoNastroje{});
     hra.dialog.Zkontroluj();
-    EXPECT_EQ(hra.Chyby(), std::vector<int>{300});
+    EXPECT_EQ(hra.Chyby(), "300/10");
 
     Relace okno;
     okno.PisSoubor("12.dat", ZakodujRadek("00#######") + "\r\n");
@@ -157,8 +145,7 @@ TEST(Tecny, NeznamyKodNechaDeskuPrazdnouAZpetVede) {
     EXPECT_EQ(okno.JmenoVpredu(), "SetupForm");
 }
 
-INSTANTIATE_TEST_SUITE_P(Cviceni, DokonaleTecny,
-                         testing::Values("01", "02", "03", "04", "05", "06", "07", "08", "09"));
+INSTANTIATE_TEST_SUITE_P(Cviceni, DokonaleTecny, CVICENI);
 
 }  // namespace
 }  // namespace rysovna::testy
