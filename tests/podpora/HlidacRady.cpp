@@ -9,16 +9,30 @@
 
 namespace rysovna::testy {
 
-namespace {
-
-using Co = Rada::Co;
-
 bool Zije(const Ovladac& o) {
     for (const Ovladac* p = &o; p != nullptr; p = p->Rodic) {
         if (!p->Visible || !p->Enabled) return false;
     }
-    return true;
+    return o.Width > 0 && o.Height > 0;
 }
+
+std::string Slovy(const Panel& p) {
+    std::ostringstream s;
+    for (const MistoNastroje& n : p.Nastroje)
+        s << static_cast<int>(n.Co) << "sbz"[static_cast<int>(n.Jak)] << ' ';
+    const auto& [nazev, hodnota, jednotka] = p.Rysovane;
+    s << '|' << p.Vyzva << '|' << p.Nadpis << '|' << nazev << '|' << jednotka;
+    s << '|' << hodnota.Videt << hodnota.Ziva << hodnota.Text << '|' << p.PlochaZiva;
+    for (const Velicina& r : p.Veliciny) s << '|' << r.Nazev << r.Hodnota.Text;
+    if (p.Vyber.Otevreny) {
+        for (const RadekSeznamu& r : p.Vyber.Radky) s << '|' << r.Text << r.Videt << r.Ziva;
+    }
+    return s.str();
+}
+
+namespace {
+
+using Co = Rada::Co;
 
 constexpr std::size_t ZPET = 4, SESTROJ = 5;
 
@@ -96,16 +110,7 @@ std::string CoJeVidet(const DeskaForm& d) {
     s << int{m.CisloUlohy} << '|' << static_cast<int>(d.CimRady()) << '|' << m.PocetUtvaru << '|'
       << v.NacrtVysunuty << v.Tahne << v.Podlozka << '|' << v.Odecet << '|' << v.MrtvyNastroj
       << static_cast<int>(v.Pod) << '|' << v.PodPrstenem.Jmeno << v.PodPrstenem.Oznaceny << '|'
-      << (p.Kresleni.Druh != Gesto::Tvar::Zadny) << p.PlochaZiva << p.Nesestrojen << '|';
-    for (const MistoNastroje& n : p.Nastroje)
-        s << static_cast<int>(n.Co) << "sbz"[static_cast<int>(n.Jak)] << ' ';
-    const auto& [nazev, hodnota, jednotka] = p.Rysovane;
-    s << '|' << p.Vyzva << '|' << p.Nadpis << '|' << nazev << '|' << jednotka;
-    s << '|' << hodnota.Videt << hodnota.Ziva << hodnota.Text;
-    for (const Velicina& r : p.Veliciny) s << '|' << r.Nazev << r.Hodnota.Text;
-    if (p.Vyber.Otevreny) {
-        for (const RadekSeznamu& r : p.Vyber.Radky) s << '|' << r.Text << r.Videt << r.Ziva;
-    }
+      << (p.Kresleni.Druh != Gesto::Tvar::Zadny) << p.Nesestrojen << '|' << Slovy(p);
     return s.str();
 }
 

@@ -13,16 +13,6 @@ namespace rysovna::testy {
 
 using namespace hrac;
 
-/// One charged wrong step as a test looks at it.
-struct Chyba {
-    int Cislo;
-    std::string Body;  ///< the points text at the end of its sentence
-    int Bodu;
-    friend bool operator==(const Chyba&, const Chyba&) = default;
-};
-/// The wrong steps so far.
-[[nodiscard]] std::vector<Chyba> Chyby(const Misc& misc);
-
 /// The hand of a scripted pupil at a triangle board.
 class Zak : public RukaNaDesce {
 public:

@@ -39,18 +39,14 @@ void OverFiguru(const Tabulky& t) {
     // The figure, and the one with the second solution in the place of its vertex.
     for (const std::string carka : {"", "'"}) {
         std::array<Bod, 4> v{};
-        bool jina = carka.empty();
         for (std::size_t i = 0; i < 4; ++i) {
             const std::string pismeno(1, "ABCD"[i]);
-            const auto druhy = body.find(pismeno + carka);
-            jina = jina || druhy != body.end();
-            v[i] = druhy != body.end() ? druhy->second : body.at(pismeno);
+            v[i] = body.at(body.contains(pismeno + carka) ? pismeno + carka : pismeno);
         }
-        for (std::size_t i = 0; jina && i < 4; ++i) {
-            const double kratsi =
-                std::min(Delka(v[i], v[(i + 1) % 4]), Delka(v[i], v[(i + 3) % 4]));
-            EXPECT_GE(UhelPri(v[i], v[(i + 1) % 4], v[(i + 3) % 4]),
-                      UHEL - VULE / kratsi * STUPNU_PULOTACKY / PI)
+        for (std::size_t i = 0; i < 4; ++i) {
+            const Bod pred = v[(i + 3) % 4], po = v[(i + 1) % 4];
+            const double kratsi = std::min(Delka(v[i], pred), Delka(v[i], po));
+            EXPECT_GE(UhelPri(v[i], pred, po), UHEL - VULE / kratsi * STUPNU_PULOTACKY / PI)
                 << "ABCD"[i] << carka;
         }
     }
@@ -70,7 +66,7 @@ void OverRadky(int uloha) {
     Stul<D> s(uloha);
     constexpr int LOSU = 60;
     for (int radek = 1; radek <= s.Pamet().PocetPrikladu; ++radek) {
-        SCOPED_TRACE("row " + std::to_string(radek));
+        SCOPED_TRACE(radek);
         s.Pamet().Generator.Zasej(static_cast<std::uint32_t>(radek));
         HodnotyPrikladu h{};
         int celkem = 0;
@@ -83,9 +79,8 @@ void OverRadky(int uloha) {
         EXPECT_LE(celkem, PRUMER_LOSU * LOSU) << s.Pamet().Priklady[radek].Druh;
     }
     for (std::uint32_t seminko = 1; seminko <= 60 && !testing::Test::HasFailure(); ++seminko) {
-        SCOPED_TRACE("seed " + std::to_string(seminko) + ", kind " +
-                     s.Zacni(seminko).Zaznam().Druh);
-        Zak(s, seminko).Sestroj();
+        SCOPED_TRACE(seminko);
+        Zak(s.Zacni(seminko), seminko).Sestroj();
         OverFiguru(s.Pamet());
     }
 }

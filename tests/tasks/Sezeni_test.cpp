@@ -2,11 +2,11 @@
 // one, an event of the other. Neither may see anything of the other one.
 
 #include <array>
-#include <condition_variable>
+#include <atomic>
 #include <functional>
 #include <future>
 #include <gtest/gtest.h>
-#include <mutex>
+#include <semaphore>
 #include <sstream>
 #include <string>
 
@@ -18,35 +18,17 @@ namespace rysovna::hrac {
 namespace {
 
 /// Two take turns: who has had its turn waits until the other had one, or has ended.
-class Stridani {
-public:
-    void Pockej(int kdo) {
-        std::unique_lock zamek(mutex_);
-        naRade_.wait(zamek, [&] { return rada_ == kdo || skoncil_; });
-    }
-    void Predej(int kdo) {
-        {
-            const std::lock_guard zamek(mutex_);
-            rada_ = 1 - kdo;
-            ++predani_;
-        }
-        naRade_.notify_all();
-        Pockej(kdo);
-    }
-    void Skonci() {
-        {
-            const std::lock_guard zamek(mutex_);
-            skoncil_ = true;
-        }
-        naRade_.notify_all();
-    }
-    [[nodiscard]] int Predani() const { return predani_; }
+struct Stridani {
+    std::array<std::binary_semaphore, 2> NaRade{std::binary_semaphore(1), std::binary_semaphore(0)};
+    std::atomic<bool> Skoncil = false;  ///< the one that is left goes on alone
+    std::atomic<int> Predani = 0;
 
-private:
-    std::mutex mutex_;
-    std::condition_variable naRade_;
-    int rada_ = 0, predani_ = 0;
-    bool skoncil_ = false;  ///< the one that is left goes on alone
+    void Predej(std::size_t kdo) {
+        if (Skoncil) return;
+        ++Predani;
+        NaRade[1 - kdo].release();
+        NaRade[kdo].acquire();
+    }
 };
 
 /// Plays a series and tells all that came of it: each event with its time, the plane and the tables
@@ -77,33 +59,32 @@ std::string Odehraj(int uloha, Relace::Cim cim, const std::function<void()>& poU
 
 TEST(DveSezeni, NastridacDajiTotezCoSama) {
     using Cim = Relace::Cim;
-    struct Kdo {
+    constexpr struct {
         int Uloha;
         Cim Hraje;
-    };
-    const std::array<std::array<Kdo, 2>, 3> dvojice{{{{{1, Cim::Mysi}, {1, Cim::Klavesami}}},
-                                                     {{{10, Cim::Mysi}, {18, Cim::Prstem}}},
-                                                     {{{5, Cim::Mysi}, {9, Cim::Mysi}}}}};
-    for (const auto& dva : dvojice) {
+    } DVOJICE[][2] = {{{1, Cim::Mysi}, {1, Cim::Klavesami}},
+                      {{10, Cim::Mysi}, {18, Cim::Prstem}},
+                      {{5, Cim::Mysi}, {9, Cim::Mysi}}};
+    for (const auto& dva : DVOJICE) {
         std::array<std::string, 2> sami;
         for (std::size_t i = 0; i < 2; ++i) sami[i] = Odehraj(dva[i].Uloha, dva[i].Hraje, [] {});
         Stridani stridani;
-        const auto spolu = [&](int i) {
-            const Kdo& kdo = dva[static_cast<std::size_t>(i)];
-            stridani.Pockej(i);
+        const auto spolu = [&](std::size_t i) {
+            stridani.NaRade[i].acquire();
             std::string vse;
             try {
-                vse = Odehraj(kdo.Uloha, kdo.Hraje, [&] { stridani.Predej(i); });
+                vse = Odehraj(dva[i].Uloha, dva[i].Hraje, [&] { stridani.Predej(i); });
             } catch (const std::exception& chyba) {
                 vse = chyba.what();
             }
-            stridani.Skonci();
+            stridani.Skoncil = true;
+            stridani.NaRade[1 - i].release();
             return vse;
         };
-        auto druhy = std::async(std::launch::async, spolu, 1);
+        auto druhy = std::async(std::launch::async, spolu, 1U);
         EXPECT_EQ(spolu(0), sami[0]);
         EXPECT_EQ(druhy.get(), sami[1]);
-        EXPECT_GT(stridani.Predani(), 100);
+        EXPECT_GT(stridani.Predani, 100);
     }
 }
 
