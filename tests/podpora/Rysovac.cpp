@@ -125,6 +125,15 @@ void Rysovac::Kruznice(const std::string& stred) {
         .Tahni(start, {start.X + NA_CM * (cm + (Ma('~') ? 1 : 0)), start.Y + 9});
 }
 
+DeskaForm& Rysovac::Deska() {
+    return dynamic_cast<DeskaForm&>(*Hra.Najdi("Troj1Form"));
+}
+
+bool Rysovac::JePrazdno() {
+    const Misc& m = Pamet();
+    return m.PocetUtvaru + m.PocetTrojic + m.SoucetZapornychBodu + m.PocetChybnychKroku == 0;
+}
+
 Rysovac& Rysovac::Zkontroluj() {
     Kdo.Stiskni("PicTop", 1);
     Hra.Cekej(500);

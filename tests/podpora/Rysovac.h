@@ -14,7 +14,7 @@ class Rysovac {
 public:
     /// Starts a series of the task whose file holds one line of this kind: 1 a b c, 2 alfa b c,
     /// 3 a beta c, 4 a b gama, 5 a beta gama, 6 alfa b gama, 7 alfa beta c.
-    Rysovac(int uloha, int druh, int priklady = 1);
+    explicit Rysovac(int uloha = 1, int druh = 1, int priklady = 1);
 
     /// Marks what is given (and what is named besides), slides the panel away.
     Rysovac& Zacni(std::string_view navic = {});
@@ -25,6 +25,13 @@ public:
     /// "_" types nothing.
     Rysovac& Rysuj(std::string_view kroky);
     Rysovac& Zkontroluj();
+
+    /// The triangle board, and what it shows.
+    [[nodiscard]] DeskaForm& Deska();
+    [[nodiscard]] Panel P() { return Deska().Dialogem().UkazPanel(); }
+    [[nodiscard]] Sezeni& Pamet() { return Hra.Pamet(); }
+    /// Whether the last example was given up: nothing is drawn, charged or counted.
+    [[nodiscard]] bool JePrazdno();
 
     Relace Hra;
     Zak Kdo{Hra};
