@@ -8,39 +8,40 @@
 #include <optional>
 
 #include "engine/Tabulky.h"
-#include "platform/Obrazovky.h"
 #include "podpora/Rysovac.h"
 #include "rules/Misc.h"
-#include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
-#include "screens/Desky.h"
-#include "zak/Tecny.h"
 
 namespace rysovna::testy {
 namespace {
 
 using Ohlas = Obrazovky::Ohlas;
 
-constexpr int SSS = 1;
-
-struct SDeskami {
-    SDeskami() {}
-};
-
-class DotykDesky : private SDeskami, public testing::Test {
+class DotykDesky : public testing::Test {
 protected:
     [[nodiscard]] Obrazovky& Okna() { return r.Hra.Host().Okna(); }
+    [[nodiscard]] std::uint32_t Ted() { return r.Hra.Host().TickCount(); }
     void Dotyk(Bod odkud, Bod kam) {
-        const std::uint32_t ted = r.Hra.Host().TickCount();
-        Okna().PrstDolu(odkud.X, odkud.Y, ted);
-        if (odkud != kam) Okna().PrstPohyb(kam.X, kam.Y, ted);
-        Okna().PrstNahoru(kam.X, kam.Y, ted);
+        Okna().PrstDolu(odkud.X, odkud.Y, Ted());
+        if (odkud != kam) Okna().PrstPohyb(kam.X, kam.Y, Ted());
+        Okna().PrstNahoru(kam.X, kam.Y, Ted());
     }
     void Klepni(Bod kde) { Dotyk(kde, kde); }
-    /// A place of the plane on the design area.
-    [[nodiscard]] Bod NaPlose(Bod b) {
-        const Bod roh = r.Hra.Roh(r.Hra.Prvek("Pic"));
+    /// A place of a control on the design area; its middle.
+    [[nodiscard]] Bod Na(const char* prvek, Bod b) {
+        const Bod roh = r.Hra.Roh(r.Hra.Prvek(prvek));
         return {roh.X + b.X, roh.Y + b.Y};
+    }
+    [[nodiscard]] Bod NaPlose(Bod b) { return Na("Pic", b); }
+    [[nodiscard]] static Bod Stred(const Ovladac& o) {
+        return {o.Left + o.Width / 2, o.Top + o.Height / 2};
+    }
+    /// The first element of the sketch.
+    [[nodiscard]] Bod Znacka() {
+        return Na("SamplePic", MistaPrvku(r.Deska().Dialogem().NacrtPrikladu())[0]);
+    }
+    [[nodiscard]] bool Zacato() {
+        return std::ranges::any_of(r.P().Nastroje, &MistoNastroje::Zivy);
     }
     [[nodiscard]] std::optional<Bod> Ohlasu(Ohlas::Druh co) {
         for (const Ohlas& o : Okna().OhlasyVpredu()) {
@@ -49,51 +50,47 @@ protected:
         return std::nullopt;
     }
     /// A side is in hand: its length is typed.
-    void PripravStranu() {
-        r.Zacni();
-        r.Kdo.Nastroj(1).Vyber("AB").Napis("12");
-    }
+    void PripravStranu() { r.Zacni().Kdo.Nastroj(1).Vyber("AB").Napis("12"); }
 
-    Rysovac r{SSS, 1};
+    Rysovac r;
 };
 
 TEST_F(DotykDesky, ZvednutyTahDokonciJenHotovo) {
     PripravStranu();
-    const Bod od = NaPlose({100, 250});
-    const Bod kam = NaPlose({190, 250});
+    const Bod od = NaPlose({100, 250}), kam = NaPlose({190, 250});
     // A finger that rests there and shakes when it is lifted.
-    Okna().PrstDolu(od.X, od.Y, r.Hra.Host().TickCount());
-    Okna().PrstPohyb(kam.X, kam.Y, r.Hra.Host().TickCount());
+    Okna().PrstDolu(od.X, od.Y, Ted());
+    Okna().PrstPohyb(kam.X, kam.Y, Ted());
     r.Hra.Cekej(300);
     EXPECT_NE(r.Hra.Prvek<Label>("lblRada", 1).Caption.find("zvedni prst"), std::string::npos);
-    Okna().PrstPohyb(kam.X + 1, kam.Y - 2, r.Hra.Host().TickCount());
-    Okna().PrstNahoru(kam.X + 2, kam.Y - 2, r.Hra.Host().TickCount());
-    ASSERT_EQ(Ohlasu(Ohlas::Druh::Konec), kam);
-    const Bod pad = Ohlasu(Ohlas::Druh::Podlozka).value();
-    EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 0);
+    Okna().PrstPohyb(kam.X + 1, kam.Y - 2, Ted());
+    Okna().PrstNahoru(kam.X + 2, kam.Y - 2, Ted());
+    const auto drzi = [&] {
+        EXPECT_EQ(Ohlasu(Ohlas::Druh::Konec), kam);
+        EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
+    };
+    drzi();
+    EXPECT_EQ(r.Pamet().PocetUtvaru, 0);
 
     // Whatever else is tapped, clicked or typed, nothing comes of it.
-    for (const char* jmeno : {"cmd", "PicTop", "INadpis", "MalaSipka", "picSipka"}) {
-        const Form& deska = *r.Hra.Vpredu();
-        for (const Ovladac* o : deska.Ovladace()) {
+    for (const Ovladac* o : r.Deska().Ovladace()) {
+        for (const char* jmeno : {"cmd", "PicTop", "INadpis", "MalaSipka", "picSipka"}) {
             if (o->Name != jmeno) continue;
-            const Bod stred{o->Left + o->Width / 2, o->Top + o->Height / 2};
-            Klepni(stred);
-            r.Hra.StiskniMisto(stred.X, stred.Y);
+            Klepni(Stred(*o));
+            r.Hra.StiskniMisto(Stred(*o).X, Stred(*o).Y);
         }
     }
-    for (const char* klavesa : {"Escape", "F1", "Tab", "Space", "Return", "Left", "5"}) {
-        r.Hra.Klavesa(klavesa);
-        EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form") << klavesa;
-        EXPECT_EQ(Ohlasu(Ohlas::Druh::Konec), kam) << klavesa;
+    for (const char* klavesa : {"Escape", "F1", "Tab", "Space", "Return", "Left", "5", "'7"}) {
+        SCOPED_TRACE(klavesa);
+        Proved(r.Hra, klavesa);
+        drzi();
     }
-    r.Hra.Napis("7");
+    const Bod pad = Ohlasu(Ohlas::Druh::Podlozka).value();
     Klepni({pad.X + 5, pad.Y + 5});  // an empty corner of the pad
     r.Hra.Cekej(300);
-    EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
+    drzi();
     EXPECT_EQ(r.Hra.Prvek<TextBox>("txtVstup").Text, "12");
-    EXPECT_EQ(Ohlasu(Ohlas::Druh::Konec), kam);
-    EXPECT_EQ(r.Hra.Pamet().KladneBody + r.Hra.Pamet().ZaporneBody, 0);
+    EXPECT_EQ(r.Pamet().KladneBody + r.Pamet().ZaporneBody, 0);
 
     // A tap on the plane moves the end, an arrow by a pixel, the mouse does the same; "hotovo".
     const Bod jinam = NaPlose({194, 250});
@@ -107,9 +104,10 @@ TEST_F(DotykDesky, ZvednutyTahDokonciJenHotovo) {
     EXPECT_EQ(r.Hra.Prvek<Label>("Text").Caption, "12 cm");
     Klepni(stred);
     r.Hra.Cekej(50);
-    ASSERT_EQ(r.Hra.Pamet().PocetUtvaru, 1);
-    EXPECT_EQ((Bod{r.Hra.Pamet().Utvary[1].X1, r.Hra.Pamet().Utvary[1].Y1}), (Bod{100, 250}));
-    EXPECT_EQ((Bod{r.Hra.Pamet().Utvary[1].X2, r.Hra.Pamet().Utvary[1].Y2}), (Bod{196, 250}));
+    ASSERT_EQ(r.Pamet().PocetUtvaru, 1);
+    const Utvar& u = r.Pamet().Utvary[1];
+    EXPECT_EQ((Bod{u.X1, u.Y1}), (Bod{100, 250}));
+    EXPECT_EQ((Bod{u.X2, u.Y2}), (Bod{196, 250}));
     EXPECT_EQ(Ohlasu(Ohlas::Druh::Podlozka), std::nullopt);
     r.Hra.StiskniMisto(stred.X, stred.Y);
     EXPECT_EQ(r.Hra.JmenoVpredu(), "Troj1Form");
@@ -117,19 +115,12 @@ TEST_F(DotykDesky, ZvednutyTahDokonciJenHotovo) {
 
 /// A finger whose lifting got lost, and a mouse whose release did, take nothing from the next one.
 TEST_F(DotykDesky, ZtraceneZvednutiNevadi) {
-    const auto& deska = dynamic_cast<const DeskaForm&>(*r.Hra.Vpredu());
-    const Bod roh = r.Hra.Roh(r.Hra.Prvek("SamplePic"));
     for (const bool mysi : {false, true}) {
-        if (mysi) {
-            Okna().MysDolu(20, 20, 1, 0);
-        } else {
-            Okna().PrstDolu(20, 20, r.Hra.Host().TickCount());
-        }
+        mysi ? Okna().MysDolu(20, 20, 1, 0) : Okna().PrstDolu(20, 20, Ted());
         r.Hra.Cekej(700);
-        const auto predtim = deska.Dialogem().UkazPanel().Nastroje[0].Zivy();
-        const Bod zona = MistaPrvku(deska.Dialogem().NacrtPrikladu())[0];
-        Klepni({roh.X + zona.X, roh.Y + zona.Y});
-        EXPECT_NE(deska.Dialogem().UkazPanel().Nastroje[0].Zivy(), predtim) << mysi;
+        const bool predtim = Zacato();
+        Klepni(Znacka());
+        EXPECT_NE(Zacato(), predtim) << mysi;
     }
 }
 
@@ -139,18 +130,18 @@ TEST_F(DotykDesky, ZpravaNadZvednutymTahemSeDaOdklepnout) {
     Dotyk(NaPlose({100, 250}), NaPlose({190, 250}));
     const auto konec = Ohlasu(Ohlas::Druh::Konec);
     ASSERT_TRUE(konec);
-    r.Hra.Host().SkutecneZpravy = true;
+    HeadlessHost& host = r.Hra.Host();
+    host.SkutecneZpravy = true;
     bool byla = false;
-    r.Hra.Host().NaplanujZa(50, [&] {
+    host.NaplanujZa(50, [&] {
         const auto zprava = Okna().Vpredu();
         byla = Okna().JeModalni();
         EXPECT_EQ(Okna().OhlasyVpredu().size(), 0U);
         for (const Ovladac* o : zprava->Ovladace()) {
             if (o->Zastavka == 0) continue;
-            Klepni({zprava->Left + o->Left + o->Width / 2, zprava->Top + o->Top + o->Height / 2});
+            Klepni({zprava->Left + Stred(*o).X, zprava->Top + Stred(*o).Y});
         }
     });
-    HeadlessHost& host = r.Hra.Host();
     host.Proved(host.MsgBox("Zpráva", "Titul", Styl::Ok));
     EXPECT_TRUE(byla);
     EXPECT_FALSE(Okna().JeModalni());
@@ -158,26 +149,17 @@ TEST_F(DotykDesky, ZpravaNadZvednutymTahemSeDaOdklepnout) {
 }
 
 TEST_F(DotykDesky, KlepnutiVedleZonySePocitaJenJednoznacne) {
-    const Bod roh = r.Hra.Roh(r.Hra.Prvek("SamplePic"));
-    const auto* deska = dynamic_cast<const DeskaForm*>(r.Hra.Vpredu());
-    const auto prvek = [&](Bod b) {
-        return deska->Dialogem().PrvekNacrtu(static_cast<float>(b.X), static_cast<float>(b.Y));
-    };
-    const auto znacek = [&] {
-        const Panel p = deska->Dialogem().UkazPanel();
-        return std::ranges::any_of(p.Nastroje, &MistoNastroje::Zivy);
-    };
     // Below the lowest side of the sketch there is nothing else.
     Bod dole{144, 176};
-    while (prvek(dole) < 0) --dole.Y;
+    while (r.Deska().Dialogem().PrvekNacrtu(144, static_cast<float>(dole.Y)) < 0) --dole.Y;
     for (const auto& [vedle, ma] : {std::pair{DOSAH_PRSTU + 1, false}, {DOSAH_PRSTU, true}}) {
-        Klepni({roh.X + dole.X, roh.Y + dole.Y + vedle});
-        EXPECT_EQ(znacek(), ma) << vedle;
+        Klepni(Na("SamplePic", {dole.X, dole.Y + vedle}));
+        EXPECT_EQ(Zacato(), ma) << vedle;
         r.Hra.Cekej(600);  // the next tap is none of a double one
     }
     // The mouse is as exact as ever.
-    r.Hra.StiskniMisto(roh.X + dole.X, roh.Y + dole.Y + 1);
-    EXPECT_TRUE(znacek());
+    r.Hra.Stiskni("SamplePic", 0, dole.X, dole.Y + 1);
+    EXPECT_TRUE(Zacato());
 
     const auto dveMista = [](Bod b) -> CilPrstu {
         static const Label cil;
@@ -193,16 +175,16 @@ TEST_F(DotykDesky, OvladacNaKrajiSahaDalJenVenku) {
     const Bod vedle{sipka.Left + 3, sipka.Top + sipka.Height + DOSAH_PRSTU - 1};
     const Bod uvnitr{sipka.Left + 3, sipka.Top - 2};
     ASSERT_GE(uvnitr.X, 226);
-    r.Zacni();
-    r.Rysuj("AB");
-    const int pred = r.Hra.Pamet().Utvary[1].X1;
+    r.Zacni().Rysuj("AB");
+    const int& x = r.Pamet().Utvary[1].X1;
+    const int pred = x;
     Klepni(vedle);
-    EXPECT_EQ(r.Hra.Pamet().Utvary[1].X1, pred + 20);
+    EXPECT_EQ(x, pred + 20);
     r.Hra.StiskniMisto(vedle.X, vedle.Y);
-    EXPECT_EQ(r.Hra.Pamet().Utvary[1].X1, pred + 20) << "the mouse is no finger";
+    EXPECT_EQ(x, pred + 20) << "the mouse is no finger";
     r.Kdo.Nastroj(4).Vyber("kružnice k, střed v bodě A");
     Klepni(uvnitr);
-    EXPECT_EQ(r.Hra.Pamet().Utvary[1].X1, pred + 20) << "in an armed plane a tap draws";
+    EXPECT_EQ(x, pred + 20) << "in an armed plane a tap draws";
     EXPECT_TRUE(Ohlasu(Ohlas::Druh::Konec));
 }
 
@@ -211,22 +193,17 @@ TEST_F(DotykDesky, KurzorARamyOdpovidajiTomuCoZije) {
         r.Hra.NajedNaMisto(b.X, b.Y);
         return Okna().KurzorMysi();
     };
-    const Bod nastroj{60, 295};
-    const Bod plocha = NaPlose({40, 250});
+    const Bod nastroj{60, 295}, plocha = NaPlose({40, 250});
     EXPECT_EQ(nad(nastroj), Kurzor::Sipka);
     EXPECT_EQ(Ohlasu(Ohlas::Druh::Najeto), std::nullopt);
     EXPECT_EQ(nad(plocha), Kurzor::Sipka);
     EXPECT_EQ(nad({300, 40}), Kurzor::Ruka);
-    const Bod roh = r.Hra.Roh(r.Hra.Prvek("SamplePic"));
-    const Bod zona =
-        MistaPrvku(dynamic_cast<const DeskaForm&>(*r.Hra.Vpredu()).Dialogem().NacrtPrikladu())[0];
-    EXPECT_EQ(nad({roh.X + zona.X, roh.Y + zona.Y}), Kurzor::Ruka);
-    EXPECT_EQ(nad({roh.X + 2, roh.Y + 2}), Kurzor::Sipka);
+    EXPECT_EQ(nad(Znacka()), Kurzor::Ruka);
+    EXPECT_EQ(nad(Na("SamplePic", {2, 2})), Kurzor::Sipka);
     r.Zacni();
     EXPECT_EQ(nad(nastroj), Kurzor::Ruka);
     EXPECT_TRUE(Ohlasu(Ohlas::Druh::Najeto));
-    Okna().MysDolu(nastroj.X, nastroj.Y, 1, 0);
-    Okna().MysNahoru(nastroj.X, nastroj.Y, 1, 0);
+    r.Hra.StiskniMisto(nastroj.X, nastroj.Y);
     EXPECT_EQ(nad({nastroj.X + 10, nastroj.Y + 12}), Kurzor::Ruka);
     const Bod radek = r.Hra.Roh(r.Hra.Prvek("ComboLabel", 1));
     EXPECT_EQ(Ohlasu(Ohlas::Druh::Najeto), std::optional(Bod{radek.X - 2, radek.Y}));
@@ -234,29 +211,25 @@ TEST_F(DotykDesky, KurzorARamyOdpovidajiTomuCoZije) {
     EXPECT_EQ(nad(plocha), Kurzor::Kriz);
     EXPECT_EQ(nad({110, 380}), Kurzor::Text);
     EXPECT_EQ(nad(nastroj), Kurzor::Sipka);
-    EXPECT_EQ(r.Hra.NoveZvuky().back(), "click.wav");
 }
 
 /// The ring is where the press would begin, and in no bitmap.
 TEST_F(DotykDesky, PrstenJeNaBoduKteryByStiskChytil) {
-    r.Zacni();
-    r.Rysuj("AB");
-    r.Kdo.Nastroj(4).Vyber("kružnice k, střed v bodě A").Napis("10");
-    const std::uint64_t verze = r.Hra.Prvek<PictureBox>("Pic").Plocha().Verze();
-    const Bod b{r.Druhy};
+    r.Zacni().Rysuj("AB").Kdo.Nastroj(4).Vyber("kružnice k, střed v bodě A").Napis("10");
+    const auto verze = [&] { return r.Hra.Prvek<PictureBox>("Pic").Plocha().Verze(); };
+    const std::uint64_t pred = verze();
+    const Bod b{r.Druhy}, kde = NaPlose({b.X + 5, b.Y});
     for (const auto& [vedle, je] : {std::pair{7, true}, {8, false}}) {
-        const Bod kde = NaPlose({b.X + vedle, b.Y - vedle});
-        r.Hra.NajedNaMisto(kde.X, kde.Y);
+        const Bod tam = NaPlose({b.X + vedle, b.Y - vedle});
+        r.Hra.NajedNaMisto(tam.X, tam.Y);
         EXPECT_EQ(Ohlasu(Ohlas::Druh::Zachytne), je ? std::optional(NaPlose(b)) : std::nullopt)
             << vedle;
     }
-    const Bod kde = NaPlose({b.X + 5, b.Y});
     r.Hra.NajedNaMisto(kde.X, kde.Y);
-    EXPECT_EQ(r.Hra.Prvek<PictureBox>("Pic").Plocha().Verze(), verze);
+    EXPECT_EQ(verze(), pred);
     Okna().MysDolu(kde.X, kde.Y, 1, 0);
     Okna().MysPohyb(kde.X + 40, kde.Y, 1, 0);
-    const Ovladac& kruh = r.Hra.Prvek("Circle1");
-    EXPECT_EQ((Bod{kruh.Left + kruh.Width / 2, kruh.Top + kruh.Height / 2}), b);
+    EXPECT_EQ(Stred(r.Hra.Prvek("Circle1")), b);
     EXPECT_EQ(Ohlasu(Ohlas::Druh::Zachytne), std::nullopt);
 }
 
