@@ -3,7 +3,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <random>
 #include <tuple>
 
 #include "engine/PametovaPlocha.h"
@@ -13,6 +12,7 @@
 #include "rules/Prichytavani.h"
 #include "rules/Tahy.h"
 #include "rules/Uzavreni.h"
+#include "zak/Los.h"
 
 namespace rysovna::testy {
 namespace {
@@ -72,37 +72,30 @@ TEST(Prichytavani, PosledniTrojiceVyhravaUKruzniceBlizsi) {
 TEST(Odecty, DelkaUhelAVzdalenost) {
     EXPECT_EQ(OdectiDelku(35.9), "4 cm");  // cut to 4.4, not rounded to 4.5
     EXPECT_EQ(OdectiDelku(36), "5 cm");    // a half goes up
-    EXPECT_EQ(CisloZOdectu("12 cm"), 12);
-    EXPECT_EQ(CisloZOdectu("135°"), 135);
-    EXPECT_EQ(CisloZOdectu("-3 cm"), -3);
-
+    for (const auto& [text, cislo] : {std::pair{"12 cm", 12}, {"135°", 135}, {"-3 cm", -3}})
+        EXPECT_EQ(CisloZOdectu(text), cislo);
     const Bod A{100, 100}, B{200, 100};
-    EXPECT_EQ(OdectiUhel(A, B, A, {150, 50}), "45°");
-    EXPECT_EQ(OdectiUhel(A, B, A, {100, 180}), "90°");
-    EXPECT_EQ(OdectiUhel(A, B, A, {50, 150}), "135°");
-    EXPECT_EQ(OdectiUhel(A, B, A, {20, 100}), "180°");
+    for (const auto& [kam, uhel] : {std::pair{Bod{150, 50}, "45°"},
+                                    {{100, 180}, "90°"},
+                                    {{50, 150}, "135°"},
+                                    {{20, 100}, "180°"}})
+        EXPECT_EQ(OdectiUhel(A, B, A, kam), uhel);
     // Level with the base counts as plus; below it is minus, and the sign is judged.
-    const Utvar zakladna = Primy(USECKA, A, B);
-    EXPECT_EQ(OdectiVzdalenost(zakladna, {150, 100}, {160, 60}), "5 cm");
-    EXPECT_EQ(OdectiVzdalenost(zakladna, {150, 100}, {20, 100}), "0 cm");
-    EXPECT_EQ(OdectiVzdalenost(zakladna, {150, 100}, {160, 140}), "-5 cm");
+    for (const auto& [kam, cm] :
+         {std::pair{Bod{160, 60}, "5 cm"}, {{20, 100}, "0 cm"}, {{160, 140}, "-5 cm"}})
+        EXPECT_EQ(OdectiVzdalenost(Primy(USECKA, A, B), {150, 100}, kam), cm);
 }
 
-/// Random whole numbers, the same each run.
-class Los {
-public:
-    int operator()(int n) { return static_cast<int>(nahoda_() % static_cast<unsigned>(n)); }
-    Bod BodPlochy() { return {(*this)(SIRKA_PLOCHY), (*this)(VYSKA_PLOCHY)}; }
-
-private:
-    std::mt19937 nahoda_{2026};
-};
+Bod Nekde(hrac::Los& los) {
+    const int x = los.Cislo(SIRKA_PLOCHY);
+    return {x, los.Cislo(VYSKA_PLOCHY)};
+}
 
 TEST(Tahy, KolmiceJePresneKolmaARovnobezkaPresneRovnobezna) {
-    Los los;
+    hrac::Los los(2026);
     for (int i = 0; i < 2000; ++i) {
-        const Bod p1 = los.BodPlochy(), stisk = los.BodPlochy(), kam = los.BodPlochy();
-        Bod p2 = los.BodPlochy();
+        const Bod p1 = Nekde(los), stisk = Nekde(los), kam = Nekde(los);
+        Bod p2 = Nekde(los);
         if (i % 5 == 0) p2.X = p1.X;
         if (i % 7 == 0) p2.Y = p1.Y;
         if (p1 == p2) continue;
@@ -139,14 +132,14 @@ Utvar PaprsekPres(Bod od, Bod pres) {
 TEST(Uzavreni, SpravnaDvojiceUtvaruSeVzdyUzavreVeSpravnemVrcholu) {
     const PametovaPlocha plocha(SIRKA_PLOCHY, VYSKA_PLOCHY);
     constexpr double TOLERANCE = 3;  // px
-    Los los;
+    hrac::Los los(2026);
     for (const std::string jmena : {"AB", "AC", "BC"}) {
         for (int i = 0, hranych = 0; hranych < 400; ++i) {
-            const Bod od = los.BodPlochy(), kam = los.BodPlochy();
-            Bod vrchol{30 + los(324), 30 + los(280)};
+            const Bod od = Nekde(los), kam = Nekde(los);
+            Bod vrchol{30 + los.Cislo(324), 30 + los.Cislo(280)};
             // Every fourth ray stands nearly upright or level.
-            if (i % 8 == 3) vrchol.X = od.X + los(3) - 1;
-            if (i % 8 == 7) vrchol.Y = od.Y + los(3) - 1;
+            if (i % 8 == 3) vrchol.X = od.X + los.Mezi(-1, 1);
+            if (i % 8 == 7) vrchol.Y = od.Y + los.Mezi(-1, 1);
             const auto daleko = [vrchol](Bod b) {
                 return std::hypot(vrchol.X - b.X, vrchol.Y - b.Y);
             };

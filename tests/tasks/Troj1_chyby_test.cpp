@@ -13,24 +13,21 @@
 namespace rysovna::testy {
 namespace {
 
-constexpr int SSS = 1, SUS = 2, USU = 3;
-
 const DialogTrojuhelniku& Dialogem(Rysovac& r) {
-    return dynamic_cast<const DialogTrojuhelniku&>(
-        dynamic_cast<const DeskaForm&>(*r.Hra.Vpredu()).Dialogem());
+    return dynamic_cast<const DialogTrojuhelniku&>(r.Deska().Dialogem());
 }
 
 /// The task of a kind of example.
 int Uloha(int druh) {
-    return druh == 1 ? SSS : druh <= 4 ? SUS : USU;
+    return druh == 1 ? 1 : druh <= 4 ? 2 : 3;
 }
 
 /// What was charged from one wrong step on, "7/1 19/3": numbers and points; a text that does not
 /// tell the points shows.
 std::string Uctovano(Rysovac& r, int od = 1) {
     std::string vse;
-    for (int i = od; i <= r.Hra.Pamet().PocetChybnychKroku; ++i) {
-        const ChybnyKrok& k = r.Hra.Pamet().ChybneKroky[i];
+    for (int i = od; i <= r.Pamet().PocetChybnychKroku; ++i) {
+        const ChybnyKrok& k = r.Pamet().ChybneKroky[i];
         vse += (i == od ? "" : " ") + k.Cislo + "/" + std::to_string(k.Body);
         const char* const SLOVY[] = {"", "  -1 bod", "  -2 body", "  -3 body"};
         if (k.Body <= 3 && !k.Text.ends_with(SLOVY[k.Body])) vse += "'" + k.Text + "'";
@@ -93,14 +90,14 @@ TEST(Trojuhelniky, KazdyChybnyKrokStojiPresneToCoMa) {
 }
 
 TEST(Trojuhelniky, PraveTlacitkoAniStiskBezKrokuNicNestoji) {
-    Rysovac r(SSS, 1);
+    Rysovac r;
     r.Zacni().Rysuj("AB").Kdo.Nastroj(2).Vyber("k úsečce AB");
     r.Hra.Host().Okna().MysDolu(400, 300, 2, 0);
     r.Hra.Host().Okna().MysNahoru(450, 250, 2, 0);
-    EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 1);
-    EXPECT_EQ(r.Hra.Pamet().SoucetZapornychBodu, 0);
+    EXPECT_EQ(r.Pamet().PocetUtvaru, 1);
+    EXPECT_EQ(r.Pamet().SoucetZapornychBodu, 0);
     for (int i = 0; i < 2; ++i) r.Kdo.Tahni({140, 190}, {140, 100});  // the second is not armed
-    EXPECT_EQ(r.Hra.Pamet().PocetUtvaru, 2);
+    EXPECT_EQ(r.Pamet().PocetUtvaru, 2);
     EXPECT_EQ(Uctovano(r), "19/3");
 }
 
@@ -108,13 +105,13 @@ TEST(Trojuhelniky, PraveTlacitkoAniStiskBezKrokuNicNestoji) {
 
 /// Objects and snap records of the construction, "3 4".
 std::string Pocty(Rysovac& r) {
-    const Misc& m = r.Hra.Pamet();
+    const Misc& m = r.Pamet();
     return std::to_string(m.PocetUtvaru) + " " + std::to_string(m.PocetTrojic);
 }
 
 /// What is shown, less what the closed list held.
 Panel BezSeznamu(Rysovac& r) {
-    Panel p = Dialogem(r).UkazPanel();
+    Panel p = r.P();
     p.Vyber = {};
     return p;
 }
@@ -126,7 +123,7 @@ TEST(Trojuhelniky, VraciFaziZaFaziABodyNevraci) {
         const Panel faze1 = BezSeznamu(r.Zacni());
         r.Rysuj("vse");
         EXPECT_EQ(Pocty(r), "3 4");
-        r.Hra.Pamet().SoucetZapornychBodu = 4;
+        r.Pamet().SoucetZapornychBodu = 4;
 
         r.Rysuj("zpet");
         EXPECT_FALSE(Dialogem(r).Hotova());
@@ -142,7 +139,7 @@ TEST(Trojuhelniky, VraciFaziZaFaziABodyNevraci) {
         r.Rysuj("zpet");
         EXPECT_EQ(Pocty(r), "0 0");
         EXPECT_EQ(BezSeznamu(r), faze1);
-        EXPECT_EQ(r.Hra.Pamet().SoucetZapornychBodu, 4);
+        EXPECT_EQ(r.Pamet().SoucetZapornychBodu, 4);
 
         // The same construction again, as if nothing had been.
         r.Rysuj("vse");
@@ -152,7 +149,7 @@ TEST(Trojuhelniky, VraciFaziZaFaziABodyNevraci) {
 }
 
 TEST(Trojuhelniky, DokudSeCekaNaKresleniNenizadneTlacitkoZive) {
-    Rysovac r(SSS, 1);
+    Rysovac r;
     r.Zacni().Rysuj("AB").Kdo.Nastroj(4).Vyber("kružnice k, střed v bodě B");
     for (int i = 1; i <= 5; ++i) EXPECT_FALSE(r.Hra.Prvek("cmd", i).Enabled) << i;
     EXPECT_TRUE(r.Hra.Prvek("txtVstup").Visible);
@@ -160,7 +157,7 @@ TEST(Trojuhelniky, DokudSeCekaNaKresleniNenizadneTlacitkoZive) {
 }
 
 TEST(Trojuhelniky, NeuzavrenaTrojiceSeVraciTake) {
-    Rysovac r(SSS, 1);
+    Rysovac r;
     r.Zacni().Rysuj("AB rovnobezka rovnobezka");  // two parallels never meet
     EXPECT_FALSE(Dialogem(r).Hotova());
     r.Kdo.Stiskni("cmd", 1).Stiskni("cmd", 4);  // a full construction takes nothing more
@@ -197,9 +194,9 @@ constexpr PripadKontroly KONTROLY[] = {
 TEST(Trojuhelniky, SoucetVerdiktABodyPodlePripadu) {
     for (const PripadKontroly& p : KONTROLY) {
         SCOPED_TRACE(p.Kroky);
-        Rysovac r(SSS, 1);
+        Rysovac r;
         r.Zacni(p.NavicZnacka).Rysuj(p.Kroky);
-        const Misc& m = r.Hra.Pamet();
+        const Misc& m = r.Pamet();
         const int predtim = m.PocetChybnychKroku;
         r.Zkontroluj();
         EXPECT_EQ(Uctovano(r, predtim + 1), p.Kontrola);
@@ -218,11 +215,11 @@ TEST(Trojuhelniky, SoucetVerdiktABodyPodlePripadu) {
 }
 
 TEST(Trojuhelniky, SeznamChybUkazeDesetANejdelDokudSeDrzi) {
-    Rysovac r(SSS, 1);
+    Rysovac r;
     r.Zacni().Rysuj("AB");
     for (int i = 0; i < 11; ++i) r.Rysuj("kolmice zpet");
     r.Rysuj("kA kB").Zkontroluj();
-    ASSERT_EQ(r.Hra.Pamet().PocetChybnychKroku, 11);
+    ASSERT_EQ(r.Pamet().PocetChybnychKroku, 11);
     r.Hra.Zmackni("ImgHodnoceni", 0, {5, 5});
     ASSERT_EQ(r.Hra.JmenoVpredu(), "ChybovyForm");
     std::string ceka = "Během konstrukce byly provedeny tyto chybné kroky:\n\n";
@@ -252,7 +249,7 @@ TEST(Trojuhelniky, PosunutyVrcholZustavaVrcholemAZpetHoPusti) {
         SCOPED_TRACE(druh);
         Rysovac r(Uloha(druh), druh);
         r.Zacni().Rysuj("vse");
-        const Misc& m = r.Hra.Pamet();
+        const Misc& m = r.Pamet();
         const StavTrojuhelniku& stav = Dialogem(r).Stav();
         ASSERT_NE(stav.Vrchol, BEZ_BODU);
         const Bod posunuty{stav.Vrchol.X + 60, stav.Vrchol.Y - 20};
@@ -272,9 +269,9 @@ TEST(Trojuhelniky, PosunutyVrcholZustavaVrcholemAZpetHoPusti) {
 }
 
 TEST(Trojuhelniky, SedmyStiskJesteOsmyUzNe) {
-    Rysovac r(SSS, 1);
+    Rysovac r;
     r.Zacni();
-    const Misc& m = r.Hra.Pamet();
+    const Misc& m = r.Pamet();
     for (int i = 1; i <= 4; ++i) {
         const int& posun = i <= 2 ? m.PosunX : m.PosunY;
         while (posun != 0) r.Kdo.Stiskni("picSipka", i);
