@@ -10,7 +10,6 @@
 #include "engine/Tabulky.h"
 #include "podpora/Rysovac.h"
 #include "rules/Misc.h"
-#include "screens/DeskaForm.h"
 
 namespace rysovna::testy {
 namespace {

@@ -10,8 +10,6 @@
 #include <string>
 
 #include "podpora/Prostredi.h"
-#include "rules/Ulohy.h"
-#include "screens/Desky.h"
 
 namespace rysovna::testy {
 namespace {

@@ -51,14 +51,10 @@ constexpr std::string_view HRACI[] = {"Tab", "Tab",  "Space", "Space",  "Return"
                                       "Up",  "Down", "a",     "b",      "c",      "s",    "1",
                                       "2",   "3",    "6",     "Escape", "F1"};
 
-bool JeZivy(const Ovladac& prvek) {
-    using Typ = Ovladac::Typ;
-    constexpr Typ TISKNOU_SE[] = {Typ::PictureBox, Typ::Image, Typ::Label, Typ::TextBox};
-    for (const Ovladac* o = &prvek; o != nullptr; o = o->Rodic) {
-        if (!o->Visible || !o->Enabled) return false;
-    }
-    return std::ranges::find(TISKNOU_SE, prvek.Druh) != std::end(TISKNOU_SE) && prvek.Width > 0 &&
-           prvek.Height > 0;
+bool JeZivy(const Ovladac& o) {
+    using enum Ovladac::Typ;
+    constexpr Ovladac::Typ TISKNOU_SE[] = {PictureBox, Image, Label, TextBox};
+    return Zije(o) && std::ranges::find(TISKNOU_SE, o.Druh) != std::end(TISKNOU_SE);
 }
 
 /// Whether the board in front has a closed figure that is not checked yet: the plane is off.

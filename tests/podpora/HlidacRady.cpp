@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <sstream>
 
-#include "engine/Tabulky.h"
 #include "rules/Misc.h"
 #include "screens/RadaCesky.h"
 

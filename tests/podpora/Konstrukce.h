@@ -25,24 +25,12 @@ inline int NovyUtvar(Tabulky& t, std::string_view jmeno1, std::string_view jmeno
 /// A finished triangle by two circles: six objects.
 inline void NakresliTrojuhelnik(Tabulky& t, Plane& plane) {
     const Bod A{120, 250}, B{240, 250}, C{187, 170};
-    KresliUsecku(t, plane, NovyUtvar(t, "A", "B"),
-                 {.Druh = USECKA,
-                  .P1 = A,
-                  .P2 = B,
-                  .Popis1 = "A",
-                  .Popis2 = "B",
-                  .Delka = 15,
-                  .Znacky = ANO},
-                 ANO);
-    KresliKruznici(t, plane, NovyUtvar(t, "A", ""), {.Druh = KRUZNICE, .P1 = A, .P2 = {224, 250}},
-                   ANO);
-    KresliKruznici(t, plane, NovyUtvar(t, "B", ""), {.Druh = KRUZNICE, .P1 = B, .P2 = {144, 250}},
-                   ANO);
-    KresliBod(t, plane, NovyUtvar(t, "C", ""), {.Druh = BOD, .P1 = C, .Popis1 = "C"}, ANO);
-    KresliUsecku(t, plane, NovyUtvar(t, "A", "C"), {.Druh = USECKA, .P1 = A, .P2 = C, .Delka = 13},
-                 ANO);
-    KresliUsecku(t, plane, NovyUtvar(t, "B", "C"), {.Druh = USECKA, .P1 = B, .P2 = C, .Delka = 12},
-                 ANO);
+    KresliUsecku(t, plane, NovyUtvar(t, "A", "B"), {USECKA, A, B, "A", "B", 15, "", ANO}, ANO);
+    KresliKruznici(t, plane, NovyUtvar(t, "A", ""), {KRUZNICE, A, {224, 250}}, ANO);
+    KresliKruznici(t, plane, NovyUtvar(t, "B", ""), {KRUZNICE, B, {144, 250}}, ANO);
+    KresliBod(t, plane, NovyUtvar(t, "C", ""), {BOD, C, {}, "C"}, ANO);
+    KresliUsecku(t, plane, NovyUtvar(t, "A", "C"), {USECKA, A, C, "", "", 13}, ANO);
+    KresliUsecku(t, plane, NovyUtvar(t, "B", "C"), {USECKA, B, C, "", "", 12}, ANO);
 }
 
 /// So many objects of all seven kinds at random, the same for the same seed.

@@ -4,7 +4,6 @@
 #include <cctype>
 #include <sstream>
 
-#include "engine/Tabulky.h"
 #include "store/Kodovani.h"
 
 namespace rysovna::testy {

@@ -2,9 +2,7 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "hrac/Relace.h"
 #include "hrac/RukaNaDesce.h"
 #include "zak/Ruka.h"
 #include "zak/Trojuhelnik.h"

@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,95 +23,70 @@
 namespace rysovna::testy {
 namespace {
 
+/// At the beginning of an example.
 template <class D>
-std::unique_ptr<Dialog> Vyrob(Misc& misc, Platna platna) {
-    return std::make_unique<D>(misc, platna);
-}
-
-/// A task, how its dialogue is made, and a line of its data.
-struct Priprava {
-    int Uloha;
-    std::unique_ptr<Dialog> (*VyrobDialog)(Misc&, Platna);
-    std::string_view Radek;
-};
-constexpr Priprava DESKY[] = {
-    {1, Vyrob<Troj1Dialog>, "1#sss, od strany c#a#b#c#cm#cm#cm#usecka#kruznice#kruznice"},
-    {4, Vyrob<Troj2Dialog>, "02#nejprve úhel#a#va#gama#cm#cm#°#usecka##poloprimka##rovnobezka#"},
-    {9, Vyrob<CtyrUDialog>, "02#ABC#b#a#beta#cm#cm#°#sus#d#cm#kruznice#KA#gama#°#poloprimka#CXCB"},
-    {10, Vyrob<RovnoDialog>, "04#ABC#b#e#a#cm#cm#cm#sss#bod#AC#obrazbodu#B########"},
-    {11, Vyrob<LichoDialog>,
-     "02#ABC#b#a#beta#cm#cm#°#sus#BC||DA##rovnobezka#va#gama#°#poloprimka#CXCB"},
-    {12, Vyrob<TecnyDialog>, "04#A##a####B#prusecik#C#stred#k#kruznice##########"},
-    {18, Vyrob<TecnyDialog>,
-     "01#k##a####A1#prusecik#A2#prusecik#t1#rovnobezka#t2#rovnobezka########"},
-};
-
 class Stolek final : public RukaPravidel {
 public:
-    /// At the beginning of an example.
-    Stolek(Misc& misc, const Priprava& p) : dialog_(p.VyrobDialog(misc, Platna_())) {
-        dialog_->NovyPriklad();
-        dialog_->NoveZadani();
+    explicit Stolek(Misc& misc) : dialog_(misc, Platna_()) {
+        dialog_.NovyPriklad();
+        dialog_.NoveZadani();
     }
 
 protected:
-    [[nodiscard]] Dialog& Hra() override { return *dialog_; }
-    [[nodiscard]] const Dialog& Hra() const override { return *dialog_; }
+    [[nodiscard]] Dialog& Hra() override { return dialog_; }
+    [[nodiscard]] const Dialog& Hra() const override { return dialog_; }
 
 private:
-    std::unique_ptr<Dialog> dialog_;
+    D dialog_;
 };
 
 /// The session before an example of the task: its one line read, sentences that only tell their
 /// number.
-Misc Otevri(const Priprava& p) {
+Misc Otevri(int uloha, std::string_view radek) {
     Misc misc;
     misc.Vety = [](int cislo) { return std::vector<std::string>{"Věta " + std::to_string(cislo)}; };
-    misc.CisloUlohy = static_cast<std::uint8_t>(p.Uloha);
+    misc.CisloUlohy = static_cast<std::uint8_t>(uloha);
     misc.PocetPrikladu = 1;
-    std::string_view zbytek = p.Radek;
-    for (const Slot& slot : MapaDesky(DeskaUlohy(p.Uloha)).Pole) {
-        const std::size_t konec = zbytek.find('#');
-        slot.V(misc.Priklady[1]) = zbytek.substr(0, konec);
+    for (const Slot& slot : MapaDesky(DeskaUlohy(uloha)).Pole) {
+        const std::size_t konec = radek.find('#');
+        slot.V(misc.Priklady[1]) = radek.substr(0, konec);
         if (konec == std::string_view::npos) break;
-        zbytek.remove_prefix(konec + 1);
+        radek.remove_prefix(konec + 1);
     }
     return misc;
 }
 
-class Pravidla : public testing::TestWithParam<Priprava> {};
-
-TEST_P(Pravidla, OdehrajiPrikladSama) {
-    for (std::uint32_t seminko = 1; seminko <= 5; ++seminko) {
-        SCOPED_TRACE(seminko);
-        Misc misc = Otevri(GetParam());
+/// Five examples without a fault, and one that is not begun.
+template <class D>
+void Odehraj(int uloha, std::string_view radek) {
+    for (std::uint32_t seminko = 0; seminko <= 5; ++seminko) {
+        SCOPED_TRACE(std::to_string(uloha) + ", seed " + std::to_string(seminko));
+        const bool hraje = seminko > 0;
+        Misc misc = Otevri(uloha, radek);
         misc.Generator.Zasej(seminko);
-        Stolek stul(misc, GetParam());
-        const auto& dialog = stul.Hrany();
-        hrac::Sestroj(stul, seminko);
-        EXPECT_TRUE(dialog.Hotova());
+        Stolek<D> stul(misc);
+        if (hraje) hrac::Sestroj(stul, seminko);
+        EXPECT_EQ(stul.Hrany().Hotova(), hraje);
         stul.Zkontroluj();
-        EXPECT_EQ(misc.SoucetZapornychBodu, 0) << misc.ChybneKroky[1].Text;
-        EXPECT_EQ(Vyuctuj(misc, dialog.Hotova()), Verdikt::Bezchybne);
-        EXPECT_EQ(misc.KladneBody, 10);
+        EXPECT_EQ(Vyuctuj(misc, hraje), hraje ? Verdikt::Bezchybne : Verdikt::SChybami);
+        EXPECT_EQ(misc.KladneBody, hraje ? 10 : 0) << misc.ChybneKroky[1].Text;
+        EXPECT_EQ(misc.ZaporneBody, hraje ? 0 : 10);
+        const std::string& konec = misc.ChybneKroky[misc.PocetChybnychKroku].Text;
+        EXPECT_TRUE(konec.starts_with(hraje ? "" : "Věta 300")) << konec;
     }
 }
 
-TEST_P(Pravidla, NedokoncenyPrikladStojiDesetBodu) {
-    Misc misc = Otevri(GetParam());
-    misc.Generator.Zasej(1);
-    Stolek stul(misc, GetParam());
-    stul.Zkontroluj();
-    EXPECT_EQ(Vyuctuj(misc, stul.Hrany().Hotova()), Verdikt::SChybami);
-    EXPECT_EQ(misc.ZaporneBody, 10);
-    EXPECT_EQ(misc.ChybneKroky[misc.PocetChybnychKroku].Cislo, "300");
-    EXPECT_EQ(misc.ChybneKroky[misc.PocetChybnychKroku].Text.substr(0, 9), "Věta 300");
+TEST(Pravidla, OdehrajiPrikladSama) {
+    Odehraj<Troj1Dialog>(1, "1#sss, od strany c#a#b#c#cm#cm#cm#usecka#kruznice#kruznice");
+    Odehraj<Troj2Dialog>(4, "02#nejprve úhel#a#va#gama#cm#cm#°#usecka##poloprimka##rovnobezka#");
+    Odehraj<CtyrUDialog>(9, "02#ABC#b#a#beta#cm#cm#°#sus#d#cm#kruznice#KA#gama#°#poloprimka#CXCB");
+    Odehraj<RovnoDialog>(10, "04#ABC#b#e#a#cm#cm#cm#sss#bod#AC#obrazbodu#B########");
+    Odehraj<LichoDialog>(
+        11, "02#ABC#b#a#beta#cm#cm#°#sus#BC||DA##rovnobezka#va#gama#°#poloprimka#CXCB");
+    Odehraj<TecnyDialog>(12, "04#A##a####B#prusecik#C#stred#k#kruznice##########");
+    Odehraj<TecnyDialog>(18,
+                         "01#k##a####A1#prusecik#A2#prusecik#t1#rovnobezka#t2#rovnobezka########");
 }
-
-std::string JmenoUlohy(const testing::TestParamInfo<Priprava>& p) {
-    return "uloha" + std::to_string(p.param.Uloha);
-}
-INSTANTIATE_TEST_SUITE_P(Desky, Pravidla, testing::ValuesIn(DESKY), JmenoUlohy);
 
 }  // namespace
 }  // namespace rysovna::testy

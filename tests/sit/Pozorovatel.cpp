@@ -1,7 +1,6 @@
 #include "sit/Pozorovatel.h"
 
 #include <algorithm>
-#include <array>
 #include <ostream>
 #include <utility>
 

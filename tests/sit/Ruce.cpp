@@ -128,16 +128,10 @@ void Vracejici::VratSe() {
     RukaNaDesce::Posun(-posunuto.X, -posunuto.Y);
     const auto od = zacatky_.find(Faze());
     if (od == zacatky_.end()) return;
-    const std::vector<Ukon> znovu(ukony_.begin() + static_cast<std::ptrdiff_t>(od->second),
-                                  ukony_.end());
-    for (const Ukon& u : znovu) Vykonej(u);
+    for (std::size_t i = od->second; i < ukony_.size(); ++i) Vykonej(ukony_[i]);
 }
 
 // ---- Carelessness ----------------------------------------------------------------------------
-
-int Nedbala::Nektere(const std::vector<int>& z) {
-    return z[static_cast<std::size_t>(los_.Cislo(static_cast<int>(z.size())))];
-}
 
 std::vector<hrac::Zadano> Nedbala::Zadani() const {
     auto zadani = RukaNaDesce::Zadani();
@@ -169,20 +163,20 @@ std::vector<int> Nedbala::ZiveRadky() const {
     return zive;
 }
 
+std::string Nedbala::TextRadku(int i) const {
+    return Hrany().UkazPanel().Vyber.Radky[static_cast<std::size_t>(i - 1)].Text;
+}
+
 /// Plans a press for the middle of what is done next.
 void Nedbala::Uprostred() {
-    struct Cil {
-        const char* Jmeno;
-        int Index;
-    };
-    static constexpr Cil CILE[] = {
+    static constexpr std::pair<const char*, int> CILE[] = {
         {"PicTop", 1},   {"PicTop", 2},   {"PicTop", 3},      {"PicTop", 4},     {"cmd", 1},
         {"cmd", 2},      {"cmd", 5},      {"cmd", 5},         {"ComboLabel", 1}, {"ComboLabel", 3},
         {"picSipka", 1}, {"picSipka", 4}, {"picPokracuj", 0}, {"Image1", 0},     {"INadpis", 0}};
-    const Cil& cil = CILE[static_cast<std::size_t>(los_.Cislo(static_cast<int>(std::size(CILE))))];
+    const auto cil = Jeden(CILE);
     Hra().Host().NaplanujZa(static_cast<std::uint32_t>(los_.Mezi(1, 150)), [this, cil] {
         try {
-            Hra().Stiskni(cil.Jmeno, cil.Index);
+            Hra().Stiskni(cil.first, cil.second);
         } catch (const NejdeUdelat&) {
             // It is hidden, or another screen is in front.
         }
@@ -201,24 +195,19 @@ void Nedbala::Pred(Ukon& u) {
     switch (u.Co) {
         case Ukon::Druh::Nastroj:
             if (!Jednou(14)) return;
-            if (const auto zive = ZiveNastroje(); !zive.empty()) {
-                RukaNaDesce::StiskNastroje(Nektere(zive));
-            }
+            if (const auto zive = ZiveNastroje(); !zive.empty())
+                RukaNaDesce::StiskNastroje(Jeden(zive));
             return;
         case Ukon::Druh::Radek:
             if (!Jednou(8)) return;
             if (const auto zive = ZiveRadky(); !zive.empty()) {
-                u.Cislo = Nektere(zive);
-                u.Text =
-                    Hrany().UkazPanel().Vyber.Radky[static_cast<std::size_t>(u.Cislo - 1)].Text;
+                u.Cislo = Jeden(zive);
+                u.Text = TextRadku(u.Cislo);
             }
             return;
         case Ukon::Druh::Text:
             if (Jednou(6)) u.Text = los_.Ano() ? std::to_string(los_.Mezi(1, 30)) : "";
-            if (Jednou(20)) {
-                u.Text =
-                    TEXTY[static_cast<std::size_t>(los_.Cislo(static_cast<int>(std::size(TEXTY))))];
-            }
+            if (Jednou(20)) u.Text = Jeden(TEXTY);
             return;
         case Ukon::Druh::Tah:
             if (Jednou(14)) u.Od = los_.Vedle(u.Od, 30);
@@ -233,11 +222,10 @@ void Nedbala::Neco() {
     const auto nastroje = ZiveNastroje();
     const int co = los_.Cislo(10);
     if (!radky.empty() && co < 8) {
-        const int i = Nektere(radky);
-        RukaNaDesce::StiskRadku(
-            i, Hrany().UkazPanel().Vyber.Radky[static_cast<std::size_t>(i - 1)].Text);
+        const int i = Jeden(radky);
+        RukaNaDesce::StiskRadku(i, TextRadku(i));
     } else if (!nastroje.empty() && co < 7) {
-        RukaNaDesce::StiskNastroje(Nektere(nastroje));
+        RukaNaDesce::StiskNastroje(Jeden(nastroje));
     } else if (co < 2) {
         Hra().Napis(std::to_string(los_.Cislo(40)));
     } else if (co < 7) {

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -84,7 +83,11 @@ protected:
 
 private:
     [[nodiscard]] bool Jednou(int z) { return los_.Cislo(z) == 0; }
-    [[nodiscard]] int Nektere(const std::vector<int>& z);
+    template <class T>
+    [[nodiscard]] auto Jeden(const T& z) {
+        return z[static_cast<std::size_t>(los_.Cislo(static_cast<int>(std::size(z))))];
+    }
+    [[nodiscard]] std::string TextRadku(int i) const;
     [[nodiscard]] Bod Nekde();
     [[nodiscard]] std::vector<int> ZiveRadky() const;
     [[nodiscard]] std::vector<int> ZiveNastroje() const;

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iostream>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -14,7 +15,6 @@
 #include "hrac/Serie.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
-#include "screens/Desky.h"
 #include "sit/Obrazy.h"
 #include "sit/Pozorovatel.h"
 #include "sit/Ruce.h"
@@ -38,17 +38,11 @@ struct Hrani {
     bool Spravne = true;
 };
 
+/// In the order of the numbers of Cim.
 constexpr std::pair<std::string_view, Relace::Cim> ZPUSOBY[] = {
     {"mysi", Relace::Cim::Mysi},
     {"klavesami", Relace::Cim::Klavesami},
     {"prstem", Relace::Cim::Prstem}};
-
-std::string_view Jmeno(Relace::Cim cim) {
-    for (const auto& [jmeno, ktery] : ZPUSOBY) {
-        if (ktery == cim) return jmeno;
-    }
-    return {};
-}
 
 /// From the title to the question at the end, with all that can be opened on the way.
 class Serie {
@@ -174,7 +168,8 @@ private:
 };
 
 void Odehraj(const Hrani& h, std::ostream& kam, const std::optional<Prani>& prani = {}) {
-    kam << "hra " << h.Uloha << ' ' << h.Seminko << ' ' << Jmeno(h.Cim) << ' '
+    kam << "hra " << h.Uloha << ' ' << h.Seminko << ' '
+        << ZPUSOBY[static_cast<std::size_t>(h.Cim)].first << ' '
         << (h.Spravne ? "spravne" : "nedbale") << '\n';
     try {
         Serie(h, kam, prani).Odehraj();
@@ -187,15 +182,10 @@ void Odehraj(const Hrani& h, std::ostream& kam, const std::optional<Prani>& pran
 /// "1-20", "4", "1,4,9-11".
 std::vector<int> Cisla(const std::string& text) {
     std::vector<int> cisla;
-    for (std::size_t od = 0; od < text.size();) {
-        const std::size_t konec = std::min(text.find(',', od), text.size());
-        const std::string cast = text.substr(od, konec - od);
-        const std::size_t pomlcka = cast.find('-');
-        const int prvni = std::stoi(cast);
-        const int posledni =
-            pomlcka == std::string::npos ? prvni : std::stoi(cast.substr(pomlcka + 1));
-        for (int i = prvni; i <= posledni; ++i) cisla.push_back(i);
-        od = konec + 1;
+    std::istringstream casti(text);
+    for (std::string cast; std::getline(casti, cast, ',');) {
+        const std::size_t pomlcka = cast.find('-') + 1;
+        for (int i = std::stoi(cast); i <= std::stoi(cast.substr(pomlcka)); ++i) cisla.push_back(i);
     }
     return cisla;
 }
@@ -203,14 +193,11 @@ std::vector<int> Cisla(const std::string& text) {
 /// "mysi", "klavesami-nedbale", "prstem-spravne"; without the latter both, one after the other.
 std::vector<Hrani> Zpusoby(const std::string& text) {
     std::vector<Hrani> vsechny;
-    const std::size_t pomlcka = text.find('-');
-    const std::string jak = pomlcka == std::string::npos ? "" : text.substr(pomlcka + 1);
-    for (const auto& [jmeno, cim] : ZPUSOBY) {
-        if (jmeno != text.substr(0, pomlcka)) continue;
+    for (const auto& [cim, ktery] : ZPUSOBY) {
         for (const bool spravne : {true, false}) {
-            if (jak.empty() || jak == (spravne ? "spravne" : "nedbale")) {
-                vsechny.push_back({.Cim = cim, .Spravne = spravne});
-            }
+            const std::string jmeno(cim);
+            if (text == jmeno || text == jmeno + (spravne ? "-spravne" : "-nedbale"))
+                vsechny.push_back({.Cim = ktery, .Spravne = spravne});
         }
     }
     if (vsechny.empty()) throw std::invalid_argument("takový způsob není: " + text);

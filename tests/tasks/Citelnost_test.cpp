@@ -1,7 +1,5 @@
 // The figures that the boards of quadrilaterals draw by chance: readable, and found in few draws.
 
-#include <cmath>
-
 #include "podpora/Stul.h"
 #include "rules/CtyrUDialog.h"
 #include "rules/DialogCtyruhelnikuVrchol.h"

@@ -4,8 +4,6 @@
 #include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "platform/Pisma.h"
-#include "rules/Ulohy.h"
-#include "screens/Desky.h"
 
 namespace rysovna::hrac {
 namespace {

@@ -11,9 +11,7 @@
 #include "rules/Kontrola.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
-#include "screens/Desky.h"
 #include "store/Kodovani.h"
-#include "store/Soubory.h"
 
 namespace rysovna::hrac {
 namespace {

@@ -3,12 +3,10 @@
 
 #include <gtest/gtest.h>
 #include <sstream>
-#include <utility>
 
 #include "podpora/Rysovac.h"
 #include "rules/DialogTrojuhelniku.h"
 #include "rules/Misc.h"
-#include "screens/DeskaForm.h"
 
 namespace rysovna::testy {
 namespace {
