@@ -11,13 +11,12 @@
 namespace rysovna::testy {
 namespace {
 
-class MalirTest : public NaStroji {
+class MalirTest : public NaFormu {
 protected:
-    MalirTest() : Form_(Okna().Nacti<ZapisForm>(Host_)) {
+    MalirTest() {
         Form_->Uvnitr.Caption = "Ahoj";
         Form_->BackColor = Rgb(200, 220, 240);
         Form_->Pic.Plocha().Line(0, 0, 199, 149);
-        Okna().Show(*Form_);
     }
     std::vector<Obdelnik> Namaluj(Bitmapa& b) {
         return Malir_.Namaluj({b.Body.data(), b.Sirka, b.Vyska, b.Sirka}, Okna(),
@@ -40,7 +39,6 @@ protected:
     }
     static Pixel Bod(const Bitmapa& b, int x, int y) { return b.Radka(y)[x]; }
 
-    std::shared_ptr<ZapisForm> Form_;
     Malir Malir_;
 };
 
@@ -96,7 +94,7 @@ TEST_F(MalirTest, PoKouscichJeTotezCoNaraz) {
         [&] { f.Pic.Plocha().Vypln(d(200), d(150), d(50), d(50), d(0x1000000)); },
         [&] { f.DoPopredi(*f.Ovladace()[static_cast<std::size_t>(d(5))]); },
         [&] { f.Zamereni() == nullptr ? f.SetFocus(f.Pole) : f.ZrusZamereni(); },
-        [&] { Okna().Text("ab"); },
+        [&] { Hraj({"+ab"}); },
         [&] { Okna().Klavesa("Left", d(2)); },
         [&] { Host_.PosunHodiny(300); },
         [&] { f.cmd[0].Ramecek = !f.cmd[0].Ramecek; },

@@ -7,102 +7,72 @@
 namespace rysovna::testy {
 namespace {
 
-class ObrazovkyTest : public NaStroji {
-protected:
-    ObrazovkyTest() : Form_(Okna().Nacti<ZapisForm>(Host_)) {
-        Okna().Show(*Form_);
-        Form_->Vezmi();
-    }
-
-    std::shared_ptr<ZapisForm> Form_;
-};
+using ObrazovkyTest = NaFormu;
 
 TEST_F(ObrazovkyTest, UdalostDostaneNejvyssiObjektPodUkazatelem) {
     bool nic = true;
-    const std::tuple<double, double, bool*, std::string> PRIPADY[] = {
-        {105, 55, &nic, "Down Pic 5,5"},
-        {125, 85, &nic, "Down Uvnitr 5,5"},
-        {299, 199, &nic, "Down Pic 199,149"},
-        {300, 200, &nic, "Down form 300,200"},
-        {410, 145, &nic, "Down cmd(2) 10,5"},
+    const std::tuple<const char*, bool*, std::string> PRIPADY[] = {
+        {"s105,55", &nic, "Down Pic 5,5"},
+        {"s125,85", &nic, "Down Uvnitr 5,5"},
+        {"s299,199", &nic, "Down Pic 199,149"},
+        {"s300,200", &nic, "Down form 300,200"},
+        {"s410,145", &nic, "Down cmd(2) 10,5"},
         // A hidden one is not in the way; nor is the rubber band, ever.
-        {125, 85, &Form_->Uvnitr.Visible, "Down Pic 25,35"},
-        {125, 85, &Form_->Pic.Visible, "Down form 125,85"},
+        {"s125,85", &Form_->Uvnitr.Visible, "Down Pic 25,35"},
+        {"s125,85", &Form_->Pic.Visible, "Down form 125,85"},
         // One that is disabled leaves the event to its container, that one to the form.
-        {125, 85, &Form_->Uvnitr.Enabled, "Down Pic 25,35"},
-        {125, 85, &Form_->Pic.Enabled, "Down form 125,85"},
+        {"s125,85", &Form_->Uvnitr.Enabled, "Down Pic 25,35"},
+        {"s125,85", &Form_->Pic.Enabled, "Down form 125,85"},
     };
-    for (const auto& [x, y, vypni, dostane] : PRIPADY) {
+    for (const auto& [stisk, vypni, dostane] : PRIPADY) {
         *vypni = false;
-        Host_.PosunHodiny(1000);  // no double click
-        Host_.Stiskni(x, y);
-        EXPECT_EQ(Form_->Vezmi().at(0), dostane);
+        EXPECT_EQ(Po({stisk}).at(0), dostane);
         *vypni = true;
     }
     // What is later in the order lies higher.
     Form_->cmd[1].Top = Form_->cmd[0].Top;
-    Host_.PosunHodiny(1000);
-    Host_.Stiskni(410, 105);
-    EXPECT_EQ(Form_->Vezmi().at(0), "Down cmd(2) 10,5");
+    EXPECT_EQ(Po({"s410,105"}).at(0), "Down cmd(2) 10,5");
     Form_->DoPopredi(Form_->cmd[0]);
-    Host_.PosunHodiny(1000);
-    Host_.Stiskni(410, 105);
-    EXPECT_EQ(Form_->Vezmi().at(0), "Down cmd(1) 10,5");
+    EXPECT_EQ(Po({"s410,105"}).at(0), "Down cmd(1) 10,5");
 }
 
 TEST_F(ObrazovkyTest, StiskDrziUkazatelAzDoPusteni) {
-    Okna().MysDolu(290, 60, 1, 0);
-    Okna().MysDolu(410, 105, 2, 0);  // the second button belongs to the same object
-    Okna().MysNahoru(410, 105, 1, 0);
-    Okna().MysPohyb(500, 10, 2, 0);
-    Okna().MysNahoru(500, 10, 2, 0);
-    Okna().MysPohyb(500, 10, 0, 0);
-    EXPECT_EQ(Form_->Vezmi(), (Seznam_t{"Down Pic 190,10", "Down Pic 310,55", "Up Pic 310,55",
-                                        "Move Pic 400,-40", "Up Pic 400,-40", "Move form 500,10"}))
+    // The second button belongs to the same object.
+    EXPECT_EQ(Po({"d290,60", "d410,105:2", "n410,105", "p500,10:2", "n500,10:2", "p500,10"}),
+              (Seznam_t{"Down Pic 190,10", "Down Pic 310,55", "Up Pic 310,55", "Move Pic 400,-40",
+                        "Up Pic 400,-40", "Move form 500,10"}))
         << "released elsewhere: no Click";
-}
-
-TEST_F(ObrazovkyTest, ZmizelyObjektNedostaneNicANikdoJiny) {
+    // What it hits goes: the plane must see no drag.
     Form_->PriStisku = [&] {
         Form_->cmd[0].Visible = false;
         return Cinnost<>();
     };
-    Okna().MysDolu(410, 105, 1, 0);
-    Okna().MysPohyb(150, 100, 1, 0);
-    Okna().MysNahoru(150, 100, 1, 0);
-    EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Down cmd(1) 10,5"}) << "the plane must see no drag";
+    EXPECT_EQ(Po({"d410,105", "p150,100:1", "n150,100"}), Seznam_t{"Down cmd(1) 10,5"});
 }
 
 TEST_F(ObrazovkyTest, DvojklikJeDvaStiskyAVPoliVybereSlovo) {
-    for (int i = 0; i < 2; ++i) Host_.Stiskni(410, 105);
-    EXPECT_EQ(Form_->Vezmi(), (Seznam_t{"Down cmd(1) 10,5", "Up cmd(1) 10,5", "Click cmd(1)",
-                                        "Down cmd(1) 10,5", "Up cmd(1) 10,5", "Click cmd(1)"}));
+    const Seznam_t klik = {"Down cmd(1) 10,5", "Up cmd(1) 10,5", "Click cmd(1)"};
+    for (int i = 0; i < 2; ++i) EXPECT_EQ(Po({"d410,105", "n410,105"}), klik);
     Form_->Pole.Text = "slovo za slovem";
-    const auto vybral = [&](double x2, std::uint32_t pauza) {
-        Host_.PosunHodiny(1000);
-        Host_.Stiskni(110, 310);
-        Host_.PosunHodiny(pauza);
-        Host_.Stiskni(x2, 310);
+    const auto vybral = [&](const Seznam_t& druhy) {
+        Hraj({"s110,310"});
+        Hraj(druhy);
         return Form_->Pole.SelStart != Form_->Pole.SelAnchor;
     };
-    EXPECT_TRUE(vybral(110, 100));
-    EXPECT_FALSE(vybral(110, 600)) << "too late";
-    EXPECT_FALSE(vybral(120, 100)) << "too far";
-    Form_->Vezmi();
+    EXPECT_TRUE(vybral({"@100", "d110,310", "n110,310"}));
+    EXPECT_FALSE(vybral({"@600", "d110,310", "n110,310"})) << "too late";
+    EXPECT_FALSE(vybral({"@100", "d120,310", "n120,310"})) << "too far";
 
     // The first press took its form away: the second one is not for the form below.
-    Host_.PosunHodiny(1000);
     const auto nahore = Okna().Nacti<ZapisForm>(Host_);
     Okna().Show(*nahore);
     nahore->PriStisku = [&] {
         Okna().Hide(*nahore);
         return Cinnost<>();
     };
-    for (int i = 0; i < 2; ++i) Host_.Stiskni(410, 105);
-    EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Activate"});
-    Host_.PosunHodiny(501);
-    Host_.Stiskni(410, 105);
-    EXPECT_EQ(Form_->Vezmi().size(), 3U);
+    Form_->Vezmi();
+    EXPECT_EQ(Po({"s410,105", "d410,105", "n410,105"}), Seznam_t{"Activate"});
+    EXPECT_EQ(Po({"@501", "d410,105", "n410,105"}).size(), 3U);
 }
 
 /// A row of presses, each measured from the one before: all act on what the first one hit, or not
@@ -143,11 +113,9 @@ TEST_F(ObrazovkyTest, RadaStiskuPatriTomuCoZasahlPrvni) {
     // Times that are known roughly are taken to be as near as they can be.
     Host_.PosunHodiny(1000);
     Okna().MysDolu(410, 118, 1, 0, {100, 700});
-    Okna().MysNahoru(410, 118, 1, 0);
-    Form_->Vezmi();
+    Po({"n410,118"});
     Okna().MysDolu(410, 122, 1, 0, {1200, 1900});
-    EXPECT_EQ(Form_->Vezmi(), Seznam_t{});
-    Okna().MysNahoru(410, 122, 1, 0);
+    EXPECT_EQ(Po({"n410,122"}), Seznam_t{});
     Okna().MysDolu(410, 122, 1, 0, {2401, 2401});
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Down form 410,122"});
 }
@@ -156,35 +124,29 @@ TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
     Form_->SetFocus(Form_->Pole);
     Form_->Hodiny.Interval = 30;
     Form_->Hodiny.Enabled = true;
-    // Each is done at its time in a closed wait of 100 ms, or after it; all that comes of them.
+    // Each is played at its time in a closed wait of 100 ms, or after it; all that comes of them.
     struct Pripad {
-        std::vector<std::pair<std::uint32_t, std::function<void()>>> Co;
+        std::vector<std::pair<std::uint32_t, const char*>> Co;
         Seznam_t Dostane;
     };
-    const auto dolu = [&](int b) { return [&, b] { Okna().MysDolu(410, 105, b, 0); }; };
-    const auto nahoru = [&](int b) { return [&, b] { Okna().MysNahoru(410, 105, b, 0); }; };
-    const auto pohyb = [&](double x, int b) {
-        return [&, x, b] { Okna().MysPohyb(x, 300, b, 0); };
-    };
-    const auto klavesa = [&](const char* k) { return [&, k] { Okna().Klavesa(k, 0); }; };
     const Pripad PRIPADY[] = {
-        {{{20, dolu(1)}, {30, nahoru(1)}}, {}},
-        {{{20, dolu(1)}, {90, pohyb(350, 1)}, {110, pohyb(360, 1)}, {120, nahoru(1)}}, {}},
-        {{{20, dolu(1)}, {120, nahoru(1)}, {130, dolu(2)}, {140, nahoru(2)}},
+        {{{20, "d410,105"}, {30, "n410,105"}}, {}},
+        {{{20, "d410,105"}, {90, "p350,300:1"}, {110, "p360,300:1"}, {120, "n410,105"}}, {}},
+        {{{20, "d410,105"}, {120, "n410,105"}, {130, "d410,105:2"}, {140, "n410,105:2"}},
          {"Down cmd(1) 10,5", "Up cmd(1) 10,5"}},
-        {{{100, dolu(1)}, {101, nahoru(1)}}, {}},
-        {{{20, [&] { Okna().Text("x"); }},
-          {21, klavesa("Return")},
-          {22, klavesa("Space")},
-          {23, klavesa("Tab")},
-          {24, [&] { Okna().Text("y"); }},
-          {25, klavesa("BackSpace")},
-          {40, dolu(1)},
-          {50, [&] { Okna().ZadostOZavreni(); }},
-          {60, pohyb(350, 1)},
-          {70, nahoru(1)},
-          {80, pohyb(370, 0)},
-          {81, pohyb(380, 0)}},
+        {{{100, "d410,105"}, {101, "n410,105"}}, {}},
+        {{{20, "+x"},
+          {21, "Return"},
+          {22, "Space"},
+          {23, "Tab"},
+          {24, "+y"},
+          {25, "BackSpace"},
+          {40, "d410,105"},
+          {50, "zavri"},
+          {60, "p350,300:1"},
+          {70, "n410,105"},
+          {80, "p370,300"},
+          {81, "p380,300"}},
          {"Change x", "Change xy", "Change x", "QueryUnload", "Move form 380,300"}},
     };
     for (const Pripad& p : PRIPADY) {
@@ -192,7 +154,11 @@ TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
         Host_.PosunHodiny(1000);
         Form_->Pole.Text.clear();
         const std::uint32_t zacatek = Host_.TickCount();
-        for (const auto& [kdy, co] : p.Co) Host_.NaplanujZa(kdy, co);
+        for (const auto& [kdy, co] : p.Co) {
+            Host_.NaplanujZa(kdy, [this, slovo = std::string(co)] {
+                slovo == "zavri" ? Okna().ZadostOZavreni() : Hraj({slovo});
+            });
+        }
         Host_.Proved(Zavrene(10, 10));
         EXPECT_EQ(Host_.TickCount() - zacatek, 100U);
         EXPECT_EQ(Form_->Vezmi(), Seznam_t{}) << "nothing comes through, nor does the timer";
@@ -207,11 +173,11 @@ TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
     for (const bool vzdy : {false, true}) {
         Host_.PosunHodiny(1000);
         Form_->StiskVzdy = vzdy;
-        if (!vzdy) Okna().MysDolu(410, 105, 1, 0);
+        if (!vzdy) Hraj({"d410,105"});
         {
             const Obrazovky::Zavreni zavreni(Okna());
-            if (vzdy) Okna().MysDolu(410, 105, 1, 0);
-            Okna().MysNahoru(410, 105, 1, 0);
+            if (vzdy) Hraj({"d410,105"});
+            Hraj({"n410,105"});
         }
         Host_.Obrat(0);
         EXPECT_EQ(Form_->Vezmi(), (Seznam_t{"Down cmd(1) 10,5", "Up cmd(1) 10,5", "Click cmd(1)"}));
@@ -230,10 +196,9 @@ TEST_F(ObrazovkyTest, ActivateDostaneTenKdoPrijdeDoPopredi) {
     // A press beside a small form calls the one behind, which calls the small one back.
     Form_->PriAktivaci = [&] { Okna().Show(*maly); };
     maly->Vezmi();
-    Host_.Stiskni(10, 10);
-    EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Activate"}) << "and no press";
+    EXPECT_EQ(Po({"d10,10", "n10,10"}), Seznam_t{"Activate"}) << "and no press";
     EXPECT_EQ(maly->Vezmi(), Seznam_t{"Activate"});
-    Host_.Stiskni(510, 20);
+    Hraj({"s510,20"});
     EXPECT_EQ(maly->Vezmi().at(0), "Down form 10,20");
     Okna().Unload(*maly);
     Okna().Show(*maly);
@@ -273,8 +238,8 @@ TEST_F(ObrazovkyTest, FormularOdstranenyPriCekaniNicNedrzi) {
             return Cekej(200);
         };
         if (jak == 0) {
-            Host_.NaplanujZa(10, [&] { Okna().MysNahoru(150, 150, 1, 0); });
-            Host_.NaplanujZa(50, [&] { Okna().MysDolu(410, 105, 1, 0); });
+            Host_.NaplanujZa(10, [&] { Hraj({"n150,150"}); });
+            Host_.NaplanujZa(50, [&] { Hraj({"d410,105"}); });
         }
         f->Hodiny.Interval = 30;
         f->Hodiny.Enabled = jak == 1;
@@ -283,13 +248,11 @@ TEST_F(ObrazovkyTest, FormularOdstranenyPriCekaniNicNedrzi) {
             EXPECT_TRUE(f->Zavreny() && !f->Viditelny() && !zije.expired());
             f->SetFocus(f->Pole);
         });
-        Okna().MysDolu(150, 150, 1, 0);
+        Hraj({"d150,150"});
         EXPECT_TRUE(zije.expired()) << "destroyed when its handler was ended";
         Form_->Vezmi();
-        Okna().MysPohyb(160, 160, 1, 0);
-        Okna().Text("x");
-        Okna().MysNahoru(160, 160, 1, 0);
-        EXPECT_EQ(Form_->Vezmi(), Seznam_t{}) << "capture and focus went with it";
+        EXPECT_EQ(Po({"p160,160:1", "+x", "n160,160"}), Seznam_t{})
+            << "capture and focus went with it";
     }
 }
 
@@ -302,9 +265,7 @@ TEST_F(ObrazovkyTest, ModalniFormularMaVsechnoSam) {
     Okna().Show(*Form_);
     EXPECT_EQ(Okna().Vpredu(), modalni) << "nobody gets over it";
     Form_->Vezmi();
-    Host_.Stiskni(150, 150);
-    Okna().Text("x");
-    Okna().Klavesa("Return", 0);
+    Hraj({"d150,150", "n150,150", "+x", "Return"});
     Okna().ZadostOZavreni();
     Host_.Cekej(50);
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{});
@@ -317,12 +278,11 @@ TEST_F(ObrazovkyTest, ModalniFormularMaVsechnoSam) {
 TEST_F(ObrazovkyTest, StiskZapocatyPredZpravouUzNikomuNepatri) {
     Host_.SkutecneZpravy = true;
     Form_->PriStisku = [&] {
-        Host_.NaplanujZa(10, [&] { Okna().MysNahoru(410, 105, 1, 0); });
-        Host_.NaplanujZa(20, [&] { Okna().Klavesa("Return", 0); });
+        Host_.NaplanujZa(10, [&] { Hraj({"n410,105"}); });
+        Host_.NaplanujZa(20, [&] { Hraj({"Return"}); });
         return Zeptej("Opravdu?", Odpoved::Ano);
     };
-    Okna().MysDolu(410, 105, 1, 0);
-    EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Down cmd(1) 10,5"});
+    EXPECT_EQ(Po({"d410,105"}), Seznam_t{"Down cmd(1) 10,5"});
 }
 
 TEST_F(NaStroji, ZpravaOdpovidaNaKlavesyIMys) {
@@ -337,7 +297,7 @@ TEST_F(NaStroji, ZpravaOdpovidaNaKlavesyIMys) {
         {Styl::Stop, {"Right", "Return"}, Odpoved::Ok},
     };
     for (const auto& [styl, stisky, ceka] : PRIPADY) {
-        for (const std::string& k : stisky) Host_.NaplanujZa(10, [&] { Okna().Klavesa(k, 0); });
+        for (const std::string& k : stisky) Host_.NaplanujZa(10, [&] { Hraj({k}); });
         EXPECT_EQ(Host_.Proved(Host_.MsgBox("Text", "Titul", styl)), ceka) << stisky.front();
         EXPECT_EQ(Host_.Naplanovano(), 0U) << "closed too soon";
         EXPECT_FALSE(Okna().JeModalni());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -36,6 +37,32 @@ protected:
     }
 
     Obrazovky& Okna() { return Host_.Okna(); }
+    /// Plays words: "+text" types, "S-Left" holds Shift, "C-a" Ctrl, "^Space" lets a key go, other
+    /// words are keys; "d5,7:2" presses the second button (the first if none is told) at a place,
+    /// "n" releases, "p" moves with it held, "s" presses and releases a second after what was
+    /// before; "@50" moves the clock.
+    void Hraj(const std::vector<std::string>& slova) {
+        for (const std::string& s : slova) {
+            const char co = s[0];
+            const bool shift = s.starts_with("S-"), ctrl = s.starts_with("C-");
+            double x = 0, y = 0;
+            int tlacitko = co == 'p' ? 0 : 1;
+            if (s.size() > 1 && std::sscanf(s.c_str() + 1, "%lf,%lf:%d", &x, &y, &tlacitko) > 1) {
+                if (co == 's') Host_.PosunHodiny(1000);
+                if (co == 'd' || co == 's') Okna().MysDolu(x, y, tlacitko, 0);
+                if (co == 'p') Okna().MysPohyb(x, y, tlacitko, 0);
+                if (co == 'n' || co == 's') Okna().MysNahoru(x, y, tlacitko, 0);
+            } else if (co == '+') {
+                Okna().Text(s.substr(1));
+            } else if (co == '@') {
+                Host_.PosunHodiny(static_cast<std::uint32_t>(std::stoi(s.substr(1))));
+            } else if (co == '^') {
+                Okna().KlavesaNahoru(s.substr(1));
+            } else {
+                Okna().Klavesa(s.substr(shift || ctrl ? 2 : 0), shift + 2 * ctrl);
+            }
+        }
+    }
     /// A file of this content that goes with the test.
     std::string Soubor(const std::string& jmeno, const std::string& obsah) {
         Docasne_.push_back(testing::TempDir() + std::to_string(::getpid()) + jmeno);
@@ -133,5 +160,20 @@ private:
 };
 
 using Seznam_t = std::vector<std::string>;
+
+/// Such a form in front.
+class NaFormu : public NaStroji {
+protected:
+    NaFormu() : Form_(Okna().Nacti<ZapisForm>(Host_)) {
+        Okna().Show(*Form_);
+        Form_->Vezmi();
+    }
+    /// What the form gets of words that are played.
+    Seznam_t Po(const Seznam_t& slova) {
+        Hraj(slova);
+        return Form_->Vezmi();
+    }
+    std::shared_ptr<ZapisForm> Form_;
+};
 
 }  // namespace rysovna::testy
