@@ -43,17 +43,11 @@ protected:
             ++c;
         }
     }
+    void Kresli(int i, const Nakres& k, int nova = ANO) { testy::Kresli(t, plocha, i, k, nova); }
     /// A segment AB from (150, 150), with marks.
     void Usecka(int dx, int dy) {
-        KresliUsecku(t, plocha, NovyUtvar(t, "A", "B"),
-                     {.Druh = USECKA,
-                      .P1 = {150, 150},
-                      .P2 = {150 + dx, 150 + dy},
-                      .Popis1 = "A",
-                      .Popis2 = "B",
-                      .Delka = 5,
-                      .Znacky = ANO},
-                     ANO);
+        Kresli(NovyUtvar(t, "A", "B"),
+               {USECKA, {150, 150}, {150 + dx, 150 + dy}, "A", "B", 5, "", ANO});
     }
 
     Tabulky t;
@@ -100,15 +94,12 @@ TEST_F(Kresleni, SektorUrcujePopisAKriz) {
                   p.sektor);
         // A point on that segment wears the whole cross and the same sector's label offset; so
         // does, with the tick alone, a ray in the same direction.
-        KresliBod(t, plocha, NovyUtvar(t, "X", ""),
-                  {.Druh = BOD, .P1 = {60, 70}, .Popis1 = "X", .NaPrimce = "AB"}, ANO);
+        Kresli(NovyUtvar(t, "X", ""), {BOD, {60, 70}, {}, "X", "", 0, "AB"});
         EXPECT_EQ(PosledniNapis(), (Bod{60 + p.popis.X, 70 + p.popis.Y})) << p.sektor;
         CekaCarky({{60 - px, 70 - py, 60 + px, 70 + py}, {60 - vx, 70 - vy, 60 + vx, 70 + vy}},
                   p.sektor);
-        KresliPoloprimku(
-            t, plocha, NovyUtvar(t, "A", "X"),
-            {.Druh = POLOPRIMKA, .P1 = {150, 150}, .P2 = {150 + p.dx, 150 + p.dy}, .Popis2 = "X"},
-            NE);
+        Kresli(NovyUtvar(t, "A", "X"), {POLOPRIMKA, {150, 150}, {150 + p.dx, 150 + p.dy}, "", "X"},
+               NE);
         CekaCarky({{x - px, y - py, x + px, y + py}}, p.sektor);
     }
     // The limit between two sectors is the lower one's, whatever the length.
@@ -136,42 +127,33 @@ TEST_F(Kresleni, DruhyBodSePosuneNaOkraj) {
     };
     for (const auto& [co, od, k, ocekavany] : pripady) {
         Znovu();
-        KresliPoloprimku(t, plocha, 1, {.Druh = POLOPRIMKA, .P1 = od, .P2 = k, .Popis2 = "X"}, ANO);
-        KresliKolmici(t, plocha, 2, {.Druh = KOLMICE, .P1 = od, .P2 = k}, ANO);
+        Kresli(1, {POLOPRIMKA, od, k, "", "X"});
+        Kresli(2, {KOLMICE, od, k});
         for (const int i : {1, 2})
             EXPECT_EQ((Bod{t.Utvary[i].X2, t.Utvary[i].Y2}), ocekavany) << co;
         EXPECT_EQ((Bod{t.Trojice_tab[1].X2, t.Trojice_tab[1].Y2}), ocekavany) << co;
         // A redraw leaves the stored point where it is.
-        KresliPrimku(t, plocha, 2, {.Druh = PRIMKA, .P1 = od, .P2 = k}, NE);
+        Kresli(2, {PRIMKA, od, k}, NE);
         EXPECT_EQ((Bod{t.Utvary[2].X2, t.Utvary[2].Y2}), k) << co;
     }
 }
 
 TEST_F(Kresleni, CaryVedouKOkrajumPlochyATouzZUlozenychHodnot) {
-    KresliPrimku(t, plocha, 1, {.Druh = PRIMKA, .P1 = {100, 100}, .P2 = {102, 101}, .Delka = 7.5F},
-                 NE);
+    Kresli(1, {PRIMKA, {100, 100}, {102, 101}, "", "", 7.5F}, NE);
     CekaCarky({{0, 50, 384, 242}}, "line");
-    KresliKolmici(t, plocha, 2, {.Druh = KOLMICE, .P1 = {30, 100}, .P2 = {30, 90}}, NE);
+    Kresli(2, {KOLMICE, {30, 100}, {30, 90}}, NE);
     CekaCarky({{30, 0, 30, 335}}, "upright");
-    const std::array<double, 4> paprsky[] = {
-        {100, 90, 100, 0}, {100, 190, 100, 335}, {98, 101, 0, 150}};
-    for (const auto& [x, y, kx, ky] : paprsky) {
-        KresliPoloprimku(t, plocha, 3,
-                         {.Druh = POLOPRIMKA,
-                          .P1 = {100, 100},
-                          .P2 = {Zaokrouhli(x), Zaokrouhli(y)},
-                          .Popis2 = "X"},
-                         NE);
+    const std::tuple<Bod, double, double> paprsky[] = {
+        {{100, 90}, 100, 0}, {{100, 190}, 100, 335}, {{98, 101}, 0, 150}};
+    for (const auto& [k, x, y] : paprsky) {
+        Kresli(3, {POLOPRIMKA, {100, 100}, k, "", "X"}, NE);
         plocha.carky.pop_back();  // the tick
-        CekaCarky({{100, 100, kx, ky}}, "ray");
+        CekaCarky({{100, 100, x, y}}, "ray");
     }
     // A redraw from the stored values leads the very same line.
-    KresliPoloprimku(t, plocha, 4,
-                     {.Druh = POLOPRIMKA, .P1 = {100, 101}, .P2 = {171, 130}, .Popis2 = "X"}, ANO);
+    Kresli(4, {POLOPRIMKA, {100, 101}, {171, 130}, "", "X"});
     const Utvar u = t.Utvary[4];
-    KresliPoloprimku(t, plocha, 4,
-                     {.Druh = POLOPRIMKA, .P1 = {u.X1, u.Y1}, .P2 = {u.X2, u.Y2}, .Popis2 = "X"},
-                     NE);
+    Kresli(4, {POLOPRIMKA, {u.X1, u.Y1}, {u.X2, u.Y2}, "", "X"}, NE);
     EXPECT_EQ(plocha.carky.end()[-2], plocha.carky.end()[-4]);
 }
 
@@ -181,16 +163,7 @@ TEST_F(Kresleni, UseckaZapisujeZaznamATrojici) {
     EXPECT_EQ(t.Trojice_tab[1], (Trojice{150, 150, 175, 160, 162, 155, "A", "B", "Sc"}));
     // Without its line a segment still gets its two labels, and no mark.
     const auto car = plocha.carky.size();
-    KresliUsecku(t, plocha, NovyUtvar(t, "B", "A"),
-                 {.Druh = USECKA,
-                  .P1 = {150, 150},
-                  .P2 = {175, 160},
-                  .Popis1 = "B",
-                  .Popis2 = "A",
-                  .Delka = 5,
-                  .Znacky = ANO,
-                  .Cara = NE},
-                 NE);
+    Kresli(NovyUtvar(t, "B", "A"), {USECKA, {150, 150}, {175, 160}, "B", "A", 5, "", ANO, NE}, NE);
     EXPECT_EQ(plocha.carky.size(), car);
     EXPECT_EQ(plocha.napisy.size(), 4U);
     EXPECT_EQ(t.PocetTrojic, 1);
@@ -199,11 +172,9 @@ TEST_F(Kresleni, UseckaZapisujeZaznamATrojici) {
 
 TEST_F(Kresleni, KrizBoduHledaPosledniPrimkuTohoJmena) {
     Usecka(80, 0);
-    KresliUsecku(t, plocha, NovyUtvar(t, "B", "A"),
-                 {.Druh = USECKA, .P1 = {10, 10}, .P2 = {10, 90}, .Delka = 5}, ANO);
+    Kresli(NovyUtvar(t, "B", "A"), {USECKA, {10, 10}, {10, 90}, "", "", 5});
     plocha.DrawWidth = 2;
-    KresliBod(t, plocha, NovyUtvar(t, "X", ""),
-              {.Druh = BOD, .P1 = {60, 70}, .Popis1 = "X", .NaPrimce = "AB"}, ANO);
+    Kresli(NovyUtvar(t, "X", ""), {BOD, {60, 70}, {}, "X", "", 0, "AB"});
     // A to B of the second segment goes straight up.
     EXPECT_EQ(PosledniNapis(), (Bod{70, 67}));
     EXPECT_EQ(plocha.DrawWidth, 1);
@@ -218,18 +189,13 @@ TEST_F(Kresleni, PopisKruzniceHledaMistoUvnitrPlochy) {
         {{380, 20}, 430, {330, 7}},        // only 270, the last of all
         {{192, -100}, 242, {142, -113}}};  // none: the last try stands
     for (const auto& [stred, x2, popis] : pripady) {
-        KresliKruznici(t, plocha, NovyUtvar(t, "k", ""),
-                       {.Druh = KRUZNICE, .P1 = stred, .P2 = {x2, stred.Y}}, ANO);
+        Kresli(NovyUtvar(t, "k", ""), {KRUZNICE, stred, {x2, stred.Y}});
         EXPECT_EQ(PosledniNapis(), popis);
         EXPECT_EQ(plocha.kruhy.back().r, 50.0F);
     }
-    EXPECT_THROW(
-        KresliKruznici(t, plocha, 101, {.Druh = KRUZNICE, .P1 = {10, 10}, .P2 = {20, 10}}, ANO),
-        BehovaChyba);
+    EXPECT_THROW(Kresli(101, {KRUZNICE, {10, 10}, {20, 10}}), BehovaChyba);
     t.PocetTrojic = 100;
-    EXPECT_THROW(
-        KresliKruznici(t, plocha, 1, {.Druh = KRUZNICE, .P1 = {10, 10}, .P2 = {20, 10}}, ANO),
-        BehovaChyba);
+    EXPECT_THROW(Kresli(1, {KRUZNICE, {10, 10}, {20, 10}}), BehovaChyba);
 }
 
 TEST(Tabulky, RovneUhlyNaPetMist) {
