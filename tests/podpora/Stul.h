@@ -166,10 +166,9 @@ public:
 class Pokryti {
 public:
     void Odehran(int radek) { ++pocty_[radek]; }
-    [[nodiscard]] bool Cele(const Zaznamy& z) const {
+    [[nodiscard]] bool Cele(const Zaznamy& z) {
         for (int i = 1; i <= z.PocetPrikladu; ++i) {
-            const auto p = pocty_.find(i);
-            if (p == pocty_.end() || p->second < Seminek()) return false;
+            if (pocty_[i] < Seminek()) return false;
         }
         return true;
     }
