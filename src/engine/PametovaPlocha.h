@@ -10,7 +10,7 @@ namespace rysovna {
 /// A plane in memory that needs no graphics library: lines and circles exactly as on the screen's
 /// logical bitmap. In place of text it fills a block of SIRKA_ZNAKU by VYSKA_ZNAKU pixels for each
 /// character, so that labels occupy pixels.
-class PametovaPlocha final : public Plane {
+class PametovaPlocha : public Plane {
 public:
     static constexpr int SIRKA_ZNAKU = 6;
     static constexpr int VYSKA_ZNAKU = 8;

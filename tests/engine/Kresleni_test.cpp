@@ -19,7 +19,7 @@ using namespace testy;
 class Kresleni : public testing::Test {
 protected:
     Kresleni() {
-        plocha.plocha.BackColor = CERNA;
+        plocha.BackColor = CERNA;
         plocha.Cls();
         Znovu();
     }

@@ -61,7 +61,7 @@ TEST_F(Sluzby, VolneMistoNajdeTotezCoProsteHledani) {
 TEST_F(Sluzby, PrekresleniPrazdneKonstrukceSmazePic) {
     pic.Line(0, 0, 300, 300);
     PrekresliVse(t, hiden, pic);
-    EXPECT_TRUE(pic.plocha.StejnyObraz(PametovaPlocha(SIRKA_PLOCHY, VYSKA_PLOCHY)));
+    EXPECT_TRUE(pic.StejnyObraz(PametovaPlocha(SIRKA_PLOCHY, VYSKA_PLOCHY)));
     EXPECT_EQ(pic.kopie, (std::vector<bool>{true, false, true}));
 }
 
@@ -69,19 +69,19 @@ TEST_F(Sluzby, PrekresleniDaStejnyObrazATabulky) {
     // A finished triangle fills no point from a moved one, so that even its first picture comes
     // back; the random constructions settle with the first redraw.
     NakresliTrojuhelnik(t, pic);
-    PametovaPlocha prvni = pic.plocha;
+    PametovaPlocha prvni = pic;
     PrekresliVse(t, hiden, pic);
-    EXPECT_TRUE(pic.plocha.StejnyObraz(prvni));
+    EXPECT_TRUE(pic.StejnyObraz(prvni));
     for (unsigned seminko = 1; seminko <= 20; ++seminko) {
         t = {};
         pic.Cls();
         NakresliNahodne(t, pic, 98, seminko);
         PrekresliVse(t, hiden, pic);
-        prvni = pic.plocha;
+        prvni = pic;
         const auto utvary = t.Utvary;
         const auto trojice = t.Trojice_tab;
         PrekresliVse(t, hiden, pic);
-        EXPECT_TRUE(pic.plocha.StejnyObraz(prvni)) << seminko;
+        EXPECT_TRUE(pic.StejnyObraz(prvni)) << seminko;
         EXPECT_EQ(t.Utvary, utvary);
         EXPECT_EQ(t.Trojice_tab, trojice);
         EXPECT_EQ(t.PocetTrojic, 98);
@@ -111,16 +111,16 @@ TEST_F(Sluzby, PrekresleniPiseJenDoPosledniTrojice) {
 TEST_F(Sluzby, PosunPosuneVseAZpetVratiObraz) {
     NakresliTrojuhelnik(t, pic);
     PrekresliVse(t, hiden, pic);
-    const PametovaPlocha predtim = pic.plocha;
+    const PametovaPlocha predtim = pic;
     const auto utvary = t.Utvary;
     PosunVse(t, hiden, pic, 20, -20);
     EXPECT_EQ((Bod{t.Utvary[1].X1, t.Utvary[1].Y1}), (Bod{140, 230}));
     EXPECT_EQ((Bod{t.Utvary[1].X4, t.Utvary[1].Y4}), (Bod{20, -20}));  // unused slots move too
     EXPECT_EQ((Bod{t.Trojice_tab[2].X3, t.Trojice_tab[2].Y3}), (Bod{20, -20}));
-    EXPECT_EQ(pic.plocha.Point(150, 230), CERNA);
+    EXPECT_EQ(pic.Point(150, 230), CERNA);
     PosunVse(t, hiden, pic, -20, 20);
     EXPECT_EQ(t.Utvary, utvary);
-    EXPECT_TRUE(pic.plocha.StejnyObraz(predtim));
+    EXPECT_TRUE(pic.StejnyObraz(predtim));
 }
 
 TEST_F(Sluzby, PruhlednaKopieVynechaKlicovouBarvu) {

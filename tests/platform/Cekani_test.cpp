@@ -102,10 +102,9 @@ protected:
         if (co == "pryc") return Okna().Unload(form);
         if (co == "konec") return Okna().Konec();
         if (co.size() > 1) return Okna().Klavesa(co, 0);
-        Okna().MysDolu(10, 100 * (co[0] - 'A' + 1) + 5, 1, 0);
-        Okna().MysNahoru(10, 100 * (co[0] - 'A' + 1) + 5, 1, 0);
+        Host_.Stiskni(10, 100 * (co[0] - 'A' + 1) + 5);
     }
-    std::string Hraj(const PripadCekani& p) {
+    std::string Odehraj(const PripadCekani& p) {
         std::string zapis;
         Host_.PosunHodiny(1000);
         auto form = Okna().Nacti<CekajiciForm>(Host_, p.Deje, zapis);
@@ -153,6 +152,12 @@ TEST_F(CekaniTest, PokracujeJenTenKdoZacalPosledni) {
          {{'A', "30"}, {'T', "100"}},
          {{50, "A"}, {165, "pryc"}},
          "A50 T60 T160 T- A160 A- T160 T- form- | "},
+        {"a timer goes by its interval", {{'T', ""}}, {{130, "pryc"}}, "T60 T- T120 T- form- | "},
+        {"unloaded by its own timer, by its own button",
+         {{'A', "200"}, {'T', "pryc"}},
+         {{0, "A"}},
+         "A0 T60 T- A- form- | "},
+        {"", {{'A', "200"}, {'B', "pryc 10"}}, {{0, "A"}, {10, "B"}}, "A0 B10 B- A- form- | "},
         {"unloaded in a wait it is ended when that would have ended",
          {{'A', "50 50"}, {'B', "100"}},
          {{0, "A"}, {10, "B"}, {20, "pryc"}},
@@ -189,7 +194,7 @@ TEST_F(CekaniTest, PokracujeJenTenKdoZacalPosledni) {
          "A0 A5 A15 A- | form- ",
          true},
     };
-    for (const PripadCekani& p : PRIPADY) EXPECT_EQ(Hraj(p), p.Zapis) << p.Jmeno;
+    for (const PripadCekani& p : PRIPADY) EXPECT_EQ(Odehraj(p), p.Zapis) << p.Jmeno;
 }
 
 }  // namespace
