@@ -14,6 +14,9 @@
 #if !defined(_WIN32) && !defined(__APPLE__)
 #include <langinfo.h>
 #endif
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include "base/Chyba.h"
 #include "platform/Cesta.h"
@@ -171,6 +174,13 @@ void ZvolPlochuOkna() {
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, ObrazovyOvladac() == "wayland" ? "1" : "0");
 }
 
+/// What screens that went have left free, between what is still in use.
+void VratVolnouPamet() {
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
+
 /// The system's own message box, for when ours cannot be drawn; on the error output besides, which
 /// is where it stays if there is no such box.
 Odpoved SystemovaZprava(const std::string& text, const std::string& titul, Styl styl) {
@@ -210,6 +220,8 @@ struct SdlHost::Vnitrek {
     Kurzor Ukazany = Kurzor::Sipka;
     std::optional<SDL_FingerID> Prst;  ///< the one that plays
     bool MelZamereni = false;
+    std::uint32_t PosledniVstup = 0;  ///< tick count
+    bool PametVracena = false;        ///< since the last input
     /// Up to when all that came has been seen, tick count.
     std::uint32_t Videno = 0;
     bool Prepnuto = false;  ///< the program has switched the mode: what follows restores it
@@ -219,6 +231,9 @@ struct SdlHost::Vnitrek {
     void Zpracuj(const SDL_Event& e);
     /// Waits at most so long for something to come.
     void Cekej(std::uint32_t nejvyseMs);
+    /// Before a wait: when nothing has come for a while, the system gets free memory back, once.
+    /// Gives how long to wait, so as to come again for it.
+    std::uint32_t VratPamet(std::uint32_t cekat);
     void Klavesa(const SDL_KeyboardEvent& k);
     void Stisk(const SDL_MouseButtonEvent& b);
     void Pohyb(const SDL_MouseMotionEvent& m);
@@ -280,6 +295,7 @@ void SdlHost::Vyckej(std::uint32_t nejvyseMs) {
     std::uint32_t cekat = nejvyseMs;
     if (Okna().Psane() != nullptr)
         cekat = std::min(cekat, BLIKANI - (TickCount() - Okna().PosledniPsani()) % BLIKANI);
+    cekat = vnitrek_->VratPamet(cekat);
     vnitrek_->Cekej(cekat);
 }
 
@@ -403,6 +419,18 @@ void SdlHost::Vnitrek::Cekej(std::uint32_t nejvyseMs) {
     if (ted != zacatek) Videno = ted;
 }
 
+std::uint32_t SdlHost::Vnitrek::VratPamet(std::uint32_t cekat) {
+    constexpr std::uint32_t PO_KLIDU = 1000;
+    // What moves meanwhile has short waits and is not to stumble.
+    constexpr std::uint32_t DLOUHE_CEKANI = 300;
+    if (PametVracena || cekat < DLOUHE_CEKANI) return cekat;
+    const std::uint32_t klid = SDL_GetTicks() - PosledniVstup;
+    if (klid < PO_KLIDU) return std::min(cekat, PO_KLIDU - klid);
+    PametVracena = true;
+    VratVolnouPamet();
+    return cekat;
+}
+
 bool SdlHost::Vnitrek::Zpracuj() {
     SDL_Event e;
     bool neco = false;
@@ -418,6 +446,10 @@ bool SdlHost::Vnitrek::Zpracuj() {
         Zpracuj(e);
     }
     Videno = SDL_GetTicks();
+    if (neco) {
+        PosledniVstup = Videno;
+        PametVracena = false;
+    }
     return neco;
 }
 
