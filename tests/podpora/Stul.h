@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -160,21 +159,6 @@ private:
 
 public:
     D dialog{relace_.Pamet(), Platna_()};
-};
-
-/// Counts the examples played, by line of the file.
-class Pokryti {
-public:
-    void Odehran(int radek) { ++pocty_[radek]; }
-    [[nodiscard]] bool Cele(const Zaznamy& z) {
-        for (int i = 1; i <= z.PocetPrikladu; ++i) {
-            if (pocty_[i] < Seminek()) return false;
-        }
-        return true;
-    }
-
-private:
-    std::map<int, int> pocty_;
 };
 
 // ---- Measuring -------------------------------------------------------------------------------

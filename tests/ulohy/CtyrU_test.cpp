@@ -1,7 +1,7 @@
 // The general quadrilateral, at the dialogue.
 
 #include "rules/CtyrUDialog.h"
-#include "tasks/Ctyruhelniky.h"
+#include "ulohy/Ctyruhelniky.h"
 
 namespace rysovna::testy {
 namespace {

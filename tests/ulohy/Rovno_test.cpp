@@ -1,7 +1,7 @@
 // The parallelogram, at the dialogue.
 
 #include "rules/RovnoDialog.h"
-#include "tasks/Ctyruhelniky.h"
+#include "ulohy/Ctyruhelniky.h"
 
 namespace rysovna::testy {
 namespace {

@@ -1,7 +1,7 @@
 // The trapezoid, at the dialogue: what differs from the general quadrilateral.
 
 #include "rules/LichoDialog.h"
-#include "tasks/Ctyruhelniky.h"
+#include "ulohy/Ctyruhelniky.h"
 
 namespace rysovna::testy {
 namespace {
