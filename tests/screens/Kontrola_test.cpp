@@ -4,9 +4,9 @@
 
 #include "platform/Cesta.h"
 #include "platform/Host.h"
+#include "podpora/SouboryPomoc.h"
 #include "screens/KontrolaPocitace.h"
 #include "screens/Spolecne.h"
-#include "shell/SouboryPomoc.h"
 #include "store/Cesty.h"
 #include "store/Fronta.h"
 #include "store/Ukladani.h"

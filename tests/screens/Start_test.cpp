@@ -6,9 +6,9 @@
 
 #include "platform/Cesta.h"
 #include "platform/Obrazovky.h"
+#include "podpora/SouboryPomoc.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
-#include "shell/SouboryPomoc.h"
 #include "store/Cesty.h"
 #include "store/Ini.h"
 

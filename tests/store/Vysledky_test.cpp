@@ -8,8 +8,8 @@
 
 #include "base/Cisla.h"
 #include "platform/PosixDisk.h"
+#include "podpora/SouboryPomoc.h"
 #include "podpora/UkladaniHned.h"
-#include "shell/SouboryPomoc.h"
 #include "store/Fronta.h"
 #include "store/TabulkaVysledku.h"
 

@@ -4,9 +4,9 @@
 #include <array>
 #include <gtest/gtest.h>
 
+#include "podpora/SouboryPomoc.h"
 #include "rules/Chyby.h"
 #include "rules/Kontrola.h"
-#include "shell/SouboryPomoc.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
 

@@ -5,13 +5,13 @@
 #include <map>
 
 #include "platform/Surface.h"
+#include "podpora/SouboryPomoc.h"
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
 #include "screens/SelectForm.h"
 #include "screens/SetupForm.h"
 #include "screens/Spolecne.h"
 #include "screens/TabulkaForm.h"
-#include "shell/SouboryPomoc.h"
 
 namespace rysovna::testy {
 namespace {

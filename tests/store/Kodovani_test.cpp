@@ -6,7 +6,7 @@
 #include <map>
 
 #include "CeleSoubory.h"
-#include "shell/SouboryPomoc.h"
+#include "podpora/SouboryPomoc.h"
 
 namespace rysovna::testy {
 namespace {
