@@ -4,8 +4,9 @@
 #   start.sh STAGING [OTHER_STAGING]
 # All programs start in turns, fifteen times; medians count. A start takes from the process's birth
 # to the picture on the screen, read off the screen itself, less the waits that the game's own start
-# orders (100 ms). Memory is what the process has for itself, and whole the segments that it shares
-# with the display's server, on each screen of a tour.
+# orders (100 ms); what it took of the processor tells more where others work beside. Memory is what
+# the process has for itself, and whole the segments that it shares with the display's server, on
+# each screen of a tour.
 set -eu
 staging="$1"
 jina="${2:-}"

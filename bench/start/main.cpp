@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
@@ -38,8 +39,13 @@ bool JeObraz(const std::uint8_t* pixely, int sirka, int vyska, std::size_t radek
 struct Program {
     double Narizeno;  ///< ms
     const char* Soubor;
-    std::vector<double> Doby;
+    std::vector<double> Doby;  ///< ms
+    std::vector<double> Cpu;   ///< of all its threads until then, ms
 };
+
+double Ms(const timeval& t) {
+    return static_cast<double>(t.tv_sec) * 1000 + static_cast<double>(t.tv_usec) / 1000;
+}
 
 double Median(std::vector<double>& doby) {
     std::ranges::sort(doby);
@@ -70,7 +76,8 @@ int main(int pocet, char** slova) {
     const std::uint8_t* pixely = mapa + slovo(0) + slovo(19) * 12;
 
     std::vector<Program> programy;
-    for (int i = 5; i < pocet; i += 2) programy.push_back({std::atof(slova[i]), slova[i + 1], {}});
+    for (int i = 5; i < pocet; i += 2)
+        programy.push_back({std::atof(slova[i]), slova[i + 1], {}, {}});
     // The first round warms the caches and is not counted.
     for (int kolo = 0; kolo <= behu; ++kolo) {
         for (Program& p : programy) {
@@ -87,17 +94,26 @@ int main(int pocet, char** slova) {
                 std::this_thread::sleep_for(std::chrono::microseconds(200));
                 ms = std::chrono::duration<double, std::milli>(Hodiny::now() - zacatek).count();
             }
-            if (kolo > 0) p.Doby.push_back(ms - p.Narizeno);
             kill(dite, SIGKILL);
-            waitpid(dite, nullptr, 0);
+            rusage spotreba{};
+            wait4(dite, nullptr, 0, &spotreba);
+            if (kolo > 0) {
+                p.Doby.push_back(ms - p.Narizeno);
+                p.Cpu.push_back(Ms(spotreba.ru_utime) + Ms(spotreba.ru_stime));
+            }
             std::this_thread::sleep_for(std::chrono::milliseconds(100));
         }
     }
     const double dno = Median(programy.front().Doby);
+    const double cpuDna = Median(programy.front().Cpu);
     for (Program& p : programy) {
         const double m = Median(p.Doby);
-        std::printf("%6.0f ms (%.0f až %.0f), o %.0f více než dno, %.2f dna  %s\n", m,
-                    p.Doby.front(), p.Doby.back(), m - dno, m / dno, p.Soubor);
+        const double cpu = Median(p.Cpu);
+        std::printf(
+            "%6.0f ms (%.0f až %.0f), %.2f dna, o %.0f více; CPU %.0f ms, %.2f dna, o %.0f více  "
+            "%s\n",
+            m, p.Doby.front(), p.Doby.back(), m / dno, m - dno, cpu, cpu / cpuDna, cpu - cpuDna,
+            p.Soubor);
     }
     return 0;
 }
