@@ -12,75 +12,73 @@
 // Every surface draws with it, so that the same pixels are occupied everywhere and a label finds
 // the same place.
 //
-// Each routine calls put(x, y) for the pixels inside meze only, and clipping never changes a pixel.
-// A line takes time by the size of meze, however long it runs on outside; a circle by its radius.
-// A pen wider than 1 covers a square of that many pixels around each pixel of the thin figure, one
-// more to the left and above where the width is even; put may then get a pixel more than once.
-// With width 1 every pixel comes once, and no figure is two pixels thick anywhere.
+// Each routine calls put(rectangle) for the runs of pixels that the figure is made of, inside meze
+// only, and clipping never changes a pixel. A line takes time by the size of meze, however long it
+// runs on outside; a circle by its radius. A pen wider than 1 covers a square of that many pixels
+// around each pixel of the thin figure, one more to the left and above where the width is even; put
+// may then get a pixel more than once. With width 1 every run is one pixel thick, every pixel comes
+// once, and no figure is two pixels thick anywhere.
 
 namespace rysovna {
 
-/// Steps along the longer axis of a line, in closed form, so that a clipped line can begin in the
-/// middle and still have the very pixels of the whole one.
-class KrokyUsecky {
+/// Puts what a square pen covers on its way over the pixels from x1, y1 to x2, y2, both included,
+/// of one row or one column.
+template <class Put>
+void RastrPero(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2, int pero,
+               const Obdelnik& meze, Put&& put) {
+    const std::int64_t pred = pero / 2;
+    const std::int64_t za = pero - pred;
+    x1 = std::max<std::int64_t>(x1 - pred, meze.Left);
+    y1 = std::max<std::int64_t>(y1 - pred, meze.Top);
+    x2 = std::min<std::int64_t>(x2 + za, std::int64_t{meze.Left} + meze.Width);
+    y2 = std::min<std::int64_t>(y2 + za, std::int64_t{meze.Top} + meze.Height);
+    if (x1 >= x2 || y1 >= y2) return;
+    put(Obdelnik{static_cast<int>(x1), static_cast<int>(y1), static_cast<int>(x2 - x1),
+                 static_cast<int>(y2 - y1)});
+}
+
+/// The runs of a line along its longer axis, in closed form, so that a clipped line can begin in
+/// the middle and still have the very pixels of the whole one. At step i the line deviates across
+/// by vychylka * i / delka, halves rounded up.
+class BehyUsecky {
 public:
     /// delka, vychylka: extent of the line along its longer axis (above 0) and across it (either
-    /// sign, not longer).
-    KrokyUsecky(std::int64_t delka, std::int64_t vychylka) : delka_(delka), vychylka_(vychylka) {}
-
-    /// Goes to step i: the deviation is vychylka * i / delka, halves rounded up.
-    void Na(std::int64_t i) {
-        __extension__ using Sirsi = __int128;
-        const Sirsi citatel = Sirsi{2} * i * vychylka_ + delka_;
-        const Sirsi jmenovatel = Sirsi{2} * delka_;
-        Sirsi podil = citatel / jmenovatel;
-        Sirsi zbytek = citatel % jmenovatel;
-        if (zbytek < 0) {
-            zbytek += jmenovatel;
-            --podil;
-        }
+    /// sign, not longer). od: the step to begin at.
+    BehyUsecky(std::int64_t delka, std::int64_t vychylka, std::int64_t od)
+        : smer_(vychylka < 0 ? -1 : 1), dil_(2 * std::abs(vychylka)) {
+        const Sirsi citatel = Sirsi{2} * od * vychylka + delka;
+        Sirsi podil = citatel / (Sirsi{2} * delka);
+        if (citatel < podil * 2 * delka) --podil;
         odchylka_ = static_cast<std::int64_t>(podil);
-        zbytek_ = static_cast<std::int64_t>(zbytek);
+        if (dil_ == 0) return;
+        // The run of deviation k ends before the step at which the next one is reached.
+        const Sirsi dalsi = Sirsi{delka} * (2 * smer_ * podil + 1) - (vychylka > 0 ? 1 : 0);
+        konec_ = static_cast<std::int64_t>(dalsi / dil_);
+        zbytek_ = static_cast<std::int64_t>(dalsi % dil_);
+        delkaBehu_ = 2 * delka / dil_;
+        zbytekBehu_ = 2 * delka % dil_;
     }
 
-    void Dalsi() {
-        zbytek_ += 2 * vychylka_;
-        if (zbytek_ >= 2 * delka_) {
-            zbytek_ -= 2 * delka_;
-            ++odchylka_;
-        } else if (zbytek_ < 0) {
-            zbytek_ += 2 * delka_;
-            --odchylka_;
-        }
-    }
-
+    /// The deviation of the present run, and its last step; none ends it before nejdale.
     [[nodiscard]] std::int64_t Odchylka() const { return odchylka_; }
+    [[nodiscard]] std::int64_t Konec(std::int64_t nejdale) const {
+        return dil_ == 0 ? nejdale : std::min(konec_, nejdale);
+    }
+    void Dalsi() {
+        odchylka_ += smer_;
+        konec_ += delkaBehu_;
+        zbytek_ += zbytekBehu_;
+        if (zbytek_ < dil_) return;
+        zbytek_ -= dil_;
+        ++konec_;
+    }
 
 private:
-    std::int64_t delka_, vychylka_;
-    std::int64_t odchylka_ = 0, zbytek_ = 0;
+    __extension__ using Sirsi = __int128;
+    std::int64_t smer_, dil_;
+    std::int64_t odchylka_ = 0, konec_ = 0, zbytek_ = 0;
+    std::int64_t delkaBehu_ = 0, zbytekBehu_ = 0;
 };
-
-/// Puts the pixels of a square pen with its middle on x, y.
-template <class Put>
-void RastrPero(std::int64_t x, std::int64_t y, int pero, const Obdelnik& meze, Put&& put) {
-    if (pero == 1) {
-        if (x >= meze.Left && y >= meze.Top && x < std::int64_t{meze.Left} + meze.Width &&
-            y < std::int64_t{meze.Top} + meze.Height) {
-            put(static_cast<int>(x), static_cast<int>(y));
-        }
-        return;
-    }
-    const std::int64_t vlevo = x - pero / 2;
-    const std::int64_t nahore = y - pero / 2;
-    const auto x1 = std::max<std::int64_t>(vlevo, meze.Left);
-    const auto x2 = std::min<std::int64_t>(vlevo + pero, std::int64_t{meze.Left} + meze.Width);
-    const auto y1 = std::max<std::int64_t>(nahore, meze.Top);
-    const auto y2 = std::min<std::int64_t>(nahore + pero, std::int64_t{meze.Top} + meze.Height);
-    for (std::int64_t py = y1; py < y2; ++py) {
-        for (std::int64_t px = x1; px < x2; ++px) put(static_cast<int>(px), static_cast<int>(py));
-    }
-}
 
 /// A line, both ends included, end points rounded to whole pixels with ties to even. The pixels
 /// are the same from either end. pero: pen width, px; below 1 counts as 1.
@@ -106,11 +104,16 @@ void RastrUsecka(double x1, double y1, double x2, double y2, int pero, const Obd
     const std::int64_t prvni = std::max(ax, zacatek);
     const std::int64_t posledni = std::min(bx, konec);
     if (prvni > posledni) return;
-    KrokyUsecky kroky(std::max<std::int64_t>(bx - ax, 1), by - ay);
-    kroky.Na(prvni - ax);
-    for (std::int64_t a = prvni; a <= posledni; ++a, kroky.Dalsi()) {
-        const std::int64_t b = ay + kroky.Odchylka();
-        RastrPero(strma ? b : a, strma ? a : b, pero, meze, put);
+    BehyUsecky behy(std::max<std::int64_t>(bx - ax, 1), by - ay, prvni - ax);
+    for (std::int64_t a = prvni; a <= posledni; behy.Dalsi()) {
+        const std::int64_t b = ay + behy.Odchylka();
+        const std::int64_t za = ax + behy.Konec(posledni - ax);
+        if (strma) {
+            RastrPero(b, a, b, za, pero, meze, put);
+        } else {
+            RastrPero(a, b, za, b, pero, meze, put);
+        }
+        a = za + 1;
     }
 }
 
@@ -123,30 +126,41 @@ void RastrKruznice(double stredX, double stredY, double polomer, int pero, const
     const std::int64_t sx = Zaokrouhli(stredX), sy = Zaokrouhli(stredY);
     const std::int64_t r = Zaokrouhli(polomer);
     if (r < 0) return;
-    const auto bod = [&](std::int64_t dx, std::int64_t dy) {
-        RastrPero(sx + dx, sy + dy, pero, meze, put);
+    const auto kus = [&](std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2) {
+        RastrPero(sx + x1, sy + y1, sx + x2, sy + y2, pero, meze, put);
     };
-    const auto ctyri = [&](std::int64_t dx, std::int64_t dy) {
-        bod(dx, dy);
-        if (dx != 0) bod(-dx, dy);
-        if (dy != 0) bod(dx, -dy);
-        if (dx != 0 && dy != 0) bod(-dx, -dy);
+    // The pixels that have so much in one axis and from od to k in the other, all eight times.
+    const auto beh = [&](std::int64_t od, std::int64_t k, std::int64_t daleko) {
+        for (const std::int64_t d : {-daleko, daleko}) {
+            if (od == 0) {
+                kus(-k, d, k, d);
+                kus(d, -k, d, k);
+                continue;
+            }
+            kus(-k, d, -od, d);
+            kus(od, d, k, d);
+            kus(d, -k, d, -od);
+            kus(d, od, d, k);
+        }
     };
     // One eighth, from the top to the diagonal: for each dx the dy nearest to the true circle,
     // that is the largest one with dy * (dy - 1) < r * r - dx * dx. A pixel on the diagonal is
     // left out where its neighbours on both sides already touch corner to corner.
     std::int64_t dy = r;
-    std::int64_t predchozi = -1;
+    std::int64_t od = 0;
     for (std::int64_t dx = 0; dx <= dy; ++dx) {
+        const std::int64_t predchozi = dy;
         while (dy > 0 && dy * (dy - 1) >= r * r - dx * dx) --dy;
-        if (dx > dy) break;
-        if (dx == dy) {
-            if (predchozi != dy) ctyri(dx, dy);
-            break;
+        if (dy != predchozi || dx >= dy) {
+            if (od < dx) beh(od, dx - 1, predchozi);
+            od = dx;
         }
-        ctyri(dx, dy);
-        ctyri(dy, dx);
-        predchozi = dy;
+        if (dx != dy || (dx > 0 && predchozi == dy)) continue;
+        for (const std::int64_t x : {-dx, dx}) {
+            kus(x, -dx, x, -dx);
+            if (dx > 0) kus(x, dx, x, dx);
+            if (dx == 0) break;
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 #include "base/Cisla.h"
 #include "base/Rastr.h"
 #include "base/Text.h"
+#include "base/Vypln.h"
 
 namespace rysovna {
 
@@ -42,26 +43,28 @@ PametovaPlocha::PametovaPlocha(int w, int h, bool jednobitova)
 
 void PametovaPlocha::PSet(int x, int y, Barva barva) {
     if (!Meze().Obsahuje(x, y)) return;
-    body_[Misto(x, y)] = jednobitova_ && barva != CERNA ? BILA : barva;
+    body_[Misto(x, y)] = Barvivo(barva);
+}
+
+void PametovaPlocha::Vypln(const Obdelnik& kam, Barva barva) {
+    if (kam.Width > 0 && kam.Height > 0)
+        VyplnRadky(&body_[Misto(kam.Left, kam.Top)], w_, kam.Width, kam.Height, barva);
 }
 
 void PametovaPlocha::Line(float x1, float y1, float x2, float y2) {
-    RastrUsecka(x1, y1, x2, y2, DrawWidth, Meze(), [this](int x, int y) { PSet(x, y, ForeColor); });
+    const Barva barva = Barvivo(ForeColor);
+    RastrUsecka(x1, y1, x2, y2, DrawWidth, Meze(), [&](const Obdelnik& o) { Vypln(o, barva); });
 }
 
 void PametovaPlocha::Circle(float x, float y, float r) {
-    RastrKruznice(x, y, r, DrawWidth, Meze(), [this](int px, int py) { PSet(px, py, ForeColor); });
+    const Barva barva = Barvivo(ForeColor);
+    RastrKruznice(x, y, r, DrawWidth, Meze(), [&](const Obdelnik& o) { Vypln(o, barva); });
 }
 
 void PametovaPlocha::Print(std::string_view text) {
     Obdelnik znak{Zaokrouhli(CurrentX), Zaokrouhli(CurrentY), SIRKA_ZNAKU, VYSKA_ZNAKU};
     for (const char32_t kod : DoZnaku(text)) {
-        if (kod != U' ') {
-            const Obdelnik cast = Prunik(znak, Meze());
-            for (int y = cast.Top; y < cast.Top + cast.Height; ++y) {
-                for (int x = cast.Left; x < cast.Left + cast.Width; ++x) PSet(x, y, ForeColor);
-            }
-        }
+        if (kod != U' ') Vypln(Prunik(znak, Meze()), Barvivo(ForeColor));
         znak.Left += SIRKA_ZNAKU;
     }
 }
@@ -71,7 +74,7 @@ int PametovaPlocha::TextWidth(std::string_view text) const {
 }
 
 void PametovaPlocha::Cls() {
-    std::ranges::fill(body_, jednobitova_ && BackColor != CERNA ? BILA : BackColor);
+    Vypln(Meze(), Barvivo(BackColor));
     CurrentX = CurrentY = 0;
 }
 

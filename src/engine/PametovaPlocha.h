@@ -45,6 +45,11 @@ private:
                static_cast<std::size_t>(x);
     }
     [[nodiscard]] Obdelnik Meze() const { return {0, 0, w_, h_}; }
+    [[nodiscard]] Barva Barvivo(Barva barva) const {
+        return jednobitova_ && barva != CERNA ? BILA : barva;
+    }
+    /// Sets the pixels of a rectangle within the plane.
+    void Vypln(const Obdelnik& kam, Barva barva);
 
     int w_, h_;
     bool jednobitova_;

@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "base/Vypln.h"
+
 namespace rysovna {
 
 namespace {
@@ -181,8 +183,7 @@ constexpr std::array SPOJ_RADEK = {
 
 void Vyhled::Vypln(const Obdelnik& kam, Pixel barva) const {
     const Obdelnik o = Prunik(kam, Meze());
-    for (int y = o.Top; y < o.Top + o.Height; ++y)
-        std::fill_n(Radka(y) + o.Left, std::max(o.Width, 0), barva);
+    if (!JePrazdny(o)) VyplnRadky(Radka(o.Top) + o.Left, Krok, o.Width, o.Height, barva);
 }
 
 void Vyhled::Obrat(const Obdelnik& kde) const {

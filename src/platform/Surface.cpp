@@ -5,6 +5,7 @@
 #include <map>
 
 #include "base/Rastr.h"
+#include "base/Vypln.h"
 #include "platform/Pisma.h"
 #include "platform/SurfaceVnitrek.h"
 
@@ -40,6 +41,11 @@ Pixel Barvivo(const Surface::Vnitrek& v, Barva barva) {
     return v.Jednobitova && p != DoPixelu(CERNA) ? DoPixelu(BILA) : p;
 }
 
+/// A rectangle that lies within the bitmap.
+void Vybarvi(const Vyhled& cil, const Obdelnik& o, Pixel barva) {
+    VyplnRadky(cil.Radka(o.Top) + o.Left, cil.Krok, o.Width, o.Height, barva);
+}
+
 }  // namespace
 
 Surface::Surface(int sirka, int vyska) : vnitrek_(std::make_unique<Vnitrek>()) {
@@ -65,7 +71,7 @@ void Surface::Line(float x1, float y1, float x2, float y2) {
     const Vyhled cil = vnitrek_->Logicka.Pohled();
     RastrUsecka(static_cast<double>(x1), static_cast<double>(y1), static_cast<double>(x2),
                 static_cast<double>(y2), DrawWidth, cil.Meze(),
-                [&](int x, int y) { cil.Radka(y)[x] = barva; });
+                [&](const Obdelnik& o) { Vybarvi(cil, o, barva); });
     vnitrek_->Pridej(PolozkaUsecky{x1, y1, x2, y2, std::max(DrawWidth, 1), barva});
 }
 
@@ -74,7 +80,7 @@ void Surface::Circle(float x, float y, float r) {
     const Pixel barva = Barvivo(*vnitrek_, ForeColor);
     const Vyhled cil = vnitrek_->Logicka.Pohled();
     RastrKruznice(static_cast<double>(x), static_cast<double>(y), static_cast<double>(r), DrawWidth,
-                  cil.Meze(), [&](int px, int py) { cil.Radka(py)[px] = barva; });
+                  cil.Meze(), [&](const Obdelnik& o) { Vybarvi(cil, o, barva); });
     vnitrek_->Pridej(PolozkaKruznice{x, y, r, std::max(DrawWidth, 1), barva});
 }
 
@@ -85,10 +91,13 @@ void Surface::Kotouc(float x, float y, float r) {
     constexpr int DALEKO = std::numeric_limits<int>::max() / 4;
     std::map<int, std::pair<int, int>> radky;
     RastrKruznice(static_cast<double>(x), static_cast<double>(y), static_cast<double>(r), 1,
-                  {-DALEKO, -DALEKO, 2 * DALEKO, 2 * DALEKO}, [&](int px, int py) {
-                      auto [radka, nova] = radky.try_emplace(py, px, px);
-                      radka->second.first = std::min(radka->second.first, px);
-                      radka->second.second = std::max(radka->second.second, px);
+                  {-DALEKO, -DALEKO, 2 * DALEKO, 2 * DALEKO}, [&](const Obdelnik& o) {
+                      const int vpravo = o.Left + o.Width - 1;
+                      for (int py = o.Top; py < o.Top + o.Height; ++py) {
+                          auto [radka, nova] = radky.try_emplace(py, o.Left, vpravo);
+                          radka->second.first = std::min(radka->second.first, o.Left);
+                          radka->second.second = std::max(radka->second.second, vpravo);
+                      }
                   });
     for (const auto& [py, meze] : radky)
         cil.Vypln({meze.first, py, meze.second - meze.first + 1, 1}, barva);

@@ -12,16 +12,23 @@ using Pixely = std::map<std::pair<int, int>, int>;  ///< how many times each was
 
 constexpr Obdelnik VSUDE{-2000, -2000, 4000, 4000};
 
+auto Pridavac(Pixely& pixely) {
+    return [&pixely](const Obdelnik& o) {
+        for (int i = 0; i < o.Width * o.Height; ++i)
+            ++pixely[{o.Left + i % o.Width, o.Top + i / o.Width}];
+    };
+}
+
 Pixely Usecka(double x1, double y1, double x2, double y2, const Obdelnik& meze = VSUDE,
               int pero = 1) {
     Pixely pixely;
-    RastrUsecka(x1, y1, x2, y2, pero, meze, [&](int x, int y) { ++pixely[{x, y}]; });
+    RastrUsecka(x1, y1, x2, y2, pero, meze, Pridavac(pixely));
     return pixely;
 }
 
 Pixely Kruznice(double x, double y, double r, const Obdelnik& meze = VSUDE, int pero = 1) {
     Pixely pixely;
-    RastrKruznice(x, y, r, pero, meze, [&](int px, int py) { ++pixely[{px, py}]; });
+    RastrKruznice(x, y, r, pero, meze, Pridavac(pixely));
     return pixely;
 }
 
