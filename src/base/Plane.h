@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -62,9 +61,9 @@ public:
 
     /// The pixel's colour; BEZ_BARVY outside the plane.
     [[nodiscard]] virtual Barva Point(int x, int y) const = 0;
-    /// Reads a column of pixels at x from y to y + cile.size() - 1 at once: 0 where the pixel is
-    /// exactly white, 1 where it is anything else or lies outside the plane.
-    virtual void Sloupec(int x, int y, std::span<std::uint8_t> cile) const = 0;
+    /// Reads up to 64 pixels of a row at once, x, y the first: bit i is 0 where pixel i is exactly
+    /// white, 1 where it is anything else or lies outside the plane.
+    [[nodiscard]] virtual std::uint64_t Radek(int x, int y, int pocet) const = 0;
 
     /// Copies width by height pixels of the source at zx, zy to x, y of this plane. A one-bit
     /// source turns black into ForeColor black and white into white; a one-bit target takes white

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "base/Cisla.h"
+#include "base/Pixely.h"
 #include "base/Rastr.h"
 #include "base/Text.h"
-#include "base/Vypln.h"
 
 namespace rysovna {
 
@@ -83,18 +83,8 @@ Barva PametovaPlocha::Point(int x, int y) const {
     return body_[Misto(x, y)];
 }
 
-void PametovaPlocha::Sloupec(int x, int y, std::span<std::uint8_t> cile) const {
-    const int n = static_cast<int>(cile.size());
-    const int uvnitrOd = x < 0 || x >= w_ ? n : std::clamp(-y, 0, n);
-    const int uvnitrDo = x < 0 || x >= w_ ? n : std::clamp(h_ - y, uvnitrOd, n);
-    std::uint8_t* cil = cile.data();
-    std::fill_n(cil, uvnitrOd, std::uint8_t{1});
-    if (uvnitrOd < uvnitrDo) {
-        const Barva* bod = &body_[Misto(x, y + uvnitrOd)];
-        const std::ptrdiff_t krok = w_;
-        for (int i = uvnitrOd; i < uvnitrDo; ++i, bod += krok) cil[i] = *bod != BILA;
-    }
-    std::fill(cil + uvnitrDo, cil + n, std::uint8_t{1});
+std::uint64_t PametovaPlocha::Radek(int x, int y, int pocet) const {
+    return ObsazenoVRadku(body_.data(), w_, h_, x, y, pocet, BILA);
 }
 
 bool PametovaPlocha::BitBlt(int x, int y, int w, int h, const Plane& zdroj, int zx, int zy,

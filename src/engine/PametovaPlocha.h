@@ -28,7 +28,7 @@ public:
     [[nodiscard]] int TextHeight() const override { return VYSKA_ZNAKU; }
     void Cls() override;
     [[nodiscard]] Barva Point(int x, int y) const override;
-    void Sloupec(int x, int y, std::span<std::uint8_t> cile) const override;
+    [[nodiscard]] std::uint64_t Radek(int x, int y, int pocet) const override;
     bool BitBlt(int x, int y, int w, int h, const Plane& zdroj, int zx, int zy, Rop rop) override;
     void InvertRect(int x, int y, int w, int h) override;
     [[nodiscard]] std::unique_ptr<Plane> CreateCompatibleBitmap(int w, int h) const override;

@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-#include "base/Vypln.h"
+#include "base/Pixely.h"
 
 namespace rysovna {
 

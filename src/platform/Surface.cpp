@@ -4,8 +4,8 @@
 #include <limits>
 #include <map>
 
+#include "base/Pixely.h"
 #include "base/Rastr.h"
-#include "base/Vypln.h"
 #include "platform/Pisma.h"
 #include "platform/SurfaceVnitrek.h"
 
@@ -145,16 +145,9 @@ Barva Surface::Point(int x, int y) const {
     return ZPixelu(b.Radka(y)[x]);
 }
 
-void Surface::Sloupec(int x, int y, std::span<std::uint8_t> cile) const {
+std::uint64_t Surface::Radek(int x, int y, int pocet) const {
     const Bitmapa& b = vnitrek_->Logicka;
-    std::fill(cile.begin(), cile.end(), std::uint8_t{1});
-    if (x < 0 || x >= b.Sirka) return;
-    const int od = std::max(y, 0);
-    const int po = static_cast<int>(
-        std::min<std::ptrdiff_t>(b.Vyska, y + static_cast<std::ptrdiff_t>(cile.size())));
-    const Pixel* p = b.Body.data() + static_cast<std::ptrdiff_t>(od) * b.Sirka + x;
-    for (int i = od; i < po; ++i, p += b.Sirka)
-        cile[static_cast<std::size_t>(i - y)] = *p == DoPixelu(BILA) ? 0 : 1;
+    return ObsazenoVRadku(b.Body.data(), b.Sirka, b.Vyska, x, y, pocet, DoPixelu(BILA));
 }
 
 bool Surface::BitBlt(int x, int y, int w, int h, const Plane& zdroj, int zx, int zy, Rop rop) {

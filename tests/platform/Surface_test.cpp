@@ -191,11 +191,10 @@ TEST_F(SurfaceTest, BezAutoRedrawSeNekresliNicAClsVratiPodklad) {
     EXPECT_EQ(Dvojce(p, 1).Body, p.Uvnitr().Logicka.Body);
     // Occupied is what is not exactly white, and what lies outside.
     p.Vypln(3, 14, 2, 2, Rgb(254, 255, 255));
-    for (const int x : {-1, 3, 15, 20}) {
-        std::array<std::uint8_t, 26> cile{};
-        p.Sloupec(x, -3, cile);
-        int y = -3;
-        for (const auto obsazeno : cile) EXPECT_EQ(obsazeno, p.Point(x, y++) != BILA) << x;
+    for (const int y : {-1, 3, 15, 20}) {
+        const std::uint64_t obsazeno = p.Radek(-3, y, 26);
+        for (int i = 0; i < 26; ++i)
+            EXPECT_EQ(obsazeno >> i & 1, p.Point(i - 3, y) != BILA ? 1U : 0U) << y;
     }
 }
 
