@@ -15,8 +15,10 @@ constexpr std::size_t KDY_UKLIDIT = 32;
 constexpr std::size_t NEJDELSI_SEZNAM = 20000;
 
 int HloubkaPolozky(const Polozka& p) {
-    const auto* kopie = std::get_if<PolozkaKopie>(&p);
-    return kopie == nullptr ? 0 : kopie->Zdroj.Kde->Hloubka + 1;
+    if (const auto* kopie = std::get_if<PolozkaKopie>(&p)) return kopie->Zdroj.Kde->Hloubka + 1;
+    if (const auto* vrstvy = std::get_if<PolozkaVrstev>(&p))
+        return std::max(vrstvy->Dolni.Kde->Hloubka, vrstvy->Horni.Kde->Hloubka) + 1;
+    return 0;
 }
 
 bool Skryje(const Dosah& nova, const Polozka& stara, const DisplayList& s) {
@@ -36,6 +38,32 @@ void Uklid(DisplayList& s, const Dosah& nova) {
     }
     s.Polozky.resize(zije, PolozkaObraceni{});
     s.Vykresleno = vykresleno;
+}
+
+/// A list without items in the place of another.
+Okamzik Prazdny(const DisplayList& jako) {
+    auto novy = std::make_shared<DisplayList>();
+    novy->Sirka = jako.Sirka;
+    novy->Vyska = jako.Vyska;
+    novy->Pozadi = jako.Pozadi;
+    novy->Podklad = jako.Podklad;
+    return {std::move(novy), 0};
+}
+
+/// A list of its own with the items of that moment.
+Okamzik Opis(const Okamzik& okamzik) {
+    const DisplayList& stary = *okamzik.Kde;
+    Okamzik opis{Prazdny(stary).Kde, okamzik.Pocet};
+    DisplayList& novy = *opis.Kde;
+    novy.Hloubka = stary.Hloubka;
+    novy.Polozky.assign(stary.Polozky.begin(),
+                        stary.Polozky.begin() + static_cast<std::ptrdiff_t>(okamzik.Pocet));
+    if (stary.Vykresleno <= okamzik.Pocet) {
+        novy.Dvojce = stary.Dvojce;
+        novy.Meritko = stary.Meritko;
+        novy.Vykresleno = stary.Vykresleno;
+    }
+    return opis;
 }
 
 }  // namespace
@@ -61,6 +89,7 @@ Dosah DosahPolozky(const Polozka& p, const DisplayList& s) {
             return V(x.Kam, x.Jak == Prenos::Kopie || x.Jak == Prenos::NaJednobitovou);
         }
         Dosah operator()(const PolozkaObraceni& x) const { return V(x.Kde, false); }
+        Dosah operator()(const PolozkaVrstev&) const { return {Cely, true}; }
     };
     return std::visit(Navstevnik{v, cely}, p);
 }
@@ -84,39 +113,23 @@ void Surface::Vnitrek::Vyprazdni(Pixel pozadi) {
 
 void Surface::Vnitrek::Pridej(Polozka p) {
     const int hloubka = HloubkaPolozky(p);
+    const Dosah dosah = DosahPolozky(p, *Obsah.Kde);
+    const bool vse = dosah.Kryje && dosah.Kde == Obdelnik{0, 0, Logicka.Sirka, Logicka.Vyska};
     const bool sam = Obsah.Kde.use_count() == 1;
     // A list that others hold may only grow, at its end. Nor may it take in a copy that could lead
     // back here: of itself (two surfaces may share it), or of a list that holds copies.
     const auto* kopie = std::get_if<PolozkaKopie>(&p);
-    const bool pripsat = sam || (Obsah.Kde->Polozky.size() == Obsah.Pocet && hloubka < 2 &&
+    const bool pripsat = sam || (!vse && Obsah.Kde->Polozky.size() == Obsah.Pocet && hloubka < 2 &&
                                  (kopie == nullptr || kopie->Zdroj.Kde != Obsah.Kde));
-    if (!pripsat) {
-        const DisplayList& stary = *Obsah.Kde;
-        const bool platne = stary.Vykresleno <= Obsah.Pocet;
-        auto novy = std::make_shared<DisplayList>();
-        novy->Sirka = stary.Sirka;
-        novy->Vyska = stary.Vyska;
-        novy->Pozadi = stary.Pozadi;
-        novy->Podklad = stary.Podklad;
-        novy->Hloubka = stary.Hloubka;
-        novy->Polozky.assign(stary.Polozky.begin(),
-                             stary.Polozky.begin() + static_cast<std::ptrdiff_t>(Obsah.Pocet));
-        if (platne) {
-            novy->Dvojce = stary.Dvojce;
-            novy->Meritko = stary.Meritko;
-            novy->Vykresleno = stary.Vykresleno;
-        }
-        Obsah.Kde = std::move(novy);
-    }
+    if (!pripsat) Obsah = vse ? Prazdny(*Obsah.Kde) : Opis(Obsah);
     DisplayList& s = *Obsah.Kde;
     if (s.Polozky.size() > Obsah.Pocet) {
         // Nobody else is left who saw the rest.
         s.Polozky.resize(Obsah.Pocet, PolozkaObraceni{});
         if (s.Vykresleno > Obsah.Pocet) s.Meritko = 0;
     }
-    const Dosah dosah = DosahPolozky(p, s);
     const bool jediny = Obsah.Kde.use_count() == 1;
-    if (jediny && dosah.Kryje && dosah.Kde == Obdelnik{0, 0, s.Sirka, s.Vyska}) {
+    if (jediny && vse) {
         s.Polozky.clear();
         s.Vykresleno = 0;
         s.Hloubka = 0;

@@ -63,8 +63,14 @@ struct PolozkaPixelu {
 struct PolozkaObraceni {
     Obdelnik Kde;
 };
-using Polozka = std::variant<PolozkaUsecky, PolozkaKruznice, PolozkaTextu, PolozkaVyplne,
-                             PolozkaObrazku, PolozkaKopie, PolozkaPixelu, PolozkaObraceni>;
+/// Two other surfaces as they were then, the upper one moved to the right.
+struct PolozkaVrstev {
+    Okamzik Dolni, Horni;
+    int Vpravo;
+};
+using Polozka =
+    std::variant<PolozkaUsecky, PolozkaKruznice, PolozkaTextu, PolozkaVyplne, PolozkaObrazku,
+                 PolozkaKopie, PolozkaPixelu, PolozkaObraceni, PolozkaVrstev>;
 
 /// What was drawn on a surface since it was last empty, and the display bitmap that was made of it.
 struct DisplayList {

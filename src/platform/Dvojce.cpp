@@ -4,6 +4,7 @@
 
 #include "platform/DisplayList.h"
 #include "platform/Pisma.h"
+#include "platform/Vrstvy.h"
 
 namespace rysovna {
 
@@ -119,6 +120,14 @@ public:
         const Bitmapa vetsi =
             ostre ? Zopakuj(*p.Co, kam) : Preskaluj(p.Co->KeCteni(), kam.Width, kam.Height, true);
         Prenes(cil_.Pohled(), kam, cil_.Pohled().Meze(), vetsi, 0, 0, Podily(p.Jak), p.Klic);
+    }
+
+    void operator()(const PolozkaVrstev& v) {
+        Dokonci();
+        Bitmapa docasnaDolni, docasnaHorni;
+        SlozVrstvy(cil_.Pohled(), cil_.Pohled().Meze(), cil_.Pohled().Meze(),
+                   Vykresli(v.Dolni, s_, docasnaDolni), Vykresli(v.Horni, s_, docasnaHorni),
+                   Zvetsi(v.Vpravo, s_));
     }
 
     void operator()(const PolozkaObraceni& o) {

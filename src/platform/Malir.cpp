@@ -4,6 +4,7 @@
 #include <cairo.h>
 #include <cmath>
 #include <optional>
+#include <span>
 
 #include "base/Chyba.h"
 #include "platform/MalirObjektu.h"
@@ -27,6 +28,12 @@ struct Zaznam {
         return Formular == z.Formular && Objekt.Co == z.Objekt.Co;
     }
 };
+
+/// Whether it paints over all that may be touched.
+bool Kryje(const Zaznam& z, const Kresba& k) {
+    return Pokryva(k.NaCil(z.Objekt.Videt), k.Orez) &&
+           (z.Formular != nullptr ? Kryje(*z.Formular) : Kryje(z.Objekt));
+}
 
 /// All that is to be painted, the lowest first.
 class Soupis {
@@ -211,7 +218,10 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
     }
     for (const Obdelnik& o : spinave) {
         k.Orez = Prunik(o, k.NaCil(NAVRH));
-        for (const Zaznam& z : soupis.Radky) {
+        // What is painted over entirely is not painted at all.
+        std::size_t prvni = soupis.Radky.size();
+        while (prvni > 0 && !Kryje(soupis.Radky[--prvni], k)) continue;
+        for (const Zaznam& z : std::span(soupis.Radky).subspan(prvni)) {
             if (z.Formular != nullptr) {
                 NamalujForm(k, *z.Formular, z.Objekt.Kde);
             } else {

@@ -137,6 +137,12 @@ void Namaluj(const Kresba& k, Bod posun, const CircleShape& c) {
               2 * 3.14159265358979323846);
 }
 
+/// Of a picture over a ground that is painted where the picture does not reach.
+bool KryjePodklad(const Obrazek& obrazek, int sirka, int vyska, bool maPodklad) {
+    if (obrazek.Prazdny() || obrazek.Width() < sirka || obrazek.Height() < vyska) return maPodklad;
+    return !obrazek.Data()->MaKlic;
+}
+
 }  // namespace
 
 Obdelnik DosahTvaru(const Ovladac& o) {
@@ -161,6 +167,30 @@ void NamalujForm(const Kresba& k, const Form& form, const Obdelnik& kde) {
     if (form.Picture.Width() < form.Width || form.Picture.Height() < form.Height)
         k.Cil.Vypln(Prunik(k.NaCil(kde), k.Orez), DoPixelu(form.BackColor));
     NamalujObrazek(k, kde, form.Picture);
+}
+
+bool Kryje(const Form& form) {
+    return KryjePodklad(form.Picture, form.Width, form.Height, true);
+}
+
+bool Kryje(const Umisteny& u) {
+    switch (u.Co->Druh) {
+        case Ovladac::Typ::PictureBox: {
+            const auto& p = static_cast<const PictureBox&>(*u.Co);
+            if (const Surface* plocha = p.PlochaNeboNic()) return !plocha->Uvnitr().MaKlic;
+            return KryjePodklad(p.Picture, p.Width, p.Height, !p.Pruhledny);
+        }
+        case Ovladac::Typ::Image: {
+            const auto& i = static_cast<const Image&>(*u.Co);
+            return KryjePodklad(i.Picture, i.Width, i.Height, false);
+        }
+        case Ovladac::Typ::Label:
+            return static_cast<const Label&>(*u.Co).BackColor != BEZ_BARVY;
+        case Ovladac::Typ::TextBox:
+            return true;
+        default:
+            return false;
+    }
 }
 
 void NamalujObjekt(const Kresba& k, const Umisteny& u) {

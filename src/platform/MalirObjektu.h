@@ -36,6 +36,9 @@ struct Umisteny {
     friend bool operator==(const Umisteny&, const Umisteny&) = default;
 };
 
+/// Whether the object, the form's ground, paints over all that lies beneath it.
+[[nodiscard]] bool Kryje(const Umisteny& u);
+[[nodiscard]] bool Kryje(const Form& form);
 /// Paints one object, within k.Orez and what of it can be seen.
 void NamalujObjekt(const Kresba& k, const Umisteny& u);
 /// Paints the ring of the keys, and the cross where it has one, over all else.

@@ -8,6 +8,7 @@
 #include "base/Rastr.h"
 #include "platform/Pisma.h"
 #include "platform/SurfaceVnitrek.h"
+#include "platform/Vrstvy.h"
 
 namespace rysovna {
 
@@ -233,6 +234,21 @@ void Surface::PaintPicture(const Obrazek& obrazek, int x, int y) {
            vyrez.Top, Prenos::Kopie);
     vnitrek_->MaKlic = vnitrek_->MaKlic || obrazek.Data()->MaKlic;
     vnitrek_->Pridej(PolozkaObrazku{obrazek, x, y});
+}
+
+void Surface::PolozVrstvy(const Surface& dolni, const Surface& horni, int vpravo) {
+    if (!AutoRedraw) return;
+    Vnitrek& v = *vnitrek_;
+    const Vnitrek& d = *dolni.vnitrek_;
+    const Vnitrek& h = *horni.vnitrek_;
+    const Obdelnik cely = Cely(v.Logicka);
+    SlozVrstvy(v.Logicka.Pohled(), cely, cely, d.Logicka, h.Logicka, vpravo);
+    v.MaKlic = d.MaKlic;
+    if (std::max(d.Obsah.Kde->Hloubka, h.Obsah.Kde->Hloubka) >= NEJVETSI_HLOUBKA) {
+        v.Pridej(PolozkaPixelu{cely, std::make_shared<Bitmapa>(v.Logicka), Prenos::Kopie, KLIC});
+    } else {
+        v.Pridej(PolozkaVrstev{d.Obsah, h.Obsah, vpravo});
+    }
 }
 
 }  // namespace rysovna

@@ -42,6 +42,9 @@ public:
     void Vypln(int x, int y, int w, int h, Barva barva);
     /// Lays a picture on the surface, its top left corner at x, y.
     void PaintPicture(const Obrazek& obrazek, int x, int y);
+    /// Makes the whole picture of two others of its size, which a moving one takes over and over:
+    /// dolni, and over it horni moved to the right by so many pixels, the key colour see-through.
+    void PolozVrstvy(const Surface& dolni, const Surface& horni, int vpravo);
     /// The ground that Cls goes back to: a picture over BackColor, or BackColor alone (empty).
     void NastavPodklad(const Obrazek& podklad);
 

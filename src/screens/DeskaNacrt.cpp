@@ -73,13 +73,7 @@ void DeskaForm::SlozPanel() {
 /// Lays the panel, pushed out to the right by so many pixels, on what lies beneath it.
 void DeskaForm::PolozPanel(int odsunuti) {
     SelectForm& menu = Menu(s_);
-    const int w = VPImage.Width;
-    const int h = VPImage.Height;
-    Surface& kopie = menu.Kopie.Plocha();
-    kopie.Vypln(0, 0, w, h, PURPUROVA);
-    kopie.BitBlt(odsunuti, 0, w - odsunuti, h, menu.Kopie2.Plocha(), 0, 0, Rop::SrcCopy);
-    ProhledneKopirovani(kopie, w, h, PURPUROVA, menu.Pozadi.Plocha(), menu.Vysledek.Plocha());
-    VPImage.Plocha().BitBlt(0, 0, w, h, menu.Vysledek.Plocha(), 0, 0, Rop::SrcCopy);
+    VPImage.Plocha().PolozVrstvy(menu.Pozadi.Plocha(), menu.Kopie2.Plocha(), odsunuti);
 }
 
 /// The resting panel: the picture with its see-through parts, so that the plane and what is dragged
@@ -91,15 +85,18 @@ void DeskaForm::PolozKlidnyPanel() {
 }
 
 /// Slides the panel out or in by frames, with no event let through until the last one: what is
-/// pressed meanwhile was meant for the panel.
+/// pressed meanwhile was meant for the panel. The clock says which frame it is: one whose time is
+/// over before its turn is not drawn.
 Cinnost<> DeskaForm::PosunPanel(bool ven) {
     const Obrazovky::Zavreni zavreni(s_.Okna());
     const std::uint32_t zacatek = s_.Stroj.TickCount();
     for (int k = 0; k < SNIMKU; ++k) {
-        PolozPanel(KROK_SNIMKU * (ven ? SNIMKU - 1 - k : k));
-        s_.Stroj.Prekresli();
-        const std::uint32_t konec = zacatek + static_cast<std::uint32_t>(k + 1) * DOBA_SNIMKU;
-        const std::uint32_t ted = s_.Stroj.TickCount();
+        const std::uint32_t konec = static_cast<std::uint32_t>(k + 1) * DOBA_SNIMKU;
+        if (s_.Stroj.TickCount() - zacatek < konec) {
+            PolozPanel(KROK_SNIMKU * (ven ? SNIMKU - 1 - k : k));
+            s_.Stroj.Prekresli();
+        }
+        const std::uint32_t ted = s_.Stroj.TickCount() - zacatek;
         co_await Cekani::SVstupem(ted < konec ? konec - ted : 0);
     }
     co_await Cekani::SVstupem(0);

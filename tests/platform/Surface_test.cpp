@@ -43,12 +43,13 @@ TEST_F(SurfaceTest, SeznamDavaTotezCoLogickaBitmapa) {
         const std::array<Surface*, 4> plochy = {&a, &b, &c, &m};
         const Obrazek obrazek = Kolecko(12, Rgb(10, 200, 30));
         const Rop rops[] = {Rop::SrcCopy, Rop::SrcAnd, Rop::SrcPaint};
-        const std::array<std::function<void(Surface&, Surface&, int, int)>, 7> kroky = {
+        const std::array<std::function<void(Surface&, Surface&, int, int)>, 8> kroky = {
             [&](auto& p, auto&, int x, int y) { p.Vypln(x, y, d(30), d(30), d(0x1000000)); },
             [&](auto& p, auto&, int x, int y) { p.InvertRect(x, y, d(30), d(30)); },
             [&](auto& p, auto&, int x, int y) { p.PaintPicture(obrazek, x, y); },
             [&](auto& p, auto& z, int, int) { p.BitBlt(0, 0, 40, 35, z, 0, 0, Rop::SrcCopy); },
             [&](auto& p, auto&, int x, int y) { x + y < 0 ? p.Cls() : void(); },
+            [&](auto&, auto&, int x, int) { (x % 2 ? a : b).PolozVrstvy(x % 2 ? b : a, m, d(40)); },
             [&](auto&, auto& z, int x, int) { z.BkColor = x % 2 == 0 ? PURPUROVA : BILA; },
             [&](auto& p, auto& z, int x, int y) {
                 p.BitBlt(x, y, d(30), d(30), z, d(40) - 8, d(30) - 8, rops[d(3)]);
@@ -57,7 +58,7 @@ TEST_F(SurfaceTest, SeznamDavaTotezCoLogickaBitmapa) {
         for (int krok = 0; krok < 300; ++krok) {
             Surface& p = *plochy[static_cast<std::size_t>(d(4))];
             Surface& z = *plochy[static_cast<std::size_t>(d(4))];
-            kroky[static_cast<std::size_t>(std::min(d(8), 6))](p, z, d(50) - 8, d(40) - 8);
+            kroky[static_cast<std::size_t>(std::min(d(9), 7))](p, z, d(50) - 8, d(40) - 8);
             if (d(10) == 0) (void)Dvojce(p, 1);
             if (d(40) == 0) (void)Dvojce(p, 2);
         }
@@ -84,6 +85,12 @@ TEST_F(SurfaceTest, ZamaskovanaKopieNemaLemyVZadneVelikosti) {
     maska->InvertRect(0, 0, W, H);
     kopiruj(zdroj, *maska, Rop::SrcAnd);
     kopiruj(cil, zdroj, Rop::SrcPaint);
+    // The same in one, at rest and pushed aside.
+    Surface panel(W, H), spolu(W, H), vedle(W, H);
+    panel.PaintPicture(Kolecko(40, Rgb(20, 40, 220)), 0, 0);
+    panel.Vypln(40, 0, 20, 40, PURPUROVA);
+    spolu.PolozVrstvy(pozadi, panel, 0);
+    vedle.PolozVrstvy(pozadi, panel, 7);
     for (const double s : {1.0, 1.5, 2.25, 3.0}) {
         const Bitmapa dvojce = Dvojce(cil, s);
         // Each pixel is so much of the disc and the rest of what lies beneath: no third colour.
@@ -99,6 +106,19 @@ TEST_F(SurfaceTest, ZamaskovanaKopieNemaLemyVZadneVelikosti) {
         }
         EXPECT_NEAR(modrych / (s * s), 1256, 30) << "the disc keeps its size";
         EXPECT_EQ(smichanych > 100, s != 1) << "smooth where pixels are to be had, " << s;
+        const Bitmapa jedno = Dvojce(spolu, s), posunute = Dvojce(vedle, s);
+        const int o = Zvetsi(7, s);
+        for (int i = 0; i < dvojce.Sirka * dvojce.Vyska; ++i) {
+            const int x = i % dvojce.Sirka, y = i / dvojce.Sirka;
+            for (const unsigned kanal : {0U, 8U, 16U}) {
+                const auto u = [&](const Bitmapa& b) {
+                    return static_cast<int>(b.Radka(y)[x] >> kanal & 0xFF);
+                };
+                ASSERT_NEAR(u(jedno), u(dvojce), 2) << s;
+            }
+            ASSERT_EQ(posunute.Radka(y)[x],
+                      x < o ? DoPixelu(Rgb(250, 240, 10)) : jedno.Radka(y)[x - o]);
+        }
     }
     EXPECT_EQ(Dvojce(cil, 1).Body, cil.Uvnitr().Logicka.Body);
 }

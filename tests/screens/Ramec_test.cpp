@@ -52,6 +52,29 @@ TEST(RamecDesky, PanelVyjizdiTriceticiCtyrmiSnimkyPoCtyricetiMsANikohoNepusti) {
     }
 }
 
+TEST(RamecDesky, PozdniSnimekPaneluSeVynechaAJizdaSeNeprodlouzi) {
+    Rysovac r;
+    HeadlessHost& host = r.Hra.Host();
+    for (const std::uint32_t kresleni : {39U, 41U, 100U, 2000U}) {
+        std::vector<std::uint32_t> snimky;
+        const std::uint32_t zacatek = host.TickCount();
+        host.PriPrekresleni = [&] {
+            snimky.push_back((host.TickCount() - zacatek) / 40);
+            host.PosunHodiny(kresleni);
+        };
+        const bool zavrit = r.Hra.Prvek("Image1").Tag == "1";
+        r.Kdo.Stiskni(zavrit ? "Image1" : "MalaSipka");
+        host.PriPrekresleni = nullptr;
+        // One that is drawn late ends the slide at most by its own drawing later.
+        const std::uint32_t doba = host.TickCount() - zacatek - (zavrit ? 20 : 0);
+        EXPECT_GE(doba, 1360U);
+        EXPECT_LT(doba, std::max(1360U, snimky.back() * 40 + kresleni + 40)) << kresleni;
+        EXPECT_EQ(std::ranges::adjacent_find(snimky, std::greater_equal()), snimky.end());
+        EXPECT_EQ(snimky.size(), 1359 / std::max(kresleni, 40U) + 1) << kresleni;
+        EXPECT_EQ(r.Hra.Prvek("Image1").Tag, zavrit ? "0" : "1");
+    }
+}
+
 TEST(RamecDesky, NajetiRozsvitiJednoAOdjezdZhasneVsechna) {
     Rysovac r;
     constexpr struct Prvek {
