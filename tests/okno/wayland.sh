@@ -24,8 +24,11 @@ fotka() {
     grim "$prace/$1.png"
     [ -z "$obrazky" ] || { mkdir -p "$obrazky"; cp "$prace/$1.png" "$obrazky/wayland_$1.png"; }
 }
-# How far two pictures are from each other, 0 to 1000.
-rozdil() { compare -metric RMSE "$1" "$2" null: 2>&1 | sed 's/.*(\(.*\))/\1/' | awk '{ printf "%d", $1 * 1000 }'; }
+# How far two pictures are from each other, 0 to 1000; nothing if they cannot be compared.
+rozdil() {
+    compare -metric RMSE "$1" "$2" null: 2>&1 | sed -n 's/^[0-9.e-]* (\([0-9.e-]*\))$/\1/p' |
+        awk '{ printf "%d", $1 * 1000 }'
+}
 # The condition comes true within so many seconds.
 #   pockej SECONDS COMMAND...
 pockej() {
@@ -57,7 +60,8 @@ pockej 10 je_socket || selhani "sway se nespustil: $(cat "$prace/sway")"
 export SWAYSOCK WAYLAND_DISPLAY=wayland-1
 
 cp -r "$staging" "$prace/hra"
-titul="$prace/hra/assets/Bitmap/Intro/title.bmp"
+titul="$prace/vzor.bmp"
+"$staging/kodovani" rozbal "$prace/hra/assets/Bitmap/Intro/title.bmp" "$titul"
 "$prace/hra/rysovna" 2>"$prace/chyby" &
 pid_hra=$!
 je_titul() { fotka titul && [ "$(rozdil "$prace/titul.png" "$titul")" -lt 20 ]; }
