@@ -184,10 +184,12 @@ bool Surface::BitBlt(int x, int y, int w, int h, const Plane& zdroj, int zx, int
         return true;
     }
     const Vnitrek& z = *plocha->vnitrek_;
-    Prenes(cil, kam, cil.Meze(), z.Logicka, kx, ky, jak, klic);
-    v.MaKlic = v.MaKlic || z.MaKlic;
     const bool cela = jak == Prenos::Kopie && kx == 0 && ky == 0 && kam == Cely(v.Logicka) &&
                       kam == Cely(z.Logicka);
+    // A redraw copies the plane twice: the second time it is there already.
+    if (cela && v.Obsah.Kde == z.Obsah.Kde && v.Obsah.Pocet == z.Obsah.Pocet) return true;
+    Prenes(cil, kam, cil.Meze(), z.Logicka, kx, ky, jak, klic);
+    v.MaKlic = v.MaKlic || z.MaKlic;
     if (cela) {
         v.Obsah = z.Obsah;
         v.NovaVerze();
