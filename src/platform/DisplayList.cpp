@@ -107,7 +107,7 @@ void Surface::Vnitrek::Vyprazdni(Pixel pozadi) {
     novy->Pozadi = pozadi;
     novy->Podklad = Podklad;
     Obsah = {std::move(novy), 0};
-    MaKlic = !Podklad.Prazdny() && Podklad.Data()->MaKlic;
+    MaKlic = !Podklad.Prazdny() && Podklad.Data()->MaKlic();
     NovaVerze();
 }
 

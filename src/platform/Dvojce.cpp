@@ -96,11 +96,8 @@ public:
 
     void operator()(const PolozkaObrazku& o) {
         Dokonci();
-        if (o.Co.Prazdny()) return;
-        const Obdelnik& vyrez = o.Co.Vyrez();
-        Prenes(cil_.Pohled(), Zvetsi({o.X, o.Y, vyrez.Width, vyrez.Height}, s_),
-               cil_.Pohled().Meze(), o.Co.Data()->VeVelikosti(s_), Zvetsi(vyrez.Left, s_),
-               Zvetsi(vyrez.Top, s_), Prenos::Kopie);
+        PolozObrazek(cil_.Pohled(), Zvetsi({o.X, o.Y, o.Co.Width(), o.Co.Height()}, s_),
+                     cil_.Pohled().Meze(), o.Co, s_, false);
     }
 
     void operator()(const PolozkaKopie& k) {

@@ -8,6 +8,7 @@
 
 #include "base/Chyba.h"
 #include "platform/MalirObjektu.h"
+#include "platform/ObrazekData.h"
 #include "platform/Obrazovky.h"
 
 namespace rysovna {
@@ -216,6 +217,7 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
         for (Obdelnik& o : spinave) o = Prunik(k.NaCil(o), k.NaCil(NAVRH));
         std::erase_if(spinave, [](const Obdelnik& o) { return JePrazdny(o); });
     }
+    if (vse) ZacniMalovat();
     for (const Obdelnik& o : spinave) {
         k.Orez = Prunik(o, k.NaCil(NAVRH));
         // What is painted over entirely is not painted at all.
@@ -231,6 +233,7 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
         for (const Obrazovky::Ohlas& ohlas : ohlasy) NamalujOhlas(k, ohlas);
         if (prsten) NamalujPrsten(k, *prsten);
     }
+    if (vse) ZahodNevidene();
     v = {false,  cil.Sirka,        cil.Vyska, okna.Verze(), std::move(soupis.Radky),
          prsten, std::move(ohlasy)};
     return spinave;

@@ -19,11 +19,8 @@ constexpr Pixel OBRYS = DoPixelu(paleta::OBRYS);
 
 void NamalujObrazek(const Kresba& k, const Obdelnik& kde, const Obrazek& obrazek) {
     if (obrazek.Prazdny()) return;
-    const Obdelnik& vyrez = obrazek.Vyrez();
-    DataObrazku& data = *obrazek.Data();
-    const Obdelnik kam = k.NaCil({kde.Left, kde.Top, vyrez.Width, vyrez.Height});
-    Prenes(k.Cil, kam, Prunik(k.Orez, k.NaCil(kde)), data.VeVelikosti(k.S), Zvetsi(vyrez.Left, k.S),
-           Zvetsi(vyrez.Top, k.S), data.MaKlic ? Prenos::BezKlice : Prenos::Kopie);
+    const Obdelnik kam = k.NaCil({kde.Left, kde.Top, obrazek.Width(), obrazek.Height()});
+    PolozObrazek(k.Cil, kam, Prunik(k.Orez, k.NaCil(kde)), obrazek, k.S, true);
 }
 
 void Ram(const Kresba& k, const Obdelnik& kde, Pixel barva) {
@@ -140,7 +137,7 @@ void Namaluj(const Kresba& k, Bod posun, const CircleShape& c) {
 /// Of a picture over a ground that is painted where the picture does not reach.
 bool KryjePodklad(const Obrazek& obrazek, int sirka, int vyska, bool maPodklad) {
     if (obrazek.Prazdny() || obrazek.Width() < sirka || obrazek.Height() < vyska) return maPodklad;
-    return !obrazek.Data()->MaKlic;
+    return !obrazek.Data()->MaKlic();
 }
 
 }  // namespace

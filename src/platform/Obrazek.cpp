@@ -1,7 +1,6 @@
 #include "platform/Obrazek.h"
 
 #include <algorithm>
-#include <cairo.h>
 #include <map>
 
 #include "base/Chyba.h"
@@ -14,62 +13,101 @@ namespace rysovna {
 
 namespace {
 
-/// The large twin that stands beside a bitmap, brought to the size; empty where none can be read.
-Bitmapa ZDvojcete(std::filesystem::path cesta, int sirka, int vyska, bool sKlicem) {
-    cesta.replace_extension(".png");
-    cairo_surface_t* png = cairo_image_surface_create_from_png(cesta.c_str());
-    Bitmapa obraz;
-    const auto format = cairo_image_surface_get_format(png);
-    if (cairo_surface_status(png) == CAIRO_STATUS_SUCCESS &&
-        (format == CAIRO_FORMAT_RGB24 || format == CAIRO_FORMAT_ARGB32)) {
-        obraz = Preskaluj({reinterpret_cast<const Pixel*>(cairo_image_surface_get_data(png)),
-                           cairo_image_surface_get_width(png), cairo_image_surface_get_height(png),
-                           cairo_image_surface_get_stride(png) / static_cast<int>(sizeof(Pixel))},
-                          sirka, vyska, sKlicem);
-    }
-    cairo_surface_destroy(png);
-    return obraz;
-}
-
 /// Pictures that somebody still shows, by their real paths.
 std::map<std::filesystem::path, std::weak_ptr<DataObrazku>>& Nactene() {
     static std::map<std::filesystem::path, std::weak_ptr<DataObrazku>> nactene;
     return nactene;
 }
 
-double g_ocekavaneMeritko = 1;
-/// Holds the picture that was asked for ahead until somebody takes it.
-Obrazek g_prednacteny;
+/// How many whole paintings there were.
+std::uint64_t g_malovani = 0;
+
+bool ObsahujeKlic(const Bitmapa& b) {
+    return std::find(b.Body.begin(), b.Body.end(), KLIC) != b.Body.end();
+}
+
+/// The shapes beside a bitmap file, if they were made with the very pixels that it has.
+std::unique_ptr<Tvary> NajdiTvary(std::filesystem::path soubor, const HlavaBmp& hlava) {
+    if (!hlava.Otisk) return nullptr;
+    auto tvary = NactiTvary(soubor.replace_extension(PRIPONA_TVARU));
+    if (tvary && (tvary->Otisk != *hlava.Otisk || tvary->Sirka != hlava.Sirka ||
+                  tvary->Vyska != hlava.Vyska))
+        tvary.reset();
+    return tvary;
+}
 
 }  // namespace
 
+DataObrazku::DataObrazku(Bitmapa logicka)
+    : sirka_(logicka.Sirka),
+      vyska_(logicka.Vyska),
+      maKlic_(ObsahujeKlic(logicka)),
+      logicka_(std::move(logicka)) {}
+
+DataObrazku::DataObrazku(std::filesystem::path soubor) : soubor_(std::move(soubor)) {
+    const HlavaBmp hlava = NactiHlavuBmp(soubor_);
+    sirka_ = hlava.Sirka;
+    vyska_ = hlava.Vyska;
+    tvary_ = NajdiTvary(soubor_, hlava);
+    maKlic_ = tvary_ ? tvary_->MaKlic : ObsahujeKlic(Logicka());
+}
+
+const Bitmapa& DataObrazku::Logicka() {
+    if (logicka_.Prazdna() && !soubor_.empty()) logicka_ = NactiBmp(soubor_);
+    return logicka_;
+}
+
 const Bitmapa& DataObrazku::VeVelikosti(double s) {
-    if (s == 1 || Logicka.Prazdna()) return Logicka;
-    if (meritko_ != s) {
-        const int sirka = Zvetsi(Logicka.Sirka, s);
-        const int vyska = Zvetsi(Logicka.Vyska, s);
-        // Let go first: both sizes at once would only cost memory.
+    if (s == 1) return Logicka();
+    videna_ = g_malovani;
+    if (meritko_ == s) return zvetsena_;
+    const int sirka = std::max(Zvetsi(sirka_, s), 1);
+    const int vyska = std::max(Zvetsi(vyska_, s), 1);
+    if (tvary_) {
+        // In the place of another size.
+        zvetsena_.Sirka = sirka;
+        zvetsena_.Vyska = vyska;
+        zvetsena_.Body.resize(static_cast<std::size_t>(sirka) * static_cast<std::size_t>(vyska));
+        const Obdelnik vse{0, 0, sirka, vyska};
+        KresliTvary(zvetsena_.Pohled(), vse, vse, *tvary_);
+    } else {
         zvetsena_ = {};
-        if (budouci_.valid() && budouciMeritko_ == s) {
-            zvetsena_ = budouci_.get();
-        } else if (!Cesta.empty()) {
-            zvetsena_ = ZDvojcete(Cesta, sirka, vyska, MaKlic);
-        }
-        if (zvetsena_.Prazdna()) zvetsena_ = Preskaluj(Logicka.KeCteni(), sirka, vyska, MaKlic);
-        meritko_ = s;
+        zvetsena_ = Preskaluj(Logicka().KeCteni(), sirka, vyska, maKlic_);
     }
+    meritko_ = s;
     return zvetsena_;
 }
 
-void DataObrazku::PripravVelikost(double s) {
-    if (s == 1 || meritko_ == s || budouci_.valid() || Cesta.empty()) return;
-    budouciMeritko_ = s;
-    budouci_ = std::async(std::launch::async, ZDvojcete, Cesta, Zvetsi(Logicka.Sirka, s),
-                          Zvetsi(Logicka.Vyska, s), MaKlic);
+void PolozObrazek(const Vyhled& cil, const Obdelnik& kam, const Obdelnik& orez,
+                  const Obrazek& obrazek, double s, bool pruhledne) {
+    if (obrazek.Prazdny()) return;
+    const Obdelnik& vyrez = obrazek.Vyrez();
+    DataObrazku& data = *obrazek.Data();
+    const int zx = Zvetsi(vyrez.Left, s);
+    const int zy = Zvetsi(vyrez.Top, s);
+    if (const Tvary* tvary = s == 1 ? nullptr : data.PrimeTvary()) {
+        // The whole of which this is a part; by rounding, the part may end a pixel beyond it.
+        const Obdelnik cely{kam.Left - zx, kam.Top - zy,
+                            std::max(Zvetsi(data.Sirka(), s), zx + kam.Width),
+                            std::max(Zvetsi(data.Vyska(), s), zy + kam.Height)};
+        KresliTvary(cil, cely, Prunik(kam, orez), *tvary);
+        return;
+    }
+    Prenes(cil, kam, orez, data.VeVelikosti(s), zx, zy,
+           data.MaKlic() && pruhledne ? Prenos::BezKlice : Prenos::Kopie);
 }
 
-void NastavOcekavaneMeritko(double s) {
-    g_ocekavaneMeritko = s;
+void ZacniMalovat() {
+    ++g_malovani;
+}
+
+void ZahodNevidene() {
+    for (const auto& [cesta, drzeny] : Nactene()) {
+        const auto data = drzeny.lock();
+        if (!data || data->videna_ == g_malovani) continue;
+        data->zvetsena_ = {};
+        data->meritko_ = 0;
+    }
 }
 
 Bitmapa NactiBmp(const std::filesystem::path& soubor) {
@@ -82,7 +120,7 @@ Bitmapa NactiBmp(const std::filesystem::path& soubor) {
 }
 
 Obrazek::Obrazek(std::shared_ptr<DataObrazku> data) : data_(std::move(data)) {
-    if (data_) vyrez_ = {0, 0, data_->Logicka.Sirka, data_->Logicka.Vyska};
+    if (data_) vyrez_ = {0, 0, data_->Sirka(), data_->Vyska()};
 }
 
 Obrazek Obrazek::Bunka(int i, int pocet) const {
@@ -98,25 +136,10 @@ Obrazek Obrazek::Bunka(int i, int pocet) const {
 Obrazek LoadPicture(std::string_view cesta) {
     const std::filesystem::path soubor = NativniCesta(cesta);
     std::weak_ptr<DataObrazku>& nacteny = Nactene()[soubor];
-    if (auto data = nacteny.lock()) {
-        if (g_prednacteny.Data() == data) g_prednacteny = Obrazek();
-        return Obrazek(data);
-    }
-    auto data = std::make_shared<DataObrazku>();
-    data->Cesta = soubor;
-    data->Logicka = NactiBmp(soubor);
-    data->MaKlic = std::find(data->Logicka.Body.begin(), data->Logicka.Body.end(), KLIC) !=
-                   data->Logicka.Body.end();
+    if (auto data = nacteny.lock()) return Obrazek(data);
+    auto data = std::make_shared<DataObrazku>(soubor);
     nacteny = data;
     return Obrazek(data);
-}
-
-void PrednactiObrazek(std::string_view cesta) {
-    std::error_code chyba;
-    if (!std::filesystem::is_regular_file(NativniCesta(cesta), chyba)) return;
-    const Obrazek obrazek = LoadPicture(cesta);
-    obrazek.Data()->PripravVelikost(g_ocekavaneMeritko);
-    g_prednacteny = obrazek;
 }
 
 }  // namespace rysovna

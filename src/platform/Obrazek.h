@@ -7,10 +7,10 @@
 
 namespace rysovna {
 
-struct DataObrazku;
+class DataObrazku;
 
-/// A picture: its 1:1 bitmap and, where one stands beside it, its large twin (read when a larger
-/// display first shows it). A cheap value: copies share the pixels. Empty by default.
+/// A picture: its 1:1 bitmap and, where they stand beside it, its shapes, drawn on larger displays.
+/// A cheap value: copies share what was read. Empty by default.
 class Obrazek {
 public:
     Obrazek() = default;
@@ -37,10 +37,5 @@ private:
 /// Reads a picture. cesta: with backslashes, any case. A missing or damaged file is a run-time
 /// fault that names it.
 [[nodiscard]] Obrazek LoadPicture(std::string_view cesta);
-
-/// Begins to read a picture that LoadPicture will soon be asked for, in the size that the display
-/// is going to need, and returns at once: what a wait leaves idle is used. One picture at a time; a
-/// file that is not there is left for LoadPicture to find fault with.
-void PrednactiObrazek(std::string_view cesta);
 
 }  // namespace rysovna

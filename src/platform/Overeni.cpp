@@ -1,35 +1,19 @@
 #include "platform/Overeni.h"
 
-#include <cairo.h>
 #include <fstream>
 #include <ft2build.h>
-#include <memory>
 #include FT_FREETYPE_H
 
 #include "base/Chyba.h"
 #include "platform/ObrazekData.h"
+#include "platform/bmp/Bmp.h"
 
 namespace rysovna {
 namespace {
 
-/// How many times larger the twin is than its picture.
-constexpr int ZVETSENI = 3;
-
 bool JeTu(const std::filesystem::path& soubor) {
     std::error_code chyba;
     return std::filesystem::is_regular_file(soubor, chyba);
-}
-
-std::string VadaDvojcete(const std::filesystem::path& soubor, int sirka, int vyska) {
-    if (!JeTu(soubor)) return "chybí velké dvojče";
-    const std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> png(
-        cairo_image_surface_create_from_png(soubor.c_str()), &cairo_surface_destroy);
-    if (cairo_surface_status(png.get()) != CAIRO_STATUS_SUCCESS)
-        return "velké dvojče nelze přečíst";
-    if (cairo_image_surface_get_width(png.get()) != sirka * ZVETSENI ||
-        cairo_image_surface_get_height(png.get()) != vyska * ZVETSENI)
-        return "velké dvojče má jiný rozměr";
-    return {};
 }
 
 }  // namespace
@@ -39,11 +23,14 @@ std::string VadaObrazku(const std::filesystem::path& soubor, int sirka, int vysk
     try {
         const Bitmapa obraz = NactiBmp(soubor);
         if (obraz.Sirka != sirka || obraz.Vyska != vyska) return "má jiný rozměr";
+        // A picture of somebody else's is enlarged as it is.
+        auto tvary = soubor;
+        tvary.replace_extension(PRIPONA_TVARU);
+        if (NactiHlavuBmp(soubor).Otisk && !NactiTvary(tvary)) return "chybí tvary";
     } catch (const BehovaChyba& chyba) {
         return chyba.what();
     }
-    auto dvojce = soubor;
-    return VadaDvojcete(dvojce.replace_extension(".png"), sirka, vyska);
+    return {};
 }
 
 std::string VadaPisma(const std::filesystem::path& soubor) {

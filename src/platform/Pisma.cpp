@@ -22,7 +22,7 @@ namespace rysovna {
 namespace {
 
 /// The files in the order of italic (1) and bold (2), then the one that fills in.
-constexpr std::array<std::string_view, 5> SOUBORY = {
+constexpr std::array<std::string_view, POCET_REZU> SOUBORY = {
     "RysovnaSans-Regular.ttf", "RysovnaSans-Italic.ttf", "RysovnaSans-Bold.ttf",
     "RysovnaSans-BoldItalic.ttf", "RysovnaZnaky.ttf"};
 constexpr int NAHRADNI = 4;
@@ -33,6 +33,10 @@ constexpr struct {
 } SYMBOLY[] = {{U'a', U'α'}, {U'b', U'β'}, {U'g', U'γ'}, {U'd', U'δ'},
                {U'e', U'ε'}, {U'w', U'ω'}, {U'^', U'⊥'}};
 
+/// Set in a character's code, it says that this is the number of a glyph of just that font file.
+constexpr char32_t CISLO_GLYFU = 1U << 23;
+/// From this type size on glyphs begin at halves of a pixel: quarters could not be told apart.
+constexpr int PULKY_OD = 24 * 64;
 /// Quarters of a pixel at which an antialiased glyph may begin.
 constexpr int CTVRTINY = 4;
 /// Below this scale antialiased glyphs are fitted to the rows of pixels, or they look washed out.
@@ -84,6 +88,7 @@ public:
 
     /// Which file shows the character.
     int Kde(int rez, char32_t znak) {
+        if ((znak & CISLO_GLYFU) != 0) return rez;
         if (FT_Get_Char_Index(Rez(rez), znak) != 0) return rez;
         return FT_Get_Char_Index(Rez(NAHRADNI), znak) != 0 ? NAHRADNI : rez;
     }
@@ -95,7 +100,7 @@ public:
         if (nalezeny != posuvy_.end()) return nalezeny->second;
         FT_Face f = Rez(Kde(rez, znak));
         double posuv = 0;
-        if (FT_Load_Glyph(f, FT_Get_Char_Index(f, znak), FT_LOAD_NO_SCALE) == 0)
+        if (FT_Load_Glyph(f, Cislo(f, znak), FT_LOAD_NO_SCALE) == 0)
             posuv = static_cast<double>(f->glyph->advance.x) / f->units_per_EM;
         posuvy_[klic] = posuv;
         return posuv;
@@ -135,15 +140,18 @@ private:
         posuvy_.clear();
     }
 
+    static FT_UInt Cislo(FT_Face f, char32_t znak) {
+        return (znak & CISLO_GLYFU) != 0 ? znak & ~CISLO_GLYFU : FT_Get_Char_Index(f, znak);
+    }
+
     static Glyf Vytvor(FT_Face f, char32_t znak, int velikost, Rezim rezim, int ctvrtina) {
         constexpr std::array<long, 3> NACTENI = {FT_LOAD_TARGET_MONO, FT_LOAD_TARGET_LIGHT,
                                                  FT_LOAD_NO_HINTING};
         Glyf g;
         if (FT_Set_Char_Size(f, velikost, velikost, 72, 72) != 0) return g;
-        const FT_UInt cislo = FT_Get_Char_Index(f, znak);
         const auto nacteni =
             static_cast<FT_Int32>(NACTENI[static_cast<std::size_t>(rezim)] | FT_LOAD_NO_BITMAP);
-        if (FT_Load_Glyph(f, cislo, nacteni) != 0) return g;
+        if (FT_Load_Glyph(f, Cislo(f, znak), nacteni) != 0) return g;
         if (ctvrtina != 0) FT_Outline_Translate(&f->glyph->outline, ctvrtina * 64 / CTVRTINY, 0);
         const bool mono = rezim == Rezim::Logicky;
         if (FT_Render_Glyph(f->glyph, mono ? FT_RENDER_MODE_MONO : FT_RENDER_MODE_NORMAL) != 0)
@@ -267,6 +275,27 @@ void Otiskni(const Vyhled& cil, const Obdelnik& orez, int x, int y, const Glyf& 
     }
 }
 
+/// As Otiskni, but of a target that may be covered in part.
+void Privrstvi(const Vyhled& cil, const Obdelnik& orez, int x, int y, const Glyf& g, Pixel barva) {
+    const Obdelnik o = Prunik(Prunik({x, y, g.Sirka, g.Vyska}, orez), cil.Meze());
+    for (int py = o.Top; py < o.Top + o.Height; ++py) {
+        Pixel* c = cil.Radka(py) + o.Left;
+        const std::uint8_t* k =
+            g.Kryti.data() + static_cast<std::ptrdiff_t>(py - y) * g.Sirka + (o.Left - x);
+        for (int i = 0; i < o.Width; ++i) {
+            const unsigned kryti = k[i];
+            if (kryti == 0) continue;
+            if (kryti == 255) {
+                c[i] = barva;
+                continue;
+            }
+            const unsigned zbytek = (c[i] >> 24) * (255U - kryti);
+            c[i] = (Smichej(c[i], barva, kryti) & 0xFFFFFFU) |
+                   ((kryti + (zbytek + 127U) / 255U) << 24);
+        }
+    }
+}
+
 /// Whether a row likes to end at this blank: Czech leaves neither a number nor a preposition of one
 /// letter at the end of a row.
 bool JdeZalomit(std::u32string_view znaky, std::size_t mezera) {
@@ -284,6 +313,32 @@ void KresliText(const Vyhled& cil, const Obdelnik& orez, double x, double y, dou
                 const Pismo& pismo, std::string_view text, Pixel barva, Hladkost hladkost) {
     ProGlyfy(x, y, s, pismo, text, hladkost,
              [&](int gx, int gy, const Glyf& g) { Otiskni(cil, orez, gx, gy, g, barva); });
+}
+
+void KresliGlyfy(const Vyhled& cil, const Obdelnik& orez, int rez, double velikost,
+                 std::span<const GlyfNaMiste> glyfy, double y, Pixel barva) {
+    const int dilku = static_cast<int>(std::lround(velikost * 64));
+    const int poloh = dilku < PULKY_OD ? CTVRTINY : 2;
+    const int ucari = static_cast<int>(std::floor(y + 0.5));
+    for (const GlyfNaMiste& g : glyfy) {
+        // A glyph reaches less than its size to either side.
+        if (g.X + velikost * 2 < orez.Left || g.X - velikost > orez.Left + orez.Width) continue;
+        const double naPolohu = std::floor(g.X * poloh + 0.5) / poloh;
+        const double zacatek = std::floor(naPolohu);
+        const int ctvrtina = static_cast<int>((naPolohu - zacatek) * CTVRTINY);
+        const Glyf& glyf =
+            Pisma().DejGlyf(rez, CISLO_GLYFU | g.Cislo, dilku, Rezim::Velky, ctvrtina);
+        Privrstvi(cil, orez, static_cast<int>(zacatek) + glyf.Vlevo, ucari - glyf.Nahore, glyf,
+                  barva);
+    }
+}
+
+std::string_view SouborRezu(unsigned rez) {
+    return SOUBORY.at(rez);
+}
+
+double PosuvGlyfu(int rez, std::uint32_t cislo) {
+    return Pisma().Posuv(rez, CISLO_GLYFU | cislo);
 }
 
 void KresliSvatozar(const Vyhled& cil, double x, double y, double s, const Pismo& pismo,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,22 @@ void KresliText(const Vyhled& cil, const Obdelnik& orez, double x, double y, dou
 /// which a label can be read over lines. Hard edges, so that doing it again changes nothing.
 void KresliSvatozar(const Vyhled& cil, double x, double y, double s, const Pismo& pismo,
                     std::string_view text, Pixel barva, int polomer);
+
+/// How many font files there are; a number below it names one.
+constexpr unsigned POCET_REZU = 5;
+[[nodiscard]] std::string_view SouborRezu(unsigned rez);
+/// A glyph by its number in the font file, and where it begins.
+struct GlyfNaMiste {
+    std::uint32_t Cislo = 0;
+    double X = 0;
+};
+/// Prints glyphs that were set beforehand, antialiased, in no way hinted. velikost: the type size,
+/// and y: the base line, pixels of the target like the places of the glyphs. What the target's
+/// pixels cover of themselves (the highest byte) grows by what the glyphs cover.
+void KresliGlyfy(const Vyhled& cil, const Obdelnik& orez, int rez, double velikost,
+                 std::span<const GlyfNaMiste> glyfy, double y, Pixel barva);
+/// Unrounded advance of such a glyph, parts of the type size.
+[[nodiscard]] double PosuvGlyfu(int rez, std::uint32_t cislo);
 
 /// Unrounded width, design pixels.
 [[nodiscard]] double PresnaSirka(const Pismo& pismo, std::string_view text);

@@ -131,7 +131,7 @@ void Surface::Cls() {
     v.Vyprazdni(Barvivo(v, BackColor));
     if (v.Podklad.Prazdny()) return;
     const Obdelnik& vyrez = v.Podklad.Vyrez();
-    Prenes(cil, {0, 0, vyrez.Width, vyrez.Height}, cil.Meze(), v.Podklad.Data()->Logicka,
+    Prenes(cil, {0, 0, vyrez.Width, vyrez.Height}, cil.Meze(), v.Podklad.Data()->Logicka(),
            vyrez.Left, vyrez.Top, Prenos::Kopie);
 }
 
@@ -232,9 +232,9 @@ void Surface::PaintPicture(const Obrazek& obrazek, int x, int y) {
     if (!AutoRedraw || obrazek.Prazdny()) return;
     const Vyhled cil = vnitrek_->Logicka.Pohled();
     const Obdelnik& vyrez = obrazek.Vyrez();
-    Prenes(cil, {x, y, vyrez.Width, vyrez.Height}, cil.Meze(), obrazek.Data()->Logicka, vyrez.Left,
-           vyrez.Top, Prenos::Kopie);
-    vnitrek_->MaKlic = vnitrek_->MaKlic || obrazek.Data()->MaKlic;
+    Prenes(cil, {x, y, vyrez.Width, vyrez.Height}, cil.Meze(), obrazek.Data()->Logicka(),
+           vyrez.Left, vyrez.Top, Prenos::Kopie);
+    vnitrek_->MaKlic = vnitrek_->MaKlic || obrazek.Data()->MaKlic();
     vnitrek_->Pridej(PolozkaObrazku{obrazek, x, y});
 }
 

@@ -23,10 +23,6 @@ IntroForm::IntroForm(Sezeni& s) : FormHry(s) {
     StiskVzdy = true;
 }
 
-void IntroForm::Prednacti(const Sezeni& s) {
-    PrednactiObrazek(s.CestaCD + TITUL);
-}
-
 void IntroForm::Load() {
     Maximised = true;
     Caption = "Rysovna 1";

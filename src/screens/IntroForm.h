@@ -17,9 +17,6 @@ public:
     /// wait.
     Timer Timer1;
 
-    /// Begins to read the title's picture, so that a wait before the load is not idle.
-    static void Prednacti(const Sezeni& s);
-
     void Load() override;
     Cinnost<> MouseDown(Ovladac* o, const Mys& m) override;
     Odezva Klavesa(std::string_view klavesa, int shift) override;

@@ -60,7 +60,6 @@ Cinnost<> SelectForm::Start() {
         co_await Cekani::SVstupem(0);
     }
     if (!zprava.empty()) co_await s_.Stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
-    IntroForm::Prednacti(s_);
     co_await Cekani(100);
     co_await PrepniObrazovku(s_);
     UkazPozadi(s_);

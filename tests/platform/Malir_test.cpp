@@ -115,9 +115,7 @@ TEST_F(MalirTest, PoKouscichJeTotezCoNaraz) {
 
 TEST_F(MalirTest, KlicJePruhlednyADetiOrezaneRodicem) {
     const Barva pozadi = Form_->BackColor;
-    auto data = std::make_shared<DataObrazku>();
-    data->Logicka = Bitmapa(50, 10, KLIC);
-    data->MaKlic = true;
+    auto data = std::make_shared<DataObrazku>(Bitmapa(50, 10, KLIC));
     Form_->cmd[0].Plocha().Vypln(0, 0, 50, 20, CERNA);
     Form_->cmd[0].Plocha().PaintPicture(Obrazek(data), 0, 0);
     Form_->cmd[1].Picture = Obrazek(data);
@@ -134,8 +132,7 @@ TEST_F(MalirTest, KlicJePruhlednyADetiOrezaneRodicem) {
         for (const auto& [x, y, c] : BODY) EXPECT_EQ(Bod(b, x * s, y * s), DoPixelu(c)) << x;
     }
     // A new picture covers what the box has drawn, and is the ground of what it draws next.
-    data = std::make_shared<DataObrazku>();
-    data->Logicka = Bitmapa(200, 150, DoPixelu(CERVENA));
+    data = std::make_shared<DataObrazku>(Bitmapa(200, 150, DoPixelu(CERVENA)));
     Form_->Pic.Picture = Obrazek(data);
     Form_->Pic.Plocha().Vypln(0, 0, 10, 10, CERNA);
     const Bitmapa b = Znovu(640, 480);

@@ -114,18 +114,108 @@ TEST_F(NaStroji, ObrazekSeDrziJedenADaSvePolickoPasu) {
     EXPECT_TRUE(drzi.expired());
 }
 
-TEST_F(NaStroji, PrednactenyObrazekJeTyz) {
-    const std::string soubor = (Staging() / "assets" / "Bitmap" / "Intro" / "title.bmp").string();
-    Obrazek obrazek = LoadPicture(soubor);
-    const std::vector<Pixel> ceka = obrazek.Data()->VeVelikosti(1.5).Body;
-    EXPECT_NE(ceka, Preskaluj(obrazek.Data()->Logicka.KeCteni(), 960, 720, false).Body)
-        << "made of the large twin";
-    obrazek = Obrazek();
-    NastavOcekavaneMeritko(1.5);
-    PrednactiObrazek(soubor);
-    NastavOcekavaneMeritko(1);
-    obrazek = LoadPicture(soubor);
-    EXPECT_EQ(obrazek.Data()->VeVelikosti(1.5).Body, ceka);
+/// Every staged picture, its bitmap and its shapes.
+template <class F>
+void ProObrazky(F f) {
+    for (const auto& soubor :
+         std::filesystem::recursive_directory_iterator(Staging() / "assets" / "Bitmap")) {
+        if (soubor.path().extension() != ".bmp") continue;
+        auto tvary = soubor.path();
+        f(soubor.path(), tvary.replace_extension(PRIPONA_TVARU));
+    }
+}
+
+/// The most levels by which a channel differs.
+int Rozdil(Pixel a, Pixel b) {
+    int rozdil = 0;
+    for (const unsigned posun : {0U, 8U, 16U, 24U}) {
+        rozdil = std::max(rozdil, std::abs(static_cast<int>(a >> posun & 255U) -
+                                           static_cast<int>(b >> posun & 255U)));
+    }
+    return rozdil;
+}
+
+TEST_F(NaStroji, TvaryKresliTotezCoBitmapa) {
+    int obrazku = 0;
+    ProObrazky([&](const std::filesystem::path& soubor, const std::filesystem::path& jeho) {
+        ++obrazku;
+        const Bitmapa vzor = NactiBmp(soubor);
+        const auto tvary = NactiTvary(jeho);
+        ASSERT_TRUE(tvary) << soubor;
+        Bitmapa b(vzor.Sirka, vzor.Vyska, 0);
+        KresliTvary(b.Pohled(), b.Pohled().Meze(), b.Pohled().Meze(), *tvary);
+        int jinych = 0;
+        for (std::size_t i = 0; i < b.Body.size(); ++i) {
+            const Pixel nas = b.Body[i] == KLIC || b.Body[i] >> 24 == 255
+                                  ? b.Body[i]
+                                  : Smichej(KLIC, b.Body[i], b.Body[i] >> 24);
+            if (Rozdil(nas, vzor.Body[i]) > 64) ++jinych;
+        }
+        EXPECT_LE(jinych, 8 + static_cast<int>(b.Body.size() / 500)) << soubor;
+        // A part drawn alone is that part of the whole, and nothing else.
+        Bitmapa cast(vzor.Sirka, vzor.Vyska, 0x55);
+        const Obdelnik kde{vzor.Sirka / 3, vzor.Vyska / 4, vzor.Sirka / 2, vzor.Vyska / 2};
+        KresliTvary(cast.Pohled(), cast.Pohled().Meze(), kde, *tvary);
+        for (int y = 0; y < vzor.Vyska; ++y) {
+            for (int x = 0; x < vzor.Sirka; ++x) {
+                const bool v = !JePrazdny(Prunik(kde, {x, y, 1, 1}));
+                const Pixel ceka = v ? b.Radka(y)[x] : 0x55U;
+                // Cut edges are rounded a little otherwise.
+                ASSERT_LE(Rozdil(cast.Radka(y)[x], ceka), v ? 16 : 0) << soubor << x << "," << y;
+            }
+        }
+    });
+    EXPECT_GT(obrazku, 180);
+}
+
+TEST_F(NaStroji, PoskozeneTvaryJsouChybaAleNikdyPad) {
+    std::mt19937 generator(11);
+    const auto nahoda = [&] { return static_cast<unsigned>(generator()); };
+    int vadnych = 0;
+    ProObrazky([&](const std::filesystem::path&, const std::filesystem::path& jeho) {
+        std::ifstream vstup(jeho, std::ios::binary);
+        const std::string zdravy(std::istreambuf_iterator<char>(vstup), {});
+        const Tvary tvary = CtiTvary(zdravy, "vzor");
+        for (int i = 0; i < 30; ++i) {
+            std::string data = zdravy;
+            if (i % 3 == 0) data.resize(nahoda() % data.size());
+            // Most mutations must come through the packing, which knows its own.
+            std::string prikazy = tvary.Prikazy;
+            for (unsigned n = nahoda() % 4 + 1; n > 0; --n) {
+                std::string& kde = i % 3 == 1 ? data : prikazy;
+                if (!kde.empty()) kde[nahoda() % kde.size()] = static_cast<char>(nahoda());
+            }
+            if (i % 3 == 2) data = zdravy.substr(0, VELIKOST_HLAVY_TVARU) + Sbal(prikazy);
+            try {
+                const Tvary jine = CtiTvary(data, "zmeneny");
+                Bitmapa b(97, 61, 0);
+                KresliTvary(b.Pohled(), {-20, -10, 130, 90}, b.Pohled().Meze(), jine);
+            } catch (const BehovaChyba& chyba) {
+                ASSERT_EQ(chyba.Kde(), "zmeneny");
+                ++vadnych;
+            }
+        }
+    });
+    EXPECT_GT(vadnych, 2000);
+}
+
+TEST_F(NaStroji, VymenenyObrazekMaPrednostPredTvary) {
+    const auto titul = Staging() / "assets" / "Bitmap" / "Intro" / "title.bmp";
+    auto jeho = titul;
+    std::ifstream vstup(jeho.replace_extension(PRIPONA_TVARU), std::ios::binary);
+    const std::string tvary(std::istreambuf_iterator<char>(vstup), {});
+    ObrazBmp obraz = NactiObrazBmp(titul);
+    const std::vector<Pixel> kreslene = LoadPicture(titul.string()).Data()->VeVelikosti(1.5).Body;
+    const auto nacti = [&](const std::string& bmp) {
+        (void)Soubor("vymena.tvary", tvary);
+        return LoadPicture(Soubor("vymena.bmp", bmp)).Data()->VeVelikosti(1.5).Body;
+    };
+    EXPECT_EQ(nacti(ZabalenyBmp(obraz)), kreslene) << "the same pixels, packed again";
+    obraz.Body[0] ^= 1;
+    for (const std::string& bmp : {ZabalenyBmp(obraz), ProstyBmp(obraz)}) {
+        const Bitmapa vlastni{NactiBmp(Soubor("jiny.bmp", bmp))};
+        EXPECT_EQ(nacti(bmp), Preskaluj(vlastni.KeCteni(), 960, 720, false).Body);
+    }
 }
 
 TEST_F(NaStroji, PreskalovaniDrziBarvyAKlic) {

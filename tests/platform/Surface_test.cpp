@@ -19,15 +19,12 @@ Bitmapa Dvojce(const Surface& s, double meritko) {
 
 /// A picture in memory of d by d pixels: a disc of a colour on the key colour.
 Obrazek Kolecko(int d, Barva barva) {
-    auto data = std::make_shared<DataObrazku>();
-    data->Logicka = Bitmapa(d, d, KLIC);
-    data->MaKlic = true;
+    Bitmapa b(d, d, KLIC);
     for (int i = 0; i < d * d; ++i) {
         const int x = 2 * (i % d) - d, y = 2 * (i / d) - d;
-        if (x * x + y * y < d * d)
-            data->Logicka.Body[static_cast<std::size_t>(i)] = DoPixelu(barva);
+        if (x * x + y * y < d * d) b.Body[static_cast<std::size_t>(i)] = DoPixelu(barva);
     }
-    return Obrazek(data);
+    return Obrazek(std::make_shared<DataObrazku>(std::move(b)));
 }
 
 TEST_F(SurfaceTest, SeznamDavaTotezCoLogickaBitmapa) {

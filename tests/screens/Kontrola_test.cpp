@@ -71,9 +71,9 @@ TEST_F(KontrolaHodiny, VseVPoradkuAKazdaVadaSvymJmenem) {
         const char* Obsah;
         std::string_view Nalez;
     } VADY[] = {
-        {"assets/Bitmap/Help/17.png", nullptr, "Help/17.bmp: chybí velké dvojče"},
+        {"assets/Bitmap/Help/17.tvary", nullptr, "Help/17.bmp: chybí tvary"},
         {"assets/Bitmap/Help/18.bmp", "BM", "Help/18.bmp: Vadný obrázek: je useknutý"},
-        {"assets/Bitmap/Help/19.png", "png", "Help/19.bmp: velké dvojče nelze přečíst"},
+        {"assets/Bitmap/Help/19.tvary", "RTVR", "Help/19.bmp: Vadný obrázek: poškozené tvary"},
         {"assets/Bitmap/Tab/bckg.bmp", nullptr, "Tab/bckg.bmp: chybí"},
         {"assets/Sound/enter.wav", nullptr, "Sound/enter.wav: chybí"},
         {"assets/Sound/click.wav", "RIFF", "Sound/click.wav: není zvuk"},

@@ -8,38 +8,57 @@
 #include "Kresleni.h"
 #include "Predlohy.h"
 #include "base/Chyba.h"
+#include "platform/Tvary.h"
 
 namespace rysovna::obrazky {
 
 namespace {
 
-/// A whole number of a file's head, highest byte first.
-int Cislo(const std::string& data, std::size_t od, std::size_t bytu) {
-    std::uint32_t vysledek = 0;
-    for (std::size_t i = 0; i < bytu; ++i)
-        vysledek = vysledek << 8 | static_cast<unsigned char>(data.at(od + i));
-    return static_cast<int>(vysledek);
-}
+/// A pixel that differs by more levels is another one, and this share of them may be: glyphs and
+/// edges lie a little otherwise.
+constexpr int ROZDIL_BODU = 80;
+constexpr double NEJVIC_JINYCH = 0.002;
 
-/// What is wrong with a picture and its twin, or an empty text.
+/// What is wrong with a picture and its shapes, or an empty text.
 std::string VadaObrazku(const std::filesystem::path& soubor, int w, int h) {
-    auto dvojce = soubor;
-    dvojce.replace_extension(".png");
-    if (!std::filesystem::exists(dvojce)) return "chybí velké dvojče";
     try {
         const ObrazBmp obraz = NactiObrazBmp(soubor);
         if (obraz.Sirka != w || obraz.Vyska != h) return "má jiný rozměr";
+        auto beze = soubor;
+        const auto tvary = NactiTvary(beze.replace_extension(PRIPONA_TVARU));
+        if (!tvary) return "chybí tvary";
+        if (tvary->Otisk != OtiskBodu(obraz)) return "tvary nejsou k tomuto obrázku";
+        if (tvary->Sirka != w || tvary->Vyska != h) return "tvary mají jiný rozměr";
     } catch (const BehovaChyba& chyba) {
         return chyba.what();
     }
-    const std::string png = NactiSoubor(dvojce);
-    if (png.size() < 24 || png.compare(1, 3, "PNG") != 0) return "dvojče není PNG";
-    if (Cislo(png, 16, 4) != w * ZVETSENI || Cislo(png, 20, 4) != h * ZVETSENI)
-        return "dvojče má jiný rozměr";
     return {};
 }
 
 }  // namespace
+
+void OverTvary(const Tvary& tvary, const ObrazBmp& velky, const std::string& kde) {
+    Bitmapa b(velky.Sirka, velky.Vyska, 0);
+    KresliTvary(b.Pohled(), b.Pohled().Meze(), b.Pohled().Meze(), tvary);
+    std::size_t jinych = 0;
+    for (std::size_t i = 0; i < b.Body.size(); ++i) {
+        const Pixel nas = b.Body[i] == KLIC || b.Body[i] >> 24 == 255
+                              ? b.Body[i]
+                              : Smichej(KLIC, b.Body[i], b.Body[i] >> 24);
+        for (const unsigned posun : {0U, 8U, 16U}) {
+            const int rozdil = static_cast<int>(nas >> posun & 255U) -
+                               static_cast<int>(velky.Body[i] >> posun & 255U);
+            if (std::abs(rozdil) > ROZDIL_BODU) {
+                ++jinych;
+                break;
+            }
+        }
+    }
+    const double podil = static_cast<double>(jinych) / static_cast<double>(b.Body.size());
+    if (podil > NEJVIC_JINYCH)
+        throw BehovaChyba("Tvary kreslí jiný obrázek: " + std::to_string(100 * podil) + " % bodů",
+                          kde);
+}
 
 int Zkontroluj(const std::filesystem::path& seznam, const std::filesystem::path& assety) {
     int vad = 0;

@@ -1,11 +1,12 @@
 #include "Kresleni.h"
 
+#include <cairo-script.h>
 #include <cairo.h>
+#include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <librsvg/rsvg.h>
 #include <memory>
-#include <png.h>
 
 #include "base/Chyba.h"
 
@@ -18,8 +19,8 @@ constexpr std::uint32_t PLNE = 0xFF000000;
 struct Uvolni {
     void operator()(RsvgHandle* h) const { g_object_unref(h); }
     void operator()(cairo_surface_t* s) const { cairo_surface_destroy(s); }
+    void operator()(cairo_device_t* d) const { cairo_device_destroy(d); }
     void operator()(cairo_t* c) const { cairo_destroy(c); }
-    void operator()(std::FILE* f) const { std::fclose(f); }
 };
 
 }  // namespace
@@ -39,8 +40,11 @@ void NastavPisma(const std::filesystem::path& fonty, const std::filesystem::path
     setenv("FONTCONFIG_FILE", soubor.c_str(), 1);
 }
 
-ObrazBmp Vykresli(const std::string& svg, int sirka, int vyska, int zvetseni,
-                  const std::string& kde) {
+namespace {
+
+/// Draws the whole on a surface of that size.
+void NaPlochu(const std::string& svg, int sirka, int vyska, cairo_surface_t* plocha, int zvetseni,
+              double natoceni, const std::string& kde) {
     const std::string w = std::to_string(sirka);
     const std::string h = std::to_string(vyska);
     const std::string cele = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + w +
@@ -55,14 +59,22 @@ ObrazBmp Vykresli(const std::string& svg, int sirka, int vyska, int zvetseni,
         throw BehovaChyba("Nelze vykreslit: " + proc, kde);
     };
     if (!kresba) selhani();
+    const std::unique_ptr<cairo_t, Uvolni> pero(cairo_create(plocha));
+    cairo_translate(pero.get(), vyska * zvetseni * std::sin(natoceni), 0);
+    cairo_rotate(pero.get(), natoceni);
+    const RsvgRectangle okno{0, 0, static_cast<double>(sirka * zvetseni),
+                             static_cast<double>(vyska * zvetseni)};
+    if (rsvg_handle_render_document(kresba.get(), pero.get(), &okno, &chyba) == 0) selhani();
+}
 
+}  // namespace
+
+ObrazBmp Vykresli(const std::string& svg, int sirka, int vyska, int zvetseni,
+                  const std::string& kde) {
     ObrazBmp rastr{sirka * zvetseni, vyska * zvetseni, {}};
     const std::unique_ptr<cairo_surface_t, Uvolni> plocha(
         cairo_image_surface_create(CAIRO_FORMAT_RGB24, rastr.Sirka, rastr.Vyska));
-    const std::unique_ptr<cairo_t, Uvolni> pero(cairo_create(plocha.get()));
-    const RsvgRectangle okno{0, 0, static_cast<double>(rastr.Sirka),
-                             static_cast<double>(rastr.Vyska)};
-    if (rsvg_handle_render_document(kresba.get(), pero.get(), &okno, &chyba) == 0) selhani();
+    NaPlochu(svg, sirka, vyska, plocha.get(), zvetseni, 0, kde);
     cairo_surface_flush(plocha.get());
 
     const unsigned char* data = cairo_image_surface_get_data(plocha.get());
@@ -74,6 +86,27 @@ ObrazBmp Vykresli(const std::string& svg, int sirka, int vyska, int zvetseni,
         for (int x = 0; x < rastr.Sirka; ++x) rastr.Body.push_back(radek[x] | PLNE);
     }
     return rastr;
+}
+
+std::string Nahraj(const std::string& svg, int sirka, int vyska, int zvetseni,
+                   const std::string& kde) {
+    std::string zaznam;
+    const std::unique_ptr<cairo_device_t, Uvolni> zapis(cairo_script_create_for_stream(
+        [](void* kam, const unsigned char* data, unsigned delka) {
+            static_cast<std::string*>(kam)->append(reinterpret_cast<const char*>(data), delka);
+            return CAIRO_STATUS_SUCCESS;
+        },
+        &zaznam));
+    cairo_script_set_mode(zapis.get(), CAIRO_SCRIPT_MODE_ASCII);
+    {
+        // Nothing that lies outside is recorded.
+        const double strana = (sirka + vyska) * zvetseni;
+        const std::unique_ptr<cairo_surface_t, Uvolni> plocha(
+            cairo_script_surface_create(zapis.get(), CAIRO_CONTENT_COLOR_ALPHA, strana, strana));
+        NaPlochu(svg, sirka, vyska, plocha.get(), zvetseni, NATOCENI_NAHRAVKY, kde);
+    }
+    cairo_device_finish(zapis.get());
+    return zaznam;
 }
 
 void OverKlic(const ObrazBmp& rastr, const std::string& kde) {
@@ -93,35 +126,6 @@ void Uloz(const std::string& data, const std::filesystem::path& soubor) {
     ven.write(data.data(), static_cast<std::streamsize>(data.size()));
     ven.close();
     if (!ven) throw BehovaChyba("Nelze zapsat", soubor.string());
-}
-
-void UlozPng(const ObrazBmp& rastr, const std::filesystem::path& soubor) {
-    const std::unique_ptr<std::FILE, Uvolni> ven(std::fopen(soubor.c_str(), "wb"));
-    if (!ven) throw BehovaChyba("Nelze zapsat", soubor.string());
-    std::vector<unsigned char> radek(static_cast<std::size_t>(rastr.Sirka) * 3);
-    png_structp png = png_create_write_struct(
-        PNG_LIBPNG_VER_STRING, nullptr,
-        [](png_structp, png_const_charp co) { throw BehovaChyba(co, "libpng"); }, nullptr);
-    png_infop info = png_create_info_struct(png);
-    png_init_io(png, ven.get());
-    png_set_IHDR(png, info, static_cast<png_uint_32>(rastr.Sirka),
-                 static_cast<png_uint_32>(rastr.Vyska), 8, PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
-                 PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    // Flat colours: without filters the rows repeat, pack well and need no work to unfilter.
-    png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
-    png_set_compression_level(png, 4);
-    png_write_info(png, info);
-    const std::uint32_t* bod = rastr.Body.data();
-    for (int y = 0; y < rastr.Vyska; ++y) {
-        for (std::size_t x = 0; x < radek.size(); x += 3, ++bod) {
-            radek[x] = static_cast<unsigned char>(*bod >> 16);
-            radek[x + 1] = static_cast<unsigned char>(*bod >> 8);
-            radek[x + 2] = static_cast<unsigned char>(*bod);
-        }
-        png_write_row(png, radek.data());
-    }
-    png_write_end(png, nullptr);
-    png_destroy_write_struct(&png, &info);
 }
 
 }  // namespace rysovna::obrazky

@@ -9,9 +9,6 @@
 
 namespace rysovna::obrazky {
 
-/// How many times larger the twin is.
-constexpr int ZVETSENI = 3;
-
 /// Colour of see-through parts, 0xFFRRGGBB.
 constexpr std::uint32_t KLICOVA_BARVA = 0xFFFF00FF;
 
@@ -24,13 +21,19 @@ void NastavPisma(const std::filesystem::path& fonty, const std::filesystem::path
 ObrazBmp Vykresli(const std::string& svg, int sirka, int vyska, int zvetseni,
                   const std::string& kde);
 
+/// How far a recording is turned, radians, its lower left corner being in the left column then:
+/// Cairo's script cannot tell a fill of upright and level edges that is no set of boxes, a letter L
+/// as an example. Turned, there is none.
+constexpr double NATOCENI_NAHRAVKY = 0.3;
+/// What is drawn, instead of pixels: the commands as a script of Cairo's, places turned and
+/// enlarged.
+std::string Nahraj(const std::string& svg, int sirka, int vyska, int zvetseni,
+                   const std::string& kde);
+
 /// A fault when a pixel is a mixture with the key colour, which would show as a fringe.
 void OverKlic(const ObrazBmp& rastr, const std::string& kde);
 
 /// The whole file anew; one that cannot be written is a fault.
 void Uloz(const std::string& data, const std::filesystem::path& soubor);
-
-/// PNG file, 8 bits a channel, packed so that it is read fast.
-void UlozPng(const ObrazBmp& rastr, const std::filesystem::path& soubor);
 
 }  // namespace rysovna::obrazky

@@ -1,5 +1,6 @@
-// Renders the pictures of the game from SVG templates, each at 1:1 as a .bmp and three times larger
-// as a .png beside it. A picture whose drawing did not change since the last run is left alone.
+// Renders the pictures of the game from SVG templates, each at 1:1 as a .bmp, and writes their
+// shapes beside it, from which they are drawn at any other scale. A picture whose drawing did not
+// change since the last run is left alone.
 //
 //   obrazky LIST STAGED_ASSETS WORK_FOLDER     renders
 //   obrazky --zkontroluj FILES STAGED_ASSETS   holds the staged files against a list of them
@@ -13,11 +14,17 @@
 #include <sstream>
 #include <thread>
 
+#include "Glyfy.h"
 #include "Kontrola.h"
 #include "Kresleni.h"
+#include "Nahravka.h"
 #include "Predlohy.h"
 #include "Sazba.h"
+#include "ZapisTvaru.h"
 #include "base/Chyba.h"
+#include "platform/Pisma.h"
+#include "platform/Surface.h"
+#include "platform/Tvary.h"
 
 namespace rysovna::obrazky {
 
@@ -26,7 +33,12 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Grows by one when the tool itself comes to draw differently: all is then rendered anew.
-constexpr std::uint64_t VERZE = 2;
+constexpr std::uint64_t VERZE = 3;
+
+/// How many times larger a drawing is recorded: Cairo keeps places in 256ths of a pixel.
+constexpr int PRESNOST_NAHRAVKY = 16;
+/// At so many times the size the shapes are held against the drawing.
+constexpr int ZVETSENI = 3;
 
 /// A number by which a changed drawing is known (FNV-1a, 64 bits).
 std::uint64_t Otisk(const std::string& text,
@@ -52,20 +64,34 @@ void UlozOtisky(const std::map<std::string, std::uint64_t>& otisky, const fs::pa
     if (!ven) throw BehovaChyba("Nelze zapsat", soubor.string());
 }
 
-fs::path Dvojce(fs::path soubor) {
-    return soubor.replace_extension(".png");
+fs::path SouborTvaru(fs::path soubor) {
+    return soubor.replace_extension(PRIPONA_TVARU);
 }
 
-void Vyrob(const Obrazek& o, const fs::path& soubor) {
+/// What all pictures are made with. Fonts are read by one thread at a time.
+struct Dilna {
+    Glyfy Pismena;
+    std::mutex Zamek;
+};
+
+void Vyrob(const Obrazek& o, const fs::path& soubor, Dilna& dilna) {
     fs::create_directories(soubor.parent_path());
     const ObrazBmp maly = Vykresli(o.Svg, o.Sirka, o.Vyska, 1, o.Soubor);
     const ObrazBmp velky = Vykresli(o.Svg, o.Sirka, o.Vyska, ZVETSENI, o.Soubor);
     if (o.Klic) {
         OverKlic(maly, o.Soubor);
-        OverKlic(velky, o.Soubor + ", dvojče");
+        OverKlic(velky, o.Soubor + ", zvětšený");
+    }
+    const auto ukony = RozeberNahravku(Nahraj(o.Svg, o.Sirka, o.Vyska, PRESNOST_NAHRAVKY, o.Soubor),
+                                       o.Sirka, o.Vyska, PRESNOST_NAHRAVKY, o.Soubor);
+    std::string tvary;
+    {
+        const std::lock_guard drzi(dilna.Zamek);
+        tvary = SlozTvary(o, ukony, dilna.Pismena, OtiskBodu(maly));
+        OverTvary(CtiTvary(tvary, o.Soubor), velky, o.Soubor);
     }
     Uloz(ZabalenyBmp(maly), soubor);
-    UlozPng(velky, Dvojce(soubor));
+    Uloz(tvary, SouborTvaru(soubor));
 }
 
 /// Runs the work on all rows, on as many threads as the machine has. The first fault is thrown
@@ -113,17 +139,21 @@ void VyrobVse(const fs::path& seznam, const fs::path& assety, const fs::path& pr
         const fs::path cil = assety / o.Soubor;
         const auto stary = minule.find(o.Soubor);
         if (stary == minule.end() || stary->second != otisk || !fs::exists(cil) ||
-            !fs::exists(Dvojce(cil)))
+            !fs::exists(SouborTvaru(cil)))
             zmenene.push_back(o);
         otisky[o.Soubor] = otisk;
     }
     NastavPisma(fonty, fs::absolute(pracovni));
-    Soubezne(zmenene, [&](const Obrazek& o) { Vyrob(o, assety / o.Soubor); });
+    NastavSlozkuPisem(fonty.string());
+    std::vector<fs::path> soubory;
+    for (unsigned i = 0; i < POCET_REZU; ++i) soubory.push_back(fonty / SouborRezu(i));
+    Dilna dilna{Glyfy(soubory), {}};
+    Soubezne(zmenene, [&](const Obrazek& o) { Vyrob(o, assety / o.Soubor, dilna); });
     // A picture that left the list must not stay among the staged ones.
     for (const auto& [jmeno, otisk] : minule) {
         if (otisky.count(jmeno) != 0) continue;
         fs::remove(assety / jmeno);
-        fs::remove(Dvojce(assety / jmeno));
+        fs::remove(SouborTvaru(assety / jmeno));
     }
     UlozOtisky(otisky, soubor);
     std::cout << "Obrázky: " << otisky.size() << ", nově vykresleno " << zmenene.size() << "\n";

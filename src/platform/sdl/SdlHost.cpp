@@ -20,7 +20,6 @@
 
 #include "base/Chyba.h"
 #include "platform/Cesta.h"
-#include "platform/ObrazekData.h"
 #include "platform/Obrazovky.h"
 #include "platform/Surface.h"
 #include "platform/sdl/Okno.h"
@@ -247,8 +246,6 @@ SdlHost::SdlHost(std::optional<std::uint32_t> seminko)
     : Smycka(static_cast<Host&>(*this)), seminko_(seminko) {
     if (!MaDisplej()) Selhani("Není k dispozici obrazovka");
     vnitrek_ = std::make_unique<Vnitrek>(*this);
-    const RezimObrazovky rezim = GetDeviceCaps();
-    NastavOcekavaneMeritko(Umisteni::Vejdi(rezim.Sirka, rezim.Vyska).S);
 }
 
 SdlHost::~SdlHost() {
