@@ -1,0 +1,92 @@
+// Watches the virtual display's frame buffer file while the panel slides: how many pictures of it
+// reach the window, how long it takes from the press to the last of them, and what the game takes
+// of the processor meanwhile.
+//   jizda_v_okne FRAMEBUFFER WIDTH HEIGHT PID
+// It presses nothing: it says "ted" when it watches, and the slide is to begin then.
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using Hodiny = std::chrono::steady_clock;
+
+constexpr double NEJDELE = 10000;  // ms
+constexpr double KLID = 600;       // ms without a change: it is over
+// A row that the handle of the panel reaches, design pixels.
+constexpr double RADEK = 270, OD = 325, PO = 640;
+
+/// What all threads of a process have had of the processor, ms.
+double Cpu(const std::string& pid) {
+    double ns = 0;
+    for (const auto& vlakno : std::filesystem::directory_iterator("/proc/" + pid + "/task")) {
+        double sve = 0;
+        std::ifstream(vlakno.path() / "schedstat") >> sve;
+        ns += sve;
+    }
+    return ns / 1e6;
+}
+
+}  // namespace
+
+int main(int pocet, char** slova) {
+    if (pocet != 5) return 2;
+    const int sirka = std::atoi(slova[2]);
+    const int vyska = std::atoi(slova[3]);
+    const int soubor = open(slova[1], O_RDONLY | O_CLOEXEC);
+    struct stat popis {};
+    if (soubor < 0 || fstat(soubor, &popis) != 0) return 1;
+    void* mapa =
+        mmap(nullptr, static_cast<std::size_t>(popis.st_size), PROT_READ, MAP_SHARED, soubor, 0);
+    if (mapa == MAP_FAILED) return 1;
+    const auto* bajty = static_cast<const std::uint8_t*>(mapa);
+    // The dump's header (XWD, big-endian words): its own length, bytes a row, number of colours.
+    const auto slovo = [bajty](int i) {
+        const std::uint8_t* p = bajty + i * 4;
+        return static_cast<std::size_t>(p[0]) << 24 | static_cast<std::size_t>(p[1]) << 16 |
+               static_cast<std::size_t>(p[2]) << 8 | p[3];
+    };
+    const double s = std::min(sirka / 640.0, vyska / 480.0);
+    const auto misto = [s](double navrh, int celkem, double navrhu) {
+        return static_cast<std::size_t>((celkem - navrhu * s) / 2 + navrh * s);
+    };
+    const std::uint8_t* radek =
+        bajty + slovo(0) + slovo(19) * 12 + misto(RADEK, vyska, 480) * slovo(12);
+    const auto od = static_cast<std::ptrdiff_t>(misto(OD, sirka, 640) * 4);
+    const auto po = static_cast<std::ptrdiff_t>(misto(PO, sirka, 640) * 4);
+    const auto obraz = [&] { return std::vector<std::uint8_t>(radek + od, radek + po); };
+
+    std::vector<std::uint8_t> minuly = obraz();
+    const double cpu = Cpu(slova[4]);
+    std::puts("ted");
+    std::fflush(stdout);
+    const auto zacatek = Hodiny::now();
+    const auto ms = [zacatek] {
+        return std::chrono::duration<double, std::milli>(Hodiny::now() - zacatek).count();
+    };
+    int zmen = 0;
+    double prvni = 0, posledni = 0;
+    while (ms() < NEJDELE && (zmen == 0 || ms() - posledni < KLID)) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        if (obraz() == minuly) continue;
+        posledni = ms();
+        // The server may be in the middle of the row.
+        std::this_thread::sleep_for(std::chrono::milliseconds(4));
+        minuly = obraz();
+        if (zmen++ == 0) prvni = posledni;
+    }
+    std::printf("%d obrazů, od prvního k poslednímu %.0f ms, procesor %.0f ms\n", zmen,
+                posledni - prvni, Cpu(slova[4]) - cpu);
+    return 0;
+}
