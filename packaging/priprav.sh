@@ -6,6 +6,8 @@ BALICKY_HRA="g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libfreet
     librsvg2-dev zlib1g-dev fonts-liberation fonts-dejavu-core python3-fonttools"
 BALICKY_TESTY="libgtest-dev xvfb xdotool x11-utils imagemagick sway grim
     clang-format clang-tidy-16"
+BALICKY_BALIK="dpkg-dev librsvg2-bin"
+BALICKY_BALIK_TESTY="lintian debootstrap appstream desktop-file-utils xvfb xdotool x11-utils imagemagick"
 BALICKY_BENCH="libbenchmark-dev xvfb xdotool x11-utils"
 
 # Czech letters are typed, printed and compared in UTF-8, whatever the machine is set to.

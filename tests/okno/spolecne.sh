@@ -70,7 +70,13 @@ hra() {
     for i in $(seq -w 20); do : >"$prace/hra/data/$i.res"; done
     : >"$prace/hra/data/Vysledky.dat"
     # What a result leaves aside must not come to the account that runs the tests.
-    XDG_STATE_HOME="$prace/stav" XDG_DATA_HOME="$prace/ucet" "$prace/hra/rysovna" "$@" 2>"$prace/chyby" &
+    XDG_STATE_HOME="$prace/stav" XDG_DATA_HOME="$prace/ucet" otevri "$prace/hra/rysovna" "$@"
+}
+
+# The game by its command, in a full-screen window.
+#   otevri COMMAND [arguments...]
+otevri() {
+    "$@" 2>"$prace/chyby" &
     pid_hra=$!
     for _ in $(seq 100); do
         xdotool search --name 'Rysovna 1' >/dev/null 2>&1 && break
@@ -81,6 +87,46 @@ hra() {
     eval "$(xdotool getwindowgeometry --shell "$okno")"
     [ "$WIDTH" = "$sirka" ] && [ "$HEIGHT" = "$vyska" ] || selhani "okno má $WIDTH x $HEIGHT"
     sleep 0.5
+}
+
+# Leaves by the menu's exit button, which lies over that of the screen before: sooner it would be a double
+# click. The game must end well.
+ukonci() {
+    sleep 1
+    klik 591 42 0.5
+    fotka otazka
+    xdotool key Return
+    for _ in $(seq 50); do kill -0 "$pid_hra" 2>/dev/null || break; sleep 0.1; done
+    if kill -0 "$pid_hra" 2>/dev/null; then selhani "hra po otázce neskončila"; fi
+    local stav=0
+    wait "$pid_hra" || stav=$?
+    pid_hra=""
+    [ "$stav" = 0 ] || selhani "hra skončila se stavem $stav"
+}
+
+# Carries out events in the open game, a line each: "mys X Y" (design px), "dolu", "nahoru", "text Ž",
+# "klavesa Delete 0" (1: with Shift, 2: with Ctrl), "cekej MS", "fotka NAME". The window is real: it gets
+# a little more time than the virtual clock took.
+#   odehraj EVENTS
+odehraj() {
+    # One script for xdotool between two pictures.
+    awk -v w="$sirka" -v h="$vyska" -v kam="$prace/usek" "$awk_meritko"'
+        BEGIN { cast = 0; soubor = sprintf("%s%04d", kam, cast); printf "" > soubor }
+        $1 == "mys"     { printf "mousemove %d %d\nsleep 0.01\n", ox + ($2 + 0.5) * s, oy + ($3 + 0.5) * s > soubor }
+        $1 == "dolu"    { print "mousedown 1\nsleep 0.02" > soubor }
+        $1 == "nahoru"  { print "mouseup 1\nsleep 0.08" > soubor }
+        $1 == "text"    { printf "type --clearmodifiers \"%s\"\nsleep 0.06\n", $0 == "text  " ? " " : $2 > soubor }
+        $1 == "klavesa" { printf "key %s%s\nsleep 0.05\n", $3 == 2 ? "ctrl+" : $3 == 1 ? "shift+" : "",
+                                 $2 == "Space" ? "space" : $2 > soubor }
+        $1 == "cekej"   { printf "sleep %.3f\n", $2 / 1000 + 0.06 > soubor }
+        $1 == "fotka"   { close(soubor); print $2 > (soubor ".jmeno"); close(soubor ".jmeno")
+                          soubor = sprintf("%s%04d", kam, ++cast); printf "" > soubor }
+    ' "$1"
+    for usek in "$prace"/usek????; do
+        xdotool "$usek" || selhani "xdotool: $usek"
+        kill -0 "$pid_hra" 2>/dev/null || selhani "hra skončila: $(cat "$prace/chyby")"
+        if [ -f "$usek.jmeno" ]; then fotka "$(cat "$usek.jmeno")"; fi
+    done
 }
 
 # What the log holds, in UTF-8.
