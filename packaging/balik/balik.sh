@@ -19,16 +19,18 @@ sestav_balik() (
         sed -i "1s/([^)]*)/($3)/" "$prace/debian/changelog"
     fi
     verze="$(dpkg-parsechangelog -l "$prace/debian/changelog" -S Version)"
-    SOURCE_DATE_EPOCH="$(dpkg-parsechangelog -l "$prace/debian/changelog" -S Timestamp)"
+    SOURCE_DATE_EPOCH="${SOURCE_DATE_EPOCH:-$(dpkg-parsechangelog -l "$prace/debian/changelog" -S Timestamp)}"
     export SOURCE_DATE_EPOCH
     datum="$(date -u -d "@$SOURCE_DATE_EPOCH" +%Y-%m-%d)"
     # doplneno FILE: with version and date filled in.
     doplneno() { sed "s/@VERZE@/$verze/; s/@DATUM@/$datum/" "$zdroj/$1"; }
-    # soubor TARGET [RIGHTS]: the standard input as a file of the package.
+    # soubor TARGET [RIGHTS]: the standard input as a file of the package. None is empty: that it is
+    # says that what should have written it failed.
     soubor() {
         mkdir -p "$(dirname "$koren/$1")"
         cat >"$koren/$1"
         chmod "${2:-644}" "$koren/$1"
+        [ -s "$koren/$1" ] || { echo "Soubor balíčku je prázdný: $1" >&2; return 1; }
     }
 
     soubor usr/games/rysovna 755 <"$staging/rysovna"
@@ -79,7 +81,8 @@ sestav_balik() (
     chmod 644 "$koren"/DEBIAN/*
     find "$koren" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +
     balik="build/balik/rysovna_${verze}_$(dpkg --print-architecture).deb"
-    dpkg-deb --root-owner-group -Zxz --build "$koren" "$balik" >/dev/null
+    # One thread: how many there are would show in the bytes.
+    DPKG_DEB_THREADS_MAX=1 dpkg-deb --root-owner-group -Zxz --build "$koren" "$balik" >/dev/null
     rm -rf "$prace"
     echo "$balik"
 )

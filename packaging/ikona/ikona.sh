@@ -5,12 +5,12 @@
 ikona_svg() {
     awk -v casti=assets/svg '
         function vypln(radek,  jmeno, soubor, dalsi) {
-            if (match(radek, /^{{>.*}}$/)) {
+            if (match(radek, /^[{][{]>.*[}][}]$/)) {
                 soubor = casti "/" substr(radek, 4, length(radek) - 5)
                 while ((getline dalsi <soubor) > 0) vypln(dalsi)
                 return
             }
-            while (match(radek, /{{[A-Z0-9_]+}}/)) {
+            while (match(radek, /[{][{][A-Z0-9_]+[}][}]/)) {
                 jmeno = substr(radek, RSTART + 2, RLENGTH - 4)
                 if (!(jmeno in barva)) { print "ikona: není barva " jmeno >"/dev/stderr"; exit 1 }
                 radek = substr(radek, 1, RSTART - 1) barva[jmeno] substr(radek, RSTART + RLENGTH)

@@ -24,6 +24,10 @@ rozbaleny=build/balik/rozbaleny
 rm -rf "$rozbaleny"
 dpkg-deb -x "$balik" "$rozbaleny"
 desktop-file-validate "$rozbaleny/usr/share/applications/rysovna.desktop" || selhani "položka nabídky"
+for klic in Exec TryExec; do
+    kde="$(sed -n "s/^$klic=//p" "$rozbaleny/usr/share/applications/rysovna.desktop")"
+    [ -x "$rozbaleny/$kde" ] || selhani "položka nabídky: $klic"
+done
 appstreamcli validate --no-net "$rozbaleny"/usr/share/metainfo/*.xml || selhani "stránka obchodu"
 rm -rf "$rozbaleny" build/balik/poprve.deb
 
