@@ -38,10 +38,12 @@ sestav_balik() (
     soubor etc/rysovna/Rysovna.ini <packaging/Rysovna.ini
     soubor usr/share/rysovna/slozka-tridy 755 <"$zdroj/slozka-tridy"
     # Of the data what the game reads: results that a copy was played with stay out.
+    mkdir -p "$koren/usr/share/rysovna"
+    kam="$PWD/$koren/usr/share/rysovna"
     (cd "$staging" && find assets data -type f ! -path 'assets/Licence/*' ! -name '*.res' \
-        ! -name Vysledky.dat) | sort | while read -r jmeno; do
-        soubor "usr/share/rysovna/$jmeno" <"$staging/$jmeno"
-    done
+        ! -name Vysledky.dat -exec cp --parents -t "$kam" {} +)
+    find "$kam/assets" "$kam/data" -type f -exec chmod 644 {} +
+    find "$kam" -type d -exec chmod 755 {} +
 
     soubor usr/share/applications/rysovna.desktop <"$zdroj/rysovna.desktop"
     doplneno rysovna.metainfo.xml | soubor usr/share/metainfo/org.example.rysovna.metainfo.xml
