@@ -16,5 +16,7 @@ displej -ac
 seminko="$(awk '$1 == "seminko" { print $2 }' "$udalosti")"
 otevri chroot "$koren" su - "$kdo" -c \
     "exec env LC_ALL=C.UTF-8 DISPLAY=$DISPLAY SDL_AUDIODRIVER=dummy rysovna --seminko $seminko"
+# There is no window manager to do it, and older SDL does not do it by itself.
+xdotool windowfocus "$okno" 2>/dev/null || true
 odehraj "$udalosti"
 ukonci
