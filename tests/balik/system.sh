@@ -45,7 +45,7 @@ nainstaluj() {
         apt-get install -y -qq --no-install-recommends /root/balik.deb' >"$prace/apt" 2>&1 </dev/null ||
         { tail -n 20 "$prace/apt" >&2; selhani "instalace"; }
 }
-# As the account, in a session of its own.
+# As the account, freshly logged in.
 ucet() { v su - "$1" -c "LC_ALL=C.UTF-8 $2"; }
 # hraj ACCOUNT: plays the example on a display of its own; it must end well.
 hraj() { "$zde/ucet.sh" "$koren" "$1" "$prace/predloha/$1/udalosti.txt"; }
