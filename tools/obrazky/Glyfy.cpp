@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <ft2build.h>
+#include <limits>
 #include <map>
 #include <string>
 #include FT_FREETYPE_H
@@ -81,23 +82,39 @@ Obal Zabal(const Obrys& o) {
     return z;
 }
 
+/// "fi", "fl" and their like, which have characters of their own and are printed for two.
+bool JeLigaturaF(char32_t z) {
+    return z >= U'\uFB00' && z <= U'\uFB04';
+}
+
 /// A glyph as it stands in the font: outlines, parts of the type size, Y downward.
 struct Predloha {
     unsigned Rez = 0;
     std::uint32_t Cislo = 0;
     std::vector<Obrys> Obrysy;
     Obal Prvni;  ///< of the first outline
+    /// The characters that it prints; none if it comes in the place of others, as a ligature may.
+    std::vector<char32_t> Znaky{};
+
+    [[nodiscard]] bool MuzeByt(const std::set<char32_t>& psane) const {
+        return Znaky.empty() || std::ranges::any_of(Znaky, [&](char32_t z) {
+                   return psane.contains(JeLigaturaF(z) ? U'f' : z);
+               });
+    }
 };
 
 /// Points of a drawing and those of a glyph that they should be.
 struct Dvojice {
     std::vector<BodCesty> Body, Predloha;
-    std::vector<std::pair<Obal, Obal>> Obaly;  ///< of outlines of which no more is compared
+    /// Outlines that lost a step: the drawn one, the glyph's.
+    std::vector<std::pair<const Obrys*, const Obrys*>> Zjednodusene;
 };
 
 /// Outlines with the same steps are compared point by point. On the grid that the drawing was made
-/// on, near points of small marks come to be one, or three to lie in a line, and a step is lost:
-/// of such outlines the surrounding rectangle is compared, and what they enclose.
+/// on, near points of small marks come to be one, or three to lie in a line, and a step is lost: of
+/// such outlines the surrounding rectangle is compared, what they enclose, and each corner that is
+/// left with the nearest one of the glyph. (A caron and a circumflex have one rectangle and one
+/// area.)
 Dvojice Sparuj(const Obrys* kresba, const std::vector<Obrys>& predloha) {
     Dvojice d;
     for (const Obrys& p : predloha) {
@@ -110,7 +127,7 @@ Dvojice Sparuj(const Obrys* kresba, const std::vector<Obrys>& predloha) {
             const Obal op = Zabal(p);
             d.Body.insert(d.Body.end(), {ok.Roh1, ok.Roh2});
             d.Predloha.insert(d.Predloha.end(), {op.Roh1, op.Roh2});
-            d.Obaly.emplace_back(ok, op);
+            d.Zjednodusene.emplace_back(&k, &p);
         }
     }
     return d;
@@ -123,6 +140,24 @@ struct Poloha {
     BodCesty Misto;
     double Odchylka = 0;
 };
+
+/// How far the farthest corner of a drawn outline is from the nearest one of a glyph that lies so.
+double NejdalOdRohu(const Obrys& kresba, const Obrys& predloha, const Poloha& kde) {
+    const auto proRohy = [](const Obrys& o, auto f) {
+        f(o.Zacatek);
+        for (const Obrys::Usek& u : o.Useky) f(u.Konec);
+    };
+    double nejdal = 0;
+    proRohy(kresba, [&](const BodCesty& k) {
+        double nejbliz = std::numeric_limits<double>::max();
+        proRohy(predloha, [&](const BodCesty& p) {
+            nejbliz = std::min(nejbliz, std::max(std::abs(k.X - kde.Misto.X - kde.Velikost * p.X),
+                                                 std::abs(k.Y - kde.Misto.Y - kde.Velikost * p.Y)));
+        });
+        nejdal = std::max(nejdal, nejbliz);
+    });
+    return nejdal;
+}
 
 /// velikost: given, or 0 to find it.
 Poloha Zmer(const Dvojice& d, double velikost) {
@@ -151,10 +186,12 @@ Poloha Zmer(const Dvojice& d, double velikost) {
             std::max({z.Odchylka, std::abs(body[i].X - z.Misto.X - velikost * predloha[i].X),
                       std::abs(body[i].Y - z.Misto.Y - velikost * predloha[i].Y)});
     }
-    for (const auto& [k, p] : d.Obaly) {
-        const double obvod = k.Roh2.X - k.Roh1.X + k.Roh2.Y - k.Roh1.Y;
-        z.Odchylka = std::max(z.Odchylka, std::abs(k.Plocha - velikost * velikost * p.Plocha) /
-                                              std::max(obvod, PRESNOST));
+    for (const auto& [k, p] : d.Zjednodusene) {
+        const Obal ok = Zabal(*k);
+        const double obvod = ok.Roh2.X - ok.Roh1.X + ok.Roh2.Y - ok.Roh1.Y;
+        z.Odchylka = std::max({z.Odchylka, NejdalOdRohu(*k, *p, z),
+                               std::abs(ok.Plocha - velikost * velikost * Zabal(*p).Plocha) /
+                                   std::max(obvod, PRESNOST)});
     }
     return z;
 }
@@ -210,9 +247,10 @@ struct Glyfy::Vnitrek {
 
     /// The glyph that the outlines from the given one on are, the one of most outlines.
     [[nodiscard]] Nalez Najdi(const std::vector<Obrys>& cesta, std::size_t od, double velikost,
-                              double ucari) const {
+                              double ucari, const std::set<char32_t>& psane) const {
         Nalez nejlepsi;
         const auto zkus = [&](const Predloha& p) {
+            if (!p.MuzeByt(psane)) return;
             if (od + p.Obrysy.size() > cesta.size()) return;
             const Poloha z = Zmer(Sparuj(&cesta[od], p.Obrysy), velikost);
             if (z.Odchylka > Mez(velikost) || std::abs(z.Misto.Y - ucari) > Mez(velikost)) return;
@@ -241,10 +279,11 @@ struct Glyfy::Vnitrek {
 
     /// All of the path at this size on this base line; empty if something is left.
     [[nodiscard]] std::vector<Nalez> PrectiVse(const std::vector<Obrys>& cesta, double velikost,
-                                               double ucari) const {
+                                               double ucari,
+                                               const std::set<char32_t>& psane) const {
         std::vector<Nalez> nalezy;
         for (std::size_t i = 0; i < cesta.size();) {
-            nalezy.push_back(Najdi(cesta, i, velikost, ucari));
+            nalezy.push_back(Najdi(cesta, i, velikost, ucari, psane));
             if (nalezy.back().Co == nullptr) return {};
             i += nalezy.back().Co->Obrysy.size();
         }
@@ -260,11 +299,16 @@ Glyfy::Glyfy(const std::vector<std::filesystem::path>& soubory)
         FT_Face tvar = nullptr;
         if (FT_New_Face(knihovna, soubory[i].c_str(), 0, &tvar) != 0)
             throw BehovaChyba("Nelze otevřít písmo", soubory[i].string());
+        std::map<std::uint32_t, std::vector<char32_t>> znaky;
+        FT_UInt tisteny = 0;
+        for (FT_ULong znak = FT_Get_First_Char(tvar, &tisteny); tisteny != 0;
+             znak = FT_Get_Next_Char(tvar, znak, &tisteny))
+            znaky[tisteny].push_back(static_cast<char32_t>(znak));
         const FT_Outline_Funcs kroky{Zacni, Usecka, Kvadraticka, Kubicka, 0, 0};
         for (long g = 0; g < tvar->num_glyphs; ++g) {
             const auto cislo = static_cast<FT_UInt>(g);
             if (FT_Load_Glyph(tvar, cislo, FT_LOAD_NO_SCALE) != 0) continue;
-            Predloha p{static_cast<unsigned>(i), cislo, {}, {}};
+            Predloha p{static_cast<unsigned>(i), cislo, {}, {}, znaky[cislo]};
             Stavba s{&p, static_cast<double>(tvar->units_per_EM)};
             if (FT_Outline_Decompose(&tvar->glyph->outline, &kroky, &s) != 0) continue;
             for (Obrys& o : p.Obrysy) Zjednodus(o);
@@ -282,7 +326,8 @@ Glyfy::Glyfy(const std::vector<std::filesystem::path>& soubory)
 
 Glyfy::~Glyfy() = default;
 
-std::vector<Radka> Glyfy::Precti(const std::vector<Obrys>& puvodni) const {
+std::vector<Radka> Glyfy::Precti(const std::vector<Obrys>& puvodni,
+                                 const std::set<char32_t>& psane) const {
     std::vector<Obrys> cesta = puvodni;
     for (Obrys& o : cesta) Zjednodus(o);
     std::erase_if(cesta, [](const Obrys& o) { return o.Useky.empty(); });
@@ -308,10 +353,10 @@ std::vector<Radka> Glyfy::Precti(const std::vector<Obrys>& puvodni) const {
         const auto [prvni, konec] = vnitrek_->PodlePodpisu.equal_range(Podpis(cesta[i]));
         for (auto k = prvni; k != konec; ++k) {
             const Predloha& p = *k->second;
-            if (i + p.Obrysy.size() > cesta.size()) continue;
+            if (!p.MuzeByt(psane) || i + p.Obrysy.size() > cesta.size()) continue;
             const Poloha z = Zmer(Sparuj(&cesta[i], p.Obrysy), 0);
             if (z.Velikost <= 0 || z.Odchylka > Mez(z.Velikost)) continue;
-            auto nalezy = vnitrek_->PrectiVse(cesta, z.Velikost, z.Misto.Y);
+            auto nalezy = vnitrek_->PrectiVse(cesta, z.Velikost, z.Misto.Y, psane);
             if (nalezy.empty()) continue;
             double odchylka = 0;
             for (const auto& n : nalezy) odchylka += n.Kde.Odchylka;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include "Nahravka.h"
@@ -31,8 +32,10 @@ public:
     Glyfy(const Glyfy&) = delete;
     Glyfy& operator=(const Glyfy&) = delete;
 
-    /// The rows of glyphs that a filled path is; none when it is no text, or not all of it.
-    [[nodiscard]] std::vector<Radka> Precti(const std::vector<Obrys>& cesta) const;
+    /// The rows of glyphs that a filled path is; none when it is no text, or not all of it. psane:
+    /// the characters that the drawing writes; no other letter is known again, however like.
+    [[nodiscard]] std::vector<Radka> Precti(const std::vector<Obrys>& cesta,
+                                            const std::set<char32_t>& psane) const;
 
 private:
     struct Vnitrek;

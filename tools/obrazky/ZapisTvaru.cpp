@@ -6,6 +6,7 @@
 
 #include "Kresleni.h"
 #include "base/Chyba.h"
+#include "base/Text.h"
 #include "platform/Pisma.h"
 #include "platform/Tvary.h"
 
@@ -99,6 +100,21 @@ std::set<double> Velikosti(const std::string& svg) {
     return velikosti;
 }
 
+/// All characters between the marks of a drawing.
+std::set<char32_t> PsaneZnaky(const std::string& svg) {
+    std::string text;
+    for (auto i = svg.find('>'); i != std::string::npos; i = svg.find('>', i + 1)) {
+        const auto konec = std::min(svg.find('<', i), svg.size());
+        text += svg.substr(i + 1, konec - i - 1);
+    }
+    for (const auto& [jak, co] : {std::pair("&lt;", "<"), {"&gt;", ">"}, {"&amp;", "&"}}) {
+        if (text.find(jak) != std::string::npos) text += co;
+    }
+    std::set<char32_t> znaky;
+    for (const char32_t z : DoZnaku(text)) znaky.insert(z);
+    return znaky;
+}
+
 void ZapisRadku(Zapis& z, std::uint32_t barva, const Radka& r, const std::set<double>& velikosti) {
     double velikost = r.Velikost;
     for (const double v : velikosti) {
@@ -123,7 +139,13 @@ void ZapisRadku(Zapis& z, std::uint32_t barva, const Radka& r, const std::set<do
     }
 }
 
-void ZapisVypln(Zapis& z, const Ukon& u, const Glyfy& glyfy, const std::set<double>& velikosti) {
+/// What the text of a drawing is known by.
+struct Pismena {
+    std::set<double> Velikosti;
+    std::set<char32_t> Znaky;
+};
+
+void ZapisVypln(Zapis& z, const Ukon& u, const Glyfy& glyfy, const Pismena& pismo) {
     Ramec r;
     if (JeObdelnik(u.Cesta, r)) {
         z.Prikaz(PrikazTvaru::Obdelnik);
@@ -133,8 +155,8 @@ void ZapisVypln(Zapis& z, const Ukon& u, const Glyfy& glyfy, const std::set<doub
     }
     // A triangle of a drawing without text is none of the letters that look like it.
     const std::vector<Radka> radky =
-        velikosti.empty() ? std::vector<Radka>() : glyfy.Precti(u.Cesta);
-    for (const Radka& radka : radky) ZapisRadku(z, u.Barva, radka, velikosti);
+        pismo.Velikosti.empty() ? std::vector<Radka>() : glyfy.Precti(u.Cesta, pismo.Znaky);
+    for (const Radka& radka : radky) ZapisRadku(z, u.Barva, radka, pismo.Velikosti);
     if (!radky.empty()) return;
     z.Prikaz(PrikazTvaru::Vypln);
     z.Barva(u.Barva);
@@ -146,7 +168,7 @@ void ZapisVypln(Zapis& z, const Ukon& u, const Glyfy& glyfy, const std::set<doub
 
 std::string SlozTvary(const Obrazek& obrazek, const std::vector<Ukon>& ukony, const Glyfy& glyfy,
                       std::uint32_t otisk) {
-    const std::set<double> velikosti = Velikosti(obrazek.Svg);
+    const Pismena pismo{Velikosti(obrazek.Svg), PsaneZnaky(obrazek.Svg)};
     const Ramec cely{0, 0, static_cast<double>(obrazek.Sirka), static_cast<double>(obrazek.Vyska)};
     Zapis z;
     bool zacato = false;
@@ -173,7 +195,7 @@ std::string SlozTvary(const Obrazek& obrazek, const std::vector<Ukon>& ukony, co
         zacato = zacato || kresli;
         switch (u.Co) {
             case Ukon::Druh::Vypln:
-                ZapisVypln(z, u, glyfy, velikosti);
+                ZapisVypln(z, u, glyfy, pismo);
                 break;
             case Ukon::Druh::Tah:
                 z.Prikaz(PrikazTvaru::Tah);

@@ -33,7 +33,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Grows by one when the tool itself comes to draw differently: all is then rendered anew.
-constexpr std::uint64_t VERZE = 3;
+constexpr std::uint64_t VERZE = 4;
 
 /// How many times larger a drawing is recorded: Cairo keeps places in 256ths of a pixel.
 constexpr int PRESNOST_NAHRAVKY = 16;
