@@ -234,7 +234,9 @@ void DokonalyCtyruhelnik::NarysujRovnobezku(const std::string& strana) {
     Bod kam = kolem(t, 0.5, 0);
     for (int i = 0; i < POKUSU; ++i) {
         const Bod odkud = kolem(p, los_.Mezi(-50, 150) / 100.0, 0);
-        const Bod pustit = kolem(t, los_.Mezi(-100, 100) / 100.0, los_.Mezi(-5, 5));
+        // Drawn one after the other: compilers differ in which argument comes first.
+        const int napric = los_.Mezi(-5, 5);
+        const Bod pustit = kolem(t, los_.Mezi(-100, 100) / 100.0, napric);
         if (!NaPlose(odkud) || !NaPlose(pustit)) continue;
         stisk = odkud;
         kam = pustit;

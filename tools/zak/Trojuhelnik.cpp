@@ -106,7 +106,8 @@ void DokonalyTrojuhelnik::UmistiPrvni(int px) {
     Bod kam{};
     if (nahoru_) {
         // In the middle, level within 60 degrees, to either side: the parallel is pushed upward.
-        const double smer = (los_.Mezi(-600, 600) / 10.0 + (los_.Ano() ? 180 : 0)) * PI / 180;
+        const double odklon = los_.Mezi(-600, 600) / 10.0;
+        const double smer = (odklon + (los_.Ano() ? 180 : 0)) * PI / 180;
         od = {192 - Zaokrouhli(px / 2.0 * std::cos(smer)),
               170 + Zaokrouhli(px / 2.0 * std::sin(smer))};
         kam = {od.X + Zaokrouhli(px * std::cos(smer)), od.Y - Zaokrouhli(px * std::sin(smer))};
