@@ -21,12 +21,15 @@ endif()
 # A mistake in the handling of memory ends the program and gives nobody a hold: guarded stacks,
 # checked copies (these want optimisation, and would be in the sanitizers' way), addresses that
 # differ each time, and tables of them that are read only once all is linked, at the start.
-target_compile_options(prisnost INTERFACE -fstack-protector-strong)
-if(NOT RYSOVNA_SANITIZE)
-    target_compile_options(prisnost INTERFACE
-        $<$<CONFIG:Release>:-U_FORTIFY_SOURCE> $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+# A browser keeps the program in a room of its own instead.
+if(NOT EMSCRIPTEN)
+    target_compile_options(prisnost INTERFACE -fstack-protector-strong)
+    if(NOT RYSOVNA_SANITIZE)
+        target_compile_options(prisnost INTERFACE
+            $<$<CONFIG:Release>:-U_FORTIFY_SOURCE> $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+    endif()
 endif()
-if(NOT WIN32 AND NOT APPLE)
+if(NOT WIN32 AND NOT APPLE AND NOT EMSCRIPTEN)
     target_link_options(prisnost INTERFACE LINKER:-z,relro LINKER:-z,now)
 endif()
 if(RYSOVNA_ODR)
