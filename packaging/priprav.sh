@@ -8,6 +8,8 @@ BALICKY_TESTY="libgtest-dev xvfb xdotool x11-utils imagemagick sway grim
     clang-format clang-tidy-16"
 BALICKY_BALIK="dpkg-dev librsvg2-bin"
 BALICKY_BALIK_TESTY="lintian debootstrap appstream desktop-file-utils xvfb xdotool x11-utils imagemagick"
+BALICKY_WEB="emscripten dpkg-dev patch xz-utils"
+BALICKY_WEB_TESTY="chromium xvfb xdotool x11-xkb-utils"
 BALICKY_BENCH="libbenchmark-dev xvfb xdotool x11-utils"
 
 # Czech letters are typed, printed and compared in UTF-8, whatever the machine is set to.

@@ -100,6 +100,8 @@ public:
     [[nodiscard]] virtual Kurzor KurzorNad(const Ovladac* o, float x, float y) const;
     /// The point that a press would catch where the pointer is, design px.
     [[nodiscard]] virtual std::optional<Bod> Zachytne() const { return std::nullopt; }
+    /// What is asked of the person now, for a machine that says it aloud; empty: nothing.
+    [[nodiscard]] virtual std::string CoSeRika() const { return {}; }
     /// The window is being closed from outside. The shell's root screen asks its exit question.
     virtual Cinnost<> QueryUnload() { return {}; }
 

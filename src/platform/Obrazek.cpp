@@ -19,6 +19,9 @@ std::map<std::filesystem::path, std::weak_ptr<DataObrazku>>& Nactene() {
     return nactene;
 }
 
+/// Whether there are no bitmap files, but shapes alone.
+bool g_jenTvary = false;
+
 /// How many whole paintings there were.
 std::uint64_t g_malovani = 0;
 
@@ -27,13 +30,24 @@ bool ObsahujeKlic(const Bitmapa& b) {
 }
 
 /// The shapes beside a bitmap file, if they were made with the very pixels that it has.
-std::unique_ptr<Tvary> NajdiTvary(std::filesystem::path soubor, const HlavaBmp& hlava) {
+std::unique_ptr<Tvary> NajdiTvary(const std::filesystem::path& soubor, const HlavaBmp& hlava) {
     if (!hlava.Otisk) return nullptr;
-    auto tvary = NactiTvary(soubor.replace_extension(PRIPONA_TVARU));
+    auto tvary = NactiTvary(SouborTvaru(soubor));
     if (tvary && (tvary->Otisk != *hlava.Otisk || tvary->Sirka != hlava.Sirka ||
                   tvary->Vyska != hlava.Vyska))
         tvary.reset();
     return tvary;
+}
+
+/// The 1:1 bitmap of a picture that has shapes alone: where less than half of a pixel is covered,
+/// it is the key.
+Bitmapa ZTvaru(const Tvary& tvary) {
+    constexpr Pixel CELA = 0xFF000000U, PUL = 0x80000000U;
+    Bitmapa b(tvary.Sirka, tvary.Vyska, 0);
+    const Obdelnik vse{0, 0, tvary.Sirka, tvary.Vyska};
+    KresliTvary(b.Pohled(), vse, vse, tvary);
+    for (Pixel& p : b.Body) p = p < PUL ? KLIC : p | CELA;
+    return b;
 }
 
 }  // namespace
@@ -45,6 +59,14 @@ DataObrazku::DataObrazku(Bitmapa logicka)
       logicka_(std::move(logicka)) {}
 
 DataObrazku::DataObrazku(std::filesystem::path soubor) : soubor_(std::move(soubor)) {
+    if (g_jenTvary) {
+        tvary_ = NactiTvary(SouborTvaru(soubor_));
+        if (!tvary_) throw BehovaChyba("Nelze otevřít obrázek", soubor_.string());
+        sirka_ = tvary_->Sirka;
+        vyska_ = tvary_->Vyska;
+        maKlic_ = tvary_->MaKlic;
+        return;
+    }
     const HlavaBmp hlava = NactiHlavuBmp(soubor_);
     sirka_ = hlava.Sirka;
     vyska_ = hlava.Vyska;
@@ -53,7 +75,8 @@ DataObrazku::DataObrazku(std::filesystem::path soubor) : soubor_(std::move(soubo
 }
 
 const Bitmapa& DataObrazku::Logicka() {
-    if (logicka_.Prazdna() && !soubor_.empty()) logicka_ = NactiBmp(soubor_);
+    if (logicka_.Prazdna() && !soubor_.empty())
+        logicka_ = g_jenTvary ? ZTvaru(*tvary_) : NactiBmp(soubor_);
     return logicka_;
 }
 
@@ -95,6 +118,18 @@ void PolozObrazek(const Vyhled& cil, const Obdelnik& kam, const Obdelnik& orez,
     }
     Prenes(cil, kam, orez, data.VeVelikosti(s), zx, zy,
            data.MaKlic() && pruhledne ? Prenos::BezKlice : Prenos::Kopie);
+}
+
+std::filesystem::path SouborTvaru(std::filesystem::path soubor) {
+    return soubor.replace_extension(PRIPONA_TVARU);
+}
+
+void PouzijJenTvary() {
+    g_jenTvary = true;
+}
+
+bool JsouJenTvary() {
+    return g_jenTvary;
 }
 
 void ZacniMalovat() {

@@ -50,6 +50,13 @@ private:
 void PolozObrazek(const Vyhled& cil, const Obdelnik& kam, const Obdelnik& orez,
                   const Obrazek& obrazek, double s, bool pruhledne);
 
+/// The shapes beside a bitmap file.
+[[nodiscard]] std::filesystem::path SouborTvaru(std::filesystem::path soubor);
+/// From now on there are no bitmap files: the home has shapes alone, from which 1:1 bitmaps are
+/// made too.
+void PouzijJenTvary();
+[[nodiscard]] bool JsouJenTvary();
+
 /// A whole painting begins; and it ended: enlarged bitmaps that it did not ask for are let go.
 void ZacniMalovat();
 void ZahodNevidene();

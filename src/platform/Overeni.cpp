@@ -19,14 +19,17 @@ bool JeTu(const std::filesystem::path& soubor) {
 }  // namespace
 
 std::string VadaObrazku(const std::filesystem::path& soubor, int sirka, int vyska) {
-    if (!JeTu(soubor)) return "chybí";
     try {
+        if (JsouJenTvary()) {
+            const auto tvary = NactiTvary(SouborTvaru(soubor));
+            if (!tvary) return "chybí";
+            return tvary->Sirka == sirka && tvary->Vyska == vyska ? "" : "má jiný rozměr";
+        }
+        if (!JeTu(soubor)) return "chybí";
         const Bitmapa obraz = NactiBmp(soubor);
         if (obraz.Sirka != sirka || obraz.Vyska != vyska) return "má jiný rozměr";
         // A picture of somebody else's is enlarged as it is.
-        auto tvary = soubor;
-        tvary.replace_extension(PRIPONA_TVARU);
-        if (NactiHlavuBmp(soubor).Otisk && !NactiTvary(tvary)) return "chybí tvary";
+        if (NactiHlavuBmp(soubor).Otisk && !NactiTvary(SouborTvaru(soubor))) return "chybí tvary";
     } catch (const BehovaChyba& chyba) {
         return chyba.what();
     }

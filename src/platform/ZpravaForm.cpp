@@ -224,4 +224,10 @@ Cinnost<Odpoved> Host::UkazZpravu(std::string text, std::string titul, Styl styl
     co_return form->Vysledek();
 }
 
+std::string ZpravaForm::CoSeRika() const {
+    std::string text = titulek_.Caption;
+    for (const auto& radek : radky_) text += " " + radek->Caption;
+    return text;
+}
+
 }  // namespace rysovna

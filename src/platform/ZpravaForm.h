@@ -21,6 +21,7 @@ public:
     void MouseMove(Ovladac* o, const Mys& m) override;
     Cinnost<> Click(Ovladac* o) override;
     Odezva Klavesa(std::string_view klavesa, int shift) override;
+    [[nodiscard]] std::string CoSeRika() const override;
     Cinnost<> QueryUnload() override;
 
     /// What was chosen; the answer of Escape until something is.

@@ -101,6 +101,8 @@ public:
     [[nodiscard]] int CastProPrst(const Ovladac& o, float x, float y) const override;
     [[nodiscard]] Kurzor KurzorNad(const Ovladac* o, float x, float y) const override;
     [[nodiscard]] std::optional<Bod> Zachytne() const override;
+    /// The prompt and the guide line.
+    [[nodiscard]] std::string CoSeRika() const override;
 
     /// The dialogue of this board; made by Load.
     [[nodiscard]] const Dialog& Dialogem() const { return *dialog_; }

@@ -102,4 +102,14 @@ void DeskaForm::ObnovRadu() {
     }
 }
 
+std::string DeskaForm::CoSeRika() const {
+    std::string text;
+    for (const Label* l : {&lblText1, &lblText2, &lblRada[0], &lblRada[1]}) {
+        if (!l->Visible || l->Caption.empty()) continue;
+        if (!text.empty()) text += ' ';
+        text += l->Caption;
+    }
+    return text;
+}
+
 }  // namespace rysovna

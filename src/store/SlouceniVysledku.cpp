@@ -1,0 +1,60 @@
+#include "store/SlouceniVysledku.h"
+
+#include <map>
+#include <vector>
+
+#include "store/Kodovani.h"
+#include "store/TabulkaVysledku.h"
+#include "store/Ukladani.h"
+
+namespace rysovna {
+namespace {
+
+/// Entries of the log: each ends with a line of equal signs.
+std::vector<std::string> ZapisyDeniku(std::string_view denik) {
+    constexpr std::string_view CARA = "=\r\n";
+    std::vector<std::string> zapisy;
+    while (!denik.empty()) {
+        const std::size_t cara = denik.find(CARA);
+        const std::size_t konec =
+            cara == std::string_view::npos ? denik.size() : cara + CARA.size();
+        zapisy.emplace_back(denik.substr(0, konec));
+        denik.remove_prefix(konec);
+    }
+    return zapisy;
+}
+
+/// Of equal entries here, so many of those to be added are the same ones.
+template <class T, class Pridej>
+void PridejChybejici(const std::vector<T>& zde, const std::vector<T>& pridat, Pridej&& pridej) {
+    std::map<T, int> mame;
+    for (const T& z : zde) ++mame[z];
+    for (const T& z : pridat) {
+        if (mame[z]-- <= 0) pridej(z);
+    }
+}
+
+}  // namespace
+
+std::string SlucVysledky(std::string_view jmeno, std::string_view zde, std::string_view pridat) {
+    if (jmeno == JMENO_DENIKU) {
+        std::string vse(zde);
+        if (!vse.empty() && !vse.ends_with('\n')) vse += KONEC_RADKU;
+        PridejChybejici(ZapisyDeniku(zde), ZapisyDeniku(pridat),
+                        [&](const std::string& zapis) { vse += zapis; });
+        return vse;
+    }
+    const auto radky = [](std::string_view tabulka) {
+        std::vector<std::string> text;
+        for (const ZaznamTabulky& z : RozdelTabulku(PlatnaTabulka(tabulka)))
+            text.push_back(SlozTabulku({z}));
+        return text;
+    };
+    std::vector<ZaznamTabulky> vse = RozdelTabulku(PlatnaTabulka(zde));
+    PridejChybejici(radky(zde), radky(pridat), [&](const std::string& radek) {
+        VlozZaznam(vse, RozdelTabulku(radek).front());
+    });
+    return SlozTabulku(vse);
+}
+
+}  // namespace rysovna
