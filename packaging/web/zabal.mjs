@@ -9,26 +9,25 @@ import { gzipSync } from "node:zlib";
 const [staging, program, zdroje, kam] = process.argv.slice(2);
 const sbal = (data) => gzipSync(data, { level: 9 });
 
-// What the program reads: pictures by their shapes, no bitmaps; results are the browser's.
-function soubory(slozka) {
-  return fs.readdirSync(path.join(staging, slozka), { withFileTypes: true }).flatMap((polozka) => {
-    const jmeno = `${slozka}/${polozka.name}`;
-    if (polozka.isDirectory()) return soubory(jmeno);
-    return /\.res$|\.bmp$|\/Vysledky\.dat$/.test(jmeno) ? [] : [jmeno];
-  }).sort();
-}
+// What the program reads, from the list against which a build is checked: pictures by their shapes, no
+// bitmaps; results are the browser's.
+const assety = fs.readFileSync(path.join(zdroje, "../../assets/soubory.txt"), "utf8")
+  .split("\n").map((radek) => radek.split(" ")[0]).filter((jmeno) => /^\w+\//.test(jmeno))
+  .map((jmeno) => `assets/${jmeno.replace(/\.bmp$/, ".tvary")}`);
+const data = fs.readdirSync(path.join(staging, "data")).sort()
+  .filter((jmeno) => jmeno.endsWith(".dat") && jmeno !== "Vysledky.dat")
+  .map((jmeno) => `data/${jmeno}`);
 
 const obsah = [["Rysovna.ini", fs.readFileSync(path.join(zdroje, "Rysovna.ini"))],
-  ...["assets", "data"].flatMap(soubory).map((jmeno) =>
-    [jmeno, fs.readFileSync(path.join(staging, jmeno))])];
-const seznam = Buffer.from(JSON.stringify(obsah.map(([jmeno, data]) => [jmeno, data.length])));
+  ...[...assety, ...data].map((jmeno) => [jmeno, fs.readFileSync(path.join(staging, jmeno))])];
+const seznam = Buffer.from(JSON.stringify(obsah.map(([jmeno, bajty]) => [jmeno, bajty.length])));
 const delka = Buffer.alloc(4);
 delka.writeUInt32LE(seznam.length);
 
 fs.rmSync(kam, { recursive: true, force: true });
 fs.mkdirSync(kam, { recursive: true });
 const pis = (jmeno, data) => fs.writeFileSync(path.join(kam, jmeno), data);
-pis("data.bin", sbal(Buffer.concat([delka, seznam, ...obsah.map(([, data]) => data)])));
+pis("data.bin", sbal(Buffer.concat([delka, seznam, ...obsah.map(([, bajty]) => bajty)])));
 pis("hra.bin", sbal(fs.readFileSync(path.join(program, "rysovna.wasm"))));
 pis("rysovna.js", fs.readFileSync(path.join(program, "rysovna.js")));
 const stranka = ["index.html", "styl.css", "zacatek.js", "stranka.js", "uloziste.js", "vstup.js",
