@@ -5,12 +5,13 @@
 #include <optional>
 #include <span>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
-#include "platform/PosixDisk.h"
+#include "platform/Stroj.h"
 #include "platform/sdl/SdlHost.h"
 #include "platform/sdl/Zvuk.h"
 #include "screens/Desky.h"
@@ -26,8 +27,7 @@ constexpr int STAV_POUZITI = 3;
 constexpr const char* NENI_OBRAZOVKA = "Není k dispozici žádná obrazovka.";
 
 /// False if they are no arguments of the program.
-bool CtiArgumenty(std::span<const std::string_view> argumenty,
-                  std::optional<std::uint32_t>& seminko) {
+bool CtiArgumenty(std::span<const std::string> argumenty, std::optional<std::uint32_t>& seminko) {
     if (argumenty.size() != 2 || argumenty[0] != "--seminko") return false;
     const std::string_view text = argumenty[1];
     std::uint32_t cislo = 0;
@@ -60,7 +60,7 @@ int Zkontroluj() {
     using namespace rysovna;
     std::optional<SdlHost> host;
     if (SdlHost::MaDisplej()) host.emplace();
-    PosixDisk disk;
+    DiskStroje disk;
     return VypisKontrolu(
         std::cout,
         ZkontrolujPocitac({.SlozkaNastaveni = SdlHost::SlozkaNastaveni(),
@@ -93,7 +93,7 @@ int Hraj(rysovna::SdlHost& host) {
 
 int main(int pocet, char** slova) {
     std::optional<std::uint32_t> seminko;
-    const std::vector<std::string_view> argumenty(slova + 1, slova + pocet);
+    const std::vector<std::string> argumenty = rysovna::Argumenty(pocet, slova);
     const bool kontrola = argumenty.size() == 1 && argumenty[0] == "--kontrola";
     if (!argumenty.empty() && !kontrola && !CtiArgumenty(argumenty, seminko)) {
         std::cerr << "Použití: rysovna [--seminko ČÍSLO | --kontrola]\n"

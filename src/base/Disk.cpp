@@ -2,6 +2,10 @@
 
 namespace rysovna {
 
+std::filesystem::path CestaZTextu(std::string_view text) {
+    return std::u8string(text.begin(), text.end());
+}
+
 ChybaDisku::ChybaDisku(Pricina proc, const std::filesystem::path& soubor)
     : std::runtime_error(soubor.string() + " (" + std::string(TextPriciny(proc)) + ")"),
       proc_(proc),

@@ -12,6 +12,10 @@
 
 namespace rysovna {
 
+/// A path out of a text of the program, which is UTF-8 whatever the machine's own texts are. The
+/// other way is path::string().
+[[nodiscard]] std::filesystem::path CestaZTextu(std::string_view text);
+
 /// Why the disk did not do what it was asked for.
 enum class Pricina {
     Neni,        ///< there is no such file or folder

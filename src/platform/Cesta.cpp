@@ -5,6 +5,8 @@
 #include <string>
 #include <system_error>
 
+#include "base/Disk.h"
+
 namespace rysovna {
 
 namespace {
@@ -37,17 +39,19 @@ std::filesystem::path NativniCesta(std::string_view cesta) {
     std::string lomitka(cesta);
     std::replace(lomitka.begin(), lomitka.end(), '\\', '/');
     std::error_code chyba;
-    if (std::filesystem::exists(lomitka, chyba)) return lomitka;
+    std::filesystem::path psana = CestaZTextu(lomitka);
     std::filesystem::path skutecna;
-    for (const std::filesystem::path& cast : std::filesystem::path(lomitka)) {
+    if (std::filesystem::exists(psana, chyba)) skutecna.swap(psana);
+    for (const std::filesystem::path& cast : psana) {
         const std::filesystem::path takhle = skutecna / cast;
         if (cast.empty() || std::filesystem::exists(takhle, chyba)) {
             skutecna = takhle;
         } else {
-            skutecna /= JmenoNaDisku(skutecna, cast.string());
+            skutecna /= CestaZTextu(JmenoNaDisku(skutecna, cast.string()));
         }
     }
-    return skutecna;
+    // What stands in messages later is spelt as people spell it there.
+    return skutecna.make_preferred();
 }
 
 }  // namespace rysovna

@@ -6,6 +6,7 @@
 
 #include "base/Chyba.h"
 #include "platform/ObrazekData.h"
+#include "platform/Stroj.h"
 #include "platform/bmp/Bmp.h"
 
 namespace rysovna {
@@ -41,7 +42,9 @@ std::string VadaPisma(const std::filesystem::path& soubor) {
     FT_Library knihovna = nullptr;
     if (FT_Init_FreeType(&knihovna) != 0) return "písma nelze číst";
     FT_Face rez = nullptr;
-    const bool jde = FT_New_Face(knihovna, soubor.c_str(), 0, &rez) == 0;
+    const std::string obsah = CelySoubor(soubor).value_or(std::string());
+    const bool jde = FT_New_Memory_Face(knihovna, reinterpret_cast<const FT_Byte*>(obsah.data()),
+                                        static_cast<FT_Long>(obsah.size()), 0, &rez) == 0;
     // A letter that the texts need and that a cut file lacks.
     const bool cele = jde && FT_Get_Char_Index(rez, 0x159) != 0;
     if (jde) FT_Done_Face(rez);

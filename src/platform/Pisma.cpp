@@ -15,6 +15,7 @@
 #include "platform/Cesta.h"
 #include "platform/Host.h"
 #include "platform/Sazba.h"
+#include "platform/Stroj.h"
 #include "platform/Surface.h"
 
 namespace rysovna {
@@ -124,10 +125,19 @@ private:
         return NativniCesta(*slozka_ + "\\" + std::string(SOUBORY[static_cast<std::size_t>(i)]));
     }
 
+    /// The font of a file; what the file holds is put where it stays. Null if it is none.
+    FT_Face ZObsahu(std::string& obsah, const std::filesystem::path& soubor) {
+        obsah = CelySoubor(soubor).value_or(std::string());
+        FT_Face rez = nullptr;
+        const auto* data = reinterpret_cast<const FT_Byte*>(obsah.data());
+        const auto delka = static_cast<FT_Long>(obsah.size());
+        return FT_New_Memory_Face(ft_, data, delka, 0, &rez) == 0 ? rez : nullptr;
+    }
+
     FT_Face Otevri(int i) {
         FT_Face& rez = rezy_[static_cast<std::size_t>(i)];
-        if (rez == nullptr && slozka_ && FT_New_Face(ft_, Cesta(i).c_str(), 0, &rez) != 0)
-            rez = nullptr;
+        if (rez == nullptr && slozka_)
+            rez = ZObsahu(obsahy_[static_cast<std::size_t>(i)], Cesta(i));
         return rez;
     }
 
@@ -177,6 +187,8 @@ private:
     FT_Library ft_ = nullptr;
     std::optional<std::string> slozka_;
     std::array<FT_Face, SOUBORY.size()> rezy_{};
+    /// What the files hold, for as long as they are open.
+    std::array<std::string, SOUBORY.size()> obsahy_;
     std::unordered_map<std::uint64_t, double> posuvy_;
     std::unordered_map<std::uint64_t, Glyf> glyfy_;
 };

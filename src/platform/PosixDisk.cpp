@@ -12,7 +12,7 @@
 #include <unistd.h>
 
 #include "platform/Cesta.h"
-#include "platform/Host.h"
+#include "platform/Stroj.h"
 
 namespace rysovna {
 namespace {
@@ -305,6 +305,18 @@ fs::path SlozkaStavuUctu() {
 
 fs::path SlozkaDatUctu() {
     return SlozkaUctu("XDG_DATA_HOME", ".local/share");
+}
+
+fs::path SlozkaNastaveniUctu() {
+    return SlozkaUctu("XDG_CONFIG_HOME", ".config");
+}
+
+fs::path SlozkaNastaveniStroje() {
+    return "/etc/rysovna";
+}
+
+std::vector<std::string> Argumenty(int pocet, char** slova) {
+    return {slova + std::min(pocet, 1), slova + pocet};
 }
 
 }  // namespace rysovna

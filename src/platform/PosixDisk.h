@@ -22,10 +22,4 @@ public:
     [[nodiscard]] std::uint64_t Volno(const std::filesystem::path& slozka) override;
 };
 
-/// Where this account keeps what the program remembers between runs ($XDG_STATE_HOME or
-/// ~/.local/state) and its own data ($XDG_DATA_HOME or ~/.local/share), each with the program's
-/// name behind. Empty where the account has no home.
-[[nodiscard]] std::filesystem::path SlozkaStavuUctu();
-[[nodiscard]] std::filesystem::path SlozkaDatUctu();
-
 }  // namespace rysovna

@@ -197,6 +197,7 @@ bool OtevrenaTabulka::Vymen(std::string_view nova) {
     vedle += "." + Sestnactkove(cislo);
     vedle += PRIPONA_NOVE;
     bool vyrobeno = false;
+    const bool byla = soubor_ != nullptr;
     try {
         const auto soubor = disk_.NovySoubor(vedle);
         vyrobeno = true;
@@ -204,11 +205,14 @@ bool OtevrenaTabulka::Vymen(std::string_view nova) {
         soubor->Pis(0, nova);
         soubor->NaDisk();
         mohlaSeZmenit_ = true;
+        // There are systems where nothing that is open can be replaced.
+        soubor_.reset();
         disk_.Nahrad(vedle, cesta_);
     } catch (const ChybaDisku& chyba) {
         if (vyrobeno) OdstranPotichu(disk_, vedle);
         // A table that is there and is open to this account can be written into.
-        if (chyba.Proc() != Pricina::Nepovoleno || !soubor_) throw;
+        if (chyba.Proc() != Pricina::Nepovoleno || !byla) throw;
+        if (!soubor_) soubor_ = disk_.Otevri(cesta_, Disk::Jak::Zapis);
         mohlaSeZmenit_ = false;
         return false;
     }

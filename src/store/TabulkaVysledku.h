@@ -77,7 +77,7 @@ private:
 
     Disk& disk_;
     std::filesystem::path cesta_;
-    std::unique_ptr<Soubor> soubor_;  ///< null: there is none yet
+    std::unique_ptr<Soubor> soubor_;  ///< null: there is none yet, or it was replaced
     std::string bajty_;               ///< of the file
     std::string platna_;              ///< the table in them
     bool mohlaSeZmenit_ = false;

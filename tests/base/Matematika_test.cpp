@@ -50,6 +50,9 @@ bool Blizko(double a, double b) {
 }
 
 TEST(Matematika, VysledkyJsouVsudeStejneAVedleDomacich) {
+    // There are homes whose own functions know a turn to too few places for a comparison.
+    const volatile double pulobrat = std::numbers::pi;
+    const bool domaciZnaUhel = std::sin(pulobrat) == 0x1.1a62633145c07p-53;
     for (const Funkce& f : FUNKCE) {
         std::mt19937_64 cisla{1};
         const auto argument = [&](int i) {
@@ -64,6 +67,7 @@ TEST(Matematika, VysledkyJsouVsudeStejneAVedleDomacich) {
             const double x = argument(i), y = argument(i / 4);
             const double nase = f.Nase(x, y);
             otisk = (otisk ^ std::bit_cast<std::uint64_t>(nase)) * 0x100000001B3;
+            if (f.Dosah == UHLY && !domaciZnaUhel) continue;
             ASSERT_TRUE(Blizko(nase, f.Domaci(x, y)))
                 << std::hexfloat << f.Jmeno << ' ' << x << ' ' << y << ": " << nase;
         }

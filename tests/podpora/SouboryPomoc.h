@@ -1,12 +1,9 @@
 #pragma once
 
-#include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <stdexcept>
 #include <string>
 #include <string_view>
-#include <sys/resource.h>
 
 #include "base/Chyba.h"
 #include "hrac/Relace.h"
@@ -76,20 +73,6 @@ protected:
             return text;
         }
         return {};
-    }
-    /// The same while no file can grow over so many bytes: a write that would is cut there and
-    /// fails, as on a full disk.
-    template <class Akce>
-    std::string ChybaNaPlnemDisku(rlim_t bajtu, Akce&& akce) const {
-        const auto drivejsiSignal = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit drivejsi{};
-        getrlimit(RLIMIT_FSIZE, &drivejsi);
-        const rlimit plny{bajtu, drivejsi.rlim_max};
-        if (setrlimit(RLIMIT_FSIZE, &plny) != 0) throw std::runtime_error("setrlimit");
-        std::string hlaska = Chyba(akce);
-        setrlimit(RLIMIT_FSIZE, &drivejsi);
-        std::signal(SIGXFSZ, drivejsiSignal);
-        return hlaska;
     }
     Relace relace;
     HeadlessHost& host = relace.Host();

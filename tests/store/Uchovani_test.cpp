@@ -1,9 +1,9 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <stdlib.h>
+#include <random>
 
-#include "platform/PosixDisk.h"
+#include "platform/Stroj.h"
 #include "podpora/UkladaniHned.h"
 #include "store/Fronta.h"
 
@@ -13,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A disk that has kept what was written at the third question only, or refuses at that.
-class PozdniDisk final : public PosixDisk {
+class PozdniDisk final : public DiskStroje {
 public:
     bool Odmita = false;
     std::function<void()> PriOtazce = [] {};
@@ -45,8 +45,8 @@ protected:
     }
 
     static fs::path Nova() {
-        std::string vzor = (fs::temp_directory_path() / "uchovani.XXXXXX").string();
-        const fs::path nova = mkdtemp(vzor.data());
+        const fs::path nova =
+            fs::temp_directory_path() / ("uchovani." + std::to_string(std::random_device()()));
         fs::create_directories(nova / "vysledky");
         for (const char* soubor : {"Vysledky.dat", "01.res"})
             std::ofstream(nova / "vysledky" / soubor).close();

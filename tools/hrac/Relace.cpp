@@ -1,10 +1,11 @@
 #include "hrac/Relace.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <random>
 
 #include "base/Cisla.h"
+#include "base/Disk.h"
 #include "base/Text.h"
 #include "platform/Obrazovky.h"
 #include "rules/Ulohy.h"
@@ -15,13 +16,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path STAGING = RYSOVNA_STAGING;
+const fs::path STAGING = CestaZTextu(RYSOVNA_STAGING);
 
 /// A folder that no other run, of this process or another, has.
 fs::path NovaSlozka() {
-    std::string vzor = (fs::temp_directory_path() / "rysovna_XXXXXX").string();
-    if (mkdtemp(vzor.data()) == nullptr) throw NejdeUdelat("nelze založit " + vzor);
-    return vzor;
+    std::random_device nahoda;
+    for (int i = 0; i < 100; ++i) {
+        fs::path nova = fs::temp_directory_path() / ("rysovna_" + std::to_string(nahoda()));
+        if (fs::create_directory(nova)) return nova;
+    }
+    throw NejdeUdelat("nelze založit " + fs::temp_directory_path().string());
 }
 
 [[noreturn]] void Nejde(const std::string& co, std::string_view jmeno, int index) {

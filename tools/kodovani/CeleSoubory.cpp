@@ -1,15 +1,12 @@
 #include "CeleSoubory.h"
 
 #include <array>
-#include <cerrno>
-#include <fcntl.h>
 #include <fstream>
 #include <ios>
 #include <string>
-#include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
 
+#include "Popisovac.h"
 #include "base/Chyba.h"
 
 namespace rysovna {
@@ -34,37 +31,6 @@ bool Zapis(std::ostream& kam, std::string_view obsah) {
     return static_cast<bool>(
         kam.write(obsah.data(), static_cast<std::streamsize>(obsah.size())).flush());
 }
-
-/// A file or folder by its descriptor, for what streams cannot do.
-class Popisovac {
-public:
-    explicit Popisovac(const fs::path& co) : cislo_(::open(co.c_str(), O_RDONLY | O_CLOEXEC)) {}
-    ~Popisovac() {
-        if (cislo_ >= 0) ::close(cislo_);
-    }
-    Popisovac(const Popisovac&) = delete;
-    Popisovac& operator=(const Popisovac&) = delete;
-
-    /// Waits until all that was written is on the disk. One that cannot be waited for is no fault.
-    [[nodiscard]] bool NaDisk() const {
-        return cislo_ >= 0 && (::fsync(cislo_) == 0 || errno == EINVAL);
-    }
-
-    /// Owner, group and rights as those of another file; false if owner or group may not be so.
-    [[nodiscard]] bool PrevezmiPrava(const fs::path& od) const {
-        struct stat jeho {};
-        struct stat moje {};
-        if (cislo_ < 0 || ::stat(od.c_str(), &jeho) != 0 || ::fstat(cislo_, &moje) != 0)
-            return false;
-        const bool jinak = jeho.st_uid != moje.st_uid || jeho.st_gid != moje.st_gid;
-        if (jinak && ::fchown(cislo_, jeho.st_uid, jeho.st_gid) != 0) return false;
-        constexpr mode_t PRAVA = 07777;
-        return ::fchmod(cislo_, jeho.st_mode & PRAVA) == 0;
-    }
-
-private:
-    int cislo_;
-};
 
 /// Writes over a file that has this content: first what grows it, then the rest, then cuts it.
 bool PrepisNaMiste(const fs::path& soubor, const std::string& stary, std::string_view novy) {
@@ -95,7 +61,7 @@ bool PrepisNaMiste(const fs::path& soubor, const std::string& stary, std::string
         if (chyba) return false;
     }
     // All is written: a disk that cannot be waited for changes nothing about it.
-    (void)Popisovac(soubor).NaDisk();
+    (void)NaDisk(soubor);
     return true;
 }
 
@@ -134,17 +100,16 @@ void PrepisSoubor(const fs::path& soubor, std::string_view obsah) {
     proud.close();
     zapsano = zapsano && !proud.fail();
     if (zapsano) {
-        const Popisovac novy(vedle);
-        zapsano = novy.NaDisk();
+        zapsano = NaDisk(vedle);
         // A table that several pupils' accounts share stays theirs: one that only its owner may
         // replace is written over in place. Until that is done, the copy beside it stays.
-        if (zapsano && jeTu && !novy.PrevezmiPrava(cil)) {
+        if (zapsano && jeTu && !PrevezmiPrava(vedle, cil)) {
             zapsano = PrepisNaMiste(cil, CtiSoubor(cil), obsah);
             fs::remove(vedle, chyba);
         } else if (zapsano) {
             fs::rename(vedle, cil, chyba);
             zapsano = !chyba;
-            if (zapsano) (void)Popisovac(cil.parent_path()).NaDisk();
+            if (zapsano) (void)NaDisk(cil.parent_path());
         }
     }
     if (!zapsano) {

@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <iostream>
 #include <new>
+#include <string>
 #include <string_view>
 #include <system_error>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "Kontrola.h"
 #include "Prevod.h"
 #include "base/Chyba.h"
+#include "platform/Stroj.h"
 #include "platform/bmp/Bmp.h"
 #include "store/Kodovani.h"
 
@@ -16,7 +18,7 @@
 
 namespace {
 
-using Argumenty = std::vector<std::string_view>;
+using Slova = std::vector<std::string>;
 using namespace rysovna;
 
 constexpr std::string_view POUZITI =
@@ -41,11 +43,11 @@ zadání příkazu.
 
 constexpr int V_PORADKU = 0, CHYBY = 1, SPATNE_ZADANI = 2;
 
-int Zkontroluj(const Argumenty& soubory) {
+int Zkontroluj(const Slova& soubory) {
     int vysledek = V_PORADKU;
-    for (const std::string_view soubor : soubory) {
+    for (const std::string& soubor : soubory) {
         try {
-            for (const kodovani::Nalez& n : kodovani::Zkontroluj(soubor)) {
+            for (const kodovani::Nalez& n : kodovani::Zkontroluj(CestaZTextu(soubor))) {
                 vysledek = CHYBY;
                 std::cout << n.Misto << ": " << n.Pole << (n.Pole.empty() ? "" : ": ") << n.Duvod
                           << '\n';
@@ -60,11 +62,11 @@ int Zkontroluj(const Argumenty& soubory) {
 }
 
 /// Converts a file to another one. To itself would leave nothing of the readable text.
-void Preved(std::string_view zdroj, std::string_view cil,
+void Preved(const std::filesystem::path& zdroj, const std::filesystem::path& cil,
             std::string (*jak)(const std::filesystem::path&)) {
     std::error_code neexistuje;
     if (std::filesystem::equivalent(zdroj, cil, neexistuje)) {
-        throw BehovaChyba("Zdroj a cíl jsou týž soubor", std::string(cil));
+        throw BehovaChyba("Zdroj a cíl jsou týž soubor", cil.string());
     }
     PrepisSoubor(cil, jak(zdroj));
 }
@@ -85,7 +87,7 @@ constexpr struct {
                {"zabal", ZabalObrazek},
                {"rozbal", RozbalObrazek}};
 
-int Spust(const Argumenty& a) {
+int Spust(const Slova& a) {
     if (a.size() == 1 && (a[0] == "--help" || a[0] == "-h")) {
         std::cout << POUZITI;
         return V_PORADKU;
@@ -93,12 +95,12 @@ int Spust(const Argumenty& a) {
     if (a.size() == 3) {
         for (const auto& [prikaz, jak] : PREVODY) {
             if (a[0] != prikaz) continue;
-            Preved(a[1], a[2], jak);
+            Preved(CestaZTextu(a[1]), CestaZTextu(a[2]), jak);
             return V_PORADKU;
         }
     }
     if (a.size() >= 2 && a[0] == "zkontroluj") {
-        return Zkontroluj(Argumenty(a.begin() + 1, a.end()));
+        return Zkontroluj(Slova(a.begin() + 1, a.end()));
     }
     std::cerr << POUZITI;
     return SPATNE_ZADANI;
@@ -106,9 +108,9 @@ int Spust(const Argumenty& a) {
 
 }  // namespace
 
-int main(int pocet, char** argumenty) {
+int main(int pocet, char** slova) {
     try {
-        return Spust(Argumenty(argumenty + 1, argumenty + pocet));
+        return Spust(Argumenty(pocet, slova));
     } catch (const BehovaChyba& chyba) {
         std::cerr << chyba.what() << '\n';
     } catch (const std::bad_alloc&) {

@@ -350,10 +350,8 @@ std::string SdlHost::SlozkaNastaveni() {
     const std::string vlastni = zaklad == nullptr ? std::string() : std::string(zaklad);
     SDL_free(zaklad);
     if (MaNastaveni(vlastni)) return vlastni;
-    std::string uzivatelska = Promenna("XDG_CONFIG_HOME");
-    if (uzivatelska.empty()) uzivatelska = Promenna("HOME") + "/.config";
-    uzivatelska += "/rysovna";
-    return MaNastaveni(uzivatelska) ? uzivatelska : "/etc/rysovna";
+    const std::string uctu = SlozkaNastaveniUctu().string();
+    return MaNastaveni(uctu) ? uctu : SlozkaNastaveniStroje().string();
 }
 
 std::uint32_t SdlHost::Seminko() {

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "platform/Host.h"
-#include "platform/PosixDisk.h"
 #include "platform/Smycka.h"
+#include "platform/Stroj.h"
 
 namespace rysovna {
 
@@ -32,8 +32,8 @@ public:
     /// 640 by 480 fills the screen, the first time; any other mode, and any later call, puts the
     /// window away. 0 unless only an ordinary window can be opened; none at all is a fault.
     int ChangeDisplaySettings(const RezimObrazovky& rezim) override;
-    /// The executable's folder if it holds Rysovna.ini (any case), else the user's configuration
-    /// folder (rysovna below $XDG_CONFIG_HOME or ~/.config) if it holds one, else /etc/rysovna.
+    /// The executable's folder if it holds Rysovna.ini (any case), else the account's configuration
+    /// folder if it holds one, else the machine's.
     [[nodiscard]] std::string WindowsDirectory() override { return SlozkaNastaveni(); }
     /// The same for a process without a display.
     [[nodiscard]] static std::string SlozkaNastaveni();

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "base/Chyba.h"
+#include "platform/Stroj.h"
 
 namespace rysovna {
 
@@ -214,7 +215,9 @@ const Zvuk::Prace::Vzorky& Zvuk::Prace::DejVzorky(const std::filesystem::path& s
     SDL_AudioSpec popis{};
     Uint8* data = nullptr;
     Uint32 delka = 0;
-    if (SDL_LoadWAV(soubor.c_str(), &popis, &data, &delka) == nullptr) return vzorky;
+    const std::string obsah = CelySoubor(soubor).value_or(std::string());
+    SDL_RWops* cteni = SDL_RWFromConstMem(obsah.data(), static_cast<int>(obsah.size()));
+    if (SDL_LoadWAV_RW(cteni, 1, &popis, &data, &delka) == nullptr) return vzorky;
     SDL_AudioCVT prevod{};
     const int potreba = SDL_BuildAudioCVT(&prevod, popis.format, popis.channels, popis.freq, Format,
                                           Kanaly, Frekvence);
