@@ -62,9 +62,14 @@ spust() {
     hra "$@"
 }
 
-# The game on the display, with no results in it, in a full-screen window.
+# The game on the display, with no results in it, in a full-screen window. $HRA_JINDE: a command that
+# starts a game of another home as it lies there; its log is $HRA_DENIK.
 #   hra [arguments of the game...]
 hra() {
+    if [ -n "${HRA_JINDE:-}" ]; then
+        otevri "$HRA_JINDE" "$@"
+        return
+    fi
     rm -rf "$prace/hra"
     cp -r "$staging" "$prace/hra"
     for i in $(seq -w 20); do : >"$prace/hra/data/$i.res"; done
@@ -130,4 +135,4 @@ odehraj() {
 }
 
 # What the log holds, in UTF-8.
-log() { iconv -f WINDOWS-1250 -t UTF-8 "$prace/hra/data/Vysledky.dat"; }
+log() { iconv -f WINDOWS-1250 -t UTF-8 "${HRA_DENIK:-$prace/hra/data/Vysledky.dat}"; }
