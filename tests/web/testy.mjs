@@ -1,7 +1,7 @@
 // The game in Debian's Chromium, played from outside.
 //   node testy.mjs BUILD_FOLDER PAGE SIT [NAME...]
 // BUILD_FOLDER holds ukazka, whose players' events are carried out on the page, and the staged copy
-// that the page was made of; SIT: what the net (tests/sit) wrote at home of all tasks by the first
+// that the page was made of; SIT: what the net (tools/sit) wrote at home of all tasks by the first
 // seed. Names choose among the tests below.
 import { execFileSync, spawn } from "node:child_process";
 import fs from "node:fs";
@@ -316,8 +316,8 @@ const TESTY = {
       return true;
     }
     const kde = { "/dukaz.html": path.join(TADY, "dukaz.html"),
-      "/sit_stranka.js": path.join(path.dirname(stranka), "tests/sit/sit_stranka.js"),
-      "/sit_stranka.wasm": path.join(path.dirname(stranka), "tests/sit/sit_stranka.wasm") }[jmeno];
+      "/sit_stranka.js": path.join(path.dirname(stranka), "tools/sit/sit_stranka.js"),
+      "/sit_stranka.wasm": path.join(path.dirname(stranka), "tools/sit/sit_stranka.wasm") }[jmeno];
     if (!kde) return false;
     odpoved.writeHead(200, { "Content-Type": jmeno.endsWith("html") ? "text/html; charset=utf-8"
       : jmeno.endsWith("js") ? "text/javascript" : "application/wasm" }).end(fs.readFileSync(kde));

@@ -10,9 +10,9 @@ shift 2
 slozka="$(dirname "$0")"
 if [ $# = 0 ]; then
     echo "== Důkaz v node: dvacet úloh, pět semínek"
-    "$doma/tests/sit/sit" hraj 1-20 1-5 mysi-spravne 640x480 >"$web/dukaz_doma.txt"
+    "$doma/tools/sit/sit" hraj 1-20 1-5 mysi-spravne 640x480 >"$web/dukaz_doma.txt"
     # A newer node than the toolchain expects must not fetch where it is to read.
-    node --no-experimental-fetch "$web/tests/sit/sit.js" hraj 1-20 1-5 mysi-spravne 640x480 \
+    node --no-experimental-fetch "$web/tools/sit/sit.js" hraj 1-20 1-5 mysi-spravne 640x480 \
         >"$web/dukaz_node.txt"
     cmp "$web/dukaz_doma.txt" "$web/dukaz_node.txt"
     her="$(grep -c '^souhrn ' "$web/dukaz_node.txt")"
@@ -22,5 +22,5 @@ if [ $# = 0 ]; then
         "za plný počet bodů $(grep -c ' bodu 20 z 20$' "$web/dukaz_node.txt")."
 fi
 echo "== Stránka v prohlížeči"
-"$doma/tests/sit/sit" hraj 1-20 1 mysi-spravne 640x480 >"$web/dukaz_doma_1.txt"
+"$doma/tools/sit/sit" hraj 1-20 1 mysi-spravne 640x480 >"$web/dukaz_doma_1.txt"
 node "$slozka/testy.mjs" "$doma" "$web/stranka" "$web/dukaz_doma_1.txt" "$@"

@@ -17,7 +17,7 @@ for patro in base engine rules store; do
 done
 
 echo "== Táž hra jako doma: úlohy 1-20, semínka 1-5"
-tests/sit/porovnej "$doma/tests/sit/sit" tests/windows/sit.sh 1-20 1-5 mysi "$windows/rozdily"
+tools/sit/porovnej "$doma/tools/sit/sit" tests/windows/sit.sh 1-20 1-5 mysi "$windows/rozdily"
 
 echo "== Přenosná kopie"
 tests/windows/hra.sh "$doma/ukazka" prenosna "$zip"
