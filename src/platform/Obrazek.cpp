@@ -109,10 +109,14 @@ void PolozObrazek(const Vyhled& cil, const Obdelnik& kam, const Obdelnik& orez,
     const int zx = Zvetsi(vyrez.Left, s);
     const int zy = Zvetsi(vyrez.Top, s);
     if (const Tvary* tvary = s == 1 ? nullptr : data.PrimeTvary()) {
-        // The whole of which this is a part; by rounding, the part may end a pixel beyond it.
-        const Obdelnik cely{kam.Left - zx, kam.Top - zy,
-                            std::max(Zvetsi(data.Sirka(), s), zx + kam.Width),
-                            std::max(Zvetsi(data.Vyska(), s), zy + kam.Height)};
+        // By rounding, the place may be a pixel smaller than the enlarged picture: a whole one is
+        // fitted into it, or its last edge would be cut. Of a part, the whole is laid around; it
+        // may end a pixel beyond it.
+        const bool vse = vyrez == Obdelnik{0, 0, data.Sirka(), data.Vyska()};
+        const Obdelnik cely = vse ? kam
+                                  : Obdelnik{kam.Left - zx, kam.Top - zy,
+                                             std::max(Zvetsi(data.Sirka(), s), zx + kam.Width),
+                                             std::max(Zvetsi(data.Vyska(), s), zy + kam.Height)};
         KresliTvary(cil, cely, Prunik(kam, orez), *tvary);
         return;
     }
