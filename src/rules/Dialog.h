@@ -10,6 +10,7 @@
 #include "rules/Misc.h"
 #include "rules/Nacrt.h"
 #include "rules/Panel.h"
+#include "rules/ZadanyPriklad.h"
 
 namespace rysovna {
 
@@ -34,6 +35,10 @@ public:
     virtual void NovyPriklad() = 0;
     /// Chooses an example of the task's file, draws its values, clears the marks of the sketch.
     virtual void NoveZadani() = 0;
+    /// The example in play as it was set.
+    [[nodiscard]] virtual ZadanyPriklad Zadany() const = 0;
+    /// In place of NoveZadani: sets this example, which becomes the only one of the session.
+    virtual void Zadej(const ZadanyPriklad& zadany) = 0;
 
     /// The press on the tool in place i, from 1. A tool that is not live does nothing.
     virtual void StiskNastroje(int i) = 0;
@@ -97,6 +102,12 @@ public:
     [[nodiscard]] const Misc& Pamet() const { return misc_; }
 
 protected:
+    /// Makes this record the only example of the session, in row 1.
+    void NastavJediny(const Priklad& zaznam) {
+        misc_.Priklady[1] = zaznam;
+        misc_.PocetPrikladu = 1;
+    }
+
     Misc& misc_;
     Platna platna_;
 };

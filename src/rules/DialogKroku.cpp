@@ -45,10 +45,21 @@ void DialogKroku::NovyPriklad() {
     ZapamatujKrok();
 }
 
-void DialogKroku::NoveZadani() {
+void DialogKroku::ZacniZadani(int cisloPrikladu) {
     Upravit().Znacky = 0;
-    cisloPrikladu_ = VylosujPriklad(misc_);
+    cisloPrikladu_ = cisloPrikladu;
     ZapomenZadanePrvky(misc_);
+}
+
+void DialogKroku::Zadej(const ZadanyPriklad& zadany) {
+    NastavJediny(zadany.Zaznam);
+    ZacniZadani(1);
+    hodnoty_ = zadany.Hodnoty;
+    SestavZadani(zadani_);
+}
+
+void DialogKroku::NoveZadani() {
+    ZacniZadani(VylosujPriklad(misc_));
     if (VylosujHodnoty(Hrany(), hodnoty_)) SestavZadani(zadani_);
 }
 

@@ -83,6 +83,8 @@ public:
 
     void NovyPriklad() override;
     void NoveZadani() override;
+    [[nodiscard]] ZadanyPriklad Zadany() const override { return {Hrany(), hodnoty_, {}}; }
+    void Zadej(const ZadanyPriklad& zadany) override;
     void Posun(int dx, int dy) override;
     void StiskNastroje(int i) override;
     void VyberRadku(int i) override;
@@ -204,6 +206,7 @@ protected:
     [[nodiscard]] std::vector<ZadanaVelicina>& ZadaniProUpravu() { return zadani_; }
 
 private:
+    void ZacniZadani(int cisloPrikladu);
     void ZapamatujKrok();
     void Zpet();
 

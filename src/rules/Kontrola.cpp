@@ -17,12 +17,16 @@ void UctujZnacky(Misc& misc, bool spravne) {
     if (!spravne && misc.SoucetZapornychBodu != 0) PridejChybu(misc, CHYBA_ZNACKY);
 }
 
-Verdikt Vyuctuj(Misc& misc, bool hotova) {
+int BoduPrikladu(const Misc& misc, bool hotova) {
     const int soucet = misc.SoucetZapornychBodu;
-    const int minus = !hotova || soucet > BODU_ZA_PRIKLAD ? BODU_ZA_PRIKLAD : soucet;
-    misc.ZaporneBody = Bajt(misc.ZaporneBody + minus);
-    misc.KladneBody = Bajt(misc.KladneBody + BODU_ZA_PRIKLAD - minus);
-    return hotova && soucet == 0 ? Verdikt::Bezchybne : Verdikt::SChybami;
+    return !hotova || soucet > BODU_ZA_PRIKLAD ? 0 : BODU_ZA_PRIKLAD - soucet;
+}
+
+Verdikt Vyuctuj(Misc& misc, bool hotova) {
+    const int bodu = BoduPrikladu(misc, hotova);
+    misc.ZaporneBody = Bajt(misc.ZaporneBody + BODU_ZA_PRIKLAD - bodu);
+    misc.KladneBody = Bajt(misc.KladneBody + bodu);
+    return hotova && misc.SoucetZapornychBodu == 0 ? Verdikt::Bezchybne : Verdikt::SChybami;
 }
 
 std::string UrciZnamku(const Misc& misc, int kladne, int celkem) {

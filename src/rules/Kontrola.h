@@ -19,6 +19,9 @@ void UctujChybnePrvky(Misc& misc, int pocet);
 /// clean until now.
 void UctujZnacky(Misc& misc, bool spravne);
 
+/// Points won in the example: what is left of it, none if the construction is not closed.
+[[nodiscard]] int BoduPrikladu(const Misc& misc, bool hotova);
+
 /// How an example ended.
 enum class Verdikt { Bezchybne, SChybami };
 

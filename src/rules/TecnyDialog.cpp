@@ -70,14 +70,30 @@ void TecnyDialog::NovyPriklad() {
     zadano_ = false;
 }
 
-void TecnyDialog::NoveZadani() {
-    NovyPriklad();
-    cisloPrikladu_ = VylosujPriklad(misc_);
+void TecnyDialog::ZacniZadani(int cisloPrikladu) {
+    cisloPrikladu_ = cisloPrikladu;
     ZapomenZadanePrvky(misc_);
     zadano_ = true;
+}
+
+void TecnyDialog::NoveZadani() {
+    NovyPriklad();
+    ZacniZadani(VylosujPriklad(misc_));
     const std::string& kod = misc_.Priklady[cisloPrikladu_].Druh;
-    Plane& pic = platna_.Pic;
-    NakresliFiguru(misc_, pic, VylosujFiguru(kod, pic.Width(), pic.Height(), misc_.Generator));
+    dane_ = VylosujFiguru(kod, platna_.Pic.Width(), platna_.Pic.Height(), misc_.Generator);
+    NakresliFiguru(misc_, platna_.Pic, dane_);
+}
+
+ZadanyPriklad TecnyDialog::Zadany() const {
+    return {misc_.Priklady[cisloPrikladu_], {}, dane_.Utvary};
+}
+
+void TecnyDialog::Zadej(const ZadanyPriklad& zadany) {
+    NovyPriklad();
+    NastavJediny(zadany.Zaznam);
+    ZacniZadani(1);
+    dane_ = {.Utvary = zadany.Figura};
+    NakresliFiguru(misc_, platna_.Pic, dane_);
 }
 
 bool TecnyDialog::StiskNacrtu(float x, float y) {

@@ -64,6 +64,8 @@ public:
 
     void NovyPriklad() override;
     void NoveZadani() override;
+    [[nodiscard]] ZadanyPriklad Zadany() const override;
+    void Zadej(const ZadanyPriklad& zadany) override;
     void StiskNastroje(int i) override;
     void VyberRadku(int i) override;
     void ZavriSeznam() override;
@@ -106,6 +108,7 @@ private:
     [[nodiscard]] bool Znaci() const;
 
     // TecnyDialog.cpp: the life of an example, tools, back
+    void ZacniZadani(int cisloPrikladu);
     void Chybne();
     void OtevriSeznam(std::vector<RadekSeznamu> radky);
     void NabidniPrimky(const KrokTecny& krok);
@@ -153,6 +156,7 @@ private:
 
     StavTecny stav_;
     std::vector<Minulost> minulost_;
+    Figura dane_;
     int cisloPrikladu_ = 1;
     bool zadano_ = false;
 };

@@ -13,10 +13,11 @@ namespace rysovna {
 
 /// A given object of an exercise. Pixels of the plane.
 struct DanyUtvar {
-    std::string Druh;            ///< kind of object
-    std::string Jmeno1, Jmeno2;  ///< of a line or circle Jmeno1 is its name
-    Bod P1, P2;                  ///< a circle's P2 lies its radius to the right of its centre
-    std::string NaPrimce;        ///< of a point
+    std::string Druh{};              ///< kind of object
+    std::string Jmeno1{}, Jmeno2{};  ///< of a line or circle Jmeno1 is its name
+    Bod P1{}, P2{};                  ///< a circle's P2 lies its radius to the right of its centre
+    std::string NaPrimce{};          ///< of a point
+    friend bool operator==(const DanyUtvar&, const DanyUtvar&) = default;
 };
 
 /// The given objects in the order in which they are drawn; and how many figures were thrown away

@@ -1,12 +1,12 @@
 #include "store/Fronta.h"
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <random>
 #include <utility>
 
 #include "store/Kodovani.h"
+#include "store/TextRadku.h"
 
 namespace rysovna {
 namespace {
@@ -33,45 +33,6 @@ constexpr std::pair<std::string_view, int DatumACas::*> CASY[] = {
     {"rok", &DatumACas::Rok},       {"mesic", &DatumACas::Mesic},   {"den", &DatumACas::Den},
     {"hodina", &DatumACas::Hodina}, {"minuta", &DatumACas::Minuta},
 };
-
-/// On one line, whatever it holds: a control character or a "%" is "%" and two digits.
-std::string NaRadek(std::string_view text) {
-    constexpr std::string_view CISLICE = "0123456789ABCDEF";
-    constexpr unsigned char MEZERA = ' ';
-    std::string radek;
-    for (const char c : text) {
-        const auto bajt = static_cast<unsigned char>(c);
-        if (bajt >= MEZERA && c != '%') {
-            radek += c;
-        } else {
-            radek += {'%', CISLICE[bajt >> 4], CISLICE[bajt & 15]};
-        }
-    }
-    return radek;
-}
-
-std::string ZRadku(std::string_view radek) {
-    std::string text;
-    for (std::size_t i = 0; i < radek.size(); ++i) {
-        unsigned bajt = 0;
-        const char* const kod = radek.data() + i + 1;
-        const bool je = radek[i] == '%' && i + 2 < radek.size() &&
-                        std::from_chars(kod, kod + 2, bajt, 16).ptr == kod + 2;
-        text += je ? static_cast<char>(bajt) : radek[i];
-        if (je) i += 2;
-    }
-    return text;
-}
-
-/// A whole number that fills the text; nothing if it is none.
-template <class T>
-std::optional<T> CeleCislo(std::string_view text) {
-    T cislo{};
-    const char* const konec = text.data() + text.size();
-    const auto [kam, chyba] = std::from_chars(text.data(), konec, cislo);
-    if (chyba != std::errc() || kam != konec) return std::nullopt;
-    return cislo;
-}
 
 /// All that may change. A number that is not known has an empty value.
 std::string Stav(const CekajiciVysledek& v) {

@@ -29,6 +29,7 @@ protected:
     [[nodiscard]] virtual const Dialog& Hra() const = 0;
     [[nodiscard]] Platna Platna_() { return {pic_, hiden_}; }
     [[nodiscard]] const PametovaPlocha& Pic() const { return pic_; }
+    [[nodiscard]] const PametovaPlocha& Hiden() const { return hiden_; }
 
     bool StiskNacrtu(Bod b) override {
         return Hra().StiskNacrtu(static_cast<float>(b.X), static_cast<float>(b.Y));

@@ -1,0 +1,103 @@
+#include "rules/NahravanyDialog.h"
+
+#include <utility>
+
+#include "rules/Kontrola.h"
+
+namespace rysovna {
+
+using enum Volani::Druh;
+
+NahravanyDialog::NahravanyDialog(Misc& misc, Platna platna, std::unique_ptr<Dialog> hrany,
+                                 std::function<std::uint32_t()> ted)
+    : Dialog(misc, platna),
+      hrany_(std::move(hrany)),
+      ted_(std::move(ted)),
+      od_(ted_()),
+      vety_(misc.Vety) {
+    if (!vety_) return;  // a charge is a fault then
+    misc.Vety = [this](int cislo) {
+        std::vector<std::string> vety = vety_(cislo);
+        if (nahrava_) priklady_.back().Vety[cislo] = vety;
+        return vety;
+    };
+}
+
+NahravanyDialog::~NahravanyDialog() {
+    misc_.Vety = std::move(vety_);
+}
+
+void NahravanyDialog::NovyPriklad() {
+    nahrava_ = false;
+    hrany_->NovyPriklad();
+}
+
+void NahravanyDialog::ZacniPriklad() {
+    priklady_.push_back(
+        {.Kdy = Cas(), .Zadani = hrany_->Zadany(), .Otisk = OtiskTabulek(misc_, *hrany_)});
+    nahrava_ = true;
+}
+
+void NahravanyDialog::NoveZadani() {
+    hrany_->NoveZadani();
+    ZacniPriklad();
+}
+
+void NahravanyDialog::Zadej(const ZadanyPriklad& zadany) {
+    hrany_->Zadej(zadany);
+    ZacniPriklad();
+}
+
+bool NahravanyDialog::Nahraj(Volani volani) {
+    volani.Kdy = Cas();
+    const int chyb = misc_.PocetChybnychKroku;
+    const bool zasah = Proved(*hrany_, volani);
+    if (!nahrava_) return zasah;
+    Udalost udalost{.Co = std::move(volani), .Otisk = OtiskTabulek(misc_, *hrany_)};
+    for (int i = chyb + 1; i <= misc_.PocetChybnychKroku; ++i)
+        udalost.Chyby.push_back(misc_.ChybneKroky[i]);
+    priklady_.back().Udalosti.push_back(std::move(udalost));
+    return zasah;
+}
+
+void NahravanyDialog::StiskNastroje(int i) {
+    Nahraj({.Co = Nastroj, .Cislo = i});
+}
+
+void NahravanyDialog::VyberRadku(int i) {
+    Nahraj({.Co = Radek, .Cislo = i});
+}
+
+void NahravanyDialog::ZavriSeznam() {
+    Nahraj({.Co = ZavritSeznam});
+}
+
+void NahravanyDialog::Napis(int ktery, const std::string& text) {
+    Nahraj({.Co = Napsani, .Cislo = ktery, .Text = text});
+}
+
+void NahravanyDialog::StiskPlochy(float x, float y) {
+    Nahraj({.Co = Stisk, .X = x, .Y = y});
+}
+
+void NahravanyDialog::PusteniPlochy(float x, float y) {
+    Nahraj({.Co = Pusteni, .X = x, .Y = y});
+}
+
+bool NahravanyDialog::StiskNacrtu(float x, float y) {
+    return Nahraj({.Co = Nacrt, .X = x, .Y = y});
+}
+
+void NahravanyDialog::Posun(int dx, int dy) {
+    Nahraj({.Co = Posunuti, .O = {dx, dy}});
+}
+
+void NahravanyDialog::Zkontroluj() {
+    Nahraj({.Co = Kontrola});
+    if (!nahrava_) return;
+    const bool hotova = hrany_->Hotova();
+    priklady_.back().Konec = {.Bodu = BoduPrikladu(misc_, hotova), .Hotova = hotova};
+    nahrava_ = false;
+}
+
+}  // namespace rysovna

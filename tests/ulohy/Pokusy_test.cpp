@@ -1,0 +1,319 @@
+// Attempts: whatever is played comes out alike when it is played again from its file, and what is
+// no such file is told in one sentence.
+
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <map>
+#include <memory>
+#include <random>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Cisla.h"
+#include "podpora/Prostredi.h"
+#include "podpora/RukaPravidel.h"
+#include "podpora/Stul.h"
+#include "rules/NahravanyDialog.h"
+#include "rules/Pokus.h"
+#include "rules/Prehravka.h"
+#include "rules/Ulohy.h"
+#include "screens/Start.h"
+#include "store/MapaPoli.h"
+#include "store/Soubory.h"
+#include "store/TextPokusu.h"
+#include "zak/Sestroj.h"
+
+namespace rysovna::testy {
+namespace {
+
+/// What an example left behind.
+struct Stav {
+    Tabulky Konstrukce;
+    decltype(Zaznamy::ChybneKroky) Chyby;
+    decltype(Zaznamy::ZadanePrvky) Zadane;
+    int Soucet;
+    PametovaPlocha Pic, HidenPic;
+
+    Stav(const Misc& misc, const PametovaPlocha& pic, const PametovaPlocha& hiden)
+        : Konstrukce(misc),
+          Chyby(misc.ChybneKroky),
+          Zadane(misc.ZadanePrvky),
+          Soucet(misc.SoucetZapornychBodu),
+          Pic(pic),
+          HidenPic(hiden) {}
+    [[nodiscard]] bool StejnyJako(const Stav& s) const {
+        return Konstrukce == s.Konstrukce && Chyby == s.Chyby && Zadane == s.Zadane &&
+               Soucet == s.Soucet && Pic.StejnyObraz(s.Pic) && HidenPic.StejnyObraz(s.HidenPic);
+    }
+};
+
+struct Platna_ {
+    PametovaPlocha Pic{SIRKA_PLOCHY, VYSKA_PLOCHY}, HidenPic{SIRKA_PLOCHY, VYSKA_PLOCHY};
+};
+
+/// Plays series of a task at its recorded dialogue.
+class Hrac final : public RukaPravidel {
+public:
+    Hrac(int uloha, std::uint32_t seminko) : uloha_(uloha), los_(seminko) {
+        static_cast<void>(NactiKonfiguraci(Misc_()));
+        Misc_().CisloUlohy = static_cast<std::uint8_t>(uloha);
+        NactiPriklady(Misc_(), relace_.Host().Disk(), Misc_().CestaHD + DveCislice(uloha) + ".dat",
+                      MapaDesky(DeskaUlohy(uloha)));
+        Misc_().Generator.Zasej(seminko);
+    }
+
+    /// A series as its file holds it; stavy: as each example ended.
+    std::string Odehraj(int prikladu, bool dokonale, std::vector<Stav>& stavy) {
+        dialog_ = std::make_unique<NahravanyDialog>(
+            Misc_(), RukaPravidel::Platna_(),
+            VyrobDialog(DeskaUlohy(uloha_), Misc_(), RukaPravidel::Platna_()),
+            [this] { return ted_ += 1 + Cislo(2000); });
+        for (int i = 0; i < prikladu; ++i) {
+            dialog_->NovyPriklad();
+            dialog_->NoveZadani();
+            if (dokonale) {
+                hrac::Sestroj(*this, Cislo(1000));
+            } else {
+                Bloudi();
+            }
+            // Now and then another example is wanted before this one is checked.
+            if (dokonale || los_() % 4 != 0) dialog_->Zkontroluj();
+            EXPECT_TRUE(!dokonale || Misc_().SoucetZapornychBodu == 0) << uloha_;
+            stavy.emplace_back(Misc_(), Pic(), Hiden());
+        }
+        return TextPokusu({.Program = "1.0",
+                           .Jmeno = "Žofie 100 %\tŘeřichová",
+                           .CisloUlohy = uloha_,
+                           .Zacatek = {2026, 9, 1, 7, 55},
+                           .PrikladuSerie = prikladu,
+                           .Priklady = dialog_->Priklady(),
+                           .Dokonceny = true});
+    }
+
+protected:
+    Dialog& Hra() override { return *dialog_; }
+    // The board's own: pupils ask it what it is.
+    const Dialog& Hra() const override { return dialog_->Hrany(); }
+
+private:
+    Sezeni& Misc_() { return relace_.Pamet(); }
+    std::uint32_t Cislo(std::uint32_t rozpeti) {
+        return static_cast<std::uint32_t>(los_()) % rozpeti;
+    }
+
+    /// A place as a mouse on a large screen gives it, as often as not on what is drawn.
+    float Misto(int nejvyse) {
+        return static_cast<float>(static_cast<double>(los_() % 100000) * nejvyse / 90000 - 10);
+    }
+    void Bloudi() {
+        constexpr int KROKU = 60;  // a hundred wrong steps are a fault
+        for (int i = 0; i < KROKU; ++i) {
+            const Panel panel = dialog_->UkazPanel();
+            switch (los_() % 8) {
+                case 0:
+                    dialog_->StiskNacrtu(Misto(289), Misto(177));
+                    break;
+                case 1:
+                    dialog_->Napis(static_cast<int>(los_() % 3) + 1, std::to_string(los_() % 16));
+                    break;
+                case 2:
+                    if (los_() % 4 == 0) dialog_->Posun(los_() % 2 == 0 ? 20 : -20, 0);
+                    break;
+                case 3:
+                    if (los_() % 6 == 0) dialog_->ZavriSeznam();
+                    break;
+                case 4:
+                case 5:
+                    if (!panel.Vyber.Otevreny)
+                        dialog_->StiskNastroje(static_cast<int>(los_() % (los_() % 5 ? 4 : 6)) + 1);
+                    else
+                        dialog_->VyberRadku(static_cast<int>(los_() % panel.Vyber.Radky.size()) +
+                                            1);
+                    break;
+                default:
+                    Tahne();
+            }
+        }
+    }
+    void Tahne() {
+        float x = Misto(SIRKA_PLOCHY), y = Misto(VYSKA_PLOCHY);
+        if (const int n = Misc_().PocetTrojic; n > 0 && los_() % 2 == 0) {
+            const Trojice& t =
+                Misc_().Trojice_tab[static_cast<int>(Cislo(static_cast<std::uint32_t>(n))) + 1];
+            x = static_cast<float>(t.X1);
+            y = static_cast<float>(t.Y1) + 0.25F;
+        }
+        dialog_->StiskPlochy(x, y);
+        if (dialog_->CekaNaKresleni())
+            dialog_->PusteniPlochy(Misto(SIRKA_PLOCHY), Misto(VYSKA_PLOCHY));
+    }
+
+    Relace relace_;
+    int uloha_;
+    std::mt19937 los_;
+    std::uint32_t ted_ = 4'294'960'000U;  // the tick count runs over in the middle
+    std::unique_ptr<NahravanyDialog> dialog_;
+};
+
+/// Series of each task and kind of pupil; more by the environment.
+int Serii() {
+    return Prostredi("RYSOVNA_SERII", 5);
+}
+
+class Pokusy : public testing::TestWithParam<int> {};
+
+TEST_P(Pokusy, PrehrajeSeJakSeHral) {
+    std::set<std::string> uctovano;
+    for (int n = 1; n <= 2 * Serii() && !HasFailure(); ++n) {
+        const bool dokonale = n % 2 == 0;
+        SCOPED_TRACE("series " + std::to_string(n));
+        Hrac hrac(GetParam(), static_cast<std::uint32_t>(n));
+        std::vector<Stav> stavy;
+        const std::string text = hrac.Odehraj(3, dokonale, stavy);
+        EXPECT_LT(text.size(), 20'000U);
+        const PrectenyPokus precteny = CtiPokus(text);
+        ASSERT_TRUE(precteny.Co) << precteny.Vada << "\n" << text;
+        EXPECT_EQ(TextPokusu(*precteny.Co), text);
+        Platna_ platna;
+        Prehravka prehravka(*precteny.Co, {platna.Pic, platna.HidenPic});
+        const auto& priklady = precteny.Co->Priklady;
+        ASSERT_EQ(priklady.size(), stavy.size());
+        while (prehravka.Dalsi()) {
+            const std::size_t i = prehravka.Priklad() - 1;
+            if (prehravka.Udalost() < priklady[i].Udalosti.size()) continue;
+            EXPECT_TRUE(
+                stavy[i].StejnyJako({prehravka.Hrany().Pamet(), platna.Pic, platna.HidenPic}))
+                << "example " << i + 1 << "\n"
+                << text;
+            for (const Udalost& u : priklady[i].Udalosti)
+                for (const ChybnyKrok& c : u.Chyby) uctovano.insert(c.Cislo);
+        }
+        EXPECT_FALSE(prehravka.KdeSeRozesla())
+            << prehravka.KdeSeRozesla()->Priklad << "/" << prehravka.KdeSeRozesla()->Udalost << ": "
+            << prehravka.KdeSeRozesla()->Proc << "\n"
+            << text;
+        EXPECT_EQ(prehravka.Priklad(), priklady.size());
+    }
+    EXPECT_GE(uctovano.size(), 3U) << "the careless pupil was too good to say anything";
+}
+
+INSTANTIATE_TEST_SUITE_P(Uloh, Pokusy, testing::Range(1, 21),
+                         [](const auto& i) { return DveCislice(i.param); });
+
+std::string Nahrazeno(std::string text, std::string_view co, std::string_view cim) {
+    const std::size_t kde = text.find(co);
+    EXPECT_NE(kde, std::string::npos) << co;
+    return text.replace(kde, co.size(), cim);
+}
+
+TEST(Pokus, ReknePresneCimSeLisi) {
+    std::vector<Stav> stavy;
+    const std::string text = Hrac(1, 3).Odehraj(2, false, stavy);
+    // Where the first wrong step was charged.
+    const auto priklady = CtiPokus(text).Co->Priklady;
+    std::size_t p = 0, u = 0;
+    while (priklady[p].Udalosti[u].Chyby.empty())
+        if (++u == priklady[p].Udalosti.size()) ++p, u = 0;
+    const ChybnyKrok chyba = priklady[p].Udalosti[u].Chyby[0];
+    const std::string ucet = chyba.Cislo + " " + std::to_string(chyba.Body) + " ";
+    const std::string radek = "\nchyba " + ucet + chyba.Text;
+    const auto udalost = [&](std::string_view zmeneny) {
+        const PrectenyPokus precteny = CtiPokus(zmeneny);
+        EXPECT_TRUE(precteny.Co) << precteny.Vada;
+        Platna_ platna;
+        Prehravka prehravka(*precteny.Co, {platna.Pic, platna.HidenPic});
+        const auto& rozchod = prehravka.DoKonce();
+        return rozchod ? std::pair{rozchod->Priklad, rozchod->Udalost} : std::pair{0UL, 0UL};
+    };
+    const std::pair tady{p + 1, u + 1};
+    EXPECT_EQ(udalost(text), (std::pair{0UL, 0UL}));
+    EXPECT_EQ(udalost(Nahrazeno(text, radek, "\nchyba " + chyba.Cislo + " 9 " + chyba.Text)), tady);
+    EXPECT_EQ(udalost(Nahrazeno(text, radek, radek + "!")), tady);
+    EXPECT_EQ(udalost(Nahrazeno(text, radek, "")), tady);
+    EXPECT_EQ(udalost(Nahrazeno(text, "\nveta " + chyba.Cislo, "\nveta 999")), tady);
+    std::string jinyStav = text;
+    char& cislice = jinyStav[text.find("\nstav ") + 6];
+    cislice = cislice == '1' ? '2' : '1';
+    EXPECT_EQ(udalost(jinyStav), (std::pair{1UL, 0UL}));
+    const std::size_t vysledek = text.find("\nvysledek 0");
+    ASSERT_NE(vysledek, std::string::npos);
+    EXPECT_NE(udalost(Nahrazeno(text, "\nvysledek 0", "\nvysledek 5")), (std::pair{0UL, 0UL}));
+}
+
+TEST(Pokus, CoNeniPokusemRekneJednouVetou) {
+    std::vector<Stav> stavy;
+    const std::string text = Hrac(12, 1).Odehraj(1, true, stavy);
+    const auto uvod = [](std::string_view t) {
+        const std::string vada = CtiPokus(t).Vada;
+        return vada.substr(0, vada.find(':'));
+    };
+    EXPECT_EQ(uvod(text), "");
+    for (const std::string_view cizi : {"", "\n", "PNG\x89\n", "Rysovna", "RYSOVNA1 POKUS x\n"})
+        EXPECT_EQ(uvod(cizi), "Soubor není záznam pokusu.") << cizi;
+    EXPECT_EQ(uvod(Nahrazeno(text, "POKUS 1", "POKUS 7")),
+              "Záznam pokusu má verzi 7, tento program čte verzi 1.");
+    const std::size_t hlavicka = text.find('\n') + 1;
+    for (std::size_t n = hlavicka; n < text.size(); ++n)
+        EXPECT_EQ(uvod(text.substr(0, n)), "Záznam pokusu není celý") << n;
+    for (const auto& [co, cim] :
+         std::map<std::string, std::string>{{"uloha 12", "uloha 21"},
+                                            {"uloha 12", "uloha"},
+                                            {"\nstisk ", "\nstisk x"},
+                                            {"\nstisk ", "\nskok "},
+                                            {"\npriklad ", "\nchyba 1 1 a\npriklad "},
+                                            {"\nkonec ano", "\nkonec ano\nkonec ano"},
+                                            {"\nkonec ano", "\nkonec snad"},
+                                            {"2026-09-01", "2026-13-01"}})
+        EXPECT_EQ(uvod(Nahrazeno(text, co, cim)), "Záznam pokusu je poškozený") << cim;
+}
+
+/// Whatever was done to a file, it is read and played without a fault of memory or arithmetic.
+TEST(Pokus, ZmenenyNicNerozbije) {
+    const int kolik = Prostredi("RYSOVNA_ZMENENYCH", 400);
+    std::mt19937 los(7);
+    const auto cislo = [&los](std::size_t n) { return los() % n; };
+    constexpr std::string_view ZNAKY = "0123456789-. %\nabkprsuS9";
+    int prectenych = 0;
+    int rozeslych = 0;
+    std::vector<std::string> texty;
+    for (int uloha = 1; uloha <= 20; ++uloha) {
+        std::vector<Stav> stavy;
+        texty.push_back(Hrac(uloha, 5).Odehraj(1, uloha % 2 == 0, stavy));
+    }
+    for (int i = 0; i < kolik; ++i) {
+        std::string text = texty[cislo(texty.size())];
+        for (std::size_t zmen = 1 + cislo(4); zmen > 0; --zmen) {
+            const std::size_t kde = cislo(text.size() - 1);
+            const std::size_t radek = text.find('\n', kde) + 1;
+            const std::size_t dalsi = std::min(text.find('\n', radek), text.size() - 1) + 1;
+            switch (cislo(4)) {
+                case 0:  // a digit of a number for another
+                    if (const auto n = text.find_first_of("0123456789", kde); n < text.size())
+                        text[n] = ZNAKY[cislo(10)];
+                    break;
+                case 1:
+                    text[kde] = ZNAKY[cislo(ZNAKY.size())];
+                    break;
+                case 2:
+                    text.erase(radek, dalsi - radek);
+                    break;
+                default:
+                    text.insert(radek, text.substr(radek, dalsi - radek));
+            }
+        }
+        const PrectenyPokus precteny = CtiPokus(text);
+        EXPECT_EQ(precteny.Co.has_value(), precteny.Vada.empty());
+        if (!precteny.Co) continue;
+        ++prectenych;
+        Platna_ platna;
+        Prehravka prehravka(*precteny.Co, {platna.Pic, platna.HidenPic});
+        rozeslych += prehravka.DoKonce() ? 1 : 0;
+    }
+    EXPECT_GT(prectenych, kolik / 8);
+    EXPECT_GT(rozeslych, prectenych / 8);
+}
+
+}  // namespace
+}  // namespace rysovna::testy
