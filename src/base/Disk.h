@@ -116,6 +116,8 @@ public:
     /// Makes a folder, and those above it, that only this account may enter; one that is there
     /// stays as it is.
     virtual void ZalozSlozku(const std::filesystem::path& slozka) = 0;
+    /// Makes a folder in one that is there: whoever may work in that one may work in this.
+    virtual void ZalozPodslozku(const std::filesystem::path& slozka) { ZalozSlozku(slozka); }
     /// Waits until what was made, replaced and removed in the folder is on the disk. A folder that
     /// may not be asked is no fault.
     virtual void SlozkaNaDisk(const std::filesystem::path& slozka) = 0;

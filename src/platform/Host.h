@@ -68,6 +68,8 @@ public:
 
     /// A seed for the generator of examples.
     [[nodiscard]] virtual std::uint32_t Seminko() = 0;
+    /// The seeds begin with this one, unless whoever started the program gave another.
+    virtual void VychoziSeminko(std::uint32_t /*seminko*/) {}
     [[nodiscard]] virtual DatumACas Nyni() = 0;
 
     [[nodiscard]] virtual std::string SchrankaText() = 0;

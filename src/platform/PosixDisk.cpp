@@ -153,12 +153,12 @@ public:
     }
 
     /// Who may write into the folder may write into the file. One that cannot be made so is as the
-    /// account makes its files.
-    void JakoSlozka(const fs::path& slozka) const {
+    /// account makes its files. prava: of the folder's, those that it is to have.
+    void JakoSlozka(const fs::path& slozka, mode_t prava) const {
         struct stat vzor {};
         if (::stat(slozka.c_str(), &vzor) != 0) return;
         static_cast<void>(::fchown(cislo_, KDO_JE, vzor.st_gid) == 0);
-        static_cast<void>(::fchmod(cislo_, vzor.st_mode & PRAVA_SOUBORU) == 0);
+        static_cast<void>(::fchmod(cislo_, vzor.st_mode & prava) == 0);
     }
 
 private:
@@ -241,7 +241,7 @@ std::unique_ptr<Soubor> PosixDisk::NovySoubor(const fs::path& co) {
     const int cislo = Znovu([&] { return ::open(co.c_str(), vlajky, PRAVA_SOUBORU); });
     if (cislo < 0) Selhal(co);
     auto soubor = std::make_unique<PosixSoubor>(cislo, co);
-    soubor->JakoSlozka(co.parent_path());
+    soubor->JakoSlozka(co.parent_path(), PRAVA_SOUBORU);
     return soubor;
 }
 
@@ -274,6 +274,15 @@ void PosixDisk::ZalozSlozku(const fs::path& slozka) {
     if (::mkdir(slozka.c_str(), PRAVA_SLOZKY) != 0 && !(errno == EEXIST && JeSlozka(slozka)))
         Selhal(slozka);
     SlozkaNaDisk(slozka.has_parent_path() ? slozka.parent_path() : fs::path("."));
+}
+
+void PosixDisk::ZalozPodslozku(const fs::path& slozka) {
+    if (JeSlozka(slozka)) return;
+    ZalozSlozku(slozka);
+    const int vlajky = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    const int cislo = Znovu([&] { return ::open(slozka.c_str(), vlajky); });
+    if (cislo < 0) Selhal(slozka);
+    PosixSoubor(cislo, slozka).JakoSlozka(slozka.parent_path(), PRAVA);
 }
 
 void PosixDisk::SlozkaNaDisk(const fs::path& slozka) {

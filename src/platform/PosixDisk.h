@@ -17,6 +17,7 @@ public:
     void Odstran(const std::filesystem::path& soubor) override;
     [[nodiscard]] std::vector<std::string> Jmena(const std::filesystem::path& slozka) override;
     void ZalozSlozku(const std::filesystem::path& slozka) override;
+    void ZalozPodslozku(const std::filesystem::path& slozka) override;
     void SlozkaNaDisk(const std::filesystem::path& slozka) override;
     [[nodiscard]] bool SmiZakladat(const std::filesystem::path& slozka) override;
     [[nodiscard]] std::uint64_t Volno(const std::filesystem::path& slozka) override;

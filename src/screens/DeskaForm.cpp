@@ -177,6 +177,7 @@ void DeskaForm::Load() {
     s_.KladneBody = s_.ZaporneBody = 0;
     zbyvaPrikladu_ = s_.PocetPrikladuSerie;
     dialog_ = deska_.VyrobDialog(s_, {Pic.Plocha(), HidenPic.Plocha()});
+    ZacniPokus();
     NactiPriklady(s_, s_.Disk(), s_.CestaHD + DveCislice(s_.CisloUlohy) + ".dat", deska_.Mapa);
     dialog_->NovyPriklad();
     NoveZadani();
@@ -184,6 +185,7 @@ void DeskaForm::Load() {
 }
 
 void DeskaForm::Unload() {
+    static_cast<void>(DokonciPokus(false, false));
     SkryjChyby();
 }
 

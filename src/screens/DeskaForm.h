@@ -19,6 +19,8 @@
 
 namespace rysovna {
 
+class NahravanyDialog;
+
 /// A board: all that the screens know of it. The program's own stand in Desky.cpp.
 struct RadekDesky {
     std::string_view Jmeno;             ///< of its screen
@@ -105,7 +107,7 @@ public:
     [[nodiscard]] std::string CoSeRika() const override;
 
     /// The dialogue of this board; made by Load.
-    [[nodiscard]] const Dialog& Dialogem() const { return *dialog_; }
+    [[nodiscard]] const Dialog& Dialogem() const;
     /// Examples of the series still to be played, this one included.
     [[nodiscard]] int ZbyvaPrikladu() const { return zbyvaPrikladu_; }
     /// What the guide line says, and what it was computed from.
@@ -172,6 +174,10 @@ private:
     [[nodiscard]] PrvekVNacrtu PrvekPodPrstenem() const;
     [[nodiscard]] int MrtvyNastrojPod(const Mys& m) const;
     void UkazatelNad(const Ovladac* o);
+    // DeskaPokus.cpp: the attempt
+    void ZacniPokus();
+    void UlozPriklady(bool iRozehrany = false);
+    [[nodiscard]] std::string DokonciPokus(bool dokonceny, bool smiRici = true);
     // DeskaSerie.cpp: check, verdict, series
     Cinnost<> Zkontroluj();
     Cinnost<> NovyPriklad();
@@ -186,6 +192,9 @@ private:
 
     const RadekDesky deska_;
     std::unique_ptr<Dialog> dialog_;
+    NahravanyDialog* nahravany_ = nullptr;  ///< the same, where it is written down
+    std::size_t ulozenychPrikladu_ = 0;     ///< of the attempt
+    bool pokusTrva_ = false;
     Hover hover_{s_};  ///< 1 to 4 PicTop, 5 to 8 picSipka
     std::array<DvojiceObrazku, 4> horni_, sipky_;
     std::map<Nastroj, DvojiceObrazku> tvary_;

@@ -32,6 +32,7 @@ Cinnost<> DeskaForm::Zkontroluj() {
     SamplePic.Enabled = false;
     for (PictureBox& s : picSipka) s.Enabled = false;
     dialog_->Zkontroluj();
+    UlozPriklady();
     SkryjTah();
     Ukaz();
 
@@ -73,6 +74,7 @@ Cinnost<> DeskaForm::NovyPriklad() {
     SkryjTah();
     ImgHodnoceni.Visible = false;
     dialog_->NovyPriklad();
+    UlozPriklady();
     KresliNacrt();
     Ukaz();
     co_await Cekani(PO_UKLIDU);
@@ -108,6 +110,7 @@ Cinnost<> DeskaForm::UkonciSerii() {
     {
         const Obrazovky::Zavreni zavreni(okna);
         zprava = co_await s_.Vysledky().Uloz(vysledek);
+        PridejOdstavec(zprava.Text, DokonciPokus(true));
         co_await Cekani::SVstupem(0);
     }
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
@@ -122,7 +125,7 @@ Cinnost<> DeskaForm::UkonciSerii() {
     if (!zprava.Text.empty()) okna.Spust(Oznam(shared_from_this(), zprava.Text));
 }
 
-/// Keys that came while the lock was waited for are not for the message.
+/// Keys that came while the results were waited for are not for the message.
 Cinnost<> DeskaForm::Oznam(std::shared_ptr<Form> /*drzeny*/, std::string zprava) {
     co_await s_.Okna().DorucOdlozene();
     co_await s_.Stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
@@ -147,7 +150,9 @@ Cinnost<> DeskaForm::Zpet() {
         okna.Show(*setup);
         s_.AktivniForm = setup;
     }
+    const std::string zprava = DokonciPokus(false);
     okna.Unload(*this);
+    if (!zprava.empty()) okna.Spust(Oznam(shared_from_this(), zprava));
     co_await Cekani(PO_NAVRATU);
 }
 

@@ -23,4 +23,12 @@ Ukladani& Sezeni::Vysledky() {
     return *vysledky_;
 }
 
+UkladaniPokusu& Sezeni::Pokusy() {
+    if (!pokusy_) {
+        pokusy_ = std::make_unique<UkladaniPokusu>(Disk(), NativniCesta(CestaVysledku),
+                                                   Stroj.SlozkaStavu());
+    }
+    return *pokusy_;
+}
+
 }  // namespace rysovna

@@ -9,6 +9,7 @@
 #include "platform/Obrazovky.h"
 #include "rules/Misc.h"
 #include "store/Ukladani.h"
+#include "store/UkladaniPokusu.h"
 
 namespace rysovna {
 
@@ -40,12 +41,19 @@ struct Sezeni : Misc {
 
     /// What stores the results, made when it is first wanted.
     [[nodiscard]] Ukladani& Vysledky();
-    /// The folder of results has changed: they are stored by a new one.
-    void ZapomenVysledky() { vysledky_.reset(); }
+    /// What keeps the attempts, made when it is first wanted; and whether they are kept.
+    [[nodiscard]] UkladaniPokusu& Pokusy();
+    bool PokusyUkladat = true;
+    /// The folder of results has changed: they are stored by new ones.
+    void ZapomenVysledky() {
+        vysledky_.reset();
+        pokusy_.reset();
+    }
 
 private:
     VyrobceDesek vyrobce_;
     std::unique_ptr<Ukladani> vysledky_;
+    std::unique_ptr<UkladaniPokusu> pokusy_;
 };
 
 }  // namespace rysovna

@@ -32,4 +32,9 @@ void PrizpusobForm(const Sezeni& s, Form& form) {
     }
 }
 
+void PridejOdstavec(std::string& zprava, const std::string& odstavec) {
+    if (!zprava.empty() && !odstavec.empty()) zprava += "\n\n";
+    zprava += odstavec;
+}
+
 }  // namespace rysovna

@@ -13,4 +13,7 @@ namespace rysovna {
 /// that has a font, whatever was designed. Called once, by the load handler.
 void PrizpusobForm(const Sezeni& s, Form& form);
 
+/// Adds a paragraph to a message, where there is anything to add.
+void PridejOdstavec(std::string& zprava, const std::string& odstavec);
+
 }  // namespace rysovna

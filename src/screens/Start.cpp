@@ -81,6 +81,8 @@ std::string NactiKonfiguraci(Sezeni& s) {
     s.CestaHD = cesty.HD;
     s.CestaVysledku = cesty.Vysledky;
     s.RadyUkazovat = cesty.Rady;
+    s.PokusyUkladat = cesty.Pokusy;
+    if (cesty.Seminko) stroj.VychoziSeminko(*cesty.Seminko);
     s.ZapomenVysledky();
     if (!s.CestaCD.empty()) NastavSlozkuPisem(s.CestaCD + "Fonts");
     if (s.CestaCD.empty() || s.CestaHD.empty()) {

@@ -5,6 +5,7 @@
 #include "base/Cisla.h"
 #include "rules/Ulohy.h"
 #include "store/Ini.h"
+#include "store/TextRadku.h"
 #include "store/Ukladani.h"
 
 namespace rysovna {
@@ -15,8 +16,8 @@ constexpr std::string_view SEKCE = "RYSOVNA1";
 constexpr std::string_view NENI_KLIC = "Chyba";
 constexpr std::string_view KLIC_VYSLEDKU = "VYSLEDKY";
 constexpr std::string_view UCET = "ucet";
-constexpr std::string_view KLIC_RAD = "Rady";
-constexpr std::string_view BEZ_RAD = "ne";
+constexpr std::string_view KLIC_RAD = "Rady", KLIC_POKUSU = "Pokusy", KLIC_SEMINKA = "Seminko";
+constexpr std::string_view VYPNUTO = "ne";
 
 bool JeAbsolutni(std::string_view cesta) {
     const bool odKorene = cesta.starts_with('\\') || cesta.starts_with('/');
@@ -69,7 +70,9 @@ Cesty CtiCesty(Disk& disk, const std::string& slozka, const std::filesystem::pat
     } else if (cesty.Oddelene) {
         cesty.Vysledky = CestaZIni(obsah, KLIC_VYSLEDKU, adresar);
     }
-    cesty.Rady = HodnotaIni(obsah, SEKCE, KLIC_RAD, "") != BEZ_RAD;
+    cesty.Rady = HodnotaIni(obsah, SEKCE, KLIC_RAD, "") != VYPNUTO;
+    cesty.Pokusy = HodnotaIni(obsah, SEKCE, KLIC_POKUSU, "") != VYPNUTO;
+    cesty.Seminko = CeleCislo<std::uint32_t>(HodnotaIni(obsah, SEKCE, KLIC_SEMINKA, ""));
     return cesty;
 }
 

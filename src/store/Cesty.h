@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +27,9 @@ struct Cesty {
     std::string Vysledky;   ///< folder of results; without a key of its own the data root
     bool Oddelene = false;  ///< results have a key of their own: missing files of theirs are made
     bool Rady = true;       ///< boards say what to do next; "ne" turns it off
+    bool Pokusy = true;     ///< attempts are kept; "ne" turns it off
+    /// The generator of examples begins with it at each start: a class has the same ones.
+    std::optional<std::uint32_t> Seminko{};
 };
 
 /// Reads Rysovna.ini in a folder. "ucet" as the folder of results is the account's own, slozkaUctu;

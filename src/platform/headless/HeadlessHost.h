@@ -51,6 +51,7 @@ public:
     [[nodiscard]] std::string OverObrazovku() override { return Overeni(NeniObrazovka); }
     [[nodiscard]] std::string OverZvuk() override { return Overeni(NeniZvuk); }
     [[nodiscard]] std::uint32_t Seminko() override { return SeminkoHry++; }
+    void VychoziSeminko(std::uint32_t seminko) override { SeminkoHry = seminko; }
     [[nodiscard]] DatumACas Nyni() override { return Cas; }
     [[nodiscard]] std::string SchrankaText() override { return Schranka; }
     void DoSchranky(const std::string& text) override { Schranka = text; }

@@ -44,6 +44,9 @@ public:
     /// Opens the sound device for a moment; one that does not answer is a fault after a while.
     [[nodiscard]] std::string OverZvuk() override;
     [[nodiscard]] std::uint32_t Seminko() override;
+    void VychoziSeminko(std::uint32_t seminko) override {
+        if (!seminko_) seminko_ = seminko;
+    }
     [[nodiscard]] DatumACas Nyni() override;
     [[nodiscard]] std::string SchrankaText() override;
     void DoSchranky(const std::string& text) override;

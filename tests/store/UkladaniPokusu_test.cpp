@@ -1,0 +1,233 @@
+#include "store/UkladaniPokusu.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <stdlib.h>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/PosixDisk.h"
+#include "store/Fronta.h"
+#include "store/TextPokusu.h"
+
+namespace rysovna::testy {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Counts calls that change something, and lets one fail, or that one and all later ones, as if the
+/// program had been killed there.
+struct Poruchy {
+    int Kolikata = 0;
+    bool Naporad = false;
+    int Volani = 0;
+
+    void Dalsi(const fs::path& co) {
+        ++Volani;
+        if (Kolikata > 0 && (Volani == Kolikata || (Naporad && Volani > Kolikata)))
+            throw ChybaDisku(Pricina::Plno, co);
+    }
+};
+
+class VadnySoubor final : public Soubor {
+public:
+    VadnySoubor(std::unique_ptr<Soubor> pravy, Poruchy& p) : s_(std::move(pravy)), p_(p) {}
+    std::string Cti(std::uint64_t odkud, std::size_t nejvyse) override {
+        return s_->Cti(odkud, nejvyse);
+    }
+    std::uint64_t Delka() override { return s_->Delka(); }
+    /// A write that fails leaves half of it.
+    void Pis(std::uint64_t kam, std::string_view co) override {
+        try {
+            p_.Dalsi("zápis");
+        } catch (const ChybaDisku&) {
+            s_->Pis(kam, co.substr(0, co.size() / 2));
+            throw;
+        }
+        s_->Pis(kam, co);
+    }
+    void Pripis(std::string_view co) override { s_->Pripis(co); }
+    void Zkrat(std::uint64_t delka) override { s_->Zkrat(delka); }
+    void NaDisk() override {
+        p_.Dalsi("sync");
+        s_->NaDisk();
+    }
+    bool Zamkni() override { return s_->Zamkni(); }
+    void PrevezmiPrava(Soubor& od) override { s_->PrevezmiPrava(od); }
+
+private:
+    std::unique_ptr<Soubor> s_;
+    Poruchy& p_;
+};
+
+class VadnyDisk final : public PosixDisk {
+public:
+    Poruchy P;
+    std::unique_ptr<Soubor> NovySoubor(const fs::path& co) override {
+        P.Dalsi(co);
+        return std::make_unique<VadnySoubor>(PosixDisk::NovySoubor(co), P);
+    }
+    void Nahrad(const fs::path& novy, const fs::path& stary) override {
+        P.Dalsi(stary);
+        PosixDisk::Nahrad(novy, stary);
+    }
+    void Odstran(const fs::path& co) override {
+        P.Dalsi(co);
+        PosixDisk::Odstran(co);
+    }
+    void ZalozPodslozku(const fs::path& co) override {
+        P.Dalsi(co);
+        PosixDisk::ZalozPodslozku(co);
+    }
+};
+
+class UkladaniPokusuTest : public ::testing::Test {
+protected:
+    UkladaniPokusuTest() {
+        std::string vzor = (fs::temp_directory_path() / "pokusy.XXXXXX").string();
+        slozka = mkdtemp(vzor.data());
+        fs::create_directories(slozka / "vysledky");
+    }
+    ~UkladaniPokusuTest() override { fs::remove_all(slozka); }
+
+    /// A series of two examples, the second one left half done.
+    static Pokus Serie() {
+        HranyPriklad p;
+        p.Zadani.Zaznam.Druh = "1";
+        p.Udalosti.push_back({.Co = {.Co = Volani::Druh::Nastroj, .Kdy = 5, .Cislo = 1}});
+        HranyPriklad druhy = p;
+        p.Konec = {.Bodu = 10, .Hotova = true};
+        return {.Program = "1.0",
+                .Jmeno = "Eva",
+                .CisloUlohy = 1,
+                .Zacatek = DNES,
+                .PrikladuSerie = 2,
+                .Priklady = {p, druhy}};
+    }
+    [[nodiscard]] UkladaniPokusu Nove() { return {disk, slozka / "vysledky", slozka / "stav"}; }
+    std::string Odehraj(UkladaniPokusu& u, bool dokonceny = true) {
+        const Pokus serie = Serie();
+        u.Zacni(serie);
+        for (const HranyPriklad& p : serie.Priklady) u.Pridej(p);
+        return u.Dokonci(dokonceny);
+    }
+    [[nodiscard]] std::vector<std::string> Soubory(const fs::path& kde) {
+        return disk.JeSlozka(slozka / kde) ? disk.Jmena(slozka / kde) : std::vector<std::string>();
+    }
+    /// The attempts that are kept; each must be whole, and nothing else may lie there.
+    std::vector<Pokus> Ulozene() {
+        std::vector<Pokus> pokusy;
+        for (const std::string& jmeno : Soubory("vysledky/Pokusy")) {
+            const auto soubor = disk.Otevri(slozka / "vysledky/Pokusy" / jmeno, Disk::Jak::Cteni);
+            const PrectenyPokus p = CtiPokus(soubor->Cti());
+            EXPECT_TRUE(p.Co) << jmeno << ": " << p.Vada;
+            if (p.Co) pokusy.push_back(*p.Co);
+        }
+        return pokusy;
+    }
+
+    static constexpr DatumACas DNES{2026, 11, 22, 17, 5}, ZITRA{2026, 11, 23, 8, 0};
+    fs::path slozka;
+    VadnyDisk disk;
+};
+
+TEST_F(UkladaniPokusuTest, SeriePoSeriiKazdaSvujSoubor) {
+    fs::permissions(slozka / "vysledky", fs::perms(0770));
+    UkladaniPokusu ukladani = Nove();
+    EXPECT_EQ(Odehraj(ukladani), "");
+    EXPECT_EQ(Odehraj(ukladani, false), "");
+    Pokus jen = Serie();
+    for (HranyPriklad& p : jen.Priklady) p.Udalosti.clear();
+    ukladani.Zacni(jen);  // nothing was done
+    ukladani.Pridej(jen.Priklady[0]);
+    EXPECT_EQ(ukladani.Dokonci(false), "");
+    EXPECT_EQ(ukladani.Dokonci(true), "");
+    Pokus cely = Serie();
+    cely.Dokonceny = true;
+    std::vector<Pokus> pokusy = Ulozene();
+    ASSERT_EQ(pokusy.size(), 2U);
+    std::ranges::sort(pokusy, {}, &Pokus::Dokonceny);
+    EXPECT_EQ(pokusy[0], Serie());
+    EXPECT_EQ(pokusy[1], cely);
+    EXPECT_TRUE(Soubory("stav/fronta").empty());
+    EXPECT_EQ(Soubory("vysledky/Pokusy")[0].substr(0, 17), "20261122-1705-01-");
+    // Who shares the results shares these.
+    EXPECT_EQ(fs::status(slozka / "vysledky/Pokusy").permissions(), fs::perms(0770));
+}
+
+/// One call after the other fails, alone or with all that follow: there is never half an attempt,
+/// never two, and the next start has the rest of it.
+TEST_F(UkladaniPokusuTest, ZadnaPoruchaNicNezkazi) {
+    for (const bool naporad : {false, true}) {
+        int volani = 0;
+        for (int n = 1; n == 1 || n <= volani; ++n) {
+            SCOPED_TRACE(std::to_string(n) + (naporad ? " napořád" : ""));
+            fs::remove_all(slozka / "stav");
+            fs::remove_all(slozka / "vysledky/Pokusy");
+            disk.P = {.Kolikata = n, .Naporad = naporad};
+            {
+                UkladaniPokusu ukladani = Nove();
+                const std::string zprava = Odehraj(ukladani);
+                volani = std::max(volani, disk.P.Volani);
+                if (zprava.empty()) EXPECT_EQ(Ulozene().size(), 1U);
+                // Told once, whatever fails afterwards.
+                if (naporad && !zprava.empty()) EXPECT_EQ(Odehraj(ukladani), "");
+            }
+            disk.P = {};
+            UkladaniPokusu znovu = Nove();
+            const bool vRade = !Soubory("stav/fronta").empty();
+            EXPECT_EQ(znovu.ZkusCekajici(ZITRA), "");
+            const std::vector<Pokus> pokusy = Ulozene();
+            EXPECT_LE(pokusy.size(), naporad ? 2U : 1U);
+            if (vRade || !naporad) EXPECT_GE(pokusy.size(), 1U);
+            for (const Pokus& p : pokusy) EXPECT_EQ(p.Priklady[0], Serie().Priklady[0]);
+            EXPECT_TRUE(Soubory("stav/fronta").empty());
+        }
+        EXPECT_GE(volani, 5);
+    }
+}
+
+TEST_F(UkladaniPokusuTest, ZabitaSerieSeNajdeAzKdyzJiNikdoNehraje) {
+    {
+        UkladaniPokusu hrajici = Nove();
+        hrajici.Zacni(Serie());
+        hrajici.Pridej(Serie().Priklady[0]);
+        ASSERT_EQ(Soubory("stav/fronta").size(), 1U);
+        EXPECT_EQ(Nove().ZkusCekajici(ZITRA), "");
+        EXPECT_TRUE(Ulozene().empty());
+    }
+    // Of another folder of results: not here.
+    fs::create_directories(slozka / "jine");
+    EXPECT_EQ(UkladaniPokusu(disk, slozka / "jine", slozka / "stav").ZkusCekajici(ZITRA), "");
+    EXPECT_EQ(Soubory("stav/fronta").size(), 1U);
+    EXPECT_EQ(Nove().ZkusCekajici(ZITRA), "");
+    const std::vector<Pokus> pokusy = Ulozene();
+    ASSERT_EQ(pokusy.size(), 1U);
+    EXPECT_FALSE(pokusy[0].Dokonceny);
+    EXPECT_EQ(pokusy[0].Priklady, std::vector{Serie().Priklady[0]});
+    EXPECT_TRUE(Soubory("stav/fronta").empty());
+}
+
+/// A file stands where the folder should be.
+TEST_F(UkladaniPokusuTest, KamNelzePsatSeRekneJednouADoplniSe) {
+    static_cast<void>(disk.NovySoubor(slozka / "vysledky/Pokusy"));
+    {
+        UkladaniPokusu ukladani = Nove();
+        const std::string zprava = Odehraj(ukladani);
+        EXPECT_TRUE(zprava.starts_with("Záznam pokusu se nepodařilo uložit: ")) << zprava;
+        EXPECT_NE(zprava.find("uložen stranou"), std::string::npos);
+        EXPECT_EQ(Odehraj(ukladani), "");
+    }
+    EXPECT_EQ(Nove().ZkusCekajici(DNES), "");
+    fs::remove(slozka / "vysledky/Pokusy");
+    EXPECT_EQ(Nove().ZkusCekajici(DNES), "");
+    EXPECT_EQ(Ulozene().size(), 2U);
+    EXPECT_TRUE(Soubory("stav/fronta").empty());
+}
+
+}  // namespace
+}  // namespace rysovna::testy
