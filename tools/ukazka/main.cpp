@@ -1,10 +1,12 @@
 // Plays examples without a display, through the same events as a person's, and leaves a picture of
-// each stage. Prints the lines that the log got. Or draws the board with the names of its controls.
+// each stage. Prints the lines that the log got. Or draws the board with the names of its controls,
+// or makes an attempt of a series without a fault.
 
 #include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,6 +18,8 @@
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
 #include "store/Kodovani.h"
+#include "store/TextRadku.h"
+#include "store/UkladaniPokusu.h"
 #include "ukazka/Ovladace.h"
 
 namespace {
@@ -78,6 +82,23 @@ void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy, Re
     std::cout << Z1250(hra.CtiSoubor("Vysledky.dat"), "Vysledky.dat");
 }
 
+/// The number of a task; nothing if it is none.
+std::optional<int> CisloUlohy(const std::string& text) {
+    const auto cislo = CeleCislo<int>(text);
+    return cislo && NajdiUlohu(*cislo) != nullptr ? cislo : std::nullopt;
+}
+
+/// A series of a task without a fault; its attempt, as the game kept it, goes to a new file.
+void UlozPokus(int uloha, const std::filesystem::path& kam) {
+    constexpr int PRIKLADU = 2;
+    Relace hra(SEMINKO);
+    hra.Start();
+    OdehrajSerii(hra, uloha, JMENO, PRIKLADU, SEMINKO);
+    const std::filesystem::path slozka = hra.DataDir() / UkladaniPokusu::SLOZKA;
+    for (const auto& soubor : std::filesystem::directory_iterator(slozka))
+        std::filesystem::copy_file(soubor.path(), kam);
+}
+
 }  // namespace
 
 int main(int pocet, char** slova) {
@@ -91,9 +112,12 @@ int main(int pocet, char** slova) {
         argumenty.erase(argumenty.begin());
     }
     const bool ovladace = !argumenty.empty() && argumenty[0] == "--ovladace";
-    if (argumenty.empty() || (ovladace && argumenty.size() != 2)) {
+    const bool pokus = !argumenty.empty() && argumenty[0] == "--pokus";
+    if (argumenty.empty() || (ovladace && argumenty.size() != 2) ||
+        (pokus && (argumenty.size() != 3 || !CisloUlohy(argumenty[1])))) {
         std::cerr << "Použití: ukazka [--klavesami | --prstem] SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
                      "         ukazka --ovladace OBRÁZEK.png\n"
+                     "         ukazka --pokus ČÍSLO_ÚLOHY NOVÝ_SOUBOR\n"
                      "Bez čísel se hraje první úloha.\n";
         return 2;
     }
@@ -101,6 +125,10 @@ int main(int pocet, char** slova) {
         if (ovladace) {
             Relace hra(SEMINKO, cim);
             NakresliOvladace(hra, argumenty[1]);
+            return 0;
+        }
+        if (pokus) {
+            UlozPokus(*CisloUlohy(argumenty[1]), argumenty[2]);
             return 0;
         }
         std::vector<int> ulohy;
