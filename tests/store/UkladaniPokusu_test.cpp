@@ -173,9 +173,9 @@ TEST_F(UkladaniPokusuTest, ZadnaPoruchaNicNezkazi) {
                 UkladaniPokusu ukladani = Nove();
                 const std::string zprava = Odehraj(ukladani);
                 volani = std::max(volani, disk.P.Volani);
-                if (zprava.empty()) EXPECT_EQ(Ulozene().size(), 1U);
+                EXPECT_TRUE(!zprava.empty() || Ulozene().size() == 1);
                 // Told once, whatever fails afterwards.
-                if (naporad && !zprava.empty()) EXPECT_EQ(Odehraj(ukladani), "");
+                EXPECT_TRUE(!naporad || zprava.empty() || Odehraj(ukladani).empty());
             }
             disk.P = {};
             UkladaniPokusu znovu = Nove();
@@ -183,7 +183,7 @@ TEST_F(UkladaniPokusuTest, ZadnaPoruchaNicNezkazi) {
             EXPECT_EQ(znovu.ZkusCekajici(ZITRA), "");
             const std::vector<Pokus> pokusy = Ulozene();
             EXPECT_LE(pokusy.size(), naporad ? 2U : 1U);
-            if (vRade || !naporad) EXPECT_GE(pokusy.size(), 1U);
+            EXPECT_TRUE(!(vRade || !naporad) || !pokusy.empty());
             for (const Pokus& p : pokusy) EXPECT_EQ(p.Priklady[0], Serie().Priklady[0]);
             EXPECT_TRUE(Soubory("stav/fronta").empty());
         }
