@@ -147,12 +147,14 @@ void UkladaniPokusu::UlozSoubor(const std::string& jmeno, std::string_view text)
     const fs::path cil = slozka / jmeno;
     if (disk_.JeSoubor(cil)) return;
     const fs::path novy = slozka / (jmeno + std::string(PRIPONA_NOVEHO));
-    const auto soubor = NovyCisty(disk_, novy);
+    std::unique_ptr<Soubor> soubor = NovyCisty(disk_, novy);
     try {
         soubor->Pis(0, text);
         soubor->NaDisk();
+        soubor.reset();  // not everywhere can an open file be given another name
         disk_.Nahrad(novy, cil);
     } catch (const ChybaDisku&) {
+        soubor.reset();
         OdstranPotichu(disk_, novy);
         throw;
     }
