@@ -15,6 +15,13 @@
 #include "store/TextRadku.h"
 
 namespace rysovna {
+
+/// What is wrong with a line. Caught by its type, which therefore has a name outside this file,
+/// too.
+struct VadnyRadek : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
 namespace {
 
 constexpr std::string_view ZNACKA = "RYSOVNA1 POKUS ";
@@ -144,11 +151,6 @@ std::string TextZadani(const ZadanyPriklad& z, int cisloUlohy) {
 }
 
 // ---- Reading ---------------------------------------------------------------------------------
-
-/// What is wrong with a line.
-struct VadnyRadek : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
 
 /// Words of a line, one after the other, and what is left of it.
 class Slova {
