@@ -8,24 +8,31 @@ namespace rysovna {
 
 using enum Volani::Druh;
 
+namespace {
+
+/// For the length of a call the session's sentences are noted as they are asked for. Not longer:
+/// a board may still be there when the next one plays in the same session.
+class ZapisVet {
+public:
+    ZapisVet(Misc& misc, std::map<int, std::vector<std::string>>& kam)
+        : misc_(misc), vety_(misc.Vety) {
+        if (!vety_) return;  // a charge is a fault then
+        misc_.Vety = [this, &kam](int cislo) { return kam[cislo] = vety_(cislo); };
+    }
+    ~ZapisVet() { misc_.Vety = std::move(vety_); }
+    ZapisVet(const ZapisVet&) = delete;
+    ZapisVet& operator=(const ZapisVet&) = delete;
+
+private:
+    Misc& misc_;
+    ZdrojVet vety_;
+};
+
+}  // namespace
+
 NahravanyDialog::NahravanyDialog(Misc& misc, Platna platna, std::unique_ptr<Dialog> hrany,
                                  std::function<std::uint32_t()> ted)
-    : Dialog(misc, platna),
-      hrany_(std::move(hrany)),
-      ted_(std::move(ted)),
-      od_(ted_()),
-      vety_(misc.Vety) {
-    if (!vety_) return;  // a charge is a fault then
-    misc.Vety = [this](int cislo) {
-        std::vector<std::string> vety = vety_(cislo);
-        if (nahrava_) priklady_.back().Vety[cislo] = vety;
-        return vety;
-    };
-}
-
-NahravanyDialog::~NahravanyDialog() {
-    misc_.Vety = std::move(vety_);
-}
+    : Dialog(misc, platna), hrany_(std::move(hrany)), ted_(std::move(ted)), od_(ted_()) {}
 
 void NahravanyDialog::NovyPriklad() {
     nahrava_ = false;
@@ -49,10 +56,13 @@ void NahravanyDialog::Zadej(const ZadanyPriklad& zadany) {
 }
 
 bool NahravanyDialog::Nahraj(Volani volani) {
+    if (!nahrava_) return Proved(*hrany_, volani);
     volani.Kdy = Cas();
     const int chyb = misc_.PocetChybnychKroku;
-    const bool zasah = Proved(*hrany_, volani);
-    if (!nahrava_) return zasah;
+    const bool zasah = [&] {
+        const ZapisVet zapis(misc_, priklady_.back().Vety);
+        return Proved(*hrany_, volani);
+    }();
     Udalost udalost{.Co = std::move(volani), .Otisk = OtiskTabulek(misc_, *hrany_)};
     for (int i = chyb + 1; i <= misc_.PocetChybnychKroku; ++i)
         udalost.Chyby.push_back(misc_.ChybneKroky[i]);

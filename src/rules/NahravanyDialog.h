@@ -15,13 +15,13 @@ namespace rysovna {
 /// goes on to the board's own dialogue with the same arguments. Between the check of an example and
 /// the next one nothing is written, since nothing can come of it.
 ///
-/// While it lives it notes, too, which sentences of wrong steps the rules ask the session for.
+/// While a call is carried out it notes, too, which sentences of wrong steps the rules ask the
+/// session for.
 class NahravanyDialog final : public Dialog {
 public:
     /// ted: tick count, ms; the series begins now.
     NahravanyDialog(Misc& misc, Platna platna, std::unique_ptr<Dialog> hrany,
                     std::function<std::uint32_t()> ted);
-    ~NahravanyDialog() override;
 
     /// The board's own dialogue.
     [[nodiscard]] const Dialog& Hrany() const { return *hrany_; }
@@ -68,7 +68,6 @@ private:
     std::unique_ptr<Dialog> hrany_;
     std::function<std::uint32_t()> ted_;
     std::uint32_t od_;
-    ZdrojVet vety_;  ///< the session's own
     std::vector<HranyPriklad> priklady_;
     bool nahrava_ = false;
 };
