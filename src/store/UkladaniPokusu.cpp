@@ -33,7 +33,8 @@ std::string Nahodne() {
         std::array<char, 8> cislice{};
         const auto* const konec =
             std::to_chars(cislice.data(), cislice.data() + cislice.size(), zdroj(), 16).ptr;
-        const std::string_view cislo(cislice.data(), konec);
+        const std::string_view cislo(cislice.data(),
+                                     static_cast<std::size_t>(konec - cislice.data()));
         text.append(cislice.size() - cislo.size(), '0').append(cislo);
     }
     return text;
@@ -108,7 +109,8 @@ void UkladaniPokusu::Rozepis() {
             rozepsany_ = disk_.NovySoubor(fronta_ / jmeno_);
             static_cast<void>(JeOpusteny(*rozepsany_, true));
         }
-        const std::uint64_t delka = rozepsany_->Delka();
+        // The whole attempt lies in memory, so what is written of it has a size there too.
+        const auto delka = static_cast<std::size_t>(rozepsany_->Delka());
         const std::string cele = hlavicka + text_;
         if (delka < cele.size()) rozepsany_->Pis(delka, std::string_view(cele).substr(delka));
     } catch (const std::exception&) {
