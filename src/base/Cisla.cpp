@@ -87,6 +87,18 @@ std::string FormatCele(double x) {
     return Tisk("%.0f", cele == 0 ? 0.0 : cele);
 }
 
+std::string FormatCesky(double x) {
+    std::string text = Tisk("%.2f", x);
+    text.erase(text.find_last_not_of('0') + 1);
+    const std::size_t tecka = text.find('.');
+    if (tecka + 1 == text.size()) {
+        text.pop_back();
+    } else {
+        text[tecka] = ',';
+    }
+    return text == "-0" ? "0" : text;
+}
+
 std::string FormatPetMist(double x) {
     std::string text = Tisk("%.5f", x);
     const bool minus = text.front() == '-';

@@ -33,6 +33,9 @@ std::string TextBezMezery(int cislo);
 /// The format "#0": a whole number, halves away from zero (2.5 is "3", -2.5 is "-3").
 std::string FormatCele(double x);
 
+/// As Czech writes numbers: at most two decimals behind a comma, none that are zero (7.5 is "7,5").
+std::string FormatCesky(double x);
+
 /// The format "#.00000": five decimals, no digit before the point where the value is below 1
 /// (0 is ".00000"). Angles are the same when they print the same under it.
 std::string FormatPetMist(double x);

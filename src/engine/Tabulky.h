@@ -36,6 +36,16 @@ inline constexpr const char* KRUZNICE = "kruznice";
 inline constexpr const char* KOLMICE = "kolmice";
 inline constexpr const char* ROVNOBEZKA = "rovnobezka";
 
+/// How an object came about, as the step that made it said: for the words of the steps alone, no
+/// drawing and no judgement goes by it. What is given, and what a board adds by itself, has none.
+struct Vznik {
+    std::string Cim{};     ///< the step's own word: a kind of object, "stred", "prusecik", ...
+    std::string Podle{};   ///< names that it goes by, parted by blanks: a base, a centre, the far
+                           ///< end of an angle's other arm, two lines that cross
+    std::string Odecet{};  ///< the value that was read off, or typed: "12 cm", "35°"
+    friend bool operator==(const Vznik&, const Vznik&) = default;
+};
+
 /// One drawn object. Plane pixels, Y downward. Jmeno is the name of a point as the logic compares
 /// it, Popis the text printed beside it.
 struct Utvar {
@@ -55,6 +65,7 @@ struct Utvar {
     float Smer = 0;        ///< radians from 0 up to but excluding 2*pi, from first to second point
     std::string NaPrimce;  ///< of a point: name of the line on which it lies; orients its cross
     std::int16_t Znacky = 0;  ///< of a segment: ANO with marks at its ends
+    Vznik Jak;                ///< the step that made it
     friend bool operator==(const Utvar&, const Utvar&) = default;
 };
 

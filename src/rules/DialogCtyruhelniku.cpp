@@ -158,6 +158,11 @@ void DialogCtyruhelniku::NakresliTrojuhelnik(const VetaTrojuhelniku& veta) {
                        true);
         NakresliStranu(v.substr(1, 1), p2, "", v.substr(2, 1), p3, v.substr(2, 1), false);
         NakresliStranu(v.substr(2, 1), p3, "", v.substr(0, 1), p1, "", false);
+        const std::size_t uhel = veta.Veta == "sus" ? 2 : hodnoty.size();
+        for (std::size_t i = 0; i < hodnoty.size(); ++i) {
+            misc_.Utvary[static_cast<int>(i) + misc_.PocetUtvaru - 2].Jak = {
+                std::string(TROJUHELNIK), "", FormatCesky(hodnoty[i]) + (i == uhel ? "°" : " cm")};
+        }
     }
     Prekresli();
 }

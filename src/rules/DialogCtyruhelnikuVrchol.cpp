@@ -224,6 +224,10 @@ std::string DialogCtyruhelnikuVrchol::OdectiPaprsek(Bod konec) const {
     return OdectiUhel(*od, *k, Stav().Start, konec);
 }
 
+std::string DialogCtyruhelnikuVrchol::RamenoUhlu() const {
+    return Stav().ZvolenyPrvek.substr(3);
+}
+
 void DialogCtyruhelnikuVrchol::PosudOdecet(double odecet) {
     const std::string_view druh = Stav().ZvolenyUtvar;
     const auto* cena = std::ranges::find(CENY_ODECTU, druh, &CenaOdectu::Druh);

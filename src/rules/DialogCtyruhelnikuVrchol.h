@@ -34,6 +34,7 @@ protected:
     void UkazDalsi(Panel& panel) const override;
     [[nodiscard]] std::optional<Bod> BodRovnobezky(Bod konec) const override;
     [[nodiscard]] std::string OdectiPaprsek(Bod konec) const override;
+    [[nodiscard]] std::string RamenoUhlu() const override;
     void PosudOdecet(double odecet) override;
     [[nodiscard]] bool ZacinaSpravne() const override;
     void Uzavri() override;

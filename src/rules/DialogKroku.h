@@ -143,6 +143,11 @@ protected:
     /// Whether the ray or circle in hand starts at its vertex or centre.
     [[nodiscard]] virtual bool ZacinaSpravne() const;
     virtual void NakresliUtvar(Bod konec);
+    /// Names that the object in hand goes by, as its prompt says: a base, a centre, the far end of
+    /// the angle's other arm.
+    [[nodiscard]] virtual std::string PodleCeho() const;
+    /// Of a ray: the far end of the arm that its angle is measured from.
+    [[nodiscard]] virtual std::string RamenoUhlu() const { return {}; }
     /// The number of the phase in which the construction is closed.
     [[nodiscard]] virtual int PosledniFaze() const { return 4; }
     /// The last phase was reached: closes the figure, if its objects meet.

@@ -131,8 +131,18 @@ void DialogKroku::PusteniPlochy(float x, float y) {
             PridejChybu(misc_, Stav().Faze == 2 ? c.Prvni : c.Druhy);
         }
     }
+    const Vznik vznik{Stav().ZvolenyUtvar, PodleCeho(), Tah(x, y).Text};
     NakresliUtvar(NaPixely(x, y));
+    misc_.Utvary[misc_.PocetUtvaru].Jak = vznik;
     DalsiFaze();
+}
+
+std::string DialogKroku::PodleCeho() const {
+    const std::string& druh = Stav().ZvolenyUtvar;
+    if (druh == POLOPRIMKA) return RamenoUhlu();
+    if (druh == KRUZNICE) return Stav().BodVyzvy;
+    const bool maZakladnu = druh == KOLMICE || druh == ROVNOBEZKA;
+    return maZakladnu ? Zakladna().Jmeno1 + Zakladna().Jmeno2 : std::string();
 }
 
 void DialogKroku::NakresliUtvar(Bod konec) {

@@ -88,6 +88,11 @@ std::string DialogTrojuhelniku::OdectiPaprsek(Bod konec) const {
     return OdectiUhel(odPrvni ? p1 : p2, odPrvni ? p2 : p1, stav_.Start, konec);
 }
 
+std::string DialogTrojuhelniku::RamenoUhlu() const {
+    const Utvar& strana = misc_.Utvary[1];
+    return strana.Jmeno1 == stav_.ZvolenyPrvek.substr(0, 1) ? strana.Jmeno2 : strana.Jmeno1;
+}
+
 void DialogTrojuhelniku::PosudOdecet(double odecet) {
     const CenaVeliciny* cena = Cena();
     if (cena != nullptr && !HodnotaSedi(odecet)) PridejChybu(misc_, cena->Nakreslena);

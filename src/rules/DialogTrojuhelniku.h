@@ -72,6 +72,7 @@ protected:
     void ZvolRadek(std::size_t i) override;
     void PosudStisk(const Zachyt& zachyt) override;
     [[nodiscard]] std::string OdectiPaprsek(Bod konec) const override;
+    [[nodiscard]] std::string RamenoUhlu() const override;
     void PosudOdecet(double odecet) override;
     void Uzavri() override;
     [[nodiscard]] int ChybnychPrvku() const override;

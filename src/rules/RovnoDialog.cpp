@@ -276,6 +276,7 @@ void RovnoDialog::ZvolStred(const std::string& kod) {
     const auto vrchol = Misto(kod);
     if (kod.size() > 1 || !vrchol) return;
     NakresliStred(*vrchol, kod == STRED);
+    misc_.Utvary[misc_.PocetUtvaru].Jak = {Stav().ZvolenyUtvar, kod, ""};
     DalsiFaze();
 }
 

@@ -23,6 +23,7 @@ protected:
     [[nodiscard]] bool PrvekSpravny(int faze) const override;
     void UkazDalsi(Panel& panel) const override;
     void NakresliUtvar(Bod konec) override;
+    [[nodiscard]] std::string PodleCeho() const override { return Stav().ZvolenyPrvek; }
     void Uzavri() override;
 
 private:

@@ -134,6 +134,8 @@ private:
     [[nodiscard]] int ZasazenyPar(float x, float y) const;
     void KlikniStred(float x, float y);
     void KlikniPrusecik(float x, float y);
+    [[nodiscard]] std::string ZnacenyPrunik() const;
+    [[nodiscard]] std::string OdectiKrok(const KrokTecny& krok, float x, float y) const;
     [[nodiscard]] Bod StredTahu() const;
     [[nodiscard]] Dvojice BodyPrimky(Bod konec) const;
     void NakresliKruznici(const KrokTecny& krok, Bod konec);

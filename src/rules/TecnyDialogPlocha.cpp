@@ -122,6 +122,8 @@ void TecnyDialog::KlikniStred(float x, float y) {
     if (!zasah) Uctuj(krok->ChybaRysovani);
     Pamatuj();
     NakresliBod(stav_.StredUsecky, stav_.Jmeno, zasah ? krok->NaPrimce : std::string_view{});
+    misc_.Utvary[misc_.PocetUtvaru].Jak = {
+        stav_.ZvolenyUtvar, std::string(krok->Body[0]) + " " + std::string(krok->Body[1]), ""};
     Zapis(stav_.Faze, stav_.ZvolenyUtvar, stav_.Jmeno);
     if (stav_.Spravny) SplnPolozku(stav_.Jmeno);
     UkonciKrok(stav_.Spravny);
@@ -146,10 +148,21 @@ void TecnyDialog::KlikniPrusecik(float x, float y) {
     const bool vReseni = PolozkaReseni(jmeno) != 0;
     Pamatuj();
     NakresliBod(p.Misto[par], jmeno, zasah && vReseni ? krok->NaPrimce : std::string_view{});
+    misc_.Utvary[misc_.PocetUtvaru].Jak = {stav_.ZvolenyUtvar, ZnacenyPrunik(), ""};
     Zapis(stav_.Faze, stav_.ZvolenyUtvar, jmeno);
     SplnPolozku(jmeno);
     stav_.Pary.Hotovo[par] = true;
     UkonciKrok(true);
+}
+
+/// Names of the lines whose crossing is marked now: the last ones that a step has worked out.
+std::string TecnyDialog::ZnacenyPrunik() const {
+    for (int faze = stav_.Faze - 1; faze >= 1; --faze) {
+        const KrokTecny& krok = *KrokFaze(faze);
+        if (krok.Pocita == Prunik::Nic) continue;
+        return std::string(krok.Ceho[0]) + " " + std::string(krok.Ceho[1]);
+    }
+    return {};
 }
 
 /// Whether the exercise charges a marking when both of its crossings are done, and they are.
@@ -212,6 +225,7 @@ void TecnyDialog::PusteniPlochy(float x, float y) {
     if (krok == nullptr || !CekaNaKresleni() || !stav_.Tazeni) return;
     const Bod konec = NaPixely(x, y);
     platna_.Pic.DrawWidth = 1;
+    const Vznik vznik{stav_.ZvolenyUtvar, stav_.OcekavanyBod, OdectiKrok(*krok, x, y)};
     Pamatuj();
     if (stav_.VRuce == Nastroj::Kruznice) {
         NakresliKruznici(*krok, konec);
@@ -222,12 +236,34 @@ void TecnyDialog::PusteniPlochy(float x, float y) {
     } else {
         NakresliPrimku(*krok, x, y);
     }
+    misc_.Utvary[misc_.PocetUtvaru].Jak = vznik;
     Zapis(stav_.Faze, stav_.ZvolenyUtvar, stav_.Jmeno);
     if (stav_.Spravny) {
         SplnPolozku(stav_.Jmeno);
         SpocitejPruseciky(*krok);
     }
     UkonciKrok(stav_.Spravny);
+}
+
+/// The value of what a drag to here makes: of a circle its radius in the prompt's words ("|SB|") as
+/// far as it was drawn so, else what is read off.
+std::string TecnyDialog::OdectiKrok(const KrokTecny& krok, float x, float y) const {
+    const auto* v = std::ranges::find(krok.Volby, stav_.OcekavanyBod, &Volba::Prvek);
+    if (stav_.VRuce == Nastroj::Kruznice && v != krok.Volby.end() && !v->Polomer.empty()) {
+        const Bod od = StredTahu();
+        // The names stand between two bars; the first point has one letter, or a letter and a
+        // digit.
+        std::string_view jmena = v->Polomer.substr(1, v->Polomer.size() - 2);
+        const std::size_t delka = jmena.size() > 1 && jmena[1] >= '0' && jmena[1] <= '9' ? 2 : 1;
+        const Bod p = NajdiBod(misc_, jmena.substr(0, delka));
+        const Bod q = NajdiBod(misc_, jmena.substr(delka));
+        const double r = std::abs(NaPixely(x, y).X - od.X);
+        const bool znamy = p != BEZ_BODU && q != BEZ_BODU;
+        if (znamy && std::fabs(Vzdalenost(p, q) - r) <= TOLERANCE_POLOMERU) {
+            return std::string(v->Polomer);
+        }
+    }
+    return Tah(x, y).Text;
 }
 
 void TecnyDialog::NakresliKruznici(const KrokTecny& krok, Bod konec) {

@@ -85,7 +85,10 @@ void TecnyDialog::ZvolOsu() {
     const Dvojice body = Kolme(misc_.Utvary[usecka], C, C);
     KresliKolmici(misc_, platna_.Pic, NovyRadek(jmenoB, ""),
                   {.Druh = KOLMICE, .P1 = body.P1, .P2 = body.P2}, ANO);
+    misc_.Utvary[misc_.PocetUtvaru].Jak = {stav_.ZvolenyUtvar, stav_.OcekavanyBod, ""};
     NakresliBod(C, jmenoC, stred.NaPrimce);
+    misc_.Utvary[misc_.PocetUtvaru].Jak = {
+        "stred", std::string(stred.Body[0]) + " " + std::string(stred.Body[1]), ""};
     Zapis(stav_.Faze, BOD, jmenoC);
     Zapis(stav_.Faze + 1, KOLMICE, jmenoB);
     SplnPolozku(jmenoC);
