@@ -181,7 +181,7 @@ TEST(SvgPlochaTest, PismenaJsouTaZObrazovky) {
     vektory.Cls();
     vektory.Font.Nazev = Pismo::Rez::Symbol;
     vektory.Print("a<b>&\x01^");
-    EXPECT_EQ(vektory.Obsah(), "<text x=\"0\" y=\"10\">α&lt;β&gt;&amp;\uFFFD⊥</text>");
+    EXPECT_EQ(vektory.Obsah(), "<text x='0' y='10'>α&lt;β&gt;&amp;\uFFFD⊥</text>");
 }
 
 }  // namespace

@@ -19,8 +19,8 @@ constexpr int POLOMER_KROUZKU = 8;
 std::string Krouzek(const Volani& v) {
     if (v.Co != Volani::Druh::Stisk && v.Co != Volani::Druh::Pusteni) return {};
     const auto cislo = [](float x) { return std::to_string(Zaokrouhli(static_cast<double>(x))); };
-    return "<circle class=\"m\" cx=\"" + cislo(v.X) + "\" cy=\"" + cislo(v.Y) + "\" r=\"" +
-           std::to_string(POLOMER_KROUZKU) + "\"/>";
+    return "<circle class='m' cx='" + cislo(v.X) + "' cy='" + cislo(v.Y) + "' r='" +
+           std::to_string(POLOMER_KROUZKU) + "'/>";
 }
 
 std::string Kde(const Rozchod& r) {

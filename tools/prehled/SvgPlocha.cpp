@@ -75,9 +75,9 @@ void PripisDalsi(std::string& kam, Desetiny d) {
 }
 
 void PripisPolozku(std::string& kam, std::string_view jmeno, Desetiny d) {
-    kam.append(" ").append(jmeno).append("=\"");
+    kam.append(" ").append(jmeno).append("='");
     Pripis(kam, d);
-    kam += '"';
+    kam += '\'';
 }
 
 /// "#12af00", of a colour whose red is the lowest byte.
@@ -113,7 +113,7 @@ public:
         if (!otevrena_ || pero != pero_) {
             Ukonci();
             pero_ = pero;
-            kam_.append("<path").append(pero).append(" d=\"M");
+            kam_.append("<path").append(pero).append(" d='M");
             Pripis(kam_, u[0]);
             PripisDalsi(kam_, u[1]);
             otevrena_ = true;
@@ -138,7 +138,7 @@ public:
     }
 
     void Ukonci() {
-        if (otevrena_) kam_ += "\"/>";
+        if (otevrena_) kam_ += "'/>";
         otevrena_ = false;
     }
 
@@ -237,9 +237,9 @@ std::string SvgPlocha::Obsah() const {
             if (k.Cim.Velikost != VELIKOST_ZNAKU)
                 PripisPolozku(text, "font-size",
                               NaDesetiny(static_cast<float>(Pixelu(k.Cim.Velikost))));
-            if (k.Cim.Kurziva) text += " font-style=\"italic\"";
-            if (k.Cim.Tucne) text += " font-weight=\"bold\"";
-            if (k.Jaka != CERNA) text += " fill=\"" + Sestnactkove(k.Jaka) + '"';
+            if (k.Cim.Kurziva) text += " font-style='italic'";
+            if (k.Cim.Tucne) text += " font-weight='bold'";
+            if (k.Jaka != CERNA) text += " fill='" + Sestnactkove(k.Jaka) + '\'';
             text += '>';
             PripisText(text, k.Napis, k.Cim.Nazev == Pismo::Rez::Symbol);
             text += "</text>";
@@ -247,7 +247,7 @@ std::string SvgPlocha::Obsah() const {
         }
         std::string pero;
         if (k.Pero > 1) PripisPolozku(pero, "stroke-width", k.Pero * 10);
-        if (k.Jaka != CERNA) pero += " stroke=\"" + Sestnactkove(k.Jaka) + '"';
+        if (k.Jaka != CERNA) pero += " stroke='" + Sestnactkove(k.Jaka) + '\'';
         if (k.Co == Usecka) {
             cary.Pridej(k.X1, k.Y1, k.X2, k.Y2, pero);
         } else if (k.X2 >= 0) {

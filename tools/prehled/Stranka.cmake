@@ -1,0 +1,33 @@
+# What the page is made of goes into the program: files of the folder stranka, and the library of
+# its chart, which a package brings together with its licence.
+find_file(GRAF_KNIHOVNA chart.min.js PATHS /usr/share/javascript/chart.js NO_DEFAULT_PATH
+    NO_CMAKE_FIND_ROOT_PATH)
+find_file(GRAF_LICENCE copyright PATHS /usr/share/doc/libjs-chart.js NO_DEFAULT_PATH
+    NO_CMAKE_FIND_ROOT_PATH)
+# Libraries of headers alone are the same for any system that is built for.
+find_path(JSON_HLAVICKY nlohmann/json.hpp PATHS /usr/include NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+find_path(SABLONY_HLAVICKY kainjow/mustache.hpp PATHS /usr/include NO_DEFAULT_PATH
+    NO_CMAKE_FIND_ROOT_PATH)
+if(NOT GRAF_KNIHOVNA OR NOT GRAF_LICENCE OR NOT JSON_HLAVICKY OR NOT SABLONY_HLAVICKY)
+    message(FATAL_ERROR "Install the packages libjs-chart.js, nlohmann-json3-dev and "
+        "libkainjow-mustache-dev.")
+endif()
+set(jen_hlavicky ${CMAKE_BINARY_DIR}/hlavicky/knihovny)
+file(MAKE_DIRECTORY ${jen_hlavicky})
+file(CREATE_LINK ${JSON_HLAVICKY}/nlohmann ${jen_hlavicky}/nlohmann SYMBOLIC)
+file(CREATE_LINK ${SABLONY_HLAVICKY}/kainjow ${jen_hlavicky}/kainjow SYMBOLIC)
+target_include_directories(prehled_jadro SYSTEM PRIVATE ${jen_hlavicky})
+
+set(stranka ${CMAKE_CURRENT_SOURCE_DIR}/stranka)
+# The page's program, in this order.
+set(skripty ${stranka}/data.js ${stranka}/tabulka.js ${stranka}/pokus.js ${stranka}/graf.js
+    ${stranka}/prehled.js)
+list(JOIN skripty "," skript)
+set(vlozene ${CMAKE_BINARY_DIR}/vyrobene/prehled/Vlozene.cpp)
+add_custom_command(OUTPUT ${vlozene}
+    COMMAND ${CMAKE_COMMAND} -DVEN=${vlozene}
+        "-DCO=STRANKA|${stranka}/stranka.html;STYL|${stranka}/stranka.css;SKRIPT|${skript};GRAF|${GRAF_KNIHOVNA};LICENCE_GRAFU|${GRAF_LICENCE}"
+        -P ${CMAKE_CURRENT_SOURCE_DIR}/vloz.cmake
+    DEPENDS ${stranka}/stranka.html ${stranka}/stranka.css ${skripty} ${GRAF_KNIHOVNA} ${GRAF_LICENCE}
+        ${CMAKE_CURRENT_SOURCE_DIR}/vloz.cmake VERBATIM)
+target_sources(prehled_jadro PRIVATE ${vlozene})

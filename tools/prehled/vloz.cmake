@@ -1,0 +1,20 @@
+# Files become constants of a source: cmake -DVEN=FILE.cpp -DCO=NAME|FILE,FILE...;NAME|... -P vloz.cmake
+# Several files of one name are put behind one another.
+set(text "#include \"prehled/Vlozene.h\"\n\nnamespace rysovna::prehled {\n")
+set(konstanty "")
+foreach(radek ${CO})
+    string(REPLACE "|" ";" radek "${radek}")
+    list(GET radek 0 jmeno)
+    list(GET radek 1 soubory)
+    string(REPLACE "," ";" soubory "${soubory}")
+    set(bajty "")
+    foreach(soubor ${soubory})
+        file(READ "${soubor}" hex HEX)
+        string(REGEX REPLACE "(..)" "0x\\1," hex "${hex}")
+        string(APPEND bajty "${hex}\n")
+    endforeach()
+    string(APPEND text "static const unsigned char BAJTY_${jmeno}[] = {${bajty}};\n")
+    string(APPEND konstanty "const std::string_view ${jmeno}("
+        "reinterpret_cast<const char*>(BAJTY_${jmeno}), sizeof BAJTY_${jmeno});\n")
+endforeach()
+file(WRITE "${VEN}" "${text}${konstanty}}  // namespace rysovna::prehled\n")
