@@ -1,0 +1,218 @@
+#include "prehled/Cteni.h"
+
+#include <algorithm>
+#include <exception>
+#include <system_error>
+#include <utility>
+#include <zlib.h>
+
+#include "base/Chyba.h"
+#include "base/Text.h"
+#include "engine/PametovaPlocha.h"
+#include "platform/Stroj.h"
+#include "rules/KatalogChyb.h"
+#include "rules/Prehravka.h"
+#include "store/TextPokusu.h"
+#include "store/TextRadku.h"
+
+namespace rysovna::prehled {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// No series of a pupil's comes near it, bytes.
+constexpr std::uintmax_t NEJVIC_BAJTU = 4'000'000;
+/// Nor do its figures come near this.
+constexpr std::size_t NEJVIC_OBRAZCU = 100'000'000;
+
+/// The drawing plane of the boards, px.
+constexpr int SIRKA_PLOCHY = 384, VYSKA_PLOCHY = 335;
+
+/// Names of angles as they are written.
+constexpr std::pair<std::string_view, std::string_view> RECKA[] = {
+    {"alfa", "α"}, {"beta", "β"}, {"gama", "γ"}, {"delta", "δ"},
+    {"delt", "δ"}, {"epsi", "ε"}, {"omeg", "ω"}};
+
+std::string NazevVeliciny(const ZadanaVelicina& z) {
+    if (z.Co != ZadanaVelicina::Druh::Uhel) return z.Nazev;
+    const auto* r = std::ranges::find(RECKA, std::string_view(z.Nazev),
+                                      &std::pair<std::string_view, std::string_view>::first);
+    return r == std::end(RECKA) ? z.Nazev : std::string(r->second);
+}
+
+/// The assignments of a task's examples, as its board words them.
+class Zadavani {
+public:
+    explicit Zadavani(int uloha) : dialog_(VyrobDialog(DeskaUlohy(uloha), misc_, {pic_, hiden_})) {
+        misc_.CisloUlohy = static_cast<std::uint8_t>(uloha);
+        misc_.Vety = [](int) { return std::vector<std::string>(); };
+    }
+    /// What others wrote may be no example of the board: that has no assignment.
+    std::string Text(const ZadanyPriklad& priklad) {
+        try {
+            dialog_->NovyPriklad();
+            dialog_->Zadej(priklad);
+            const Panel panel = dialog_->UkazPanel();
+            std::string text;
+            for (const ZadanaVelicina& z : panel.Zadani) {
+                // In words it is whole only with what leads in.
+                if (z.Co == ZadanaVelicina::Druh::Slovy) text += panel.Uvod;
+                const std::string nazev = NazevVeliciny(z);
+                text += (text.empty() || text.ends_with(' ') ? "" : " ") + nazev +
+                        (nazev.empty() ? "" : " ") + z.Hodnota;
+            }
+            return BezKrajnichMezer(text);
+        } catch (const std::exception&) {
+            return {};
+        }
+    }
+
+private:
+    Misc misc_;
+    PametovaPlocha pic_{SIRKA_PLOCHY, VYSKA_PLOCHY}, hiden_{SIRKA_PLOCHY, VYSKA_PLOCHY};
+    std::unique_ptr<Dialog> dialog_;
+};
+
+std::uint32_t KonecPrikladu(const HranyPriklad& p) {
+    return p.Udalosti.empty() ? p.Kdy : std::max(p.Kdy, p.Udalosti.back().Co.Kdy);
+}
+
+/// The figure of this order; none where the replay did not come so far.
+std::string Vezmi(std::vector<std::string>& obrazce, std::size_t i) {
+    return i < obrazce.size() ? std::move(obrazce[i]) : std::string();
+}
+
+void PridejPriklad(Serie& serie, const HranyPriklad& p, std::string zadani,
+                   std::vector<std::string> obrazceChyb) {
+    std::size_t chyba = 0;
+    for (const Udalost& u : p.Udalosti) {
+        for (const ChybnyKrok& c : u.Chyby) {
+            serie.Chyby.push_back({.Cislo = CeleCislo<int>(c.Cislo).value_or(0),
+                                   .Bodu = c.Body,
+                                   .Veta = BezBodu(c.Text),
+                                   .Priklad = static_cast<int>(serie.Priklady.size()) + 1,
+                                   .Kdy = u.Co.Kdy,
+                                   .Obrazec = Vezmi(obrazceChyb, chyba++)});
+        }
+    }
+    PrikladSerie priklad{.Zadani = std::move(zadani),
+                         .Nejvic = BODU_ZA_PRIKLAD,
+                         .Zkontrolovan = p.Konec.has_value(),
+                         .Trvani = KonecPrikladu(p) - p.Kdy};
+    if (p.Konec) {
+        priklad.Bodu = p.Konec->Bodu;
+        priklad.Hotova = p.Konec->Hotova;
+        serie.Bodu += priklad.Bodu;
+        serie.Nejvic += priklad.Nejvic;
+    }
+    serie.Trvani = std::max(serie.Trvani, KonecPrikladu(p));
+    serie.Priklady.push_back(std::move(priklad));
+}
+
+PrectenaSerie SerieZPokusu(const Pokus& pokus, std::string soubor) {
+    Obrazce obrazce = NakresliPokus(pokus);
+    Serie serie{.Soubor = std::move(soubor),
+                .JmenoNapsane = pokus.Jmeno,
+                .Uloha = pokus.CisloUlohy,
+                .Zacatek = pokus.Zacatek,
+                .Dokoncena = pokus.Dokonceny};
+    Zadavani zadavani(pokus.CisloUlohy);
+    for (std::size_t i = 0; i < pokus.Priklady.size(); ++i) {
+        PridejPriklad(
+            serie, pokus.Priklady[i], zadavani.Text(pokus.Priklady[i].Zadani),
+            i < obrazce.Chyby.size() ? std::move(obrazce.Chyby[i]) : std::vector<std::string>());
+        serie.Priklady.back().Obrazec = Vezmi(obrazce.Priklady, i);
+    }
+    return {.Co = std::move(serie), .Rozchod = std::move(obrazce.Rozchod)};
+}
+
+/// Calls with each figure of a series, in one order.
+template <class S, class F>
+void ProObrazce(S& serie, F coSNim) {
+    for (auto& p : serie.Priklady) coSNim(p.Obrazec);
+    for (auto& c : serie.Chyby) coSNim(c.Obrazec);
+}
+
+constexpr char ODDELOVAC = '\0';
+
+}  // namespace
+
+std::string BezBodu(std::string_view veta) {
+    const auto uber = [&veta](std::string_view znaky) {
+        const std::size_t konec = veta.find_last_not_of(znaky);
+        const std::size_t delka = konec == std::string_view::npos ? 0 : konec + 1;
+        const bool neco = delka != veta.size();
+        veta = veta.substr(0, delka);
+        return neco;
+    };
+    const std::string_view cela = veta;
+    for (const std::string_view slovo : {" bodů", " body", " bod"}) {
+        if (!veta.ends_with(slovo)) continue;
+        veta.remove_suffix(slovo.size());
+        if (!uber("0123456789")) break;
+        uber(" ");
+        if (!veta.ends_with('-')) break;
+        veta.remove_suffix(1);
+        return BezKrajnichMezer(veta);
+    }
+    return BezKrajnichMezer(cela);
+}
+
+std::optional<std::string> JmenoVTextu(std::string_view text) {
+    constexpr std::string_view SLOVO = "\njmeno ";
+    const std::size_t kde = text.find(SLOVO);
+    if (kde == std::string_view::npos) return std::nullopt;
+    const std::string_view zbytek = text.substr(kde + SLOVO.size());
+    return ZRadku(zbytek.substr(0, std::min(zbytek.find_first_of("\r\n"), zbytek.size())));
+}
+
+PrectenaSerie PrectiSerii(const fs::path& soubor) {
+    std::error_code chyba;
+    if (fs::file_size(soubor, chyba) > NEJVIC_BAJTU && !chyba)
+        return {.Vada = "Soubor je příliš velký."};
+    const std::optional<std::string> text = CelySoubor(soubor);
+    if (!text) return {.Vada = "Soubor nelze přečíst."};
+    PrectenyPokus pokus = CtiPokus(*text);
+    if (!pokus.Co) return {.Vada = std::move(pokus.Vada)};
+    try {
+        return SerieZPokusu(*pokus.Co, soubor.filename().string());
+    } catch (const std::exception& vyjimka) {
+        return {.Vada = std::string("Pokus nejde přehrát: ") + vyjimka.what() + "."};
+    }
+}
+
+std::string ZabalObrazce(const Serie& serie) {
+    std::string vse;
+    ProObrazce(serie, [&vse](const std::string& o) { vse += o + ODDELOVAC; });
+    std::string zabalene(compressBound(static_cast<uLong>(vse.size())), '\0');
+    auto delka = static_cast<uLongf>(zabalene.size());
+    compress2(reinterpret_cast<Bytef*>(zabalene.data()), &delka,
+              reinterpret_cast<const Bytef*>(vse.data()), static_cast<uLong>(vse.size()),
+              Z_DEFAULT_COMPRESSION);
+    zabalene.resize(delka);
+    // How long it is when unpacked, in front.
+    return std::to_string(vse.size()) + " " + zabalene;
+}
+
+bool RozbalObrazce(std::string_view zabalene, Serie& serie) {
+    const std::size_t mezera = std::min(zabalene.find(' '), zabalene.size());
+    const auto delka = CeleCislo<std::size_t>(zabalene.substr(0, mezera));
+    zabalene.remove_prefix(std::min(mezera + 1, zabalene.size()));
+    if (!delka || *delka > NEJVIC_OBRAZCU) return false;
+    std::string vse(*delka, '\0');
+    auto vyslo = static_cast<uLongf>(vse.size());
+    if (uncompress(reinterpret_cast<Bytef*>(vse.data()), &vyslo,
+                   reinterpret_cast<const Bytef*>(zabalene.data()),
+                   static_cast<uLong>(zabalene.size())) != Z_OK)
+        return false;
+    std::string_view zbyva = vse;
+    ProObrazce(serie, [&zbyva](std::string& o) {
+        const std::size_t konec = std::min(zbyva.find(ODDELOVAC), zbyva.size());
+        o = zbyva.substr(0, konec);
+        zbyva.remove_prefix(std::min(konec + 1, zbyva.size()));
+    });
+    return true;
+}
+
+}  // namespace rysovna::prehled
