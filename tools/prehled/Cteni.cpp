@@ -41,6 +41,18 @@ std::string NazevVeliciny(const ZadanaVelicina& z) {
     return r == std::end(RECKA) ? z.Nazev : std::string(r->second);
 }
 
+/// Without the blanks that stand for signs and before degrees.
+std::string Hladce(std::string_view text) {
+    constexpr std::string_view STUPNE = "°";
+    std::string hladky;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool zbytecna =
+            text[i] == ' ' && (hladky.ends_with(' ') || text.substr(i + 1).starts_with(STUPNE));
+        if (!zbytecna) hladky += text[i];
+    }
+    return BezKrajnichMezer(hladky);
+}
+
 /// The assignments of a task's examples, as its board words them.
 class Zadavani {
 public:
@@ -62,7 +74,7 @@ public:
                 text += (text.empty() || text.ends_with(' ') ? "" : " ") + nazev +
                         (nazev.empty() ? "" : " ") + z.Hodnota;
             }
-            return BezKrajnichMezer(text);
+            return Hladce(text);
         } catch (const std::exception&) {
             return {};
         }

@@ -85,8 +85,8 @@ std::optional<Den> DenZTextu(std::string_view text) {
     if (cisla.size() != 3) return std::nullopt;
     if (oddelovac == '.') std::swap(cisla[0], cisla[2]);
     if (cisla[0] < 1000 || cisla[0] > 9999 || std::ranges::min(cisla) < 1) return std::nullopt;
-    const Den den(std::chrono::year(cisla[0]), std::chrono::month(static_cast<unsigned>(cisla[1])),
-                  std::chrono::day(static_cast<unsigned>(cisla[2])));
+    const Den den{std::chrono::year{cisla[0]}, std::chrono::month{static_cast<unsigned>(cisla[1])},
+                  std::chrono::day{static_cast<unsigned>(cisla[2])}};
     return den.ok() ? std::optional(den) : std::nullopt;
 }
 

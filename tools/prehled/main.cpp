@@ -48,8 +48,8 @@ void Oznam(const Prehled& prehled, std::size_t seriiCelkem, const Volby& volby) 
         std::cerr << prehled.Nevadne[i] << '\n';
     if (prehled.Nevadne.size() > NEJVIC_VET)
         std::cerr << "… a dalších " << prehled.Nevadne.size() - NEJVIC_VET << ".\n";
-    std::cout << "Na stránce je " << Pocet(prehled.Serie.size(), SERII) << " z " << seriiCelkem
-              << ": " << volby.Vystup.string()
+    std::cout << "Na stránce: " << Pocet(prehled.Serie.size(), SERII) << " z " << seriiCelkem
+              << ", " << volby.Vystup.string()
               << "\nTabulky všech sérií: " << Vedle(volby.Vystup, "-serie.csv").string() << ", "
               << Vedle(volby.Vystup, "-chyby.csv").string() << '\n';
 }
