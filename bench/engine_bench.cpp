@@ -5,6 +5,7 @@
 #include "engine/PametovaPlocha.h"
 #include "engine/Sluzby.h"
 #include "engine/Tabulky.h"
+#include "hrac/Relace.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Mereni.h"
 #include "podpora/ProsteHledani.h"
@@ -93,11 +94,10 @@ BENCHMARK_CAPTURE(HledaniMista, cerna, &Cerna);
 
 /// Redraw of 100 objects of all kinds, with the counter ku_samotnym_caram: how many times longer
 /// it takes than the same clearing, lines, circles, texts and copies with no label search.
-void Prekresleni(benchmark::State& state) {
-    PametovaPlocha hiden(SIRKA_PLOCHY, VYSKA_PLOCHY), pic(SIRKA_PLOCHY, VYSKA_PLOCHY);
+void Prekresleni(benchmark::State& state, Plane& hiden, Plane& pic) {
     Tabulky t;
     NakresliNahodne(t, pic, 100, 1);
-    ZaznamPlane zaznam(SIRKA_PLOCHY, VYSKA_PLOCHY);
+    ZaznamPlane zaznam(pic.Width(), pic.Height());
     PrekresliVse(t, zaznam, pic);
 
     const auto vse = [&] { PrekresliVse(t, hiden, pic); };
@@ -114,15 +114,36 @@ void Prekresleni(benchmark::State& state) {
             plane.CurrentY = n.y;
             plane.Print(n.text);
         }
-        for (int i = 0; i < 3; ++i) {
+        const auto zkopiruj = [&] {
             pic.BitBlt(0, 0, hiden.Width(), hiden.Height(), hiden, 0, 0, Rop::SrcCopy);
-        }
+        };
+        zkopiruj();
+        pic.AutoRedraw = false;
+        zkopiruj();
+        pic.AutoRedraw = true;
+        zkopiruj();
     };
     const double pomer = PomerCasu(vse, samotne);
     for (auto _ : state) vse();
     state.counters["ku_samotnym_caram"] = pomer;
     state.counters["utvaru"] = t.PocetUtvaru;
 }
-BENCHMARK(Prekresleni)->Unit(benchmark::kMicrosecond);
+
+/// On the planes in memory that the rules' tests play on: a label is a few filled blocks there.
+void PrekresleniVPameti(benchmark::State& state) {
+    PametovaPlocha hiden(SIRKA_PLOCHY, VYSKA_PLOCHY), pic(SIRKA_PLOCHY, VYSKA_PLOCHY);
+    Prekresleni(state, hiden, pic);
+}
+BENCHMARK(PrekresleniVPameti)->Unit(benchmark::kMicrosecond);
+
+/// On the planes of a board that is being played.
+void PrekresleniDesky(benchmark::State& state) {
+    hrac::Relace hra;
+    hra.Start();
+    hra.SpustUlohu(1);
+    Prekresleni(state, hra.Prvek<PictureBox>("HidenPic").Plocha(),
+                hra.Prvek<PictureBox>("Pic").Plocha());
+}
+BENCHMARK(PrekresleniDesky)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
