@@ -110,6 +110,11 @@ public:
     /// Puts a file in the place of another of the same folder: that name is the new one from then
     /// on, or still the old one.
     virtual void Nahrad(const std::filesystem::path& novy, const std::filesystem::path& stary) = 0;
+    /// Gives a file another name in the same folder, unless there is one of that name: then UzJe,
+    /// and nothing has changed. The name is never seen with another content, but for an empty one
+    /// for a moment where the system cannot do better.
+    virtual void Prejmenuj(const std::filesystem::path& soubor,
+                           const std::filesystem::path& jmeno) = 0;
     virtual void Odstran(const std::filesystem::path& soubor) = 0;
     /// Names in a folder, in alphabetical order.
     [[nodiscard]] virtual std::vector<std::string> Jmena(const std::filesystem::path& slozka) = 0;

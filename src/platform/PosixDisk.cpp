@@ -249,6 +249,30 @@ void PosixDisk::Nahrad(const fs::path& novy, const fs::path& stary) {
     if (::rename(novy.c_str(), stary.c_str()) != 0) SelhalaVymena(stary);
 }
 
+void PosixDisk::Prejmenuj(const fs::path& soubor, const fs::path& jmeno) {
+#ifdef RENAME_NOREPLACE
+    if (::renameat2(AT_FDCWD, soubor.c_str(), AT_FDCWD, jmeno.c_str(), RENAME_NOREPLACE) == 0)
+        return;
+    if (!Neumi()) Selhal(jmeno);
+#endif
+    if (::link(soubor.c_str(), jmeno.c_str()) == 0) {
+        // It has both names; whoever finds the first one may take it away.
+        static_cast<void>(::unlink(soubor.c_str()));
+        return;
+    }
+    if (!Neumi() && errno != EPERM && errno != EMLINK) Selhal(jmeno);
+    // Neither is known here, as on a stick: an empty file holds the name meanwhile.
+    const int vlajky = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    const int cislo = Znovu([&] { return ::open(jmeno.c_str(), vlajky, PRAVA_SOUBORU); });
+    if (cislo < 0) Selhal(jmeno);
+    ::close(cislo);
+    if (::rename(soubor.c_str(), jmeno.c_str()) == 0) return;
+    const int proc = errno;
+    static_cast<void>(::unlink(jmeno.c_str()));
+    errno = proc;
+    Selhal(jmeno);
+}
+
 void PosixDisk::Odstran(const fs::path& soubor) {
     if (::unlink(soubor.c_str()) != 0) Selhal(soubor);
 }

@@ -14,6 +14,8 @@ public:
     [[nodiscard]] std::unique_ptr<Soubor> Otevri(const std::filesystem::path& co, Jak jak) override;
     [[nodiscard]] std::unique_ptr<Soubor> NovySoubor(const std::filesystem::path& co) override;
     void Nahrad(const std::filesystem::path& novy, const std::filesystem::path& stary) override;
+    void Prejmenuj(const std::filesystem::path& soubor,
+                   const std::filesystem::path& jmeno) override;
     void Odstran(const std::filesystem::path& soubor) override;
     [[nodiscard]] std::vector<std::string> Jmena(const std::filesystem::path& slozka) override;
     void ZalozSlozku(const std::filesystem::path& slozka) override;

@@ -185,7 +185,7 @@ void DeskaForm::Load() {
 }
 
 void DeskaForm::Unload() {
-    static_cast<void>(DokonciPokus(false, false));
+    OpustPokus();
     SkryjChyby();
 }
 

@@ -177,7 +177,8 @@ private:
     // DeskaPokus.cpp: the attempt
     void ZacniPokus();
     void UlozPriklady(bool iRozehrany = false);
-    [[nodiscard]] std::string DokonciPokus(bool dokonceny, bool smiRici = true);
+    [[nodiscard]] Cinnost<std::string> DokonciPokus(bool dokonceny);
+    void OpustPokus();
     // DeskaSerie.cpp: check, verdict, series
     Cinnost<> Zkontroluj();
     Cinnost<> NovyPriklad();

@@ -39,10 +39,17 @@ void DeskaForm::UlozPriklady(bool iRozehrany) {
         s_.Pokusy().Pridej(priklady[ulozenychPrikladu_]);
 }
 
-std::string DeskaForm::DokonciPokus(bool dokonceny, bool smiRici) {
+/// What is to be told. To be awaited while nothing is let through to the screens.
+Cinnost<std::string> DeskaForm::DokonciPokus(bool dokonceny) {
     UlozPriklady(true);
-    return std::exchange(pokusTrva_, false) ? s_.Pokusy().Dokonci(dokonceny, smiRici)
-                                            : std::string();
+    return std::exchange(pokusTrva_, false) ? s_.Pokusy().Dokonci(dokonceny)
+                                            : Cinnost<std::string>();
+}
+
+/// The board goes, and nobody waits.
+void DeskaForm::OpustPokus() {
+    UlozPriklady(true);
+    if (std::exchange(pokusTrva_, false)) s_.Pokusy().Opust();
 }
 
 }  // namespace rysovna

@@ -110,7 +110,7 @@ Cinnost<> DeskaForm::UkonciSerii() {
     {
         const Obrazovky::Zavreni zavreni(okna);
         zprava = co_await s_.Vysledky().Uloz(vysledek);
-        PridejOdstavec(zprava.Text, DokonciPokus(true));
+        PridejOdstavec(zprava.Text, co_await DokonciPokus(true));
         co_await Cekani::SVstupem(0);
     }
     if (const auto stara = okna.Najdi("TabulkaForm")) okna.Unload(*stara);
@@ -150,7 +150,11 @@ Cinnost<> DeskaForm::Zpet() {
         okna.Show(*setup);
         s_.AktivniForm = setup;
     }
-    const std::string zprava = DokonciPokus(false);
+    std::string zprava;
+    {
+        const Obrazovky::Zavreni zavreni(okna);
+        zprava = co_await DokonciPokus(false);
+    }
     okna.Unload(*this);
     if (!zprava.empty()) okna.Spust(Oznam(shared_from_this(), zprava));
     co_await Cekani(PO_NAVRATU);

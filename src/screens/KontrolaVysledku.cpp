@@ -5,7 +5,9 @@
 #include "store/Cesty.h"
 #include "store/Fronta.h"
 #include "store/TabulkaVysledku.h"
+#include "store/TextPokusu.h"
 #include "store/Ukladani.h"
+#include "store/UkladaniPokusu.h"
 
 namespace rysovna {
 namespace {
@@ -79,6 +81,42 @@ Nalez Fronta_(Disk& disk, const fs::path& stav) {
     }
 }
 
+/// What is wrong with a file among the attempts; empty if nothing is, or if it is in the making.
+std::string VadaPokusu(Disk& disk, const fs::path& soubor) {
+    if (soubor.extension() == UkladaniPokusu::PRIPONA_NOVEHO) return {};
+    try {
+        return CtiPokus(disk.Otevri(soubor, Disk::Jak::Cteni)->Cti()).Vada;
+    } catch (const ChybaDisku& chyba) {
+        return std::string(TextPriciny(chyba.Proc()));
+    }
+}
+
+/// Attempts are no results: whatever is wrong with them, the game can be played.
+void Pokusy(Disk& disk, const fs::path& slozka, bool ukladaji, std::vector<Nalez>& nalezy) {
+    constexpr std::size_t NEJVIC_VAD = 5;  // of a folder of something else there would be too many
+    const std::string co = "Záznamy pokusů";
+    std::size_t vadnych = 0, souboru = 0;
+    try {
+        if (disk.JeSlozka(slozka)) {
+            for (const std::string& jmeno : disk.Jmena(slozka)) {
+                ++souboru;
+                const std::string vada = VadaPokusu(disk, slozka / jmeno);
+                if (vada.empty() || ++vadnych > NEJVIC_VAD) continue;
+                nalezy.push_back({Pozor, "Záznam pokusu", (slozka / jmeno).string() + ": " + vada});
+            }
+        }
+    } catch (const ChybaDisku& chyba) {
+        nalezy.push_back({Pozor, co, chyba.what()});
+        return;
+    }
+    const bool pujde = !ukladaji || PujdeZakladat(disk, slozka);
+    nalezy.push_back({pujde && vadnych == 0 ? VPoradku : Pozor, co,
+                      slozka.string() + ": souborů: " + std::to_string(souboru) +
+                          (vadnych > 0 ? ", z toho vadných " + std::to_string(vadnych) : "") +
+                          (pujde ? "" : ", nelze zapisovat") +
+                          (ukladaji ? "" : ", ukládání je vypnuto")});
+}
+
 }  // namespace
 
 void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Cesty& cesty,
@@ -105,6 +143,7 @@ void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Cesty& cesty,
     nalezy.push_back(Misto(disk, NejblizsiSlozka(disk, slozka), "Místo na výsledky"));
     const fs::path denik = disk.Skutecna(cesty.Vysledky + std::string(JMENO_DENIKU));
     if (disk.JeSoubor(denik)) nalezy.push_back(Zamek(disk, denik));
+    Pokusy(disk, slozka / UkladaniPokusu::SLOZKA, cesty.Pokusy, nalezy);
     nalezy.push_back(Fronta_(disk, stroj.SlozkaStavu));
 }
 

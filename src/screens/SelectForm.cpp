@@ -56,7 +56,8 @@ Cinnost<> SelectForm::Start() {
     {
         const Obrazovky::Zavreni zavreni(s_.Okna());
         zprava = co_await s_.Vysledky().ZkusCekajici();
-        if (s_.PokusyUkladat) PridejOdstavec(zprava, s_.Pokusy().ZkusCekajici(s_.Stroj.Nyni()));
+        if (s_.PokusyUkladat)
+            PridejOdstavec(zprava, co_await s_.Pokusy().ZkusCekajici(s_.Stroj.Nyni()));
         // What came while the lock was waited for is not for the message.
         co_await Cekani::SVstupem(0);
     }

@@ -25,8 +25,9 @@ Ukladani& Sezeni::Vysledky() {
 
 UkladaniPokusu& Sezeni::Pokusy() {
     if (!pokusy_) {
-        pokusy_ = std::make_unique<UkladaniPokusu>(Disk(), NativniCesta(CestaVysledku),
-                                                   Stroj.SlozkaStavu());
+        pokusy_ = std::make_unique<UkladaniPokusu>(
+            Disk(), [this] { return Stroj.TickCount(); }, NativniCesta(CestaVysledku),
+            Stroj.SlozkaStavu());
     }
     return *pokusy_;
 }

@@ -51,9 +51,6 @@ bool NeniTam(Disk& disk, const fs::path& soubor) {
     }
 }
 
-/// Between two questions, ms.
-constexpr std::uint32_t KROK_CEKANI = 20;
-
 constexpr const char* ULOZEN_STRANOU =
     "Je uložen stranou a zapíše se s příštím výsledkem nebo při příštím spuštění programu.";
 
@@ -67,8 +64,7 @@ std::string JenVPameti(const std::string& proc) {
 
 Ukladani::Ukladani(Disk& disk, std::function<std::uint32_t()> ted, const fs::path& koren,
                    fs::path slozkaStavu)
-    : disk_(disk),
-      ted_(std::move(ted)),
+    : UkladaniNaDisk(disk, std::move(ted)),
       koren_(disk.Jednoznacna(koren)),
       slozkaStavu_(std::move(slozkaStavu)) {}
 
@@ -104,14 +100,6 @@ Cinnost<> Ukladani::PockejNaZamek(std::shared_ptr<Soubor> soubor, fs::path cesta
     while (!soubor->Zamkni()) {
         if (ted_() - od_ + KROK_CEKANI > NEJDELE_NA_ZAMEK)
             throw ChybaDisku(Pricina::Zamceno, cesta);
-        co_await Cekani::SVstupem(KROK_CEKANI);
-    }
-}
-
-Cinnost<> Ukladani::PockejNaUchovani(fs::path cesta) {
-    const std::uint32_t od = ted_();
-    while (!disk_.Uchovano()) {
-        if (ted_() - od + KROK_CEKANI > NEJDELE_NA_UCHOVANI) throw ChybaDisku(Pricina::Jina, cesta);
         co_await Cekani::SVstupem(KROK_CEKANI);
     }
 }

@@ -13,6 +13,7 @@
 #include "base/Disk.h"
 #include "store/Fronta.h"
 #include "store/TabulkaVysledku.h"
+#include "store/UkladaniNaDisk.h"
 #include "store/Vysledek.h"
 
 namespace rysovna {
@@ -29,7 +30,7 @@ constexpr std::string_view JMENO_DENIKU = "Vysledky.dat";
 ///
 /// For a lock of another program, and for a disk that answers later, it waits: one call at a time,
 /// while nothing happens to the screens.
-class Ukladani : public SmiCekat {
+class Ukladani : public UkladaniNaDisk {
 public:
     /// What became of a result.
     struct Ulozeni {
@@ -39,8 +40,6 @@ public:
 
     /// How long locks are waited for in one call, all of them together, ms.
     static constexpr std::uint32_t NEJDELE_NA_ZAMEK = 3000;
-    /// How long a disk that answers later is waited for after each of log and table, ms.
-    static constexpr std::uint32_t NEJDELE_NA_UCHOVANI = 10'000;
 
     /// ted: tick count, ms. koren: the folder of results. slozkaStavu: the account's state folder;
     /// may be empty.
@@ -72,8 +71,6 @@ private:
     /// Asks once at least. ChybaDisku (Zamceno, that names the file) if another program keeps the
     /// lock for too long.
     Cinnost<> PockejNaZamek(std::shared_ptr<Soubor> soubor, std::filesystem::path cesta);
-    /// Until the disk has kept what was written; ChybaDisku (that names the file) if it did not.
-    Cinnost<> PockejNaUchovani(std::filesystem::path cesta);
     void Zarad(Rozvrh& rozvrh, std::vector<std::filesystem::path>& nove);
     void Prevezmi(Rozvrh& rozvrh);
     void Stahni(Rozvrh& rozvrh, const std::vector<std::filesystem::path>& nove);
@@ -84,8 +81,6 @@ private:
     void Poznamenej(CekajiciVysledek& v, Fronta* fronta);
     [[nodiscard]] std::filesystem::path Cesta(std::string_view jmeno) const;
 
-    Disk& disk_;
-    std::function<std::uint32_t()> ted_;
     std::filesystem::path koren_, slozkaStavu_;
     std::vector<CekajiciVysledek> cekaji_;
     std::uint32_t od_ = 0;   ///< since when locks are waited for, all of them together

@@ -16,7 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view PRIPONA_NOVEHO = ".novy";  // of a file that is being written
 constexpr const char* JMENO_ZNAMKY = "pokusy-ohlaseny";
 constexpr std::string_view KOREN = "koren=";  // the first line in the queue: where it belongs
 
@@ -70,10 +69,21 @@ bool JeOpusteny(Soubor& soubor, bool dnesni) {
     }
 }
 
+std::string BezPripony(const std::string& jmeno) {
+    return jmeno.substr(0, jmeno.size() - UkladaniPokusu::PRIPONA.size());
+}
+
+/// An attempt without its last line, which says whether it was finished.
+std::string_view BezKonce(std::string_view text) {
+    const std::size_t radek = text.rfind('\n', text.size() - 2);
+    return text.substr(0, radek == std::string_view::npos ? 0 : radek + 1);
+}
+
 }  // namespace
 
-UkladaniPokusu::UkladaniPokusu(Disk& disk, const fs::path& koren, const fs::path& slozkaStavu)
-    : disk_(disk),
+UkladaniPokusu::UkladaniPokusu(Disk& disk, std::function<std::uint32_t()> ted,
+                               const fs::path& koren, const fs::path& slozkaStavu)
+    : UkladaniNaDisk(disk, std::move(ted)),
       koren_(disk.Jednoznacna(koren)),
       fronta_(slozkaStavu.empty() ? fs::path() : Fronta::Slozka(slozkaStavu)) {}
 
@@ -83,78 +93,120 @@ fs::path UkladaniPokusu::Znamka() const {
 
 void UkladaniPokusu::Zacni(const Pokus& pokus) {
     const DatumACas& d = pokus.Zacatek;
-    jmeno_ = Den(d) + "-" + DveCislice(d.Hodina) + DveCislice(d.Minuta) + "-" +
-             DveCislice(pokus.CisloUlohy) + "-" + Nahodne() + std::string(PRIPONA);
-    text_ = ZacatekPokusu(pokus);
-    cisloUlohy_ = pokus.CisloUlohy;
-    neco_ = false;
-    rozepsany_.reset();
+    serie_ = {.Jmeno = Den(d) + "-" + DveCislice(d.Hodina) + DveCislice(d.Minuta) + "-" +
+                       DveCislice(pokus.CisloUlohy) + "-" + Nahodne() + std::string(PRIPONA),
+              .Text = ZacatekPokusu(pokus),
+              .CisloUlohy = pokus.CisloUlohy};
 }
 
 void UkladaniPokusu::Pridej(const HranyPriklad& priklad) {
-    if (jmeno_.empty()) return;
-    text_ += TextPrikladu(priklad, cisloUlohy_);
-    neco_ = neco_ || !priklad.Udalosti.empty();
-    Rozepis();
+    if (serie_.Jmeno.empty()) return;
+    serie_.Text += TextPrikladu(priklad, serie_.CisloUlohy);
+    serie_.Neco = serie_.Neco || !priklad.Udalosti.empty();
+    if (serie_.Neco) static_cast<void>(Rozepis(serie_));
 }
 
 /// Writes the series as far as it is known into the queue. What cannot be put there is kept in
-/// memory alone.
-void UkladaniPokusu::Rozepis() {
-    if (fronta_.empty() || !neco_) return;
+/// memory alone: false.
+bool UkladaniPokusu::Rozepis(Serie& serie) {
+    if (fronta_.empty()) return false;
     const std::string hlavicka = std::string(KOREN) + NaRadek(koren_.string()) + "\n";
     try {
-        if (!rozepsany_) {
+        if (!serie.Rozepsany) {
             disk_.ZalozSlozku(fronta_);
-            rozepsany_ = disk_.NovySoubor(fronta_ / jmeno_);
-            static_cast<void>(JeOpusteny(*rozepsany_, true));
+            serie.Rozepsany = disk_.NovySoubor(fronta_ / serie.Jmeno);
+            static_cast<void>(JeOpusteny(*serie.Rozepsany, true));
         }
         // The whole attempt lies in memory, so what is written of it has a size there too.
-        const auto delka = static_cast<std::size_t>(rozepsany_->Delka());
-        const std::string cele = hlavicka + text_;
-        if (delka < cele.size()) rozepsany_->Pis(delka, std::string_view(cele).substr(delka));
+        const auto delka = static_cast<std::size_t>(serie.Rozepsany->Delka());
+        const std::string cele = hlavicka + serie.Text;
+        if (delka < cele.size()) serie.Rozepsany->Pis(delka, std::string_view(cele).substr(delka));
+        return true;
     } catch (const std::exception&) {
         // The next example tries it again, from where this one came to.
+        return false;
     }
 }
 
-std::string UkladaniPokusu::Dokonci(bool dokonceny, bool smiRici) {
-    if (jmeno_.empty()) return {};
-    const std::string jmeno = std::exchange(jmeno_, {});
-    if (!neco_) return {};
-    text_ += KonecPokusu(dokonceny);
-    std::string zprava;
+/// It is stored: out of the queue.
+void UkladaniPokusu::Stahni(Serie& serie) {
+    if (std::exchange(serie.Rozepsany, nullptr) != nullptr)
+        OdstranPotichu(disk_, fronta_ / serie.Jmeno);
+    ZapomenOznameni();
+}
+
+Cinnost<std::string> UkladaniPokusu::Dokonci(bool dokonceny) {
+    Serie serie = std::exchange(serie_, {});
+    if (serie.Jmeno.empty() || !serie.Neco) co_return {};
+    serie.Text += KonecPokusu(dokonceny);
+    std::string proc;
     try {
-        UlozSoubor(jmeno, text_);
-        const bool vRade = std::exchange(rozepsany_, nullptr) != nullptr;
-        if (vRade) OdstranPotichu(disk_, fronta_ / jmeno);
-        ZapomenOznameni();
+        UlozSoubor(serie.Jmeno, serie.Text);
+        co_await PockejNaUchovani(koren_ / SLOZKA / serie.Jmeno);
+        Stahni(serie);
+        co_return {};
     } catch (const std::exception& chyba) {
-        jmeno_ = jmeno;
-        Rozepis();
-        jmeno_.clear();
-        const bool ceka = rozepsany_ != nullptr;
-        rozepsany_.reset();
-        if (smiRici) zprava = Oznam(chyba.what(), ceka);
+        proc = chyba.what();
     }
-    text_.clear();
-    return zprava;
+    const bool ceka = Rozepis(serie);
+    co_return Oznam(proc, ceka);
 }
 
-/// Whole or not at all: beside its name first, then under it. A name that is there is this very
-/// attempt, stored before the program was killed.
+void UkladaniPokusu::Opust() {
+    Serie serie = std::exchange(serie_, {});
+    if (serie.Jmeno.empty() || !serie.Neco) return;
+    serie.Text += KonecPokusu(false);
+    try {
+        UlozSoubor(serie.Jmeno, serie.Text);
+        // What is not kept yet stays in the queue too; the next start finds it in both.
+        if (disk_.Uchovano()) Stahni(serie);
+    } catch (const std::exception&) {
+        static_cast<void>(Rozepis(serie));
+    }
+}
+
+void UkladaniPokusu::Prevezmi(const std::string& jmeno, std::string_view text) {
+    UlozSoubor(jmeno, text);
+}
+
+/// Whether a file is this very attempt, stored before the program was killed, maybe with another
+/// end.
+bool UkladaniPokusu::JeUlozen(const fs::path& cesta, std::string_view text) {
+    return disk_.JeSoubor(cesta) &&
+           disk_.Otevri(cesta, Disk::Jak::Cteni)->Cti().starts_with(BezKonce(text));
+}
+
+/// False if the name is another attempt's.
+bool UkladaniPokusu::DejJmeno(const fs::path& novy, const fs::path& cil, std::string_view text) {
+    try {
+        disk_.Prejmenuj(novy, cil);
+        return true;
+    } catch (const ChybaDisku& chyba) {
+        // Some servers have done it and say so when they are asked for the second time.
+        if (chyba.Proc() != Pricina::UzJe) throw;
+        if (!JeUlozen(cil, text)) return false;
+    }
+    OdstranPotichu(disk_, novy);
+    return true;
+}
+
+/// Whole or not at all.
 void UkladaniPokusu::UlozSoubor(const std::string& jmeno, std::string_view text) {
+    constexpr int NEJVIC_JMEN = 8;  // a disk on which all names are taken is none
     const fs::path slozka = koren_ / SLOZKA;
     if (!disk_.JeSlozka(slozka)) disk_.ZalozPodslozku(slozka);
-    const fs::path cil = slozka / jmeno;
-    if (disk_.JeSoubor(cil)) return;
+    if (JeUlozen(slozka / jmeno, text)) return;
     const fs::path novy = slozka / (jmeno + std::string(PRIPONA_NOVEHO));
     std::unique_ptr<Soubor> soubor = NovyCisty(disk_, novy);
     try {
         soubor->Pis(0, text);
         soubor->NaDisk();
         soubor.reset();  // not everywhere can an open file be given another name
-        disk_.Nahrad(novy, cil);
+        fs::path cil = slozka / jmeno;
+        for (int i = 0; !DejJmeno(novy, cil, text); ++i) {
+            if (i == NEJVIC_JMEN) throw ChybaDisku(Pricina::UzJe, cil);
+            cil = slozka / (BezPripony(jmeno) + "-" + Nahodne() + std::string(PRIPONA));
+        }
     } catch (const ChybaDisku&) {
         soubor.reset();
         OdstranPotichu(disk_, novy);
@@ -189,36 +241,41 @@ void UkladaniPokusu::ZapomenOznameni() {
 
 /// One that cannot be read as what it should be stays where it is as long as it may be in the
 /// making.
-void UkladaniPokusu::UlozCekajici(const std::string& jmeno, const std::string& dnes) {
+Cinnost<> UkladaniPokusu::UlozCekajici(std::string jmeno, std::string dnes) {
     const fs::path cesta = fronta_ / jmeno;
     std::unique_ptr<Soubor> soubor = disk_.Otevri(cesta, Disk::Jak::Zapis);
     const bool dnesni = jmeno >= dnes;
-    if (!JeOpusteny(*soubor, dnesni)) return;
+    if (!JeOpusteny(*soubor, dnesni)) co_return;
     std::string text = soubor->Cti();
     text.erase(text.rfind('\n') + 1);  // half a line counts for nothing
     const std::string hlavicka = std::string(KOREN) + NaRadek(koren_.string()) + "\n";
     if (text.starts_with(hlavicka)) {
         text.erase(0, hlavicka.size());
         if (!MaKonec(text)) text += KonecPokusu(false);
-        if (CtiPokus(text).Co) UlozSoubor(jmeno, text);
+        if (CtiPokus(text).Co) {
+            UlozSoubor(jmeno, text);
+            co_await PockejNaUchovani(koren_ / SLOZKA / jmeno);
+        }
     } else if (text.starts_with(KOREN) || dnesni) {
-        return;  // it belongs elsewhere
+        co_return;  // it belongs elsewhere
     }
     soubor.reset();
     disk_.Odstran(cesta);
 }
 
-std::string UkladaniPokusu::ZkusCekajici(const DatumACas& dnes) {
+Cinnost<std::string> UkladaniPokusu::ZkusCekajici(DatumACas dnes) {
+    std::string proc;
     try {
-        if (fronta_.empty() || !disk_.JeSlozka(fronta_)) return {};
+        if (fronta_.empty() || !disk_.JeSlozka(fronta_)) co_return {};
         for (const std::string& jmeno : disk_.Jmena(fronta_)) {
-            if (jmeno.ends_with(PRIPONA)) UlozCekajici(jmeno, Den(dnes));
+            if (jmeno.ends_with(PRIPONA)) co_await UlozCekajici(jmeno, Den(dnes));
         }
         ZapomenOznameni();
-        return {};
+        co_return {};
     } catch (const std::exception& chyba) {
-        return Oznam(chyba.what(), true);
+        proc = chyba.what();
     }
+    co_return Oznam(proc, true);
 }
 
 }  // namespace rysovna

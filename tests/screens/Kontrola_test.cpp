@@ -5,10 +5,12 @@
 #include "platform/Cesta.h"
 #include "platform/Host.h"
 #include "podpora/SouboryPomoc.h"
+#include "podpora/UkladaniHned.h"
 #include "screens/KontrolaPocitace.h"
 #include "screens/Spolecne.h"
 #include "store/Cesty.h"
 #include "store/Fronta.h"
+#include "store/TextPokusu.h"
 #include "store/Ukladani.h"
 
 namespace rysovna::testy {
@@ -51,10 +53,10 @@ protected:
 TEST_F(KontrolaHodiny, VseVPoradkuAKazdaVadaSvymJmenem) {
     const std::vector<Nalez> dobre = ZkontrolujPocitac(Stroj_());
     EXPECT_EQ(Vady(dobre), "");
-    EXPECT_EQ(dobre.size(), 11U);
+    EXPECT_EQ(dobre.size(), 12U);
     std::ostringstream vypis;
     EXPECT_EQ(VypisKontrolu(vypis, dobre), 0);
-    EXPECT_EQ(std::ranges::count(vypis.str(), '\n'), 12);
+    EXPECT_EQ(std::ranges::count(vypis.str(), '\n'), 13);
 
     // Another folder of assets, the same files but for a few.
     const fs::path spravne =
@@ -123,6 +125,19 @@ TEST_F(KontrolaHodiny, Vysledky) {
         EXPECT_EQ(VadyVysledku(), stranou + "/zamek: drží jej jiný program\n");
     }
     fs::remove_all(fronta);
+    fs::create_directory(Cesta("Pokusy"));
+    const std::string pokus = TextPokusu(SerieZaka());
+    Pis("Pokusy/dobry.pokus", pokus);
+    Pis("Pokusy/rozepsany.pokus.novy", pokus.substr(0, 9));
+    EXPECT_EQ(VadyVysledku(), "");
+    Pis("Pokusy/cizi.txt", "cizí");
+    Pis("Pokusy/useknuty.pokus", pokus.substr(0, pokus.size() - 4));
+    EXPECT_EQ(VadyVysledku(),
+              "? Záznam pokusu: Pokusy/cizi.txt: Soubor není záznam pokusu.\n"
+              "? Záznam pokusu: Pokusy/useknuty.pokus: Záznam pokusu není celý: končí řádkem 15.\n"
+              "? Záznamy pokusů: Pokusy: souborů: 4, z toho vadných 2\n");
+    EXPECT_EQ(Cti("Pokusy/useknuty.pokus") + " ne\n", pokus);
+    fs::remove_all(Cesta("Pokusy"));
     // Nothing is made, not even what the game would make.
     Ini("VYSLEDKY=ucet");
     EXPECT_EQ(VadyVysledku(), "");

@@ -12,6 +12,7 @@
 
 #include "platform/Stroj.h"
 #include "podpora/PravaUctu.h"
+#include "podpora/UkladaniHned.h"
 #include "store/Fronta.h"
 #include "store/TextPokusu.h"
 
@@ -72,9 +73,21 @@ public:
         P.Dalsi(co);
         return std::make_unique<VadnySoubor>(DiskStroje::NovySoubor(co), P);
     }
-    void Nahrad(const fs::path& novy, const fs::path& stary) override {
-        P.Dalsi(stary);
-        DiskStroje::Nahrad(novy, stary);
+    std::function<void(const fs::path&)> PredPrejmenovanim = [](const fs::path&) {};
+    void Prejmenuj(const fs::path& soubor, const fs::path& jmeno) override {
+        P.Dalsi(jmeno);
+        PredPrejmenovanim(jmeno);
+        DiskStroje::Prejmenuj(soubor, jmeno);
+    }
+    /// Kept at the third question only, or refused at that.
+    bool Pozdni = false, Odmita = false;
+    std::function<void()> PriOtazce = [] {};
+    bool Uchovano() override {
+        PriOtazce();
+        if (!Pozdni) return true;
+        if (++otazek_ % 3 != 0) return false;
+        if (Odmita) throw ChybaDisku(Pricina::Plno, "uloziste");
+        return true;
     }
     void Odstran(const fs::path& co) override {
         P.Dalsi(co);
@@ -84,6 +97,9 @@ public:
         P.Dalsi(co);
         DiskStroje::ZalozPodslozku(co);
     }
+
+private:
+    int otazek_ = 0;
 };
 
 class UkladaniPokusuTest : public ::testing::Test {
@@ -94,23 +110,14 @@ protected:
     }
     ~UkladaniPokusuTest() override { fs::remove_all(slozka); }
 
-    /// A series of two examples, the second one left half done.
-    static Pokus Serie() {
-        HranyPriklad p;
-        p.Zadani.Zaznam.Druh = "1";
-        p.Udalosti.push_back({.Co = {.Co = Volani::Druh::Nastroj, .Kdy = 5, .Cislo = 1}});
-        HranyPriklad druhy = p;
-        p.Konec = {.Bodu = 10, .Hotova = true};
-        return {.Program = "1.0",
-                .Jmeno = "Eva",
-                .CisloUlohy = 1,
-                .Zacatek = DNES,
-                .PrikladuSerie = 2,
-                .Priklady = {p, druhy}};
+    [[nodiscard]] UkladaniPokusuHned Nove(const char* kam = "vysledky") {
+        return {disk,
+                {[this] { return ted; }, [this](std::uint32_t ms) { ted += ms; }},
+                slozka / kam,
+                slozka / "stav"};
     }
-    [[nodiscard]] UkladaniPokusu Nove() { return {disk, slozka / "vysledky", slozka / "stav"}; }
-    std::string Odehraj(UkladaniPokusu& u, bool dokonceny = true) {
-        const Pokus serie = Serie();
+    std::string Odehraj(UkladaniPokusuHned& u, bool dokonceny = true) {
+        const Pokus serie = SerieZaka();
         u.Zacni(serie);
         for (const HranyPriklad& p : serie.Priklady) u.Pridej(p);
         return u.Dokonci(dokonceny);
@@ -132,26 +139,27 @@ protected:
 
     static constexpr DatumACas DNES{2026, 11, 22, 17, 5}, ZITRA{2026, 11, 23, 8, 0};
     fs::path slozka;
+    std::uint32_t ted = 0;
     VadnyDisk disk;
 };
 
 TEST_F(UkladaniPokusuTest, SeriePoSeriiKazdaSvujSoubor) {
     fs::permissions(slozka / "vysledky", fs::perms(0770));
-    UkladaniPokusu ukladani = Nove();
+    UkladaniPokusuHned ukladani = Nove();
     EXPECT_EQ(Odehraj(ukladani), "");
     EXPECT_EQ(Odehraj(ukladani, false), "");
-    Pokus jen = Serie();
+    Pokus jen = SerieZaka();
     for (HranyPriklad& p : jen.Priklady) p.Udalosti.clear();
     ukladani.Zacni(jen);  // nothing was done
     ukladani.Pridej(jen.Priklady[0]);
     EXPECT_EQ(ukladani.Dokonci(false), "");
     EXPECT_EQ(ukladani.Dokonci(true), "");
-    Pokus cely = Serie();
+    Pokus cely = SerieZaka();
     cely.Dokonceny = true;
     std::vector<Pokus> pokusy = Ulozene();
     ASSERT_EQ(pokusy.size(), 2U);
     std::ranges::sort(pokusy, {}, &Pokus::Dokonceny);
-    EXPECT_EQ(pokusy[0], Serie());
+    EXPECT_EQ(pokusy[0], SerieZaka());
     EXPECT_EQ(pokusy[1], cely);
     EXPECT_TRUE(Soubory("stav/fronta").empty());
     EXPECT_EQ(Soubory("vysledky/Pokusy")[0].substr(0, 17), "20261122-1705-01-");
@@ -172,7 +180,7 @@ TEST_F(UkladaniPokusuTest, ZadnaPoruchaNicNezkazi) {
             fs::remove_all(slozka / "vysledky/Pokusy");
             disk.P = {.Kolikata = n, .Naporad = naporad};
             {
-                UkladaniPokusu ukladani = Nove();
+                UkladaniPokusuHned ukladani = Nove();
                 const std::string zprava = Odehraj(ukladani);
                 volani = std::max(volani, disk.P.Volani);
                 EXPECT_TRUE(!zprava.empty() || Ulozene().size() == 1);
@@ -180,13 +188,13 @@ TEST_F(UkladaniPokusuTest, ZadnaPoruchaNicNezkazi) {
                 EXPECT_TRUE(!naporad || zprava.empty() || Odehraj(ukladani).empty());
             }
             disk.P = {};
-            UkladaniPokusu znovu = Nove();
+            UkladaniPokusuHned znovu = Nove();
             const bool vRade = !Soubory("stav/fronta").empty();
             EXPECT_EQ(znovu.ZkusCekajici(ZITRA), "");
             const std::vector<Pokus> pokusy = Ulozene();
             EXPECT_LE(pokusy.size(), naporad ? 2U : 1U);
             EXPECT_TRUE(!(vRade || !naporad) || !pokusy.empty());
-            for (const Pokus& p : pokusy) EXPECT_EQ(p.Priklady[0], Serie().Priklady[0]);
+            for (const Pokus& p : pokusy) EXPECT_EQ(p.Priklady[0], SerieZaka().Priklady[0]);
             EXPECT_TRUE(Soubory("stav/fronta").empty());
         }
         EXPECT_GE(volani, 5);
@@ -195,30 +203,66 @@ TEST_F(UkladaniPokusuTest, ZadnaPoruchaNicNezkazi) {
 
 TEST_F(UkladaniPokusuTest, ZabitaSerieSeNajdeAzKdyzJiNikdoNehraje) {
     {
-        UkladaniPokusu hrajici = Nove();
-        hrajici.Zacni(Serie());
-        hrajici.Pridej(Serie().Priklady[0]);
+        UkladaniPokusuHned hrajici = Nove();
+        hrajici.Zacni(SerieZaka());
+        hrajici.Pridej(SerieZaka().Priklady[0]);
         ASSERT_EQ(Soubory("stav/fronta").size(), 1U);
         EXPECT_EQ(Nove().ZkusCekajici(ZITRA), "");
         EXPECT_TRUE(Ulozene().empty());
     }
     // Of another folder of results: not here.
     fs::create_directories(slozka / "jine");
-    EXPECT_EQ(UkladaniPokusu(disk, slozka / "jine", slozka / "stav").ZkusCekajici(ZITRA), "");
+    EXPECT_EQ(Nove("jine").ZkusCekajici(ZITRA), "");
     EXPECT_EQ(Soubory("stav/fronta").size(), 1U);
     EXPECT_EQ(Nove().ZkusCekajici(ZITRA), "");
     const std::vector<Pokus> pokusy = Ulozene();
     ASSERT_EQ(pokusy.size(), 1U);
     EXPECT_FALSE(pokusy[0].Dokonceny);
-    EXPECT_EQ(pokusy[0].Priklady, std::vector{Serie().Priklady[0]});
+    EXPECT_EQ(pokusy[0].Priklady, std::vector{SerieZaka().Priklady[0]});
     EXPECT_TRUE(Soubory("stav/fronta").empty());
+}
+
+/// A name is never taken from a file that has it, whatever is in that; and what a disk that answers
+/// later has not kept is in the queue, whether somebody waits for it or not.
+TEST_F(UkladaniPokusuTest, NicCiziNezmeniANicNevydaZaUlozene) {
+    UkladaniPokusuHned ukladani = Nove();
+    std::vector<fs::path> cizi;
+    disk.PredPrejmenovanim = [&](const fs::path& jmeno) {
+        if (cizi.size() == 2) return;
+        cizi.push_back(jmeno);
+        disk.NovySoubor(jmeno)->Pis(0, cizi.size() == 1 ? "" : "cizí");
+    };
+    EXPECT_EQ(Odehraj(ukladani), "");
+    ASSERT_EQ(cizi.size(), 2U);
+    EXPECT_EQ(fs::file_size(cizi[0]), 0U);
+    EXPECT_EQ(disk.Otevri(cizi[1], Disk::Jak::Cteni)->Cti(), "cizí");
+    for (const fs::path& c : cizi) fs::remove(c);
+    EXPECT_EQ(Ulozene().size(), 1U);
+
+    disk.Pozdni = true;
+    std::size_t vRade = 1;
+    disk.PriOtazce = [&] { EXPECT_EQ(Soubory("stav/fronta").size(), vRade); };
+    EXPECT_EQ(Odehraj(ukladani), "");
+    EXPECT_TRUE(Soubory("stav/fronta").empty());
+    disk.Odmita = true;
+    EXPECT_NE(Odehraj(ukladani).find("uložen stranou"), std::string::npos);
+    disk.Odmita = false;
+    vRade = 3;  // with the note that it was told
+    ukladani.Zacni(SerieZaka());
+    ukladani.Pridej(SerieZaka().Priklady[0]);
+    ukladani.Opust();
+    EXPECT_EQ(Soubory("stav/fronta").size(), vRade);
+    disk.PriOtazce = [] {};
+    EXPECT_EQ(Nove().ZkusCekajici(ZITRA), "");
+    EXPECT_TRUE(Soubory("stav/fronta").empty());
+    EXPECT_EQ(Ulozene().size(), 4U);
 }
 
 /// A file stands where the folder should be.
 TEST_F(UkladaniPokusuTest, KamNelzePsatSeRekneJednouADoplniSe) {
     static_cast<void>(disk.NovySoubor(slozka / "vysledky/Pokusy"));
     {
-        UkladaniPokusu ukladani = Nove();
+        UkladaniPokusuHned ukladani = Nove();
         const std::string zprava = Odehraj(ukladani);
         EXPECT_TRUE(zprava.starts_with("Záznam pokusu se nepodařilo uložit: ")) << zprava;
         EXPECT_NE(zprava.find("uložen stranou"), std::string::npos);

@@ -165,6 +165,15 @@ int rename(const char* odkud, const char* kam) noexcept {
     return Proved<&::rename>(nullptr, "rename", odkud, kam);
 }
 
+int renameat2(int odkudSlozka, const char* odkud, int kamSlozka, const char* kam,
+              unsigned jak) noexcept {
+    return Proved<&::renameat2>(nullptr, "renameat2", odkudSlozka, odkud, kamSlozka, kam, jak);
+}
+
+int link(const char* odkud, const char* kam) noexcept {
+    return Proved<&::link>(nullptr, "link", odkud, kam);
+}
+
 int unlink(const char* cesta) noexcept {
     return Proved<&::unlink>(nullptr, "unlink", cesta);
 }

@@ -129,6 +129,12 @@ void WebDisk::Nahrad(const fs::path& novy, const fs::path& stary) {
     Zmenen(novy);
 }
 
+/// No other program sees the files: a look before tells enough.
+void WebDisk::Prejmenuj(const fs::path& soubor, const fs::path& jmeno) {
+    if (JeSoubor(jmeno)) throw ChybaDisku(Pricina::UzJe, jmeno);
+    Nahrad(soubor, jmeno);
+}
+
 void WebDisk::Odstran(const fs::path& soubor) {
     PosixDisk::Odstran(soubor);
     Zmenen(soubor);

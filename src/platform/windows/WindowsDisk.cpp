@@ -369,6 +369,13 @@ void WindowsDisk::Nahrad(const fs::path& novy, const fs::path& stary) {
     if (!Znovu(vymen, true)) SelhalaVymena(stary);
 }
 
+void WindowsDisk::Prejmenuj(const fs::path& soubor, const fs::path& jmeno) {
+    const auto dej = [&] {
+        return MoveFileExW(soubor.c_str(), jmeno.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+    };
+    if (!Znovu(dej, false)) Selhal(jmeno);
+}
+
 void WindowsDisk::Odstran(const fs::path& soubor) {
     if (!Znovu([&] { return DeleteFileW(soubor.c_str()) != 0; }, true)) Selhal(soubor);
 }
