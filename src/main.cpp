@@ -6,7 +6,6 @@
 #include <span>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/Host.h"
@@ -14,6 +13,7 @@
 #include "platform/Stroj.h"
 #include "platform/sdl/SdlHost.h"
 #include "platform/sdl/Zvuk.h"
+#include "rules/Ulohy.h"
 #include "screens/Desky.h"
 #include "screens/KontrolaPocitace.h"
 #include "screens/Start.h"
@@ -26,15 +26,48 @@ constexpr int STAV_POUZITI = 3;
 
 constexpr const char* NENI_OBRAZOVKA = "Není k dispozici žádná obrazovka.";
 
-/// False if they are no arguments of the program.
-bool CtiArgumenty(std::span<const std::string> argumenty, std::optional<std::uint32_t>& seminko) {
-    if (argumenty.size() != 2 || argumenty[0] != "--seminko") return false;
-    const std::string_view text = argumenty[1];
-    std::uint32_t cislo = 0;
+constexpr const char* POUZITI =
+    "Použití: rysovna [--seminko ČÍSLO]\n"
+    "         rysovna --prehraj SOUBOR\n"
+    "         rysovna --predved ÚLOHA [--seminko ČÍSLO]\n"
+    "         rysovna --kontrola | --help\n"
+    "Se semínkem vylosuje hra při každém spuštění stejné příklady. --prehraj přehraje uložený "
+    "pokus žáka, --predved předvede konstrukci úlohy 1 až 20 (semínko vybírá příklad); nic se "
+    "přitom nezapisuje. Kontrola prohlédne počítač před hodinou a hru nespustí.\n";
+
+/// What the program is to do, by its arguments.
+struct Prikaz {
+    enum class Co { Hra, Prehrani, Predvedeni, Kontrola, Napoveda } Druh = Co::Hra;
+    std::optional<std::uint32_t> Seminko{};
+    std::string Soubor{};
+    int Uloha = 0;
+};
+
+template <class T>
+std::optional<T> Cislo(const std::string& text) {
+    T cislo = 0;
     const auto [konec, chyba] = std::from_chars(text.data(), text.data() + text.size(), cislo);
-    if (chyba != std::errc() || konec != text.data() + text.size()) return false;
-    seminko = cislo;
-    return true;
+    if (chyba != std::errc() || konec != text.data() + text.size()) return std::nullopt;
+    return cislo;
+}
+
+/// Nothing if they are no arguments of the program.
+std::optional<Prikaz> CtiArgumenty(std::span<const std::string> a) {
+    using Co = Prikaz::Co;
+    Prikaz p;
+    if (a.size() == 1 && a[0] == "--kontrola") return Prikaz{.Druh = Co::Kontrola};
+    if (a.size() == 1 && a[0] == "--help") return Prikaz{.Druh = Co::Napoveda};
+    if (a.size() == 2 && a[0] == "--prehraj") return Prikaz{.Druh = Co::Prehrani, .Soubor = a[1]};
+    if (a.size() >= 2 && a[0] == "--predved") {
+        p.Druh = Co::Predvedeni;
+        p.Uloha = Cislo<int>(a[1]).value_or(0);
+        if (rysovna::NajdiUlohu(p.Uloha) == nullptr) return std::nullopt;
+        a = a.subspan(2);
+    }
+    if (a.empty()) return p;
+    if (a.size() != 2 || a[0] != "--seminko") return std::nullopt;
+    p.Seminko = Cislo<std::uint32_t>(a[1]);
+    return p.Seminko ? std::optional(p) : std::nullopt;
 }
 
 void VypisChybu(const std::exception& chyba) {
@@ -75,11 +108,31 @@ int Zkontroluj() {
                            .Zvuk = [&] { return host ? host->OverZvuk() : Zvuk().Over(); }}));
 }
 
-int Hraj(rysovna::SdlHost& host) {
+/// Begins what the window is to show. False: it cannot, and that was told.
+bool Zacni(rysovna::SdlHost& host, rysovna::Sezeni& sezeni, const Prikaz& prikaz) {
+    using namespace rysovna;
+    if (prikaz.Druh == Prikaz::Co::Hra) {
+        Zacni(sezeni);
+        return true;
+    }
+    const std::string proc =
+        prikaz.Druh == Prikaz::Co::Prehrani
+            ? ZacniPrehravani(sezeni, CestaZTextu(prikaz.Soubor))
+            : ZacniPredvedeni(sezeni, prikaz.Uloha, prikaz.Seminko.value_or(0));
+    if (proc.empty()) {
+        host.Proved(PrepniObrazovku(sezeni));
+        return true;
+    }
+    std::cerr << "Rysovna: " << proc << '\n';
+    host.Proved(host.MsgBox(proc, "Chyba", Styl::Stop));
+    return false;
+}
+
+int Hraj(rysovna::SdlHost& host, const Prikaz& prikaz) {
     using namespace rysovna;
     Sezeni sezeni(host, VyrobDesku);
     try {
-        Zacni(sezeni);
+        if (!Zacni(host, sezeni, prikaz)) return STAV_CHYBA;
         while (!host.Okna().JeKonec()) host.Obrat(Smycka::BEZ_LHUTY);
         host.Okna().UnloadVse();
         return host.Okna().StavKonce();
@@ -92,23 +145,24 @@ int Hraj(rysovna::SdlHost& host) {
 }  // namespace
 
 int main(int pocet, char** slova) {
-    std::optional<std::uint32_t> seminko;
     const std::vector<std::string> argumenty = rysovna::Argumenty(pocet, slova);
-    const bool kontrola = argumenty.size() == 1 && argumenty[0] == "--kontrola";
-    if (!argumenty.empty() && !kontrola && !CtiArgumenty(argumenty, seminko)) {
-        std::cerr << "Použití: rysovna [--seminko ČÍSLO | --kontrola]\n"
-                     "Se semínkem vylosuje hra při každém spuštění stejné příklady. Kontrola "
-                     "prohlédne počítač před hodinou a hru nespustí.\n";
+    const std::optional<Prikaz> prikaz = CtiArgumenty(argumenty);
+    if (!prikaz) {
+        std::cerr << POUZITI;
         return STAV_POUZITI;
     }
+    if (prikaz->Druh == Prikaz::Co::Napoveda) {
+        std::cout << POUZITI;
+        return 0;
+    }
     try {
-        if (kontrola) return Zkontroluj();
+        if (prikaz->Druh == Prikaz::Co::Kontrola) return Zkontroluj();
         if (!rysovna::SdlHost::MaDisplej()) {
             std::cerr << NENI_OBRAZOVKA << '\n';
             return STAV_BEZ_OBRAZOVKY;
         }
-        rysovna::SdlHost host(seminko);
-        return Hraj(host);
+        rysovna::SdlHost host(prikaz->Seminko);
+        return Hraj(host, *prikaz);
     } catch (const std::exception& chyba) {
         VypisChybu(chyba);
         return STAV_CHYBA;

@@ -23,6 +23,13 @@ struct UkazatelKlaves {
     bool Kriz = false;  ///< that place is shown by a cross
 };
 
+/// A mouse that a form shows, as if somebody moved it: its tip, design px, and whether it is
+/// pressed.
+struct PromitanaMys {
+    Bod Hrot;
+    bool Stisknuta = false;
+};
+
 /// The answer to a key: none if it was not used, else what is still to be done.
 using Odezva = std::optional<Cinnost<>>;
 
@@ -41,7 +48,7 @@ public:
     std::string Caption;
     int Left = 0, Top = 0, Width = NAVRH_SIRKA, Height = NAVRH_VYSKA;  ///< design pixels
     bool Maximised = false;
-    Barva BackColor = CERNA;
+    Barva BackColor = CERNA;  ///< BEZ_BARVY: where it has no picture, what lies below is seen
     Obrazek Picture;
     bool StiskVzdy = false;  ///< a press on it counts even if it was made in a closed wait
 
@@ -100,6 +107,8 @@ public:
     [[nodiscard]] virtual Kurzor KurzorNad(const Ovladac* o, float x, float y) const;
     /// The point that a press would catch where the pointer is, design px.
     [[nodiscard]] virtual std::optional<Bod> Zachytne() const { return std::nullopt; }
+    /// The mouse that is shown over this screen and all that lies below it.
+    [[nodiscard]] virtual std::optional<PromitanaMys> CiziMys() const { return std::nullopt; }
     /// What is asked of the person now, for a machine that says it aloud; empty: nothing.
     [[nodiscard]] virtual std::string CoSeRika() const { return {}; }
     /// The window is being closed from outside. The shell's root screen asks its exit question.

@@ -161,13 +161,14 @@ Obdelnik DosahTvaru(const Ovladac& o) {
 }
 
 void NamalujForm(const Kresba& k, const Form& form, const Obdelnik& kde) {
-    if (form.Picture.Width() < form.Width || form.Picture.Height() < form.Height)
+    const bool presahuje = form.Picture.Width() < form.Width || form.Picture.Height() < form.Height;
+    if (presahuje && form.BackColor != BEZ_BARVY)
         k.Cil.Vypln(Prunik(k.NaCil(kde), k.Orez), DoPixelu(form.BackColor));
     NamalujObrazek(k, kde, form.Picture);
 }
 
 bool Kryje(const Form& form) {
-    return KryjePodklad(form.Picture, form.Width, form.Height, true);
+    return KryjePodklad(form.Picture, form.Width, form.Height, form.BackColor != BEZ_BARVY);
 }
 
 bool Kryje(const Umisteny& u) {

@@ -31,6 +31,11 @@ constexpr int PLNOST_STISKU = 2;  // px, of the frame of what is pressed
 constexpr int ROH_PODLOZKY = 6;   // px
 constexpr int VYSKA_SIPKY = 8;    // px, of an arrow from its base to its tip
 constexpr std::string_view HOTOVO = "hotovo";
+constexpr int POLOMER_STISKU = 11;  // px, of the ring around the tip of a mouse that is pressed
+/// The outline of the mouse that is shown, px from its tip.
+constexpr std::pair<double, double> OBRYS_MYSI[] = {{0, 0},     {0, 19},   {4.5, 15}, {7.5, 22},
+                                                    {11, 20.5}, {8, 13.7}, {14, 13.7}};
+constexpr int DOSAH_MYSI = 26;  // px from its tip, with its edge
 
 /// What the ring goes round, kept on the design area.
 Obdelnik RamPrstenu(const Obdelnik& o) {
@@ -84,6 +89,23 @@ void NamalujKriz(const Kresba& k, Bod hrot) {
     }
 }
 
+void NamalujMys(const Kresba& k, Bod hrot, bool stisknuta) {
+    const double sx = k.X0 + (hrot.X + 0.5) * k.S;
+    const double sy = k.Y0 + (hrot.Y + 0.5) * k.S;
+    if (stisknuta) {
+        for (const auto& [barva, sirka] : {std::pair{BILA, 5}, std::pair{BARVA_PRSTENU, 3}}) {
+            const Tah tah(k, barva, sirka);
+            cairo_arc(tah.Kde(), sx, sy, POLOMER_STISKU * k.S, 0, 2 * PI);
+        }
+    }
+    for (const auto& [barva, sirka] : {std::pair{BILA, 4}, std::pair{BARVA_OHLASU, 1}}) {
+        const Tah tah(k, barva, sirka);
+        for (const auto& [x, y] : OBRYS_MYSI) cairo_line_to(tah.Kde(), sx + x * k.S, sy + y * k.S);
+        cairo_close_path(tah.Kde());
+        tah.Vyplnit(stisknuta ? BARVA_PRSTENU : BARVA_OHLASU);
+    }
+}
+
 void NamalujPodlozku(const Kresba& k, Bod roh) {
     constexpr int POLE = Podlozka::POLE;
     const auto x = [&](double n) { return k.X0 + (roh.X + n) * k.S; };
@@ -120,6 +142,9 @@ void NamalujPodlozku(const Kresba& k, Bod roh) {
 
 Obdelnik DosahOhlasu(const Obrazovky::Ohlas& o) {
     using Druh = Obrazovky::Ohlas::Druh;
+    if (o.Co == Druh::Mys || o.Co == Druh::MysDolu) {
+        return {o.Kde.Left - DOSAH_MYSI, o.Kde.Top - DOSAH_MYSI, 2 * DOSAH_MYSI, 2 * DOSAH_MYSI};
+    }
     if (o.Co != Druh::Zachytne && o.Co != Druh::Konec) return o.Kde;
     constexpr int OKRAJ = std::max(POLOMER_ZACHYTNEHO, RAMENO_KRIZE) + LEM_PRSTENU;
     return {o.Kde.Left - OKRAJ, o.Kde.Top - OKRAJ, o.Kde.Width + 2 * OKRAJ,
@@ -136,6 +161,9 @@ void NamalujOhlas(const Kresba& k, const Obrazovky::Ohlas& o) {
             return Zachytne(k, {o.Kde.Left, o.Kde.Top});
         case Obrazovky::Ohlas::Druh::Konec:
             return NamalujKriz(k, {o.Kde.Left, o.Kde.Top});
+        case Obrazovky::Ohlas::Druh::Mys:
+        case Obrazovky::Ohlas::Druh::MysDolu:
+            return NamalujMys(k, {o.Kde.Left, o.Kde.Top}, o.Co == Obrazovky::Ohlas::Druh::MysDolu);
         case Obrazovky::Ohlas::Druh::Podlozka:
             return NamalujPodlozku(k, {o.Kde.Left, o.Kde.Top});
     }

@@ -143,6 +143,8 @@ public:
             Zachytne,   ///< a ring around the point that a press would catch
             Podlozka,   ///< the pad of a drag that a finger has left
             Konec,      ///< a cross: where that drag ends so far
+            Mys,        ///< an arrow: the mouse of whoever is watched
+            MysDolu,    ///< the same, pressed
         };
         Druh Co;
         Obdelnik Kde;

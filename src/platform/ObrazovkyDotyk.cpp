@@ -205,6 +205,10 @@ std::vector<Obrazovky::Ohlas> Obrazovky::OhlasyVpredu() const {
     std::vector<Ohlas> ohlasy;
     const Formular form = v.Cilovy();
     if (form == nullptr) return ohlasy;
+    if (const std::optional<PromitanaMys> mys = form->CiziMys()) {
+        ohlasy.push_back({mys->Stisknuta ? Ohlas::Druh::MysDolu : Ohlas::Druh::Mys,
+                          {mys->Hrot.X, mys->Hrot.Y, 1, 1}});
+    }
     if (v.Zvednuty() != nullptr) {
         const auto& [roh] = v.Zvednuty_->Pad;
         const Bod konec = v.Zvednuty_->Konec;

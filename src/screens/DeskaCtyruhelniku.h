@@ -18,6 +18,9 @@ public:
     void Change(TextBox& t) override;
 
 protected:
+    [[nodiscard]] const TextBox& Pole(int ktery) const override {
+        return ktery == 2 ? txtVstup2 : ktery == 3 ? txtVstup3 : txtVstup;
+    }
     void UkazDalsi(const Panel& panel) override;
 };
 

@@ -164,7 +164,7 @@ void DeskaForm::Load() {
     }
     PrizpusobForm(s_, *this);
     VPImage.Font.Velikost = PISMO_PANELU;
-    PicRada.Visible = s_.RadyUkazovat;
+    PicRada.Visible = s_.RadyUkazovat && !promita_;
     lblText2.Font.Tucne = true;
     NactiObrazky();
     HidenPic.Width = Pic.Width;
@@ -173,6 +173,11 @@ void DeskaForm::Load() {
     HidenPic.Plocha().Font = HidenPic.Font;
     Pic.Plocha().Svatozar = HidenPic.Plocha().Svatozar = true;
 
+    if (!promita_) ZacniSerii();
+}
+
+/// The examples of the task, and the first one set.
+void DeskaForm::ZacniSerii() {
     s_.SmazTabulky();
     s_.KladneBody = s_.ZaporneBody = 0;
     zbyvaPrikladu_ = s_.PocetPrikladuSerie;

@@ -12,6 +12,7 @@
 
 #include "platform/Obrazovky.h"
 #include "rules/Dialog.h"
+#include "rules/Pokus.h"
 #include "rules/Rada.h"
 #include "screens/FormHry.h"
 #include "screens/Hover.h"
@@ -106,7 +107,7 @@ public:
     /// The prompt and the guide line.
     [[nodiscard]] std::string CoSeRika() const override;
 
-    /// The dialogue of this board; made by Load.
+    /// The dialogue that this board shows: its own, made by Load, or the driven one.
     [[nodiscard]] const Dialog& Dialogem() const;
     /// Examples of the series still to be played, this one included.
     [[nodiscard]] int ZbyvaPrikladu() const { return zbyvaPrikladu_; }
@@ -118,7 +119,29 @@ public:
     /// Something is being handled while a wait runs: the guide keeps its words until it is done.
     [[nodiscard]] bool JeUprostred() const;
 
+    // A board that is only looked at: somebody else drives the dialogue that it shows.
+
+    /// To be told before it is loaded: no series begins on it, and nothing of it is kept.
+    void BudePromitat() { promita_ = true; }
+    [[nodiscard]] Platna PlatnaDesky() { return {Pic.Plocha(), HidenPic.Plocha()}; }
+    /// How the driven dialogue stands, as far as it does not say so itself.
+    struct Promitane {
+        int Danych = 0;                   ///< objects that the example began with
+        bool NacrtVysunuty = true;        ///< the panel with the sketch
+        int Nastroj = 0;                  ///< place of the tool pressed last; 0: none
+        std::optional<bool> Bezchybny{};  ///< of an example that was checked
+    };
+    /// Shows a dialogue that draws on this board's planes, and outlives the next such call.
+    void Promitni(const Dialog& dialog, const Promitane& jak);
+    /// Where on the design area a call of the shown dialogue is made; none where it has no place.
+    [[nodiscard]] std::optional<Bod> MistoVolani(const Volani& volani) const;
+    /// The rubber band with the pointer here, on the design area, and the button held; none: it
+    /// goes.
+    void PromitniTah(const std::optional<Bod>& ukazatel);
+
 protected:
+    /// The box for value ktery, from 1.
+    [[nodiscard]] virtual const TextBox& Pole(int /*ktery*/) const { return txtVstup; }
     /// Shows what a board's panel has beyond the common controls.
     virtual void UkazDalsi(const Panel& /*panel*/) {}
     void Ukaz();
@@ -133,6 +156,7 @@ private:
     // DeskaForm.cpp: making and loading
     void RozlozOvladace();
     void NactiObrazky();
+    void ZacniSerii();
     // DeskaUdalosti.cpp: events
     void StiskNastroje(const PictureBox& tlacitko, const Mys& m);
     Cinnost<> VyberRadku(int i);
@@ -194,7 +218,9 @@ private:
     const RadekDesky deska_;
     std::unique_ptr<Dialog> dialog_;
     NahravanyDialog* nahravany_ = nullptr;  ///< the same, where it is written down
-    std::size_t ulozenychPrikladu_ = 0;     ///< of the attempt
+    const Dialog* promitany_ = nullptr;     ///< in its place on a board that is only looked at
+    bool promita_ = false;
+    std::size_t ulozenychPrikladu_ = 0;  ///< of the attempt
     bool pokusTrva_ = false;
     Hover hover_{s_};  ///< 1 to 4 PicTop, 5 to 8 picSipka
     std::array<DvojiceObrazku, 4> horni_, sipky_;

@@ -46,7 +46,8 @@ void DeskaForm::KresliNacrt() {
         p.Font = std::ranges::find(PISMA_NACRTU, napis, &PismoNapisu::Napis)->Font;
         return napis == NapisNacrtu::Uhel ? PismenoUhlu(text) : std::string(text);
     };
-    KresliPrvkyNacrtu(SamplePic.Plocha(), dialog_->NacrtPrikladu(), dialog_->ZnackyNacrtu(), pismo);
+    KresliPrvkyNacrtu(SamplePic.Plocha(), Dialogem().NacrtPrikladu(), Dialogem().ZnackyNacrtu(),
+                      pismo);
 }
 
 /// Puts the panel together in a work picture of the menu: its picture, the heading, the sketch.

@@ -89,7 +89,7 @@ std::string DeskaForm::PismenoUhlu(std::string_view nazev) {
 }
 
 void DeskaForm::Ukaz() {
-    const Panel p = dialog_->UkazPanel();
+    const Panel p = Dialogem().UkazPanel();
     UkazNastroje(p.Nastroje);
     Label1.Caption = p.Uvod;
     lblText1.Caption = p.Vyzva;

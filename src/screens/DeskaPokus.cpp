@@ -27,6 +27,7 @@ void DeskaForm::ZacniPokus() {
 }
 
 const Dialog& DeskaForm::Dialogem() const {
+    if (promitany_ != nullptr) return *promitany_;
     return nahravany_ != nullptr ? nahravany_->Hrany() : *dialog_;
 }
 

@@ -72,8 +72,8 @@ PrvekVNacrtu DeskaForm::PrvekPodPrstenem() const {
     const auto prsten = s_.Okna().PrstenVpredu();
     if (!prsten || prsten->Co != &SamplePic) return {};
     const Bod b = Ukazatel(SamplePic).Hrot;
-    return dialog_->VidetPrvek(
-        dialog_->PrvekNacrtu(static_cast<float>(b.X), static_cast<float>(b.Y)));
+    return Dialogem().VidetPrvek(
+        Dialogem().PrvekNacrtu(static_cast<float>(b.X), static_cast<float>(b.Y)));
 }
 
 void DeskaForm::ObnovRadu() {
@@ -83,7 +83,7 @@ void DeskaForm::ObnovRadu() {
                   : ImgHodnoceni.Visible ? Doba::PoKontrole
                                          : Doba::Hraje;
     videne_.NacrtVysunuty = Image1.Tag == "1";
-    videne_.Narysovano = s_.PocetUtvaru > danych_;
+    videne_.Narysovano = Dialogem().Pamet().PocetUtvaru > danych_;
     videne_.PodPrstenem = PrvekPodPrstenem();
     const Rada r = UrciRadu(videne_);
     const CimSeHraje cim = s_.Okna().HrajeSe();

@@ -147,10 +147,6 @@ std::string JakKreslit(const Gesto& g) {
     return {};
 }
 
-std::string Bodu(int n) {
-    return TextBezMezery(n) + (n == 1 ? " bod" : n >= 2 && n <= 4 ? " body" : " bodů");
-}
-
 /// What to keep in mind while drawing.
 std::string_view CoPritom(const Rada& r, CimSeHraje cim) {
     const bool bod = r.Kresleni.Druh == Tvar::Bod;
@@ -184,22 +180,29 @@ struct Uhel {
 constexpr Uhel UHLY[] = {{"alfa", "α"}, {"beta", "β"}, {"gama", "γ"}, {"delta", "δ"}};
 
 RadkyRady OPrvku(const PrvekVNacrtu& p) {
-    const auto* u = std::ranges::find(UHLY, std::string_view(p.Jmeno), &Uhel::Jmeno);
-    return {std::string(p.Oznaceny ? ZRUSI_ZNACKU : OZNACI) +
-                (u == std::end(UHLY) ? p.Jmeno : std::string(u->Pismeno)),
+    return {std::string(p.Oznaceny ? ZRUSI_ZNACKU : OZNACI) + PismenoPrvku(p.Jmeno),
             std::string(DALSI_PRVEK)};
 }
 
 RadkyRady OVysledku(const VysledekPrikladu& v) {
     const auto cislo = [](int n) { return TextBezMezery(n); };
     std::string prvni = "Příklad " + cislo(v.Poradi) + " z " + cislo(v.Prikladu) + ": " +
-                        Bodu(v.Bodu) + " z " + cislo(BODU_ZA_PRIKLAD) +
-                        ". Série zatím: " + Bodu(v.BoduSerie) + " z " +
+                        TextBodu(v.Bodu) + " z " + cislo(BODU_ZA_PRIKLAD) +
+                        ". Série zatím: " + TextBodu(v.BoduSerie) + " z " +
                         cislo(BODU_ZA_PRIKLAD * v.Poradi) + ".";
     return {std::move(prvni), std::string(v.Bezchybny ? BEZ_CHYBY : UKAZ_CHYBY)};
 }
 
 }  // namespace
+
+std::string PismenoPrvku(const std::string& jmeno) {
+    const auto* u = std::ranges::find(UHLY, std::string_view(jmeno), &Uhel::Jmeno);
+    return u == std::end(UHLY) ? jmeno : std::string(u->Pismeno);
+}
+
+std::string TextBodu(int n) {
+    return TextBezMezery(n) + (n == 1 ? " bod" : n >= 2 && n <= 4 ? " body" : " bodů");
+}
 
 RadkyRady RadaCesky(const Rada& r, CimSeHraje cim) {
     switch (r.Druh) {

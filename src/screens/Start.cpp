@@ -3,13 +3,18 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <string>
+#include <utility>
 
+#include "base/Cisla.h"
 #include "platform/Cesta.h"
 #include "platform/Surface.h"
+#include "screens/PrehravaniForm.h"
 #include "screens/SelectForm.h"
 #include "store/Cesty.h"
 #include "store/Soubory.h"
+#include "store/TextPokusu.h"
 
 namespace rysovna {
 namespace {
@@ -22,6 +27,8 @@ constexpr const char* NELZE_PREPNOUT =
     "Aplikace proto nepoběží přes celou obrazovku.";
 constexpr const char* NELZE_OBNOVIT =
     "Nastala chyba při obnovení původního nastavení obrazovky. Změňte nastavení manuálně.";
+
+constexpr std::size_t NEJVETSI_POKUS = 1U << 24;  // bytes; a usual one has 20 thousand
 
 constexpr RezimObrazovky REZIM_HRY{.Sirka = 640, .Vyska = 480, .Barvy = 16};
 
@@ -62,14 +69,8 @@ bool ZalozVysledky(Sezeni& s) {
     return true;
 }
 
-}  // namespace
-
-void Zacni(Sezeni& s) {
-    const auto menu = s.Okna().Nacti<SelectForm>(s);
-    s.Okna().Spust(*menu, menu->Start());
-}
-
-std::string NactiKonfiguraci(Sezeni& s) {
+/// Where things are, by Rysovna.ini; oddelene: results have a folder of their own.
+std::string NactiMista(Sezeni& s, bool& oddelene) {
     Host& stroj = s.Stroj;
     std::string adresar = stroj.WindowsDirectory();
     std::erase(adresar, '\0');
@@ -80,6 +81,7 @@ std::string NactiKonfiguraci(Sezeni& s) {
     s.CestaCD = cesty.CD;
     s.CestaHD = cesty.HD;
     s.CestaVysledku = cesty.Vysledky;
+    oddelene = cesty.Oddelene;
     s.RadyUkazovat = cesty.Rady;
     s.PokusyUkladat = cesty.Pokusy;
     if (cesty.Seminko) stroj.VychoziSeminko(*cesty.Seminko);
@@ -91,7 +93,42 @@ std::string NactiKonfiguraci(Sezeni& s) {
                        " není klíč " + (s.CestaCD.empty() ? "CD" : "HD"));
         return CHYBI_INI;
     }
-    const bool zalozeno = !cesty.Oddelene || ZalozVysledky(s);
+    return {};
+}
+
+/// Reads the configuration and the attempt, and begins to show it. soubor: gives its path by then.
+std::string ZacniUkazovat(Sezeni& s, const std::function<std::filesystem::path()>& soubor,
+                          Tempo tempo, const std::function<void(Pokus&)>& uprav = {}) {
+    bool oddelene = false;
+    if (std::string chybi = NactiMista(s, oddelene); !chybi.empty()) return chybi;
+    const std::filesystem::path odkud = soubor();
+    const std::string kde = "Soubor " + odkud.string() + ": ";
+    std::string text;
+    try {
+        text = s.Disk().Otevri(odkud, Disk::Jak::Cteni)->Cti(0, NEJVETSI_POKUS);
+    } catch (const ChybaDisku& chyba) {
+        return kde + "nejde přečíst (" + std::string(TextPriciny(chyba.Proc())) + ").";
+    }
+    PrectenyPokus precteny = CtiPokus(text);
+    if (!precteny.Co) return kde + precteny.Vada;
+    if (uprav) uprav(*precteny.Co);
+    s.Okna().Nacti<SelectForm>(s);
+    const std::string proc =
+        Prehraj(s, std::move(*precteny.Co), tempo, [&okna = s.Okna()] { okna.Konec(); });
+    return proc.empty() ? proc : kde + proc;
+}
+
+}  // namespace
+
+void Zacni(Sezeni& s) {
+    const auto menu = s.Okna().Nacti<SelectForm>(s);
+    s.Okna().Spust(*menu, menu->Start());
+}
+
+std::string NactiKonfiguraci(Sezeni& s) {
+    bool oddelene = false;
+    if (std::string chybi = NactiMista(s, oddelene); !chybi.empty()) return chybi;
+    const bool zalozeno = !oddelene || ZalozVysledky(s);
     const auto jeVDatech = [&s](const std::string& jmeno) { return JeTu(s, s.CestaHD + jmeno); };
     const auto jeVeVysledcich = [&s](const std::string& jmeno) {
         return JeTu(s, s.CestaVysledku + jmeno);
@@ -99,10 +136,26 @@ std::string NactiKonfiguraci(Sezeni& s) {
     if (!zalozeno || !std::ranges::all_of(JmenaDat(), jeVDatech) ||
         !std::ranges::all_of(JmenaVysledku(), jeVeVysledcich))
         return CHYBI_DATA;
-    NactiZnamky(s, stroj.Disk(), s.CestaHD + "Znamky.dat");
+    NactiZnamky(s, s.Disk(), s.CestaHD + "Znamky.dat");
     s.Vety = [&s](int cislo) { return CtiVety(s.Disk(), s.CestaHD + "Errors.dat", cislo); };
-    s.Generator.Zasej(stroj.Seminko());
+    s.Generator.Zasej(s.Stroj.Seminko());
     return {};
+}
+
+std::string ZacniPrehravani(Sezeni& s, const std::filesystem::path& soubor) {
+    return ZacniUkazovat(
+        s, [&] { return soubor; }, Tempo::Zaka);
+}
+
+std::string ZacniPredvedeni(Sezeni& s, int uloha, std::uint32_t seminko) {
+    const auto soubor = [&] {
+        return NativniCesta(s.CestaCD + "Predvedeni\\" + DveCislice(uloha) + ".pokus");
+    };
+    return ZacniUkazovat(s, soubor, Tempo::Vyklad, [seminko](Pokus& p) {
+        auto& priklady = p.Priklady;
+        if (!priklady.empty()) priklady = {priklady[seminko % priklady.size()]};
+        p.PrikladuSerie = 1;
+    });
 }
 
 Cinnost<Odpoved> PrepniObrazovku(Sezeni& s) {

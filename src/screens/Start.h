@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <filesystem>
 #include <string>
 
 #include "screens/Sezeni.h"
@@ -16,6 +18,14 @@ void Zacni(Sezeni& s);
 /// touched; empty if all is there. The font folder is set as soon as the asset root is known, so
 /// that the message can be printed.
 [[nodiscard]] std::string NactiKonfiguraci(Sezeni& s);
+
+/// In place of the game an attempt from a file is watched; the process is to end with it. Nothing
+/// is written anywhere. Gives what is to be told where it cannot be watched; the process must end
+/// then.
+[[nodiscard]] std::string ZacniPrehravani(Sezeni& s, const std::filesystem::path& soubor);
+/// The same of a task constructed without a fault, as a teacher would show it: one of the examples
+/// that the program brings, by the seed.
+[[nodiscard]] std::string ZacniPredvedeni(Sezeni& s, int uloha, std::uint32_t seminko);
 
 /// Remembers the screen mode and switches to 640 by 480 by 16 bits. A screen that cannot be
 /// switched gets a warning, and the program goes on in a window.

@@ -21,6 +21,7 @@
 #include "podpora/Stul.h"
 #include "rules/NahravanyDialog.h"
 #include "rules/Pokus.h"
+#include "rules/Prehravani.h"
 #include "rules/Prehravka.h"
 #include "rules/Ulohy.h"
 #include "screens/Start.h"
@@ -201,6 +202,58 @@ TEST_P(Pokusy, PrehrajeSeJakSeHral) {
         EXPECT_EQ(prehravka.Priklad(), priklady.size());
     }
     EXPECT_GE(uctovano.size(), 2U) << "the careless pupil was too good to say anything";
+}
+
+/// Watched, an attempt is at each step what it was on the way forward, from wherever one comes.
+TEST_P(Pokusy, KamkoliSePrejdeJeToTotez) {
+    for (const bool dokonale : {true, false}) {
+        std::vector<Stav> konce;
+        const Pokus pokus = *CtiPokus(Hrac(GetParam(), 11).Odehraj(2, dokonale, konce)).Co;
+        Platna_ platna;
+        Prehravani p(pokus, {platna.Pic, platna.HidenPic}, Tempo::Zaka);
+        std::size_t udalosti = 0, chyb = 0, chybNaPasu = 0;
+        for (const HranyPriklad& h : pokus.Priklady) {
+            udalosti += h.Udalosti.size() + 1;
+            for (const Udalost& u : h.Udalosti) chyb += u.Chyby.empty() ? 0 : 1;
+        }
+        for (const KrokPrehravani& k : p.Kroky()) chybNaPasu += k.Chyba ? 1 : 0;
+        ASSERT_EQ(p.Kroky().size(), udalosti);
+        EXPECT_EQ(chybNaPasu, chyb);
+        const auto stav = [&] { return Stav(p.Hrany().Pamet(), platna.Pic, platna.HidenPic); };
+        std::vector<Stav> stavy;
+        std::vector<Panel> panely, predtim;
+        for (std::size_t k = 0; k < udalosti; ++k) {
+            p.NaKrok(k);
+            stavy.push_back(stav());
+            panely.push_back(p.Hrany().UkazPanel());
+            predtim.push_back(p.Predtim());
+            EXPECT_LE(k == 0 ? 0 : p.Kroky()[k - 1].Kdy, p.Kroky()[k].Kdy);
+        }
+        EXPECT_TRUE(stavy.back().StejnyJako(konce.back()));
+        std::mt19937 los(5);
+        for (int i = 0; i < 12 && !HasFailure(); ++i) {
+            const std::size_t k = 1 + los() % (udalosti - 1);
+            std::size_t ceka = k;
+            switch (los() % 3) {
+                case 0:
+                    p.NaKrok(k);
+                    break;
+                case 1:
+                    p.NaKrok(k);
+                    p.Zpet();
+                    ceka = k - 1;
+                    break;
+                default:
+                    p.NaCas(p.Kroky()[k].Kdy + 1);
+                    while (ceka + 1 < udalosti && p.Kroky()[ceka + 1].Kdy <= p.Kroky()[k].Kdy + 1)
+                        ++ceka;
+            }
+            ASSERT_EQ(p.Krok(), ceka);
+            EXPECT_TRUE(stav().StejnyJako(stavy[ceka])) << ceka;
+            EXPECT_EQ(p.Hrany().UkazPanel(), panely[ceka]) << ceka;
+            EXPECT_TRUE(ceka == 0 || p.Predtim() == predtim[ceka]) << ceka;
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Uloh, Pokusy, testing::Range(1, 21),

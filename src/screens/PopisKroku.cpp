@@ -1,0 +1,112 @@
+#include "screens/PopisKroku.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "screens/RadaCesky.h"
+
+namespace rysovna {
+
+namespace {
+
+/// What stands on the button of a tool, and whether it takes a tool in hand.
+constexpr struct {
+    Nastroj Co;
+    std::string_view Jmeno;
+    bool Tlacitko = false;
+} NASTROJE[] = {
+    {Nastroj::Usecka, "úsečka"},
+    {Nastroj::Primka, "přímka"},
+    {Nastroj::Poloprimka, "polopřímka"},
+    {Nastroj::Kolmice, "kolmice"},
+    {Nastroj::Rovnobezka, "rovnoběžka"},
+    {Nastroj::Kruznice, "kružnice"},
+    {Nastroj::Stred, "střed"},
+    {Nastroj::Osa, "osa"},
+    {Nastroj::Prusecik, "průsečík"},
+    {Nastroj::Trojuhelnik, "trojúhelník"},
+    {Nastroj::StredSoumernosti, "střed souměrnosti"},
+    {Nastroj::Obraz, "obraz bodu"},
+    {Nastroj::Veta, "podle věty", true},
+    {Nastroj::Sestroj, "sestroj", true},
+    {Nastroj::Zpet, "zpět o krok", true},
+};
+
+constexpr std::string_view ZAVORKA = ") ";
+
+std::string JmenoNastroje(const Volani& v, const Panel& p) {
+    if (v.Cislo < 1 || v.Cislo > static_cast<int>(p.Nastroje.size())) return {};
+    const MistoNastroje& misto = p.Nastroje[static_cast<std::size_t>(v.Cislo - 1)];
+    const auto* n = std::ranges::find_if(NASTROJE, [&](const auto& r) { return r.Co == misto.Co; });
+    if (n == std::end(NASTROJE)) return {};
+    return n->Tlacitko ? "Tlačítko „" + std::string(n->Jmeno) + "“"
+                       : "Nástroj: " + std::string(n->Jmeno);
+}
+
+std::string TextVeliciny(const Velicina& v, const std::string& hodnota) {
+    std::string text = v.Nazev;
+    if (hodnota.empty()) {
+        // A name that leads to a value that is not there.
+        while (text.ends_with(' ') || text.ends_with('=')) text.pop_back();
+        return text;
+    }
+    if (!text.ends_with(' ')) text += ' ';
+    // "k(A, r = " and ") cm": the unit stands within the bracket here, where one reads on.
+    const bool zavorka = v.Jednotka.starts_with(ZAVORKA);
+    const std::string jednotka = zavorka ? v.Jednotka.substr(ZAVORKA.size()) : v.Jednotka;
+    return text + hodnota + (jednotka.empty() ? "" : " " + jednotka) + (zavorka ? ")" : "");
+}
+
+/// What is being drawn; nothing where no object is in hand.
+std::string Rysovane(const Panel& p) {
+    if (p.Kresleni.Druh == Gesto::Tvar::Zadny) return {};
+    if (!p.Rysovane.Nazev.empty()) return TextVeliciny(p.Rysovane, p.Rysovane.Hodnota.Text);
+    return p.Nadpis;
+}
+
+std::string Posun(Bod o) {
+    const std::string kam = o.X > 0 ? "doprava" : o.X < 0 ? "doleva" : o.Y > 0 ? "dolů" : "nahoru";
+    return "Posun celého obrázku " + kam;
+}
+
+}  // namespace
+
+std::string PopisKroku(const Volani& v, const Panel& p, const Dialog& dialog) {
+    switch (v.Co) {
+        case Volani::Druh::Nastroj:
+            return JmenoNastroje(v, p);
+        case Volani::Druh::Radek:
+            if (v.Cislo < 1 || v.Cislo > static_cast<int>(p.Vyber.Radky.size())) return {};
+            return "Volba: " + p.Vyber.Radky[static_cast<std::size_t>(v.Cislo - 1)].Text;
+        case Volani::Druh::ZavritSeznam:
+            return "Seznam se zavírá bez volby";
+        case Volani::Druh::Napsani: {
+            const auto i = static_cast<std::size_t>(v.Cislo - 1);
+            const Velicina& velicina = i < p.Veliciny.size() ? p.Veliciny[i] : p.Rysovane;
+            return "Píše se: " + TextVeliciny(velicina, v.Text);
+        }
+        case Volani::Druh::Stisk:
+        case Volani::Druh::Pusteni: {
+            const std::string co = Rysovane(p);
+            return co.empty() ? "Stisk na ploše" : "Rýsuje se: " + co;
+        }
+        case Volani::Druh::Nacrt: {
+            const std::string prvek = dialog.VidetPrvek(dialog.PrvekNacrtu(v.X, v.Y)).Jmeno;
+            return "Značka v náčrtku" + (prvek.empty() ? "" : ": " + PismenoPrvku(prvek));
+        }
+        case Volani::Druh::Posunuti:
+            return Posun(v.O);
+        case Volani::Druh::Kontrola:
+            return "Kontrola";
+    }
+    return {};
+}
+
+std::string TextDoby(std::uint32_t ms) {
+    constexpr std::uint32_t SEKUNDA = 1000, MINUTA = 60;
+    const std::uint32_t s = (ms + SEKUNDA / 2) / SEKUNDA;
+    const auto text = [](std::uint32_t n) { return std::to_string(n); };
+    return (s >= MINUTA ? text(s / MINUTA) + " min " : "") + text(s % MINUTA) + " s";
+}
+
+}  // namespace rysovna
