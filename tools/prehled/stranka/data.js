@@ -59,9 +59,8 @@ function vybraneSerie(vyber) {
 // ---- Words ----
 const SERIE_SLOVY = ["série", "série", "sérií"], ZACI_SLOVY = ["žák", "žáci", "žáků"];
 const BODY_SLOVY = ["bod", "body", "bodů"], PRIKLADY_SLOVY = ["příklad", "příklady", "příkladů"];
-function pocet(n, [jeden, dva, pet]) {
-  return `${n} ${n === 1 ? jeden : n >= 2 && n <= 4 ? dva : pet}`;
-}
+const tvar = (n, [jeden, dva, pet]) => (n === 1 ? jeden : n >= 2 && n <= 4 ? dva : pet);
+const pocet = (n, tvary) => `${n} ${tvar(n, tvary)}`;
 function datum(kdy) { // 2026-09-01T07:55
   return `${Number(kdy.slice(8, 10))}. ${Number(kdy.slice(5, 7))}. ${kdy.slice(0, 4)}`;
 }

@@ -44,13 +44,13 @@ function ukazGraf(serie, zak) {
     data: {
       labels: body.map((b) => datum(b.kdy)),
       datasets: [{
-        data: body.map((b) => b.y), borderColor: "#55648A", borderWidth: 1.5, tension: 0,
+        data: body.map((b) => b.y), borderColor: "#55648A", borderWidth: 1.5, tension: 0, clip: false,
         pointRadius: body.length > 60 ? 3 : 6, pointHoverRadius: 8,
         pointBackgroundColor: body.map((b) => b.barva), pointBorderColor: "#22335C",
       }],
     },
     options: {
-      animation: false, maintainAspectRatio: false,
+      animation: false, maintainAspectRatio: false, layout: { padding: { top: 10, right: 10 } },
       devicePixelRatio: Math.max(2, window.devicePixelRatio),
       font: { family: "Liberation Sans, Arial, sans-serif" },
       scales: {

@@ -20,10 +20,12 @@ function ukazSouhrn() {
   const znamky = vybrane.filter((s) => s.znamka > 0).map((s) => s.znamka);
   const prikladu = vybrane.reduce((n, s) => n + s.priklady.length, 0);
   const chyb = vybrane.reduce((n, s) => n + s.chyby.length, 0);
-  const udaje = [["žáků", zaku], ["sérií", vybrane.length],
-    ["dokončených", vybrane.filter((s) => s.dokoncena).length],
+  const dokoncenych = vybrane.filter((s) => s.dokoncena).length;
+  const udaje = [[tvar(zaku, ZACI_SLOVY), zaku], [tvar(vybrane.length, SERIE_SLOVY), vybrane.length],
+    [tvar(dokoncenych, ["dokončená", "dokončené", "dokončených"]), dokoncenych],
     ["průměrná známka", znamky.length ? desetinne(prumer(znamky)) : "–"],
-    ["příkladů", prikladu], ["chyb na příklad", prikladu ? desetinne(chyb / prikladu) : "–"]];
+    [tvar(prikladu, PRIKLADY_SLOVY), prikladu],
+    ["chyb na příklad", prikladu ? desetinne(chyb / prikladu) : "–"]];
   id("souhrn").replaceChildren(prvek("dl", { style: "display:contents" }, ...udaje.map(([co, kolik]) =>
     prvek("div", {}, prvek("dt", {}, co), prvek("dd", {}, String(kolik))))));
   id("vybrano").textContent = vybrane.length === SERIE.length
@@ -161,10 +163,10 @@ function ukazPokusy() {
       bunka: (s) => odkaz(s.zak.jmeno, () => zmenVyber({ zak: String(s.zak.cislo) })) },
     { klic: "uloha", nadpis: "Úloha", hodnota: (s) => s.uloha, bunka: (s) => ULOHY.get(s.uloha).nazev },
     { klic: "znamka", nadpis: "Známka", hodnota: (s) => (s.znamka === 0 ? null : s.znamka),
-      bunka: (s) => znamka(s.znamka) },
+      bunka: (s) => prvek("span", {}, znamka(s.znamka), s.dokoncena ? "" : " nedokončeno") },
     { klic: "body", nadpis: "Body", cislo: true, sestupne: true,
       hodnota: (s) => (s.nejvic ? uspesnost(s) : null),
-      bunka: (s) => `${s.bodu} z ${s.nejvic}${s.dokoncena ? "" : ", nedokončeno"}` },
+      bunka: (s) => `${s.bodu} z ${s.nejvic}` },
     { klic: "chyb", nadpis: "Chyb", cislo: true, sestupne: true, hodnota: (s) => s.chyby.length,
       bunka: (s) => String(s.chyby.length) },
     { klic: "trvani", nadpis: "Doba", cislo: true, sestupne: true, hodnota: (s) => s.trvani,
