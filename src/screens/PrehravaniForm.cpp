@@ -351,7 +351,17 @@ std::string PrehravaniForm::TextKroku() const {
 }
 
 void PrehravaniForm::UkazText() {
-    lblKrok.Caption = TextKroku();
+    VypisDalsi();
+    const std::string krok = TextKroku();
+    if (lblKrok.Caption == krok) return;
+    lblKrok.Caption = krok;
+    lblKrok.Font.Velikost = PISMO_KROKU;
+    while (lblKrok.Font.Velikost > PISMO_DAL && SirkaTextu(lblKrok.Font, krok) > lblKrok.Width)
+        lblKrok.Font.Velikost -= 1;
+}
+
+/// The second row.
+void PrehravaniForm::VypisDalsi() {
     const Uloha& uloha = *NajdiUlohu(Co().Co().CisloUlohy);
     const std::string nazev = std::string(RODINY[uloha.Rodina]) + " " + std::string(uloha.TypUlohy);
     const bool zacatek = Co().Ted().Udalost == 0 && !Ohlasen();

@@ -64,6 +64,7 @@ private:
     void Ukaz();
     void UkazDesku();
     void UkazText();
+    void VypisDalsi();
     void UkazPas();
     void UkazKartu();
     void UkazMys();

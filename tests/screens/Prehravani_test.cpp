@@ -176,6 +176,37 @@ TEST(Prehravani, KlavesamiAMysiSeDostaneVsude) {
     }
 }
 
+/// Each task, one of its examples: told step by step in words that fit, to ten points.
+TEST(Prehravani, PredvedeKazdouUlohu) {
+    const auto predved = [](int uloha, std::uint32_t seminko) {
+        Relace hra;
+        const auto predtim = Obsah(hra.DataDir().parent_path());
+        EXPECT_EQ(ZacniPredvedeni(hra.Pamet(), uloha, seminko), "");
+        const auto drzeny = hra.Host().Okna().Najdi("PrehravaniForm");
+        if (!drzeny) return ZadanyPriklad{};
+        auto& form = static_cast<PrehravaniForm&>(*drzeny);
+        const auto seVejde = [](const Label& l) {
+            EXPECT_LE(SirkaTextu(l.Font, l.Caption), l.Width) << l.Caption;
+            EXPECT_NE(l.Caption, "");
+        };
+        while (!form.Co().NaKonci()) {
+            hra.Klavesa("Right");
+            seVejde(form.lblKrok);
+            seVejde(form.lblDal);
+            EXPECT_FALSE(form.PicKarta.Visible);
+        }
+        EXPECT_FALSE(form.Co().KdeSeRozesla());
+        EXPECT_EQ(form.lblKrok.Caption, "Kontrola: 10 bodů z 10");
+        EXPECT_TRUE(form.Co().Hrany().Hotova());
+        EXPECT_EQ(Obsah(hra.DataDir().parent_path()), predtim);
+        return form.Co().Co().Priklady.at(0).Zadani;
+    };
+    for (int uloha = 1; uloha <= 20; ++uloha) {
+        SCOPED_TRACE(uloha);
+        EXPECT_NE(predved(uloha, 0), predved(uloha, 3));
+    }
+}
+
 TEST(Prehravani, CoNejdePrehratRekneJednouVetou) {
     const std::string text = PokusSChybami(1);
     const auto proc = [](const std::string& pokus) {

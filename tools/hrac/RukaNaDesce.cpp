@@ -1,5 +1,7 @@
 #include "hrac/RukaNaDesce.h"
 
+#include <utility>
+
 namespace rysovna::hrac {
 namespace {
 
@@ -40,6 +42,10 @@ std::vector<Zadano> RukaNaDesce::Zadani() const {
 }
 
 bool RukaNaDesce::StiskNacrtu(Bod misto) {
+    // A mark of another element that lies over the wanted one is taken back by a second press,
+    // which is no double click.
+    constexpr std::uint32_t PO_STISKU = 600;  // ms
+    if (std::exchange(oznaceno_, misto) == misto) relace_.Cekej(PO_STISKU);
     // Whether it hit cannot be seen from outside; the check tells in the end.
     relace_.Stiskni("SamplePic", 0, misto.X, misto.Y);
     return true;

@@ -43,6 +43,7 @@ private:
 
     Relace& relace_;
     std::optional<Los> dvojkliky_;
+    std::optional<Bod> oznaceno_;  ///< where the sketch was pressed last, px of it
 };
 
 }  // namespace rysovna::hrac

@@ -7,11 +7,10 @@
 
 namespace rysovna::hrac {
 
-void OdehrajSerii(Relace& hra, int uloha, std::string_view jmeno, int prikladu,
+void OdehrajSerii(Relace& hra, RukaNaDesce ruka, int uloha, std::string_view jmeno, int prikladu,
                   std::uint32_t seminko) {
     constexpr std::uint32_t PO_POKRACOVANI = 200, NEZ_JE_ZADANI = 1600;  // ms
     hra.SpustUlohu(uloha, jmeno, prikladu);
-    RukaNaDesce ruka(hra, seminko);
     for (int i = 1; i <= prikladu; ++i) {
         Sestroj(ruka, seminko + static_cast<std::uint32_t>(i));
         ruka.Zkontroluj();
@@ -22,6 +21,11 @@ void OdehrajSerii(Relace& hra, int uloha, std::string_view jmeno, int prikladu,
         hra.Stiskni("picPokracuj");
         hra.Cekej(i == prikladu ? PO_POKRACOVANI : NEZ_JE_ZADANI);
     }
+}
+
+void OdehrajSerii(Relace& hra, int uloha, std::string_view jmeno, int prikladu,
+                  std::uint32_t seminko) {
+    OdehrajSerii(hra, RukaNaDesce(hra, seminko), uloha, jmeno, prikladu, seminko);
 }
 
 }  // namespace rysovna::hrac

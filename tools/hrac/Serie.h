@@ -9,7 +9,10 @@
 namespace rysovna::hrac {
 
 /// From the menu: a series of a task without a fault, up to its score table. Throws if an example
-/// lost a point.
+/// lost a point. ruka: at the board.
+void OdehrajSerii(Relace& hra, RukaNaDesce ruka, int uloha, std::string_view jmeno, int prikladu,
+                  std::uint32_t seminko);
+/// The same by a hand that double-clicks now and then.
 void OdehrajSerii(Relace& hra, int uloha, std::string_view jmeno, int prikladu,
                   std::uint32_t seminko);
 

@@ -1,6 +1,7 @@
 // Plays examples without a display, through the same events as a person's, and leaves a picture of
 // each stage. Prints the lines that the log got. Or draws the board with the names of its controls,
-// or makes an attempt of a series without a fault.
+// or makes an attempt of a series without a fault, or those of all tasks that the game shows to a
+// class.
 
 #include <exception>
 #include <filesystem>
@@ -88,15 +89,34 @@ std::optional<int> CisloUlohy(const std::string& text) {
     return cislo && NajdiUlohu(*cislo) != nullptr ? cislo : std::nullopt;
 }
 
-/// A series of a task without a fault; its attempt, as the game kept it, goes to a new file.
+/// Copies the attempt that the game has kept to a new file.
+void ZkopirujPokus(const Relace& hra, const std::filesystem::path& kam) {
+    const std::filesystem::path slozka = hra.DataDir() / UkladaniPokusu::SLOZKA;
+    for (const auto& soubor : std::filesystem::directory_iterator(slozka))
+        std::filesystem::copy_file(soubor.path(), kam);
+}
+
+/// A series of a task without a fault.
 void UlozPokus(int uloha, const std::filesystem::path& kam) {
     constexpr int PRIKLADU = 2;
     Relace hra(SEMINKO);
     hra.Start();
     OdehrajSerii(hra, uloha, JMENO, PRIKLADU, SEMINKO);
-    const std::filesystem::path slozka = hra.DataDir() / UkladaniPokusu::SLOZKA;
-    for (const auto& soubor : std::filesystem::directory_iterator(slozka))
-        std::filesystem::copy_file(soubor.path(), kam);
+    ZkopirujPokus(hra, kam);
+}
+
+/// What the game shows to a class: of each task a series, by a hand that does nothing in vain.
+void UlozPredvedeni(const std::filesystem::path& slozka) {
+    constexpr int PRIKLADU = 5;
+    std::filesystem::create_directories(slozka);
+    for (const Uloha& uloha : ULOHY) {
+        Relace hra(SEMINKO);
+        hra.Start();
+        OdehrajSerii(hra, RukaNaDesce(hra), uloha.Cislo, "Předvedení", PRIKLADU, SEMINKO);
+        const std::filesystem::path kam = slozka / (DveCislice(uloha.Cislo) + ".pokus");
+        std::filesystem::remove(kam);
+        ZkopirujPokus(hra, kam);
+    }
 }
 
 }  // namespace
@@ -112,12 +132,14 @@ int main(int pocet, char** slova) {
         argumenty.erase(argumenty.begin());
     }
     const bool ovladace = !argumenty.empty() && argumenty[0] == "--ovladace";
+    const bool predvedeni = !argumenty.empty() && argumenty[0] == "--predvedeni";
     const bool pokus = !argumenty.empty() && argumenty[0] == "--pokus";
-    if (argumenty.empty() || (ovladace && argumenty.size() != 2) ||
+    if (argumenty.empty() || ((ovladace || predvedeni) && argumenty.size() != 2) ||
         (pokus && (argumenty.size() != 3 || !CisloUlohy(argumenty[1])))) {
         std::cerr << "Použití: ukazka [--klavesami | --prstem] SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
                      "         ukazka --ovladace OBRÁZEK.png\n"
                      "         ukazka --pokus ČÍSLO_ÚLOHY NOVÝ_SOUBOR\n"
+                     "         ukazka --predvedeni SLOŽKA\n"
                      "Bez čísel se hraje první úloha.\n";
         return 2;
     }
@@ -125,6 +147,10 @@ int main(int pocet, char** slova) {
         if (ovladace) {
             Relace hra(SEMINKO, cim);
             NakresliOvladace(hra, argumenty[1]);
+            return 0;
+        }
+        if (predvedeni) {
+            UlozPredvedeni(argumenty[1]);
             return 0;
         }
         if (pokus) {
