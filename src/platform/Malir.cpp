@@ -41,11 +41,12 @@ class Soupis {
 public:
     Soupis(const Obrazovky& okna, bool kurzor) : psane_(okna.Psane()), kurzor_(kurzor) {
         const auto& formy = okna.Viditelne();
-        // What stands below a form of full size cannot be seen.
+        // What stands below a form of full size that has a ground cannot be seen.
         std::size_t prvni = formy.size();
         while (prvni > 0) {
             --prvni;
-            if (Pokryva(Misto(*formy[prvni]), NAVRH)) break;
+            const Form& f = *formy[prvni];
+            if (f.BackColor != BEZ_BARVY && Pokryva(Misto(f), NAVRH)) break;
         }
         for (std::size_t i = prvni; i < formy.size(); ++i) {
             formy[i]->Paint();

@@ -9,6 +9,8 @@
 #include <string>
 
 #include "hrac/RukaNaDesce.h"
+#include "platform/Bitmapa.h"
+#include "platform/Malir.h"
 #include "screens/DeskaForm.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/Start.h"
@@ -122,6 +124,20 @@ TEST(Prehravani, KlavesamiAMysiSeDostaneVsude) {
         EXPECT_TRUE(premyslel);
         EXPECT_TRUE(divak.Co().NaKonci());
         EXPECT_FALSE(divak.Form_().Jede());
+        // The board is seen with the strip over it: its plane, which is drawn on.
+        Bitmapa obraz(NAVRH_SIRKA, NAVRH_VYSKA, 0);
+        Malir().Namaluj({obraz.Body.data(), obraz.Sirka, obraz.Vyska, obraz.Sirka},
+                        hra.Host().Okna(), 0);
+        const DeskaForm& deska = divak.Form_().Deska();
+        int jinych = 0;
+        for (int y = 0; y < deska.Pic.Height - 1; ++y) {
+            for (int x = 0; x < deska.Pic.Width; ++x) {
+                const Pixel videt = *(obraz.Pohled().Radka(deska.Pic.Top + y) + deska.Pic.Left + x);
+                const Barva ma = deska.Pic.PlochaNeboNic()->Point(x, y);
+                jinych += (videt & 0xFFFFFF) != (DoPixelu(ma) & 0xFFFFFF) ? 1 : 0;
+            }
+        }
+        EXPECT_LT(jinych, 384 * 335 / 8) << "more than the sketch, arrows and the mouse";
         // By steps back and forward again.
         const std::size_t posledni = divak.Co().Kroky().size() - 1;
         for (std::size_t k = posledni; k > posledni - 5; --k) {
