@@ -35,6 +35,7 @@ sestav_balik() (
 
     soubor usr/games/rysovna 755 <"$staging/rysovna"
     soubor usr/bin/kodovani 755 <"$staging/kodovani"
+    soubor usr/bin/prehled 755 <"$staging/prehled"
     soubor etc/rysovna/Rysovna.ini <packaging/Rysovna.ini
     soubor usr/share/rysovna/slozka-tridy 755 <"$zdroj/slozka-tridy"
     # What the game reads and no more: neither results that a copy was played with nor what an earlier
@@ -66,9 +67,18 @@ sestav_balik() (
     doplneno man/rysovna.cs.6 | gzip -9n | soubor usr/share/man/cs/man6/rysovna.6.gz
     doplneno man/kodovani.1 | gzip -9n | soubor usr/share/man/man1/kodovani.1.gz
     doplneno man/kodovani.cs.1 | gzip -9n | soubor usr/share/man/cs/man1/kodovani.1.gz
+    doplneno man/prehled.1 | gzip -9n | soubor usr/share/man/man1/prehled.1.gz
+    doplneno man/prehled.cs.1 | gzip -9n | soubor usr/share/man/cs/man1/prehled.1.gz
     gzip -9n <"$prace/debian/changelog" | soubor usr/share/doc/rysovna/changelog.gz
     # licence NAME: a font's, as a paragraph of the copyright file.
-    licence() { sed 's/[[:space:]]*$//; s/^$/./; s/^/ /' "$staging/assets/Licence/$1.txt"; }
+    # doc:PACKAGE: that of a library of Debian's, which a program holds.
+    licence() {
+        case "$1" in
+            doc:*) text="/usr/share/doc/${1#doc:}/copyright" ;;
+            *) text="$staging/assets/Licence/$1.txt" ;;
+        esac
+        sed 's/[[:space:]]*$//; s/^$/./; s/^/ /' "$text"
+    }
     while IFS= read -r radek; do
         case "$radek" in
             @*@) jmeno="${radek#@}"; licence "${jmeno%@}" ;;
@@ -82,7 +92,7 @@ sestav_balik() (
     (cd "$koren" && find usr -type f | LC_ALL=C sort | xargs -d '\n' md5sum >DEBIAN/md5sums)
     (
         cd "$prace"
-        dpkg-shlibdeps -Tdebian/substvars koren/usr/games/rysovna koren/usr/bin/kodovani
+        dpkg-shlibdeps -Tdebian/substvars koren/usr/games/rysovna koren/usr/bin/kodovani koren/usr/bin/prehled
         dpkg-gencontrol -Tdebian/substvars -Pkoren -prysovna
     )
     chmod 644 "$koren"/DEBIAN/*

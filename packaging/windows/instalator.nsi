@@ -64,7 +64,7 @@ FunctionEnd
 
 Section
     SetOutPath "$INSTDIR"
-    File "${SLOZKA}\rysovna.exe" "${SLOZKA}\kodovani.exe"
+    File "${SLOZKA}\rysovna.exe" "${SLOZKA}\kodovani.exe" "${SLOZKA}\prehled.exe"
     SetOutPath "$INSTDIR\assets"
     File /r "${SLOZKA}\assets\*"
     SetOutPath "$INSTDIR\data"
@@ -104,6 +104,7 @@ Section Uninstall
     Delete "$SMPROGRAMS\Rysovna 1.lnk"
     Delete "$INSTDIR\rysovna.exe"
     Delete "$INSTDIR\kodovani.exe"
+    Delete "$INSTDIR\prehled.exe"
     Delete "$INSTDIR\odinstalovat.exe"
     RMDir /r "$INSTDIR\assets"
     ; What is not the game's own stays, a log of results above all, and the folder with it.

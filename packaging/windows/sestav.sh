@@ -31,10 +31,14 @@ vydani_windows() {
     verze="$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)"
     rm -rf "$kam"
     mkdir -p "$slozka/data"
-    cp build/windows/staging/rysovna.exe build/windows/staging/kodovani.exe "$slozka"
+    cp build/windows/staging/rysovna.exe build/windows/staging/kodovani.exe build/windows/staging/prehled.exe \
+        "$slozka"
     cp -r "$hotove/assets" "$slozka"
     # Licences of what is linked with the program, beside those of the fonts.
     cp "$(packaging/knihovny/sestav windows)"/share/licence/* "$slozka/assets/Licence"
+    for balicek in nlohmann-json3-dev libkainjow-mustache-dev libjs-chart.js; do
+        cp "/usr/share/doc/$balicek/copyright" "$slozka/assets/Licence/$balicek.txt"
+    done
     # As it stands before anybody has played.
     for soubor in "$hotove"/data/*.dat; do
         [ "${soubor##*/}" = Vysledky.dat ] || cp "$soubor" "$slozka/data"

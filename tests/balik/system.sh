@@ -75,7 +75,7 @@ v usermod -aG trida bara
 
 oddil "instalace"
 nainstaluj "$balik"
-ucet alena 'command -v rysovna kodovani' || selhani "programy nejsou, kde se hledají"
+ucet alena 'command -v rysovna kodovani prehled' || selhani "programy nejsou, kde se hledají"
 ucet alena 'cp /usr/share/rysovna/data/01.dat . && kodovani dekoduj 01.dat 01.txt && kodovani zkontroluj 01.txt' ||
     selhani "kodovani"
 
@@ -112,7 +112,7 @@ v dpkg --verify rysovna | grep -v ' c /etc/rysovna/Rysovna.ini' && selhani "hra 
 oddil "odebrání"
 pred="$(otisk srv/rysovna home/alena/.local/share/rysovna)"
 v apt-get remove -y -qq rysovna >/dev/null 2>&1
-nikde usr/games/rysovna usr/bin/kodovani usr/share/rysovna usr/share/doc/rysovna
+nikde usr/games/rysovna usr/bin/kodovani usr/bin/prehled usr/share/rysovna usr/share/doc/rysovna
 grep -q '^VYSLEDKY=/srv/rysovna' "$koren/etc/rysovna/Rysovna.ini" || selhani "nastavení správce zmizelo"
 v apt-get purge -y -qq rysovna >/dev/null 2>&1
 nikde etc/rysovna

@@ -83,7 +83,7 @@ Rejstrik::Rejstrik(const fs::path& soubor) : db_(Otevri(soubor)) {
     Preloz([&] {
         // What is taken away is not left lying in the file.
         db_.Proved("PRAGMA secure_delete = ON; PRAGMA cache_size = -32000; BEGIN IMMEDIATE");
-        if (db_.Cislo("SELECT COUNT(*) FROM sqlite_schema") == 0) Zaloz();
+        if (db_.Cislo("SELECT COUNT(*) FROM sqlite_master") == 0) Zaloz();
         if (db_.Cislo("PRAGMA application_id") != ZNACKA)
             throw VadnyRejstrik("soubor není rejstřík přehledu");
         if (db_.Cislo("PRAGMA user_version") != VERZE) throw VadnyRejstrik("rejstřík je starší");
