@@ -1,5 +1,6 @@
 // The page: its parts, each shown of the series that are chosen.
 const NA_STRANCE = 50; // attempts shown at first, and more at a press
+const HODNE_ULOH = 12; // columns; with more of them words are left out
 const CHYB_ULOHY = 5; // of a task, unless all are wanted
 const id = (jmeno) => document.getElementById(jmeno);
 
@@ -53,7 +54,8 @@ function bunkaUlohy(radek, uloha) {
     "aria-label": `${radek.zak.jmeno}, ${ULOHY.get(uloha).nazev}: ${slovy}, ${pocet(u.serii, SERIE_SLOVY)}`,
     onclick: () => zmenVyber({ zak: String(radek.zak.cislo), uloha: String(uloha) }) },
   prvek("b", {}, u.nejlepsi === 0 ? "–" : String(u.nejlepsi)),
-  prvek("small", {}, `${u.posledni === 0 ? "" : `posl. ${u.posledni} · `}${u.serii}×`));
+  prvek("small", {}, ...(u.posledni === 0 ? [] : [prvek("span", { class: "slovo" }, "posl. "),
+    `${u.posledni} · `]), `${u.serii}×`));
 }
 
 function ukazZaky() {
@@ -86,6 +88,7 @@ function ukazZaky() {
     { klic: "prumer", nadpis: "Průměr", popis: "Průměr nejlepších známek", cislo: true,
       hodnota: (r) => r.prumer, bunka: (r) => (r.prumer === null ? "–" : desetinne(r.prumer)) },
   ];
+  id("zaci").classList.toggle("husta", hrane.length > HODNE_ULOH);
   tabulkaZaku.ukaz(tabulkaZaku.serad(radky, sloupce), sloupce);
 }
 
@@ -213,7 +216,7 @@ function ukazVse() {
   id("zrus").disabled = Object.values(vyber).every((v) => v === "");
   ukazSouhrn();
   ukazZaky();
-  ukazGraf(vybrane, vyber.zak === "" ? null : ZACI[Number(vyber.zak)]);
+  ukazGraf(vybrane, vyber.zak !== "" ? ZACI[Number(vyber.zak)] : ZACI.length === 1 ? ZACI[0] : null);
   ukazChyby();
   ukazPokusy();
 }
