@@ -42,7 +42,7 @@ endif()
 if(RYSOVNA_SANITIZE)
     # Instrumented code makes the compiler see uninitialized values in the library where none are.
     target_compile_options(prisnost INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
-        -fno-omit-frame-pointer -Wno-maybe-uninitialized)
+        -fno-omit-frame-pointer $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(prisnost INTERFACE -fsanitize=address,undefined)
 endif()
 

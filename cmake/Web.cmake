@@ -8,8 +8,13 @@ set(CMAKE_EXECUTABLE_SUFFIX .js)
 add_compile_options(-fexceptions -msimd128
     # Headers of the C++ library that this compiler has not.
     "SHELL:-isystem ${CMAKE_SOURCE_DIR}/packaging/web/nahrady")
-add_link_options(-fexceptions -sALLOW_MEMORY_GROWTH=1 -sINITIAL_MEMORY=33554432
-    -sTOTAL_STACK=1048576)
+add_link_options(-fexceptions -sALLOW_MEMORY_GROWTH=1)
+if(RYSOVNA_SANITIZE)
+    # The shadow of the whole memory lies at its beginning.
+    add_link_options(-sINITIAL_MEMORY=536870912 -sTOTAL_STACK=8388608)
+else()
+    add_link_options(-sINITIAL_MEMORY=33554432 -sTOTAL_STACK=1048576)
+endif()
 
 # A program for node, which sees the machine's own files by their own paths.
 function(pro_node program)

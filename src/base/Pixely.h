@@ -1,10 +1,11 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
+#include <utility>
 
 // Rows of pixels, whatever a pixel of the bitmap is.
 
@@ -24,36 +25,47 @@ void VyplnRadky(P* od, std::ptrdiff_t krok, int w, int h, P barva) {
     for (int y = 1; y < h; ++y) radka = std::copy_n(od, w, radka + krok) - w;
 }
 
-/// Which of so many pixels have another colour: a bit for each, the first one lowest. Weights of a
-/// table and no shifts, so that the compiler takes several pixels at once.
-template <int POCET, class P>
-std::uint32_t JineZ(const P* body, P barva) {
-    static constexpr auto VAHY = [] {
-        std::array<std::uint32_t, 32> vahy{};
-        for (unsigned i = 0; i < vahy.size(); ++i) vahy[i] = std::uint32_t{1} << i;
-        return vahy;
-    }();
-    std::uint32_t bity = 0;
-    for (std::size_t i = 0; i < POCET; ++i)
-        bity |= (body[i] == barva ? 0 : ~std::uint32_t{0}) & VAHY[i];
-    return bity;
+/// Four pixels in one register of the machine.
+using Ctverice [[gnu::vector_size(16)]] = std::int32_t;
+
+/// Which of four pixels for each I have another colour: a bit for each pixel, the first one lowest.
+/// Weights and no shifts, and no loop: as few instructions as a machine allows.
+template <class P, std::size_t... I>
+std::uint32_t JineZ(const P* body, P barva, std::index_sequence<I...>) {
+    static_assert(sizeof(P) == sizeof(std::int32_t) && sizeof...(I) <= 8);
+    const auto vaha = [](std::size_t i) {
+        return static_cast<std::int32_t>(std::uint32_t{1} << i);
+    };
+    const auto b = static_cast<std::int32_t>(barva);
+    const Ctverice hledane{b, b, b, b};
+    const auto ctverice = [&](std::size_t i) {
+        Ctverice c;
+        std::memcpy(&c, body + 4 * i, sizeof c);
+        return (c != hledane) &
+               Ctverice{vaha(4 * i), vaha(4 * i + 1), vaha(4 * i + 2), vaha(4 * i + 3)};
+    };
+    const Ctverice bity = (ctverice(I) | ...);
+    return static_cast<std::uint32_t>(bity[0] | bity[1] | bity[2] | bity[3]);
 }
 
-/// The same of up to 64 pixels. The last of its parts may overlap the one before.
+/// The same of up to 64 pixels, a block at a time; the last one may overlap the one before.
 template <class P>
 std::uint64_t Jine(const P* body, int pocet, P barva) {
     std::uint64_t bity = 0;
-    const auto po = [&]<int N>(std::integral_constant<int, N>, int od) {
-        bity |= std::uint64_t{JineZ<N>(body + od, barva)} << od;
-    };
     int i = 0;
-    for (; pocet - i >= 32; i += 32) po(std::integral_constant<int, 32>{}, i);
-    if (pocet >= 16) {
-        for (; i < pocet; i += 16) po(std::integral_constant<int, 16>{}, std::min(i, pocet - 16));
-    } else if (pocet >= 8) {
-        for (; i < pocet; i += 8) po(std::integral_constant<int, 8>{}, std::min(i, pocet - 8));
+    const auto dalsich = [&]<int N>(std::integral_constant<int, N>) {
+        bity |= std::uint64_t{JineZ(body + i, barva, std::make_index_sequence<N / 4>())} << i;
+        i += N;
+    };
+    while (pocet - i >= 32) dalsich(std::integral_constant<int, 32>{});
+    if (pocet - i >= 16) dalsich(std::integral_constant<int, 16>{});
+    if (pocet - i >= 8) dalsich(std::integral_constant<int, 8>{});
+    if (i == pocet) return bity;
+    if (pocet >= 8) {
+        i = pocet - 8;
+        dalsich(std::integral_constant<int, 8>{});
     } else {
-        for (; i < pocet; ++i) po(std::integral_constant<int, 1>{}, i);
+        for (; i < pocet; ++i) bity |= std::uint64_t{body[i] != barva} << i;
     }
     return bity;
 }
@@ -67,6 +79,8 @@ constexpr std::uint64_t DolniBity(int pocet) {
 template <class P>
 std::uint64_t ObsazenoVRadku(const P* body, int sirka, int vyska, int x, int y, int pocet,
                              P barva) {
+    if (x >= 0 && sirka - x >= pocet && y >= 0 && y < vyska)
+        return Jine(body + static_cast<std::ptrdiff_t>(y) * sirka + x, pocet, barva);
     const int od = std::clamp(-x, 0, pocet);
     const int po = std::clamp(sirka - x, od, pocet);
     if (y < 0 || y >= vyska || od == po) return DolniBity(pocet);

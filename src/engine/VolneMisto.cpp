@@ -25,6 +25,7 @@ constexpr Slovo PRECTENO = Slovo{1} << 63;
 
 /// Of each bit whether it or any of the n - 1 above it is set.
 Slovo NejakyZ(Slovo bity, int n) {
+    if (bity == 0) return 0;
     int spojeno = 1;
     for (; 2 * spojeno <= n; spojeno *= 2) bity |= bity >> spojeno;
     return bity | bity >> (n - spojeno);
