@@ -105,6 +105,7 @@ void Prehravani::Prejdi(std::size_t krok) {
     if (kroky_.empty() || !prehravka_ || krok < krok_) {
         prehravka_ = std::make_unique<Prehravka>(pokus_, platna_, vyrobce_);
         krok_ = 0;
+        predtim_ = {};
         if (kroky_.empty() || !prehravka_->Dalsi()) return;
         danych_ = Hrany().Pamet().PocetUtvaru;
     }

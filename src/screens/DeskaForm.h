@@ -129,6 +129,7 @@ public:
         int Danych = 0;                   ///< objects that the example began with
         bool NacrtVysunuty = true;        ///< the panel with the sketch
         int Nastroj = 0;                  ///< place of the tool pressed last; 0: none
+        int Radku = 0;                    ///< lines of its list
         std::optional<bool> Bezchybny{};  ///< of an example that was checked
     };
     /// Shows a dialogue that draws on this board's planes, and outlives the next such call.
@@ -180,6 +181,7 @@ private:
     /// The Symbol letter of an angle's name; any other name as it is.
     [[nodiscard]] static std::string PismenoUhlu(std::string_view nazev);
     void RozlozSeznam();
+    [[nodiscard]] static int VyskaSeznamu(int radku);
     void UkazNastroje(const MistaNastroju& mista);
     void UkazVelicinu(const Panel& panel);
     void UkazZadani(const std::vector<ZadanaVelicina>& zadani);

@@ -193,9 +193,13 @@ void DeskaForm::UkazZadani(const std::vector<ZadanaVelicina>& zadani) {
     for (std::size_t i = 0; i < lblZadani.size(); ++i) lblZadani[i].Visible = i < popisku;
 }
 
+int DeskaForm::VyskaSeznamu(int radku) {
+    return radku * VYSKA_RADKU + OKRAJ;
+}
+
 void DeskaForm::RozlozSeznam() {
     const int sirka = SirkaSeznamu(Seznam::Obsah::Jmena);
-    Pridej(Combo, "Combo", {372, 444, sirka, RADKU_NAVRHU * VYSKA_RADKU + OKRAJ});
+    Pridej(Combo, "Combo", {372, 444, sirka, VyskaSeznamu(RADKU_NAVRHU)});
     Combo.Ramecek = true;
     Combo.Visible = false;
     PridejPole(ComboLabel, "ComboLabel", {3, 2, sirka - OKRAJ, VYSKA_RADKU}, &Combo);
@@ -209,7 +213,7 @@ void DeskaForm::RozlozSeznam() {
 void DeskaForm::UkazSeznam(const Seznam& seznam) {
     Combo.Visible = seznam.Otevreny;
     Combo.Width = SirkaSeznamu(seznam.CoRika);
-    Combo.Height = static_cast<int>(seznam.Radky.size()) * VYSKA_RADKU + OKRAJ;
+    Combo.Height = VyskaSeznamu(static_cast<int>(seznam.Radky.size()));
     for (std::size_t i = 0; i < ComboLabel.size(); ++i) {
         Label& l = ComboLabel[i];
         l.Visible = i < seznam.Radky.size() && seznam.Radky[i].Videt;

@@ -1,6 +1,8 @@
 // A board that is only looked at: it shows a dialogue that somebody else drives, and tells where on
 // it things are done.
 
+#include <algorithm>
+
 #include "base/Cisla.h"
 #include "platform/Klavesnice.h"
 #include "screens/DeskaForm.h"
@@ -20,6 +22,8 @@ Bod NaObjektu(const Ovladac& o, float x, float y) {
     return {roh.X + Zaokrouhli(static_cast<double>(x)), roh.Y + Zaokrouhli(static_cast<double>(y))};
 }
 
+constexpr int OD_STISKU = 10;     // px from the press on a tool to its list
+constexpr int DNO_SEZNAMU = 438;  // px of the design
 constexpr int ZNACKA_RADKU = 20;  // px from a line's beginning, where it is pressed
 
 }  // namespace
@@ -31,11 +35,11 @@ void DeskaForm::Promitni(const Dialog& dialog, const Promitane& jak) {
     ImgHodnoceni.Visible = jak.Bezchybny.has_value();
     if (jak.Bezchybny) ImgHodnoceni.Picture = *jak.Bezchybny ? hodnoceniDobre_ : hodnoceniSpatne_;
     PicTop[0].Picture = jak.Bezchybny ? kontrolovano_ : horni_[0].Normalni;
-    // The list comes up at the tool, below the press.
+    // The list comes up at the tool, beside the press, and ends above what lies below the board.
     if (jak.Nastroj >= 1 && jak.Nastroj <= static_cast<int>(cmd.size())) {
-        const PictureBox& tlacitko = cmd[static_cast<std::size_t>(jak.Nastroj - 1)];
-        Combo.Left = tlacitko.Left + tlacitko.Width / 2;
-        Combo.Top = tlacitko.Top + tlacitko.Height / 2;
+        const Bod stisk = Uprostred(cmd[static_cast<std::size_t>(jak.Nastroj - 1)]);
+        Combo.Left = stisk.X + OD_STISKU;
+        Combo.Top = std::min(stisk.Y + OD_STISKU, DNO_SEZNAMU - VyskaSeznamu(jak.Radku));
         DoPopredi(Combo);
     }
     Image1.Tag = jak.NacrtVysunuty ? "1" : "0";

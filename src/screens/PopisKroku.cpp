@@ -53,7 +53,8 @@ std::string TextVeliciny(const Velicina& v, const std::string& hodnota) {
     if (!text.ends_with(' ')) text += ' ';
     // "k(A, r = " and ") cm": the unit stands within the bracket here, where one reads on.
     const bool zavorka = v.Jednotka.starts_with(ZAVORKA);
-    const std::string jednotka = zavorka ? v.Jednotka.substr(ZAVORKA.size()) : v.Jednotka;
+    std::string jednotka = zavorka ? v.Jednotka.substr(ZAVORKA.size()) : v.Jednotka;
+    jednotka.erase(0, jednotka.find_first_not_of(' '));
     return text + hodnota + (jednotka.empty() ? "" : " " + jednotka) + (zavorka ? ")" : "");
 }
 

@@ -289,6 +289,8 @@ void PrehravaniForm::UkazDesku() {
         const Volani& v = Co().UdalostKroku(Co().Kroky()[k])->Co;
         if (v.Co == Volani::Druh::Nastroj) jak.Nastroj = v.Cislo;
     }
+    const Seznam seznam = Co().Hrany().UkazPanel().Vyber;
+    jak.Radku = static_cast<int>((seznam.Otevreny ? seznam : Co().Predtim().Vyber).Radky.size());
     deska_->Promitni(Co().Hrany(), jak);
     popis_ = u == nullptr ? std::string() : PopisKroku(u->Co, Co().Predtim(), Co().Hrany());
     mysKroku_.reset();
@@ -360,6 +362,13 @@ void PrehravaniForm::UkazText() {
         lblKrok.Font.Velikost -= 1;
 }
 
+/// The guide's rows in one, or as much of them as fits.
+std::string PrehravaniForm::TextRady() const {
+    const RadkyRady rada = RadaCesky(deska_->RadaTed(), CimSeHraje::Mysi);
+    const std::string cela = rada[0] + (rada[1].empty() ? "" : " ") + rada[1];
+    return SirkaTextu(lblDal.Font, cela) <= lblDal.Width ? cela : rada[0];
+}
+
 /// The second row.
 void PrehravaniForm::VypisDalsi() {
     const Uloha& uloha = *NajdiUlohu(Co().Co().CisloUlohy);
@@ -370,7 +379,7 @@ void PrehravaniForm::VypisDalsi() {
         const bool poKontrole = Co().NaKonci() || (Co().Pristi()->Udalost == 0);
         lblDal.Caption = zacatek      ? std::string(PREDVEDENI) + ": " + nazev
                          : poKontrole ? nazev
-                                      : RadaCesky(deska_->RadaTed(), CimSeHraje::Mysi)[0];
+                                      : TextRady();
         return;
     }
     const std::string kdo = Co().Co().Jmeno + ", " + Datum(Co().Co().Zacatek);

@@ -73,6 +73,7 @@ private:
     [[nodiscard]] std::string TextKroku() const;
     [[nodiscard]] std::string TextPrikladu() const;
     [[nodiscard]] std::string TextKarty() const;
+    [[nodiscard]] std::string TextRady() const;
     [[nodiscard]] std::uint32_t CasNaPasu(float x) const;
     [[nodiscard]] int MistoNaPasu(std::uint32_t cas) const;
 
