@@ -444,6 +444,8 @@ void PrehravaniForm::UkazPas() {
         if (k.Udalost == 0)
             p.Vypln(MistoNaPasu(k.Kdy) - 1, 1, 2, 2 * DRAHA + TLOUSTKA_DRAHY - 2, paleta::INKOUST2);
     }
+    p.Vypln(kde - SIRKA_JEZDCE / 2 - 1, 0, SIRKA_JEZDCE + 2, PAS.Height - 1, BILA);
+    p.Vypln(kde - SIRKA_JEZDCE / 2, 0, SIRKA_JEZDCE, PAS.Height - 1, paleta::INKOUST);
     p.ForeColor = paleta::ACCENT;
     for (const KrokPrehravani& k : Co().Kroky()) {
         if (k.Chyba)
@@ -451,8 +453,6 @@ void PrehravaniForm::UkazPas() {
                      static_cast<float>(DRAHA) + static_cast<float>(TLOUSTKA_DRAHY) / 2,
                      static_cast<float>(POLOMER_CHYBY));
     }
-    p.Vypln(kde - SIRKA_JEZDCE / 2 - 1, 0, SIRKA_JEZDCE + 2, PAS.Height - 1, BILA);
-    p.Vypln(kde - SIRKA_JEZDCE / 2, 0, SIRKA_JEZDCE, PAS.Height - 1, paleta::INKOUST);
 }
 
 std::string Prehraj(Sezeni& s, Pokus pokus, Tempo tempo, std::function<void()> poKonci) {

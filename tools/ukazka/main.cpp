@@ -1,7 +1,7 @@
 // Plays examples without a display, through the same events as a person's, and leaves a picture of
 // each stage. Prints the lines that the log got. Or draws the board with the names of its controls,
-// or makes an attempt of a series without a fault, or those of all tasks that the game shows to a
-// class.
+// or an attempt as it is watched; or makes an attempt of a series without a fault, or those of all
+// tasks that the game shows to a class.
 
 #include <exception>
 #include <filesystem>
@@ -22,6 +22,7 @@
 #include "store/TextRadku.h"
 #include "store/UkladaniPokusu.h"
 #include "ukazka/Ovladace.h"
+#include "ukazka/Prehrani.h"
 
 namespace {
 
@@ -132,12 +133,14 @@ int main(int pocet, char** slova) {
         argumenty.erase(argumenty.begin());
     }
     const bool ovladace = !argumenty.empty() && argumenty[0] == "--ovladace";
+    const bool prehrani = !argumenty.empty() && argumenty[0] == "--prehrani";
     const bool predvedeni = !argumenty.empty() && argumenty[0] == "--predvedeni";
     const bool pokus = !argumenty.empty() && argumenty[0] == "--pokus";
-    if (argumenty.empty() || ((ovladace || predvedeni) && argumenty.size() != 2) ||
+    if (argumenty.empty() || ((ovladace || prehrani || predvedeni) && argumenty.size() != 2) ||
         (pokus && (argumenty.size() != 3 || !CisloUlohy(argumenty[1])))) {
         std::cerr << "Použití: ukazka [--klavesami | --prstem] SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
                      "         ukazka --ovladace OBRÁZEK.png\n"
+                     "         ukazka --prehrani OBRÁZEK.png\n"
                      "         ukazka --pokus ČÍSLO_ÚLOHY NOVÝ_SOUBOR\n"
                      "         ukazka --predvedeni SLOŽKA\n"
                      "Bez čísel se hraje první úloha.\n";
@@ -147,6 +150,10 @@ int main(int pocet, char** slova) {
         if (ovladace) {
             Relace hra(SEMINKO, cim);
             NakresliOvladace(hra, argumenty[1]);
+            return 0;
+        }
+        if (prehrani) {
+            VyfotPrehrani(argumenty[1]);
             return 0;
         }
         if (predvedeni) {

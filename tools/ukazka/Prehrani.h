@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace rysovna::hrac {
+
+/// Plays an example with a wrong step, watches it up to there as a teacher does, and writes what is
+/// seen as a PNG.
+void VyfotPrehrani(const std::string& soubor);
+
+}  // namespace rysovna::hrac
