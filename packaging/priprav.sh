@@ -7,7 +7,7 @@ BALICKY_HRA="g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libfreet
 BALICKY_PREHLED="libsqlite3-dev libutf8proc-dev nlohmann-json3-dev
     libkainjow-mustache-dev libjs-chart.js"
 BALICKY_PREHLED_TESTY="chromium nodejs"
-BALICKY_TESTY="libgtest-dev xvfb xdotool x11-utils imagemagick sway grim
+BALICKY_TESTY="libgtest-dev poppler-utils xvfb xdotool x11-utils imagemagick sway grim
     clang-format clang-tidy-16"
 BALICKY_BALIK="dpkg-dev librsvg2-bin"
 BALICKY_BALIK_TESTY="lintian debootstrap appstream desktop-file-utils xvfb xdotool x11-utils imagemagick"

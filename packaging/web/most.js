@@ -26,6 +26,9 @@ mergeInto(LibraryManager.library, {
   stranka_rekni: function (text) {
     return Module.stranka.rekni(UTF8ToString(text));
   },
+  stranka_stahni: function (jmeno, data, delka) {
+    return Module.stranka.stahni(UTF8ToString(jmeno), HEAPU8.slice(data, data + delka));
+  },
   stranka_zprava: function (titul, text) {
     return Module.stranka.zprava(UTF8ToString(titul), UTF8ToString(text));
   },

@@ -172,6 +172,9 @@ class Stranka {
   zprava(titul, text) {
     zprava(titul, text);
   }
+  stahni(jmeno, data) {
+    stahni(jmeno, new Blob([data], { type: "application/pdf" }));
+  }
 
   // A text of the program, and one for it.
   text(ukazatel) {
@@ -302,6 +305,14 @@ class Stranka {
   }
 }
 
+function stahni(jmeno, obsah) {
+  const odkaz = document.createElement("a");
+  odkaz.href = URL.createObjectURL(obsah);
+  odkaz.download = jmeno;
+  odkaz.click();
+  setTimeout(() => URL.revokeObjectURL(odkaz.href), 10_000);
+}
+
 function celaObrazovka() {
   if (document.fullscreenElement) document.exitFullscreen();
   else $("hriste").requestFullscreen?.({ navigationUI: "hide" });
@@ -311,11 +322,8 @@ function ozivListu(stranka) {
   $("cela").hidden = !document.fullscreenEnabled;
   $("cela").onclick = celaObrazovka;
   $("uloz").onclick = () => {
-    const odkaz = document.createElement("a");
-    odkaz.href = URL.createObjectURL(new Blob([stranka.vysledky()], { type: "application/json" }));
-    odkaz.download = `rysovna-vysledky-${new Date().toISOString().slice(0, 10)}.json`;
-    odkaz.click();
-    setTimeout(() => URL.revokeObjectURL(odkaz.href), 10_000);
+    stahni(`rysovna-vysledky-${new Date().toISOString().slice(0, 10)}.json`,
+      new Blob([stranka.vysledky()], { type: "application/json" }));
     oznam("Výsledky jsou ve stažených souborech.");
   };
   $("nacti").onclick = () => $("soubor").click();

@@ -11,6 +11,8 @@ const KLAVESY = {
   End: "End", Tab: "Tab", Backspace: "BackSpace", Delete: "Delete", Enter: "Return",
   Escape: "Escape", " ": "Space", F1: "F1",
 };
+// Letters that mean something with Ctrl; copying and pasting come as events of their own.
+const POVELY = ["a", "p"];
 const SIPKY = ["Left", "Right", "Up", "Down"];
 const TLACITKA = [1, 4, 2]; // by the page's number: left, middle, right
 
@@ -87,16 +89,16 @@ export function poslouchej(platno, pole, lista, hra, ted, vSnimku, celaObrazovka
     }
     const drzeno = modifikatory(e);
     if (drzeno & CTRL) {
-      // Copying and pasting come as events of their own.
-      if (e.key.toLowerCase() !== "a" && !SIPKY.includes(KLAVESY[e.key])) return;
+      if (!POVELY.includes(e.key.toLowerCase()) && !SIPKY.includes(KLAVESY[e.key])) return;
       e.preventDefault();
+      if (e.repeat && e.key.toLowerCase() === "p") return;
     }
     const jmeno = jmenoKlavesy(e);
     if (!jmeno || (jmeno === "Delete" && drzeno === SHIFT)) return;
     const edituje = pise && !["Tab", "F1", "Escape", "Return"].includes(jmeno);
     if (KLAVESY[e.key] && !(pise && jmeno === "Space")) e.preventDefault();
     if (e.repeat && !SIPKY.includes(jmeno) && !edituje) return;
-    if (jmeno.length === 1 && drzeno > SHIFT && jmeno !== "a") return;
+    if (jmeno.length === 1 && drzeno > SHIFT && !POVELY.includes(jmeno)) return;
     hra.rys_klavesa(jmeno, drzeno, 1);
     ted();
   });

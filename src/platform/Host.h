@@ -60,6 +60,16 @@ public:
     /// paths, empty where it has no such place. Nothing is made by asking.
     [[nodiscard]] virtual std::filesystem::path SlozkaStavu() = 0;
     [[nodiscard]] virtual std::filesystem::path SlozkaDat() = 0;
+    /// Where the account keeps its documents; empty where it has no such place.
+    [[nodiscard]] virtual std::filesystem::path SlozkaDokumentu() = 0;
+    /// Has the system show a document, by a program of its own and beside the game; where it has
+    /// none, nothing happens.
+    virtual void UkazDokument(const std::filesystem::path& /*soubor*/) {}
+    /// Hands a document to the person where there are no folders, as a page of a browser does:
+    /// under this name, without waiting. False where there are.
+    virtual bool VydejDokument(const std::string& /*jmeno*/, const std::string& /*obsah*/) {
+        return false;
+    }
 
     /// Looks whether the game can be seen and heard here, and says what it found, in Czech. What
     /// is not so is a run-time fault that says why.

@@ -262,14 +262,18 @@ Cinnost<> Obrazovky::DorucKlavesu(const Vstup& s) {
     if (PosunDrzenouMys(s)) return {};
     const Formular form = vnitrek_->Cilovy();
     if (form == nullptr) return {};
+    const bool povel = (s.Shift & CTRL) != 0 && JeZnak(jmeno);
     if (TextBox* t = Psane()) {
         bool vzal = false;
         const bool zmena = PsaniTextu(host_, *t).Klavesa(jmeno, s.Shift, vzal);
         if (vzal) vnitrek_->Psano = host_.TickCount();
         if (zmena) form->Change(*t);
-        if (vzal || JeZnak(jmeno) || jmeno == "Space") return {};
+        if (vzal || (JeZnak(jmeno) && !povel) || jmeno == "Space") return {};
     }
-    if ((s.Shift & CTRL) != 0 && JeZnak(jmeno)) return {};
+    if (povel) {
+        Odezva odezva = form->Klavesa("Ctrl+" + jmeno, s.Shift);
+        return odezva ? std::move(*odezva).Komu(form) : Cinnost<>();
+    }
     if (Odezva odezva = form->Klavesa(jmeno, s.Shift)) return std::move(*odezva).Komu(form);
     return KlavesaPrstenu(form, jmeno, s.Shift);
 }

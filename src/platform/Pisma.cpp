@@ -87,6 +87,11 @@ public:
         return rez;
     }
 
+    const std::string& Obsah(unsigned rez) {
+        static_cast<void>(Rez(static_cast<int>(rez)));
+        return obsahy_.at(rez);
+    }
+
     /// Which file shows the character.
     int Kde(int rez, char32_t znak) {
         if ((znak & CISLO_GLYFU) != 0) return rez;
@@ -343,6 +348,28 @@ void KresliGlyfy(const Vyhled& cil, const Obdelnik& orez, int rez, double veliko
         Privrstvi(cil, orez, static_cast<int>(zacatek) + glyf.Vlevo, ucari - glyf.Nahore, glyf,
                   barva);
     }
+}
+
+std::vector<ZnakRadku> Rozsad(const Pismo& pismo, std::string_view text) {
+    std::vector<ZnakRadku> radek;
+    const double velikost = Velikost(pismo);
+    double x = 0;
+    for (const char32_t znak : ZnakyPisma(pismo, text)) {
+        const Tisk t = RozlisIndex(znak);
+        const int kde = Pisma().Kde(CisloRezu(pismo), t.Znak);
+        radek.push_back({t.Znak, static_cast<unsigned>(kde), x, velikost * t.Podil,
+                         t.Index ? POKLES_INDEXU * velikost : 0});
+        x += PosuvTisku(CisloRezu(pismo), znak) * velikost;
+    }
+    return radek;
+}
+
+double Ucari(const Pismo& pismo) {
+    return Horni(pismo);
+}
+
+const std::string& ObsahRezu(unsigned rez) {
+    return Pisma().Obsah(rez);
 }
 
 std::string_view SouborRezu(unsigned rez) {

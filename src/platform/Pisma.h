@@ -42,6 +42,20 @@ void KresliGlyfy(const Vyhled& cil, const Obdelnik& orez, int rez, double veliko
 /// Unrounded advance of such a glyph, parts of the type size.
 [[nodiscard]] double PosuvGlyfu(int rez, std::uint32_t cislo);
 
+/// A character of a row of text: in which font file it is, where it begins, how large it is and how
+/// far below the row's base line; design pixels.
+struct ZnakRadku {
+    char32_t Znak = 0;
+    unsigned Rez = 0;
+    double X = 0, Velikost = 0, Pokles = 0;
+};
+/// A row of text, character by character, as KresliText prints it.
+[[nodiscard]] std::vector<ZnakRadku> Rozsad(const Pismo& pismo, std::string_view text);
+/// From the top of a row to its base line, design pixels.
+[[nodiscard]] double Ucari(const Pismo& pismo);
+/// What a font file holds; one that cannot be read is a run-time fault.
+[[nodiscard]] const std::string& ObsahRezu(unsigned rez);
+
 /// Unrounded width, design pixels.
 [[nodiscard]] double PresnaSirka(const Pismo& pismo, std::string_view text);
 /// Where each character begins and, last, where the text ends, design pixels: one value more than

@@ -32,6 +32,12 @@ using DiskStroje = PosixDisk;
 [[nodiscard]] std::filesystem::path SlozkaStavuUctu();
 [[nodiscard]] std::filesystem::path SlozkaDatUctu();
 
+/// Where this account keeps its documents: the folder that the desktop's settings name, else
+/// Documents in its home if there is one, else its home. Empty where the account has no home.
+[[nodiscard]] std::filesystem::path SlozkaDokumentuUctu();
+/// Has the system show a file by a program of its own. False where the window's library is asked.
+bool OtevriSoubor(const std::filesystem::path& soubor);
+
 /// Where configuration is looked for when there is none beside the program: that of the account
 /// (rysovna below $XDG_CONFIG_HOME or ~/.config; %APPDATA%), then that of the machine
 /// (/etc/rysovna; %PROGRAMDATA%). Empty where there is no such place.

@@ -16,11 +16,13 @@
 #include "rules/Rada.h"
 #include "screens/FormHry.h"
 #include "screens/Hover.h"
+#include "screens/RadaCesky.h"
 #include "store/MapaPoli.h"
 
 namespace rysovna {
 
 class NahravanyDialog;
+struct HlavickaPapiru;
 
 /// A board: all that the screens know of it. The program's own stand in Desky.cpp.
 struct RadekDesky {
@@ -109,6 +111,9 @@ public:
 
     /// The dialogue that this board shows: its own, made by Load, or the driven one.
     [[nodiscard]] const Dialog& Dialogem() const;
+    /// Puts the example that the board shows on paper; gives what is to be said of it, in two rows
+    /// of so many px of a font.
+    [[nodiscard]] RadkyRady NaPapir(const HlavickaPapiru& hlavicka, const Pismo& pismo, int sirka);
     /// Examples of the series still to be played, this one included.
     [[nodiscard]] int ZbyvaPrikladu() const { return zbyvaPrikladu_; }
     /// What the guide line says, and what it was computed from.
@@ -150,6 +155,7 @@ protected:
     void Napis(int ktery, const TextBox& box);
 
 private:
+    static constexpr float PISMO_DVOU_RAD = 8;  ///< of two rows in the guide line's strip, points
     /// Waits that other handlers ask after.
     static constexpr int PO_VOLBE = 1;    ///< a line was picked
     static constexpr int PO_PUSTENI = 2;  ///< a release on the plane is being handled
@@ -197,6 +203,7 @@ private:
     // DeskaRada.cpp: the guide line
     void RozlozRadu();
     void ObnovRadu();
+    void UkazRadky(const RadkyRady& radky);
     [[nodiscard]] PrvekVNacrtu PrvekPodPrstenem() const;
     [[nodiscard]] int MrtvyNastrojPod(const Mys& m) const;
     void UkazatelNad(const Ovladac* o);
@@ -205,6 +212,8 @@ private:
     void UlozPriklady(bool iRozehrany = false);
     [[nodiscard]] Cinnost<std::string> DokonciPokus(bool dokonceny);
     void OpustPokus();
+    // DeskaPapir.cpp: the example on paper
+    void NaPapir();
     // DeskaSerie.cpp: check, verdict, series
     Cinnost<> Zkontroluj();
     Cinnost<> NovyPriklad();

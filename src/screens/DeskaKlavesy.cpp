@@ -123,6 +123,10 @@ void DeskaForm::UkazSeznamKlavesam() {
 }
 
 Odezva DeskaForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+    if (klavesa == "Ctrl+p") {
+        NaPapir();
+        return Cinnost<>();
+    }
     if (klavesa == "Escape" && Combo.Visible) {
         SkryjSeznam();
         Prsten(cmd[static_cast<std::size_t>(nastroj_ - 1)]);

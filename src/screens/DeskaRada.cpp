@@ -12,12 +12,12 @@ namespace rysovna {
 
 namespace {
 
-constexpr Obdelnik PRUH{6, 449, 515, 27};           // px, over the decorative ruler
-constexpr int KRAJ = 4;                             // px, of its coloured edge
-constexpr int ODSAZENI = 9;                         // px, of the text from the strip's edge
-constexpr int NAHORE = 1, RADEK = 12;               // px, of two rows
-constexpr int JEDINY_NAHORE = 5;                    // px, of a row that stands alone
-constexpr float PISMO_DVOU = 8, PISMO_JEDINE = 10;  // points
+constexpr Obdelnik PRUH{6, 449, 515, 27};  // px, over the decorative ruler
+constexpr int KRAJ = 4;                    // px, of its coloured edge
+constexpr int ODSAZENI = 9;                // px, of the text from the strip's edge
+constexpr int NAHORE = 1, RADEK = 12;      // px, of two rows
+constexpr int JEDINY_NAHORE = 5;           // px, of a row that stands alone
+constexpr float PISMO_JEDINE = 10;         // points
 
 }  // namespace
 
@@ -90,13 +90,19 @@ void DeskaForm::ObnovRadu() {
     if (r == rada_ && cim == cimRady_) return;
     rada_ = r;
     cimRady_ = cim;
-    const RadkyRady radky = RadaCesky(r, cim);
+    PicRada.Visible = s_.RadyUkazovat;
+    UkazRadky(RadaCesky(r, cim));
+}
+
+/// Says something in the strip, until the guide has something new to say.
+void DeskaForm::UkazRadky(const RadkyRady& radky) {
     const bool jediny = radky[1].empty();
     for (std::size_t i = 0; i < lblRada.size(); ++i) {
         Label& l = lblRada[i];
         l.Caption = radky[i];
+        l.Sazba = true;
         l.Visible = !radky[i].empty();
-        l.Font.Velikost = jediny ? PISMO_JEDINE : PISMO_DVOU;
+        l.Font.Velikost = jediny ? PISMO_JEDINE : PISMO_DVOU_RAD;
         l.Height = jediny ? PRUH.Height - JEDINY_NAHORE : PRUH.Height / 2;
         l.Top = jediny ? JEDINY_NAHORE : NAHORE + static_cast<int>(i) * RADEK;
     }

@@ -37,7 +37,8 @@ Cinnost<> IntroForm::MouseDown(Ovladac*, const Mys&) {
     return {};
 }
 
-Odezva IntroForm::Klavesa(std::string_view, int) {
+Odezva IntroForm::Klavesa(std::string_view klavesa, int) {
+    if (klavesa.starts_with("Ctrl+")) return std::nullopt;
     Preskoc();
     return Cinnost<>();
 }

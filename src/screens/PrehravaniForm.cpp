@@ -13,6 +13,7 @@
 #include "rules/Kontrola.h"
 #include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
+#include "screens/Papir.h"
 #include "screens/PopisKroku.h"
 #include "screens/RadaCesky.h"
 #include "screens/Spolecne.h"
@@ -247,6 +248,8 @@ Odezva PrehravaniForm::Klavesa(std::string_view klavesa, int /*shift*/) {
     if (klavesa == "Escape") return Click(&picOvladac[KONEC - 1]);
     if (klavesa == "Up" || klavesa == "Down") {
         ZmenRychlost(klavesa == "Up" ? 1 : -1);
+    } else if (klavesa == "Ctrl+p") {
+        NaPapir();
     } else if (klavesa == "Home") {
         NaKrok(0);
     } else if (klavesa == "End") {
@@ -328,10 +331,29 @@ void PrehravaniForm::UkazMys() {
 }
 
 /// "Příklad 2 z 5"; one that was given up for another counts again.
-std::string PrehravaniForm::TextPrikladu() const {
+int PrehravaniForm::PoradiPrikladu() const {
     int poradi = 1;
     for (std::size_t p = 1; p < Co().Ted().Priklad; ++p)
         poradi += Co().Co().Priklady[p - 1].Konec ? 1 : 0;
+    return poradi;
+}
+
+/// What the board shows now; told in the strip, until the next step.
+void PrehravaniForm::NaPapir() {
+    Jed(false);
+    const Pokus& pokus = Co().Co();
+    const int poradi = PoradiPrikladu();
+    const auto [prvni, druhy] = deska_->NaPapir({.Jmeno = pokus.Jmeno,
+                                                 .Kdy = pokus.Zacatek,
+                                                 .Poradi = poradi,
+                                                 .Prikladu = std::max(pokus.PrikladuSerie, poradi)},
+                                                lblKrok.Font, lblKrok.Width);
+    lblKrok.Caption = prvni;
+    lblDal.Caption = druhy;
+}
+
+std::string PrehravaniForm::TextPrikladu() const {
+    const int poradi = PoradiPrikladu();
     return "Příklad " + Cislo(poradi) + " z " + Cislo(std::max(Co().Co().PrikladuSerie, poradi));
 }
 

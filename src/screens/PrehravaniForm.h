@@ -71,6 +71,8 @@ private:
     void ZmenRychlost(int oKolik);
     [[nodiscard]] bool Ohlasen() const;
     [[nodiscard]] std::string TextKroku() const;
+    [[nodiscard]] int PoradiPrikladu() const;
+    void NaPapir();
     [[nodiscard]] std::string TextPrikladu() const;
     [[nodiscard]] std::string TextKarty() const;
     [[nodiscard]] std::string TextRady() const;

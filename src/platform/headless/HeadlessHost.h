@@ -48,6 +48,10 @@ public:
     [[nodiscard]] std::string WindowsDirectory() override { return SlozkaSystemu; }
     [[nodiscard]] std::filesystem::path SlozkaStavu() override { return SlozkaUctu("stav"); }
     [[nodiscard]] std::filesystem::path SlozkaDat() override { return SlozkaUctu("ucet"); }
+    [[nodiscard]] std::filesystem::path SlozkaDokumentu() override {
+        return SlozkaUctu("dokumenty");
+    }
+    void UkazDokument(const std::filesystem::path& soubor) override { Dokumenty.push_back(soubor); }
     [[nodiscard]] std::string OverObrazovku() override { return Overeni(NeniObrazovka); }
     [[nodiscard]] std::string OverZvuk() override { return Overeni(NeniZvuk); }
     [[nodiscard]] std::uint32_t Seminko() override { return SeminkoHry++; }
@@ -81,12 +85,13 @@ public:
     /// Writes the window's present picture, 640 * meritko by 480 * meritko pixels, as a PNG.
     void Snimek(const std::string& soubor, double meritko = 1);
 
-    std::vector<Zprava> Zpravy;           ///< shown so far
-    std::vector<Zvuk> Zvuky;              ///< started so far
-    std::vector<RezimObrazovky> Rezimy;   ///< asked for so far
-    int VysledekRezimu = 0;               ///< what a switch of the mode answers
-    RezimObrazovky Rezim{1024, 768, 32};  ///< present mode
-    /// The folder of Rysovna.ini; those of the account are "stav" and "ucet" in it.
+    std::vector<Zprava> Zpravy;                    ///< shown so far
+    std::vector<Zvuk> Zvuky;                       ///< started so far
+    std::vector<RezimObrazovky> Rezimy;            ///< asked for so far
+    std::vector<std::filesystem::path> Dokumenty;  ///< that the system was to show
+    int VysledekRezimu = 0;                        ///< what a switch of the mode answers
+    RezimObrazovky Rezim{1024, 768, 32};           ///< present mode
+    /// The folder of Rysovna.ini; those of the account are "stav", "ucet", "dokumenty" in it.
     std::string SlozkaSystemu;
     std::uint32_t SeminkoHry = 1;  ///< the next one; each call counts it up
     DatumACas Cas;

@@ -3,6 +3,7 @@
 #include <SDL.h>
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <chrono>
 #include <clocale>
 #include <cstdlib>
@@ -71,15 +72,15 @@ struct UvolniKurzor {
     void operator()(SDL_Cursor* k) const { SDL_FreeCursor(k); }
 };
 
-/// Key and modifiers of an editing command, as the letter with ctrl that means the same.
+/// Key and modifiers of a command, as the letter with ctrl that means the same.
 constexpr struct {
     SDL_Keycode Kod;
     int Drzeno;
     const char* Jmeno;
 } POVELY[] = {
-    {SDLK_a, CTRL, "a"},       {SDLK_c, CTRL, "c"},      {SDLK_v, CTRL, "v"},
-    {SDLK_x, CTRL, "x"},       {SDLK_INSERT, CTRL, "c"}, {SDLK_INSERT, SHIFT, "v"},
-    {SDLK_DELETE, SHIFT, "x"},
+    {SDLK_a, CTRL, "a"},       {SDLK_c, CTRL, "c"},       {SDLK_v, CTRL, "v"},
+    {SDLK_x, CTRL, "x"},       {SDLK_p, CTRL, "p"},       {SDLK_INSERT, CTRL, "c"},
+    {SDLK_INSERT, SHIFT, "v"}, {SDLK_DELETE, SHIFT, "x"},
 };
 
 /// Buttons by SDL's number and as the screens count them.
@@ -345,6 +346,23 @@ std::string SdlHost::OverZvuk() {
     return vnitrek_->Zvuk_.Over();
 }
 
+void SdlHost::UkazDokument(const std::filesystem::path& soubor) {
+    if (OtevriSoubor(soubor)) return;
+    constexpr std::string_view BEZE_ZMENY = "-._~/";
+    std::string adresa = "file://";
+    for (const char c : soubor.string()) {
+        if (std::isalnum(static_cast<unsigned char>(c)) != 0 ||
+            BEZE_ZMENY.find(c) != std::string_view::npos) {
+            adresa += c;
+        } else {
+            char kod[sizeof "%FF"];
+            std::snprintf(kod, sizeof kod, "%%%02X", static_cast<unsigned>(c) & 0xFFU);
+            adresa += kod;
+        }
+    }
+    SDL_OpenURL(adresa.c_str());
+}
+
 std::string SdlHost::SlozkaNastaveni() {
     char* zaklad = SDL_GetBasePath();
     const std::string vlastni = zaklad == nullptr ? std::string() : std::string(zaklad);
@@ -495,8 +513,9 @@ void SdlHost::Vnitrek::Klavesa(const SDL_KeyboardEvent& k) {
     }
     // One press leads through one screen only. What edits a text is repeated, and arrows are.
     const bool sipka = kod == SDLK_LEFT || kod == SDLK_RIGHT || kod == SDLK_UP || kod == SDLK_DOWN;
+    const bool tisk = kod == SDLK_p && drzeno == CTRL;
     const bool psani = Host_.Okna().Psane() != nullptr && kod != SDLK_TAB && kod != SDLK_F1 &&
-                       kod != SDLK_ESCAPE && !enter;
+                       kod != SDLK_ESCAPE && !enter && !tisk;
     if (k.repeat != 0 && !sipka && !psani) return;
     for (const auto& p : POVELY) {
         if (p.Kod != kod || p.Drzeno != drzeno) continue;

@@ -39,6 +39,8 @@ public:
     [[nodiscard]] static std::string SlozkaNastaveni();
     [[nodiscard]] std::filesystem::path SlozkaStavu() override { return SlozkaStavuUctu(); }
     [[nodiscard]] std::filesystem::path SlozkaDat() override { return SlozkaDatUctu(); }
+    [[nodiscard]] std::filesystem::path SlozkaDokumentu() override { return SlozkaDokumentuUctu(); }
+    void UkazDokument(const std::filesystem::path& soubor) override;
     /// Opens the window for a moment.
     [[nodiscard]] std::string OverObrazovku() override;
     /// Opens the sound device for a moment; one that does not answer is a fault after a while.

@@ -23,6 +23,8 @@ int stranka_sirka_obrazovky();
 int stranka_vyska_obrazovky();
 /// What a screen reader is to say.
 void stranka_rekni(const char* text);
+/// The browser saves a document under this name.
+void stranka_stahni(const char* jmeno, const char* data, std::size_t delka);
 /// A message beside the picture, where none can be drawn.
 void stranka_zprava(const char* titul, const char* text);
 /// Bytes that the browser still lets the page keep.

@@ -36,6 +36,11 @@ WebHost::WebHost(std::optional<std::uint32_t> seminko)
 
 WebHost::~WebHost() = default;
 
+bool WebHost::VydejDokument(const std::string& jmeno, const std::string& obsah) {
+    stranka_stahni(jmeno.c_str(), obsah.data(), obsah.size());
+    return true;
+}
+
 void WebHost::Rozmer(int sirka, int vyska) {
     sirka_ = std::max(sirka, 1);
     vyska_ = std::max(vyska, 1);

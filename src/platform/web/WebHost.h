@@ -53,6 +53,8 @@ public:
     [[nodiscard]] rysovna::Disk& Disk() override { return disk_; }
     [[nodiscard]] std::filesystem::path SlozkaStavu() override { return SLOZKA_STAVU; }
     [[nodiscard]] std::filesystem::path SlozkaDat() override { return SLOZKA_UCTU; }
+    [[nodiscard]] std::filesystem::path SlozkaDokumentu() override { return {}; }
+    bool VydejDokument(const std::string& jmeno, const std::string& obsah) override;
     [[nodiscard]] std::string OverObrazovku() override;
     [[nodiscard]] std::string OverZvuk() override;
     [[nodiscard]] std::uint32_t Seminko() override;

@@ -5,6 +5,7 @@
 
 // After the calls that it builds on.
 #include <shellapi.h>
+#include <shlobj.h>
 
 namespace rysovna {
 namespace {
@@ -46,6 +47,17 @@ fs::path SlozkaStavuUctu() {
 
 fs::path SlozkaDatUctu() {
     return SlozkaZPromenne(L"APPDATA");
+}
+
+fs::path SlozkaDokumentuUctu() {
+    wchar_t slozka[MAX_PATH] = {};
+    const HRESULT stav = SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, 0, slozka);
+    return stav == S_OK ? fs::path(slozka) : fs::path();
+}
+
+bool OtevriSoubor(const fs::path& soubor) {
+    ShellExecuteW(nullptr, L"open", soubor.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    return true;
 }
 
 fs::path SlozkaNastaveniUctu() {

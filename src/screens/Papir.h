@@ -1,0 +1,58 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/DatumACas.h"
+#include "platform/Surface.h"
+#include "rules/Dialog.h"
+#include "rules/Postup.h"
+#include "screens/RadaCesky.h"
+#include "screens/Sezeni.h"
+
+namespace rysovna {
+
+/// Whose example it is.
+struct HlavickaPapiru {
+    std::string Jmeno{};  ///< as typed
+    DatumACas Kdy{};
+    int Poradi = 1, Prikladu = 1;  ///< which example of how many
+};
+
+/// An example as it is put on paper.
+struct Papir : HlavickaPapiru {
+    int CisloUlohy = 0;
+    std::string Uvod;
+    std::vector<ZadanaVelicina> Zadani;
+    std::vector<KrokPostupu> Postup;
+    /// After the check.
+    struct Hodnoceni {
+        int Bodu = 0;
+        bool Hotova = false;
+        std::vector<std::string> Chyby{};  ///< the sentences of the wrong steps
+    };
+    std::optional<Hodnoceni> Konec;
+};
+
+/// What a dialogue and its session tell of the example: assignment and steps, and once it was
+/// checked points and wrong steps.
+[[nodiscard]] Papir SepisPapir(HlavickaPapiru hlavicka, const Dialog& dialog, bool zkontrolovany);
+
+/// The pages: name, assignment, sketch, figure, steps, result.
+[[nodiscard]] std::string SlozPapir(const Papir& papir, const Surface& figura,
+                                    const Surface& nacrt);
+
+/// Stores a document in a folder under the name and a number that is free there; nothing that is
+/// there changes. Where that cannot be done nothing is left, and ChybaDisku tells why.
+std::filesystem::path UlozDokument(Disk& disk, const std::filesystem::path& slozka,
+                                   const std::string& nazev, const std::string& obsah);
+
+/// Makes the pages and stores them among the account's documents under a name of their own, or
+/// hands them to the person where there are no folders; has the system show them. Gives what the
+/// person is to be told, also where they could not be stored: two rows of so many px of a font.
+[[nodiscard]] RadkyRady UlozPapir(Host& stroj, const Papir& papir, const Surface& figura,
+                                  const Surface& nacrt, const Pismo& pismo, int sirka);
+
+}  // namespace rysovna
