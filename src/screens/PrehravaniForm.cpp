@@ -25,7 +25,7 @@ namespace {
 // Places, px: the strip and the card on the design, the others on these.
 constexpr Obdelnik PRUH{0, 440, NAVRH_SIRKA, 40};
 constexpr int KRAJ = 4;
-constexpr Obdelnik KROK{12, 1, 446, 16}, DAL{12, 15, 446, 13};
+constexpr Obdelnik KROK{12, 1, 442, 16}, DAL{12, 15, 442, 13};
 constexpr Obdelnik PAS{6, 28, 628, 12};
 constexpr Obdelnik KARTA{240, 2, 398, 82};
 constexpr int KRAJ_KARTY = 7;
@@ -34,7 +34,7 @@ constexpr struct {
     int Left, Width;
     std::string_view Napis;
 } OVLADACE[] = {
-    {462, 32, "▮◀"}, {496, 32, "▶"}, {530, 32, "▶▮"}, {564, 34, ""}, {600, 36, "konec"}};
+    {458, 32, "▮◀"}, {492, 32, "▶"}, {526, 32, "▶▮"}, {560, 34, ""}, {596, 40, "konec"}};
 enum Ovladani : int { ZPET = 1, JET, VPRED, RYCHLOST, KONEC };
 constexpr std::string_view STAT = "▮▮", JED = "▶";
 

@@ -9,11 +9,13 @@
 #include <string>
 
 #include "hrac/RukaNaDesce.h"
+#include "hrac/Serie.h"
 #include "platform/Bitmapa.h"
 #include "platform/Malir.h"
 #include "screens/DeskaForm.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/Start.h"
+#include "store/TextPokusu.h"
 #include "zak/Sestroj.h"
 
 namespace rysovna::testy {
@@ -221,6 +223,25 @@ TEST(Prehravani, PredvedeKazdouUlohu) {
         SCOPED_TRACE(uloha);
         EXPECT_NE(predved(uloha, 0), predved(uloha, 3));
     }
+}
+
+/// From the menu, as a page without arguments does: the game is afterwards what it was.
+TEST(Prehravani, ZNabidkyAZpetDoHry) {
+    const Pokus pokus = *CtiPokus(PokusSChybami(4)).Co;
+    Relace hra(3);
+    hra.Start();
+    const auto predtim = Obsah(hra.DataDir().parent_path());
+    bool skoncilo = false;
+    ASSERT_EQ(Prehraj(hra.Pamet(), pokus, Tempo::Zaka, [&] { skoncilo = true; }), "");
+    hra.Cekej(5000);
+    hra.Klavesa("End");
+    hra.Stiskni("picOvladac", 5);
+    EXPECT_TRUE(skoncilo);
+    EXPECT_FALSE(hra.Host().Okna().JeKonec());
+    EXPECT_EQ(hra.JmenoVpredu(), "SelectForm");
+    EXPECT_EQ(Obsah(hra.DataDir().parent_path()), predtim);
+    OdehrajSerii(hra, 12, "Eva", 1, 3);
+    EXPECT_EQ(hra.JmenoVpredu(), "TabulkaForm");
 }
 
 TEST(Prehravani, CoNejdePrehratRekneJednouVetou) {
