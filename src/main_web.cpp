@@ -17,6 +17,8 @@
 #include "screens/Start.h"
 #include "store/Cesty.h"
 #include "store/SlouceniVysledku.h"
+#include "store/TextPokusu.h"
+#include "store/UkladaniPokusu.h"
 
 namespace rysovna {
 namespace {
@@ -99,6 +101,16 @@ EMSCRIPTEN_KEEPALIVE void rys_zacni(double seminko, int sirka, int vyska) {
     Zacni(Bezi()->Sezeni_);
 }
 
+/// Watches an attempt of the browser's in place of the game. Why it cannot be watched; empty: it
+/// can.
+EMSCRIPTEN_KEEPALIVE const char* rys_prehraj(const char* jmeno, int sirka, int vyska) {
+    using namespace rysovna;
+    Bezi() = std::make_unique<Hra>(std::nullopt);
+    Bezi()->Host_.Rozmer(sirka, vyska);
+    return Vrat(ZacniPrehravani(
+        Bezi()->Sezeni_, std::filesystem::path(SLOZKA_UCTU) / UkladaniPokusu::SLOZKA / jmeno));
+}
+
 /// A turn; ms until the next one, or less than nothing: the game is over.
 EMSCRIPTEN_KEEPALIVE double rys_tah() {
     return Bezi()->Tah();
@@ -160,6 +172,20 @@ EMSCRIPTEN_KEEPALIVE int rys_pridej_vysledky(const char* jmeno, const char* data
         }
     }
     return 2;
+}
+
+/// Adds an attempt of another machine under its name, a file's; the same as above.
+EMSCRIPTEN_KEEPALIVE int rys_pridej_pokus(const char* jmeno, const char* data, int delka) {
+    using namespace rysovna;
+    if (Bezi()->Host_.Okna().JeZavreno()) return 1;
+    const std::string_view text(data, static_cast<std::size_t>(delka));
+    if (!CtiPokus(text).Co) return 2;
+    try {
+        Bezi()->Sezeni_.Pokusy().Prevezmi(jmeno, text);
+        return 0;
+    } catch (const ChybaDisku&) {
+        return 2;
+    }
 }
 
 /// Empty when all is kept, "?" while it is not yet, else why it is not.

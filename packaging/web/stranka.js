@@ -1,18 +1,24 @@
 // The page of the game: loads program and data, gives the program what it wants of a machine, and
 // does what the page itself offers. ?seminko=7 draws the same examples at each start, ?kontrola is
-// the check before a lesson.
+// the check before a lesson, ?prehraj=NAME shows an attempt that the browser keeps.
 
 import { poprve, Uloziste } from "./uloziste.js";
 import { poslouchej } from "./vstup.js";
+import { zabalZip } from "./zip.js";
 import { neniZvuk, zahraj } from "./zvuk.js";
 
 const UCET = "/ucet", STAV = "/stav", HRA = "/hra";
+const POKUSY = `${UCET}/Pokusy`;
 const ZAMEK = "rysovna-hraje";
 const FORMAT = "rysovna-vysledky"; // of a file of results, and its version
 const VERZE = 1;
+const JMENO_VYSLEDKU = /^(\d\d\.res|Vysledky\.dat)$/;
+const JMENO_POKUSU = /^[\w-][\w.-]*\.pokus$/;
+const UKLADA_SE = "Hra právě ukládá výsledek. Zkuste to za chvíli.";
 
 const $ = (jmeno) => document.getElementById(jmeno);
 const volby = new URLSearchParams(location.search);
+const kHre = () => location.assign(location.pathname);
 
 /* ---- What the page says */
 
@@ -34,6 +40,7 @@ const bezZpravy = () => {
 // A line in the bar, until it is read.
 function oznam(text) {
   $("oznam").textContent = text;
+  $("prehraj").hidden = true;
   $("zavri-oznam").hidden = text === "";
 }
 
@@ -79,7 +86,19 @@ async function nactiHru(stranka) {
     printErr: (text) => console.warn(text),
   });
   rozbalData(modul.FS, new Uint8Array(data));
+  await nactiNastaveni(modul.FS);
   return modul;
+}
+
+// The configuration as it stands beside the page; where the server keeps it back, as it was built.
+async function nactiNastaveni(FS) {
+  try {
+    const odpoved = await fetch("Rysovna.ini");
+    const text = odpoved.ok ? await odpoved.text() : "";
+    if (text.includes("[RYSOVNA1]")) FS.writeFile(`${HRA}/Rysovna.ini`, text);
+  } catch {
+    // Without a connection, and not kept.
+  }
 }
 
 // The data file: length of the list (32 bits, little-endian), the list as JSON, the files.
@@ -173,7 +192,7 @@ class Stranka {
     zprava(titul, text);
   }
   stahni(jmeno, data) {
-    stahni(jmeno, new Blob([data], { type: "application/pdf" }));
+    podej(jmeno, new Blob([data], { type: "application/pdf" }));
   }
 
   // A text of the program, and one for it.
@@ -222,7 +241,10 @@ class Stranka {
     }
     if (za < 0) {
       this.bezi = false;
-      if ($("zprava").hidden)
+      if (!$("zprava").hidden) return;
+      if (volby.has("prehraj"))
+        zprava("Přehrávání skončilo", "", "Ke hře", kHre);
+      else
         zprava("Hra skončila", "Výsledky zůstávají v tomto prohlížeči.", "Hrát znovu",
           () => location.reload());
       return;
@@ -237,7 +259,7 @@ class Stranka {
     const [ukladame, modul] = await Promise.all([this.uloziste.otevri(), nactiHru(this)]);
     this.modul = modul;
     const { FS } = this.modul;
-    for (const slozka of [UCET, `${STAV}/fronta`]) FS.mkdirTree(slozka);
+    for (const slozka of [UCET, POKUSY, `${STAV}/fronta`]) FS.mkdirTree(slozka);
     for (const [cesta, bajty] of await this.uloziste.vse()) FS.writeFile(cesta, bajty);
     return ukladame;
   }
@@ -256,7 +278,16 @@ class Stranka {
     };
     this.vstup = poslouchej(this.platno, $("pole"), $("lista"), hra, this.tah, this.tahSeSnimkem,
       celaObrazovka);
-    m._rys_zacni(volby.has("seminko") ? Number(volby.get("seminko")) : -1, sirka, vyska);
+    if (volby.has("prehraj")) {
+      const proc = this.text(
+        this.sTextem(volby.get("prehraj"), (t) => m._rys_prehraj(t, sirka, vyska)));
+      if (proc) {
+        zprava("Záznam pokusu nelze přehrát", proc, "Ke hře", kHre);
+        return;
+      }
+    } else {
+      m._rys_zacni(volby.has("seminko") ? Number(volby.get("seminko")) : -1, sirka, vyska);
+    }
     this.bezi = true;
     new ResizeObserver(() => this.prizpusob()).observe($("hriste"));
     this.tah();
@@ -264,48 +295,91 @@ class Stranka {
 
   /* ---- Results to a file and back */
 
-  vysledky() {
+  // Files of a folder whose names fit, as [name, bytes].
+  soubory(slozka, jaka) {
     const { FS } = this.modul;
-    const soubory = {};
-    for (const jmeno of FS.readdir(UCET)) {
-      if (!/^(\d\d\.res|Vysledky\.dat)$/.test(jmeno)) continue;
-      const bajty = FS.readFile(`${UCET}/${jmeno}`);
-      soubory[jmeno] = btoa(Array.from(bajty, (b) => String.fromCharCode(b)).join(""));
+    return FS.readdir(slozka).filter((jmeno) => jaka.test(jmeno))
+      .map((jmeno) => [jmeno, FS.readFile(`${slozka}/${jmeno}`)]);
+  }
+  pokusy() {
+    return this.soubory(POKUSY, JMENO_POKUSU);
+  }
+
+  vysledky() {
+    const doTextu = (soubory) => Object.fromEntries(soubory.map(([jmeno, bajty]) =>
+      [jmeno, btoa(Array.from(bajty, (b) => String.fromCharCode(b)).join(""))]));
+    return JSON.stringify({ format: FORMAT, verze: VERZE,
+      soubory: doTextu(this.soubory(UCET, JMENO_VYSLEDKU)), pokusy: doTextu(this.pokusy()) });
+  }
+
+  // Hands a file to the program. 0, 1 or 2 as src/main_web.cpp tells.
+  pridej(volani, jmeno, bajty) {
+    const m = this.modul;
+    const kde = m._malloc(Math.max(bajty.length, 1));
+    m.HEAPU8.set(bajty, kde);
+    const stav = this.sTextem(jmeno, (t) => volani(t, kde, bajty.length));
+    m._free(kde);
+    return stav;
+  }
+
+  // Waits until all is kept; why it is not, or an empty text.
+  async uchovano() {
+    for (;;) {
+      const proc = this.text(this.modul._rys_uchovano());
+      if (proc !== "?") return proc;
+      await new Promise((pak) => setTimeout(pak, 20));
     }
-    return JSON.stringify({ format: FORMAT, verze: VERZE, soubory });
   }
 
   async pridejVysledky(text) {
-    let soubory;
+    let soubory, pokusy;
     try {
       const obsah = JSON.parse(text);
       if (obsah.format !== FORMAT || obsah.verze !== VERZE) throw new Error();
-      soubory = Object.entries(obsah.soubory).map(([jmeno, data]) => {
-        if (!/^(\d\d\.res|Vysledky\.dat)$/.test(jmeno)) throw new Error();
+      const zTextu = (co, jaka) => Object.entries(co).map(([jmeno, data]) => {
+        if (!jaka.test(jmeno)) throw new Error();
         return [jmeno, Uint8Array.from(atob(data), (z) => z.charCodeAt(0))];
       });
+      soubory = zTextu(obsah.soubory, JMENO_VYSLEDKU);
+      pokusy = zTextu(obsah.pokusy ?? {}, JMENO_POKUSU);
     } catch {
       return "Toto není soubor s výsledky hry. Nic se nezměnilo.";
     }
     const m = this.modul;
     for (const [jmeno, bajty] of soubory) {
-      const kde = m._malloc(Math.max(bajty.length, 1));
-      m.HEAPU8.set(bajty, kde);
-      const stav = this.sTextem(jmeno, (t) => m._rys_pridej_vysledky(t, kde, bajty.length));
-      m._free(kde);
-      if (stav === 1) return "Hra právě ukládá výsledek. Zkuste to za chvíli.";
+      const stav = this.pridej(m._rys_pridej_vysledky, jmeno, bajty);
+      if (stav === 1) return UKLADA_SE;
       if (stav === 2) return "Toto není soubor s výsledky hry. Výsledky ze souboru se nenačetly.";
     }
-    for (;;) {
-      const proc = this.text(m._rys_uchovano());
-      if (proc === "") return "Výsledky ze souboru jsou přidány k těm, které tu byly.";
-      if (proc !== "?") return `Výsledky se nepodařilo uložit: ${proc}. Zůstalo, co tu bylo.`;
-      await new Promise((pak) => setTimeout(pak, 20));
+    const vadnych = pokusy.filter(([jmeno, bajty]) =>
+      this.pridej(m._rys_pridej_pokus, jmeno, bajty) !== 0).length;
+    const proc = await this.uchovano();
+    if (proc) return `Výsledky se nepodařilo uložit: ${proc}. Zůstalo, co tu bylo.`;
+    return "Výsledky ze souboru jsou přidány k těm, které tu byly." +
+      (vadnych > 0 ? ` Záznamů pokusů, které nejdou přečíst: ${vadnych}.` : "");
+  }
+
+  // Files of attempts, as [name, bytes]. What is to be told, and the name of one to be watched.
+  async pridejPokusy(soubory) {
+    let prvni = "", pridano = 0;
+    for (const [jmeno, bajty] of soubory) {
+      // What a browser or a person put behind a name that was taken already.
+      const nase = jmeno.replace(/ ?\(\d+\)(?=\.pokus$)/, "").replace(/[^\w.-]/g, "_");
+      const stav = this.pridej(this.modul._rys_pridej_pokus, nase, bajty);
+      if (stav === 1) return [UKLADA_SE, ""];
+      if (stav === 2) return [`${jmeno} není celý záznam pokusu.`, ""];
+      ++pridano;
+      prvni = nase;
     }
+    const proc = await this.uchovano();
+    if (proc) return [`Záznam pokusu se nepodařilo uložit: ${proc}.`, ""];
+    return pridano === 1 ? ["Záznam pokusu je přidán.", prvni]
+      : [`Záznamy pokusů jsou přidány: ${pridano}.`, ""];
   }
 }
 
-function stahni(jmeno, obsah) {
+// Gives the person a file, among the downloaded ones.
+function podej(jmeno, obsah) {
   const odkaz = document.createElement("a");
   odkaz.href = URL.createObjectURL(obsah);
   odkaz.download = jmeno;
@@ -321,18 +395,42 @@ function celaObrazovka() {
 function ozivListu(stranka) {
   $("cela").hidden = !document.fullscreenEnabled;
   $("cela").onclick = celaObrazovka;
+  const soubor = (co, pripona) =>
+    `rysovna-${co}-${new Date().toISOString().slice(0, 10)}.${pripona}`;
   $("uloz").onclick = () => {
-    stahni(`rysovna-vysledky-${new Date().toISOString().slice(0, 10)}.json`,
-      new Blob([stranka.vysledky()], { type: "application/json" }));
-    oznam("Výsledky jsou ve stažených souborech.");
+    podej(soubor("vysledky", "json"), new Blob([stranka.vysledky()], { type: "application/json" }));
+    oznam("Výsledky i záznamy pokusů jsou ve stažených souborech.");
+  };
+  $("uloz-pokusy").onclick = () => {
+    const pokusy = stranka.pokusy();
+    if (pokusy.length > 0) podej(soubor("pokusy", "zip"), zabalZip(pokusy, new Date()));
+    oznam(pokusy.length > 0 ? "Záznamy pokusů jsou ve stažených souborech."
+      : "Žádné záznamy pokusů tu zatím nejsou.");
   };
   $("nacti").onclick = () => $("soubor").click();
   $("soubor").onchange = async () => {
-    const soubor = $("soubor").files[0];
-    if (!soubor) return;
-    const text = await soubor.text();
+    const soubory = [...$("soubor").files];
+    const pokusy = [], texty = [];
+    for (const soubor of soubory) {
+      if (soubor.name.endsWith(".pokus"))
+        pokusy.push([soubor.name, new Uint8Array(await soubor.arrayBuffer())]);
+      else texty.push(await soubor.text());
+    }
     $("soubor").value = "";
-    oznam(await stranka.pridejVysledky(text));
+    const hlaseni = [];
+    for (const text of texty) hlaseni.push(await stranka.pridejVysledky(text));
+    let prehrat = "";
+    if (pokusy.length > 0) {
+      const [text, jmeno] = await stranka.pridejPokusy(pokusy);
+      hlaseni.push(text);
+      prehrat = jmeno;
+    }
+    oznam(hlaseni.join(" "));
+    if (!prehrat) return;
+    $("prehraj").hidden = false;
+    $("prehraj").onclick = () =>
+      location.assign(`${location.pathname}?prehraj=${encodeURIComponent(prehrat)}`);
+    $("prehraj").focus();
   };
   $("zavri-oznam").onclick = () => {
     oznam("");

@@ -22,8 +22,25 @@ self.addEventListener("activate", (e) => {
   })());
 });
 
+// What the school may change in its place: as the server has it, without a connection as it was.
+async function nejnovejsi(zadost) {
+  const sklad = await caches.open(SKLAD);
+  try {
+    const odpoved = await fetch(zadost, { cache: "no-cache" });
+    if (odpoved.ok) await sklad.put(zadost, odpoved.clone());
+    return odpoved;
+  } catch {
+    return (await sklad.match(zadost)) ?? Response.error();
+  }
+}
+
 self.addEventListener("fetch", (e) => {
-  if (e.request.method !== "GET" || new URL(e.request.url).origin !== location.origin) return;
+  const kde = new URL(e.request.url);
+  if (e.request.method !== "GET" || kde.origin !== location.origin) return;
+  if (kde.pathname.endsWith("/Rysovna.ini")) {
+    e.respondWith(nejnovejsi(e.request));
+    return;
+  }
   e.respondWith((async () => {
     const sklad = await caches.open(SKLAD);
     const nas = await sklad.match(e.request, { ignoreSearch: true });

@@ -35,6 +35,9 @@ async function vysledky(k) {
   const { soubory } = JSON.parse(await k.hodnota("rysovna.vysledky()"));
   return (jmeno) => kodovani.decode(Buffer.from(soubory[jmeno], "base64"));
 }
+// Attempts that the page keeps, as [name, text].
+const pokusy = (k) => k.hodnota("rysovna.pokusy().map(([jmeno, bajty]) => " +
+  "[jmeno, new TextDecoder().decode(bajty)])");
 const plnych = (denik) => (denik.match(/Klad\. body: 10 +Záp\. body: 0 /g) ?? []).length;
 const textStranky = (k) => k.hodnota("document.getElementById('zprava').innerText");
 const ohlas = (k) => k.hodnota("document.getElementById('oznam').textContent");
@@ -132,6 +135,7 @@ const TESTY = {
     for (let i = 0; i < 2; ++i) {
       const denik = (await vysledky(dalsi))(DENIK);
       over(plnych(denik) === 1, `po ${i + 1}. startu:\n${denik}`);
+      over((await pokusy(dalsi)).length === 1, "záznam pokusu se nedoplnil právě jednou");
       await dalsi.otevri(adresa);
       await dalsi.naHre();
     }
@@ -187,6 +191,7 @@ const TESTY = {
     await k.dokud("Object.keys(localStorage).every((x) => !x.endsWith('.vysledek'))",
       "fronta je prázdná");
     over(plnych((await vysledky(k))(DENIK)) === 1, "výsledek se ztratil");
+    over((await pokusy(k)).length === 1, "záznam pokusu se ztratil");
   }),
 
   zakazano: async () => {
@@ -267,6 +272,63 @@ const TESTY = {
     }
     over((await k.hodnota("rysovna.vysledky()")) === drive, "odmítnutý soubor něco změnil");
   }),
+
+  // An attempt: kept by one browser, packed, taken to another one and watched there. The school's own
+  // configuration beside the page turns it off and gives a class its examples.
+  pokusy: async () => {
+    let ini = null;
+    const pred = (jmeno, odpoved) => {
+      if (jmeno !== "/Rysovna.ini" || !ini) return false;
+      odpoved.writeHead(200, { "Content-Type": "text/plain" }).end(ini);
+      return true;
+    };
+    const radky = udalosti([1]);
+    const hrane = async (k) => {
+      await serie(k, radky);
+      return pokusy(k);
+    };
+    let prvni, sbalene;
+    await sProhlizecem({}, async (p, adresa) => {
+      ini = fs.readFileSync(path.join(stranka, "Rysovna.ini"), "utf8");
+      const doma = ini;
+      ini = `${doma}Seminko=${SEMINKO}\n`;
+      const k = await p.karta(adresa, (x) => x.velikost(1280, 996));
+      prvni = await hrane(k);
+      over(prvni.length === 1 && /^RYSOVNA1 POKUS \d+\n[^]*Žofie[^]*\nkonec ano\n$/.test(prvni[0][1]),
+        `pokusy: ${JSON.stringify(prvni)}`);
+      await k.dokud("Object.keys(localStorage).every((x) => !x.endsWith('.pokus'))", "fronta je prázdná");
+      sbalene = await k.hodnota("import('./zip.js').then(({ zabalZip }) => zabalZip([" +
+        "...rysovna.pokusy(), ['x.pokus', new Uint8Array()]], new Date(2026, 10, 22)).arrayBuffer())" +
+        ".then((b) => btoa(String.fromCharCode(...new Uint8Array(b))))");
+      ini = `${doma}Pokusy=ne\n`;
+      await k.otevri(`${adresa}?seminko=${SEMINKO}`);
+      over(JSON.stringify(await hrane(k)) === JSON.stringify(prvni), "Pokusy=ne neplatí");
+    }, pred);
+    const zip = path.join(prace, "pokusy.zip");
+    fs.writeFileSync(zip, Buffer.from(sbalene, "base64"));
+    const rozbalene = execFileSync("python3", ["-c", "import sys, zipfile\n" +
+      "z = zipfile.ZipFile(sys.argv[1])\nassert z.testzip() is None\n" +
+      "sys.stdout.write(z.read(z.namelist()[0]).decode() + str(z.infolist()[1].date_time))", zip]);
+    over(rozbalene.toString() === `${prvni[0][1]}(2026, 11, 22, 0, 0, 0)`, "archiv se nerozbalí stejně");
+    await sProhlizecem({}, async (p, adresa) => {
+      ini = null;
+      const k = await p.karta(adresa, (x) => x.velikost(1280, 996));
+      await k.naHre();
+      const pridej = (jmeno, text) => k.hodnota("rysovna.pridejPokusy(" +
+        `[[${JSON.stringify(jmeno)}, new TextEncoder().encode(${JSON.stringify(text)})]])`);
+      const [jmeno, text] = prvni[0];
+      over(/není celý/.test((await pridej(jmeno, text.slice(0, -9)))[0]), "useknutý se přidal");
+      for (const jak of [jmeno, jmeno.replace(".pokus", " (1).pokus")]) {
+        over((await pridej(jak, text))[1] === jmeno, `přidání ${jak}`);
+      }
+      await k.otevri(`${adresa}?prehraj=${jmeno}`);
+      await k.dokud("document.getElementById('hlas').textContent.length > 0", "přehrávání mluví");
+      over(JSON.stringify(await pokusy(k)) === JSON.stringify(prvni), "není tu týž jediný pokus");
+      over(await k.hodnota("document.getElementById('zprava').hidden"), "stránka něco hlásí");
+      await k.otevri(`${adresa}?prehraj=neni.pokus`);
+      await k.dokud("document.body.innerText.includes('nelze přehrát')", "chybějící se řekne");
+    }, pred);
+  },
 
   // A Czech keyboard in a window: dead keys, and the digits' row that types letters.
   mrtve_klavesy: async () => {

@@ -24,6 +24,12 @@ bool JeDocasny(const fs::path& co) {
     return co.extension() == ".novy" || co.filename() == "zamek";
 }
 
+/// A file in a folder below that of results is made once and never changed: what was refused of
+/// them goes from memory too, and nothing is remembered of what was kept.
+bool JeStaly(const fs::path& co) {
+    return co.parent_path() != SLOZKA_UCTU;
+}
+
 std::optional<std::string> Obsah(const fs::path& co) {
     std::ifstream soubor(co, std::ios::binary);
     if (!soubor) return std::nullopt;
@@ -182,6 +188,7 @@ bool WebDisk::Uchovano() {
         Odmitnuto(stav, ulozene.begin()->first);
     }
     for (const auto& [cesta, obsah] : ulozene) {
+        if (JeStaly(cesta)) continue;
         if (obsah) {
             uchovane_[cesta] = *obsah;
         } else {
@@ -195,6 +202,11 @@ bool WebDisk::Uchovano() {
 /// What was refused must not pass for stored: it is taken back.
 void WebDisk::VratUchovane() {
     for (const std::string& cesta : std::exchange(zmenene_, {})) {
+        if (JeStaly(cesta)) {
+            std::error_code nevadi;
+            fs::remove(cesta, nevadi);
+            continue;
+        }
         const auto i = uchovane_.find(cesta);
         if (i != uchovane_.end()) {
             PisDoPameti(cesta, i->second);

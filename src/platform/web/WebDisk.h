@@ -16,8 +16,9 @@ constexpr const char* SLOZKA_STAVU = "/stav";  ///< the queue
 
 /// The disk of a page. Files of results go to the browser's store when Uchovano() is asked, all
 /// that changed in one transaction; if the store refuses, they are in memory again what the store
-/// has. Files of the queue are kept at once by each call; a call that the browser refuses did
-/// nothing. No other program sees the files, so a lock holds between opened copies alone.
+/// has, and attempts, which nothing was there of, are not. Files of the queue are kept at once by
+/// each call; a call that the browser refuses did nothing. No other program sees the files, so a
+/// lock holds between opened copies alone.
 class WebDisk final : public PosixDisk {
 public:
     /// Takes what lies in the folder of results for what the store has.

@@ -58,6 +58,9 @@ public:
     [[nodiscard]] std::string OverObrazovku() override;
     [[nodiscard]] std::string OverZvuk() override;
     [[nodiscard]] std::uint32_t Seminko() override;
+    void VychoziSeminko(std::uint32_t seminko) override {
+        if (!seminko_) seminko_ = seminko;
+    }
     [[nodiscard]] DatumACas Nyni() override;
     [[nodiscard]] std::string SchrankaText() override { return schranka_; }
     void DoSchranky(const std::string& text) override { schranka_ = text; }
