@@ -374,10 +374,14 @@ TEST(Pokus, ZmenenyNicNerozbije) {
 
 /// From the menu, with the screens: each series leaves its attempt, one that was left too, and it
 /// comes out alike on planes that print other letters. Keys of the configuration turn it off, and
-/// give a class its examples.
+/// give a class its examples. Whether attempts are kept, are not, or cannot be, which is told once:
+/// table and log are the same.
 TEST(Pokus, KazdaSerieNaObrazovceNechaSvuj) {
-    const auto hraj = [](const std::string& klice) {
+    std::string vysledky;
+    std::size_t zprav = 0;
+    const auto hraj = [&](const std::string& klice, bool nelze = false) {
         Relace hra(1);
+        if (nelze) hra.PisSoubor("Pokusy", "");
         hra.PisSoubor("../Rysovna.ini", hra.CtiSoubor("../Rysovna.ini") + klice);
         hra.Start();
         OdehrajSerii(hra, 12, "Žofie", 2, 3);
@@ -392,7 +396,9 @@ TEST(Pokus, KazdaSerieNaObrazovceNechaSvuj) {
         hra.Cekej(600);
         std::vector<Pokus> pokusy;
         const auto slozka = hra.DataDir() / "Pokusy";
-        if (!std::filesystem::exists(slozka)) return pokusy;
+        vysledky = hra.CtiSoubor("Vysledky.dat") + hra.CtiSoubor("12.res");
+        zprav = hra.Host().Zpravy.size();
+        if (!std::filesystem::is_directory(slozka)) return pokusy;
         for (const auto& soubor : std::filesystem::directory_iterator(slozka)) {
             const PrectenyPokus p =
                 CtiPokus(hra.CtiSoubor("Pokusy/" + soubor.path().filename().string()));
@@ -403,7 +409,13 @@ TEST(Pokus, KazdaSerieNaObrazovceNechaSvuj) {
         return pokusy;
     };
     EXPECT_TRUE(hraj("Pokusy=ne\r\n").empty());
+    const std::string bezPokusu = vysledky;
+    EXPECT_TRUE(hraj("", true).empty());
+    EXPECT_EQ(vysledky, bezPokusu);
+    EXPECT_EQ(zprav, 1U);
     const std::vector<Pokus> pokusy = hraj("");
+    EXPECT_EQ(vysledky, bezPokusu);
+    EXPECT_EQ(zprav, 0U);
     ASSERT_EQ(pokusy.size(), 2U);
     for (const Pokus& p : pokusy) {
         Platna_ platna;
