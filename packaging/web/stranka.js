@@ -10,6 +10,7 @@ import { neniZvuk, zahraj } from "./zvuk.js";
 const UCET = "/ucet", STAV = "/stav", HRA = "/hra";
 const POKUSY = `${UCET}/Pokusy`;
 const ZAMEK = "rysovna-hraje";
+const NEJDELE_ODCHAZI = 1500; // ms: that the page before in the same tab may keep the lock
 const FORMAT = "rysovna-vysledky"; // of a file of results, and its version
 const VERZE = 1;
 const JMENO_VYSLEDKU = /^(\d\d\.res|Vysledky\.dat)$/;
@@ -145,10 +146,10 @@ function jedinaBezZamku() {
 function jedina() {
   if (!navigator.locks) return jedinaBezZamku();
   return new Promise((hotovo) => {
-    navigator.locks.request(ZAMEK, { ifAvailable: true }, (zamek) => {
-      hotovo(zamek !== null);
-      return zamek === null ? undefined : new Promise(() => {});
-    }).catch(() => hotovo(jedinaBezZamku()));
+    navigator.locks.request(ZAMEK, { signal: AbortSignal.timeout(NEJDELE_ODCHAZI) }, () => {
+      hotovo(true);
+      return new Promise(() => {});
+    }).catch((chyba) => hotovo(chyba.name === "TimeoutError" ? false : jedinaBezZamku()));
   });
 }
 
