@@ -35,10 +35,11 @@ constexpr struct {
 constexpr std::string_view ZAVORKA = ") ";
 
 std::string JmenoNastroje(const Volani& v, const Panel& p) {
-    if (v.Cislo < 1 || v.Cislo > static_cast<int>(p.Nastroje.size())) return {};
+    constexpr const char* NEZIVY = "Stisk, kde není živý nástroj";
+    if (v.Cislo < 1 || v.Cislo > static_cast<int>(p.Nastroje.size())) return NEZIVY;
     const MistoNastroje& misto = p.Nastroje[static_cast<std::size_t>(v.Cislo - 1)];
     const auto* n = std::ranges::find_if(NASTROJE, [&](const auto& r) { return r.Co == misto.Co; });
-    if (n == std::end(NASTROJE)) return {};
+    if (n == std::end(NASTROJE)) return NEZIVY;
     return n->Tlacitko ? "Tlačítko „" + std::string(n->Jmeno) + "“"
                        : "Nástroj: " + std::string(n->Jmeno);
 }
@@ -77,7 +78,7 @@ std::string PopisKroku(const Volani& v, const Panel& p, const Dialog& dialog) {
         case Volani::Druh::Nastroj:
             return JmenoNastroje(v, p);
         case Volani::Druh::Radek:
-            if (v.Cislo < 1 || v.Cislo > static_cast<int>(p.Vyber.Radky.size())) return {};
+            if (v.Cislo < 1 || v.Cislo > static_cast<int>(p.Vyber.Radky.size())) return "Volba";
             return "Volba: " + p.Vyber.Radky[static_cast<std::size_t>(v.Cislo - 1)].Text;
         case Volani::Druh::ZavritSeznam:
             return "Seznam se zavírá bez volby";

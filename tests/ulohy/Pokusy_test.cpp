@@ -24,6 +24,7 @@
 #include "rules/Prehravani.h"
 #include "rules/Prehravka.h"
 #include "rules/Ulohy.h"
+#include "screens/PopisKroku.h"
 #include "screens/Start.h"
 #include "store/MapaPoli.h"
 #include "store/Soubory.h"
@@ -367,6 +368,15 @@ TEST(Pokus, ZmenenyNicNerozbije) {
         Platna_ platna;
         Prehravka prehravka(*precteny.Co, {platna.Pic, platna.HidenPic});
         rozeslych += prehravka.DoKonce() ? 1 : 0;
+        // Watched, it goes up to there, and each step is told.
+        Prehravani sledovany(*precteny.Co, {platna.Pic, platna.HidenPic}, Tempo::Vyklad);
+        EXPECT_EQ(sledovany.KdeSeRozesla().has_value(), prehravka.KdeSeRozesla().has_value());
+        for (std::size_t k = 0; k < sledovany.Kroky().size(); ++k) {
+            sledovany.NaKrok(k);
+            if (const Udalost* u = sledovany.UdalostKroku(sledovany.Ted())) {
+                EXPECT_NE(PopisKroku(u->Co, sledovany.Predtim(), sledovany.Hrany()), "");
+            }
+        }
     }
     EXPECT_GT(prectenych, kolik / 8);
     EXPECT_GT(rozeslych, prectenych / 8);
