@@ -151,10 +151,13 @@ struct Pdf::Vnitrek {
 
     // Items of a display list.
 
+    Pixel Podklad = 0;  ///< what it is drawn on
+
     void Kresli(const PolozkaUsecky& u) const {
         cairo_t* c = Cairo.get();
         Barvou(u.Barva);
-        cairo_set_line_width(c, u.Pero * TENKE_PERO);
+        // What is drawn to be covered is covered whole.
+        cairo_set_line_width(c, u.Pero * (u.Barva == Podklad ? 1 : TENKE_PERO));
         cairo_set_line_cap(c, CAIRO_LINE_CAP_ROUND);
         cairo_move_to(c, static_cast<double>(u.X1) + 0.5, static_cast<double>(u.Y1) + 0.5);
         cairo_line_to(c, static_cast<double>(u.X2) + 0.5, static_cast<double>(u.Y2) + 0.5);
@@ -185,6 +188,7 @@ struct Pdf::Vnitrek {
 
     /// Labels stand above all lines, the grounds of all of them below the letters of any.
     void KresliSeznam(std::span<const Polozka> polozky, Pixel podklad) {
+        Podklad = podklad;
         for (const Polozka& p : polozky) {
             const auto* text = std::get_if<PolozkaTextu>(&p);
             if (text != nullptr && text->Svatozar) continue;

@@ -24,9 +24,9 @@ constexpr Pismo VELICINA{.Velikost = 10.5F, .Kurziva = true};
 constexpr Pismo DROBNE{.Velikost = 8.5F};
 
 // Measures of the page.
-constexpr double OKRAJ = 2.0 * Pdf::NA_CM, PATA = 1.3 * Pdf::NA_CM;
-constexpr double SIRKA = Pdf::SIRKA - 2 * OKRAJ, DOLE = Pdf::VYSKA - OKRAJ;
-constexpr double SIRKA_NACRTU = 6.8 * Pdf::NA_CM, MEZERA = 0.4 * Pdf::NA_CM;
+constexpr double OKRAJ = 2.0 * Pdf::NA_CM, NAHORE = 1.5 * Pdf::NA_CM, PATA = 1.3 * Pdf::NA_CM;
+constexpr double SIRKA = Pdf::SIRKA - 2 * OKRAJ, DOLE = Pdf::VYSKA - 1.8 * Pdf::NA_CM;
+constexpr double SIRKA_NACRTU = 6.2 * Pdf::NA_CM, MEZERA = 0.4 * Pdf::NA_CM;
 constexpr double ODSAZENI = 0.75 * Pdf::NA_CM;  ///< of the text behind a number
 constexpr double TENCE = 0.6, SILNE = 1.6;      ///< of lines
 /// So many times smaller is the figure than on a blackboard, where 8 px are 1 cm.
@@ -68,7 +68,9 @@ std::string Datum(const DatumACas& d) {
 std::string NazevUlohy(int cislo) {
     const Uloha* uloha = NajdiUlohu(cislo);
     if (uloha == nullptr) return "Úloha " + TextBezMezery(cislo);
-    return std::string(RODINY[uloha->Rodina]) + ": " + std::string(uloha->TypUlohy);
+    std::string nazev = std::string(RODINY[uloha->Rodina]) + ": ";
+    for (const char c : uloha->TypUlohy) nazev += c == '-' ? "–" : std::string(1, c);
+    return nazev;
 }
 
 /// Sets one thing below another and goes on to a new page where there is no room.
@@ -97,7 +99,7 @@ private:
         pdf_.Text(OKRAJ, y, DROBNE, "Rysovna 1, úloha " + TextBezMezery(papir_.CisloUlohy),
                   paleta::INKOUST2);
         pdf_.Text(OKRAJ + SIRKA - PresnaSirka(DROBNE, kde), y, DROBNE, kde, paleta::INKOUST2);
-        y_ = OKRAJ;
+        y_ = NAHORE;
     }
 
     /// Room for something of this height.

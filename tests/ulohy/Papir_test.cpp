@@ -72,7 +72,7 @@ TEST_P(PapirDesky, TextStranekPredKontrolouAPoNi) {
             return text.find(BezMezer(co)) != std::string::npos;
         };
         const Panel panel = ruka.Hrany().UkazPanel();
-        EXPECT_TRUE(je(JMENO) && je(std::string(NajdiUlohu(GetParam())->TypUlohy)) &&
+        EXPECT_TRUE(je(JMENO) && je(std::string(RODINY[NajdiUlohu(GetParam())->Rodina]) + ":") &&
                     je(panel.Uvod) && je("22. 11. 2026 v 9.05"))
             << text;
         int poradi = 0;
