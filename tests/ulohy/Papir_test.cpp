@@ -15,6 +15,7 @@
 #include "podpora/PravaUctu.h"
 #include "rules/Postup.h"
 #include "rules/Ulohy.h"
+#include "screens/Start.h"
 #include "zak/Sestroj.h"
 
 namespace rysovna::hrac {
@@ -89,6 +90,31 @@ TEST_P(PapirDesky, TextStranekPredKontrolouAPoNi) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Desky, PapirDesky, testing::Values(1, 5, 9, 10, 11, 13, 17, 20));
+
+TEST(Papir, ZPrehravaniJsouTytezStranky) {
+    Relace hra(7);
+    hra.Host().Cas = {2026, 11, 22, 9, 5};
+    hra.Start();
+    hra.SpustUlohu(11, "Žofie");
+    RukaNaDesce ruka(hra);
+    Sestroj(ruka, 3);
+    ruka.Zkontroluj();
+    hra.Klavesa("p", CTRL);
+    hra.Stiskni("picPokracuj");
+    hra.Cekej(2000);
+
+    Relace divak;
+    const fs::path pokus = fs::directory_iterator(hra.DataDir() / "Pokusy")->path();
+    ASSERT_EQ(ZacniPrehravani(divak.Pamet(), pokus), "");
+    divak.Cekej(100);
+    divak.Klavesa("End");
+    divak.Klavesa("p", CTRL);
+    ASSERT_EQ(divak.Host().Dokumenty.size(), 1U);
+    const std::string text = CtiPdf(divak.Host().Dokumenty[0]);
+    EXPECT_NE(text.find("10 z 10"), std::string::npos);
+    EXPECT_EQ(text, CtiPdf(hra.Host().Dokumenty[0]));
+    EXPECT_TRUE(divak.Prvek<Label>("lblKrok").Caption.starts_with("Uloženo: "));
+}
 
 TEST(Papir, CoNelzeZapsatSeRekneANicNezustane) {
     Relace hra;
