@@ -330,6 +330,23 @@ const TESTY = {
     }, pred);
   },
 
+  // An example on paper: the browser saves it, and its text is read back.
+  papir: () => sProhlizecem({}, async (p, adresa) => {
+    const kam = fs.mkdtempSync(path.join(prace, "papir"));
+    await p.povel("Browser.setDownloadBehavior", { behavior: "allow", downloadPath: kam });
+    const k = await p.karta(`${adresa}?seminko=${SEMINKO}`, (x) => x.velikost(1280, 996));
+    await k.naHre();
+    await k.odehraj(udalosti([11]), (radek) => radek === "fotka 11_konstrukce");
+    await k.odehraj(["klavesa p 2", "cekej 2000"]);
+    const [jmeno] = fs.readdirSync(kam);
+    over(/^Rysovna Žofie Řeřichová úloha 11 \d{4}-\d\d-\d\d\.pdf$/.test(jmeno), `staženo ${jmeno}`);
+    const text = execFileSync("pdftotext", [path.join(kam, jmeno), "-"]).toString();
+    for (const co of ["Žofie Řeřichová", "Sestroj lichoběžník ABCD:", "△", "∥", " ∈ ",
+      "5. lichoběžník ABCD", "Kontrola konstrukce ještě neproběhla."]) {
+      over(text.replaceAll(/\s+/g, " ").includes(co), `${co} není v:\n${text}`);
+    }
+  }),
+
   // A Czech keyboard in a window: dead keys, and the digits' row that types letters.
   mrtve_klavesy: async () => {
     const x = spawn("Xvfb", ["-displayfd", "3", "-screen", "0", "1280x1000x24", "-noreset"],
