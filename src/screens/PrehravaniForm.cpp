@@ -59,6 +59,7 @@ constexpr std::size_t BEZNA = 2;
 
 constexpr Bod ODKUD_MYS{320, 300};  // px of the design: before its first press
 
+constexpr int SHIFT = 1;
 constexpr std::string_view PREDVEDENI = "Předvedení";
 
 std::string Cislo(int n) {
@@ -241,7 +242,24 @@ Cinnost<> PrehravaniForm::Click(Ovladac* o) {
     return {};
 }
 
-Odezva PrehravaniForm::Klavesa(std::string_view klavesa, int /*shift*/) {
+/// To the next wrong step that way, or to the end of the way.
+void PrehravaniForm::NaChybu(bool vpred) {
+    const auto& kroky = Co().Kroky();
+    std::size_t k = Co().Krok();
+    const std::size_t kraj = vpred ? kroky.size() - 1 : 0;
+    while (k != kraj) {
+        k = vpred ? k + 1 : k - 1;
+        if (kroky[k].Chyba) break;
+    }
+    Timer1.Enabled = false;
+    NaKrok(k);
+}
+
+Odezva PrehravaniForm::Klavesa(std::string_view klavesa, int shift) {
+    if ((shift & SHIFT) != 0 && (klavesa == "Left" || klavesa == "Right")) {
+        NaChybu(klavesa == "Right");
+        return Cinnost<>();
+    }
     if (klavesa == "Left") return Click(&picOvladac[ZPET - 1]);
     if (klavesa == "Right") return Click(&picOvladac[VPRED - 1]);
     if (klavesa == "Space") return Click(&picOvladac[JET - 1]);

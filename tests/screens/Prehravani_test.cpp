@@ -169,6 +169,16 @@ TEST(Prehravani, KlavesamiAMysiSeDostaneVsude) {
             divak.Souhlasi();
         }
         EXPECT_GT(chyb, 0);
+        // And by keys from one to the next.
+        hra.Klavesa("Home");
+        for (int i = 0; i < chyb; ++i) {
+            hra.Klavesa("Right", 1);
+            EXPECT_TRUE(divak.Co().Ted().Chyba);
+        }
+        hra.Klavesa("Right", 1);
+        EXPECT_TRUE(divak.Co().NaKonci());
+        hra.Klavesa("Left", 1);
+        EXPECT_TRUE(divak.Co().Ted().Chyba);
         // A press on the board goes on, another one stops; step by step it stops by itself.
         hra.Klavesa("Home");
         hra.Cekej(600);
