@@ -90,7 +90,8 @@ std::string PopisKroku(const Volani& v, const Panel& p, const Dialog& dialog) {
         case Volani::Druh::Stisk:
         case Volani::Druh::Pusteni: {
             const std::string co = Rysovane(p);
-            return co.empty() ? "Stisk na ploše" : "Rýsuje se: " + co;
+            if (!co.empty()) return "Rýsuje se: " + co;
+            return p.Kresleni.Druh == Gesto::Tvar::Bod ? "Označuje se bod" : "Stisk na ploše";
         }
         case Volani::Druh::Nacrt: {
             const std::string prvek = dialog.VidetPrvek(dialog.PrvekNacrtu(v.X, v.Y)).Jmeno;
