@@ -21,6 +21,7 @@
 #include "podpora/Stul.h"
 #include "rules/NahravanyDialog.h"
 #include "rules/Pokus.h"
+#include "rules/Postup.h"
 #include "rules/Prehravani.h"
 #include "rules/Prehravka.h"
 #include "rules/Ulohy.h"
@@ -84,6 +85,15 @@ public:
             } else {
                 Bloudi();
             }
+            // Whatever was drawn, each object is told of by one step.
+            std::set<int> radky;
+            std::size_t utvaru = 0;
+            for (const KrokPostupu& k : SestavPostup(*dialog_)) {
+                radky.insert(k.Utvary.begin(), k.Utvary.end());
+                utvaru += k.Utvary.size();
+            }
+            EXPECT_EQ(radky.size(), utvaru) << uloha_;
+            EXPECT_EQ(static_cast<int>(utvaru), Misc_().PocetUtvaru) << uloha_;
             // Now and then another example is wanted before this one is checked.
             if (dokonale || los_() % 4 != 0) dialog_->Zkontroluj();
             EXPECT_TRUE(!dokonale || Misc_().SoucetZapornychBodu == 0) << uloha_;
