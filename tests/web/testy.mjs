@@ -294,7 +294,7 @@ const TESTY = {
       ini = `${doma}Seminko=${SEMINKO}\n`;
       const k = await p.karta(adresa, (x) => x.velikost(1280, 996));
       prvni = await hrane(k);
-      over(prvni.length === 1 && /^RYSOVNA1 POKUS \d+\n[^]*Žofie[^]*\nkonec ano\n$/.test(prvni[0][1]),
+      over(prvni.length === 1 && /^RYSOVNA1 POKUS \d+\n[^]*Žofie[^]*\nvysledek 10 1\nkonec ano\n$/.test(prvni[0][1]),
         `pokusy: ${JSON.stringify(prvni)}`);
       await k.dokud("Object.keys(localStorage).every((x) => !x.endsWith('.pokus'))", "fronta je prázdná");
       sbalene = await k.hodnota("import('./zip.js').then(({ zabalZip }) => zabalZip([" +
