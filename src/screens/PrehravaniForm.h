@@ -18,7 +18,8 @@ class DeskaForm;
 /// An attempt watched: the board as the pupil had it, and in the strip below it what is being done,
 /// the controls and a bar of the whole. It lies over the board and gets all input: a press anywhere
 /// on the board goes on or stops. Keys: left and right a step (with Shift to the next wrong one),
-/// up and down the speed, Space goes on or stops, Home, End; Escape ends. It writes nothing unasked.
+/// up and down the speed, Space goes on or stops, Home, End; Escape ends. It writes nothing
+/// unasked.
 class PrehravaniForm final : public FormHry {
 public:
     PrehravaniForm(Sezeni& s, Pokus pokus, Tempo tempo);
