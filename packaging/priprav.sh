@@ -13,7 +13,7 @@ BALICKY_BALIK="dpkg-dev librsvg2-bin"
 BALICKY_BALIK_TESTY="lintian debootstrap appstream desktop-file-utils xvfb xdotool x11-utils imagemagick"
 BALICKY_WEB="emscripten dpkg-dev patch xz-utils"
 BALICKY_WEB_TESTY="chromium poppler-utils xvfb xdotool x11-xkb-utils"
-BALICKY_WINDOWS="g++-mingw-w64-x86-64-posix dpkg-dev patch xz-utils librsvg2-bin imagemagick nsis"
+BALICKY_WINDOWS="g++-mingw-w64-x86-64-posix dpkg-dev patch xz-utils librsvg2-bin imagemagick nsis tcl"
 BALICKY_WINDOWS_TESTY="wine64 googletest xvfb xdotool imagemagick"
 BALICKY_BENCH="libbenchmark-dev xvfb xdotool x11-utils"
 

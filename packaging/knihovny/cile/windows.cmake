@@ -8,4 +8,6 @@ set(PIXMAN_VOLBY -O3)
 # files are UTF-16 there, which the library turns them into only if it is told so.
 set(CAIRO_VOLBY_PC -DCAIRO_WIN32_STATIC_BUILD)
 set(CAIRO_DEFINICE CAIRO_WIN32_STATIC_BUILD CAIRO_HAS_UTF8_TO_UTF16=1 HAVE_UNISTD_H=1 HAVE_FENV_H=1)
+# The overview of a class is made there.
+set(PREHLED ON)
 set(SDL_KNIHOVNY_PC user32 gdi32 winmm imm32 ole32 oleaut32 version uuid advapi32 setupapi shell32)
