@@ -360,6 +360,11 @@ std::uint64_t PosixDisk::Volno(const fs::path& slozka) {
     return std::uint64_t{stav.f_bavail} * stav.f_frsize;
 }
 
+fs::path SlozkaProgramu() {
+    std::error_code neni;
+    return fs::read_symlink("/proc/self/exe", neni).parent_path();
+}
+
 fs::path SlozkaStavuUctu() {
     return SlozkaUctu("XDG_STATE_HOME", ".local/state");
 }

@@ -44,6 +44,9 @@ bool OtevriSoubor(const std::filesystem::path& soubor);
 [[nodiscard]] std::filesystem::path SlozkaNastaveniUctu();
 [[nodiscard]] std::filesystem::path SlozkaNastaveniStroje();
 
+/// The folder that the program's own file lies in; empty where that cannot be found out.
+[[nodiscard]] std::filesystem::path SlozkaProgramu();
+
 /// The words behind the program's name, in UTF-8, of what main was given. What the process writes
 /// from then on is seen where it was started from, in UTF-8 too.
 [[nodiscard]] std::vector<std::string> Argumenty(int pocet, char** slova);

@@ -54,15 +54,15 @@ void Oznam(const Prehled& prehled, std::size_t seriiCelkem, const Volby& volby) 
               << Vedle(volby.Vystup, "-chyby.csv").string() << '\n';
 }
 
-int Vyrob(const Volby& volby, const Sber& sber, const TabulkaZaku& tabulka, Rejstrik& rejstrik,
-          const fs::path& program) {
+int Vyrob(const Volby& volby, const Sber& sber, const TabulkaZaku& tabulka, Rejstrik& rejstrik) {
     // What cannot be written is known before the long work.
     NovySoubor stranka(volby.Vystup), serie(Vedle(volby.Vystup, "-serie.csv")),
         chyby(Vedle(volby.Vystup, "-chyby.csv"));
     const StavRejstriku stav = Obnov(rejstrik, sber, std::cerr);
     const RozdeleniZaku zaci(tabulka, PoctyJmen(stav, false));
     TabulkyCsv tabulky(serie.Proud(), chyby.Proud());
-    const Prehled prehled = Sestav(rejstrik, stav, sber, zaci, Znamkovani(program), volby, tabulky);
+    const Prehled prehled =
+        Sestav(rejstrik, stav, sber, zaci, Znamkovani(SlozkaProgramu()), volby, tabulky);
     ZapisStranku(stranka.Proud(), prehled);
     for (NovySoubor* s : {&stranka, &serie, &chyby}) s->Dokonci();
     Oznam(prehled, stav.Serie.size(), volby);
@@ -75,7 +75,7 @@ int Smaz(const Volby& volby, const Sber& sber, const TabulkaZaku& tabulka, Rejst
     return SmazZaka(volby, sber, stav, zaci, rejstrik, std::cin, std::cout) ? V_PORADKU : NEJDE;
 }
 
-int Spust(Volby volby, const fs::path& program) {
+int Spust(Volby volby) {
     if (volby.Napoveda) {
         std::cout << NAPOVEDA;
         return V_PORADKU;
@@ -89,7 +89,7 @@ int Spust(Volby volby, const fs::path& program) {
         const auto rejstrik = OtevriRejstrik(misto, oznam);
         if (!oznam.empty()) std::cerr << oznam << std::endl;
         return volby.Smazat ? Smaz(volby, sber, tabulka, *rejstrik)
-                            : Vyrob(volby, sber, tabulka, *rejstrik, program);
+                            : Vyrob(volby, sber, tabulka, *rejstrik);
     };
     try {
         return zkus();
@@ -103,9 +103,7 @@ int Spust(Volby volby, const fs::path& program) {
 
 int main(int pocet, char** slova) {
     try {
-        const std::vector<std::string> argumenty = Argumenty(pocet, slova);
-        const fs::path program = pocet > 0 ? fs::path(slova[0]).parent_path() : fs::path();
-        return Spust(CtiVolby(argumenty), program);
+        return Spust(CtiVolby(Argumenty(pocet, slova)));
     } catch (const SpatneVolby& chyba) {
         std::cerr << chyba.what() << "\n"
                   << "Nápověda: prehled --help\n";

@@ -41,6 +41,13 @@ void PripravKonzoli() {
 
 }  // namespace
 
+fs::path SlozkaProgramu() {
+    constexpr DWORD NEJVIC = 32768;  // letters of any path
+    std::wstring soubor(NEJVIC, L'\0');
+    soubor.resize(GetModuleFileNameW(nullptr, soubor.data(), NEJVIC));
+    return fs::path(soubor).parent_path();
+}
+
 fs::path SlozkaStavuUctu() {
     return SlozkaZPromenne(L"LOCALAPPDATA");
 }
