@@ -368,6 +368,7 @@ void PrehravaniForm::NaPapir() {
                                                 lblKrok.Font, lblKrok.Width);
     lblKrok.Caption = prvni;
     lblDal.Caption = druhy;
+    lblKrok.Sazba = lblDal.Sazba = false;  // names of files are no names of the figure
 }
 
 std::string PrehravaniForm::TextPrikladu() const {
@@ -393,6 +394,7 @@ std::string PrehravaniForm::TextKroku() const {
 }
 
 void PrehravaniForm::UkazText() {
+    lblKrok.Sazba = lblDal.Sazba = true;
     VypisDalsi();
     const std::string krok = TextKroku();
     if (lblKrok.Caption == krok) return;
