@@ -60,3 +60,11 @@ sestav() {
     # shellcheck disable=SC2086
     ninja -C "$slozka" ${CILE:-}
 }
+
+# nove_knihovny FOLDER LIBRARIES: what cmake remembers in the build folder of libraries that lay
+# elsewhere is forgotten: it would still look there.
+nove_knihovny() {
+    mkdir -p "$1"
+    [ "$(cat "$1/knihovny.txt" 2>/dev/null)" = "$2" ] || rm -f "$1/CMakeCache.txt"
+    echo "$2" >"$1/knihovny.txt"
+}

@@ -10,7 +10,7 @@ sestav_web() {
     export EM_FROZEN_CACHE=1 NODE_PATH=/usr/share/nodejs
     knihovny="$(packaging/knihovny/sestav web)"
     web="${WEB_SLOZKA:-build/web}"
-    mkdir -p "$web"
+    nove_knihovny "$web" "$knihovny"
     PKG_CONFIG_LIBDIR="$knihovny/lib/pkgconfig" emcmake cmake -S . -B "$web" -G Ninja \
         -DRYSOVNA_TESTY=OFF "-DRYSOVNA_HOTOVE=$hotove" "-DCMAKE_FIND_ROOT_PATH=$knihovny" \
         ${WEB_VOLBY:-} >"$web.cmake.log" 2>&1 || { cat "$web.cmake.log" >&2; return 1; }

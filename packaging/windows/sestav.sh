@@ -6,7 +6,7 @@ sestav_windows() {
     hotove="$1"
     shift
     knihovny="$(packaging/knihovny/sestav windows)"
-    mkdir -p build/windows
+    nove_knihovny build/windows "$knihovny"
     # shellcheck source=packaging/ikona/ikona.sh
     . packaging/ikona/ikona.sh
     for velikost in 16 24 32 48 64 256; do
