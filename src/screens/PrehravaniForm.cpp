@@ -6,16 +6,12 @@
 
 #include "base/Chyba.h"
 #include "base/Cisla.h"
-#include "base/Text.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
 #include "rules/Kontrola.h"
-#include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
-#include "screens/Papir.h"
 #include "screens/PopisKroku.h"
-#include "screens/RadaCesky.h"
 #include "screens/Spolecne.h"
 
 namespace rysovna {
@@ -60,17 +56,6 @@ constexpr std::size_t BEZNA = 2;
 constexpr Bod ODKUD_MYS{320, 300};  // px of the design: before its first press
 
 constexpr int SHIFT = 1;
-constexpr std::string_view PREDVEDENI = "Předvedení";
-
-std::string Cislo(int n) {
-    return TextBezMezery(n);
-}
-
-std::string Datum(const DatumACas& d) {
-    return Cislo(d.Den) + ". " + Cislo(d.Mesic) + ". " + Cislo(d.Rok) + " " + Cislo(d.Hodina) +
-           "." + DveCislice(d.Minuta);
-}
-
 /// Slow at both ends.
 double Plynule(double t) {
     return t * t * (3 - 2 * t);
@@ -348,51 +333,6 @@ void PrehravaniForm::UkazMys() {
     deska_->PromitniTah(Co().Drzi() ? std::optional(mys_->Hrot) : std::nullopt);
 }
 
-/// "Příklad 2 z 5"; one that was given up for another counts again.
-int PrehravaniForm::PoradiPrikladu() const {
-    int poradi = 1;
-    for (std::size_t p = 1; p < Co().Ted().Priklad; ++p)
-        poradi += Co().Co().Priklady[p - 1].Konec ? 1 : 0;
-    return poradi;
-}
-
-/// What the board shows now; told in the strip, until the next step.
-void PrehravaniForm::NaPapir() {
-    Jed(false);
-    const Pokus& pokus = Co().Co();
-    const int poradi = PoradiPrikladu();
-    const auto [prvni, druhy] = deska_->NaPapir({.Jmeno = pokus.Jmeno,
-                                                 .Kdy = pokus.Zacatek,
-                                                 .Poradi = poradi,
-                                                 .Prikladu = std::max(pokus.PrikladuSerie, poradi)},
-                                                lblKrok.Font, lblKrok.Width);
-    lblKrok.Caption = prvni;
-    lblDal.Caption = druhy;
-    lblKrok.Sazba = lblDal.Sazba = false;  // names of files are no names of the figure
-}
-
-std::string PrehravaniForm::TextPrikladu() const {
-    const int poradi = PoradiPrikladu();
-    return "Příklad " + Cislo(poradi) + " z " + Cislo(std::max(Co().Co().PrikladuSerie, poradi));
-}
-
-std::string PrehravaniForm::TextKroku() const {
-    const KrokPrehravani* pristi = Co().Pristi();
-    if (Ohlasen()) {
-        return PopisKroku(Co().UdalostKroku(*pristi)->Co, Co().Hrany().UkazPanel(), Co().Hrany());
-    }
-    if (Co().Cas() > Co().Ted().Kdy && pristi != nullptr && pristi->Vynechano > 0)
-        return "Přemýšlení " + TextDoby(pristi->Vynechano + pristi->Doba) + " (zkráceno)";
-    const Udalost* u = Co().UdalostKroku(Co().Ted());
-    const bool odchod = pristi == nullptr && !Co().Co().Dokonceny && !Co().KdeSeRozesla();
-    if (odchod) return (u == nullptr ? TextPrikladu() : popis_) + " – tady pokus končí";
-    if (u == nullptr) return TextPrikladu();
-    const auto& konec = Co().PrikladKroku(Co().Ted()).Konec;
-    if (u->Co.Co == Volani::Druh::Kontrola && konec)
-        return popis_ + ": " + TextBodu(konec->Bodu) + " z " + Cislo(BODU_ZA_PRIKLAD);
-    return popis_;
-}
-
 void PrehravaniForm::UkazText() {
     lblKrok.Sazba = lblDal.Sazba = true;
     VypisDalsi();
@@ -404,49 +344,6 @@ void PrehravaniForm::UkazText() {
         lblKrok.Font.Velikost -= 1;
 }
 
-/// The guide's rows in one, or as much of them as fits.
-std::string PrehravaniForm::TextRady() const {
-    const RadkyRady rada = RadaCesky(deska_->RadaTed(), CimSeHraje::Mysi);
-    const std::string cela = rada[0] + (rada[1].empty() ? "" : " ") + rada[1];
-    return SirkaTextu(lblDal.Font, cela) <= lblDal.Width ? cela : rada[0];
-}
-
-/// The second row.
-void PrehravaniForm::VypisDalsi() {
-    const Uloha& uloha = *NajdiUlohu(Co().Co().CisloUlohy);
-    const std::string nazev = std::string(RODINY[uloha.Rodina]) + " " + std::string(uloha.TypUlohy);
-    const bool zacatek = Co().Ted().Udalost == 0 && !Ohlasen();
-    const auto& konec = Co().PrikladKroku(Co().Ted()).Konec;
-    if (tempo_ == Tempo::Vyklad) {
-        const bool poKontrole = Co().NaKonci() || (Co().Pristi()->Udalost == 0);
-        lblDal.Caption = zacatek      ? std::string(PREDVEDENI) + ": " + nazev
-                         : poKontrole ? nazev
-                                      : TextRady();
-        return;
-    }
-    const std::string kdo = Co().Co().Jmeno + ", " + Datum(Co().Co().Zacatek);
-    if (zacatek) {
-        lblDal.Caption = kdo + ", " + nazev;
-        return;
-    }
-    lblDal.Caption = TextPrikladu() + ", " +
-                     (konec ? TextBodu(konec->Bodu) + " z " + Cislo(BODU_ZA_PRIKLAD)
-                            : std::string("bez kontroly")) +
-                     " – " + kdo;
-}
-
-std::string PrehravaniForm::TextKarty() const {
-    std::string text;
-    if (const Udalost* u = Co().UdalostKroku(Co().Ted())) {
-        for (const ChybnyKrok& c : u->Chyby) text += (text.empty() ? "" : "\n") + c.Text;
-    }
-    if (Co().NaKonci() && Co().KdeSeRozesla()) {
-        text += (text.empty() ? "" : "\n") +
-                ("Dál záznam přehrát nejde: " + Co().KdeSeRozesla()->Proc + ".");
-    }
-    return text;
-}
-
 void PrehravaniForm::UkazKartu() {
     const std::string text = TextKarty();
     PicKarta.Visible = !text.empty();
@@ -455,11 +352,6 @@ void PrehravaniForm::UkazKartu() {
     txtKarta.Font.Velikost = NEJVETSI_PISMO_KARTY;
     while (!txtKarta.VejdeSe() && txtKarta.Font.Velikost > NEJMENSI_PISMO_KARTY)
         txtKarta.Font.Velikost -= 1;
-}
-
-std::string PrehravaniForm::CoSeRika() const {
-    const std::string karta = TextKarty();
-    return lblKrok.Caption + " " + lblDal.Caption + (karta.empty() ? "" : " " + karta);
 }
 
 int PrehravaniForm::MistoNaPasu(std::uint32_t cas) const {
