@@ -7,6 +7,7 @@
 #include <cmath>
 #include <vector>
 
+#include "Mereni.h"
 #include "base/Rastr.h"
 #include "engine/Sluzby.h"
 #include "engine/Tabulky.h"
@@ -16,7 +17,6 @@
 #include "platform/Obrazovky.h"
 #include "platform/Pisma.h"
 #include "podpora/Konstrukce.h"
-#include "podpora/Mereni.h"
 #include "podpora/ZaznamPlane.h"
 
 namespace rysovna {

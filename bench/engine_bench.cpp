@@ -1,13 +1,13 @@
 #include <benchmark/benchmark.h>
 #include <string>
 
+#include "Mereni.h"
 #include "engine/Kresleni.h"
 #include "engine/PametovaPlocha.h"
 #include "engine/Sluzby.h"
 #include "engine/Tabulky.h"
 #include "hrac/Relace.h"
 #include "podpora/Konstrukce.h"
-#include "podpora/Mereni.h"
 #include "podpora/ProsteHledani.h"
 #include "podpora/ZaznamPlane.h"
 

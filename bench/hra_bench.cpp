@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "Mereni.h"
 #include "hrac/RukaNaDesce.h"
 #include "platform/PosixDisk.h"
-#include "podpora/Mereni.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
 #include "store/TabulkaVysledku.h"
