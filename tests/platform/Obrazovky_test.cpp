@@ -1,4 +1,5 @@
 #include <memory>
+#include <sstream>
 
 #include "PlatformTest.h"
 #include "base/Chyba.h"
@@ -124,40 +125,27 @@ TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
     Form_->SetFocus(Form_->Pole);
     Form_->Hodiny.Interval = 30;
     Form_->Hodiny.Enabled = true;
-    // Each is played at its time in a closed wait of 100 ms, or after it; all that comes of them.
-    struct Pripad {
-        std::vector<std::pair<std::uint32_t, const char*>> Co;
-        Seznam_t Dostane;
-    };
-    const Pripad PRIPADY[] = {
-        {{{20, "d410,105"}, {30, "n410,105"}}, {}},
-        {{{20, "d410,105"}, {90, "p350,300:1"}, {110, "p360,300:1"}, {120, "n410,105"}}, {}},
-        {{{20, "d410,105"}, {120, "n410,105"}, {130, "d410,105:2"}, {140, "n410,105:2"}},
+    // Words, each with its time, in a closed wait of 100 ms or after it; all that comes of them.
+    const std::pair<const char*, Seznam_t> PRIPADY[] = {
+        {"20 d410,105 30 n410,105", {}},
+        {"20 d410,105 90 p350,300:1 110 p360,300:1 120 n410,105", {}},
+        {"20 d410,105 120 n410,105 130 d410,105:2 140 n410,105:2",
          {"Down cmd(1) 10,5", "Up cmd(1) 10,5"}},
-        {{{100, "d410,105"}, {101, "n410,105"}}, {}},
-        {{{20, "+x"},
-          {21, "Return"},
-          {22, "Space"},
-          {23, "Tab"},
-          {24, "+y"},
-          {25, "BackSpace"},
-          {40, "d410,105"},
-          {50, "zavri"},
-          {60, "p350,300:1"},
-          {70, "n410,105"},
-          {80, "p370,300"},
-          {81, "p380,300"}},
+        {"100 d410,105 101 n410,105", {}},
+        {"20 +x 21 Return 22 Space 23 Tab 24 +y 25 BackSpace 40 d410,105 50 zavri 60 p350,300:1 "
+         "70 n410,105 80 p370,300 81 p380,300",
          {"Change x", "Change xy", "Change x", "QueryUnload", "Move form 380,300"}},
     };
-    for (const Pripad& p : PRIPADY) {
-        SCOPED_TRACE(&p - PRIPADY);
+    for (const auto& [co, dostane] : PRIPADY) {
+        SCOPED_TRACE(co);
         Host_.PosunHodiny(1000);
         Form_->Pole.Text.clear();
         const std::uint32_t zacatek = Host_.TickCount();
-        for (const auto& [kdy, co] : p.Co) {
-            Host_.NaplanujZa(kdy, [this, slovo = std::string(co)] {
-                slovo == "zavri" ? Okna().ZadostOZavreni() : Hraj({slovo});
-            });
+        std::istringstream vse(co);
+        std::uint32_t kdy = 0;
+        for (std::string slovo; vse >> kdy >> slovo;) {
+            Host_.NaplanujZa(
+                kdy, [this, slovo] { slovo == "zavri" ? Okna().ZadostOZavreni() : Hraj({slovo}); });
         }
         Host_.Proved(Zavrene(10, 10));
         EXPECT_EQ(Host_.TickCount() - zacatek, 100U);
@@ -165,7 +153,7 @@ TEST_F(ObrazovkyTest, ZavreneCekaniZahodiStiskyAOstatniPodrzi) {
         Form_->Hodiny.Enabled = false;
         while (Host_.Naplanovano() > 0) Host_.Obrat(10);
         Host_.Obrat(0);
-        EXPECT_EQ(Form_->Vezmi(), p.Dostane);
+        EXPECT_EQ(Form_->Vezmi(), dostane);
         Form_->Hodiny.Enabled = true;
     }
     // A release whose press came before the wait is its own; and some forms take presses always.
