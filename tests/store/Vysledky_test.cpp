@@ -117,6 +117,7 @@ class HlidanyDisk final : public DiskStroje {
 public:
     enum class Co { Novy, Otevrit, Pripsat, Slozka };
     std::function<void(Co, const fs::path&)> Pred = [](Co, const fs::path&) {};
+    std::function<bool()> PriOtazce = [] { return true; };  ///< is it kept what was written?
 
     std::unique_ptr<Soubor> NovySoubor(const fs::path& co) override {
         Pred(Co::Novy, co);
@@ -130,6 +131,7 @@ public:
         Pred(Co::Slozka, slozka);
         DiskStroje::SlozkaNaDisk(slozka);
     }
+    bool Uchovano() override { return PriOtazce(); }
 };
 using Co = HlidanyDisk::Co;
 
@@ -291,6 +293,37 @@ TEST_F(Ulozeni, VadyKtereNicNezdrzi) {
         EXPECT_EQ(ulozeni.Misto, 1);
         EXPECT_EQ(Stav(), "A | A | 0");
     }
+}
+
+/// A disk that has kept what was written at the third question only, or refuses at that. A result
+/// is told as stored, and taken out of the queue, only then: whoever is killed before has it there,
+/// and the queue claims nothing that may be lost. What was refused stands in both files once.
+TEST_F(Ulozeni, DoUchovaniZustavaVeFronte) {
+    HlidanyDisk disk;
+    UkladaniHned ukladani = Program(disk);
+    int otazek = 0;
+    bool odmita = true;
+    disk.PriOtazce = [&] {
+        const auto fronta =
+            Fronta(disk, host.SlozkaStavu()).Cekajici(fs::canonical(Cesta("")).string());
+        EXPECT_EQ(fronta.size(), 1U);
+        EXPECT_TRUE(fronta.empty() || (fronta[0].VDeniku == (otazek > 2) && !fronta[0].VTabulce));
+        if (++otazek % 3 != 0) return false;
+        if (odmita) throw ChybaDisku(Pricina::Plno, "uloziste");
+        return true;
+    };
+    EXPECT_NE(ukladani.Uloz(VysledekZaka("A")).Text.find("uložen stranou"), std::string::npos);
+    EXPECT_EQ(Ceka(), 1);
+    odmita = false;
+    otazek = 0;
+    EXPECT_EQ(ukladani.ZkusCekajici(), "");
+    EXPECT_EQ(Stav(), "A | A | 0");
+    otazek = 0;
+    const auto ulozeni = ukladani.Uloz(VysledekZaka("B"));
+    EXPECT_EQ(ulozeni.Text, "");
+    EXPECT_EQ(ulozeni.Misto, 2);
+    EXPECT_EQ(otazek, 6);
+    EXPECT_EQ(Stav(), "A B | A B | 0");
 }
 
 /// Whoever waits for the log keeps the queue's lock; the account's other programs put their results
