@@ -43,13 +43,14 @@ TEST(KlavesyDesky, TabulatorJdeJakoCteniAJenPoZivych) {
     EXPECT_FALSE(r.Hra.Prvek("Combo").Visible);
 }
 
-TEST(KlavesyDesky, EnterVedePolickyKTlacitkuNeboNaPlochu) {
+TEST(KlavesyDesky, EnterATabulatorVedouPolickyAOznaciCoVNichJe) {
     Relace hra(1, Relace::Cim::Klavesami);
     hra.Start();
     hra.SpustUlohu(9);
     RukaNaDesce ruka(hra);
     DokonalyCtyruhelnik(ruka, 1).Oznac();
     ruka.Nastroj(1).Vyber("CDA");
+    EXPECT_EQ(hra.Prvek<Label>("lblText2").Caption, "trojúhelník CDA");
     ruka.Nastroj(2).Vyber("podle věty SSS");
     for (const auto& [pole, text] :
          {std::pair{"txtVstup2", "'12"}, {"txtVstup3", "'13"}, {"cmd6", "'14"}}) {
@@ -57,7 +58,11 @@ TEST(KlavesyDesky, EnterVedePolickyKTlacitkuNeboNaPlochu) {
         Proved(hra, "Return");
         EXPECT_EQ(Prsten(hra), pole);
     }
-    EXPECT_EQ(hra.Prvek<TextBox>("txtVstup2").Text, "13");
+    Proved(hra, "^Tab*3 '6 Tab '7 Tab 'ztraceno");
+    std::string psano;
+    for (const char* pole : {"txtVstup", "txtVstup2", "txtVstup3"})
+        psano += hra.Prvek<TextBox>(pole).Text + " ";
+    EXPECT_EQ(psano, "12 6 7 ");
 
     Rysovac r;
     r.Zacni();

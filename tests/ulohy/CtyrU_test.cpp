@@ -41,24 +41,6 @@ TEST(CtyrUChyby, KazdyTrojuhelnikAKazdyUtvar) {
     EXPECT_EQ(s.Chyby(), "21/3 49/3 301/1 16/1 300/10");
 }
 
-TEST(CtyrUChyby, ZbytekVeSpravnemPade) {
-    StulCtyrU s(9);
-    s.Radek(SSS);
-    for (const auto& [soucet, konec] :
-         {std::pair{0, "    - 8 bodů"}, std::pair{3, "    - 5 bodů"}, std::pair{4, "    - 4 body"},
-          std::pair{6, "    - 2 body"}, std::pair{7, "    - 1 bod"}, std::pair{8, "dokončena."}}) {
-        s.Zacni(3);
-        DokonalyCtyruhelnik zak(s, 1);
-        zak.Oznac();
-        zak.Trojuhelnik();
-        s.Pamet().SoucetZapornychBodu = soucet;
-        s.Zkontroluj();  // two elements are missing
-        EXPECT_EQ(s.Chyby(), "301/2 300/10");
-        EXPECT_TRUE(s.Pamet().ChybneKroky[2].Text.ends_with(konec))
-            << s.Pamet().ChybneKroky[2].Text;
-    }
-}
-
 TEST(CtyrUTrojuhelnik, NesestrojenyNechaPrikladNedokoncenyAVseStisknutelne) {
     StulCtyrU s(9);
     for (const std::string& radek : {SSS, SUS}) {
@@ -122,7 +104,9 @@ TEST(CtyrUUzavreni, PaprskySeMusiProtnoutPredZacatkem) {
         const auto& h = s.dialog.Hodnoty();
         PaprsekVen(s, "ABC", "AX", h[3]);
         PaprsekVen(s, "CBA", "CY", h[4]);
-        EXPECT_EQ(s.PoKontrole(), h[3] + h[4] < beta ? "" : "300/10") << seminko;
+        const bool protnou = h[3] + h[4] < beta;
+        EXPECT_EQ(s.PoKontrole(), protnou ? "" : "300/10") << seminko;
+        EXPECT_TRUE(protnou || s.Pamet().ChybneKroky[1].Text.ends_with("    - 10 bodů"));
     }
 }
 

@@ -5,10 +5,12 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "podpora/Stul.h"
 #include "rules/DialogCtyruhelnikuVrchol.h"
+#include "rules/RovnoDialog.h"
 #include "zak/Ctyruhelnik.h"
 #include "zak/Trojuhelnik.h"
 
@@ -204,6 +206,73 @@ inline void ZmerCtyruhelnik(const std::map<std::string, Bod>& v, const std::stri
     EXPECT_LE(chyba, vule) << velicina << " = " << hodnota;
 }
 
+/// All letters of the finished figure with their places.
+inline std::map<std::string, Bod> Body(const Tabulky& t) {
+    std::map<std::string, Bod> v;
+    for (int i = 1; i <= t.PocetUtvaru; ++i) {
+        const Utvar& u = t.Utvary[i];
+        if (u.Druh == BOD || u.Druh == USECKA) v[u.Jmeno1] = {u.X1, u.Y1};
+        if (u.Druh == USECKA) v[u.Jmeno2] = {u.X2, u.Y2};
+    }
+    return v;
+}
+
+/// The figure that the perfect pupil draws is, but for its pixels, that of the exact values: points
+/// stand apart, angles are no slivers.
+inline void OverCitelnost(const Tabulky& t) {
+    constexpr double ROZESTUP = 30, UHEL = 12, VULE_KRESLENI = 2.5;  // px, degrees, px
+    const auto body = Body(t);
+    for (const auto& [jmeno, p] : body) {
+        for (const auto& [jine, q] : body) {
+            if (jmeno >= jine) continue;
+            EXPECT_GE(Delka(p, q), ROZESTUP - VULE_KRESLENI) << jmeno << " " << jine;
+        }
+    }
+    // The figure, and the one with the second solution in the place of its vertex.
+    for (const std::string carka : {"", "'"}) {
+        std::array<Bod, 4> v{};
+        for (std::size_t i = 0; i < 4; ++i) {
+            const std::string pismeno(1, "ABCD"[i]);
+            v[i] = body.at(body.contains(pismeno + carka) ? pismeno + carka : pismeno);
+        }
+        for (std::size_t i = 0; i < 4; ++i) {
+            const Bod pred = v[(i + 3) % 4], po = v[(i + 1) % 4];
+            const double kratsi = std::min(Delka(v[i], pred), Delka(v[i], po));
+            EXPECT_GE(UhelPri(v[i], pred, po),
+                      UHEL - VULE_KRESLENI / kratsi * STUPNU_PULOTACKY / PI)
+                << "ABCD"[i] << carka;
+        }
+    }
+}
+
+/// How many draws a readable figure of an example took.
+template <class D>
+int Losuj(Stul<D>& s, const Priklad& p) {
+    HodnotyPrikladu h{};
+    Nahoda& nahoda = s.Pamet().Generator;
+    if constexpr (std::is_same_v<D, RovnoDialog>)
+        return VylosujRovnobeznik(nahoda, s.Obraz(), p, h);
+    else
+        return VylosujCtyruhelnik(nahoda, s.Obraz(), p, VETY_CELYCH, h);
+}
+
+/// Draws of every row of the data.
+template <class D>
+void OverLosovani(Stul<D>& s) {
+    constexpr int LOSU = 60, PRUMER_LOSU = 60, NEJVIC_LOSU = 2000;
+    for (int radek = 1; radek <= s.Pamet().PocetPrikladu; ++radek) {
+        s.Pamet().Generator.Zasej(static_cast<std::uint32_t>(radek));
+        int celkem = 0;
+        for (int i = 0; i < LOSU; ++i) {
+            const int losu = Losuj(s, s.Pamet().Priklady[radek]);
+            ASSERT_GE(losu, 1);
+            EXPECT_LT(losu, NEJVIC_LOSU);
+            celkem += losu;
+        }
+        EXPECT_LE(celkem, PRUMER_LOSU * LOSU) << s.Pamet().Priklady[radek].Druh;
+    }
+}
+
 /// The closed figure, both solutions, against what is given.
 template <class D>
 void ZmerObe(const Stul<D>& s) {
@@ -221,10 +290,12 @@ void ZmerObe(const Stul<D>& s) {
 }
 
 /// Every line of a file, many seeds, every fourth time after having gone all the way back: ten of
-/// ten and the figure asked for. How often there were two solutions.
+/// ten and the figure asked for, readable and found in few draws. How often there were two
+/// solutions.
 template <class Z, class D>
 int OdehrajSoubor(int uloha, void (*zmer)(const Stul<D>&)) {
     Stul<D> s(uloha);
+    OverLosovani(s);
     int druhaReseni = 0;
     s.KazdyRadek([&](std::uint32_t seminko) {
         Z zak(s, seminko);
@@ -243,6 +314,7 @@ int OdehrajSoubor(int uloha, void (*zmer)(const Stul<D>&)) {
         }
         EXPECT_EQ(s.PoKontrole(), "");
         zmer(s);
+        OverCitelnost(s.Pamet());
         if (s.Pamet().PocetUtvaru == 9) ++druhaReseni;
     });
     return druhaReseni;

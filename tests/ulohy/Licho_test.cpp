@@ -32,6 +32,7 @@ TEST(LichoChyby, JakoNaCtyruhelnikuJenRovnobezkaNestojiNic) {
     PaprsekVen(s, "ABC", "AY", s.dialog.Hodnoty()[4]);
     EXPECT_FALSE(s.dialog.Hotova());
     EXPECT_EQ(s.PoKontrole(), "300/10");
+    EXPECT_TRUE(s.Pamet().ChybneKroky[1].Text.ends_with("    - 10 bodů"));
 }
 
 TEST(LichoRovnobezka, NestojiNicAVedeVrcholemJenZBlizka) {
@@ -46,11 +47,13 @@ TEST(LichoRovnobezka, NestojiNicAVedeVrcholemJenZBlizka) {
     s.Tahni({30, 30}, {46, 30}).Zpet();
     const Bod a = VrcholNaPlose(s.Pamet(), "A");
     const Bod c = VrcholNaPlose(s.Pamet(), "C");
-    for (const auto& [mimo, vedena] :
-         {std::pair{7, true}, std::pair{-7, true}, std::pair{8, false}}) {
-        s.Nastroj(3).Vyber("AB").Napis(1).Tahni(a, {a.X, c.Y + mimo});
-        EXPECT_EQ(s.Pamet().Utvary[4].Y1, vedena ? c.Y : c.Y + mimo);
-        EXPECT_EQ(s.Pamet().Utvary[4].Y2, s.Pamet().Utvary[4].Y1);
+    // Not by an end of its own base.
+    const std::pair<int, int> kamAKde[] = {
+        {c.Y + 7, c.Y}, {c.Y - 7, c.Y}, {c.Y + 8, c.Y + 8}, {a.Y - 3, a.Y - 3}};
+    for (const auto& [kam, kde] : kamAKde) {
+        s.Nastroj(3).Vyber("AB").Napis(1).Tahni(a, {a.X, kam});
+        EXPECT_EQ(s.Pamet().Utvary[4].Y1, kde);
+        EXPECT_EQ(s.Pamet().Utvary[4].Y2, kde);
         s.Zpet();
     }
     // A parallel to another side is no wrong tool either; the check finds it.

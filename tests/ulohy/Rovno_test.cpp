@@ -9,12 +9,7 @@ namespace {
 using StulRovno = Stul<RovnoDialog>;
 
 void Zmer(const StulRovno& s) {
-    std::map<std::string, Bod> v;
-    for (int i = 1; i <= s.Pamet().PocetUtvaru; ++i) {
-        const Utvar& u = s.Pamet().Utvary[i];
-        v[u.Jmeno1] = {u.X1, u.Y1};
-        if (u.Druh == USECKA) v[u.Jmeno2] = {u.X2, u.Y2};
-    }
+    const std::map<std::string, Bod> v = Body(s.Pamet());
     for (const auto& [velicina, hodnota] : s.Zadani()) {
         if (velicina == "epsi" || velicina == "omeg") {
             const Bod druhy = v.at(velicina == "epsi" ? "A" : "C");

@@ -1,14 +1,12 @@
-// Pushed parallels, on every board that has them: whatever the push, what is stored is parallel to
-// the base and where the pointer was, and a push that is right costs nothing.
+// Pushed parallels, of tangents and of triangles by heights: whatever the push, what is stored is
+// parallel to the base and where the pointer was, and a push that is right costs nothing.
 
 #include <algorithm>
 #include <cmath>
 
 #include "TecnyHra.h"
 #include "engine/Resitele.h"
-#include "rules/LichoDialog.h"
 #include "rules/Troj2Dialog.h"
-#include "zak/Ctyruhelnik.h"
 #include "zak/Trojuhelnik.h"
 
 namespace rysovna::testy {
@@ -145,42 +143,6 @@ TEST(Vysky, RovnobezkaJeTamKdeUkazatel) {
         if (s.Pamet().Trojice_tab[2].PrvniNechyta) ++daleko;
     }
     EXPECT_GT(daleko, Posunu() / 20);
-}
-
-// ---- Quadrilaterals --------------------------------------------------------------------------
-
-TEST(Zakladny, RovnobezkaVrcholemProchaziVrcholem) {
-    Stul<LichoDialog> s(11);
-    Los los(13);
-    std::uint32_t vrcholem = 0;
-    for (std::uint32_t i = 1; i <= Posunu(); ++i) {
-        SCOPED_TRACE(i);
-        DokonalyCtyruhelnik zak(s.Zacni(i), i);
-        zak.Oznac();
-        zak.Trojuhelnik();
-        s.Posun(los.Mezi(-7, 7) * 20, los.Mezi(-7, 7) * 20);
-        s.Nastroj(3);
-        const auto radky = s.dialog.UkazPanel().Vyber.Radky;
-        const std::string strana =
-            radky[static_cast<std::size_t>(los.Cislo(static_cast<int>(radky.size())))].Text;
-        s.Vyber(strana);
-        const Utvar zakladna = s.Pamet().Utvary[s.Pamet().VybranyUtvar];
-        Bod treti{};
-        for (const char c : s.Zaznam().Text2) {
-            if (strana.find(c) == std::string::npos) treti = VrcholNaPlose(s.Pamet(), {&c, 1});
-        }
-        const Bod stisk = Nekde(los);
-        const bool mireny = los.Ano();
-        const Bod kam = mireny ? los.Vedle(treti, 4) : Nekde(los);
-        s.Tahni(stisk, kam);
-        ASSERT_NO_FATAL_FAILURE(OverPosun(s.Pamet(), zakladna));
-        const Utvar& u = s.Pamet().Utvary[4];
-        if (mireny) ++vrcholem;
-        ASSERT_TRUE(P1(u) == treti || !mireny);
-        ASSERT_TRUE(P1(u) == treti || OdPrimky(kam, P1(u), P2(u)) <= NEJVIC_PX);
-        ASSERT_EQ(s.Chyby(), "");
-    }
-    EXPECT_GT(vrcholem, Posunu() / 4);
 }
 
 }  // namespace

@@ -42,7 +42,15 @@ void Zmer(const Stul<D>& s) {
 template <class D>
 void Odehraj(int uloha) {
     Stul<D> s(uloha);
-    s.KazdyRadek([&s](std::uint32_t seminko) {
+    /// What is shown, less what the closed list held.
+    const auto panel = [&s] {
+        Panel p = s.dialog.UkazPanel();
+        p.Vyber = {};
+        return p;
+    };
+    s.KazdyRadek([&](std::uint32_t seminko) {
+        Panel zacatek = panel();
+        zacatek.Nastroje[0].Jak = MistoNastroje::Stav::Zivy;  // a tool was pressed already
         DokonalyTrojuhelnik(s, seminko).Sestroj();
         for (int zbyde = seminko % 4 == 0 ? 2 : -1; zbyde >= 0; --zbyde) {
             EXPECT_EQ(s.dialog.Hotova(), zbyde == 2);
@@ -50,10 +58,14 @@ void Odehraj(int uloha) {
             EXPECT_EQ(s.Pamet().PocetUtvaru, zbyde);
             EXPECT_EQ(s.Pamet().PocetTrojic, zbyde);
             const char* const VYZVY[] = {"", "1. útvar:", "2. útvar:"};
-            EXPECT_EQ(s.dialog.UkazPanel().Nadpis, VYZVY[zbyde]);
+            const Panel ted = panel();
+            EXPECT_EQ(ted.Nadpis, VYZVY[zbyde]);
+            EXPECT_TRUE(ted.PlochaZiva);
+            for (std::size_t i = 0; i < 5; ++i) EXPECT_TRUE(zbyde == 0 || ted.Nastroje[i].Zivy());
             if (zbyde > 0) continue;
             for (const Zadano& z : s.Zadani())  // off: to be marked anew
                 s.Oznac(MistoNaNacrtu(z.Velicina).Stred());
+            EXPECT_TRUE(panel() == zacatek);
             DokonalyTrojuhelnik(s, seminko + 7).Sestroj();
         }
         EXPECT_EQ(s.PoKontrole(), "");
