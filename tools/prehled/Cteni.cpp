@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <exception>
-#include <system_error>
 #include <utility>
 #include <zlib.h>
 
 #include "base/Chyba.h"
+#include "base/Disk.h"
 #include "base/Text.h"
 #include "engine/PametovaPlocha.h"
 #include "platform/Stroj.h"
@@ -22,9 +22,20 @@ namespace {
 namespace fs = std::filesystem;
 
 /// No series of a pupil's comes near it, bytes.
-constexpr std::uintmax_t NEJVIC_BAJTU = 4'000'000;
+constexpr std::size_t NEJVIC_BAJTU = 4'000'000;
 /// Nor do its figures come near this.
-constexpr std::size_t NEJVIC_OBRAZCU = 100'000'000;
+constexpr std::size_t NEJVIC_OBRAZCU = 20'000'000;
+/// Within so many bytes the name stands.
+constexpr std::size_t HLAVICKA = 4096;
+
+/// What a file begins with; nothing where it cannot be read.
+std::optional<std::string> Zacatek(const fs::path& soubor, std::size_t bajtu) {
+    try {
+        return DiskStroje().Otevri(soubor, Disk::Jak::Cteni)->Cti(0, bajtu);
+    } catch (const ChybaDisku&) {
+        return std::nullopt;
+    }
+}
 
 /// The drawing plane of the boards, px.
 constexpr int SIRKA_PLOCHY = 384, VYSKA_PLOCHY = 335;
@@ -148,6 +159,12 @@ void ProObrazce(S& serie, F coSNim) {
 
 constexpr char ODDELOVAC = '\0';
 
+std::size_t DelkaObrazcu(const Serie& serie) {
+    std::size_t delka = 0;
+    ProObrazce(serie, [&delka](const std::string& o) { delka += o.size() + sizeof ODDELOVAC; });
+    return delka;
+}
+
 }  // namespace
 
 std::string BezBodu(std::string_view veta) {
@@ -171,24 +188,26 @@ std::string BezBodu(std::string_view veta) {
     return BezKrajnichMezer(cela);
 }
 
-std::optional<std::string> JmenoVTextu(std::string_view text) {
+std::optional<std::string> JmenoVSouboru(const fs::path& soubor) {
     constexpr std::string_view SLOVO = "\njmeno ";
+    const std::string text = Zacatek(soubor, HLAVICKA).value_or(std::string());
     const std::size_t kde = text.find(SLOVO);
-    if (kde == std::string_view::npos) return std::nullopt;
-    const std::string_view zbytek = text.substr(kde + SLOVO.size());
+    if (kde == std::string::npos) return std::nullopt;
+    const std::string_view zbytek = std::string_view(text).substr(kde + SLOVO.size());
     return ZRadku(zbytek.substr(0, std::min(zbytek.find_first_of("\r\n"), zbytek.size())));
 }
 
 PrectenaSerie PrectiSerii(const fs::path& soubor) {
-    std::error_code chyba;
-    if (fs::file_size(soubor, chyba) > NEJVIC_BAJTU && !chyba)
-        return {.Vada = "Soubor je příliš velký."};
-    const std::optional<std::string> text = CelySoubor(soubor);
+    const std::optional<std::string> text = Zacatek(soubor, NEJVIC_BAJTU + 1);
     if (!text) return {.Vada = "Soubor nelze přečíst."};
+    if (text->size() > NEJVIC_BAJTU) return {.Vada = "Soubor je příliš velký."};
     PrectenyPokus pokus = CtiPokus(*text);
     if (!pokus.Co) return {.Vada = std::move(pokus.Vada)};
     try {
-        return SerieZPokusu(*pokus.Co, soubor.filename().string());
+        PrectenaSerie serie = SerieZPokusu(*pokus.Co, soubor.filename().string());
+        if (DelkaObrazcu(*serie.Co) > NEJVIC_OBRAZCU)
+            return {.Vada = "Obrazce pokusu jsou příliš velké."};
+        return serie;
     } catch (const std::exception& vyjimka) {
         return {.Vada = std::string("Pokus nejde přehrát: ") + vyjimka.what() + "."};
     }

@@ -19,8 +19,8 @@ struct PrectenaSerie {
 /// Reads an attempt and plays it again. May be called by several threads at once.
 [[nodiscard]] PrectenaSerie PrectiSerii(const std::filesystem::path& soubor);
 
-/// The name in a text that may be no whole attempt; nothing where none stands.
-[[nodiscard]] std::optional<std::string> JmenoVTextu(std::string_view text);
+/// The name in a file that may be no whole attempt; nothing where none stands.
+[[nodiscard]] std::optional<std::string> JmenoVSouboru(const std::filesystem::path& soubor);
 
 /// A sentence of a wrong step without the points that the boards put behind it: "  -3 body".
 [[nodiscard]] std::string BezBodu(std::string_view veta);

@@ -9,7 +9,6 @@
 #include <utility>
 
 #include "base/Disk.h"
-#include "platform/Stroj.h"
 #include "prehled/Cteni.h"
 
 namespace rysovna::prehled {
@@ -42,7 +41,7 @@ Prectene Precti(const Sber& sber, std::span<const Nalezeny> kopie) {
     }
     // Its first copy is the one that is told.
     p.Slozka = kopie.front().Slozka;
-    if (const auto text = CelySoubor(sber.Cesta(kopie.front()))) p.Jmeno = JmenoVTextu(*text);
+    p.Jmeno = JmenoVSouboru(sber.Cesta(kopie.front()));
     return p;
 }
 

@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <ostream>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -94,6 +95,25 @@ bool Souhlasi(const Odsouzene& o, const Zak& zak, const Sber& sber, std::istream
     return false;
 }
 
+/// The index forgets those names in other folders too, where files are not touched; which folders
+/// these are is told.
+void ZapomenJinde(const Odsouzene& o, const StavRejstriku& stav, Rejstrik& rejstrik,
+                  std::ostream& kam) {
+    std::set<std::string> klice;
+    for (const auto& [jmeno, kolik] : o.Jmena) klice.insert(KlicJmena(jmeno));
+    std::map<std::string, std::size_t> slozky;
+    for (const auto& [soubor, z] : rejstrik.Serie()) {
+        if (stav.Serie.contains(soubor) || !klice.contains(KlicJmena(z.Jmeno))) continue;
+        rejstrik.Odeber(z.Id);
+        ++slozky[z.Slozka];
+    }
+    if (slozky.empty()) return;
+    kam << "Pokusy téhož jména byly i ve složkách, které teď nebyly zadány. Rejstřík je zapomněl, "
+           "soubory tam zůstaly:\n";
+    for (const auto& [slozka, kolik] : slozky)
+        kam << "  " << slozka << ": " << Pocet(kolik, SOUBORU) << "\n";
+}
+
 }  // namespace
 
 bool SmazZaka(const Volby& volby, const Sber& sber, const StavRejstriku& stav,
@@ -126,8 +146,9 @@ bool SmazZaka(const Volby& volby, const Sber& sber, const StavRejstriku& stav,
         if (const auto s = stav.Serie.find(soubor); s != stav.Serie.end())
             rejstrik.Odeber(s->second.Id);
     }
-    rejstrik.Potvrd();
     kam << "Odstraněno: " << Pocet(odstraneno, POKUSU) << ".\n";
+    ZapomenJinde(o, stav, rejstrik, kam);
+    rejstrik.Potvrd();
     return odstraneno == o.Pokusy.size();
 }
 

@@ -1,5 +1,7 @@
 #include "prehled/Sql.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace rysovna::prehled {
@@ -8,11 +10,28 @@ namespace {
 
 constexpr int CEKANI_NA_JINEHO = 10'000;  // ms
 
+/// What a teacher can do something about; anything else is told in the library's own words.
+constexpr std::pair<int, const char*> PRICINY[] = {
+    {SQLITE_BUSY, "pracuje s ním jiný přehled, zkuste to, až skončí"},
+    {SQLITE_FULL, "na disku není místo"},
+    {SQLITE_READONLY, "nesmí se do něj psát"},
+    {SQLITE_CANTOPEN, "není to soubor, nebo k němu chybí oprávnění"},
+    {SQLITE_IOERR, "disk nečte nebo nezapisuje"},
+    {SQLITE_NOMEM, "nestačí paměť"}};
+
+int Kod(sqlite3* databaze) {
+    return databaze == nullptr ? SQLITE_NOMEM : sqlite3_errcode(databaze);
+}
+
+const char* Proc(sqlite3* databaze) {
+    const auto* p = std::ranges::find(PRICINY, Kod(databaze), &std::pair<int, const char*>::first);
+    return p != std::end(PRICINY) ? p->second : sqlite3_errmsg(databaze);
+}
+
 }  // namespace
 
-ChybaSql::ChybaSql(sqlite3* databaze)
-    : std::runtime_error(databaze == nullptr ? "nestačí paměť" : sqlite3_errmsg(databaze)) {
-    const int kod = databaze == nullptr ? SQLITE_NOMEM : sqlite3_errcode(databaze);
+ChybaSql::ChybaSql(sqlite3* databaze) : std::runtime_error(Proc(databaze)) {
+    const int kod = Kod(databaze);
     vadna_ = kod == SQLITE_CORRUPT || kod == SQLITE_NOTADB;
 }
 

@@ -50,6 +50,8 @@ std::optional<std::vector<std::string>> Pole(std::string_view radek) {
 TabulkaZaku::TabulkaZaku(std::string_view obsah, const fs::path& soubor) {
     if (obsah.starts_with(ZNACKA_UTF8)) obsah.remove_prefix(ZNACKA_UTF8.size());
     std::map<std::pair<std::string, std::string>, std::size_t> znami;
+    std::map<std::string, std::string> tridy;  // one spelling of each, the first
+    bool nadpis = true;                        // may stand on the next row
     int cislo = 0;
     for (const std::string& radek : NaRadky(obsah)) {
         ++cislo;
@@ -61,12 +63,13 @@ TabulkaZaku::TabulkaZaku(std::string_view obsah, const fs::path& soubor) {
         if (pole->front().starts_with('#') || (pole->size() == 1 && pole->front().empty()))
             continue;
         const std::string klic = KlicJmena(pole->front());
-        if (cislo == 1 && klic == NADPIS) continue;
+        if (std::exchange(nadpis, false) && klic == NADPIS) continue;
         if (pole->size() > POLI) vada("na řádku je víc než jméno;žák;třída");
         if (pole->size() == 1) vada("za jménem chybí středník a žák nebo třída");
         if (klic.empty()) vada("chybí jméno");
         pole->resize(POLI);
-        Zak zak{.Jmeno = (*pole)[1].empty() ? (*pole)[0] : (*pole)[1], .Trida = (*pole)[2]};
+        const auto trida = tridy.try_emplace(KlicJmena((*pole)[2]), (*pole)[2]).first;
+        Zak zak{.Jmeno = (*pole)[1].empty() ? (*pole)[0] : (*pole)[1], .Trida = trida->second};
         const auto [kdo, novy] =
             znami.try_emplace({KlicJmena(zak.Jmeno), KlicJmena(zak.Trida)}, zaci_.size());
         if (novy) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Disk.h"
+#include "prehled/Jmena.h"
 #include "store/TextRadku.h"
 
 namespace rysovna::prehled {
@@ -19,7 +20,8 @@ Složka je složka výsledků hry, složka Pokusy v ní nebo jakákoli, ve kter�
 víc; týž pokus z několika složek se počítá jednou. Vedle stránky vzniknou dvě tabulky pro tabulkový
 program: SOUBOR-serie.csv a SOUBOR-chyby.csv.
 
-  -o SOUBOR.html      stránka, kterou otevře každý prohlížeč, i bez internetu
+  -o SOUBOR.html      stránka, kterou otevře každý prohlížeč, i bez internetu; .html, které chybí,
+                      se doplní
   --od DATUM          na stránce jen série od tohoto dne, třeba 1.9.2026
   --do DATUM          a do tohoto dne, včetně; tabulky mají série vždy všechny
   --trida TŘÍDA       na stránce jen žáci této třídy; k tomu je potřeba --zaci
@@ -45,8 +47,19 @@ Den CtiDen(const std::string& text) {
     return *den;
 }
 
+/// A page's name ends as browsers know it: "7.A" is "7.A.html", and a table is never written over.
+std::filesystem::path JmenoStranky(const std::string& text) {
+    std::filesystem::path stranka = CestaZTextu(text);
+    const std::string jmeno = stranka.filename().string();
+    if (jmeno.empty() || jmeno == "." || jmeno == "..")
+        throw SpatneVolby("Za -o patří jméno stránky, ne složka (" + text + ").");
+    const std::string pripona = KlicJmena(stranka.extension().string());
+    if (pripona != ".html" && pripona != ".htm") stranka += ".html";
+    return stranka;
+}
+
 std::vector<Volba> ZnameVolby() {
-    return {{"-o", "jméno stránky", [](Volby& v, const auto& t) { v.Vystup = CestaZTextu(t); }},
+    return {{"-o", "jméno stránky", [](Volby& v, const auto& t) { v.Vystup = JmenoStranky(t); }},
             {"--od", "datum", [](Volby& v, const auto& t) { v.Od = CtiDen(t); }},
             {"--do", "datum", [](Volby& v, const auto& t) { v.Do = CtiDen(t); }},
             {"--trida", "třída", [](Volby& v, const auto& t) { v.Trida = t; }},

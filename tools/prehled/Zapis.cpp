@@ -12,7 +12,12 @@ namespace fs = std::filesystem;
 NovySoubor::NovySoubor(fs::path kam) : kam_(std::move(kam)), vedle_(kam_) {
     vedle_ += ".nove";
     proud_.open(vedle_, std::ios::binary | std::ios::trunc);
-    if (!proud_) Selhal();
+    if (proud_) return;
+    const fs::path slozka = kam_.parent_path();
+    std::error_code nevadi;
+    if (!slozka.empty() && !fs::is_directory(slozka, nevadi))
+        throw BehovaChyba("Taková složka není", slozka.string());
+    Selhal();
 }
 
 NovySoubor::~NovySoubor() {

@@ -49,7 +49,7 @@ function prikladPokusu(serie, obrazce, i) {
   const nadpis = `Příklad ${i + 1}`;
   return prvek("div", { class: "priklad" },
     obrazce.konce[i] ? obrazec(obrazce.konce[i], `${nadpis}: hotový obrazec`)
-      : prvek("p", {}, "Obrazec se nepodařilo sestrojit znovu."),
+      : prvek("p", {}, "Bez obrazce: nic nebylo nakresleno, nebo se pokus nepodařilo přehrát."),
     prvek("div", {}, prvek("h3", {}, nadpis), prvek("p", {}, zadani),
       prvek("p", {}, `${jak} · ${doba(trvani)}`),
       chyby.length === 0 ? prvek("p", {}, "Bez chyby.")

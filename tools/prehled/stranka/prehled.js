@@ -37,10 +37,10 @@ function ukazSouhrn() {
 // ---- Pupils by tasks ----
 const tabulkaZaku = new Tabulka(id("zaci"), { klic: "zak", smer: 1 }, ukazZaky);
 
-// Of a pupil's series of a task: the best mark and the last one, and how many.
+// Of a pupil's series of a task, from the oldest on as all records are: the best mark and the last
+// one, and how many.
 function souhrnUlohy(serie) {
-  const znamky = [...serie].sort((a, b) => (a.kdy < b.kdy ? -1 : 1)).map((s) => s.znamka)
-    .filter((z) => z > 0);
+  const znamky = serie.map((s) => s.znamka).filter((z) => z > 0);
   return { serii: serie.length, nejlepsi: znamky.length ? Math.min(...znamky) : 0,
     posledni: znamky.length ? znamky[znamky.length - 1] : 0 };
 }
