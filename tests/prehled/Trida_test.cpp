@@ -213,6 +213,7 @@ TEST_F(Trida, UkazeOCoSeZadaAPoznaZmenyVeSlozkach) {
         "\xEF\xBB\xBF# poznámka\r\nJméno;Žák;Třída\r\nzofie rerichova 1;;6.A\r\n"
         "\"Žofie Řeřichová 2\";\"Nováková; Žofie\";6.a\r\nŽofie Řeřichová 3;;7.B\r\n",
         "zaci.csv");
+    EXPECT_EQ(tabulka.Tridy(), (std::vector<std::string>{"6.A", "7.B"}));
     const Volby volby{.Od = DenZTextu("2. 9. 2026"), .Do = DenZTextu("2026-09-03"), .Trida = "6.A"};
     Vysledek v = Prehledni(volby, tabulka);
     EXPECT_EQ(v.Novych, znam.size());
@@ -307,6 +308,20 @@ TEST_F(Trida, OdstraniZakaAJenJehoAzPoOdpovedi) {
     EXPECT_TRUE(smaz("ano\n", receno, 7, false));
     EXPECT_NE(receno.find("doma/hloubeji/Pokusy: 1 soubor\n"), std::string::npos) << receno;
     EXPECT_EQ(Prehledni().Novych, 1U);
+}
+
+TEST_F(Trida, KopieJinehoJmenaJeTyzPokus) {
+    const std::string hra = "20260901-0800-01-0123456789abcdef";
+    for (const std::string& jmeno :
+         {"ucebna/Pokusy/" + hra, "doma/" + hra + " (1)", "doma/" + hra + " – kopie",
+          std::string("doma/Novák 1"), std::string("doma/Novák 2")})
+        Zapis(jmeno + ".pokus", "");
+    const Sber sber = Najdi();
+    std::vector<std::size_t> kopii;
+    for (std::size_t i = 0; i < sber.Soubory.size(); i += kopii.back())
+        kopii.push_back(sber.Kopie(i).size());
+    EXPECT_EQ(kopii, (std::vector<std::size_t>{3, 1, 1}));
+    for (const Nalezeny& n : sber.Soubory) EXPECT_TRUE(fs::exists(sber.Cesta(n))) << n.NaDisku;
 }
 
 TEST(Csv, PoleSeVratiANeniVzorcem) {

@@ -36,6 +36,7 @@ Prectene Precti(const Sber& sber, std::span<const Nalezeny> kopie) {
         p.Slozka = n.Slozka;
         p.Serie = PrectiSerii(sber.Cesta(n));
         if (!p.Serie.Co) continue;
+        p.Serie.Co->Soubor = n.Soubor;
         p.Obrazce = ZabalObrazce(*p.Serie.Co);
         return p;
     }
