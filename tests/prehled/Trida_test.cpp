@@ -332,7 +332,6 @@ TEST(Csv, PoleSeVratiANeniVzorcem) {
                                                         {"-x", "'-x"},
                                                         {"@x;", "\"'@x;\""},
                                                         {"dva\nřádky", "\"dva\nřádky\""},
-                                                        {"Nov\xE1k", "Nov\uFFFDk"},
                                                         {"", ""}};
     for (const auto& [co, jak] : POLE) EXPECT_EQ(PoleCsv(co), jak);
 }

@@ -97,6 +97,11 @@ private:
     std::unique_ptr<Dialog> dialog_;
 };
 
+/// What others wrote may be no valid text; tables and the page are.
+std::string Platne(std::string_view text) {
+    return ZeZnaku(DoZnaku(text));
+}
+
 std::uint32_t KonecPrikladu(const HranyPriklad& p) {
     return p.Udalosti.empty() ? p.Kdy : std::max(p.Kdy, p.Udalosti.back().Co.Kdy);
 }
@@ -113,7 +118,7 @@ void PridejPriklad(Serie& serie, const HranyPriklad& p, std::string zadani,
         for (const ChybnyKrok& c : u.Chyby) {
             serie.Chyby.push_back({.Cislo = CeleCislo<int>(c.Cislo).value_or(0),
                                    .Bodu = c.Body,
-                                   .Veta = BezBodu(c.Text),
+                                   .Veta = BezBodu(Platne(c.Text)),
                                    .Priklad = static_cast<int>(serie.Priklady.size()) + 1,
                                    .Kdy = u.Co.Kdy,
                                    .Obrazec = Vezmi(obrazceChyb, chyba++)});
@@ -136,14 +141,14 @@ void PridejPriklad(Serie& serie, const HranyPriklad& p, std::string zadani,
 PrectenaSerie SerieZPokusu(const Pokus& pokus, std::string soubor) {
     Obrazce obrazce = NakresliPokus(pokus);
     Serie serie{.Soubor = std::move(soubor),
-                .JmenoNapsane = pokus.Jmeno,
+                .JmenoNapsane = Platne(pokus.Jmeno),
                 .Uloha = pokus.CisloUlohy,
                 .Zacatek = pokus.Zacatek,
                 .Dokoncena = pokus.Dokonceny};
     Zadavani zadavani(pokus.CisloUlohy);
     for (std::size_t i = 0; i < pokus.Priklady.size(); ++i) {
         PridejPriklad(
-            serie, pokus.Priklady[i], zadavani.Text(pokus.Priklady[i].Zadani),
+            serie, pokus.Priklady[i], Platne(zadavani.Text(pokus.Priklady[i].Zadani)),
             i < obrazce.Chyby.size() ? std::move(obrazce.Chyby[i]) : std::vector<std::string>());
         serie.Priklady.back().Obrazec = Vezmi(obrazce.Priklady, i);
     }

@@ -4,7 +4,6 @@
 #include <span>
 
 #include "base/Cisla.h"
-#include "base/Text.h"
 #include "rules/Ulohy.h"
 
 namespace rysovna::prehled {
@@ -129,8 +128,7 @@ void Udaje(std::ostream& kam, std::span<const Sloupec<R>> sloupce, const R& rade
 std::string PoleCsv(std::string_view text) {
     std::string pole;
     if (!text.empty() && ZACATKY_VZORCU.find(text.front()) != std::string_view::npos) pole += '\'';
-    // Letters that are none become such as say so: one would spoil the table for a spreadsheet.
-    pole += ZeZnaku(DoZnaku(text));
+    pole += text;
     if (pole.find_first_of(";\"\r\n") == std::string::npos) return pole;
     std::string vUvozovkach = "\"";
     for (const char z : pole) {
