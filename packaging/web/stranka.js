@@ -363,19 +363,27 @@ class Stranka {
   // Files of attempts, as [name, bytes]. What is to be told, and the name of one to be watched.
   async pridejPokusy(soubory) {
     let prvni = "", pridano = 0;
+    const vadne = [];
     for (const [jmeno, bajty] of soubory) {
       // What a browser or a person put behind a name that was taken already.
-      const nase = jmeno.replace(/ ?\(\d+\)(?=\.pokus$)/, "").replace(/[^\w.-]/g, "_");
+      const nase = jmeno.replace(/ ?\(\d+\)(?=\.pokus$)/, "").replace(/^\.|[^\w.-]/g, "_");
       const stav = this.pridej(this.modul._rys_pridej_pokus, nase, bajty);
       if (stav === 1) return [UKLADA_SE, ""];
-      if (stav === 2) return [`${jmeno} není celý záznam pokusu.`, ""];
+      if (stav === 2) {
+        vadne.push(jmeno);
+        continue;
+      }
       ++pridano;
       prvni = nase;
     }
     const proc = await this.uchovano();
     if (proc) return [`Záznam pokusu se nepodařilo uložit: ${proc}.`, ""];
-    return pridano === 1 ? ["Záznam pokusu je přidán.", prvni]
-      : [`Záznamy pokusů jsou přidány: ${pridano}.`, ""];
+    const vady = vadne.length === 0 ? "" : vadne.length === 1
+      ? `${vadne[0]} není celý záznam pokusu.`
+      : `Souborů, které nejsou celé záznamy pokusů: ${vadne.length} (první je ${vadne[0]}).`;
+    const pridane = pridano === 0 ? "" : pridano === 1 ? "Záznam pokusu je přidán."
+      : `Záznamy pokusů jsou přidány: ${pridano}.`;
+    return [[pridane, vady].filter(Boolean).join(" "), pridano === 1 ? prvni : ""];
   }
 }
 
@@ -396,8 +404,12 @@ function celaObrazovka() {
 function ozivListu(stranka) {
   $("cela").hidden = !document.fullscreenEnabled;
   $("cela").onclick = celaObrazovka;
-  const soubor = (co, pripona) =>
-    `rysovna-${co}-${new Date().toISOString().slice(0, 10)}.${pripona}`;
+  const soubor = (co, pripona) => {
+    const d = new Date(); // as the clock on the wall says, where an ISO date would be Greenwich's
+    const dve = (n) => String(n).padStart(2, "0");
+    const den = `${d.getFullYear()}-${dve(d.getMonth() + 1)}-${dve(d.getDate())}`;
+    return `rysovna-${co}-${den}.${pripona}`;
+  };
   $("uloz").onclick = () => {
     podej(soubor("vysledky", "json"), new Blob([stranka.vysledky()], { type: "application/json" }));
     oznam("Výsledky i záznamy pokusů jsou ve stažených souborech.");

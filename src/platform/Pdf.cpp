@@ -242,7 +242,9 @@ Pdf::Pdf(const Udaje& udaje) : vnitrek_(std::make_unique<Vnitrek>()) {
                  {CAIRO_PDF_METADATA_AUTHOR, udaje.Autor.c_str()},
                  {CAIRO_PDF_METADATA_CREATOR, "Rysovna 1"},
                  {CAIRO_PDF_METADATA_CREATE_DATE, kdy}};
-    for (const auto& u : UDAJE) cairo_pdf_surface_set_metadata(v.Plocha.get(), u.Co, u.Text);
+    // Cairo gives the whole document up for a byte that is no UTF-8.
+    for (const auto& u : UDAJE)
+        cairo_pdf_surface_set_metadata(v.Plocha.get(), u.Co, ZeZnaku(DoZnaku(u.Text)).c_str());
     v.Cairo.reset(cairo_create(v.Plocha.get()));
     cairo_scale(v.Cairo.get(), BODU_NA_JEDNOTKU, BODU_NA_JEDNOTKU);
 }

@@ -44,6 +44,11 @@ std::unique_ptr<Dialog> VyrobDialog(Deska deska, Misc& misc, Platna platna) {
     Selhani("Neznámá deska");
 }
 
+std::string TextRozchodu(const Rozchod& rozchod) {
+    const auto krok = rozchod.Udalost == 0 ? "" : ", krok " + std::to_string(rozchod.Udalost);
+    return "příklad " + std::to_string(rozchod.Priklad) + krok + ": " + rozchod.Proc;
+}
+
 Prehravka::Prehravka(const Pokus& pokus, Platna platna, const VyrobceDialogu& vyrobce)
     : pokus_(pokus) {
     const Deska deska = DeskaUlohy(pokus.CisloUlohy);

@@ -28,6 +28,9 @@ struct Rozchod {
     friend bool operator==(const Rozchod&, const Rozchod&) = default;
 };
 
+/// "příklad 2, krok 14: konstrukce je jiná".
+[[nodiscard]] std::string TextRozchodu(const Rozchod& rozchod);
+
 /// An attempt played again, on a session and a dialogue of its own: without screen, file and
 /// chance. After each call charges and tables are compared with what was written down; where they
 /// differ it stops for good. The attempt and the planes must outlive it.

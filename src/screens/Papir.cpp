@@ -135,11 +135,18 @@ private:
     void Hlavicka() {
         const std::string poradi = "příklad " + TextBezMezery(papir_.Poradi) + " z " +
                                    TextBezMezery(papir_.Prikladu) + ", " + Datum(papir_.Kdy);
-        const double dole = y_ + VyskaRadku(TITUL) + 4;
+        const double vpravo = PresnaSirka(BEZNE, poradi);
         pdf_.Text(OKRAJ, y_, TITUL, NazevUlohy(papir_.CisloUlohy));
-        pdf_.Text(OKRAJ, dole, BEZNE, papir_.Jmeno);
-        pdf_.Text(OKRAJ + SIRKA - PresnaSirka(BEZNE, poradi), dole, BEZNE, poradi);
-        y_ = dole + VyskaRadku(BEZNE) + 4;
+        y_ += VyskaRadku(TITUL) + 4;
+        // A name that leaves no room beside it has rows of its own.
+        const bool dlouhe = PresnaSirka(BEZNE, papir_.Jmeno) + MEZERA + vpravo > SIRKA;
+        if (dlouhe) {
+            Odstavec(papir_.Jmeno, BEZNE, OKRAJ, SIRKA);
+        } else {
+            pdf_.Text(OKRAJ, y_, BEZNE, papir_.Jmeno);
+        }
+        pdf_.Text(OKRAJ + SIRKA - vpravo, y_, BEZNE, poradi);
+        y_ += VyskaRadku(BEZNE) + 4;
         pdf_.Cara(OKRAJ, y_, OKRAJ + SIRKA, y_, SILNE, paleta::ACCENT);
         y_ += MEZERA;
     }

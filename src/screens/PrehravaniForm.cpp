@@ -56,6 +56,7 @@ constexpr std::size_t BEZNA = 2;
 constexpr Bod ODKUD_MYS{320, 300};  // px of the design: before its first press
 
 constexpr int SHIFT = 1;
+
 /// Slow at both ends.
 double Plynule(double t) {
     return t * t * (3 - 2 * t);
@@ -84,10 +85,7 @@ void PrehravaniForm::Rozloz() {
     PicHrana.BackColor = paleta::INKOUST;
     Pridej(lblKrok, "lblKrok", KROK, &PicPruh);
     Pridej(lblDal, "lblDal", DAL, &PicPruh);
-    for (Label* l : {&lblKrok, &lblDal}) {
-        l->WordWrap = false;
-        l->Sazba = true;
-    }
+    lblKrok.WordWrap = lblDal.WordWrap = false;
     lblKrok.ForeColor = paleta::INKOUST;
     lblDal.ForeColor = paleta::INKOUST2;
     for (std::size_t i = 0; i < picOvladac.size(); ++i) {
@@ -168,7 +166,9 @@ Cinnost<> PrehravaniForm::TimerTick(Timer& /*t*/) {
     const std::uint32_t ted = s_.Stroj.TickCount();
     const double nasobek = RYCHLOSTI[rychlost_].Kolikrat;
     const double uplynulo = (ted - std::exchange(naposledy_, ted)) * (nasobek > 0 ? nasobek : 1);
-    const auto cele = static_cast<std::uint32_t>(uplynulo + zbytek_);
+    // A machine that slept for days is as if at the end.
+    const auto cele =
+        static_cast<std::uint32_t>(std::min(uplynulo + zbytek_, static_cast<double>(Co().Delka())));
     zbytek_ += uplynulo - cele;
     const std::size_t predtim = Co().Krok();
     prehravani_->NaCas(Co().Cas() + cele);
@@ -334,7 +334,8 @@ void PrehravaniForm::UkazMys() {
 }
 
 void PrehravaniForm::UkazText() {
-    lblKrok.Sazba = lblDal.Sazba = true;
+    lblKrok.Sazba = true;
+    lblDal.Sazba = tempo_ == Tempo::Vyklad;  // else it holds a pupil's name
     VypisDalsi();
     const std::string krok = TextKroku();
     if (lblKrok.Caption == krok) return;
@@ -394,7 +395,7 @@ std::string Prehraj(Sezeni& s, Pokus pokus, Tempo tempo, std::function<void()> p
     const auto form = okna.Nacti<PrehravaniForm>(s, std::move(pokus), tempo);
     if (form->Co().Kroky().empty()) {
         const auto& rozchod = form->Co().KdeSeRozesla();
-        std::string proc = rozchod ? "Záznam nejde přehrát: " + rozchod->Proc + "."
+        std::string proc = rozchod ? "Záznam nejde přehrát (" + TextRozchodu(*rozchod) + ")."
                                    : "V záznamu není žádný příklad.";
         form->Skonci();
         return proc;

@@ -113,7 +113,7 @@ std::string PrehravaniForm::TextKarty() const {
     }
     if (Co().NaKonci() && Co().KdeSeRozesla()) {
         text += (text.empty() ? "" : "\n") +
-                ("Dál záznam přehrát nejde: " + Co().KdeSeRozesla()->Proc + ".");
+                ("Dál záznam přehrát nejde (" + TextRozchodu(*Co().KdeSeRozesla()) + ").");
     }
     return text;
 }

@@ -268,10 +268,18 @@ Cinnost<std::string> UkladaniPokusu::ZkusCekajici(DatumACas dnes) {
     try {
         if (fronta_.empty() || !disk_.JeSlozka(fronta_)) co_return {};
         for (const std::string& jmeno : disk_.Jmena(fronta_)) {
-            if (jmeno.ends_with(PRIPONA)) co_await UlozCekajici(jmeno, Den(dnes));
+            if (!jmeno.ends_with(PRIPONA)) continue;
+            // One that cannot be read keeps none of the others from being stored.
+            try {
+                co_await UlozCekajici(jmeno, Den(dnes));
+            } catch (const std::exception& chyba) {
+                if (proc.empty()) proc = chyba.what();
+            }
         }
-        ZapomenOznameni();
-        co_return {};
+        if (proc.empty()) {
+            ZapomenOznameni();
+            co_return {};
+        }
     } catch (const std::exception& chyba) {
         proc = chyba.what();
     }

@@ -265,7 +265,7 @@ TEST(Prehravani, CoNejdePrehratRekneJednouVetou) {
     EXPECT_EQ(proc(text.substr(0, text.size() / 2)).substr(0, 26), "Záznam pokusu není celý");
     std::string jiny = text;
     jiny[jiny.find("\nstav ") + 6] ^= 1;
-    EXPECT_EQ(proc(jiny), "Záznam nejde přehrát: konstrukce je jiná.");
+    EXPECT_EQ(proc(jiny), "Záznam nejde přehrát (příklad 1: konstrukce je jiná).");
     Relace hra;
     const std::string neni = ZacniPrehravani(hra.Pamet(), hra.DataDir() / "neni.pokus");
     EXPECT_NE(neni.find("neni.pokus: nejde přečíst"), std::string::npos) << neni;
@@ -275,7 +275,9 @@ TEST(Prehravani, CoNejdePrehratRekneJednouVetou) {
     Divak divak(jiny);
     ASSERT_EQ(divak.Proc(), "");
     divak.Hra().Klavesa("End");
-    EXPECT_NE(divak.Form_().CoSeRika().find("Dál záznam přehrát nejde: konstrukce je jiná."),
+    EXPECT_NE(divak.Form_().CoSeRika().find("Dál záznam přehrát nejde (příklad 1, krok " +
+                                            std::to_string(divak.Form_().Co().Kroky().size()) +
+                                            ": konstrukce je jiná)."),
               std::string::npos)
         << divak.Form_().CoSeRika();
 }

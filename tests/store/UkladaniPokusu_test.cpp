@@ -270,8 +270,13 @@ TEST_F(UkladaniPokusuTest, KamNelzePsatSeRekneJednouADoplniSe) {
     }
     EXPECT_EQ(Nove().ZkusCekajici(DNES), "");
     fs::remove(slozka / "vysledky/Pokusy");
+    // What cannot be read keeps the others waiting no longer.
+    const fs::path necitelny = slozka / "stav/fronta/0.pokus";
+    fs::create_directory(necitelny);
     EXPECT_EQ(Nove().ZkusCekajici(DNES), "");
     EXPECT_EQ(Ulozene().size(), 2U);
+    fs::remove(necitelny);
+    EXPECT_EQ(Nove().ZkusCekajici(DNES), "");
     EXPECT_TRUE(Soubory("stav/fronta").empty());
 }
 

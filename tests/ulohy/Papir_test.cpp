@@ -116,6 +116,20 @@ TEST(Papir, ZPrehravaniJsouTytezStranky) {
     EXPECT_TRUE(divak.Prvek<Label>("lblKrok").Caption.starts_with("Uloženo: "));
 }
 
+/// Names as files of others hold them.
+TEST(Papir, JmenoSmiBytJakekoli) {
+    Relace hra;  // fonts
+    hra.Start();
+    const Surface plocha(100, 100);
+    for (const std::string jmeno : {"Petr \xFF Nov\xE1k", "\x01\n(%)\\", ""}) {
+        Papir papir;
+        papir.Jmeno = jmeno;
+        papir.CisloUlohy = 1;
+        const std::string pdf = SlozPapir(papir, plocha, plocha);
+        EXPECT_TRUE(pdf.starts_with("%PDF") && pdf.ends_with("%%EOF\n")) << jmeno;
+    }
+}
+
 TEST(Papir, CoNelzeZapsatSeRekneANicNezustane) {
     Relace hra;
     hra.Start();

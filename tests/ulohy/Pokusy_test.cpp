@@ -173,6 +173,19 @@ private:
     std::unique_ptr<NahravanyDialog> dialog_;
 };
 
+/// Whether what stands there, right or wrong, can be written down, each object once.
+bool ZapiseSe(const Dialog& dialog) {
+    std::vector<int> radky;
+    for (const KrokPostupu& k : SestavPostup(dialog)) {
+        radky.insert(radky.end(), k.Utvary.begin(), k.Utvary.end());
+        if (k.Co.empty()) return false;
+    }
+    std::ranges::sort(radky);
+    for (std::size_t i = 0; i < radky.size(); ++i)
+        if (radky[i] != static_cast<int>(i) + 1) return false;
+    return static_cast<int>(radky.size()) == dialog.Pamet().PocetUtvaru;
+}
+
 /// Series of each task and kind of pupil; more by the environment.
 int Serii() {
     return Prostredi("RYSOVNA_SERII", 5);
@@ -197,6 +210,7 @@ TEST_P(Pokusy, PrehrajeSeJakSeHral) {
         const auto& priklady = precteny.Co->Priklady;
         ASSERT_EQ(priklady.size(), stavy.size());
         while (prehravka.Dalsi()) {
+            EXPECT_TRUE(ZapiseSe(prehravka.Hrany())) << text;
             const std::size_t i = prehravka.Priklad() - 1;
             if (prehravka.Udalost() < priklady[i].Udalosti.size()) continue;
             EXPECT_TRUE(
