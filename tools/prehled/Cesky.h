@@ -16,7 +16,6 @@ namespace rysovna::prehled {
 }
 
 constexpr std::array<std::string_view, 3> POKUSU{"pokus", "pokusy", "pokusů"},
-    SOUBORU{"soubor", "soubory", "souborů"}, SERII{"série", "série", "sérií"},
-    ZAKU{"žáka", "žáků", "žáků"};
+    SOUBORU{"soubor", "soubory", "souborů"}, SERII{"série", "série", "sérií"};
 
 }  // namespace rysovna::prehled

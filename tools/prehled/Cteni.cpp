@@ -37,9 +37,6 @@ std::optional<std::string> Zacatek(const fs::path& soubor, std::size_t bajtu) {
     }
 }
 
-/// The drawing plane of the boards, px.
-constexpr int SIRKA_PLOCHY = 384, VYSKA_PLOCHY = 335;
-
 /// Names of angles as they are written.
 constexpr std::pair<std::string_view, std::string_view> RECKA[] = {
     {"alfa", "α"}, {"beta", "β"}, {"gama", "γ"}, {"delta", "δ"},

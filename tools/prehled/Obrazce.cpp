@@ -12,8 +12,6 @@ namespace rysovna::prehled {
 
 namespace {
 
-constexpr int SIRKA_DESKY = 384, VYSKA_DESKY = 335;  // of a board's plane, px
-
 /// A ring where the pupil pressed or let go when the charge fell.
 constexpr int POLOMER_KROUZKU = 8;
 std::string Krouzek(const Volani& v) {
@@ -31,7 +29,7 @@ std::string Kde(const Rozchod& r) {
 }  // namespace
 
 Obrazce NakresliPokus(const Pokus& pokus) {
-    SvgPlocha pic(SIRKA_DESKY, VYSKA_DESKY), hidenPic(SIRKA_DESKY, VYSKA_DESKY);
+    SvgPlocha pic(SIRKA_PLOCHY, VYSKA_PLOCHY), hidenPic(SIRKA_PLOCHY, VYSKA_PLOCHY);
     Obrazce obrazce{.Priklady = std::vector<std::string>(pokus.Priklady.size()),
                     .Chyby = std::vector<std::vector<std::string>>(pokus.Priklady.size())};
     Prehravka prehravka(pokus, {pic, hidenPic});

@@ -110,9 +110,8 @@ void Rejstrik::Zaloz() {
 std::unordered_map<std::string, Rejstrik::Zaznam> Rejstrik::Serie() {
     return Preloz([&] {
         std::unordered_map<std::string, Zaznam> vse;
-        Dotaz d(db_, "SELECT soubor, id, slozka, jmeno, zacatek FROM serie");
-        while (d.Dalsi())
-            vse.emplace(d.Text(0), Zaznam{d.Cislo(1), d.Text(2), d.Text(3), d.Cislo(4)});
+        Dotaz d(db_, "SELECT soubor, id, slozka, jmeno FROM serie");
+        while (d.Dalsi()) vse.emplace(d.Text(0), Zaznam{d.Cislo(1), d.Text(2), d.Text(3)});
         return vse;
     });
 }

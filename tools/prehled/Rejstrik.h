@@ -34,7 +34,6 @@ public:
         std::int64_t Id = 0;
         std::string Slozka{};  ///< from which it was read
         std::string Jmeno{};   ///< as typed
-        std::int64_t Kdy = 0;  ///< when it began, as CisloCasu has it
     };
     /// By names of files.
     [[nodiscard]] std::unordered_map<std::string, Zaznam> Serie();

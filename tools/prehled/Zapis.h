@@ -15,7 +15,6 @@ public:
     NovySoubor& operator=(const NovySoubor&) = delete;
 
     [[nodiscard]] std::ostream& Proud() { return proud_; }
-    [[nodiscard]] const std::filesystem::path& Kam() const { return kam_; }
     void Dokonci();
 
 private:
