@@ -267,6 +267,7 @@ TEST_F(Trida, UkazeOCoSeZadaAPoznaZmenyVeSlozkach) {
 TEST_F(Trida, OdstraniZakaAJenJehoAzPoOdpovedi) {
     OdehrajVse();
     Zapis("doma/kus.pokus", "RYSOVNA1 POKUS 1\nprogram 1.0\njmeno žofie řeřichová 5\nuloha 1\n");
+    Zapis("doma/prazdny.pokus", "");
     const auto smaz = [this](const char* odpoved, std::string& receno, int zak = 5,
                              bool vsude = true) {
         std::string oznam;
@@ -292,6 +293,10 @@ TEST_F(Trida, OdstraniZakaAJenJehoAzPoOdpovedi) {
     }
     std::string receno;
     EXPECT_FALSE(smaz("ne\n", receno));
+    EXPECT_NE(
+        receno.find("zůstanou:\n  " + (fs::canonical(koren) / "doma/prazdny.pokus\n").string()),
+        std::string::npos)
+        << receno;
     EXPECT_NE(receno.find("Žofie Řeřichová 5\n"), std::string::npos) << receno;
     EXPECT_NE(receno.find(" " + std::to_string(pokusu) + " pokusů ("), std::string::npos) << receno;
     EXPECT_NE(receno.find("(" + std::to_string(kopii) + " soubor"), std::string::npos) << receno;

@@ -67,6 +67,17 @@ Odsouzene Vyber(std::size_t zak, const Sber& sber, const StavRejstriku& stav,
     return o;
 }
 
+/// What may be the pupil's as well as anybody's.
+void RekniNepoznane(const Sber& sber, const StavRejstriku& stav, std::ostream& kam) {
+    std::vector<fs::path> nepoznane = sber.Neprohlednute;
+    for (const VadnySoubor& v : stav.Vadne) {
+        if (!v.Jmeno) nepoznane.push_back(v.Cesta);
+    }
+    if (nepoznane.empty()) return;
+    kam << "Čí jsou, nejde přečíst; tyto soubory a složky tedy zůstanou:\n";
+    for (const fs::path& co : nepoznane) kam << "  " << co.string() << "\n";
+}
+
 bool Souhlasi(const Odsouzene& o, const Zak& zak, const Sber& sber, std::istream& odpoved,
               std::ostream& kam) {
     std::map<fs::path, std::size_t> slozky;
@@ -126,6 +137,7 @@ bool SmazZaka(const Volby& volby, const Sber& sber, const StavRejstriku& stav,
         kam << "Žák " << Popis(zaci.Zaci()[*zak]) << " nemá v těchto složkách žádný pokus.\n";
         return false;
     }
+    RekniNepoznane(sber, stav, kam);
     if (!Souhlasi(o, zaci.Zaci()[*zak], sber, odpoved, kam)) return false;
 
     DiskStroje disk;

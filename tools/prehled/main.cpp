@@ -32,7 +32,12 @@ fs::path MistoRejstriku(const Volby& volby) {
     const fs::path slozka = SlozkaStavuUctu();
     if (slozka.empty())
         throw BehovaChyba("Účet nemá domovskou složku: určete --rejstrik SOUBOR", "rejstřík");
-    DiskStroje().ZalozSlozku(slozka);
+    try {
+        DiskStroje().ZalozSlozku(slozka);
+    } catch (const ChybaDisku&) {
+        throw BehovaChyba("Složku rejstříku nelze založit: určete --rejstrik SOUBOR",
+                          slozka.string());
+    }
     return slozka / "prehled.rejstrik";
 }
 
