@@ -186,7 +186,7 @@ private:
 int Vlajky(Disk::Jak jak) {
     switch (jak) {
         case Disk::Jak::Cteni:
-            return O_RDONLY;
+            return O_RDONLY | O_NONBLOCK;  // what is no file, as a pipe, is not waited for
         case Disk::Jak::Zapis:
             return O_RDWR;
         case Disk::Jak::Pripisek:

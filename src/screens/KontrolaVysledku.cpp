@@ -85,7 +85,7 @@ Nalez Fronta_(Disk& disk, const fs::path& stav) {
 std::string VadaPokusu(Disk& disk, const fs::path& soubor) {
     if (soubor.extension() == UkladaniPokusu::PRIPONA_NOVEHO) return {};
     try {
-        return CtiPokus(disk.Otevri(soubor, Disk::Jak::Cteni)->Cti()).Vada;
+        return CtiPokus(disk.Otevri(soubor, Disk::Jak::Cteni)->Cti(0, NEJVETSI_POKUS)).Vada;
     } catch (const ChybaDisku& chyba) {
         return std::string(TextPriciny(chyba.Proc()));
     }

@@ -28,8 +28,6 @@ constexpr const char* NELZE_PREPNOUT =
 constexpr const char* NELZE_OBNOVIT =
     "Nastala chyba při obnovení původního nastavení obrazovky. Změňte nastavení manuálně.";
 
-constexpr std::size_t NEJVETSI_POKUS = 1U << 20;  // bytes; a usual one has 20 thousand
-
 constexpr RezimObrazovky REZIM_HRY{.Sirka = 640, .Vyska = 480, .Barvy = 16};
 
 void VypisChybejici(const std::string& co) {

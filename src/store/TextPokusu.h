@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,6 +31,8 @@ struct PrectenyPokus {
 /// NEJDAL_V_POKUSU from the corner of the plane are none of a pupil's.
 [[nodiscard]] PrectenyPokus CtiPokus(std::string_view text);
 constexpr int NEJDAL_V_POKUSU = 10'000;  // px
+/// So much of a file is read, bytes; a usual one has 20 thousand.
+constexpr std::size_t NEJVETSI_POKUS = 1U << 20;
 
 /// Whether the text has its end.
 [[nodiscard]] bool MaKonec(std::string_view text);

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <sys/stat.h>
 
 #include "platform/Cesta.h"
 #include "platform/Host.h"
@@ -131,11 +132,13 @@ TEST_F(KontrolaHodiny, Vysledky) {
     Pis("Pokusy/rozepsany.pokus.novy", pokus.substr(0, 9));
     EXPECT_EQ(VadyVysledku(), "");
     Pis("Pokusy/cizi.txt", "cizí");
+    ASSERT_EQ(::mkfifo(Cesta("Pokusy/roura.pokus").c_str(), 0600), 0);  // nobody waits for it
     Pis("Pokusy/useknuty.pokus", pokus.substr(0, pokus.size() - 4));
     EXPECT_EQ(VadyVysledku(),
               "? Záznam pokusu: Pokusy/cizi.txt: Soubor není záznam pokusu.\n"
+              "? Záznam pokusu: Pokusy/roura.pokus: disk hlásí chybu\n"
               "? Záznam pokusu: Pokusy/useknuty.pokus: Záznam pokusu není celý: končí řádkem 15.\n"
-              "? Záznamy pokusů: Pokusy: souborů: 4, z toho vadných 2\n");
+              "? Záznamy pokusů: Pokusy: souborů: 5, z toho vadných 3\n");
     EXPECT_EQ(Cti("Pokusy/useknuty.pokus") + " ne\n", pokus);
     fs::remove_all(Cesta("Pokusy"));
     // Nothing is made, not even what the game would make.
