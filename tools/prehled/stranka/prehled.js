@@ -183,9 +183,11 @@ function ukazPokusy() {
     tr.lastElementChild.append(tlacitko);
     if (otevrene.delete(serie)) prepniPokus(serie, tr, tlacitko, sloupce.length);
   });
-  id("dalsi_pokusy").hidden = radky.length <= ukazanychPokusu;
-  id("dalsi_pokusy").textContent =
-    `Ukázat další (zbývá ${pocet(radky.length - ukazanychPokusu, SERIE_SLOVY)})`;
+  const zbyva = Math.max(0, radky.length - ukazanychPokusu);
+  id("dalsi_pokusy").hidden = zbyva === 0;
+  id("dalsi_pokusy").textContent = `Ukázat další (zbývá ${pocet(zbyva, SERIE_SLOVY)})`;
+  // Paper has no button that would say so.
+  id("neukazane").textContent = zbyva === 0 ? "" : `Neukázáno: ${pocet(zbyva, SERIE_SLOVY)}.`;
 }
 
 // ---- The choice ----
