@@ -17,7 +17,6 @@ constexpr std::string_view NENI_KLIC = "Chyba";
 constexpr std::string_view KLIC_VYSLEDKU = "VYSLEDKY";
 constexpr std::string_view UCET = "ucet";
 constexpr std::string_view KLIC_RAD = "Rady", KLIC_POKUSU = "Pokusy", KLIC_SEMINKA = "Seminko";
-constexpr std::string_view VYPNUTO = "ne";
 
 bool JeAbsolutni(std::string_view cesta) {
     const bool odKorene = cesta.starts_with('\\') || cesta.starts_with('/');
@@ -70,8 +69,8 @@ Cesty CtiCesty(Disk& disk, const std::string& slozka, const std::filesystem::pat
     } else if (cesty.Oddelene) {
         cesty.Vysledky = CestaZIni(obsah, KLIC_VYSLEDKU, adresar);
     }
-    cesty.Rady = HodnotaIni(obsah, SEKCE, KLIC_RAD, "") != VYPNUTO;
-    cesty.Pokusy = HodnotaIni(obsah, SEKCE, KLIC_POKUSU, "") != VYPNUTO;
+    cesty.Rady = !RikaNe(obsah, SEKCE, KLIC_RAD);
+    cesty.Pokusy = !RikaNe(obsah, SEKCE, KLIC_POKUSU);
     cesty.Seminko = CeleCislo<std::uint32_t>(HodnotaIni(obsah, SEKCE, KLIC_SEMINKA, ""));
     return cesty;
 }

@@ -63,4 +63,8 @@ std::string HodnotaIni(std::string_view obsah, std::string_view sekce, std::stri
     return std::string(vychozi);
 }
 
+bool RikaNe(std::string_view obsah, std::string_view sekce, std::string_view klic) {
+    return Stejne(HodnotaIni(obsah, sekce, klic, ""), "ne");
+}
+
 }  // namespace rysovna

@@ -12,4 +12,7 @@ namespace rysovna {
 [[nodiscard]] std::string HodnotaIni(std::string_view obsah, std::string_view sekce,
                                      std::string_view klic, std::string_view vychozi);
 
+/// Whether a key turns something off: its value is "ne", in small or capital letters.
+[[nodiscard]] bool RikaNe(std::string_view obsah, std::string_view sekce, std::string_view klic);
+
 }  // namespace rysovna

@@ -442,7 +442,7 @@ TEST(Pokus, KazdaSerieNaObrazovceNechaSvuj) {
         std::ranges::sort(pokusy, {}, &Pokus::CisloUlohy);
         return pokusy;
     };
-    EXPECT_TRUE(hraj("Pokusy=ne\r\n").empty());
+    EXPECT_TRUE(hraj("Pokusy=Ne\r\n").empty());
     const std::string bezPokusu = vysledky;
     EXPECT_TRUE(hraj("", true).empty());
     EXPECT_EQ(vysledky, bezPokusu);
