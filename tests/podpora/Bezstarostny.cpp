@@ -148,7 +148,6 @@ void Bezstarostny::Hraj(int udalosti) {
 void Bezstarostny::Krok() {
     ++souhrn_.Udalosti;
     HeadlessHost& host = relace_->Host();
-    const std::uint32_t zacatek = host.TickCount();
     if (Jednou(300)) host.PridejOdpoved(Odpoved::Ano);
     if (Jednou(6) && planovano_ < NEJVIC_NAPLANOVANYCH) {
         ++planovano_;
@@ -158,6 +157,7 @@ void Bezstarostny::Krok() {
         });
     }
     if (Jednou(KDY_SESTROJI)) Sestroj();
+    const std::uint32_t zacatek = host.TickCount();
     Udalost();
     if (host.Okna().JeKonec()) {
         ZkontrolujSoubory();
