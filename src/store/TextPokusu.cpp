@@ -218,8 +218,9 @@ public:
         Slova s(radek);
         const std::string_view slovo = s.Slovo();
         if (konec_) throw VadnyRadek("řádek za koncem");
-        if (Hlavicka(slovo, s)) return;
-        if (pokus_.CisloUlohy == 0) throw VadnyRadek("chybí číslo úlohy");
+        const bool uvodni = Hlavicka(slovo, s);
+        if ((!uvodni || konec_) && pokus_.CisloUlohy == 0) throw VadnyRadek("chybí číslo úlohy");
+        if (uvodni) return;
         if (slovo == PRIKLAD) {
             pokus_.Priklady.push_back({.Kdy = s.Cas()});
             otisk_ = 0;

@@ -336,6 +336,7 @@ TEST(Pokus, CoNeniPokusemRekneJednouVetou) {
         EXPECT_EQ(uvod(cizi), "Soubor není záznam pokusu.") << cizi;
     EXPECT_EQ(uvod(Nahrazeno(text, "POKUS 1", "POKUS 7")),
               "Záznam pokusu má verzi 7, tento program čte verzi 1.");
+    EXPECT_EQ(uvod("RYSOVNA1 POKUS 1\nkonec ano\n"), "Záznam pokusu je poškozený");
     const std::size_t hlavicka = text.find('\n') + 1;
     for (std::size_t n = hlavicka; n < text.size(); ++n)
         EXPECT_EQ(uvod(text.substr(0, n)), "Záznam pokusu není celý") << n;
