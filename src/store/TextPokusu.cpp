@@ -349,13 +349,15 @@ std::optional<std::string_view> DalsiRadek(std::string_view& text) {
     return radek;
 }
 
-/// Why it is no attempt that this program reads, by its first line; empty if it is one.
-std::string VadaZnacky(std::string_view prvni) {
-    if (!prvni.starts_with(ZNACKA)) return "Soubor není záznam pokusu.";
-    const auto verze = CeleCislo<int>(prvni.substr(ZNACKA.size()));
-    if (!verze) return "Soubor není záznam pokusu.";
+/// Why it is no attempt that this program reads, by its first line; no reason if it is one.
+PrectenyPokus CtiZnacku(std::string_view prvni) {
+    const bool nase = prvni.starts_with(ZNACKA);
+    const auto verze = nase ? CeleCislo<int>(prvni.substr(ZNACKA.size())) : std::nullopt;
+    if (!verze) return {.Vada = "Soubor není záznam pokusu."};
     if (*verze == VERZE) return {};
-    return "Záznam pokusu má verzi " + S(*verze) + ", tento program čte verzi " + S(VERZE) + ".";
+    return {.Vada = "Záznam pokusu má verzi " + S(*verze) + ", tento program čte verzi " +
+                    S(VERZE) + ".",
+            .JinaVerze = true};
 }
 
 }  // namespace
@@ -401,8 +403,7 @@ bool MaKonec(std::string_view text) {
 
 PrectenyPokus CtiPokus(std::string_view text) {
     const std::optional<std::string_view> prvni = DalsiRadek(text);
-    if (std::string vada = VadaZnacky(prvni.value_or("")); !vada.empty())
-        return {.Vada = std::move(vada)};
+    if (PrectenyPokus cizi = CtiZnacku(prvni.value_or("")); !cizi.Vada.empty()) return cizi;
     Ctenar ctenar;
     int cislo = 1;
     try {

@@ -25,6 +25,7 @@ namespace rysovna {
 struct PrectenyPokus {
     std::optional<Pokus> Co{};
     std::string Vada{};
+    bool JinaVerze = false;  ///< another version of the program wrote it
 };
 
 /// Reads the file of an attempt; takes whatever was written there by whomever. Places further than

@@ -252,7 +252,9 @@ Cinnost<> UkladaniPokusu::UlozCekajici(std::string jmeno, std::string dnes) {
     if (text.starts_with(hlavicka)) {
         text.erase(0, hlavicka.size());
         if (!MaKonec(text)) text += KonecPokusu(false);
-        if (CtiPokus(text).Co) {
+        const PrectenyPokus precteny = CtiPokus(text);
+        if (precteny.JinaVerze) co_return;  // that one will know what to do with it
+        if (precteny.Co) {
             UlozSoubor(jmeno, text);
             co_await PockejNaUchovani(koren_ / SLOZKA / jmeno);
         }

@@ -210,6 +210,8 @@ TEST_F(UkladaniPokusuTest, ZabitaSerieSeNajdeAzKdyzJiNikdoNehraje) {
         EXPECT_EQ(Nove().ZkusCekajici(ZITRA), "");
         EXPECT_TRUE(Ulozene().empty());
     }
+    const fs::path vRade = slozka / "stav/fronta" / Soubory("stav/fronta")[0];
+    std::string jina = disk.Otevri(vRade, Disk::Jak::Cteni)->Cti();
     // Of another folder of results: not here.
     fs::create_directories(slozka / "jine");
     EXPECT_EQ(Nove("jine").ZkusCekajici(ZITRA), "");
@@ -220,6 +222,11 @@ TEST_F(UkladaniPokusuTest, ZabitaSerieSeNajdeAzKdyzJiNikdoNehraje) {
     EXPECT_FALSE(pokusy[0].Dokonceny);
     EXPECT_EQ(pokusy[0].Priklady, std::vector{SerieZaka().Priklady[0]});
     EXPECT_TRUE(Soubory("stav/fronta").empty());
+    // Another version's is left to it.
+    jina.replace(jina.find("POKUS 1"), 7, "POKUS 2");
+    disk.NovySoubor(vRade)->Pis(0, jina);
+    EXPECT_EQ(Nove().ZkusCekajici(ZITRA), "");
+    EXPECT_EQ(Soubory("stav/fronta").size(), 1U);
 }
 
 /// A name is never taken from a file that has it, whatever is in that; and what a disk that answers
