@@ -147,6 +147,7 @@ async function trida(p) {
     [...zaka].sort((a, b) => (a.Datum + a["Čas"] < b.Datum + b["Čas"] ? -1 : 1))
       .filter((s) => s["Nejvíc bodů"] !== "0")
       .map((s) => Number(s["Bodů"]) / Number(s["Nejvíc bodů"]) * 100), "body grafu");
+  const zalozka = await k.hodnota("location.hash");
   await k.hodnota("history.back()");
   await k.dokud("document.querySelectorAll('#zaci tbody tr').length === 30", "zpět na všechny");
 
@@ -186,10 +187,22 @@ async function trida(p) {
     await pauza(100);
     stejne(await k.hodnota("document.documentElement.scrollWidth <= innerWidth"), true, `šířka ${sirka}`);
   }
+  await k.velikost(703, 1000); // A4 without its margins
+  await k.povel("Emulation.setEmulatedMedia", { media: "print" });
+  stejne(await k.hodnota("getComputedStyle(document.querySelector('#pokusy tbody tr')).display"),
+    "table-row", "série na papíře je řádek");
+  await k.povel("Emulation.setEmulatedMedia", { media: "" });
   const { data } = await k.povel("Page.printToPDF", { preferCSSPageSize: true });
   stejne(Buffer.from(data, "base64").subarray(0, 5).toString(), "%PDF-", "tisk");
   stejne(volane.filter((u) => u !== adresa && !/^(about|data):/.test(u)), [], "voláno jinam");
   stejne(k.chyby, [], "chyby stránky");
+
+  // A bookmark means the same pupil in a page of fewer ones.
+  const mensi = await p.karta(vyrob("mensi", slozka, "--zaci", path.join(slozka, "zaci.csv"),
+    "--trida", zaka[0]["Třída"]).adresa + zalozka);
+  await mensi.dokud("document.querySelectorAll('#zaci tbody tr').length === 1", "jeden žák");
+  stejne(await mensi.hodnota("document.querySelector('#zaci tbody th').innerText"), jmena[4], "záložka");
+  await mensi.zavri();
 }
 
 async function prazdno(p) {

@@ -1,6 +1,13 @@
 // What the page is about: records out of the page's own source, the chosen ones among them, words.
 const DATA = JSON.parse(document.getElementById("data").textContent);
 const ZACI = DATA.zaci.map(([jmeno, trida], cislo) => ({ cislo, jmeno, trida }));
+// How an address names a pupil: a number would be another pupil's in a page made later.
+const PODLE_ADRESY = new Map();
+for (const z of ZACI) {
+  z.adresa = [z.jmeno, `${z.jmeno} (${z.trida})`, `${z.jmeno} (${z.trida}) ${z.cislo}`]
+    .find((a) => !PODLE_ADRESY.has(a));
+  PODLE_ADRESY.set(z.adresa, z);
+}
 const ULOHY = new Map(DATA.ulohy.map(([cislo, rodina, typ]) =>
   [cislo, { cislo, rodina, typ, nazev: `${cislo}. ${rodina}: ${typ}` }]));
 const VETY = DATA.vety; // number, sentence
@@ -39,11 +46,13 @@ function vyberZAdresy() {
   const adresa = new URLSearchParams(location.hash.slice(1));
   const vyber = { ...PRAZDNY_VYBER };
   for (const klic of Object.keys(vyber)) vyber[klic] = adresa.get(klic) || "";
+  vyber.zak = String(PODLE_ADRESY.get(vyber.zak)?.cislo ?? "");
   return vyber;
 }
 function adresaVyberu(vyber) {
   const adresa = new URLSearchParams();
-  for (const [klic, co] of Object.entries(vyber)) if (co !== "") adresa.set(klic, co);
+  for (const [klic, co] of Object.entries(vyber))
+    if (co !== "") adresa.set(klic, klic === "zak" ? ZACI[Number(co)].adresa : co);
   return `#${adresa}`;
 }
 function vybraneSerie(vyber) {

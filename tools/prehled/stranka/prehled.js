@@ -211,7 +211,6 @@ function naplnVybery() {
 
 function ukazVse() {
   vyber = vyberZAdresy();
-  if (vyber.zak !== "" && !ZACI[Number(vyber.zak)]) vyber.zak = "";
   for (const klic of Object.keys(vyber)) id(klic).value = vyber[klic];
   vybrane = vybraneSerie(vyber);
   ukazanychPokusu = NA_STRANCE;
