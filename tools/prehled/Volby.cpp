@@ -27,7 +27,8 @@ program: SOUBOR-serie.csv a SOUBOR-chyby.csv.
   --trida TŘÍDA       na stránce jen žáci této třídy; k tomu je potřeba --zaci
   --zaci TABULKA      vaše tabulka (.csv) s řádky jméno;žák;třída: kdo se pod kterým jménem skrývá
   --rejstrik SOUBOR   kam si pamatovat přečtené pokusy; jinak do složky účtu
-  --smaz JMÉNO        odstranit pokusy žáka tohoto jména, jakkoli je napsáno
+  --smaz JMÉNO        odstranit pokusy žáka tohoto jména, jakkoli je napsáno; s --zaci
+                      i pod jeho dalšími jmény
 
 Jedno jméno napsané s velkými či malými písmeny, s mezerami navíc nebo bez háčků a čárek je jeden žák.
 Návratová hodnota: 0 hotovo, 1 nejde to, 2 špatné zadání příkazu.
