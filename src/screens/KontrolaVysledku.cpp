@@ -31,15 +31,48 @@ bool PujdeZakladat(Disk& disk, const fs::path& slozka) {
 }
 
 /// What is wrong with one file of results; empty if nothing is. A file that is not there is no
-/// fault where it is going to be made.
+/// fault where it is going to be made; one in a folder that the account may not enter is not
+/// missing.
 std::string Vada(Disk& disk, const fs::path& soubor, bool zalozi) {
-    if (!disk.JeSoubor(soubor)) return zalozi ? "" : soubor.string() + " (neexistuje)";
+    const bool je = disk.JeSoubor(soubor);
+    if (!je && zalozi) return {};
     try {
         static_cast<void>(disk.Otevri(soubor, Disk::Jak::Zapis)->Cti(0, 1));
+    } catch (const ChybaDisku& chyba) {
+        if (je || chyba.Proc() == Pricina::Nepovoleno) return chyba.what();
+    }
+    return je ? "" : ChybaDisku(Pricina::Neni, soubor).what();
+}
+
+/// What is wrong with the folder itself, so that nothing in it can be had; empty if it can be read.
+std::string VadaSlozky(Disk& disk, const fs::path& slozka) {
+    try {
+        static_cast<void>(disk.Jmena(slozka.has_filename() ? slozka : slozka.parent_path()));
     } catch (const ChybaDisku& chyba) {
         return chyba.what();
     }
     return {};
+}
+
+void Soubory(Disk& disk, const Cesty& cesty, bool zalozi, std::vector<Nalez>& nalezy) {
+    const fs::path slozka = disk.Skutecna(cesty.Vysledky);
+    std::vector<Nalez> vady;
+    for (const std::string& jmeno : JmenaVysledku()) {
+        std::string vada = Vada(disk, disk.Skutecna(cesty.Vysledky + jmeno), zalozi);
+        if (!vada.empty()) vady.push_back({Chyba, "Soubor výsledků", std::move(vada)});
+    }
+    if (vady.size() == JmenaVysledku().size()) {
+        const std::string vada = VadaSlozky(disk, slozka);
+        if (!vada.empty()) vady = {{Chyba, "Složka výsledků", vada}};
+    }
+    if (vady.empty()) {
+        vady.push_back({VPoradku, "Soubory výsledků",
+                        "souborů: " + std::to_string(JmenaVysledku().size()) +
+                            (disk.JeSlozka(slozka) && !disk.SmiZakladat(slozka)
+                                 ? ", ve složce nelze zakládat další"
+                                 : "")});
+    }
+    nalezy.insert(nalezy.end(), vady.begin(), vady.end());
 }
 
 Nalez Misto(Disk& disk, const fs::path& slozka, const std::string& co) {
@@ -126,20 +159,7 @@ void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Cesty& cesty,
     const bool ucet = !stroj.SlozkaDat.empty() && slozka == stroj.SlozkaDat / "";
     const bool zalozi =
         cesty.Oddelene && (disk.JeSlozka(slozka) || ucet) && PujdeZakladat(disk, slozka);
-    int vadnych = 0;
-    for (const std::string& jmeno : JmenaVysledku()) {
-        const fs::path soubor = disk.Skutecna(cesty.Vysledky + jmeno);
-        const std::string vada = Vada(disk, soubor, zalozi);
-        if (!vada.empty()) nalezy.push_back({Chyba, "Soubor výsledků", vada});
-        vadnych += vada.empty() ? 0 : 1;
-    }
-    if (vadnych == 0) {
-        nalezy.push_back({VPoradku, "Soubory výsledků",
-                          "souborů: " + std::to_string(JmenaVysledku().size()) +
-                              (disk.JeSlozka(slozka) && !disk.SmiZakladat(slozka)
-                                   ? ", ve složce nelze zakládat další"
-                                   : "")});
-    }
+    Soubory(disk, cesty, zalozi, nalezy);
     nalezy.push_back(Misto(disk, NejblizsiSlozka(disk, slozka), "Místo na výsledky"));
     const fs::path denik = disk.Skutecna(cesty.Vysledky + std::string(JMENO_DENIKU));
     if (disk.JeSoubor(denik)) nalezy.push_back(Zamek(disk, denik));

@@ -147,7 +147,11 @@ TEST_F(KontrolaHodiny, Vysledky) {
     EXPECT_FALSE(fs::exists(host.SlozkaDat()));
     EXPECT_FALSE(fs::exists(fronta));
     Ini("VYSLEDKY=neni");
-    EXPECT_TRUE(VadyVysledku().starts_with("! Soubor výsledků: "));
+    // Of the folder once, not of each file in it.
+    const std::string neni = VadyVysledku();
+    EXPECT_TRUE(neni.starts_with("! Složka výsledků: ")) << neni;
+    EXPECT_NE(neni.find("/neni (neexistuje)\n"), neni.npos) << neni;
+    EXPECT_EQ(neni.find("! Soubor výsledků"), neni.npos) << neni;
 }
 
 }  // namespace

@@ -53,7 +53,9 @@ void Oznam(const Prehled& prehled, std::size_t seriiCelkem, const Volby& volby) 
         std::cerr << prehled.Nevadne[i] << '\n';
     if (prehled.Nevadne.size() > NEJVIC_VET)
         std::cerr << "… a dalších " << prehled.Nevadne.size() - NEJVIC_VET << ".\n";
-    if (seriiCelkem == 0) std::cerr << "V zadaných složkách není žádný pokus.\n";
+    if (seriiCelkem == 0)
+        std::cerr << "V zadaných složkách není žádný pokus (soubor .pokus; z prohlížeče: Uložit "
+                     "pokusy a archiv rozbalit).\n";
     std::cout << "Na stránce: " << Pocet(prehled.Serie.size(), SERII) << " z " << seriiCelkem
               << ", " << volby.Vystup.string()
               << "\nTabulky všech sérií: " << Vedle(volby.Vystup, "-serie.csv").string() << ", "
