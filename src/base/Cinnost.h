@@ -195,3 +195,16 @@ struct std::coroutine_traits<rysovna::Cinnost<T>, A...> {
                   "arguments of a work that waits are values, and it is no lambda");
     using promise_type = typename rysovna::Cinnost<T>::Prislib;
 };
+
+namespace rysovna {
+
+/// The same work as one that gives nothing: what it gives is handed to kam.
+template <class T>
+Cinnost<> Predej(Cinnost<T> prace, std::function<void(T)> kam) {
+    // It has a name: the compiler numbers the nameless values of a frame anew in each file, and the
+    // link that looks for types of one name that differ would find them to differ.
+    T vysledek = co_await prace;
+    kam(std::move(vysledek));
+}
+
+}  // namespace rysovna

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -54,10 +53,6 @@ protected:
 
 private:
     bool Splatne(std::size_t dno);
-    template <class T>
-    Cinnost<> Predej(Cinnost<T> prace, std::function<void(T)> kam) {
-        kam(co_await prace);
-    }
 
     Host& host_;
 };

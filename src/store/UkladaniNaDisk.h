@@ -26,14 +26,7 @@ protected:
 
     /// Until the disk has kept what was written; ChybaDisku (that names the file) if it did not. A
     /// disk that has kept it by now is not waited for.
-    Cinnost<> PockejNaUchovani(std::filesystem::path cesta) {
-        const std::uint32_t od = ted_();
-        while (!disk_.Uchovano()) {
-            if (ted_() - od + KROK_CEKANI > NEJDELE_NA_UCHOVANI)
-                throw ChybaDisku(Pricina::Jina, cesta);
-            co_await Cekani::SVstupem(KROK_CEKANI);
-        }
-    }
+    Cinnost<> PockejNaUchovani(std::filesystem::path cesta);
 
     Disk& disk_;
     std::function<std::uint32_t()> ted_;

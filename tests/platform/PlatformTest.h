@@ -73,7 +73,9 @@ protected:
     // What handlers that wait give back.
     Cinnost<> Cekej(std::uint32_t ms) { co_await Cekani(ms); }
     Cinnost<> Zeptej(std::string text, Odpoved ceka) {
-        EXPECT_EQ(co_await Host_.MsgBox(text, "Konec", Styl::OtazkaAnoNe), ceka);
+        Cinnost<Odpoved> otazka = Host_.MsgBox(text, "Konec", Styl::OtazkaAnoNe);
+        const Odpoved dana = co_await otazka;
+        EXPECT_EQ(dana, ceka);
     }
     Cinnost<> Zavrene(int kolikrat, std::uint32_t ms) {
         const Obrazovky::Zavreni zavreni(Okna());

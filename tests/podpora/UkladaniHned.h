@@ -51,7 +51,7 @@ struct Hodiny {
 };
 
 /// Does works with no screens about: what they wait for is slept.
-class Hned : SmiCekat {
+class Hned {
 public:
     explicit Hned(Hodiny hodiny) : hodiny_(std::move(hodiny)) {}
 
@@ -68,11 +68,6 @@ public:
     }
 
 private:
-    template <class T>
-    Cinnost<> Predej(Cinnost<T> prace, std::function<void(T)> kam) {
-        kam(co_await prace);
-    }
-
     Hodiny hodiny_;
 };
 
