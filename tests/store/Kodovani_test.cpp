@@ -1,6 +1,5 @@
 #include "store/Kodovani.h"
 
-#include <array>
 #include <gtest/gtest.h>
 
 #include "podpora/SouboryPomoc.h"

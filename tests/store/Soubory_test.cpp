@@ -1,6 +1,5 @@
 #include "store/Soubory.h"
 
-#include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
 

@@ -10,10 +10,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Stroj.h"
+#include "podpora/HlidanyDisk.h"
 #include "podpora/PravaUctu.h"
 #include "podpora/UkladaniHned.h"
-#include "store/Fronta.h"
 #include "store/TextPokusu.h"
 
 namespace rysovna::testy {
@@ -21,86 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Counts calls that change something, and lets one fail, or that one and all later ones, as if the
-/// program had been killed there.
-struct Poruchy {
-    int Kolikata = 0;
-    bool Naporad = false;
-    int Volani = 0;
-
-    void Dalsi(const fs::path& co) {
-        ++Volani;
-        if (Kolikata > 0 && (Volani == Kolikata || (Naporad && Volani > Kolikata)))
-            throw ChybaDisku(Pricina::Plno, co);
-    }
-};
-
-class VadnySoubor final : public Soubor {
-public:
-    VadnySoubor(std::unique_ptr<Soubor> pravy, Poruchy& p) : s_(std::move(pravy)), p_(p) {}
-    std::string Cti(std::uint64_t odkud, std::size_t nejvyse) override {
-        return s_->Cti(odkud, nejvyse);
-    }
-    std::uint64_t Delka() override { return s_->Delka(); }
-    /// A write that fails leaves half of it.
-    void Pis(std::uint64_t kam, std::string_view co) override {
-        try {
-            p_.Dalsi("zápis");
-        } catch (const ChybaDisku&) {
-            s_->Pis(kam, co.substr(0, co.size() / 2));
-            throw;
-        }
-        s_->Pis(kam, co);
-    }
-    void Pripis(std::string_view co) override { s_->Pripis(co); }
-    void Zkrat(std::uint64_t delka) override { s_->Zkrat(delka); }
-    void NaDisk() override {
-        p_.Dalsi("sync");
-        s_->NaDisk();
-    }
-    bool Zamkni() override { return s_->Zamkni(); }
-    void PrevezmiPrava(Soubor& od) override { s_->PrevezmiPrava(od); }
-
-private:
-    std::unique_ptr<Soubor> s_;
-    Poruchy& p_;
-};
-
-class VadnyDisk final : public DiskStroje {
-public:
-    Poruchy P;
-    std::unique_ptr<Soubor> NovySoubor(const fs::path& co) override {
-        P.Dalsi(co);
-        return std::make_unique<VadnySoubor>(DiskStroje::NovySoubor(co), P);
-    }
-    std::function<void(const fs::path&)> PredPrejmenovanim = [](const fs::path&) {};
-    void Prejmenuj(const fs::path& soubor, const fs::path& jmeno) override {
-        P.Dalsi(jmeno);
-        PredPrejmenovanim(jmeno);
-        DiskStroje::Prejmenuj(soubor, jmeno);
-    }
-    /// Kept at the third question only, or refused at that.
-    bool Pozdni = false, Odmita = false;
-    std::function<void()> PriOtazce = [] {};
-    bool Uchovano() override {
-        PriOtazce();
-        if (!Pozdni) return true;
-        if (++otazek_ % 3 != 0) return false;
-        if (Odmita) throw ChybaDisku(Pricina::Plno, "uloziste");
-        return true;
-    }
-    void Odstran(const fs::path& co) override {
-        P.Dalsi(co);
-        DiskStroje::Odstran(co);
-    }
-    void ZalozPodslozku(const fs::path& co) override {
-        P.Dalsi(co);
-        DiskStroje::ZalozPodslozku(co);
-    }
-
-private:
-    int otazek_ = 0;
-};
+using Co = HlidanyDisk::Co;
 
 class UkladaniPokusuTest : public ::testing::Test {
 protected:
@@ -129,8 +49,7 @@ protected:
     std::vector<Pokus> Ulozene() {
         std::vector<Pokus> pokusy;
         for (const std::string& jmeno : Soubory("vysledky/Pokusy")) {
-            const auto soubor = disk.Otevri(slozka / "vysledky/Pokusy" / jmeno, Disk::Jak::Cteni);
-            const PrectenyPokus p = CtiPokus(soubor->Cti());
+            const PrectenyPokus p = CtiPokus(*CelySoubor(slozka / "vysledky/Pokusy" / jmeno));
             EXPECT_TRUE(p.Co) << jmeno << ": " << p.Vada;
             if (p.Co) pokusy.push_back(*p.Co);
         }
@@ -140,7 +59,7 @@ protected:
     static constexpr DatumACas DNES{2026, 11, 22, 17, 5}, ZITRA{2026, 11, 23, 8, 0};
     fs::path slozka;
     std::uint32_t ted = 0;
-    VadnyDisk disk;
+    HlidanyDisk disk;
 };
 
 TEST_F(UkladaniPokusuTest, SeriePoSeriiKazdaSvujSoubor) {
@@ -169,8 +88,8 @@ TEST_F(UkladaniPokusuTest, SeriePoSeriiKazdaSvujSoubor) {
     }
 }
 
-/// One call after the other fails, alone or with all that follow: there is never half an attempt,
-/// never two, and the next start has the rest of it.
+/// One call of the disk after the other fails, alone or with all that follow: there is never half
+/// an attempt, never two, and the next start has the rest of it.
 TEST_F(UkladaniPokusuTest, ZadnaPoruchaNicNezkazi) {
     for (const bool naporad : {false, true}) {
         int volani = 0;
@@ -178,16 +97,19 @@ TEST_F(UkladaniPokusuTest, ZadnaPoruchaNicNezkazi) {
             SCOPED_TRACE(std::to_string(n) + (naporad ? " napořád" : ""));
             fs::remove_all(slozka / "stav");
             fs::remove_all(slozka / "vysledky/Pokusy");
-            disk.P = {.Kolikata = n, .Naporad = naporad};
+            int poradi = 0;
+            disk.Pred = [&](Co, const fs::path& co) {
+                if (++poradi == n || (naporad && poradi > n)) throw ChybaDisku(Pricina::Plno, co);
+            };
             {
                 UkladaniPokusuHned ukladani = Nove();
                 const std::string zprava = Odehraj(ukladani);
-                volani = std::max(volani, disk.P.Volani);
+                volani = std::max(volani, poradi);
                 EXPECT_TRUE(!zprava.empty() || Ulozene().size() == 1);
                 // Told once, whatever fails afterwards.
                 EXPECT_TRUE(!naporad || zprava.empty() || Odehraj(ukladani).empty());
             }
-            disk.P = {};
+            disk.Pred = [](Co, const fs::path&) {};
             UkladaniPokusuHned znovu = Nove();
             const bool vRade = !Soubory("stav/fronta").empty();
             EXPECT_EQ(znovu.ZkusCekajici(ZITRA), "");
@@ -211,7 +133,7 @@ TEST_F(UkladaniPokusuTest, ZabitaSerieSeNajdeAzKdyzJiNikdoNehraje) {
         EXPECT_TRUE(Ulozene().empty());
     }
     const fs::path vRade = slozka / "stav/fronta" / Soubory("stav/fronta")[0];
-    std::string jina = disk.Otevri(vRade, Disk::Jak::Cteni)->Cti();
+    std::string jina = *CelySoubor(vRade);
     // Of another folder of results: not here.
     fs::create_directories(slozka / "jine");
     EXPECT_EQ(Nove("jine").ZkusCekajici(ZITRA), "");
@@ -234,32 +156,38 @@ TEST_F(UkladaniPokusuTest, ZabitaSerieSeNajdeAzKdyzJiNikdoNehraje) {
 TEST_F(UkladaniPokusuTest, NicCiziNezmeniANicNevydaZaUlozene) {
     UkladaniPokusuHned ukladani = Nove();
     std::vector<fs::path> cizi;
-    disk.PredPrejmenovanim = [&](const fs::path& jmeno) {
-        if (cizi.size() == 2) return;
+    disk.Pred = [&](Co co, const fs::path& jmeno) {
+        if (co != Co::Jmeno || cizi.size() == 2) return;
         cizi.push_back(jmeno);
         disk.NovySoubor(jmeno)->Pis(0, cizi.size() == 1 ? "" : "cizí");
     };
     EXPECT_EQ(Odehraj(ukladani), "");
     ASSERT_EQ(cizi.size(), 2U);
     EXPECT_EQ(fs::file_size(cizi[0]), 0U);
-    EXPECT_EQ(disk.Otevri(cizi[1], Disk::Jak::Cteni)->Cti(), "cizí");
+    EXPECT_EQ(CelySoubor(cizi[1]), "cizí");
     for (const fs::path& c : cizi) fs::remove(c);
     EXPECT_EQ(Ulozene().size(), 1U);
 
-    disk.Pozdni = true;
     std::size_t vRade = 1;
-    disk.PriOtazce = [&] { EXPECT_EQ(Soubory("stav/fronta").size(), vRade); };
+    int otazek = 0;
+    bool odmita = false;
+    disk.PriOtazce = [&] {
+        EXPECT_EQ(Soubory("stav/fronta").size(), vRade);
+        if (++otazek % 3 != 0) return false;
+        if (odmita) throw ChybaDisku(Pricina::Plno, "uloziste");
+        return true;
+    };
     EXPECT_EQ(Odehraj(ukladani), "");
     EXPECT_TRUE(Soubory("stav/fronta").empty());
-    disk.Odmita = true;
+    odmita = true;
     EXPECT_NE(Odehraj(ukladani).find("uložen stranou"), std::string::npos);
-    disk.Odmita = false;
+    odmita = false;
     vRade = 3;  // with the note that it was told
     ukladani.Zacni(SerieZaka());
     ukladani.Pridej(SerieZaka().Priklady[0]);
     ukladani.Opust();
     EXPECT_EQ(Soubory("stav/fronta").size(), vRade);
-    disk.PriOtazce = [] {};
+    disk.PriOtazce = [&] { return ++otazek % 3 == 0; };
     EXPECT_EQ(Nove().ZkusCekajici(ZITRA), "");
     EXPECT_TRUE(Soubory("stav/fronta").empty());
     EXPECT_EQ(Ulozene().size(), 4U);

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "base/Cisla.h"
-#include "platform/Stroj.h"
+#include "podpora/HlidanyDisk.h"
 #include "podpora/PravaUctu.h"
 #include "podpora/SouboryPomoc.h"
 #include "podpora/UkladaniHned.h"
@@ -112,27 +112,6 @@ TEST(Fronta, ZaznamTamAZpet) {
 
 // ---- Storing ---------------------------------------------------------------------------------
 
-/// A disk that tells the test of each work before it is done; the test may throw.
-class HlidanyDisk final : public DiskStroje {
-public:
-    enum class Co { Novy, Otevrit, Pripsat, Slozka };
-    std::function<void(Co, const fs::path&)> Pred = [](Co, const fs::path&) {};
-    std::function<bool()> PriOtazce = [] { return true; };  ///< is it kept what was written?
-
-    std::unique_ptr<Soubor> NovySoubor(const fs::path& co) override {
-        Pred(Co::Novy, co);
-        return DiskStroje::NovySoubor(co);
-    }
-    std::unique_ptr<Soubor> Otevri(const fs::path& co, Jak jak) override {
-        Pred(jak == Jak::Pripisek ? Co::Pripsat : Co::Otevrit, co);
-        return DiskStroje::Otevri(co, jak);
-    }
-    void SlozkaNaDisk(const fs::path& slozka) override {
-        Pred(Co::Slozka, slozka);
-        DiskStroje::SlozkaNaDisk(slozka);
-    }
-    bool Uchovano() override { return PriOtazce(); }
-};
 using Co = HlidanyDisk::Co;
 
 class Ulozeni : public Soubory {
