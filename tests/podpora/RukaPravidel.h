@@ -1,16 +1,32 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "base/Plane.h"
 #include "engine/PametovaPlocha.h"
 #include "podpora/Konstrukce.h"
 #include "rules/Dialog.h"
+#include "rules/Ulohy.h"
+#include "store/MapaPoli.h"
 #include "zak/Ruka.h"
 
 namespace rysovna::testy {
+
+/// A session before an example of the task: its one line read.
+inline Misc PametPrikladu(int uloha, std::string_view radek) {
+    Misc misc;
+    misc.CisloUlohy = static_cast<std::uint8_t>(uloha);
+    misc.PocetPrikladu = 1;
+    for (const Slot& slot : MapaDesky(DeskaUlohy(uloha)).Pole) {
+        const std::size_t konec = radek.find('#');
+        slot.V(misc.Priklady[1]) = radek.substr(0, konec);
+        if (konec == std::string_view::npos) break;
+        radek.remove_prefix(konec + 1);
+    }
+    return misc;
+}
 
 /// A hand that plays a step dialogue without a screen, as fast as the machine goes, on two planes
 /// in memory.

@@ -8,7 +8,6 @@
 #include "base/Chyba.h"
 #include "hrac/Relace.h"
 #include "platform/Host.h"
-#include "rules/Misc.h"
 #include "store/Soubory.h"
 #include "store/Ukladani.h"
 

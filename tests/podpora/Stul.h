@@ -3,26 +3,16 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "base/Cisla.h"
 #include "engine/Tabulky.h"
-#include "hrac/Relace.h"
-#include "platform/Cesta.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Prostredi.h"
-#include "podpora/RukaPravidel.h"
-#include "rules/Dialog.h"
+#include "podpora/RukaUlohy.h"
 #include "rules/KatalogChyb.h"
-#include "rules/Misc.h"
-#include "rules/Ulohy.h"
-#include "screens/Start.h"
 #include "store/Kodovani.h"
-#include "store/MapaPoli.h"
-#include "store/Soubory.h"
 #include "zak/Ruka.h"
 
 namespace rysovna::testy {
@@ -54,12 +44,9 @@ struct Pohyb {
 /// the session, two planes in memory, a data root of its own. Calls chain. What a pupil could not
 /// do (a grey button, a line that is not offered) throws.
 template <class D>
-class Stul : public RukaPravidel {
+class Stul : public RukaUlohy {
 public:
-    explicit Stul(int uloha) {
-        if (!NactiKonfiguraci(Pamet()).empty()) throw std::runtime_error("bez konfigurace");
-        Pamet().CisloUlohy = static_cast<std::uint8_t>(uloha);
-        NactiPriklady(Pamet(), Disk_(), Soubor(), MapaDesky(DeskaUlohy(uloha)));
+    explicit Stul(int uloha) : RukaUlohy(uloha) {
         Pamet().Vety = [this, vety = Pamet().Vety](int cislo) {
             OverMisto(cislo);
             return vety(cislo);
@@ -68,17 +55,16 @@ public:
 
     /// The task's file now holds this line alone.
     Stul& Radek(std::string_view radek) {
-        relace_.PisSoubor(DveCislice(Pamet().CisloUlohy) + ".dat",
-                          ZakodujRadek(Do1250(radek)) + "\r\n");
-        NactiPriklady(Pamet(), Disk_(), Soubor(), MapaDesky(DeskaUlohy(Pamet().CisloUlohy)));
+        relace_.PisSoubor(Soubor(), ZakodujRadek(Do1250(radek)) + "\r\n");
+        NactiRadky();
         return *this;
     }
     /// Plays each line of the task's file, Seminek() new examples of each, until one fails: calls
     /// hraj with the seed.
     template <class F>
     void KazdyRadek(F&& hraj) {
-        const std::filesystem::path soubor = NativniCesta(Soubor());
-        const std::vector<std::string> radky = CtiRadky(Disk_(), soubor);
+        const std::vector<std::string> radky =
+            CtiRadky(relace_.Host().Disk(), relace_.DataDir() / Soubor());
         for (std::size_t i = 0; i < radky.size(); ++i) {
             Radek(Z1250(DekodujRadek(radky[i]), {}));
             for (int n = 1; n <= Seminek() && !testing::Test::HasFailure(); ++n) {
@@ -127,9 +113,6 @@ public:
         }
         return text;
     }
-    /// The session, to set and to look at.
-    [[nodiscard]] Sezeni& Pamet() { return relace_.Pamet(); }
-    [[nodiscard]] const Misc& Pamet() const { return dialog.Pamet(); }
     /// The plane as the pupil sees it.
     [[nodiscard]] const PametovaPlocha& Obraz() const { return Pic(); }
     /// The record of the example.
@@ -151,11 +134,6 @@ private:
             << "wrong step " << cislo << ", task " << int{Pamet().CisloUlohy} << ", phase "
             << s.Faze;
     }
-    [[nodiscard]] std::string Soubor() const {
-        return Pamet().CestaHD + DveCislice(Pamet().CisloUlohy) + ".dat";
-    }
-    [[nodiscard]] Disk& Disk_() { return relace_.Host().Disk(); }
-    Relace relace_;
 
 public:
     D dialog{relace_.Pamet(), Platna_()};

@@ -12,7 +12,6 @@
 #include <regex>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "base/Text.h"

@@ -11,8 +11,6 @@
 #include "prehled/Prehled.h"
 #include "rules/NahravanyDialog.h"
 #include "rules/Prehravka.h"
-#include "rules/Ulohy.h"
-#include "store/MapaPoli.h"
 #include "zak/Sestroj.h"
 
 // A class whose pupils make known mistakes, and what is known of each series.
@@ -40,16 +38,8 @@ public:
                                              const std::vector<unsigned>& plan,
                                              std::uint32_t seminko) {
         vi_ = {.JmenoNapsane = jmeno, .Uloha = 1, .Zacatek = kdy, .Dokoncena = true};
-        Misc misc;
-        misc.CisloUlohy = 1;
-        misc.Vety = [](int cislo) { return std::vector<std::string>{Veta(cislo)}; };
-        misc.PocetPrikladu = 1;
-        std::string_view radek = "1#sss, od strany c#a#b#c#cm#cm#cm#usecka#kruznice#kruznice";
-        for (const Slot& slot : MapaDesky(DeskaUlohy(1)).Pole) {
-            const std::size_t konec = std::min(radek.find('#'), radek.size());
-            slot.V(misc.Priklady[1]) = radek.substr(0, konec);
-            radek.remove_prefix(std::min(konec + 1, radek.size()));
-        }
+        Misc misc = PametPrikladu(1, "1#sss, od strany c#a#b#c#cm#cm#cm#usecka#kruznice#kruznice");
+        misc.Vety = [](int cislo) { return std::vector{Veta(cislo)}; };
         misc.Generator.Zasej(seminko);
         dialog_ = std::make_unique<NahravanyDialog>(misc, Platna_(),
                                                     VyrobDialog(DeskaUlohy(1), misc, Platna_()),

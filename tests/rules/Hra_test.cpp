@@ -10,10 +10,7 @@
 
 #include "podpora/RukaPravidel.h"
 #include "rules/Kontrola.h"
-#include "rules/Misc.h"
 #include "rules/Prehravka.h"
-#include "rules/Ulohy.h"
-#include "store/MapaPoli.h"
 #include "zak/Sestroj.h"
 
 namespace rysovna::testy {
@@ -36,28 +33,13 @@ private:
     std::unique_ptr<Dialog> dialog_;
 };
 
-/// The session before an example of the task: its one line read, sentences that only tell their
-/// number.
-Misc Otevri(int uloha, std::string_view radek) {
-    Misc misc;
-    misc.Vety = [](int cislo) { return std::vector<std::string>{"Věta " + std::to_string(cislo)}; };
-    misc.CisloUlohy = static_cast<std::uint8_t>(uloha);
-    misc.PocetPrikladu = 1;
-    for (const Slot& slot : MapaDesky(DeskaUlohy(uloha)).Pole) {
-        const std::size_t konec = radek.find('#');
-        slot.V(misc.Priklady[1]) = radek.substr(0, konec);
-        if (konec == std::string_view::npos) break;
-        radek.remove_prefix(konec + 1);
-    }
-    return misc;
-}
-
 /// Five examples without a fault, and one that is not begun.
 void Odehraj(int uloha, std::string_view radek) {
     for (std::uint32_t seminko = 0; seminko <= 5; ++seminko) {
         SCOPED_TRACE(std::to_string(uloha) + ", seed " + std::to_string(seminko));
         const bool hraje = seminko > 0;
-        Misc misc = Otevri(uloha, radek);
+        Misc misc = PametPrikladu(uloha, radek);
+        misc.Vety = [](int cislo) { return std::vector{"Věta " + std::to_string(cislo)}; };
         misc.Generator.Zasej(seminko);
         Stolek stul(misc);
         if (hraje) hrac::Sestroj(stul, seminko);

@@ -6,29 +6,18 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
-#include <memory>
 #include <random>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "base/Cisla.h"
 #include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "podpora/Prostredi.h"
-#include "podpora/RukaPravidel.h"
-#include "podpora/Stul.h"
-#include "rules/NahravanyDialog.h"
-#include "rules/Pokus.h"
-#include "rules/Postup.h"
+#include "podpora/RukaUlohy.h"
 #include "rules/Prehravani.h"
-#include "rules/Prehravka.h"
-#include "rules/Ulohy.h"
 #include "screens/PopisKroku.h"
-#include "screens/Start.h"
-#include "store/MapaPoli.h"
-#include "store/Soubory.h"
 #include "store/TextPokusu.h"
 #include "zak/Sestroj.h"
 
@@ -61,22 +50,15 @@ struct Platna_ {
 };
 
 /// Plays series of a task at its recorded dialogue.
-class Hrac final : public RukaPravidel {
+class Hrac final : public RukaSerie {
 public:
-    Hrac(int uloha, std::uint32_t seminko) : uloha_(uloha), los_(seminko) {
-        static_cast<void>(NactiKonfiguraci(Misc_()));
-        Misc_().CisloUlohy = static_cast<std::uint8_t>(uloha);
-        NactiPriklady(Misc_(), relace_.Host().Disk(), Misc_().CestaHD + DveCislice(uloha) + ".dat",
-                      MapaDesky(DeskaUlohy(uloha)));
-        Misc_().Generator.Zasej(seminko);
+    Hrac(int uloha, std::uint32_t seminko) : RukaSerie(uloha), uloha_(uloha), los_(seminko) {
+        Pamet().Generator.Zasej(seminko);
     }
 
     /// A series as its file holds it; stavy: as each example ended.
     std::string Odehraj(int prikladu, bool dokonale, std::vector<Stav>& stavy) {
-        dialog_ = std::make_unique<NahravanyDialog>(
-            Misc_(), RukaPravidel::Platna_(),
-            VyrobDialog(DeskaUlohy(uloha_), Misc_(), RukaPravidel::Platna_()),
-            [this] { return ted_ += 1 + Cislo(2000); });
+        ZacniSerii([this] { return ted_ += 1 + Cislo(2000); });
         for (int i = 0; i < prikladu; ++i) {
             dialog_->NovyPriklad();
             dialog_->NoveZadani();
@@ -85,19 +67,10 @@ public:
             } else {
                 Bloudi();
             }
-            // Whatever was drawn, each object is told of by one step.
-            std::set<int> radky;
-            std::size_t utvaru = 0;
-            for (const KrokPostupu& k : SestavPostup(*dialog_)) {
-                radky.insert(k.Utvary.begin(), k.Utvary.end());
-                utvaru += k.Utvary.size();
-            }
-            EXPECT_EQ(radky.size(), utvaru) << uloha_;
-            EXPECT_EQ(static_cast<int>(utvaru), Misc_().PocetUtvaru) << uloha_;
             // Now and then another example is wanted before this one is checked.
             if (dokonale || los_() % 4 != 0) dialog_->Zkontroluj();
-            EXPECT_TRUE(!dokonale || Misc_().SoucetZapornychBodu == 0) << uloha_;
-            stavy.emplace_back(Misc_(), Pic(), Hiden());
+            EXPECT_TRUE(!dokonale || Pamet().SoucetZapornychBodu == 0) << uloha_;
+            stavy.emplace_back(Pamet(), Pic(), Hiden());
         }
         return TextPokusu({.Program = "1.0",
                            .Jmeno = "Žofie 100 %\tŘeřichová",
@@ -108,13 +81,7 @@ public:
                            .Dokonceny = true});
     }
 
-protected:
-    Dialog& Hra() override { return *dialog_; }
-    // The board's own: pupils ask it what it is.
-    const Dialog& Hra() const override { return dialog_->Hrany(); }
-
 private:
-    Sezeni& Misc_() { return relace_.Pamet(); }
     std::uint32_t Cislo(std::uint32_t rozpeti) {
         return static_cast<std::uint32_t>(los_()) % rozpeti;
     }
@@ -155,9 +122,9 @@ private:
     }
     void Tahne() {
         float x = Misto(SIRKA_PLOCHY), y = Misto(VYSKA_PLOCHY);
-        if (const int n = Misc_().PocetTrojic; n > 0 && los_() % 2 == 0) {
+        if (const int n = Pamet().PocetTrojic; n > 0 && los_() % 2 == 0) {
             const Trojice& t =
-                Misc_().Trojice_tab[static_cast<int>(Cislo(static_cast<std::uint32_t>(n))) + 1];
+                Pamet().Trojice_tab[static_cast<int>(Cislo(static_cast<std::uint32_t>(n))) + 1];
             x = static_cast<float>(t.X1);
             y = static_cast<float>(t.Y1) + 0.25F;
         }
@@ -166,25 +133,10 @@ private:
             dialog_->PusteniPlochy(Misto(SIRKA_PLOCHY), Misto(VYSKA_PLOCHY));
     }
 
-    Relace relace_;
     int uloha_;
     std::mt19937 los_;
     std::uint32_t ted_ = 4'294'960'000U;  // the tick count runs over in the middle
-    std::unique_ptr<NahravanyDialog> dialog_;
 };
-
-/// Whether what stands there, right or wrong, can be written down, each object once.
-bool ZapiseSe(const Dialog& dialog) {
-    std::vector<int> radky;
-    for (const KrokPostupu& k : SestavPostup(dialog)) {
-        radky.insert(radky.end(), k.Utvary.begin(), k.Utvary.end());
-        if (k.Co.empty()) return false;
-    }
-    std::ranges::sort(radky);
-    for (std::size_t i = 0; i < radky.size(); ++i)
-        if (radky[i] != static_cast<int>(i) + 1) return false;
-    return static_cast<int>(radky.size()) == dialog.Pamet().PocetUtvaru;
-}
 
 /// Series of each task and kind of pupil; more by the environment.
 int Serii() {
@@ -425,7 +377,7 @@ TEST(Pokus, KazdaSerieNaObrazovceNechaSvuj) {
         hra.Stiskni("picKonec");
         hra.Cekej(1200);
         hra.SpustUlohu(1, "Eva", 3);
-        RukaNaDesce ruka(hra);
+        hrac::RukaNaDesce ruka(hra);
         Sestroj(ruka, 1);
         hra.Stiskni("PicTop", 4);
         hra.Cekej(600);

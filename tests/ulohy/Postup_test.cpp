@@ -2,44 +2,32 @@
 
 #include "rules/Postup.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <memory>
 #include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
-#include "base/Cisla.h"
-#include "podpora/RukaPravidel.h"
-#include "podpora/Stul.h"
-#include "rules/Prehravka.h"
-#include "rules/Ulohy.h"
-#include "store/MapaPoli.h"
-#include "store/Soubory.h"
+#include "podpora/RukaUlohy.h"
 #include "zak/Sestroj.h"
 
 namespace rysovna::testy {
 namespace {
 
 /// Plays any task's lines one by one.
-class Zapisovatel final : public RukaPravidel {
+class Zapisovatel final : public RukaSerie {
 public:
-    explicit Zapisovatel(int uloha) : misc_(relace_.Pamet()) {
-        static_cast<void>(NactiKonfiguraci(misc_));
-        misc_.CisloUlohy = static_cast<std::uint8_t>(uloha);
-        NactiPriklady(misc_, relace_.Host().Disk(), misc_.CestaHD + DveCislice(uloha) + ".dat",
-                      MapaDesky(DeskaUlohy(uloha)));
-        for (int i = 1; i <= misc_.PocetPrikladu; ++i) priklady_.push_back(misc_.Priklady[i]);
-        misc_.PocetPrikladu = 1;
-        dialog_ = VyrobDialog(DeskaUlohy(uloha), misc_, Platna_());
+    explicit Zapisovatel(int uloha) : RukaSerie(uloha) {
+        for (int i = 1; i <= Pamet().PocetPrikladu; ++i) priklady_.push_back(Pamet().Priklady[i]);
+        Pamet().PocetPrikladu = 1;
+        ZacniSerii([] { return 0U; });
     }
 
     [[nodiscard]] std::size_t Radku() const { return priklady_.size(); }
     Zapisovatel& Sestroj(std::size_t radek) {
-        misc_.Priklady[1] = priklady_[radek];
-        misc_.Generator.Zasej(static_cast<std::uint32_t>(radek) + 1);
+        Pamet().Priklady[1] = priklady_[radek];
+        Pamet().Generator.Zasej(static_cast<std::uint32_t>(radek) + 1);
         dialog_->NovyPriklad();
         dialog_->NoveZadani();
         hrac::Sestroj(*this, static_cast<std::uint32_t>(radek));
@@ -49,19 +37,12 @@ public:
     [[nodiscard]] std::string Text() const {
         std::string text;
         int poradi = 0;
-        for (const KrokPostupu& k : SestavPostup(*dialog_)) text += TextKroku(++poradi, k) + "\n";
+        for (const KrokPostupu& k : SestavPostup(Hrany())) text += TextKroku(++poradi, k) + "\n";
         return text;
     }
 
-protected:
-    [[nodiscard]] Dialog& Hra() override { return *dialog_; }
-    [[nodiscard]] const Dialog& Hra() const override { return *dialog_; }
-
 private:
-    Relace relace_;
-    Sezeni& misc_;
     std::vector<Priklad> priklady_;
-    std::unique_ptr<Dialog> dialog_;
 };
 
 /// The names in a relation: what stands between its signs and is no word and no number.
@@ -106,20 +87,14 @@ TEST_P(PostupUlohy, KazdyUtvarJednouJmenaZnamaHodnotyZadane) {
         const std::vector<KrokPostupu> kroky = SestavPostup(z.Sestroj(i).Hrany());
         const std::string text = z.Text();
         SCOPED_TRACE("row " + std::to_string(i + 1) + ":\n" + text);
-        std::vector<int> radky;
+        EXPECT_TRUE(ZapiseSe(z.Hrany()));
         std::set<std::string> zname;
         for (const KrokPostupu& k : kroky) {
-            radky.insert(radky.end(), k.Utvary.begin(), k.Utvary.end());
             zname.insert(k.Jmena.begin(), k.Jmena.end());
-            EXPECT_FALSE(k.Co.empty());
             for (const std::string& j : Jmena(k.Vztah)) EXPECT_TRUE(Zname(j, zname)) << j;
         }
-        std::ranges::sort(radky);
-        std::vector<int> vsechny;
-        for (int n = 1; n <= z.Hrany().Pamet().PocetUtvaru; ++n) vsechny.push_back(n);
-        EXPECT_EQ(radky, vsechny);
         // Of a diagonal the half may have been typed.
-        for (const Zadano& d : z.Zadani()) {
+        for (const hrac::Zadano& d : z.Zadani()) {
             if (d.Velicina.find("||") != std::string::npos) continue;
             const std::string jednotka = JeUhel(d.Velicina) ? "°" : " cm";
             const auto je = [&](double h) {

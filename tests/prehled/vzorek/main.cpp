@@ -9,21 +9,11 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <memory>
 #include <random>
 #include <stdexcept>
 #include <string>
-#include <utility>
 
-#include "base/Cisla.h"
-#include "hrac/Relace.h"
-#include "podpora/RukaPravidel.h"
-#include "rules/NahravanyDialog.h"
-#include "rules/Prehravka.h"
-#include "rules/Ulohy.h"
-#include "screens/Start.h"
-#include "store/MapaPoli.h"
-#include "store/Soubory.h"
+#include "podpora/RukaUlohy.h"
 #include "store/TextPokusu.h"
 #include "store/UkladaniPokusu.h"
 #include "zak/Sestroj.h"
@@ -46,27 +36,19 @@ constexpr int PRIKLADU = 2;
 constexpr int NEJVIC_CHYB = 90;  // the game has room for a hundred
 
 /// Plays series of one task at a recorded dialogue; slips now and then.
-class Hrac final : public testy::RukaPravidel {
+class Hrac final : public testy::RukaSerie {
 public:
-    Hrac(hrac::Relace& relace, int uloha) : relace_(relace), uloha_(uloha) {
-        static_cast<void>(NactiKonfiguraci(Misc_()));
-        Misc_().CisloUlohy = static_cast<std::uint8_t>(uloha);
-        NactiPriklady(Misc_(), relace_.Host().Disk(), Misc_().CestaHD + DveCislice(uloha) + ".dat",
-                      MapaDesky(DeskaUlohy(uloha)));
-    }
+    explicit Hrac(int uloha) : RukaSerie(uloha) {}
 
     /// chybuje: of a hundred things that are done so many go wrong.
     Pokus Odehraj(std::uint32_t seminko, unsigned chybuje) {
         los_.seed(seminko);
         chybuje_ = chybuje;
-        Misc_().Generator.Zasej(seminko);
-        Misc_().SmazTabulky();
-        NactiPriklady(Misc_(), relace_.Host().Disk(), Misc_().CestaHD + DveCislice(uloha_) + ".dat",
-                      MapaDesky(DeskaUlohy(uloha_)));
+        Pamet().Generator.Zasej(seminko);
+        Pamet().SmazTabulky();
+        NactiRadky();
         ted_ = 0;
-        dialog_ = std::make_unique<NahravanyDialog>(
-            Misc_(), Platna_(), VyrobDialog(DeskaUlohy(uloha_), Misc_(), Platna_()),
-            [this] { return ted_ += 700 + static_cast<std::uint32_t>(los_() % 5000); });
+        ZacniSerii([this] { return ted_ += 700 + static_cast<std::uint32_t>(los_() % 5000); });
         const bool dokonci = los_() % 20 != 0;
         for (int i = 0; i < PRIKLADU; ++i) {
             dialog_->NovyPriklad();
@@ -77,19 +59,17 @@ public:
                 // A slip leads where the perfect way has no next step, or into too many wrong ones:
                 // it stays unfinished.
             }
-            const bool jde = Misc_().PocetChybnychKroku < NEJVIC_CHYB;
+            const bool jde = Pamet().PocetChybnychKroku < NEJVIC_CHYB;
             if (jde && (dokonci || i + 1 < PRIKLADU)) dialog_->Zkontroluj();
         }
         return {.Program = "1.0",
-                .CisloUlohy = uloha_,
+                .CisloUlohy = Pamet().CisloUlohy,
                 .PrikladuSerie = PRIKLADU,
                 .Priklady = dialog_->Priklady(),
                 .Dokonceny = dokonci};
     }
 
 protected:
-    Dialog& Hra() override { return *dialog_; }
-    const Dialog& Hra() const override { return dialog_->Hrany(); }
     bool StiskNacrtu(Bod b) override { return Zmyli() || RukaPravidel::StiskNacrtu(b); }
     void Pis(int ktery, const std::string& text) override {
         RukaPravidel::Pis(ktery, Zmyli() ? text + "1" : text);
@@ -100,15 +80,11 @@ protected:
     }
 
 private:
-    Sezeni& Misc_() { return relace_.Pamet(); }
     bool Zmyli() { return los_() % 100 < chybuje_; }
 
-    hrac::Relace& relace_;
-    int uloha_;
     unsigned chybuje_ = 0;
     std::mt19937 los_;
     std::uint32_t ted_ = 0;
-    std::unique_ptr<NahravanyDialog> dialog_;
 };
 
 void Vyrob(const std::filesystem::path& kam, int serii) {
@@ -117,9 +93,8 @@ void Vyrob(const std::filesystem::path& kam, int serii) {
     for (std::size_t i = 0; i < JMENA.size(); ++i)
         zaci << JMENA[i] << ';' << JMENA[i] << ';' << (i % 2 == 0 ? "7.A" : "7.B") << '\n';
     std::mt19937 los(2026);
-    hrac::Relace relace;
     for (const int uloha : ULOHY_TRIDY) {
-        Hrac hrac(relace, uloha);
+        Hrac hrac(uloha);
         for (int n = 0; n < serii; ++n) {
             if (ULOHY_TRIDY[static_cast<std::size_t>(n) % ULOHY_TRIDY.size()] != uloha) continue;
             const auto zak = static_cast<std::size_t>(los() % JMENA.size());
