@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "base/Chyba.h"
-#include "base/Cisla.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Tisk.h"
 #include "podpora/ZaznamPlane.h"

@@ -4,7 +4,6 @@
 #include <random>
 
 #include "PlatformTest.h"
-#include "base/Chyba.h"
 #include "platform/Bitmapa.h"
 #include "platform/ObrazekData.h"
 

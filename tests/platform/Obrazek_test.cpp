@@ -3,6 +3,7 @@
 #include "PlatformTest.h"
 #include "base/Chyba.h"
 #include "platform/ObrazekData.h"
+#include "platform/Stroj.h"
 #include "platform/bmp/Bmp.h"
 
 namespace rysovna::testy {
@@ -173,8 +174,7 @@ TEST_F(NaStroji, PoskozeneTvaryJsouChybaAleNikdyPad) {
     const auto nahoda = [&] { return static_cast<unsigned>(generator()); };
     int vadnych = 0;
     ProObrazky([&](const std::filesystem::path&, const std::filesystem::path& jeho) {
-        std::ifstream vstup(jeho, std::ios::binary);
-        const std::string zdravy(std::istreambuf_iterator<char>(vstup), {});
+        const std::string zdravy = *CelySoubor(jeho);
         const Tvary tvary = CtiTvary(zdravy, "vzor");
         for (int i = 0; i < 30; ++i) {
             std::string data = zdravy;
@@ -202,8 +202,7 @@ TEST_F(NaStroji, PoskozeneTvaryJsouChybaAleNikdyPad) {
 TEST_F(NaStroji, VymenenyObrazekMaPrednostPredTvary) {
     const auto titul = Staging() / "assets" / "Bitmap" / "Intro" / "title.bmp";
     auto jeho = titul;
-    std::ifstream vstup(jeho.replace_extension(PRIPONA_TVARU), std::ios::binary);
-    const std::string tvary(std::istreambuf_iterator<char>(vstup), {});
+    const std::string tvary = *CelySoubor(jeho.replace_extension(PRIPONA_TVARU));
     ObrazBmp obraz = NactiObrazBmp(titul);
     const std::vector<Pixel> kreslene = LoadPicture(titul.string()).Data()->VeVelikosti(1.5).Body;
     const auto nacti = [&](const std::string& bmp) {

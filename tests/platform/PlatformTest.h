@@ -104,7 +104,8 @@ public:
     }
     Cinnost<> MouseDown(Ovladac* o, const Mys& m) override {
         Zapis("Down", o, &m);
-        return Zavolej(PriStisku);
+        const auto co = PriStisku;  // a copy: what it does may put another one in its place
+        return co ? co() : Cinnost<>();
     }
     void MouseMove(Ovladac* o, const Mys& m) override { Zapis("Move", o, &m); }
     Cinnost<> MouseUp(Ovladac* o, const Mys& m) override {
@@ -126,7 +127,7 @@ public:
     }
     Cinnost<> TimerTick(Timer& /*t*/) override {
         Udalosti.push_back("Tick " + std::to_string(host_.TickCount()));
-        return Zavolej(PriTiku);
+        return {};
     }
     Odezva Klavesa(std::string_view k, int /*shift*/) override {
         if (!BereKlavesy) return std::nullopt;
@@ -145,12 +146,10 @@ public:
     Timer Hodiny;
     std::array<PictureBox, 2> cmd;
     std::vector<std::string> Udalosti;
-    std::function<Cinnost<>()> PriStisku, PriTiku;
+    std::function<Cinnost<>()> PriStisku;
     std::function<void()> PriAktivaci;
 
 private:
-    /// A copy is run: what it does may put another one in its place.
-    static Cinnost<> Zavolej(std::function<Cinnost<>()> co) { return co ? co() : Cinnost<>(); }
     Host& host_;
     void Zapis(const char* co, const Ovladac* o, const Mys* m = nullptr) {
         const auto cislo = [](double x) { return std::to_string(static_cast<int>(x)); };

@@ -9,7 +9,6 @@
 
 #include "engine/Tabulky.h"
 #include "podpora/Rysovac.h"
-#include "rules/Misc.h"
 
 namespace rysovna::testy {
 namespace {

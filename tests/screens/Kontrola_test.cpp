@@ -8,7 +8,6 @@
 #include "podpora/SouboryPomoc.h"
 #include "podpora/UkladaniHned.h"
 #include "screens/KontrolaPocitace.h"
-#include "screens/Spolecne.h"
 #include "store/Cesty.h"
 #include "store/Fronta.h"
 #include "store/TextPokusu.h"

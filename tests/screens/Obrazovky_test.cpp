@@ -10,7 +10,6 @@
 #include "screens/HelpForm.h"
 #include "screens/SelectForm.h"
 #include "screens/SetupForm.h"
-#include "screens/Spolecne.h"
 #include "screens/TabulkaForm.h"
 
 namespace rysovna::testy {

@@ -2,9 +2,7 @@
 // that nothing is left behind.
 
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <map>
 #include <string>
 
@@ -12,6 +10,7 @@
 #include "hrac/Serie.h"
 #include "platform/Bitmapa.h"
 #include "platform/Malir.h"
+#include "platform/Stroj.h"
 #include "screens/DeskaForm.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/Start.h"
@@ -43,11 +42,8 @@ private:
 /// What a folder holds, by paths below it.
 std::map<std::string, std::string> Obsah(const std::filesystem::path& slozka) {
     std::map<std::string, std::string> obsah;
-    for (const auto& s : std::filesystem::recursive_directory_iterator(slozka)) {
-        std::ifstream f(s.path(), std::ios::binary);
-        obsah[s.path().string()] =
-            s.is_regular_file() ? std::string(std::istreambuf_iterator<char>(f), {}) : "";
-    }
+    for (const auto& s : std::filesystem::recursive_directory_iterator(slozka))
+        obsah[s.path().string()] = CelySoubor(s.path()).value_or("");
     return obsah;
 }
 

@@ -9,7 +9,6 @@
 
 #include "platform/Bitmapa.h"
 #include "podpora/Rysovac.h"
-#include "rules/Misc.h"
 #include "screens/DeskaForm.h"
 #include "screens/RadaCesky.h"
 

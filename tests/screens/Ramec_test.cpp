@@ -12,9 +12,7 @@
 #include "podpora/HlidacRady.h"
 #include "podpora/Rysovac.h"
 #include "rules/Chyby.h"
-#include "rules/Misc.h"
 #include "screens/ChybovyForm.h"
-#include "screens/Spolecne.h"
 #include "zak/Tecny.h"
 
 namespace rysovna::testy {

@@ -8,7 +8,6 @@
 #include "platform/Obrazovky.h"
 #include "podpora/SouboryPomoc.h"
 #include "screens/SelectForm.h"
-#include "screens/Spolecne.h"
 #include "store/Cesty.h"
 #include "store/Ini.h"
 

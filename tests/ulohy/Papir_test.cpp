@@ -10,7 +10,6 @@
 #include <string>
 #include <vector>
 
-#include "base/Cisla.h"
 #include "hrac/RukaNaDesce.h"
 #include "podpora/PravaUctu.h"
 #include "rules/Postup.h"

@@ -10,7 +10,6 @@
 
 #include "base/Cisla.h"
 #include "platform/Pisma.h"
-#include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
 #include "store/Vysledek.h"

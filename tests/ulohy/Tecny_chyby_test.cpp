@@ -7,7 +7,6 @@
 #include <regex>
 
 #include "TecnyHra.h"
-#include "rules/Misc.h"
 
 namespace rysovna::testy {
 namespace {

@@ -4,7 +4,6 @@
 
 #include "TecnyHra.h"
 #include "hrac/Relace.h"
-#include "rules/Misc.h"
 
 namespace rysovna::testy {
 namespace {

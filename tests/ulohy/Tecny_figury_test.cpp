@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "TecnyHra.h"
-#include "rules/Misc.h"
 #include "rules/TecnyZadani.h"
 
 namespace rysovna::testy {

@@ -15,7 +15,6 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
-#include <vector>
 
 #include "platform/PosixDisk.h"
 #include "podpora/UkladaniHned.h"
