@@ -45,12 +45,13 @@ std::uint32_t JineZ(const P* body, P barva, std::index_sequence<I...>) {
                Ctverice{vaha(4 * i), vaha(4 * i + 1), vaha(4 * i + 2), vaha(4 * i + 3)};
     };
     const Ctverice bity = (ctverice(I) | ...);
-    return static_cast<std::uint32_t>(bity[0] | bity[1] | bity[2] | bity[3]);
+    const Ctverice dve = bity | __builtin_shufflevector(bity, bity, 2, 3, 0, 1);
+    return static_cast<std::uint32_t>((dve | __builtin_shufflevector(dve, dve, 1, 0, 3, 2))[0]);
 }
 
 /// The same of up to 64 pixels, a block at a time; the last one may overlap the one before.
 template <class P>
-std::uint64_t Jine(const P* body, int pocet, P barva) {
+[[gnu::always_inline]] inline std::uint64_t Jine(const P* body, int pocet, P barva) {
     std::uint64_t bity = 0;
     int i = 0;
     const auto dalsich = [&]<int N>(std::integral_constant<int, N>) {

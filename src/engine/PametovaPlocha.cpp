@@ -42,6 +42,7 @@ PametovaPlocha::PametovaPlocha(int w, int h, bool jednobitova)
             jednobitova ? CERNA : BILA) {}
 
 void PametovaPlocha::PSet(int x, int y, Barva barva) {
+    if (!AutoRedraw) return;
     if (!Meze().Obsahuje(x, y)) return;
     body_[Misto(x, y)] = Barvivo(barva);
 }
@@ -52,16 +53,19 @@ void PametovaPlocha::Vypln(const Obdelnik& kam, Barva barva) {
 }
 
 void PametovaPlocha::Line(float x1, float y1, float x2, float y2) {
+    if (!AutoRedraw) return;
     const Barva barva = Barvivo(ForeColor);
     RastrUsecka(x1, y1, x2, y2, DrawWidth, Meze(), [&](const Obdelnik& o) { Vypln(o, barva); });
 }
 
 void PametovaPlocha::Circle(float x, float y, float r) {
+    if (!AutoRedraw) return;
     const Barva barva = Barvivo(ForeColor);
     RastrKruznice(x, y, r, DrawWidth, Meze(), [&](const Obdelnik& o) { Vypln(o, barva); });
 }
 
 void PametovaPlocha::Print(std::string_view text) {
+    if (!AutoRedraw) return;
     Obdelnik znak{Zaokrouhli(CurrentX), Zaokrouhli(CurrentY), SIRKA_ZNAKU, VYSKA_ZNAKU};
     for (const char32_t kod : DoZnaku(text)) {
         if (kod != U' ') Vypln(Prunik(znak, Meze()), Barvivo(ForeColor));
@@ -74,6 +78,7 @@ int PametovaPlocha::TextWidth(std::string_view text) const {
 }
 
 void PametovaPlocha::Cls() {
+    if (!AutoRedraw) return;
     Vypln(Meze(), Barvivo(BackColor));
     CurrentX = CurrentY = 0;
 }
@@ -89,6 +94,7 @@ std::uint64_t PametovaPlocha::Radek(int x, int y, int pocet) const {
 
 bool PametovaPlocha::BitBlt(int x, int y, int w, int h, const Plane& zdroj, int zx, int zy,
                             Rop rop) {
+    if (!AutoRedraw) return true;
     if (&zdroj == this) {
         // The two areas may overlap.
         const PametovaPlocha kopie = *this;
@@ -120,6 +126,7 @@ bool PametovaPlocha::BitBlt(int x, int y, int w, int h, const Plane& zdroj, int 
 }
 
 void PametovaPlocha::InvertRect(int x, int y, int w, int h) {
+    if (!AutoRedraw) return;
     const Obdelnik cast = Prunik({x, y, w, h}, Meze());
     for (int py = cast.Top; py < cast.Top + cast.Height; ++py) {
         for (int px = cast.Left; px < cast.Left + cast.Width; ++px) {

@@ -9,7 +9,7 @@ namespace rysovna {
 
 /// A plane in memory that needs no graphics library: lines and circles exactly as on the screen's
 /// logical bitmap. In place of text it fills a block of SIRKA_ZNAKU by VYSKA_ZNAKU pixels for each
-/// character, so that labels occupy pixels.
+/// character, so that labels occupy pixels. While AutoRedraw is false nothing is drawn, as there.
 class PametovaPlocha : public Plane {
 public:
     static constexpr int SIRKA_ZNAKU = 6;

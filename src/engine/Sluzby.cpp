@@ -37,10 +37,12 @@ Nakres Ulozena(const Utvar& u) {
 void PrekresliVse(Tabulky& t, Plane& HidenPic, Plane& Pic) {
     HidenPic.Cls();
     for (int i = 1; i <= t.PocetUtvaru; ++i) {
-        // A copy: the routines write the row from which their arguments come.
-        const Utvar utvar = t.Utvary[i];
+        // The routines write the row from which their arguments come: each value over itself.
+        const Utvar& utvar = t.Utvary[i];
         for (const RadekPrekresleni& radek : PREKRESLENI) {
-            if (radek.druh == utvar.Druh) radek.kresli(t, HidenPic, i, Ulozena(utvar), NE);
+            if (radek.druh != utvar.Druh) continue;
+            radek.kresli(t, HidenPic, i, Ulozena(utvar), NE);
+            break;
         }
     }
     const auto zkopiruj = [&] {

@@ -47,6 +47,7 @@ bool RovneUhly(double a, double b) {
     // spares nearly all of the printing.
     constexpr double JISTE_RUZNE = 2e-5;
     if (std::abs(a - b) > JISTE_RUZNE) return false;
+    if (a == b) return true;
     return FormatPetMist(a) == FormatPetMist(b);
 }
 

@@ -2,8 +2,6 @@
 #include <array>
 #include <bit>
 #include <cstdint>
-#include <span>
-#include <vector>
 
 #include "base/Pixely.h"
 #include "engine/Sluzby.h"
@@ -20,8 +18,6 @@ constexpr int RADKU = VYSKA_POPISU + 2;
 /// So many columns of candidates are looked at together, and of a box so many columns at a time:
 /// what both reach is one reading of the plane.
 constexpr int BLOK = 32;
-/// Set in a word that was read; no candidate has this bit.
-constexpr Slovo PRECTENO = Slovo{1} << 63;
 
 /// Of each bit whether it or any of the n - 1 above it is set.
 Slovo NejakyZ(Slovo bity, int n) {
@@ -31,26 +27,22 @@ Slovo NejakyZ(Slovo bity, int n) {
     return bity | bity >> (n - spojeno);
 }
 
-/// The rows of pixels under a block of candidates, each read at most once and only when asked for.
+/// The rows of pixels under a block of candidates, each read only when asked for, and once if it is
+/// one of the first that there is room for.
 class Radky {
 public:
     /// roh: the top left pixel of the block's first box.
-    Radky(const Plane& plane, Bod roh, int sloupcu, int kandidatu, int radku)
-        : plane_(plane), roh_(roh), sloupcu_(sloupcu), kandidatu_(kandidatu) {
-        const auto treba = static_cast<std::size_t>(radku);
-        if (treba > male_.size()) {
-            velke_.resize(treba);
-            slova_ = velke_;
-        } else {
-            slova_ = std::span(male_).first(treba);
-            std::ranges::fill(slova_, 0);
-        }
-    }
+    Radky(const Plane& plane, Bod roh, int sloupcu, int kandidatu)
+        : plane_(plane), roh_(roh), sloupcu_(sloupcu), kandidatu_(kandidatu) {}
 
     /// The candidates whose boxes are not white all along this row.
     Slovo operator()(int radka) {
+        if (radka >= PAMATUJE) return Precti(radka);
         Slovo& s = slova_[static_cast<std::size_t>(radka)];
-        if (s == 0) s = PRECTENO | Precti(radka);
+        if ((precteno_ >> radka & 1) == 0) {
+            s = Precti(radka);
+            precteno_ |= Slovo{1} << radka;
+        }
         return s;
     }
 
@@ -64,12 +56,14 @@ private:
         return zabrano & DolniBity(kandidatu_);
     }
 
+    /// More than the rows of any label that the drawing routines ask for.
+    static constexpr int PAMATUJE = 64;
+
     const Plane& plane_;
     Bod roh_;
     int sloupcu_, kandidatu_;
-    std::array<Slovo, 64> male_;  ///< room for every label that the drawing routines ask for
-    std::vector<Slovo> velke_;
-    std::span<Slovo> slova_;
+    Slovo precteno_ = 0;  ///< a bit for each row
+    std::array<Slovo, PAMATUJE> slova_;
 };
 
 /// The topmost of the candidates of a column that is free; kandidatu if none is. From the bottom of
@@ -94,7 +88,7 @@ void VolneMisto(Plane& plane, Bod& bod, int sirka, int dosah) {
     const int radku = kandidatu + RADKU - 1;
     for (int prvni = 0; prvni < kandidatu; prvni += BLOK) {
         const int vBloku = std::min(kandidatu - prvni, BLOK);
-        Radky radky(plane, {bod.X - dosah - 1 + prvni, bod.Y - dosah - 1}, sloupcu, vBloku, radku);
+        Radky radky(plane, {bod.X - dosah - 1 + prvni, bod.Y - dosah - 1}, sloupcu, vBloku);
         // Each box has one of these rows: where all are taken no box of the column is free.
         Slovo zabrano = DolniBity(vBloku);
         for (int r = RADKU - 1; r < radku; r += RADKU) zabrano &= radky(r);

@@ -106,6 +106,8 @@ void Surface::Vnitrek::Vyprazdni(Pixel pozadi) {
     novy->Vyska = Logicka.Vyska;
     novy->Pozadi = pozadi;
     novy->Podklad = Podklad;
+    // What is drawn anew is mostly about as long as before.
+    novy->Polozky.reserve(Obsah.Pocet);
     Obsah = {std::move(novy), 0};
     MaKlic = !Podklad.Prazdny() && Podklad.Data()->MaKlic();
     NovaVerze();
