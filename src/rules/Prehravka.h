@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,16 +8,9 @@
 #include "rules/Dialog.h"
 #include "rules/Misc.h"
 #include "rules/Pokus.h"
-#include "rules/Ulohy.h"
+#include "rules/VyrobDialog.h"
 
 namespace rysovna {
-
-/// The dialogue of one of the program's boards.
-[[nodiscard]] std::unique_ptr<Dialog> VyrobDialog(Deska deska, Misc& misc, Platna platna);
-
-/// Makes the dialogue of a task.
-using VyrobceDialogu =
-    std::function<std::unique_ptr<Dialog>(int cisloUlohy, Misc& misc, Platna platna)>;
 
 /// Where a replay and what was written down come apart, in Czech, and what differs there.
 struct Rozchod {

@@ -33,14 +33,12 @@ struct RadekDesky {
     std::shared_ptr<Form> (*VyrobForm)(Sezeni& s, const RadekDesky& deska);
 };
 
-/// The row of a board with the dialogue D in the frame F.
-template <class D, class F>
+/// The row of a board in the frame F.
+template <class F>
 constexpr RadekDesky DeskaS(std::string_view jmeno, MapaRadku mapa,
-                            std::span<const Nastroj> nastroje) {
-    return {jmeno, mapa, nastroje,
-            [](Misc& misc, Platna platna) -> std::unique_ptr<Dialog> {
-                return std::make_unique<D>(misc, platna);
-            },
+                            std::span<const Nastroj> nastroje,
+                            decltype(RadekDesky::VyrobDialog) vyrobDialog) {
+    return {jmeno, mapa, nastroje, vyrobDialog,
             [](Sezeni& s, const RadekDesky& deska) -> std::shared_ptr<Form> {
                 return std::make_shared<F>(s, deska);
             }};

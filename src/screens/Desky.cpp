@@ -4,13 +4,8 @@
 #include <span>
 #include <string_view>
 
-#include "rules/CtyrUDialog.h"
-#include "rules/LichoDialog.h"
-#include "rules/RovnoDialog.h"
-#include "rules/TecnyDialog.h"
-#include "rules/Troj1Dialog.h"
-#include "rules/Troj2Dialog.h"
 #include "rules/Ulohy.h"
+#include "rules/VyrobDialog.h"
 #include "screens/DeskaCtyruhelniku.h"
 #include "screens/TecnyForm.h"
 
@@ -34,19 +29,20 @@ struct DeskaProgramu {
 };
 
 /// The row of a board, its form named as it is in the list of tasks.
-template <class D, class F>
-constexpr DeskaProgramu Radek(Deska ktera, std::string_view jmeno,
-                              std::span<const Nastroj> nastroje) {
-    return {ktera, DeskaS<D, F>(jmeno, MapaDesky(ktera), nastroje)};
+template <Deska KTERA, class F>
+constexpr DeskaProgramu Radek(std::string_view jmeno, std::span<const Nastroj> nastroje) {
+    return {KTERA, DeskaS<F>(jmeno, MapaDesky(KTERA), nastroje, [](Misc& misc, Platna platna) {
+                return VyrobDialog(KTERA, misc, platna);
+            })};
 }
 
 constexpr DeskaProgramu DESKY[] = {
-    Radek<Troj1Dialog, DeskaForm>(Deska::Troj1Form, "Troj1Form", NASTROJE_TROJUHELNIKU),
-    Radek<Troj2Dialog, DeskaForm>(Deska::Troj2Form, "Troj2Form", NASTROJE_TROJUHELNIKU),
-    Radek<CtyrUDialog, DeskaCtyruhelniku>(Deska::CtyrUForm, "CtyrUForm", NASTROJE_CTYRUHELNIKU),
-    Radek<RovnoDialog, DeskaCtyruhelniku>(Deska::RovnoForm, "RovnoForm", NASTROJE_ROVNOBEZNIKU),
-    Radek<LichoDialog, DeskaCtyruhelniku>(Deska::LichoForm, "LichoForm", NASTROJE_CTYRUHELNIKU),
-    Radek<TecnyDialog, TecnyForm>(Deska::TecnyForm, "TecnyForm", NASTROJE_TECEN),
+    Radek<Deska::Troj1Form, DeskaForm>("Troj1Form", NASTROJE_TROJUHELNIKU),
+    Radek<Deska::Troj2Form, DeskaForm>("Troj2Form", NASTROJE_TROJUHELNIKU),
+    Radek<Deska::CtyrUForm, DeskaCtyruhelniku>("CtyrUForm", NASTROJE_CTYRUHELNIKU),
+    Radek<Deska::RovnoForm, DeskaCtyruhelniku>("RovnoForm", NASTROJE_ROVNOBEZNIKU),
+    Radek<Deska::LichoForm, DeskaCtyruhelniku>("LichoForm", NASTROJE_CTYRUHELNIKU),
+    Radek<Deska::TecnyForm, TecnyForm>("TecnyForm", NASTROJE_TECEN),
 };
 static_assert(std::ranges::all_of(ULOHY,
                                   [](const Uloha& u) {

@@ -83,7 +83,10 @@ protected:
 
 constexpr Slot POLE[] = {mapa::Druh, mapa::Nazev1, mapa::Jednotka1};
 constexpr Nastroj NASTROJE[] = {Nastroj::Usecka, Nastroj::Zpet};
-constexpr RadekDesky DESKA = DeskaS<UseckaDialog, DeskaForm>("UseckaForm", {POLE}, NASTROJE);
+constexpr RadekDesky DESKA = DeskaS<DeskaForm>(
+    "UseckaForm", {POLE}, NASTROJE, [](Misc& misc, Platna platna) -> std::unique_ptr<Dialog> {
+        return std::make_unique<UseckaDialog>(misc, platna);
+    });
 constexpr int ULOHA = 3;  // it takes the place of that task, and its pictures
 
 std::shared_ptr<Form> VyrobSedm(Sezeni& s, int cisloUlohy) {

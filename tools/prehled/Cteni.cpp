@@ -11,7 +11,7 @@
 #include "engine/PametovaPlocha.h"
 #include "platform/Stroj.h"
 #include "rules/KatalogChyb.h"
-#include "rules/Prehravka.h"
+#include "rules/VyrobDialog.h"
 #include "store/TextPokusu.h"
 #include "store/TextRadku.h"
 
