@@ -16,6 +16,7 @@
 #include "screens/Sezeni.h"
 #include "screens/Start.h"
 #include "store/Cesty.h"
+#include "store/JmenaSouboru.h"
 #include "store/SlouceniVysledku.h"
 #include "store/TextPokusu.h"
 #include "store/UkladaniPokusu.h"

@@ -9,6 +9,7 @@
 #include "rules/Ulohy.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
+#include "store/JmenaSouboru.h"
 #include "store/Soubory.h"
 
 namespace rysovna {
@@ -183,7 +184,7 @@ void DeskaForm::ZacniSerii() {
     zbyvaPrikladu_ = s_.PocetPrikladuSerie;
     dialog_ = deska_.VyrobDialog(s_, {Pic.Plocha(), HidenPic.Plocha()});
     ZacniPokus();
-    NactiPriklady(s_, s_.Disk(), s_.CestaHD + DveCislice(s_.CisloUlohy) + ".dat", deska_.Mapa);
+    NactiPriklady(s_, s_.Disk(), s_.CestaHD + JmenoUlohy(s_.CisloUlohy), deska_.Mapa);
     dialog_->NovyPriklad();
     NoveZadani();
     PolozKlidnyPanel();

@@ -13,6 +13,7 @@
 #include "rules/Ulohy.h"
 #include "screens/SeznamAssetu.h"
 #include "store/Cesty.h"
+#include "store/JmenaSouboru.h"
 #include "store/Kodovani.h"
 #include "store/Soubory.h"
 
@@ -43,16 +44,16 @@ void ZkontrolujData(Disk& disk, const std::string& slozka, std::vector<Nalez>& n
         nalezy.push_back(jeden.front());
     };
     for (const Uloha& uloha : ULOHY) {
-        zkus(DveCislice(uloha.Cislo) + ".dat", [&](const std::string& soubor) {
+        zkus(JmenoUlohy(uloha.Cislo), [&](const std::string& soubor) {
             NactiPriklady(misc, disk, soubor, MapaDesky(uloha.deska));
         });
     }
-    zkus("Znamky.dat", [&](const std::string& soubor) {
+    zkus(JMENO_ZNAMEK, [&](const std::string& soubor) {
         NactiZnamky(misc, disk, soubor);
         if (misc.ZnamkyTab[1] == RadekZnamek{})
             throw BehovaChyba("V souboru není žádná známka", disk.Skutecna(soubor).string());
     });
-    zkus("Errors.dat", [&](const std::string& soubor) {
+    zkus(JMENO_VET, [&](const std::string& soubor) {
         if (PocetVet(disk, soubor) == 0)
             throw BehovaChyba("V souboru není žádná věta", disk.Skutecna(soubor).string());
     });
@@ -96,7 +97,7 @@ std::vector<Nalez> ZkontrolujPocitac(const KontrolovanyStroj& stroj) {
     const Cesty cesty = CtiCesty(stroj.disk, stroj.SlozkaNastaveni, stroj.SlozkaDat);
     const bool uplne = !cesty.CD.empty() && !cesty.HD.empty();
     nalezy.push_back({uplne ? VPoradku : Chyba, "Nastavení",
-                      (stroj.disk.Skutecna(stroj.SlozkaNastaveni) / "Rysovna.ini").string() +
+                      (stroj.disk.Skutecna(stroj.SlozkaNastaveni) / JMENO_INI).string() +
                           (uplne ? "" : ": chybí, nebo v něm není klíč CD nebo HD")});
     Zkus(nalezy, "Obrazovka", Chyba, stroj.Obrazovka);
     // The game is silent without it and nothing else.

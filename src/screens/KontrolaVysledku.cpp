@@ -4,6 +4,7 @@
 #include "screens/KontrolaPocitace.h"
 #include "store/Cesty.h"
 #include "store/Fronta.h"
+#include "store/JmenaSouboru.h"
 #include "store/TabulkaVysledku.h"
 #include "store/TextPokusu.h"
 #include "store/Ukladani.h"
@@ -161,7 +162,7 @@ void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Cesty& cesty,
         cesty.Oddelene && (disk.JeSlozka(slozka) || ucet) && PujdeZakladat(disk, slozka);
     Soubory(disk, cesty, zalozi, nalezy);
     nalezy.push_back(Misto(disk, NejblizsiSlozka(disk, slozka), "Místo na výsledky"));
-    const fs::path denik = disk.Skutecna(cesty.Vysledky + std::string(JMENO_DENIKU));
+    const fs::path denik = disk.Skutecna(cesty.Vysledky + JMENO_DENIKU);
     if (disk.JeSoubor(denik)) nalezy.push_back(Zamek(disk, denik));
     Pokusy(disk, slozka / UkladaniPokusu::SLOZKA, cesty.Pokusy, nalezy);
     nalezy.push_back(Fronta_(disk, stroj.SlozkaStavu));

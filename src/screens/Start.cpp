@@ -13,6 +13,7 @@
 #include "screens/PrehravaniForm.h"
 #include "screens/SelectForm.h"
 #include "store/Cesty.h"
+#include "store/JmenaSouboru.h"
 #include "store/Soubory.h"
 #include "store/TextPokusu.h"
 
@@ -86,8 +87,7 @@ std::string NactiMista(Sezeni& s, bool& oddelene) {
     s.ZapomenVysledky();
     if (!s.CestaCD.empty()) NastavSlozkuPisem(s.CestaCD + "Fonts");
     if (s.CestaCD.empty() || s.CestaHD.empty()) {
-        VypisChybejici("v souboru " +
-                       NativniCesta(s.AdresarSystemu + std::string(JMENO_INI)).string() +
+        VypisChybejici("v souboru " + NativniCesta(s.AdresarSystemu + JMENO_INI).string() +
                        " není klíč " + (s.CestaCD.empty() ? "CD" : "HD"));
         return CHYBI_INI;
     }
@@ -134,8 +134,8 @@ std::string NactiKonfiguraci(Sezeni& s) {
     if (!zalozeno || !std::ranges::all_of(JmenaDat(), jeVDatech) ||
         !std::ranges::all_of(JmenaVysledku(), jeVeVysledcich))
         return CHYBI_DATA;
-    NactiZnamky(s, s.Disk(), s.CestaHD + "Znamky.dat");
-    s.Vety = [&s](int cislo) { return CtiVety(s.Disk(), s.CestaHD + "Errors.dat", cislo); };
+    NactiZnamky(s, s.Disk(), s.CestaHD + JMENO_ZNAMEK);
+    s.Vety = [&s](int cislo) { return CtiVety(s.Disk(), s.CestaHD + JMENO_VET, cislo); };
     s.Generator.Zasej(s.Stroj.Seminko());
     return {};
 }

@@ -13,6 +13,7 @@
 #include "screens/Prechody.h"
 #include "screens/Spolecne.h"
 #include "screens/Zdroje.h"
+#include "store/JmenaSouboru.h"
 #include "store/Ukladani.h"
 
 namespace rysovna {
@@ -51,7 +52,7 @@ std::string Vejde(const std::string& text, const Pismo& pismo, int sirka) {
 }
 
 std::string SouborTabulky(const Misc& misc) {
-    return misc.CestaVysledku + DveCislice(misc.CisloUlohy) + ".res";
+    return misc.CestaVysledku + JmenoTabulky(misc.CisloUlohy);
 }
 
 }  // namespace

@@ -3,10 +3,9 @@
 #include <cctype>
 
 #include "base/Cisla.h"
-#include "rules/Ulohy.h"
 #include "store/Ini.h"
+#include "store/JmenaSouboru.h"
 #include "store/TextRadku.h"
-#include "store/Ukladani.h"
 
 namespace rysovna {
 
@@ -57,7 +56,7 @@ std::string SlozkaSLomitkem(const std::filesystem::path& slozka) {
 
 Cesty CtiCesty(Disk& disk, const std::string& slozka, const std::filesystem::path& slozkaUctu) {
     const std::string adresar = SeZpetnymLomitkem(slozka);
-    const std::string obsah = CtiNeboNic(disk, disk.Skutecna(adresar + std::string(JMENO_INI)));
+    const std::string obsah = CtiNeboNic(disk, disk.Skutecna(adresar + JMENO_INI));
     Cesty cesty;
     cesty.CD = CestaZIni(obsah, "CD", adresar);
     cesty.HD = CestaZIni(obsah, "HD", adresar);
@@ -73,20 +72,6 @@ Cesty CtiCesty(Disk& disk, const std::string& slozka, const std::filesystem::pat
     cesty.Pokusy = !RikaNe(obsah, SEKCE, KLIC_POKUSU);
     cesty.Seminko = CeleCislo<std::uint32_t>(HodnotaIni(obsah, SEKCE, KLIC_SEMINKA, ""));
     return cesty;
-}
-
-std::vector<std::string> JmenaDat() {
-    std::vector<std::string> jmena;
-    for (const Uloha& u : ULOHY) jmena.push_back(DveCislice(u.Cislo) + ".dat");
-    jmena.insert(jmena.end(), {"Znamky.dat", "Errors.dat"});
-    return jmena;
-}
-
-std::vector<std::string> JmenaVysledku() {
-    std::vector<std::string> jmena;
-    for (const Uloha& u : ULOHY) jmena.push_back(DveCislice(u.Cislo) + ".res");
-    jmena.emplace_back(JMENO_DENIKU);
-    return jmena;
 }
 
 }  // namespace rysovna

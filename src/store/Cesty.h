@@ -4,8 +4,6 @@
 #include <filesystem>
 #include <optional>
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include "base/Disk.h"
 
@@ -15,9 +13,6 @@ namespace rysovna {
 [[nodiscard]] std::string SeZpetnymLomitkem(std::string cesta);
 /// A real folder in the spelling of the program's paths.
 [[nodiscard]] std::string SlozkaSLomitkem(const std::filesystem::path& slozka);
-
-/// The file that says where things are.
-constexpr std::string_view JMENO_INI = "Rysovna.ini";
 
 /// Where the configuration says that things are, each with a backslash at its end or empty where
 /// its key is missing, and what else it says.
@@ -36,9 +31,5 @@ struct Cesty {
 /// a file that cannot be read has no keys.
 [[nodiscard]] Cesty CtiCesty(Disk& disk, const std::string& slozka,
                              const std::filesystem::path& slozkaUctu);
-
-/// Files of game data and of results, in the order in which they are looked for.
-[[nodiscard]] std::vector<std::string> JmenaDat();
-[[nodiscard]] std::vector<std::string> JmenaVysledku();
 
 }  // namespace rysovna

@@ -3,9 +3,9 @@
 #include <map>
 #include <vector>
 
+#include "store/JmenaSouboru.h"
 #include "store/Kodovani.h"
 #include "store/TabulkaVysledku.h"
-#include "store/Ukladani.h"
 
 namespace rysovna {
 namespace {

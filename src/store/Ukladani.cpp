@@ -5,7 +5,7 @@
 #include <iterator>
 #include <utility>
 
-#include "base/Cisla.h"
+#include "store/JmenaSouboru.h"
 #include "store/Kodovani.h"
 
 namespace rysovna {
@@ -306,7 +306,7 @@ void Ukladani::ZapisVysledek(CekajiciVysledek& v, Soubor& denik, Fronta* fronta)
 }
 
 void Ukladani::DoTabulky(CekajiciVysledek& v, Fronta* fronta) {
-    const fs::path cesta = Cesta(DveCislice(v.Co.CisloUlohy) + ".res");
+    const fs::path cesta = Cesta(JmenoTabulky(v.Co.CisloUlohy));
     const ZaznamTabulky radek = RadekSouboru(v.Co);
     OtevrenaTabulka tabulka(disk_, cesta);
     const int stejnych = tabulka.Kolikrat(radek);

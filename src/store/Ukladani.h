@@ -18,9 +18,6 @@
 
 namespace rysovna {
 
-/// Name of the results log in the folder of results; its lock guards log and tables.
-constexpr std::string_view JMENO_DENIKU = "Vysledky.dat";
-
 /// Stores results so that none is lost and none is written twice, whatever fails and whenever the
 /// program is killed. Each result goes through the queue of the account: an entry there first, then
 /// under the lock of the folder of results the lines of the log, then the row of the table, and

@@ -10,6 +10,7 @@
 #include "screens/SelectForm.h"
 #include "store/Cesty.h"
 #include "store/Ini.h"
+#include "store/JmenaSouboru.h"
 
 namespace rysovna::testy {
 namespace {

@@ -10,6 +10,7 @@
 #include "platform/Obrazovky.h"
 #include "rules/Ulohy.h"
 #include "screens/Start.h"
+#include "store/JmenaSouboru.h"
 
 namespace rysovna::hrac {
 namespace {
@@ -42,13 +43,10 @@ Relace::Relace(std::uint32_t seminko, Cim cim, VyrobceDesek vyrobce)
       data_(koren_ / "data") {
     fs::copy(STAGING / "data", data_, fs::copy_options::recursive);
     // The staged copy may have been played with: a run begins with no results.
-    for (const auto& soubor : fs::directory_iterator(data_)) {
-        if (soubor.path().extension() == ".res") fs::resize_file(soubor, 0);
-    }
-    fs::resize_file(data_ / "Vysledky.dat", 0);
+    for (const std::string& jmeno : JmenaVysledku()) fs::resize_file(data_ / jmeno, 0);
     host_.SlozkaSystemu = koren_.string();
     host_.SeminkoHry = seminko;
-    std::ofstream ini(koren_ / "Rysovna.ini", std::ios::binary);
+    std::ofstream ini(koren_ / JMENO_INI, std::ios::binary);
     ini << "[RYSOVNA1]\r\nCD=" << (STAGING / "assets").string() << "\r\nHD=" << data_.string()
         << "\r\n";
     ini.close();

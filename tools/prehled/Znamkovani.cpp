@@ -8,6 +8,7 @@
 #include "prehled/Verze.h"
 #include "rules/Kontrola.h"
 #include "store/Cesty.h"
+#include "store/JmenaSouboru.h"
 #include "store/Kodovani.h"
 #include "store/Soubory.h"
 #include "store/TextRadku.h"
@@ -38,7 +39,7 @@ Znamkovani::Znamkovani(const fs::path& program) : Znamkovani() {
     for (const fs::path& slozka : {program, SlozkaNastaveniUctu(), SlozkaNastaveniStroje()}) {
         if (slozka.empty() || !disk.JeSoubor(slozka / JMENO_INI)) continue;
         const std::string data =
-            CtiCesty(disk, SlozkaSLomitkem(slozka), SlozkaDatUctu()).HD + "Znamky.dat";
+            CtiCesty(disk, SlozkaSLomitkem(slozka), SlozkaDatUctu()).HD + JMENO_ZNAMEK;
         if (disk.JeSoubor(NativniCesta(data))) NactiZnamky(misc_, disk, data);
         return;
     }

@@ -4,12 +4,12 @@
 #include <ostream>
 #include <utility>
 
-#include "base/Cisla.h"
 #include "platform/Ovladace.h"
 #include "platform/SurfaceVnitrek.h"
 #include "rules/Misc.h"
 #include "rules/Zaznamy.h"
 #include "sit/Otisk.h"
+#include "store/JmenaSouboru.h"
 
 namespace rysovna::sit {
 namespace {
@@ -135,7 +135,7 @@ void Pozorovatel::Stanice(std::string_view co) {
 }
 
 void Pozorovatel::Zaver(int uloha) {
-    for (const std::string& soubor : {DveCislice(uloha) + ".res", std::string("Vysledky.dat")}) {
+    for (const std::string& soubor : {JmenoTabulky(uloha), std::string(JMENO_DENIKU)}) {
         kam_ << "soubor " << soubor << ' ' << Sestnactkove(Otisk(hra_.CtiSoubor(soubor))) << '\n';
     }
     std::string zvuky;

@@ -18,6 +18,7 @@
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/Desky.h"
+#include "store/JmenaSouboru.h"
 #include "store/Kodovani.h"
 #include "store/TextRadku.h"
 #include "store/UkladaniPokusu.h"
@@ -81,7 +82,7 @@ void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy, Re
     hra.PreskocTitul();
     foto.Vyfot("nabidka");
     for (const int uloha : ulohy) OdehrajUlohu(hra, foto, uloha);
-    std::cout << Z1250(hra.CtiSoubor("Vysledky.dat"), "Vysledky.dat");
+    std::cout << Z1250(hra.CtiSoubor(JMENO_DENIKU), JMENO_DENIKU);
 }
 
 /// The number of a task; nothing if it is none.
