@@ -8,6 +8,7 @@
 #include "engine/Sluzby.h"
 #include "rules/Chyby.h"
 #include "rules/Misc.h"
+#include "rules/SlovaKroku.h"
 
 namespace rysovna {
 
@@ -25,7 +26,6 @@ struct RadekVety {
 };
 constexpr RadekVety RADKY_VET[] = {{"podle věty SSS", "sss"}, {"podle věty SUS", "sus"}};
 
-constexpr std::string_view TROJUHELNIK = "trojuhelnik";
 constexpr std::string_view PODLE_VETY = "podlevety";
 
 constexpr ChybaKroku CHYBA_TROJUHELNIK = 133, CHYBA_VETA = 101;
@@ -161,7 +161,7 @@ void DialogCtyruhelniku::NakresliTrojuhelnik(const VetaTrojuhelniku& veta) {
         const std::size_t uhel = veta.Veta == "sus" ? 2 : hodnoty.size();
         for (std::size_t i = 0; i < hodnoty.size(); ++i) {
             misc_.Utvary[static_cast<int>(i) + misc_.PocetUtvaru - 2].Jak = {
-                std::string(TROJUHELNIK), "", FormatCesky(hodnoty[i]) + (i == uhel ? "°" : " cm")};
+                TROJUHELNIK, "", FormatCesky(hodnoty[i]) + (i == uhel ? "°" : " cm")};
         }
     }
     Prekresli();

@@ -10,16 +10,12 @@
 #include "base/Cisla.h"
 #include "base/Matematika.h"
 #include "engine/Tabulky.h"
+#include "rules/SlovaKroku.h"
 #include "rules/Ulohy.h"
 
 namespace rysovna {
 
 namespace {
-
-/// Words of steps beside the kinds of object.
-constexpr std::string_view TROJUHELNIK = "trojuhelnik", OSA = "osa", STRED = "stred",
-                           PRUSECIK = "prusecik", STRED_SOUMERNOSTI = "stredsoumernosti",
-                           OBRAZ_BODU = "obrazbodu";
 
 constexpr std::string_view PAPRSEK = "↦", SPOJNICE = "↔", STUPEN = "°";
 

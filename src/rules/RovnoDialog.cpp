@@ -8,6 +8,7 @@
 #include "engine/Tabulky.h"
 #include "rules/Misc.h"
 #include "rules/Radky.h"
+#include "rules/SlovaKroku.h"
 
 namespace rysovna {
 
@@ -70,8 +71,7 @@ constexpr Losovani LOSOVANI[] = {{"01", "24", {DELKA, DELKA}, false, false},
                                  {"25", "56", {DELKA, DELKA}, false, true},
                                  {"57", "60", {OSTRY, TUPY}, true, true}};
 
-constexpr std::string_view STRED_SOUMERNOSTI = "stredsoumernosti", OBRAZ_BODU = "obrazbodu";
-constexpr std::string_view STRED = "S";
+constexpr std::string_view JMENO_STREDU = "S";
 constexpr ChybaKroku CHYBA_STRED = 112, CHYBA_VZOR = 137;
 constexpr int KROKU = 6;
 
@@ -173,7 +173,7 @@ bool RovnoDialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
 }
 
 bool RovnoDialog::SeStredem() const {
-    return Stav().ZvolenyTrojuhelnik.find(STRED) != std::string::npos;
+    return Stav().ZvolenyTrojuhelnik.find(JMENO_STREDU) != std::string::npos;
 }
 
 /// A triangle with the centre lacks two vertices, a whole one lacks one.
@@ -275,7 +275,7 @@ void RovnoDialog::ZvolStred(const std::string& kod) {
     // A vertex that stands on the plane already needs no click.
     const auto vrchol = Misto(kod);
     if (kod.size() > 1 || !vrchol) return;
-    NakresliStred(*vrchol, kod == STRED);
+    NakresliStred(*vrchol, kod == JMENO_STREDU);
     misc_.Utvary[misc_.PocetUtvaru].Jak = {Stav().ZvolenyUtvar, kod, ""};
     DalsiFaze();
 }
@@ -305,9 +305,9 @@ bool RovnoDialog::PrvekSpravny(int faze) const {
 
 /// Marks the centre. maPismeno: it is the vertex S of the triangle, which has its letter already.
 void RovnoDialog::NakresliStred(Bod stred, bool maPismeno) {
-    const int n = NovyUtvar(STRED, "");
-    KresliBod(misc_, platna_.Pic, n, {.Druh = BOD, .P1 = stred, .Popis1 = maPismeno ? "" : STRED},
-              ANO);
+    const int n = NovyUtvar(JMENO_STREDU, "");
+    KresliBod(misc_, platna_.Pic, n,
+              {.Druh = BOD, .P1 = stred, .Popis1 = maPismeno ? "" : JMENO_STREDU}, ANO);
 }
 
 /// The click marks the computed point, near or far: where the triangle is missing, its own place.
@@ -322,7 +322,7 @@ void RovnoDialog::NakresliUtvar(Bod /*konec*/) {
     } else {
         const std::string hledany = HledanyBod();
         const auto vzor = Misto(prvek);
-        const auto stred = Misto(STRED);
+        const auto stred = Misto(JMENO_STREDU);
         if (vzor && stred) bod = ObrazVeStredu(*vzor, *stred);
         const int n = NovyUtvar(hledany, "");
         KresliBod(misc_, platna_.Pic, n, {.Druh = BOD, .P1 = bod, .Popis1 = hledany}, ANO);

@@ -8,6 +8,7 @@
 #include "rules/Chyby.h"
 #include "rules/Kontrola.h"
 #include "rules/Misc.h"
+#include "rules/SlovaKroku.h"
 #include "rules/TecnyNacrt.h"
 #include "rules/TecnyZadani.h"
 #include "rules/Zadani.h"
@@ -175,7 +176,7 @@ void TecnyDialog::StiskNastroje(int i) {
         case Nastroj::Stred:
             return PripravStred(*krok);
         case Nastroj::Osa: {
-            stav_.ZvolenyUtvar = "osa";
+            stav_.ZvolenyUtvar = OSA;
             const std::string jmeno = std::string(krok->Body[0]) + std::string(krok->Body[1]);
             return OtevriSeznam({{"úsečky " + jmeno, true, true, jmeno}});
         }
@@ -276,7 +277,7 @@ void TecnyDialog::NabidniSpojnice(const KrokTecny& krok) {
 }
 
 void TecnyDialog::PripravStred(const KrokTecny& krok) {
-    stav_.ZvolenyUtvar = "stred";
+    stav_.ZvolenyUtvar = STRED;
     stav_.Jmeno =
         stav_.Spravny ? std::string(VolneJmeno(krok)) : std::string(krok.JmenoChybnehoStredu);
     stav_.Rysovane = "střed úsečky " + std::string(krok.Body[0]) + std::string(krok.Body[1]);
@@ -287,7 +288,7 @@ void TecnyDialog::PripravStred(const KrokTecny& krok) {
 }
 
 void TecnyDialog::PripravOznaceni(const KrokTecny& krok) {
-    stav_.ZvolenyUtvar = "prusecik";
+    stav_.ZvolenyUtvar = PRUSECIK;
     stav_.OcekavanyBod = krok.Jmena[0];
     stav_.CekaNaKresleni = true;
 }

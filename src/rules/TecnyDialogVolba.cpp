@@ -6,6 +6,7 @@
 #include "rules/Chyby.h"
 #include "rules/Kontrola.h"
 #include "rules/Misc.h"
+#include "rules/SlovaKroku.h"
 #include "rules/TecnyDialog.h"
 #include "rules/Zadani.h"
 
@@ -88,7 +89,7 @@ void TecnyDialog::ZvolOsu() {
     misc_.Utvary[misc_.PocetUtvaru].Jak = {stav_.ZvolenyUtvar, stav_.OcekavanyBod, ""};
     NakresliBod(C, jmenoC, stred.NaPrimce);
     misc_.Utvary[misc_.PocetUtvaru].Jak = {
-        "stred", std::string(stred.Body[0]) + " " + std::string(stred.Body[1]), ""};
+        STRED, std::string(stred.Body[0]) + " " + std::string(stred.Body[1]), ""};
     Zapis(stav_.Faze, BOD, jmenoC);
     Zapis(stav_.Faze + 1, KOLMICE, jmenoB);
     SplnPolozku(jmenoC);

@@ -12,7 +12,7 @@ constexpr std::string_view DALSI_ZADANOU = "Zvol ze zadaných křivek tu, kterou
 constexpr std::string_view PO_BODU = "Zvol další křivku, kterou narýsuješ.";
 constexpr std::string_view PO_CARE = "Zvol další křivku, kterou budeš pokračovat.";
 constexpr std::string_view PO_CARE_S_PREKLEPEM = "Zvol další krřivku, kterou budeš pokračovat.";
-constexpr std::string_view PRUSECIK = "Označ na kreslící ploše průsečík.";
+constexpr std::string_view PRUSECIK_CAR = "Označ na kreslící ploše průsečík.";
 constexpr std::string_view PRUSECIKY = "Označ na kreslící ploše průsečíky.";
 constexpr std::string_view PRUSECIKY_K2 = "Označ na kreslící ploše průsečíky přímky a kružnice k2.";
 constexpr std::string_view PRUSECIK_PRIMEK = "Označ na kreslící ploše průsečík přímek.";
@@ -21,7 +21,7 @@ constexpr std::string_view VSECHNY_PRIMKY =
     "Narýsuj všechny přímky, rovnoběžné se zadanou přímkou.";
 constexpr std::string_view VSECHNY_TECNY = "Narýsuj všechny tečny, procházející bodem A.";
 
-constexpr std::string_view STRED = "Střed úsečky";
+constexpr std::string_view STRED_USECKY = "Střed úsečky";
 
 // Tools that come together again and again.
 constexpr std::array<Nastroj, 4> RYSUJ{Poloprimka, Kolmice, Rovnobezka, Kruznice};
@@ -67,8 +67,8 @@ constexpr KrokTecny KROKY_01[] = {
      .Ceho = {"b", "k"},
      .ChybaPruniku = 203,
      .Zakladny = {"a"}},
-    Oznac("A1", PRUSECIK, 217, "b"),
-    Oznac("A2", PRUSECIK, 217, "b"),
+    Oznac("A1", PRUSECIK_CAR, 217, "b"),
+    Oznac("A2", PRUSECIK_CAR, 217, "b"),
     TECNA_01,
     TECNA_01,
 };
@@ -100,8 +100,8 @@ constexpr KrokTecny KROKY_02[] = {
      .Ceho = {"b", "k"},
      .ChybaPruniku = 204,
      .Zakladny = {"a"}},
-    Oznac("A1", PRUSECIK, 217, "b"),
-    Oznac("A2", PRUSECIK, 217, "b"),
+    Oznac("A1", PRUSECIK_CAR, 217, "b"),
+    Oznac("A2", PRUSECIK_CAR, 217, "b"),
     TECNA_02,
     TECNA_02,
 };
@@ -126,7 +126,7 @@ constexpr KrokTecny KROKY_03[] = {
      .Body = {"S", "A"},
      .ChybaRysovani = 205,
      .NaPrimce = "SA",
-     .Odecet = STRED,
+     .Odecet = STRED_USECKY,
      .Zakladny = {"SA"}},
     {.Nastroje = RYSUJ,
      .Spravny = Kruznice,
@@ -161,7 +161,7 @@ constexpr KrokTecny KROKY_04[] = {
      .Ceho = {"b", "a"},
      .ChybaPruniku = 209,
      .Zakladny = {"a"}},
-    Oznac("B", PRUSECIK, 214, "b"),
+    Oznac("B", PRUSECIK_CAR, 214, "b"),
     {.Nastroje = SE_STREDEM,
      .Spravny = Stred,
      .Chybne = {Kruznice},
@@ -170,7 +170,7 @@ constexpr KrokTecny KROKY_04[] = {
      .Body = {"A", "B"},
      .ChybaRysovani = 205,
      .NaPrimce = "b",
-     .Odecet = STRED,
+     .Odecet = STRED_USECKY,
      .Zakladny = {"a", "b"}},
     {.Nastroje = RYSUJ,
      .Spravny = Kruznice,
@@ -192,7 +192,7 @@ constexpr KrokTecny STRED_AB{.Nastroje = S_OSOU,
                              .Body = {"A", "B"},
                              .ChybaRysovani = 205,
                              .NaPrimce = "AB",
-                             .Odecet = STRED,
+                             .Odecet = STRED_USECKY,
                              .Zakladny = {"AB", "a"}};
 
 // "05": the circle through A and B with its centre on a.
@@ -212,7 +212,7 @@ constexpr KrokTecny KROKY_05[] = {
      .Pocita = Prunik::Primky,
      .Ceho = {"b", "a"},
      .Zakladny = {"AB", "a"}},
-    Oznac("D", PRUSECIK, 214, "a"),
+    Oznac("D", PRUSECIK_CAR, 214, "a"),
     {.Nastroje = RYSUJ,
      .Spravny = Kruznice,
      .Jmena = {"k"},
@@ -265,7 +265,7 @@ constexpr KrokTecny KROKY_06[] = {
      .ChybaVolby = 124,
      .Body = {"A", "B"},
      .ChybaRysovani = 210,
-     .Odecet = STRED,
+     .Odecet = STRED_USECKY,
      .Zakladny = {"AB", "a", "b"},
      .JmenoChybnehoStredu = "D"},
 };
@@ -296,7 +296,7 @@ constexpr KrokTecny KROKY_07[] = {
      .Body = {"A", "B"},
      .ChybaRysovani = 205,
      .NaPrimce = "c",
-     .Odecet = STRED,
+     .Odecet = STRED_USECKY,
      .Zakladny = {"a", "b", "c"},
      .SedeNastroje = {Poloprimka, Stred, Rovnobezka, Kolmice}},
     {.Nastroje = RYSUJ,
@@ -340,7 +340,7 @@ constexpr KrokTecny KROKY_08[] = {
      .ChybaVolby = 124,
      .Body = {"A", "B"},
      .ChybaRysovani = 212,
-     .Odecet = STRED,
+     .Odecet = STRED_USECKY,
      .Zakladny = {"a", "b", "c"},
      .JmenoChybnehoStredu = "C"},
 };

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "engine/Tabulky.h"
+#include "rules/SlovaKroku.h"
 #include "rules/TecnyKroky.h"
 
 // What a task file must hold, as tables. A task with kinds of its own adds rows here.
@@ -241,18 +242,17 @@ struct PravidloKroku {
     std::string_view Jmena[2];
     int Posledni;
 };
-constexpr std::string_view OBRAZ = "obrazbodu";
 constexpr PravidloKroku KROKY[]{
-    {BOD, "ABC", {"AC"}, 2}, {OBRAZ, "ABC", {"B"}, KROKU},
-    {BOD, "BCD", {"BD"}, 2}, {OBRAZ, "BCD", {"C"}, KROKU},
-    {BOD, "CDA", {"AC"}, 2}, {OBRAZ, "CDA", {"D"}, KROKU},
-    {BOD, "DAB", {"BD"}, 2}, {OBRAZ, "DAB", {"A"}, KROKU},
-    {BOD, "ABS", {"S"}, 2},  {OBRAZ, "ABS", {"A", "B"}, KROKU},
-    {BOD, "BCS", {"S"}, 2},  {OBRAZ, "BCS", {"B", "C"}, KROKU},
-    {BOD, "CDS", {"S"}, 2},  {OBRAZ, "CDS", {"C", "D"}, KROKU},
-    {BOD, "DAS", {"S"}, 2},  {OBRAZ, "DAS", {"D", "A"}, KROKU},
+    {BOD, "ABC", {"AC"}, 2}, {OBRAZ_BODU, "ABC", {"B"}, KROKU},
+    {BOD, "BCD", {"BD"}, 2}, {OBRAZ_BODU, "BCD", {"C"}, KROKU},
+    {BOD, "CDA", {"AC"}, 2}, {OBRAZ_BODU, "CDA", {"D"}, KROKU},
+    {BOD, "DAB", {"BD"}, 2}, {OBRAZ_BODU, "DAB", {"A"}, KROKU},
+    {BOD, "ABS", {"S"}, 2},  {OBRAZ_BODU, "ABS", {"A", "B"}, KROKU},
+    {BOD, "BCS", {"S"}, 2},  {OBRAZ_BODU, "BCS", {"B", "C"}, KROKU},
+    {BOD, "CDS", {"S"}, 2},  {OBRAZ_BODU, "CDS", {"C", "D"}, KROKU},
+    {BOD, "DAS", {"S"}, 2},  {OBRAZ_BODU, "DAS", {"D", "A"}, KROKU},
 };
-constexpr std::string_view DRUHY_KROKU[]{BOD, OBRAZ, ""};
+constexpr std::string_view DRUHY_KROKU[]{BOD, OBRAZ_BODU, ""};
 
 // ---- Circles and tangents --------------------------------------------------------------------
 
@@ -270,7 +270,7 @@ struct PravidloReseni {
     bool Bod;
 };
 constexpr PravidloReseni RESENI[]{
-    {Nastroj::Prusecik, "prusecik", true},    {Nastroj::Stred, "stred", true},
+    {Nastroj::Prusecik, PRUSECIK, true},      {Nastroj::Stred, STRED, true},
     {Nastroj::Primka, PRIMKA, false},         {Nastroj::Kolmice, KOLMICE, false},
     {Nastroj::Rovnobezka, ROVNOBEZKA, false}, {Nastroj::Kruznice, KRUZNICE, false},
 };
