@@ -24,12 +24,24 @@ constexpr Barva Rgb(int r, int g, int b) {
 /// A typeface as the screens ask for it.
 struct Pismo {
     enum class Rez { MsSansSerif, Symbol };
-    Rez Nazev = Rez::MsSansSerif;  ///< Symbol: the letters a, b, g, d, ^ show as α, β, γ, δ, ⊥
+    Rez Nazev = Rez::MsSansSerif;  ///< Symbol: letters show as others, see ZnakSymbolu
     float Velikost = 8;            ///< points, at 96 pixels to the inch
     bool Kurziva = false;
     bool Tucne = false;
     friend bool operator==(const Pismo&, const Pismo&) = default;
 };
+
+/// What a letter of the typeface Symbol shows; any other one shows itself.
+constexpr char32_t ZnakSymbolu(char32_t pismeno) {
+    constexpr struct {
+        char32_t Pismeno, Znak;
+    } SYMBOLY[] = {{U'a', U'α'}, {U'b', U'β'}, {U'g', U'γ'}, {U'd', U'δ'},
+                   {U'e', U'ε'}, {U'w', U'ω'}, {U'^', U'⊥'}};
+    for (const auto& s : SYMBOLY) {
+        if (s.Pismeno == pismeno) return s.Znak;
+    }
+    return pismeno;
+}
 
 /// How a copy mixes the source into the target.
 enum class Rop : std::uint32_t {

@@ -28,12 +28,6 @@ constexpr std::array<std::string_view, POCET_REZU> SOUBORY = {
     "RysovnaSans-BoldItalic.ttf", "RysovnaZnaky.ttf"};
 constexpr int NAHRADNI = 4;
 
-/// What the letters of the typeface "Symbol" show.
-constexpr struct {
-    char32_t Pismeno, Znak;
-} SYMBOLY[] = {{U'a', U'α'}, {U'b', U'β'}, {U'g', U'γ'}, {U'd', U'δ'},
-               {U'e', U'ε'}, {U'w', U'ω'}, {U'^', U'⊥'}};
-
 /// Set in a character's code, it says that this is the number of a glyph of just that font file.
 constexpr char32_t CISLO_GLYFU = 1U << 23;
 /// From this type size on glyphs begin at halves of a pixel: quarters could not be told apart.
@@ -220,14 +214,7 @@ int Horni(const Pismo& p) {
 std::u32string ZnakyPisma(const Pismo& p, std::string_view text) {
     std::u32string znaky = DoZnaku(text);
     if (p.Nazev == Pismo::Rez::Symbol) {
-        for (char32_t& z : znaky) {
-            for (const auto& s : SYMBOLY) {
-                if (s.Pismeno == z) {
-                    z = s.Znak;
-                    break;
-                }
-            }
-        }
+        for (char32_t& z : znaky) z = ZnakSymbolu(z);
     }
     return znaky;
 }

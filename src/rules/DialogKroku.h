@@ -14,6 +14,7 @@
 #include "rules/Nacrt.h"
 #include "rules/Prichytavani.h"
 #include "rules/Tahy.h"
+#include "rules/Veliciny.h"
 #include "rules/Zadani.h"
 
 namespace rysovna {

@@ -13,6 +13,7 @@
 #include "rules/Dialog.h"
 #include "rules/Tahy.h"
 #include "rules/Uzavreni.h"
+#include "rules/Veliciny.h"
 
 namespace rysovna {
 

@@ -11,7 +11,6 @@
 #include "rules/SlovaKroku.h"
 #include "rules/TecnyNacrt.h"
 #include "rules/TecnyZadani.h"
-#include "rules/Zadani.h"
 
 namespace rysovna {
 

@@ -8,7 +8,7 @@
 #include "rules/Misc.h"
 #include "rules/SlovaKroku.h"
 #include "rules/TecnyDialog.h"
-#include "rules/Zadani.h"
+#include "rules/Veliciny.h"
 
 namespace rysovna {
 

@@ -1,13 +1,8 @@
 #pragma once
 
 #include <array>
-#include <span>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include "rules/Misc.h"
-#include "rules/Panel.h"
 
 namespace rysovna {
 
@@ -26,26 +21,8 @@ constexpr int NEJVIC_LOSOVANI = 20000;
 /// Draws the first three values.
 void VylosujTri(Nahoda& nahoda, const std::array<Vzorec, 3>& vzorce, HodnotyPrikladu& hodnoty);
 
-/// A given quantity as the data name it.
-struct Zadana {
-    std::string_view Nazev, Jednotka;
-};
-
-/// Whether two names mean the same quantity: data spell delta also "delt".
-[[nodiscard]] bool StejnaVelicina(std::string_view a, std::string_view b);
-
 /// Whether three lengths make a triangle, strictly.
 [[nodiscard]] bool Trojuhelnikova(double a, double b, double c);
-
-/// Whether a quantity of this name is an angle.
-[[nodiscard]] bool JeUhel(std::string_view nazev);
-
-/// What stands behind the name of a given quantity: "= ", the number with a blank in place of its
-/// sign, the unit, and ", " unless it is the last.
-[[nodiscard]] std::string TextHodnoty(int hodnota, std::string_view jednotka, bool posledni);
-
-/// How the object in hand is called that stands upright on another: "přímka b, b ⊥ AB".
-[[nodiscard]] std::string NazevKolmice(std::string_view jmeno, std::string_view zaklad);
 
 /// Chooses an example of the file: the whole part of PocetPrikladu times r plus 1. There is no
 /// memory: the same may come twice.

@@ -182,8 +182,6 @@ private:
     void UkazSeznamKlavesam();
     [[nodiscard]] Bod VRozsahu(Bod kriz) const;
     // DeskaPanel.cpp: what the dialogue says, on its controls
-    /// The Symbol letter of an angle's name; any other name as it is.
-    [[nodiscard]] static std::string PismenoUhlu(std::string_view nazev);
     void RozlozSeznam();
     [[nodiscard]] static int VyskaSeznamu(int radku);
     void UkazNastroje(const MistaNastroju& mista);

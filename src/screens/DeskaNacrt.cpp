@@ -8,6 +8,7 @@
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "rules/Ulohy.h"
+#include "rules/Veliciny.h"
 #include "screens/DeskaForm.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
@@ -44,7 +45,7 @@ constexpr float NADPIS_X = 21, NADPIS_Y = 6;
 void DeskaForm::KresliNacrt() {
     const auto pismo = [](Plane& p, NapisNacrtu napis, std::string_view text) {
         p.Font = std::ranges::find(PISMA_NACRTU, napis, &PismoNapisu::Napis)->Font;
-        return napis == NapisNacrtu::Uhel ? PismenoUhlu(text) : std::string(text);
+        return napis == NapisNacrtu::Uhel ? SymbolUhlu(text) : std::string(text);
     };
     KresliPrvkyNacrtu(SamplePic.Plocha(), Dialogem().NacrtPrikladu(), Dialogem().ZnackyNacrtu(),
                       pismo);

@@ -7,6 +7,7 @@
 #include "engine/Sluzby.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
+#include "rules/Veliciny.h"
 #include "screens/DeskaForm.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
@@ -29,12 +30,6 @@ constexpr struct {
 } MEZERY_DVOU_UHLU[] = {{{false, true, true}, {2, 5, 5}},
                         {{true, false, true}, {4, 2, 5}},
                         {{true, true, false}, {4, 4, 5}}};
-
-/// The letter of Symbol that shows an angle.
-constexpr std::pair<std::string_view, std::string_view> UHLY[] = {
-    {"alfa", "a"}, {"beta", "b"}, {"gama", "g"}, {"delta", "d"},
-    {"delt", "d"}, {"epsi", "e"}, {"omeg", "w"},
-};
 
 // The unit beside the box for a value, px: to the right of the name of the object in hand; top.
 constexpr int JEDNOTKA_VPRAVO = 142, JEDNOTKA_NAHORE = 374;
@@ -82,11 +77,6 @@ int SirkaSeznamu(Seznam::Obsah coRika) {
 }
 
 }  // namespace
-
-std::string DeskaForm::PismenoUhlu(std::string_view nazev) {
-    const auto* u = std::ranges::find(UHLY, nazev, [](const auto& r) { return r.first; });
-    return std::string(u == std::end(UHLY) ? nazev : u->second);
-}
 
 void DeskaForm::Ukaz() {
     const Panel p = Dialogem().UkazPanel();
@@ -182,7 +172,7 @@ void DeskaForm::UkazZadani(const std::vector<ZadanaVelicina>& zadani) {
                 pridej(hodnota, {}, i, mezera);
                 continue;
             case ZadanaVelicina::Druh::Uhel:
-                pridej(PismenoUhlu(nazev), {.Nazev = Pismo::Rez::Symbol}, i, mezera);
+                pridej(SymbolUhlu(nazev), {.Nazev = Pismo::Rez::Symbol}, i, mezera);
                 break;
             case ZadanaVelicina::Druh::Delka:
                 pridej(nazev, {.Kurziva = true}, i, mezera);

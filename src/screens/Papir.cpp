@@ -12,6 +12,7 @@
 #include "platform/Sazba.h"
 #include "rules/Kontrola.h"
 #include "rules/Ulohy.h"
+#include "rules/Veliciny.h"
 
 namespace rysovna {
 
@@ -32,16 +33,6 @@ constexpr double TENCE = 0.6, SILNE = 1.6;      ///< of lines
 /// So many times smaller is the figure than on a blackboard, where 8 px are 1 cm.
 constexpr int MERITKO = 3;
 constexpr double PIXEL_FIGURY = Pdf::NA_CM / (PIXELU_NA_CM * MERITKO);
-
-/// Angles as they are written.
-constexpr std::pair<std::string_view, std::string_view> UHLY[] = {
-    {"alfa", "α"}, {"beta", "β"}, {"gama", "γ"}, {"delta", "δ"},
-    {"delt", "δ"}, {"epsi", "ε"}, {"omeg", "ω"}};
-
-std::string PismenoUhlu(std::string_view nazev) {
-    const auto* u = std::ranges::find(UHLY, nazev, [](const auto& r) { return r.first; });
-    return std::string(u == std::end(UHLY) ? nazev : u->second);
-}
 
 /// "DA||BC" with a sign of its own.
 std::string SRovnobezkou(std::string nazev) {

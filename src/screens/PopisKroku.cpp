@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "rules/Veliciny.h"
 #include "screens/RadaCesky.h"
 
 namespace rysovna {
@@ -95,7 +96,7 @@ std::string PopisKroku(const Volani& v, const Panel& p, const Dialog& dialog) {
         }
         case Volani::Druh::Nacrt: {
             const std::string prvek = dialog.VidetPrvek(dialog.PrvekNacrtu(v.X, v.Y)).Jmeno;
-            return "Značka v náčrtku" + (prvek.empty() ? "" : ": " + PismenoPrvku(prvek));
+            return "Značka v náčrtku" + (prvek.empty() ? "" : ": " + PismenoUhlu(prvek));
         }
         case Volani::Druh::Posunuti:
             return Posun(v.O);

@@ -5,6 +5,7 @@
 
 #include "base/Cisla.h"
 #include "rules/Kontrola.h"
+#include "rules/Veliciny.h"
 
 namespace rysovna {
 
@@ -173,14 +174,8 @@ RadkyRady PriTahu(const Rada& r, CimSeHraje cim) {
     return {r.Odecet + std::string(slova.Pro(cim)), ""};
 }
 
-/// The letters of the sketch's angles.
-struct Uhel {
-    std::string_view Jmeno, Pismeno;
-};
-constexpr Uhel UHLY[] = {{"alfa", "α"}, {"beta", "β"}, {"gama", "γ"}, {"delta", "δ"}};
-
 RadkyRady OPrvku(const PrvekVNacrtu& p) {
-    return {std::string(p.Oznaceny ? ZRUSI_ZNACKU : OZNACI) + PismenoPrvku(p.Jmeno),
+    return {std::string(p.Oznaceny ? ZRUSI_ZNACKU : OZNACI) + PismenoUhlu(p.Jmeno),
             std::string(DALSI_PRVEK)};
 }
 
@@ -194,11 +189,6 @@ RadkyRady OVysledku(const VysledekPrikladu& v) {
 }
 
 }  // namespace
-
-std::string PismenoPrvku(const std::string& jmeno) {
-    const auto* u = std::ranges::find(UHLY, std::string_view(jmeno), &Uhel::Jmeno);
-    return u == std::end(UHLY) ? jmeno : std::string(u->Pismeno);
-}
 
 std::string TextBodu(int n) {
     return TextBezMezery(n) + (n == 1 ? " bod" : n >= 2 && n <= 4 ? " body" : " bodů");

@@ -12,8 +12,6 @@ namespace rysovna {
 using RadkyRady = std::array<std::string, 2>;
 [[nodiscard]] RadkyRady RadaCesky(const Rada& r, CimSeHraje cim);
 
-/// An element of the sketch by its name: of an angle its letter, "α".
-[[nodiscard]] std::string PismenoPrvku(const std::string& jmeno);
 /// "1 bod", "3 body", "10 bodů".
 [[nodiscard]] std::string TextBodu(int bodu);
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "podpora/RukaUlohy.h"
+#include "rules/Veliciny.h"
 #include "zak/Sestroj.h"
 
 namespace rysovna::testy {

@@ -9,6 +9,7 @@
 #include "Pravidla.h"
 #include "base/Cisla.h"
 #include "rules/Ulohy.h"
+#include "rules/Veliciny.h"
 #include "store/MapaPoli.h"
 
 namespace rysovna::kodovani {
@@ -150,7 +151,7 @@ private:
     void Jednotky() {
         for (const PravidloJednotky& p : JEDNOTKY) {
             if (!Plati(p) || nalezy_.contains(p.Nazev)) continue;
-            Ma(p.Jednotka, JeMezi(Pole(p.Nazev), UHLY)            ? STUPNE
+            Ma(p.Jednotka, JeUhel(Pole(p.Nazev))                  ? STUPNE
                            : JeMezi(Pole(p.Nazev), ROVNOBEZNOSTI) ? ""
                                                                   : CM);
         }

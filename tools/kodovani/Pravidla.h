@@ -29,7 +29,6 @@ constexpr PravidloDruhu DRUHY[]{
 
 constexpr std::string_view CM = "cm";
 constexpr std::string_view STUPNE = "°";
-constexpr std::string_view UHLY[]{"alfa", "beta", "gama", "delta", "delt", "epsi", "omeg"};
 constexpr std::string_view ROVNOBEZNOSTI[]{"AB||CD", "BC||DA", "CD||AB", "DA||BC"};
 
 /// Another spelling that a board reads.

@@ -11,6 +11,7 @@
 #include "engine/PametovaPlocha.h"
 #include "platform/Stroj.h"
 #include "rules/KatalogChyb.h"
+#include "rules/Veliciny.h"
 #include "rules/VyrobDialog.h"
 #include "store/TextPokusu.h"
 #include "store/TextRadku.h"
@@ -37,16 +38,8 @@ std::optional<std::string> Zacatek(const fs::path& soubor, std::size_t bajtu) {
     }
 }
 
-/// Names of angles as they are written.
-constexpr std::pair<std::string_view, std::string_view> RECKA[] = {
-    {"alfa", "α"}, {"beta", "β"}, {"gama", "γ"}, {"delta", "δ"},
-    {"delt", "δ"}, {"epsi", "ε"}, {"omeg", "ω"}};
-
 std::string NazevVeliciny(const ZadanaVelicina& z) {
-    if (z.Co != ZadanaVelicina::Druh::Uhel) return z.Nazev;
-    const auto* r = std::ranges::find(RECKA, std::string_view(z.Nazev),
-                                      &std::pair<std::string_view, std::string_view>::first);
-    return r == std::end(RECKA) ? z.Nazev : std::string(r->second);
+    return z.Co == ZadanaVelicina::Druh::Uhel ? PismenoUhlu(z.Nazev) : z.Nazev;
 }
 
 /// Without the blanks that stand for signs and before degrees.

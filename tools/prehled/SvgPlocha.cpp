@@ -14,12 +14,6 @@ namespace rysovna::prehled {
 
 namespace {
 
-/// What the letters of the typeface "Symbol" show.
-struct Symbol {
-    char32_t Pismeno, Znak;
-};
-constexpr Symbol SYMBOLY[] = {{U'a', U'α'}, {U'b', U'β'}, {U'g', U'γ'}, {U'd', U'δ'}, {U'^', U'⊥'}};
-
 /// What stands for what in a text of XML.
 struct Nahrada {
     char32_t Znak;
@@ -91,8 +85,7 @@ std::string Sestnactkove(Barva barva) {
 
 void PripisText(std::string& kam, std::string_view text, bool symbol) {
     for (char32_t znak : DoZnaku(text)) {
-        const auto* s = std::ranges::find(SYMBOLY, znak, &Symbol::Pismeno);
-        if (symbol && s != std::end(SYMBOLY)) znak = s->Znak;
+        if (symbol) znak = ZnakSymbolu(znak);
         if (znak < U' ' || znak == U'\uFFFE' || znak == U'\uFFFF') znak = NEZNAMY;
         const auto* n = std::ranges::find(NAHRADY, znak, &Nahrada::Znak);
         kam += n != std::end(NAHRADY) ? std::string(n->Cim) : ZeZnaku({&znak, 1});

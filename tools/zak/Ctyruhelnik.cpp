@@ -6,7 +6,7 @@
 
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
-#include "rules/Zadani.h"
+#include "rules/Veliciny.h"
 #include "zak/Trojuhelnik.h"
 
 namespace rysovna::hrac {
