@@ -11,13 +11,12 @@ namespace rysovna {
 namespace {
 
 std::string_view SlovoBodu(int n) {
-    if (n == 1) return " bod";
-    return n >= 2 && n <= 4 ? " body" : " bodů";
+    return SLOVA_BODU[n == 1 ? 0 : n >= 2 && n <= 4 ? 1 : 2];
 }
 
 /// What stands behind the sentence. zbyva: points of the example that are not lost yet.
-std::string TextBodu(ChybaKroku chyba, std::string_view slovy, int zbyva) {
-    const std::string body = TextBezMezery(chyba.Body()) + std::string(SlovoBodu(chyba.Body()));
+std::string ZaVetou(ChybaKroku chyba, std::string_view slovy, int zbyva) {
+    const std::string body = TextBodu(chyba.Body());
     switch (chyba.Jak()) {
         case Zneni::Obvykle:
             return "  -" + body;
@@ -37,9 +36,13 @@ std::string TextBodu(ChybaKroku chyba, std::string_view slovy, int zbyva) {
 
 }  // namespace
 
+std::string TextBodu(int body) {
+    return TextBezMezery(body) + std::string(SlovoBodu(body));
+}
+
 void PridejChybu(Misc& misc, ChybaKroku chyba, std::string_view slovy) {
     if (!misc.Vety) Selhani("Pravidla nemají věty chybných kroků");
-    const std::string body = TextBodu(chyba, slovy, BODU_ZA_PRIKLAD - misc.SoucetZapornychBodu);
+    const std::string body = ZaVetou(chyba, slovy, BODU_ZA_PRIKLAD - misc.SoucetZapornychBodu);
     for (const std::string& veta : misc.Vety(chyba.Cislo())) {
         misc.SoucetZapornychBodu += chyba.Body();
         ++misc.PocetChybnychKroku;

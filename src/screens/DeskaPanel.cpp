@@ -1,7 +1,6 @@
 // The panel of the dialogue as the controls show it.
 
 #include <algorithm>
-#include <utility>
 
 #include "base/Text.h"
 #include "engine/Sluzby.h"

@@ -1,9 +1,9 @@
 #include "screens/RadaCesky.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "base/Cisla.h"
+#include "rules/Chyby.h"
 #include "rules/Kontrola.h"
 #include "rules/Veliciny.h"
 
@@ -189,10 +189,6 @@ RadkyRady OVysledku(const VysledekPrikladu& v) {
 }
 
 }  // namespace
-
-std::string TextBodu(int n) {
-    return TextBezMezery(n) + (n == 1 ? " bod" : n >= 2 && n <= 4 ? " body" : " bodů");
-}
 
 RadkyRady RadaCesky(const Rada& r, CimSeHraje cim) {
     switch (r.Druh) {

@@ -12,7 +12,4 @@ namespace rysovna {
 using RadkyRady = std::array<std::string, 2>;
 [[nodiscard]] RadkyRady RadaCesky(const Rada& r, CimSeHraje cim);
 
-/// "1 bod", "3 body", "10 bodů".
-[[nodiscard]] std::string TextBodu(int bodu);
-
 }  // namespace rysovna

@@ -10,6 +10,7 @@
 #include "base/Text.h"
 #include "engine/PametovaPlocha.h"
 #include "platform/Stroj.h"
+#include "rules/Chyby.h"
 #include "rules/KatalogChyb.h"
 #include "rules/Veliciny.h"
 #include "rules/VyrobDialog.h"
@@ -171,7 +172,7 @@ std::string BezBodu(std::string_view veta) {
         return neco;
     };
     const std::string_view cela = veta;
-    for (const std::string_view slovo : {" bodů", " body", " bod"}) {
+    for (const std::string_view slovo : SLOVA_BODU) {
         if (!veta.ends_with(slovo)) continue;
         veta.remove_suffix(slovo.size());
         if (!uber("0123456789")) break;
