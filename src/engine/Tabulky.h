@@ -22,6 +22,8 @@ constexpr double SEDM_PI = 21.9911485751285;
 
 /// Degrees of half a turn: degrees are radians * STUPNU_PULOTACKY / PI.
 constexpr double STUPNU_PULOTACKY = 180;
+/// The boards' drawing plane, px.
+constexpr int SIRKA_PLOCHY = 384, VYSKA_PLOCHY = 335;
 /// Pixels of the plane to the centimetre.
 constexpr int PIXELU_NA_CM = 8;
 /// A press catches a stored point less than this many pixels off on either axis.

@@ -92,7 +92,7 @@ void DeskaForm::RozlozOvladace() {
     Pridej(ImgHodnoceni, "ImgHodnoceni", {173, 404, 32, 32});
     Pridej(IHintS, "IHintS", {201, 413, 15, 13});
 
-    Pridej(Pic, "Pic", {226, 98, 384, 335});
+    Pridej(Pic, "Pic", {226, 98, SIRKA_PLOCHY, VYSKA_PLOCHY});
     Pic.BereDvojklik = SamplePic.BereDvojklik = false;
     Pridej(Line1, "Line1", {}, &Pic);
     Pridej(Circle1, "Circle1", {}, &Pic);

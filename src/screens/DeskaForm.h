@@ -59,7 +59,7 @@ public:
 
     [[nodiscard]] std::string_view Jmeno() const override { return deska_.Jmeno; }
 
-    PictureBox Pic;       ///< the drawing plane, 384 by 335 px
+    PictureBox Pic;       ///< the drawing plane
     PictureBox HidenPic;  ///< its off-screen twin
     LineShape Line1;      ///< rubber bands and read-out, on the plane
     CircleShape Circle1;

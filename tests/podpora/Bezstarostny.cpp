@@ -254,7 +254,7 @@ void Bezstarostny::Klavesami() {
     const bool ziva = JeZivaZastavka(*o);
     try {
         if (o->Name == "Pic") {
-            const auto misto = [this] { return Bod{Cislo(384), Cislo(335)}; };
+            const auto misto = [this] { return Bod{Cislo(SIRKA_PLOCHY), Cislo(VYSKA_PLOCHY)}; };
             relace_->Tahni("Pic", misto(), misto());
         } else if (o->Name == "SamplePic") {
             relace_->NaZastavku(o->Name);

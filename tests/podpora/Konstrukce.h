@@ -11,9 +11,6 @@
 
 namespace rysovna::testy {
 
-constexpr int SIRKA_PLOCHY = 384;
-constexpr int VYSKA_PLOCHY = 335;
-
 /// Opens the next row with the names of its points.
 inline int NovyUtvar(Tabulky& t, std::string_view jmeno1, std::string_view jmeno2) {
     const int i = ++t.PocetUtvaru;

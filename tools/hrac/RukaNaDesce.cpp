@@ -87,9 +87,8 @@ void RukaNaDesce::TahPoPlose(Bod odkud, Bod kam) {
 }
 
 void RukaNaDesce::Posun(int dx, int dy) {
-    constexpr int KROK = 20;  // px
     const auto sipka = [this](int i, int px) {
-        for (; px > 0; px -= KROK) relace_.Stiskni("picSipka", i);
+        for (; px > 0; px -= KROK_POSUNU) relace_.Stiskni("picSipka", i);
     };
     // The left arrow moves the view to the left and the figure to the right.
     sipka(1, dx);

@@ -10,9 +10,6 @@
 
 namespace rysovna::prehled {
 
-/// The boards' drawing plane, px; the page's figures are as large.
-constexpr int SIRKA_PLOCHY = 384, VYSKA_PLOCHY = 335;
-
 /// A charge in an attempt.
 struct ChybaSerie {
     int Cislo = 0;          ///< of its sentence

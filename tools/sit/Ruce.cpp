@@ -14,11 +14,10 @@ using hrac::RukaNaDesce;
 
 namespace {
 
-constexpr int ZPET = 5;
 constexpr int KAZDY = 4;  // one step of so many is followed by a back, one back by arrows
-constexpr int KROK = 20, NEJDAL = 120;  // px: of an arrow, and how far arrows are pressed
 
-constexpr std::array<Bod, 4> SMERY{{{KROK, 0}, {-KROK, 0}, {0, KROK}, {0, -KROK}}};
+constexpr std::array<Bod, 4> SMERY{
+    {{KROK_POSUNU, 0}, {-KROK_POSUNU, 0}, {0, KROK_POSUNU}, {0, -KROK_POSUNU}}};
 
 constexpr std::string_view TEXTY[] = {"", "12,5", "-3", "x", "0", "999999", ".5", "180"};
 
@@ -33,7 +32,7 @@ int Vracejici::Faze() const {
 }
 
 bool Vracejici::MuzeZpet() const {
-    return Hrany().UkazPanel().Nastroje[ZPET - 1].Zivy();
+    return Hrany().UkazPanel().Nastroje[NASTROJ_ZPET - 1].Zivy();
 }
 
 void Vracejici::NovyPriklad(int poradi) {
@@ -73,7 +72,7 @@ void Vracejici::Proved(Ukon u) {
 }
 
 void Vracejici::StiskNastroje(int i) {
-    if (i != ZPET) return Proved({Ukon::Druh::Nastroj, i, {}, {}, {}});
+    if (i != NASTROJ_ZPET) return Proved({Ukon::Druh::Nastroj, i, {}, {}, {}});
     RukaNaDesce::StiskNastroje(i);
     Zapomen();
 }
@@ -105,7 +104,7 @@ Bod Vracejici::Sipky() {
         const int ktera = los_.Cislo(4);
         const Bod smer = SMERY[static_cast<std::size_t>(ktera)];
         const Bod celkem{posunuto_.X + kam.X + smer.X, posunuto_.Y + kam.Y + smer.Y};
-        if (std::max(std::abs(celkem.X), std::abs(celkem.Y)) > NEJDAL) continue;
+        if (std::max(std::abs(celkem.X), std::abs(celkem.Y)) > MEZ_POSUNU) continue;
         ++souhrn_.Sipek[static_cast<std::size_t>(ktera)];
         RukaNaDesce::Posun(smer.X, smer.Y);
         kam = {kam.X + smer.X, kam.Y + smer.Y};
@@ -123,7 +122,7 @@ void Vracejici::VratSe() {
     do {
         ++souhrn_.ZpetZFaze[Faze()];
         ++souhrn_.ZpetPo[nastroj_];
-        RukaNaDesce::StiskNastroje(ZPET);
+        RukaNaDesce::StiskNastroje(NASTROJ_ZPET);
     } while (MuzeZpet() && !naZacatek() && los_.Cislo(KAZDY) == 0);
     RukaNaDesce::Posun(-posunuto.X, -posunuto.Y);
     const auto od = zacatky_.find(Faze());
@@ -141,15 +140,16 @@ std::vector<hrac::Zadano> Nedbala::Zadani() const {
 }
 
 Bod Nedbala::Nekde() {
-    const int x = los_.Cislo(384);  // px of the plane
-    return {x, los_.Cislo(335)};
+    const int x = los_.Cislo(SIRKA_PLOCHY);
+    return {x, los_.Cislo(VYSKA_PLOCHY)};
 }
 
 std::vector<int> Nedbala::ZiveNastroje() const {
     std::vector<int> zive;
     const MistaNastroju nastroje = Hrany().UkazPanel().Nastroje;
     for (int i = 1; i <= static_cast<int>(nastroje.size()); ++i) {
-        if (i != ZPET && nastroje[static_cast<std::size_t>(i - 1)].Zivy()) zive.push_back(i);
+        if (i != NASTROJ_ZPET && nastroje[static_cast<std::size_t>(i - 1)].Zivy())
+            zive.push_back(i);
     }
     return zive;
 }
@@ -231,7 +231,7 @@ void Nedbala::Neco() {
     } else if (co < 7) {
         RukaNaDesce::TahPoPlose(Nekde(), Nekde());
     } else if (co == 7 && MuzeZpet()) {
-        RukaNaDesce::StiskNastroje(ZPET);
+        RukaNaDesce::StiskNastroje(NASTROJ_ZPET);
     } else if (co == 8) {
         Hra().Stiskni("picSipka", los_.Mezi(1, 4));
     } else {

@@ -13,6 +13,7 @@
 
 #include "base/Cisla.h"
 #include "hrac/Serie.h"
+#include "rules/KatalogChyb.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "sit/Obrazy.h"
@@ -27,7 +28,6 @@ using hrac::Relace;
 
 constexpr const char* VERZE = "sit 1";  // of the output: another one cannot be compared
 constexpr int PRIKLADU = 2;             // of a series
-constexpr int BODU_ZA_PRIKLAD = 10;
 constexpr std::uint32_t PO_STISKU = 600, PO_KONCI = 1200, NEZ_JE_ZADANI = 1600;  // ms
 
 /// One series to play.

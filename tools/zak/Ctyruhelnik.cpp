@@ -73,12 +73,11 @@ constexpr PrvekUVrcholu PRVKY[] = {
 constexpr std::string_view VRCHOLY = "ABCD";
 constexpr int POKUSU = 50;  // to find places on the plane
 
-/// How far the arrows can take a figure, px: seven steps either way.
+/// How far the arrows can take a figure, px.
 std::vector<Bod> CestySipek() {
-    constexpr int KROK = 20, NEJDAL = 140;
     std::vector<Bod> cesty;
-    for (int y = -NEJDAL; y <= NEJDAL; y += KROK) {
-        for (int x = -NEJDAL; x <= NEJDAL; x += KROK) cesty.push_back({x, y});
+    for (int y = -NEJDAL_POSUNU; y <= NEJDAL_POSUNU; y += KROK_POSUNU) {
+        for (int x = -NEJDAL_POSUNU; x <= NEJDAL_POSUNU; x += KROK_POSUNU) cesty.push_back({x, y});
     }
     return cesty;
 }
@@ -248,12 +247,12 @@ void DokonalyCtyruhelnik::NarysujRovnobezku(const std::string& strana) {
 
 /// Whether the closed figure lies on the plane, once it is moved so far, px.
 bool DokonalyCtyruhelnik::VejdeSe(Bod posun) const {
-    constexpr int SIRKA = 384, VYSKA = 335, OKRAJ = 20;  // px
+    constexpr int OKRAJ = 20;  // px
     if (!ruka_.Hrany().Hotova()) return false;
     return std::ranges::all_of(std::array{1, 2, 3, 6}, [this, posun](int i) {
         const int x = ruka_.Pamet().Utvary[i].X2 + posun.X;
         const int y = ruka_.Pamet().Utvary[i].Y2 + posun.Y;
-        return x >= OKRAJ && y >= OKRAJ && x < SIRKA - OKRAJ && y < VYSKA - OKRAJ;
+        return x >= OKRAJ && y >= OKRAJ && x < SIRKA_PLOCHY - OKRAJ && y < VYSKA_PLOCHY - OKRAJ;
     });
 }
 

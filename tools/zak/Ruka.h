@@ -54,7 +54,7 @@ public:
     /// Presses step button i, from 1.
     Ruka& Nastroj(int i);
     /// Takes the last step back.
-    Ruka& Zpet() { return Nastroj(5); }
+    Ruka& Zpet() { return Nastroj(NASTROJ_ZPET); }
     /// Presses the line of the open list that reads so.
     Ruka& Vyber(std::string_view radek);
     /// Types into the box for the value; with several boxes into which of them, from 1.

@@ -114,8 +114,8 @@ void DokonalyTrojuhelnik::UmistiPrvni(int px) {
     } else if (zasunPanel_) {
         // All over the plane, in any direction.
         do {
-            od.X = los_.Cislo(384);  // px of the plane
-            od.Y = los_.Cislo(335);
+            od.X = los_.Cislo(SIRKA_PLOCHY);
+            od.Y = los_.Cislo(VYSKA_PLOCHY);
             const double smer = los_.Cislo(3600) * PI / 1800;
             kam = {od.X + Zaokrouhli(px * std::cos(smer)), od.Y + Zaokrouhli(px * std::sin(smer))};
         } while (!NaPlose(od) || !NaPlose(kam));

@@ -42,7 +42,7 @@ private:
 };
 
 /// A press so many px off a point on either axis still catches it.
-constexpr int CHYTNE = 7;
+constexpr int CHYTNE = DOSAH_CHYTANI - 1;
 
 /// Where a circle of radius r is let go: to either side, at any height, on the plane if one is.
 [[nodiscard]] Bod NaKruznici(Los& los, Bod stred, int r);
