@@ -7,8 +7,14 @@
 namespace rysovna {
 
 /// A run-time fault: a table overrun, a number out of its type, a file that went missing, a
-/// division by zero. The one exception of the program. The checked primitives throw it and nobody
-/// but main catches it: a message box, the screen mode restored, exit status 1.
+/// division by zero. The checked primitives throw it. In the game that is played nobody but main
+/// catches it, since nobody knows what its tables are worth by then: a message box, the screen mode
+/// restored, exit status 1.
+///
+/// It may be caught where that game is not touched: by who looks files over, whose finding it is; by
+/// who plays an attempt again, in a session apart, and says how far it went; by what stores results
+/// and attempts or shows a table of them, for which no file ends the game. What a disk cannot do is
+/// another matter: ChybaDisku.
 class BehovaChyba : public std::runtime_error {
 public:
     /// co: what went wrong, in Czech, as the user reads it. kde: the place, "file:line" of a data

@@ -92,7 +92,7 @@ float Smer(Bod od, Bod k, float dosud) {
 }
 
 double DelkaVCm(double px) {
-    return std::trunc(px / 80 * 100) / 10;
+    return std::trunc(px / (10 * PIXELU_NA_CM) * 100) / 10;
 }
 
 void PolarniBod(Bod P, float r, float uhel, Bod& out1, Bod& out2) {
