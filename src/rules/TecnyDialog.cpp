@@ -1,32 +1,27 @@
-// The life of an example, the tools with their lists, and back.
+// The life of an example, the end of a step, and back.
 
 #include "rules/TecnyDialog.h"
 
 #include <algorithm>
 
+#include "engine/Kresleni.h"
+#include "engine/Resitele.h"
 #include "engine/Sluzby.h"
 #include "rules/Chyby.h"
 #include "rules/Kontrola.h"
 #include "rules/Misc.h"
-#include "rules/SlovaKroku.h"
 #include "rules/TecnyNacrt.h"
 #include "rules/TecnyZadani.h"
+#include "rules/Uzavreni.h"
 
 namespace rysovna {
 
 namespace {
 
+constexpr int SIRKA_VYSLEDKU = 2;
+
 bool JePrima(const Utvar& u) {
     return u.Druh == USECKA || u.Druh == PRIMKA || u.Druh == KOLMICE || u.Druh == ROVNOBEZKA;
-}
-
-/// The base's name behind the words that the list of perpendiculars or that of parallels has for
-/// its kind; empty when there is no such object.
-std::string SlovyPrimku(const Tabulky& t, std::string_view jmeno, std::string_view uPrimky,
-                        std::string_view uUsecky) {
-    const int i = NajdiCaru(t, jmeno);
-    if (i == 0) return {};
-    return std::string(t.Utvary[i].Druh == USECKA ? uUsecky : uPrimky) + std::string(jmeno);
 }
 
 }  // namespace
@@ -156,153 +151,120 @@ void TecnyDialog::Posun(int dx, int dy) {
     if (stav_.HotovaKonstrukce) ZvyrazniReseni();
 }
 
-// ---- Tools -----------------------------------------------------------------------------------
+// ---- The end of a step -----------------------------------------------------------------------
 
-void TecnyDialog::StiskNastroje(int i) {
-    const MistaNastroju nastroje = UkazPanel().Nastroje;
-    if (i < 1 || i > NASTROJ_ZPET || !nastroje[static_cast<std::size_t>(i - 1)].Zivy()) return;
-    misc_.KonstrukceZahajena = ANO;
-    if (i == NASTROJ_ZPET) return Zpet();
-    const KrokTecny* krok = KrokFaze();
-    if (krok == nullptr) return;
+/// Opens the next row of the construction with the names of its points.
+int TecnyDialog::NovyRadek(std::string_view jmeno1, std::string_view jmeno2) {
+    const int n = ++misc_.PocetUtvaru;
+    misc_.SmazRadekUtvaru(n);
+    misc_.SmazRadekTrojic(misc_.PocetTrojic + 1);
+    misc_.Utvary[n].Jmeno1 = jmeno1;
+    misc_.Utvary[n].Jmeno2 = jmeno2;
+    return n;
+}
+
+void TecnyDialog::NakresliBod(Bod misto, const std::string& jmeno, std::string_view naPrimce) {
+    const int n = NovyRadek(jmeno, "");
+    KresliBod(misc_, platna_.Pic, n,
+              {.Druh = BOD, .P1 = misto, .Popis1 = jmeno, .NaPrimce = naPrimce}, ANO);
+}
+
+void TecnyDialog::Pamatuj() {
+    minulost_.push_back({SnimekKonstrukce(misc_), stav_.Faze, stav_.Pary, stav_.Pouzite,
+                         misc_.Priklady[cisloPrikladu_].Kroky, misc_.ZadanePrvky});
+}
+
+void TecnyDialog::Zapis(int faze, std::string_view druh, std::string_view prvek) {
+    ZadanyPrvek& z = misc_.ZadanePrvky[faze];
+    z.Faze = static_cast<std::int16_t>(faze);
+    z.Utvar = druh;
+    z.Prvek = prvek;
+}
+
+int TecnyDialog::PolozkaReseni(std::string_view jmeno) const {
+    for (int i = 1; i <= decltype(Priklad::Kroky)::POSLEDNI; ++i) {
+        if (misc_.Priklady[cisloPrikladu_].Kroky[i].Jmeno == jmeno) return i;
+    }
+    return 0;
+}
+
+void TecnyDialog::SplnPolozku(std::string_view jmeno) {
+    const int i = PolozkaReseni(jmeno);
+    if (i == 0) return;
+    misc_.Priklady[cisloPrikladu_].Kroky[i].Hotovo = ANO;
+}
+
+/// Works out what the next step marks, and charges when there is nothing.
+void TecnyDialog::SpocitejPruseciky(const KrokTecny& krok) {
+    if (krok.Pocita == Prunik::Nic) return;
+    DvaPruseciky p;
+    auto& [b1, b2] = p.Misto;
+    const int i = NajdiCaru(misc_, krok.Ceho[0]);
+    const int j = NajdiCaru(misc_, krok.Ceho[1]);
+    if (i != 0 && j != 0) {
+        const Utvar& u = misc_.Utvary[i];
+        const Utvar& v = misc_.Utvary[j];
+        const Bod u1{u.X1, u.Y1}, v1{v.X1, v.Y1};
+        Bod u2{u.X2, u.Y2};
+        if (u2 == u1) u2.Y += 1;  // clicked, not dragged: it stands upright
+        switch (krok.Pocita) {
+            case Prunik::PrimkaKruznice:
+                PrunikPrimkyKruzniceVPlose(platna_.Pic, v1, v.Polomer, u1, u2, u1, u2, b1, b2);
+                break;
+            case Prunik::Kruznice:
+                PrunikKruznic(platna_.Pic, u1, u.Polomer, v1, v.Polomer, b1, b2);
+                break;
+            case Prunik::Primky:
+                b1 = PrusecikPrimek(u, v);
+                break;
+            case Prunik::Nic:
+                break;
+        }
+    }
+    stav_.Pary = p;
+    if (b1 == BEZ_BODU) Uctuj(krok.ChybaPruniku);
+}
+
+/// The step is done, with the step's own kind of object (vlastni) or another. The finish comes
+/// with the last step's own object, when all results are there.
+void TecnyDialog::UkonciKrok(bool vlastni) {
+    minulost_.back().Cizi = !vlastni;
     Odzbroj();
-    stav_.VRuce = krok->Nastroje[static_cast<std::size_t>(i - 1)];
-    stav_.Spravny = stav_.VRuce == krok->Spravny;
-    if (std::ranges::find(krok->Chybne, stav_.VRuce) != krok->Chybne.end()) Chybne();
-    switch (stav_.VRuce) {
-        case Nastroj::Prusecik:
-            return PripravOznaceni(*krok);
-        case Nastroj::Stred:
-            return PripravStred(*krok);
-        case Nastroj::Osa: {
-            stav_.ZvolenyUtvar = OSA;
-            const std::string jmeno = std::string(krok->Body[0]) + std::string(krok->Body[1]);
-            return OtevriSeznam({{"úsečky " + jmeno, true, true, jmeno}});
+    ++stav_.Faze;
+    stav_.Zpatky = false;
+    if (!vlastni || KrokFaze() != nullptr) return;
+    for (const std::string_view v : Hrane()->Vysledky) {
+        if (!v.empty() && NajdiCaru(misc_, v) == 0) return;
+    }
+    stav_.HotovaKonstrukce = true;
+    ZvyrazniReseni();
+}
+
+/// Draws the results thick, without their labels.
+void TecnyDialog::ZvyrazniReseni() {
+    Plane& pic = platna_.Pic;
+    pic.DrawWidth = SIRKA_VYSLEDKU;
+    const Trojice posledni = misc_.Trojice_tab[misc_.PocetTrojic];
+    const auto& vysledky = Hrane()->Vysledky;
+    for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
+        const Utvar u = misc_.Utvary[i];
+        if (u.Jmeno1.empty() || std::ranges::find(vysledky, u.Jmeno1) == vysledky.end()) continue;
+        misc_.Utvary[i].Jmeno1.clear();
+        if (u.Druh == KRUZNICE) {
+            KresliKruznici(misc_, pic, i, {.Druh = u.Druh, .P1 = {u.X1, u.Y1}, .P2 = {u.X2, u.Y1}},
+                           NE);
+        } else {
+            KresliPrimku(misc_, pic, i,
+                         {.Druh = u.Druh, .P1 = {u.X1, u.Y1}, .P2 = {u.X2, u.Y2}, .Delka = u.Delka},
+                         NE);
         }
-        case Nastroj::Poloprimka: {
-            const std::string od(Hrane()->PocatekPoloprimky);
-            stav_.ZvolenyUtvar = POLOPRIMKA;
-            stav_.Jmeno = od;
-            stav_.Rysovane = "polopřímka " + od + "Y";
-            stav_.CekaNaKresleni = true;
-            return;
-        }
-        case Nastroj::Primka:
-            stav_.ZvolenyUtvar = PRIMKA;
-            return NabidniSpojnice(*krok);
-        case Nastroj::Kruznice:
-            stav_.ZvolenyUtvar = KRUZNICE;
-            return NabidniKruznice(*krok);
-        case Nastroj::Kolmice:
-            stav_.ZvolenyUtvar = KOLMICE;
-            return NabidniPrimky(*krok);
-        case Nastroj::Rovnobezka:
-            stav_.ZvolenyUtvar = ROVNOBEZKA;
-            return NabidniPrimky(*krok);
-        default:
-            return;
+        misc_.Utvary[i] = u;
     }
+    misc_.Trojice_tab[misc_.PocetTrojic] = posledni;
+    pic.DrawWidth = 1;
 }
 
-/// A wrong tool: charged at once; the object can be drawn all the same and costs no more.
-void TecnyDialog::Chybne() {
-    PridejChybu(misc_, CHYBA_NASTROJ);
-    stav_.KrokChybny = true;
-}
-
-/// Lays the step in hand down, so that the tools are live again.
-void TecnyDialog::Odzbroj() {
-    static_cast<KrokVRuce&>(stav_) = {};
-}
-
-void TecnyDialog::ZavriSeznam() {
-    if (stav_.Vyber.Otevreny) Odzbroj();
-}
-
-/// A list without a row cannot be picked from: the object is then drawn as dragged.
-void TecnyDialog::OtevriSeznam(std::vector<RadekSeznamu> radky) {
-    if (radky.empty()) {
-        stav_.CekaNaKresleni = true;
-        return;
-    }
-    stav_.Vyber = {true, Seznam::Obsah::Popisy, std::move(radky)};
-}
-
-/// Perpendicular and parallel: the bases that there are.
-void TecnyDialog::NabidniPrimky(const KrokTecny& krok) {
-    const bool kolmice = stav_.VRuce == Nastroj::Kolmice;
-    std::vector<RadekSeznamu> radky;
-    const auto pridej = [&](std::string_view jmeno) {
-        std::string text = SlovyPrimku(misc_, jmeno, kolmice ? "k přímce " : "s přímkou ",
-                                       kolmice ? "k úsečce " : "s úsečkou ");
-        if (!text.empty()) radky.push_back({std::move(text), true, true, std::string(jmeno)});
-    };
-    if (stav_.Spravny) {
-        for (const Volba& v : krok.Volby) pridej(v.Prvek);
-    } else {
-        for (const std::string_view z : krok.Zakladny) pridej(z);
-    }
-    stav_.Jmeno = stav_.Spravny ? std::string(VolneJmeno(krok)) : "p" + std::to_string(stav_.Faze);
-    OtevriSeznam(std::move(radky));
-}
-
-void TecnyDialog::NabidniKruznice(const KrokTecny& krok) {
-    if (!stav_.Spravny) {
-        const std::string_view jmeno = Hrane()->ChybnaKruznice;
-        stav_.Jmeno = jmeno.empty() ? "k" + std::to_string(stav_.Faze) : std::string(jmeno);
-        stav_.Rysovane = "kružnice " + stav_.Jmeno;
-        stav_.CekaNaKresleni = true;
-        return;
-    }
-    stav_.Jmeno = VolneJmeno(krok);
-    std::vector<RadekSeznamu> radky;
-    for (const Volba& v : krok.Volby) {
-        if (v.Prvek.empty() || NajdiBod(misc_, v.Prvek) == BEZ_BODU) continue;
-        radky.push_back({"kružnice " + stav_.Jmeno + ", střed v bodě " + std::string(v.Prvek), true,
-                         true, std::string(v.Prvek)});
-    }
-    OtevriSeznam(std::move(radky));
-}
-
-/// Lines through two named points.
-void TecnyDialog::NabidniSpojnice(const KrokTecny& krok) {
-    std::vector<RadekSeznamu> radky;
-    for (const Volba& v : krok.Volby) {
-        if (v.Prvek.empty()) continue;
-        radky.push_back({"přímka " + std::string(v.Prvek), true, true, std::string(v.Prvek)});
-    }
-    stav_.Jmeno = VolneJmeno(krok);
-    OtevriSeznam(std::move(radky));
-}
-
-void TecnyDialog::PripravStred(const KrokTecny& krok) {
-    stav_.ZvolenyUtvar = STRED;
-    stav_.Jmeno =
-        stav_.Spravny ? std::string(VolneJmeno(krok)) : std::string(krok.JmenoChybnehoStredu);
-    stav_.Rysovane = "střed úsečky " + std::string(krok.Body[0]) + std::string(krok.Body[1]);
-    const Bod a = NajdiBod(misc_, krok.Body[0]);
-    const Bod b = NajdiBod(misc_, krok.Body[1]);
-    if (!(a == BEZ_BODU) && !(b == BEZ_BODU)) stav_.StredUsecky = StredUseckyBodu(a, b);
-    stav_.CekaNaKresleni = true;
-}
-
-void TecnyDialog::PripravOznaceni(const KrokTecny& krok) {
-    stav_.ZvolenyUtvar = PRUSECIK;
-    stav_.OcekavanyBod = krok.Jmena[0];
-    stav_.CekaNaKresleni = true;
-}
-
-/// The first of the names that the step can give whose solution entry is not done.
-std::string_view TecnyDialog::VolneJmeno(const KrokTecny& krok) const {
-    const auto hotovo = [this](std::string_view jmeno) {
-        for (int i = 1; i <= decltype(Priklad::Kroky)::POSLEDNI; ++i) {
-            const Krok& k = misc_.Priklady[cisloPrikladu_].Kroky[i];
-            if (k.Jmeno == jmeno && k.Hotovo != NE) return true;
-        }
-        return false;
-    };
-    return !krok.Jmena[1].empty() && hotovo(krok.Jmena[0]) ? krok.Jmena[1] : krok.Jmena[0];
-}
+// ---- Back ------------------------------------------------------------------------------------
 
 void TecnyDialog::Zpet() {
     if (minulost_.empty()) return;

@@ -107,27 +107,35 @@ private:
     [[nodiscard]] const KrokTecny* KrokFaze() const { return KrokFaze(stav_.Faze); }
     [[nodiscard]] bool Znaci() const;
 
-    // TecnyDialog.cpp: the life of an example, tools, back
+    // TecnyDialog.cpp: the life of an example, the end of a step, back
     void ZacniZadani(int cisloPrikladu);
+    void Prekresli(int dx, int dy);
+    [[nodiscard]] int NovyRadek(std::string_view jmeno1, std::string_view jmeno2);
+    void NakresliBod(Bod misto, const std::string& jmeno, std::string_view naPrimce);
+    void SpocitejPruseciky(const KrokTecny& krok);
+    /// Number of the solution entry of this name; 0 if there is none.
+    [[nodiscard]] int PolozkaReseni(std::string_view jmeno) const;
+    void Pamatuj();
+    void Zapis(int faze, std::string_view druh, std::string_view prvek);
+    void SplnPolozku(std::string_view jmeno);
+    void UkonciKrok(bool vlastni);
+    void ZvyrazniReseni();
+    void Zpet();
+
+    // TecnyDialogVolba.cpp: the tools with their lists, the pick of a line
     void Chybne();
+    void Odzbroj();
     void OtevriSeznam(std::vector<RadekSeznamu> radky);
     void NabidniPrimky(const KrokTecny& krok);
     void NabidniKruznice(const KrokTecny& krok);
     void NabidniSpojnice(const KrokTecny& krok);
     void PripravStred(const KrokTecny& krok);
     void PripravOznaceni(const KrokTecny& krok);
-    void Odzbroj();
-    void Zpet();
-    void Prekresli(int dx, int dy);
     [[nodiscard]] std::string_view VolneJmeno(const KrokTecny& krok) const;
-
-    // TecnyDialogVolba.cpp: the pick of a line, and what is shown
     [[nodiscard]] bool JeVzata(int radek) const;
     void ZvolPrimku(const std::string& zaklad);
     void ZvolKruznici(const KrokTecny& krok, const std::string& stred);
     void ZvolOsu();
-    [[nodiscard]] MistaNastroju Nastroje(const Cviceni& c) const;
-    [[nodiscard]] Gesto GestoKroku() const;
 
     // TecnyDialogPlocha.cpp: the plane
     [[nodiscard]] Zachyt Chyt(float x, float y) const;
@@ -135,6 +143,7 @@ private:
     void KlikniStred(float x, float y);
     void KlikniPrusecik(float x, float y);
     [[nodiscard]] std::string ZnacenyPrunik() const;
+    [[nodiscard]] bool ObeHotove() const;
     [[nodiscard]] std::string OdectiKrok(const KrokTecny& krok, float x, float y) const;
     [[nodiscard]] Bod StredTahu() const;
     [[nodiscard]] Dvojice BodyPrimky(Bod konec) const;
@@ -144,17 +153,10 @@ private:
     void PosudKonce(const KrokTecny& krok, const Dvojice& body);
     void PosudPolomer(const KrokTecny& krok, Bod stred, int r);
     void Uctuj(ChybaKroku chyba);
-    [[nodiscard]] int NovyRadek(std::string_view jmeno1, std::string_view jmeno2);
-    void NakresliBod(Bod misto, const std::string& jmeno, std::string_view naPrimce);
-    void SpocitejPruseciky(const KrokTecny& krok);
-    [[nodiscard]] bool ObeHotove() const;
-    /// Number of the solution entry of this name; 0 if there is none.
-    [[nodiscard]] int PolozkaReseni(std::string_view jmeno) const;
-    void Pamatuj();
-    void Zapis(int faze, std::string_view druh, std::string_view prvek);
-    void SplnPolozku(std::string_view jmeno);
-    void UkonciKrok(bool vlastni);
-    void ZvyrazniReseni();
+
+    // TecnyDialogPanel.cpp: what is shown
+    [[nodiscard]] MistaNastroju Nastroje(const Cviceni& c) const;
+    [[nodiscard]] Gesto GestoKroku() const;
 
     StavTecny stav_;
     std::vector<Minulost> minulost_;

@@ -1,4 +1,4 @@
-// The plane: marking of points, drawing of objects, their judgement, the end of a step.
+// The plane: marking of points, drawing of objects, their judgement.
 
 #include <algorithm>
 #include <cmath>
@@ -7,12 +7,9 @@
 
 #include "base/Cisla.h"
 #include "engine/Kresleni.h"
-#include "engine/Resitele.h"
 #include "rules/Chyby.h"
-#include "rules/Kontrola.h"
 #include "rules/Prichytavani.h"
 #include "rules/TecnyDialog.h"
-#include "rules/Uzavreni.h"
 
 namespace rysovna {
 
@@ -23,8 +20,6 @@ constexpr int DOSAH_PRUSECIKU = 8;
 constexpr int DOSAH_STREDU = 5;
 constexpr double DOSAH_PRIMKY = 15;
 constexpr double TOLERANCE_POLOMERU = 4;
-
-constexpr int SIRKA_VYSLEDKU = 2;
 
 bool VDosahu(float x, float y, Bod b, int dosah) {
     const auto d = static_cast<float>(dosah);
@@ -357,119 +352,6 @@ void TecnyDialog::PosudPolomer(const KrokTecny& krok, Bod stred, int r) {
     const Bod A = NajdiBod(misc_, "A");
     if (A == BEZ_BODU) return;
     if (std::fabs(Vzdalenost(stred, A) - r) > TOLERANCE_POLOMERU) Uctuj(krok.ChybaRysovani);
-}
-
-// ---- The end of a step -----------------------------------------------------------------------
-
-/// Opens the next row of the construction with the names of its points.
-int TecnyDialog::NovyRadek(std::string_view jmeno1, std::string_view jmeno2) {
-    const int n = ++misc_.PocetUtvaru;
-    misc_.SmazRadekUtvaru(n);
-    misc_.SmazRadekTrojic(misc_.PocetTrojic + 1);
-    misc_.Utvary[n].Jmeno1 = jmeno1;
-    misc_.Utvary[n].Jmeno2 = jmeno2;
-    return n;
-}
-
-void TecnyDialog::NakresliBod(Bod misto, const std::string& jmeno, std::string_view naPrimce) {
-    const int n = NovyRadek(jmeno, "");
-    KresliBod(misc_, platna_.Pic, n,
-              {.Druh = BOD, .P1 = misto, .Popis1 = jmeno, .NaPrimce = naPrimce}, ANO);
-}
-
-void TecnyDialog::Pamatuj() {
-    minulost_.push_back({SnimekKonstrukce(misc_), stav_.Faze, stav_.Pary, stav_.Pouzite,
-                         misc_.Priklady[cisloPrikladu_].Kroky, misc_.ZadanePrvky});
-}
-
-void TecnyDialog::Zapis(int faze, std::string_view druh, std::string_view prvek) {
-    ZadanyPrvek& z = misc_.ZadanePrvky[faze];
-    z.Faze = static_cast<std::int16_t>(faze);
-    z.Utvar = druh;
-    z.Prvek = prvek;
-}
-
-int TecnyDialog::PolozkaReseni(std::string_view jmeno) const {
-    for (int i = 1; i <= decltype(Priklad::Kroky)::POSLEDNI; ++i) {
-        if (misc_.Priklady[cisloPrikladu_].Kroky[i].Jmeno == jmeno) return i;
-    }
-    return 0;
-}
-
-void TecnyDialog::SplnPolozku(std::string_view jmeno) {
-    const int i = PolozkaReseni(jmeno);
-    if (i == 0) return;
-    misc_.Priklady[cisloPrikladu_].Kroky[i].Hotovo = ANO;
-}
-
-/// Works out what the next step marks, and charges when there is nothing.
-void TecnyDialog::SpocitejPruseciky(const KrokTecny& krok) {
-    if (krok.Pocita == Prunik::Nic) return;
-    DvaPruseciky p;
-    auto& [b1, b2] = p.Misto;
-    const int i = NajdiCaru(misc_, krok.Ceho[0]);
-    const int j = NajdiCaru(misc_, krok.Ceho[1]);
-    if (i != 0 && j != 0) {
-        const Utvar& u = misc_.Utvary[i];
-        const Utvar& v = misc_.Utvary[j];
-        const Bod u1{u.X1, u.Y1}, v1{v.X1, v.Y1};
-        Bod u2{u.X2, u.Y2};
-        if (u2 == u1) u2.Y += 1;  // clicked, not dragged: it stands upright
-        switch (krok.Pocita) {
-            case Prunik::PrimkaKruznice:
-                PrunikPrimkyKruzniceVPlose(platna_.Pic, v1, v.Polomer, u1, u2, u1, u2, b1, b2);
-                break;
-            case Prunik::Kruznice:
-                PrunikKruznic(platna_.Pic, u1, u.Polomer, v1, v.Polomer, b1, b2);
-                break;
-            case Prunik::Primky:
-                b1 = PrusecikPrimek(u, v);
-                break;
-            case Prunik::Nic:
-                break;
-        }
-    }
-    stav_.Pary = p;
-    if (b1 == BEZ_BODU) Uctuj(krok.ChybaPruniku);
-}
-
-/// The step is done, with the step's own kind of object (vlastni) or another. The finish comes
-/// with the last step's own object, when all results are there.
-void TecnyDialog::UkonciKrok(bool vlastni) {
-    minulost_.back().Cizi = !vlastni;
-    Odzbroj();
-    ++stav_.Faze;
-    stav_.Zpatky = false;
-    if (!vlastni || KrokFaze() != nullptr) return;
-    for (const std::string_view v : Hrane()->Vysledky) {
-        if (!v.empty() && NajdiCaru(misc_, v) == 0) return;
-    }
-    stav_.HotovaKonstrukce = true;
-    ZvyrazniReseni();
-}
-
-/// Draws the results thick, without their labels.
-void TecnyDialog::ZvyrazniReseni() {
-    Plane& pic = platna_.Pic;
-    pic.DrawWidth = SIRKA_VYSLEDKU;
-    const Trojice posledni = misc_.Trojice_tab[misc_.PocetTrojic];
-    const auto& vysledky = Hrane()->Vysledky;
-    for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
-        const Utvar u = misc_.Utvary[i];
-        if (u.Jmeno1.empty() || std::ranges::find(vysledky, u.Jmeno1) == vysledky.end()) continue;
-        misc_.Utvary[i].Jmeno1.clear();
-        if (u.Druh == KRUZNICE) {
-            KresliKruznici(misc_, pic, i, {.Druh = u.Druh, .P1 = {u.X1, u.Y1}, .P2 = {u.X2, u.Y1}},
-                           NE);
-        } else {
-            KresliPrimku(misc_, pic, i,
-                         {.Druh = u.Druh, .P1 = {u.X1, u.Y1}, .P2 = {u.X2, u.Y2}, .Delka = u.Delka},
-                         NE);
-        }
-        misc_.Utvary[i] = u;
-    }
-    misc_.Trojice_tab[misc_.PocetTrojic] = posledni;
-    pic.DrawWidth = 1;
 }
 
 }  // namespace rysovna

@@ -1,10 +1,9 @@
-// The pick of a line of the list, and what the panel shows.
+// The tools with their lists, and the pick of a line.
 
 #include <algorithm>
 
 #include "engine/Kresleni.h"
 #include "rules/Chyby.h"
-#include "rules/Kontrola.h"
 #include "rules/Misc.h"
 #include "rules/SlovaKroku.h"
 #include "rules/TecnyDialog.h"
@@ -14,10 +13,166 @@ namespace rysovna {
 
 namespace {
 
-constexpr std::string_view VYZVA_STRED = "Zvol kliknutím na kreslící ploše střed úsečky.";
-constexpr std::string_view VYZVA_HOTOVO = "Proveď kontrolu hotové konstrukce.";
+/// The base's name behind the words that the list of perpendiculars or that of parallels has for
+/// its kind; empty when there is no such object.
+std::string SlovyPrimku(const Tabulky& t, std::string_view jmeno, std::string_view uPrimky,
+                        std::string_view uUsecky) {
+    const int i = NajdiCaru(t, jmeno);
+    if (i == 0) return {};
+    return std::string(t.Utvary[i].Druh == USECKA ? uUsecky : uPrimky) + std::string(jmeno);
+}
 
 }  // namespace
+
+// ---- Tools -----------------------------------------------------------------------------------
+
+void TecnyDialog::StiskNastroje(int i) {
+    const MistaNastroju nastroje = UkazPanel().Nastroje;
+    if (i < 1 || i > NASTROJ_ZPET || !nastroje[static_cast<std::size_t>(i - 1)].Zivy()) return;
+    misc_.KonstrukceZahajena = ANO;
+    if (i == NASTROJ_ZPET) return Zpet();
+    const KrokTecny* krok = KrokFaze();
+    if (krok == nullptr) return;
+    Odzbroj();
+    stav_.VRuce = krok->Nastroje[static_cast<std::size_t>(i - 1)];
+    stav_.Spravny = stav_.VRuce == krok->Spravny;
+    if (std::ranges::find(krok->Chybne, stav_.VRuce) != krok->Chybne.end()) Chybne();
+    switch (stav_.VRuce) {
+        case Nastroj::Prusecik:
+            return PripravOznaceni(*krok);
+        case Nastroj::Stred:
+            return PripravStred(*krok);
+        case Nastroj::Osa: {
+            stav_.ZvolenyUtvar = OSA;
+            const std::string jmeno = std::string(krok->Body[0]) + std::string(krok->Body[1]);
+            return OtevriSeznam({{"úsečky " + jmeno, true, true, jmeno}});
+        }
+        case Nastroj::Poloprimka: {
+            const std::string od(Hrane()->PocatekPoloprimky);
+            stav_.ZvolenyUtvar = POLOPRIMKA;
+            stav_.Jmeno = od;
+            stav_.Rysovane = "polopřímka " + od + "Y";
+            stav_.CekaNaKresleni = true;
+            return;
+        }
+        case Nastroj::Primka:
+            stav_.ZvolenyUtvar = PRIMKA;
+            return NabidniSpojnice(*krok);
+        case Nastroj::Kruznice:
+            stav_.ZvolenyUtvar = KRUZNICE;
+            return NabidniKruznice(*krok);
+        case Nastroj::Kolmice:
+            stav_.ZvolenyUtvar = KOLMICE;
+            return NabidniPrimky(*krok);
+        case Nastroj::Rovnobezka:
+            stav_.ZvolenyUtvar = ROVNOBEZKA;
+            return NabidniPrimky(*krok);
+        default:
+            return;
+    }
+}
+
+/// A wrong tool: charged at once; the object can be drawn all the same and costs no more.
+void TecnyDialog::Chybne() {
+    PridejChybu(misc_, CHYBA_NASTROJ);
+    stav_.KrokChybny = true;
+}
+
+/// Lays the step in hand down, so that the tools are live again.
+void TecnyDialog::Odzbroj() {
+    static_cast<KrokVRuce&>(stav_) = {};
+}
+
+void TecnyDialog::ZavriSeznam() {
+    if (stav_.Vyber.Otevreny) Odzbroj();
+}
+
+/// A list without a row cannot be picked from: the object is then drawn as dragged.
+void TecnyDialog::OtevriSeznam(std::vector<RadekSeznamu> radky) {
+    if (radky.empty()) {
+        stav_.CekaNaKresleni = true;
+        return;
+    }
+    stav_.Vyber = {true, Seznam::Obsah::Popisy, std::move(radky)};
+}
+
+/// Perpendicular and parallel: the bases that there are.
+void TecnyDialog::NabidniPrimky(const KrokTecny& krok) {
+    const bool kolmice = stav_.VRuce == Nastroj::Kolmice;
+    std::vector<RadekSeznamu> radky;
+    const auto pridej = [&](std::string_view jmeno) {
+        std::string text = SlovyPrimku(misc_, jmeno, kolmice ? "k přímce " : "s přímkou ",
+                                       kolmice ? "k úsečce " : "s úsečkou ");
+        if (!text.empty()) radky.push_back({std::move(text), true, true, std::string(jmeno)});
+    };
+    if (stav_.Spravny) {
+        for (const Volba& v : krok.Volby) pridej(v.Prvek);
+    } else {
+        for (const std::string_view z : krok.Zakladny) pridej(z);
+    }
+    stav_.Jmeno = stav_.Spravny ? std::string(VolneJmeno(krok)) : "p" + std::to_string(stav_.Faze);
+    OtevriSeznam(std::move(radky));
+}
+
+void TecnyDialog::NabidniKruznice(const KrokTecny& krok) {
+    if (!stav_.Spravny) {
+        const std::string_view jmeno = Hrane()->ChybnaKruznice;
+        stav_.Jmeno = jmeno.empty() ? "k" + std::to_string(stav_.Faze) : std::string(jmeno);
+        stav_.Rysovane = "kružnice " + stav_.Jmeno;
+        stav_.CekaNaKresleni = true;
+        return;
+    }
+    stav_.Jmeno = VolneJmeno(krok);
+    std::vector<RadekSeznamu> radky;
+    for (const Volba& v : krok.Volby) {
+        if (v.Prvek.empty() || NajdiBod(misc_, v.Prvek) == BEZ_BODU) continue;
+        radky.push_back({"kružnice " + stav_.Jmeno + ", střed v bodě " + std::string(v.Prvek), true,
+                         true, std::string(v.Prvek)});
+    }
+    OtevriSeznam(std::move(radky));
+}
+
+/// Lines through two named points.
+void TecnyDialog::NabidniSpojnice(const KrokTecny& krok) {
+    std::vector<RadekSeznamu> radky;
+    for (const Volba& v : krok.Volby) {
+        if (v.Prvek.empty()) continue;
+        radky.push_back({"přímka " + std::string(v.Prvek), true, true, std::string(v.Prvek)});
+    }
+    stav_.Jmeno = VolneJmeno(krok);
+    OtevriSeznam(std::move(radky));
+}
+
+void TecnyDialog::PripravStred(const KrokTecny& krok) {
+    stav_.ZvolenyUtvar = STRED;
+    stav_.Jmeno =
+        stav_.Spravny ? std::string(VolneJmeno(krok)) : std::string(krok.JmenoChybnehoStredu);
+    stav_.Rysovane = "střed úsečky " + std::string(krok.Body[0]) + std::string(krok.Body[1]);
+    const Bod a = NajdiBod(misc_, krok.Body[0]);
+    const Bod b = NajdiBod(misc_, krok.Body[1]);
+    if (!(a == BEZ_BODU) && !(b == BEZ_BODU)) stav_.StredUsecky = StredUseckyBodu(a, b);
+    stav_.CekaNaKresleni = true;
+}
+
+void TecnyDialog::PripravOznaceni(const KrokTecny& krok) {
+    stav_.ZvolenyUtvar = PRUSECIK;
+    stav_.OcekavanyBod = krok.Jmena[0];
+    stav_.CekaNaKresleni = true;
+}
+
+/// The first of the names that the step can give whose solution entry is not done.
+std::string_view TecnyDialog::VolneJmeno(const KrokTecny& krok) const {
+    const auto hotovo = [this](std::string_view jmeno) {
+        for (int i = 1; i <= decltype(Priklad::Kroky)::POSLEDNI; ++i) {
+            const Krok& k = misc_.Priklady[cisloPrikladu_].Kroky[i];
+            if (k.Jmeno == jmeno && k.Hotovo != NE) return true;
+        }
+        return false;
+    };
+    return !krok.Jmena[1].empty() && hotovo(krok.Jmena[0]) ? krok.Jmena[1] : krok.Jmena[0];
+}
+
+// ---- The pick of a line ----------------------------------------------------------------------
 
 void TecnyDialog::VyberRadku(int i) {
     const KrokTecny* krok = KrokFaze();
@@ -97,88 +252,6 @@ void TecnyDialog::ZvolOsu() {
     Odzbroj();
     stav_.Faze += 2;
     stav_.Zpatky = false;
-}
-
-// ---- What is shown ---------------------------------------------------------------------------
-
-MistaNastroju TecnyDialog::Nastroje(const Cviceni& c) const {
-    using enum MistoNastroje::Stav;
-    MistaNastroju mista;
-    const int posledni = static_cast<int>(c.Kroky.size());
-    const bool zaKoncem = stav_.Faze > posledni;
-    const KrokTecny& krok = *KrokFaze(zaKoncem ? posledni : stav_.Faze);
-    const bool vRuce = stav_.CekaNaKresleni || stav_.Vyber.Otevreny;
-    const bool muzeZacit = stav_.Faze > 1 || misc_.KonstrukceZahajena != NE || stav_.Znacky != 0;
-    const bool volno = zadano_ && !zaKoncem && !vRuce && muzeZacit;
-    const bool sede =
-        vRuce && stav_.VRuce == krok.Spravny && krok.SedeNastroje[0] != Nastroj::Zadny;
-    const auto& nastroje = sede ? krok.SedeNastroje : krok.Nastroje;
-    for (std::size_t i = 0; i < nastroje.size(); ++i) {
-        if (nastroje[i] == Nastroj::Zadny) continue;
-        mista[i] = {nastroje[i], !volno ? Sedy : stav_.Skontrolovano ? Zamceny : Zivy};
-    }
-    // Back stays live while a point is to be marked: a crossing that could not be computed cannot
-    // be marked at all.
-    const bool mrtve = stav_.Zpatky && !zaKoncem && krok.MrtveZpet &&
-                       std::ranges::none_of(minulost_, &Minulost::Cizi);
-    const bool zpet = stav_.Faze > 1 && !stav_.Skontrolovano && !mrtve && (!vRuce || Znaci());
-    mista[NASTROJ_ZPET - 1] = {Nastroj::Zpet, zpet ? Zivy : Sedy};
-    return mista;
-}
-
-/// A line through two points names both in its row; a ray and a circle name theirs in the prompt.
-Gesto TecnyDialog::GestoKroku() const {
-    using Tvar = Gesto::Tvar;
-    struct TahDruhu {
-        Nastroj Nastroj_;
-        Tvar Jak;
-    };
-    static constexpr TahDruhu RADKY[] = {
-        {Nastroj::Primka, Tvar::Primka},     {Nastroj::Poloprimka, Tvar::Poloprimka},
-        {Nastroj::Kolmice, Tvar::Kolmice},   {Nastroj::Rovnobezka, Tvar::Rovnobezka},
-        {Nastroj::Kruznice, Tvar::Kruznice}, {Nastroj::Stred, Tvar::Bod},
-        {Nastroj::Prusecik, Tvar::Bod}};
-    if (!stav_.CekaNaKresleni || stav_.Skontrolovano) return {};
-    const auto* r = std::ranges::find(RADKY, stav_.VRuce, &TahDruhu::Nastroj_);
-    if (r == std::end(RADKY)) return {};
-    // With nothing to pick by, the tool in hand is not named anywhere.
-    if (r->Jak != Tvar::Bod && stav_.Rysovane.empty()) return {Tvar::Utvar, {}, {}, false};
-    Gesto g{r->Jak, {}, {}, r->Jak == Tvar::Bod};
-    if (g.Druh == Tvar::Primka && !stav_.OcekavanyBod.empty()) {
-        g.Od = stav_.OcekavanyBod.substr(0, 1);
-        g.Kam = stav_.OcekavanyBod.substr(1);
-    } else if (g.Druh == Tvar::Poloprimka) {
-        g.Od = stav_.Jmeno;
-    } else if (g.Druh == Tvar::Kruznice) {
-        g.Od = stav_.StredKruznice;
-    }
-    return g;
-}
-
-Panel TecnyDialog::UkazPanel() const {
-    Panel p;
-    const Cviceni* c = Hrane();
-    p.PlochaZiva = false;
-    if (c == nullptr) return p;
-    p.Uvod = c->Zadani;
-    p.Zadani = {{ZadanaVelicina::Druh::Slovy, "", std::string(c->Dano)}};
-    p.Nastroje = Nastroje(*c);
-    const KrokTecny* krok = KrokFaze();
-    if (stav_.HotovaKonstrukce) {
-        p.Vyzva = VYZVA_HOTOVO;
-    } else if (stav_.VRuce == Nastroj::Stred) {
-        p.Vyzva = VYZVA_STRED;
-    } else {
-        // Past the last step without a finish, the last prompt stays.
-        const KrokTecny& k = krok != nullptr ? *krok : c->Kroky.back();
-        p.Vyzva = stav_.Zpatky && !k.VyzvaZpet.empty() ? k.VyzvaZpet : k.Vyzva;
-    }
-    p.Rysovane.Nazev = stav_.Rysovane;
-    p.Vyber = stav_.Vyber;
-    p.PlochaZiva = !stav_.HotovaKonstrukce && !stav_.Skontrolovano;
-    p.Kresleni = GestoKroku();
-    p.Nezavrena = krok == nullptr && !stav_.HotovaKonstrukce;
-    return p;
 }
 
 }  // namespace rysovna
