@@ -11,10 +11,10 @@ namespace rysovna {
 /// catches it, since nobody knows what its tables are worth by then: a message box, the screen mode
 /// restored, exit status 1.
 ///
-/// It may be caught where that game is not touched: by who looks files over, whose finding it is; by
-/// who plays an attempt again, in a session apart, and says how far it went; by what stores results
-/// and attempts or shows a table of them, for which no file ends the game. What a disk cannot do is
-/// another matter: ChybaDisku.
+/// It may be caught where that game is not touched: by who looks files over, whose finding it is;
+/// by who plays an attempt again, in a session apart, and says how far it went; by what stores
+/// results and attempts or shows a table of them, for which no file ends the game. What a disk
+/// cannot do is another matter: ChybaDisku.
 class BehovaChyba : public std::runtime_error {
 public:
     /// co: what went wrong, in Czech, as the user reads it. kde: the place, "file:line" of a data
