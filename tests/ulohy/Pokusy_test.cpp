@@ -65,7 +65,8 @@ public:
             if (dokonale) {
                 hrac::Sestroj(*this, Cislo(1000));
             } else {
-                Bloudi();
+                constexpr int KROKU = 60;  // a hundred wrong steps are a fault
+                for (int n = 0; n < KROKU; ++n) Bloud(*dialog_, los_);
             }
             // Now and then another example is wanted before this one is checked.
             if (dokonale || los_() % 4 != 0) dialog_->Zkontroluj();
@@ -84,53 +85,6 @@ public:
 private:
     std::uint32_t Cislo(std::uint32_t rozpeti) {
         return static_cast<std::uint32_t>(los_()) % rozpeti;
-    }
-
-    /// A place as a mouse on a large screen gives it, as often as not on what is drawn.
-    float Misto(int nejvyse) {
-        return static_cast<float>(static_cast<double>(los_() % 100000) * nejvyse / 90000 - 10);
-    }
-    void Bloudi() {
-        constexpr int KROKU = 60;  // a hundred wrong steps are a fault
-        for (int i = 0; i < KROKU; ++i) {
-            const Panel panel = dialog_->UkazPanel();
-            switch (los_() % 8) {
-                case 0:
-                    dialog_->StiskNacrtu(Misto(289), Misto(177));
-                    break;
-                case 1:
-                    dialog_->Napis(static_cast<int>(los_() % 3) + 1, std::to_string(los_() % 16));
-                    break;
-                case 2:
-                    if (los_() % 4 == 0) dialog_->Posun(los_() % 2 == 0 ? 20 : -20, 0);
-                    break;
-                case 3:
-                    if (los_() % 6 == 0) dialog_->ZavriSeznam();
-                    break;
-                case 4:
-                case 5:
-                    if (!panel.Vyber.Otevreny)
-                        dialog_->StiskNastroje(static_cast<int>(los_() % (los_() % 5 ? 4 : 6)) + 1);
-                    else
-                        dialog_->VyberRadku(static_cast<int>(los_() % panel.Vyber.Radky.size()) +
-                                            1);
-                    break;
-                default:
-                    Tahne();
-            }
-        }
-    }
-    void Tahne() {
-        float x = Misto(SIRKA_PLOCHY), y = Misto(VYSKA_PLOCHY);
-        if (const int n = Pamet().PocetTrojic; n > 0 && los_() % 2 == 0) {
-            const Trojice& t =
-                Pamet().Trojice_tab[static_cast<int>(Cislo(static_cast<std::uint32_t>(n))) + 1];
-            x = static_cast<float>(t.X1);
-            y = static_cast<float>(t.Y1) + 0.25F;
-        }
-        dialog_->StiskPlochy(x, y);
-        if (dialog_->CekaNaKresleni())
-            dialog_->PusteniPlochy(Misto(SIRKA_PLOCHY), Misto(VYSKA_PLOCHY));
     }
 
     int uloha_;
