@@ -14,7 +14,7 @@
 #include "screens/SeznamAssetu.h"
 #include "store/Cesty.h"
 #include "store/JmenaSouboru.h"
-#include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 #include "store/Soubory.h"
 
 namespace rysovna {

@@ -5,7 +5,6 @@
 #include <random>
 #include <utility>
 
-#include "store/Kodovani.h"
 #include "store/TextRadku.h"
 
 namespace rysovna {

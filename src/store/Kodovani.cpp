@@ -10,8 +10,6 @@
 namespace rysovna {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr std::size_t KROK_KODU = 4;  // every so many characters one is of the text
 
 constexpr char16_t NIC = 0;
@@ -48,8 +46,6 @@ std::optional<unsigned char> BajtZnaku(char32_t znak) {
     if (i == HORNI_1250.end()) return std::nullopt;
     return static_cast<unsigned char>(PRVNI_HORNI + (i - HORNI_1250.begin()));
 }
-
-constexpr std::size_t MEGABAJT = 1024 * 1024;
 
 }  // namespace
 
@@ -116,41 +112,6 @@ std::optional<std::size_t> ZnakMimoStranku(std::string_view utf8) {
     const auto i = std::ranges::find_if(znaky, [](char32_t znak) { return !BajtZnaku(znak); });
     if (i == znaky.end()) return std::nullopt;
     return static_cast<std::size_t>(i - znaky.begin());
-}
-
-std::string Misto(const fs::path& soubor, int radek) {
-    return soubor.string() + ":" + std::to_string(radek);
-}
-
-std::vector<std::string> NaRadky(std::string_view obsah) {
-    std::vector<std::string> radky;
-    for (std::size_t i = 0; i < obsah.size();) {
-        const std::size_t konec = std::min(obsah.find('\n', i), obsah.size());
-        std::size_t delka = konec - i;
-        if (delka > 0 && obsah[konec - 1] == '\r') --delka;
-        radky.emplace_back(obsah.substr(i, delka));
-        i = konec + 1;
-    }
-    return radky;
-}
-
-std::string CtiVse(Disk& disk, const fs::path& soubor, std::size_t nejvyse) {
-    std::string obsah;
-    try {
-        const std::size_t dost = nejvyse == Soubor::VSE ? nejvyse : nejvyse + 1;
-        obsah = disk.Otevri(soubor, Disk::Jak::Cteni)->Cti(0, dost);
-    } catch (const ChybaDisku&) {
-        throw BehovaChyba("Soubor nelze přečíst", soubor.string());
-    }
-    if (obsah.size() > nejvyse) {
-        const std::string mez = std::to_string(nejvyse / MEGABAJT);
-        throw BehovaChyba("Soubor je větší než " + mez + " MB", soubor.string());
-    }
-    return obsah;
-}
-
-std::vector<std::string> CtiRadky(Disk& disk, const fs::path& soubor, std::size_t nejvyse) {
-    return NaRadky(CtiVse(disk, soubor, nejvyse));
 }
 
 }  // namespace rysovna

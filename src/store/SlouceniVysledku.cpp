@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "store/JmenaSouboru.h"
-#include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 #include "store/TabulkaVysledku.h"
 
 namespace rysovna {

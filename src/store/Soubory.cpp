@@ -12,6 +12,7 @@
 #include "rules/Misc.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
+#include "store/RadkySouboru.h"
 
 namespace rysovna {
 namespace {

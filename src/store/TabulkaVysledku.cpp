@@ -10,6 +10,7 @@
 
 #include "base/Cisla.h"
 #include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 
 namespace rysovna {
 namespace {

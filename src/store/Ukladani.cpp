@@ -7,6 +7,7 @@
 
 #include "store/JmenaSouboru.h"
 #include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 
 namespace rysovna {
 namespace {

@@ -5,6 +5,7 @@
 #include "base/Cisla.h"
 #include "base/Text.h"
 #include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 
 namespace rysovna {
 namespace {

@@ -13,6 +13,7 @@
 #include "podpora/RukaUlohy.h"
 #include "rules/KatalogChyb.h"
 #include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 #include "zak/Ruka.h"
 
 namespace rysovna::testy {

@@ -14,7 +14,7 @@
 #include "prehled/Sestaveni.h"
 #include "prehled/Smazani.h"
 #include "prehled/TabulkyCsv.h"
-#include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 #include "store/TextPokusu.h"
 
 namespace rysovna::testy {

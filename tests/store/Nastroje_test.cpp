@@ -7,6 +7,7 @@
 #include "podpora/PravaUctu.h"
 #include "podpora/SouboryPomoc.h"
 #include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 
 namespace rysovna::testy {
 namespace {

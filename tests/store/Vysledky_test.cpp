@@ -11,6 +11,7 @@
 #include "podpora/SouboryPomoc.h"
 #include "podpora/UkladaniHned.h"
 #include "store/Fronta.h"
+#include "store/RadkySouboru.h"
 #include "store/TabulkaVysledku.h"
 
 namespace rysovna::testy {

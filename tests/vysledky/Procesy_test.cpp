@@ -5,6 +5,7 @@
 #include <signal.h>
 
 #include "podpora/Prostredi.h"
+#include "store/RadkySouboru.h"
 #include "vysledky/Trida.h"
 
 namespace rysovna::testy {

@@ -16,6 +16,7 @@
 #include "rules/Ulohy.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
+#include "store/RadkySouboru.h"
 
 namespace rysovna::kodovani {
 namespace {

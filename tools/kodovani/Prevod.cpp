@@ -9,6 +9,7 @@
 #include "base/Text.h"
 #include "rules/Ulohy.h"
 #include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 
 namespace rysovna::kodovani {
 namespace {

@@ -12,7 +12,6 @@
 #include "base/Chyba.h"
 #include "platform/Stroj.h"
 #include "platform/bmp/Bmp.h"
-#include "store/Kodovani.h"
 
 // The data tool: codes, decodes and checks the files of the data root; packs bitmaps.
 

@@ -11,6 +11,7 @@
 #include "platform/Stroj.h"
 #include "prehled/Jmena.h"
 #include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 
 namespace rysovna::prehled {
 

@@ -9,7 +9,7 @@
 #include "rules/Kontrola.h"
 #include "store/Cesty.h"
 #include "store/JmenaSouboru.h"
-#include "store/Kodovani.h"
+#include "store/RadkySouboru.h"
 #include "store/Soubory.h"
 #include "store/TextRadku.h"
 
