@@ -9,7 +9,7 @@
 
 #include "Mereni.h"
 #include "base/Rastr.h"
-#include "engine/Sluzby.h"
+#include "engine/Prekresleni.h"
 #include "engine/Tabulky.h"
 #include "hrac/Relace.h"
 #include "platform/Bitmapa.h"

@@ -9,8 +9,8 @@
 #include "base/Matematika.h"
 #include "engine/Okraj.h"
 #include "engine/Resitele.h"
-#include "engine/Sluzby.h"
 #include "engine/Tabulky.h"
+#include "engine/VolneMisto.h"
 
 namespace rysovna {
 

@@ -1,10 +1,11 @@
+#include "engine/VolneMisto.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
 
 #include "base/Pixely.h"
-#include "engine/Sluzby.h"
 
 namespace rysovna {
 

@@ -5,7 +5,6 @@
 #include "base/Cisla.h"
 #include "engine/Kresleni.h"
 #include "engine/Resitele.h"
-#include "engine/Sluzby.h"
 #include "rules/Chyby.h"
 #include "rules/Misc.h"
 #include "rules/SlovaKroku.h"

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/Cisla.h"
-#include "engine/Sluzby.h"
+#include "engine/Prekresleni.h"
 #include "rules/Chyby.h"
 #include "rules/Misc.h"
 

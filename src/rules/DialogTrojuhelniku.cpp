@@ -2,7 +2,6 @@
 
 #include "base/Cisla.h"
 #include "engine/Kresleni.h"
-#include "engine/Sluzby.h"
 #include "rules/Chyby.h"
 #include "rules/Misc.h"
 #include "rules/Uzavreni.h"

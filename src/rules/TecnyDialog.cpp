@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "engine/Kresleni.h"
+#include "engine/Prekresleni.h"
 #include "engine/Resitele.h"
-#include "engine/Sluzby.h"
 #include "rules/Chyby.h"
 #include "rules/Kontrola.h"
 #include "rules/Misc.h"

@@ -4,7 +4,6 @@
 #include <array>
 #include <utility>
 
-#include "engine/Sluzby.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "rules/Ulohy.h"

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/Text.h"
-#include "engine/Sluzby.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "rules/Veliciny.h"

@@ -1,10 +1,11 @@
-#include "engine/Sluzby.h"
-
 #include <gtest/gtest.h>
 #include <random>
 
+#include "engine/Kopirovani.h"
 #include "engine/PametovaPlocha.h"
+#include "engine/Prekresleni.h"
 #include "engine/Tabulky.h"
+#include "engine/VolneMisto.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/ProsteHledani.h"
 #include "podpora/Tisk.h"

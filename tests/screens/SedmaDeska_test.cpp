@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "base/Cisla.h"
-#include "engine/Sluzby.h"
 #include "hrac/Relace.h"
 #include "hrac/RukaNaDesce.h"
 #include "rules/Chyby.h"
