@@ -8,6 +8,7 @@
 #include "rules/Chyby.h"
 #include "rules/Misc.h"
 #include "rules/SlovaKroku.h"
+#include "rules/Veliciny.h"
 
 namespace rysovna {
 
@@ -23,13 +24,17 @@ constexpr JmenaUtvaru JMENA[] = {
 struct RadekVety {
     std::string_view Text, Veta;
 };
-constexpr RadekVety RADKY_VET[] = {{"podle věty SSS", "sss"}, {"podle věty SUS", "sus"}};
+constexpr RadekVety RADKY_VET[] = {{"podle věty SSS", SSS}, {"podle věty SUS", SUS}};
 
 constexpr std::string_view PODLE_VETY = "podlevety";
 
 constexpr ChybaKroku CHYBA_TROJUHELNIK = 133, CHYBA_VETA = 101;
 
 constexpr std::string_view NELZE = "Z vepsaných hodnot nelze sestrojit trojúhelník!";
+
+const char* Jednotka(const VstupVety& v) {
+    return JeUhel(v.Velicina) ? "°" : " cm";
+}
 
 }  // namespace
 
@@ -70,7 +75,7 @@ void DialogCtyruhelniku::Nabidni(Nastroj co) {
         stav_.ZvolenyUtvar = TROJUHELNIK;
         for (const VetaTrojuhelniku& v : pravidla_.Vety) {
             const std::string t(v.Trojuhelnik);
-            if (v.Veta == "sss") radky.push_back({t, true, true, t});
+            if (v.Veta == SSS) radky.push_back({t, true, true, t});
         }
         OtevriSeznam(Seznam::Obsah::Jmena, std::move(radky));
     } else if (co == Nastroj::Veta) {
@@ -157,10 +162,9 @@ void DialogCtyruhelniku::NakresliTrojuhelnik(const VetaTrojuhelniku& veta) {
                        true);
         NakresliStranu(v.substr(1, 1), p2, "", v.substr(2, 1), p3, v.substr(2, 1), false);
         NakresliStranu(v.substr(2, 1), p3, "", v.substr(0, 1), p1, "", false);
-        const std::size_t uhel = veta.Veta == "sus" ? 2 : hodnoty.size();
         for (std::size_t i = 0; i < hodnoty.size(); ++i) {
             misc_.Utvary[static_cast<int>(i) + misc_.PocetUtvaru - 2].Jak = {
-                TROJUHELNIK, "", FormatCesky(hodnoty[i]) + (i == uhel ? "°" : " cm")};
+                TROJUHELNIK, "", FormatCesky(hodnoty[i]) + Jednotka(veta.Vstupy[i])};
         }
     }
     Prekresli();
@@ -225,11 +229,11 @@ void DialogCtyruhelniku::UkazFazi(Panel& p) const {
     }
     p.Nadpis = "Délky úseček a velikosti úhlů:";
     for (std::size_t i = 0; i < stav_.Vstupy.size(); ++i) {
-        const bool uhel = i == 2 && veta->Veta == "sus";
+        const VstupVety& v = veta->Vstupy[i];
         p.Veliciny.push_back(
-            {(uhel ? "vel. úhlu " : "délka strany ") + std::string(veta->Vstupy[i].Popis) + " = ",
+            {(JeUhel(v.Velicina) ? "vel. úhlu " : "délka strany ") + std::string(v.Popis) + " = ",
              {stav_.Vstupy[i], true, !stav_.Skontrolovano},
-             uhel ? "°" : " cm"});
+             Jednotka(v)});
     }
 }
 

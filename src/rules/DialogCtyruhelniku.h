@@ -15,7 +15,7 @@ namespace rysovna {
 /// What one quadrilateral board has of its own in its sketch and its starting triangle.
 struct PravidlaCtyruhelniku {
     std::string_view Uvod;  ///< lead-in of the assignment
-    /// Each triangle once by "sss": the lines of the first list, in this order.
+    /// Each triangle once by SSS: the lines of the first list, in this order.
     std::span<const VetaTrojuhelniku> Vety;
     Nacrt NacrtFigury;
 };
@@ -23,7 +23,7 @@ struct PravidlaCtyruhelniku {
 /// The dialogue's own record. Faze: 1 starting triangle, then the board's own steps.
 struct StavCtyruhelniku : StavKroku {
     std::string ZvolenyTrojuhelnik;     ///< line of the first list; empty until it is chosen
-    std::string ZvolenaVeta;            ///< "sss", "sus" or empty
+    std::string ZvolenaVeta;            ///< SSS, SUS or empty
     bool Nesestrojen = false;           ///< the typed values made no triangle
     std::array<std::string, 3> Vstupy;  ///< what was typed for the triangle
     friend bool operator==(const StavCtyruhelniku&, const StavCtyruhelniku&) = default;

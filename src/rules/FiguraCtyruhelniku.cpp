@@ -51,7 +51,7 @@ std::optional<std::array<Bod, 3>> SpocitejTrojuhelnik(const Plane& plocha, std::
     const Bod p2{Zaokrouhli(p1.X + a), p1.Y};
     Bod p3 = BEZ_BODU;
     Bod druhy = BEZ_BODU;
-    if (veta == "sss") {
+    if (veta == SSS) {
         PrunikKruznic(plocha, p1, static_cast<float>(c), p2, static_cast<float>(b), p3, druhy);
     } else {
         // Below the first side, as the circles would have it, if the vertex has room there.

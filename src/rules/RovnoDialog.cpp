@@ -18,7 +18,7 @@ namespace {
 // diagonals are typed; the angle of the diagonals has no number of its own.
 constexpr VetaTrojuhelniku SeStranou(std::string_view t, VstupVety strana, VstupVety druha,
                                      VstupVety treti) {
-    return {"sss", t, t, {strana, druha, treti}};
+    return {SSS, t, t, {strana, druha, treti}};
 }
 constexpr VstupVety AS{"e", "AS", 127, true}, BS{"f", "BS", 128, true}, CS{"e", "CS", 127, true},
     DS{"f", "DS", 128, true};
@@ -28,10 +28,10 @@ constexpr auto VETY = Spoj(VETY_CELYCH, std::array<VetaTrojuhelniku, 8>{
                                             SeStranou("BCS", {"b", "b", 114}, CS, BS),
                                             SeStranou("CDS", {"c", "c", 115}, DS, CS),
                                             SeStranou("DAS", {"d", "d", 116}, AS, DS),
-                                            {"sus", "ABS", "ASB", {AS, BS, EPSI}},
-                                            {"sus", "BCS", "BSC", {BS, CS, OMEG}},
-                                            {"sus", "CDS", "CSD", {CS, DS, EPSI}},
-                                            {"sus", "DAS", "DSA", {DS, AS, OMEG}},
+                                            {SUS, "ABS", "ASB", {AS, BS, EPSI}},
+                                            {SUS, "BCS", "BSC", {BS, CS, OMEG}},
+                                            {SUS, "CDS", "CSD", {CS, DS, EPSI}},
+                                            {SUS, "DAS", "DSA", {DS, AS, OMEG}},
                                         });
 
 // The sketch: a parallelogram A(40, 150), B(200, 150), C(255, 40), D(95, 40) with its diagonals. An

@@ -6,6 +6,7 @@
 #include "engine/Tabulky.h"
 #include "rules/SlovaKroku.h"
 #include "rules/TecnyKroky.h"
+#include "rules/VetaTrojuhelniku.h"
 
 // What a task file must hold, as tables. A task with kinds of its own adds rows here.
 
@@ -142,7 +143,6 @@ constexpr PravidloStrany PATRI_KE_STRANE[]{
 
 // ---- Quadrilaterals --------------------------------------------------------------------------
 
-constexpr std::string_view SSS = "sss", SUS = "sus";
 constexpr std::string_view CELE[]{"ABC", "BCD", "CDA", "DAB"};
 constexpr std::string_view SE_STREDEM[]{"ABS", "BCS", "CDS", "DAS"};
 /// Of the triangles with the centre those by whose angle the sketch names epsi and omeg: who is
