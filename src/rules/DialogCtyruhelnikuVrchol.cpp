@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "rules/Chyby.h"
+#include "rules/LosovaniCtyruhelniku.h"
 #include "rules/Misc.h"
 #include "rules/Uzavreni.h"
 

@@ -104,6 +104,16 @@ std::array<double, 3> HodnotyVety(const VetaTrojuhelniku& veta, const Priklad& p
     return vety;
 }
 
+char Protejsi(char vrchol) {
+    constexpr std::string_view VRCHOLY = "ABCD";
+    const std::size_t i = VRCHOLY.find(vrchol);
+    return i == std::string_view::npos ? vrchol : VRCHOLY[(i + 2) % 4];
+}
+
+Bod ObrazVeStredu(Bod vzor, Bod stred) {
+    return {2 * stred.X - vzor.X, 2 * stred.Y - vzor.Y};
+}
+
 bool JeCitelna(std::span<const Bod> body, std::span<const std::array<Bod, 4>> ctyruhelniky) {
     for (std::size_t i = 0; i < body.size(); ++i) {
         for (std::size_t j = 0; j < i; ++j) {

@@ -27,6 +27,11 @@ namespace rysovna {
 [[nodiscard]] std::array<double, 3> HodnotyVety(const VetaTrojuhelniku& veta, const Priklad& p,
                                                 const HodnotyPrikladu& hodnoty);
 
+/// The vertex across the centre of a parallelogram; any other letter stays.
+[[nodiscard]] char Protejsi(char vrchol);
+/// Where a point's image in the centre is.
+[[nodiscard]] Bod ObrazVeStredu(Bod vzor, Bod stred);
+
 /// Whether a pupil can tell the points of a figure apart and see its angles: all points (vertices
 /// of both solutions, the centre) lie at least 30 px apart, and neighbouring sides of each
 /// quadrilateral, its vertices in order, meet at 12 degrees or more.

@@ -1,38 +1,16 @@
 #include "rules/RovnoDialog.h"
 
 #include <algorithm>
-#include <map>
 
-#include "base/Cisla.h"
 #include "engine/Kresleni.h"
 #include "engine/Tabulky.h"
+#include "rules/LosovaniRovnobezniku.h"
 #include "rules/Misc.h"
-#include "rules/Radky.h"
 #include "rules/SlovaKroku.h"
 
 namespace rysovna {
 
 namespace {
-
-// Whole triangles as on every quadrilateral. In a triangle with the centre S the halves of the
-// diagonals are typed; the angle of the diagonals has no number of its own.
-constexpr VetaTrojuhelniku SeStranou(std::string_view t, VstupVety strana, VstupVety druha,
-                                     VstupVety treti) {
-    return {SSS, t, t, {strana, druha, treti}};
-}
-constexpr VstupVety AS{"e", "AS", 127, true}, BS{"f", "BS", 128, true}, CS{"e", "CS", 127, true},
-    DS{"f", "DS", 128, true};
-constexpr VstupVety EPSI{"epsi", "epsi", {}}, OMEG{"omeg", "omeg", {}};
-constexpr auto VETY = Spoj(VETY_CELYCH, std::array<VetaTrojuhelniku, 8>{
-                                            SeStranou("ABS", {"a", "a", 113}, BS, AS),
-                                            SeStranou("BCS", {"b", "b", 114}, CS, BS),
-                                            SeStranou("CDS", {"c", "c", 115}, DS, CS),
-                                            SeStranou("DAS", {"d", "d", 116}, AS, DS),
-                                            {SUS, "ABS", "ASB", {AS, BS, EPSI}},
-                                            {SUS, "BCS", "BSC", {BS, CS, OMEG}},
-                                            {SUS, "CDS", "CSD", {CS, DS, EPSI}},
-                                            {SUS, "DAS", "DSA", {DS, AS, OMEG}},
-                                        });
 
 // The sketch: a parallelogram A(40, 150), B(200, 150), C(255, 40), D(95, 40) with its diagonals. An
 // angle's zone is the place of its letter. The diagonals' angles have no mark, so letters say which
@@ -56,20 +34,8 @@ constexpr PismenoNacrtu PISMENA[] = {{"A", 26, 146},
                                      {"epsi", 141, 103, NapisNacrtu::Uhel},
                                      {"omeg", 162, 88, NapisNacrtu::Uhel}};
 
-constexpr PravidlaCtyruhelniku PRAVIDLA{"Sestroj rovnoběžník ABCD:", VETY, {NACRT, PISMENA}};
-
-/// How the three values are drawn, kinds from Od to Po (two digits, so text compares as numbers).
-/// The first two are lengths.
-struct Losovani {
-    std::string_view Od, Po;
-    std::array<Vzorec, 2> Treti;  ///< the third value of an even kind, of an odd one
-    bool Uhel;                    ///< two diagonals, the first the longer, and their angle
-    bool Uhlopricky;              ///< diagonals are even: their halves fit the third value
-};
-constexpr Vzorec DELKA{12, 10}, OSTRY{67, 22}, TUPY{70, 91};
-constexpr Losovani LOSOVANI[] = {{"01", "24", {DELKA, DELKA}, false, false},
-                                 {"25", "56", {DELKA, DELKA}, false, true},
-                                 {"57", "60", {OSTRY, TUPY}, true, true}};
+constexpr PravidlaCtyruhelniku PRAVIDLA{
+    "Sestroj rovnoběžník ABCD:", VETY_ROVNOBEZNIKU, {NACRT, PISMENA}};
 
 constexpr std::string_view JMENO_STREDU = "S";
 constexpr ChybaKroku CHYBA_STRED = 112, CHYBA_VZOR = 137;
@@ -81,95 +47,12 @@ constexpr std::string_view VYZVA_OBRAZ = "Nyní najdi obraz bodů ve středové 
 constexpr std::string_view VYZVA_OBRAZ_KLIK =
     "Zvol kliknutím na kreslící ploše obraz ve střed. souměrnosti.";
 
-bool JeUhlopricka(std::string_view nazev) {
-    return nazev == "e" || nazev == "f";
-}
-bool Sude(int x) {
-    return x % 2 == 0;
-}
-
-/// The vertex across the centre.
-char Protejsi(char vrchol) {
-    constexpr std::string_view VRCHOLY = "ABCD";
-    const std::size_t i = VRCHOLY.find(vrchol);
-    return i == std::string_view::npos ? vrchol : VRCHOLY[(i + 2) % 4];
-}
-
-Bod PulkaCesty(Bod p, Bod q) {
-    return {Zaokrouhli((p.X + q.X) / 2.0), Zaokrouhli((p.Y + q.Y) / 2.0)};
-}
-Bod ObrazVeStredu(Bod vzor, Bod stred) {
-    return {2 * stred.X - vzor.X, 2 * stred.Y - vzor.Y};
-}
-
-bool Vyhovuje(const Losovani& l, const std::string_view (&nazvy)[3], const HodnotyPrikladu& h) {
-    if (l.Uhel) return h[0] > h[1] && Sude(h[0]) && Sude(h[1]);
-    double delky[3];
-    for (std::size_t i = 0; i < 3; ++i) {
-        const bool pulka = l.Uhlopricky && JeUhlopricka(nazvy[i]);
-        if (pulka && !Sude(h[i])) return false;
-        delky[i] = pulka ? h[i] / 2.0 : h[i];
-    }
-    return Trojuhelnikova(delky[0], delky[1], delky[2]);
-}
-
-/// The whole parallelogram of these values, as the board would draw it, and its centre: four
-/// vertices in order, then S. None if they make no triangle.
-std::optional<std::array<Bod, 5>> SpocitejRovnobeznik(const Plane& plocha,
-                                                      const VetaTrojuhelniku& veta,
-                                                      const std::array<double, 3>& hodnoty) {
-    const auto body = SpocitejTrojuhelnik(plocha, veta.Veta, hodnoty);
-    if (!body) return {};
-    std::map<char, Bod> misto;
-    for (std::size_t i = 0; i < body->size(); ++i) misto[veta.Vrcholy[i]] = (*body)[i];
-    for (const char c : {'A', 'B'}) {
-        if (!misto.contains('S') && misto.contains(c) && misto.contains(Protejsi(c))) {
-            misto['S'] = PulkaCesty(misto[c], misto[Protejsi(c)]);
-        }
-    }
-    std::array<Bod, 5> vse{};
-    for (std::size_t i = 0; i < 4; ++i) {
-        const char c = "ABCD"[i];
-        vse[i] = misto.contains(c) ? misto[c] : ObrazVeStredu(misto[Protejsi(c)], misto['S']);
-    }
-    vse[4] = misto['S'];
-    return vse;
-}
-
-/// Whether the figure of the values can be read. Where the data name no triangle, any can.
-bool FiguraCitelna(const Plane& plocha, const Priklad& p, const HodnotyPrikladu& h) {
-    const auto* veta = std::ranges::find_if(VETY, [&p](const VetaTrojuhelniku& v) {
-        return v.Veta == p.Text1 && v.Trojuhelnik == p.Text2;
-    });
-    if (veta == VETY.end()) return true;
-    const auto body = SpocitejRovnobeznik(plocha, *veta, HodnotyVety(*veta, p, h));
-    if (!body) return false;
-    const auto& b = *body;
-    const std::array<Bod, 4> vrcholy = {b[0], b[1], b[2], b[3]};
-    return JeCitelna(b, {&vrcholy, 1});
-}
-
 }  // namespace
-
-int VylosujRovnobeznik(Nahoda& nahoda, const Plane& plocha, const Priklad& p,
-                       HodnotyPrikladu& hodnoty) {
-    const std::string_view nazvy[] = {p.Nazev1, p.Nazev2, p.Nazev3};
-    for (const Losovani& l : LOSOVANI) {
-        if (p.Druh < l.Od || p.Druh > l.Po) continue;
-        const std::size_t lichy = p.Druh.back() % 2 == 0 ? 0 : 1;
-        for (int i = 1; i <= NEJVIC_LOSOVANI; ++i) {
-            VylosujTri(nahoda, {DELKA, DELKA, l.Treti[lichy]}, hodnoty);
-            if (Vyhovuje(l, nazvy, hodnoty) && FiguraCitelna(plocha, p, hodnoty)) return i;
-        }
-        return NEJVIC_LOSOVANI;
-    }
-    return 0;
-}
 
 RovnoDialog::RovnoDialog(Misc& misc, Platna platna) : DialogCtyruhelniku(misc, platna, PRAVIDLA) {}
 
 bool RovnoDialog::VylosujHodnoty(const Priklad& p, HodnotyPrikladu& hodnoty) {
-    return VylosujRovnobeznik(misc_.Generator, platna_.Pic, p, hodnoty) > 0;
+    return VylosujRovnobeznik(misc_.Generator, platna_.Pic, p, Pravidla().Vety, hodnoty) > 0;
 }
 
 bool RovnoDialog::SeStredem() const {
@@ -317,7 +200,7 @@ void RovnoDialog::NakresliUtvar(Bod /*konec*/) {
     if (Stav().ZvolenyUtvar == STRED_SOUMERNOSTI) {
         const auto p = Misto(prvek.substr(0, 1));
         const auto q = Misto(prvek.substr(1));
-        if (p && q) bod = PulkaCesty(*p, *q);
+        if (p && q) bod = StredUseckyBodu(*p, *q);
         NakresliStred(bod, false);
     } else {
         const std::string hledany = HledanyBod();

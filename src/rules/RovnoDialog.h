@@ -39,9 +39,4 @@ private:
     [[nodiscard]] bool SeStredem() const;
 };
 
-/// Draws the three values of a kind, again until they make a figure that can be read. How many
-/// draws it took; 0 for an unknown kind, whose values stay.
-[[nodiscard]] int VylosujRovnobeznik(Nahoda& nahoda, const Plane& plocha, const Priklad& p,
-                                     HodnotyPrikladu& hodnoty);
-
 }  // namespace rysovna

@@ -92,4 +92,9 @@ double CisloZOdectu(std::string_view text) {
     return Cislo(cislo);
 }
 
+Bod StredUseckyBodu(Bod a, Bod b) {
+    return {Zaokrouhli((static_cast<double>(a.X) + b.X) / 2),
+            Zaokrouhli((static_cast<double>(a.Y) + b.Y) / 2)};
+}
+
 }  // namespace rysovna

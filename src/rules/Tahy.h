@@ -45,5 +45,7 @@ namespace rysovna {
 
 /// Straight distance of two points, pixels.
 [[nodiscard]] double Vzdalenost(Bod a, Bod b);
+/// The midpoint of two points, halved with a rounding.
+[[nodiscard]] Bod StredUseckyBodu(Bod a, Bod b);
 
 }  // namespace rysovna

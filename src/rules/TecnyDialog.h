@@ -167,8 +167,6 @@ private:
 
 /// The point of this name, given or marked; BEZ_BODU if there is none.
 [[nodiscard]] Bod NajdiBod(const Tabulky& t, std::string_view jmeno);
-/// The midpoint of two points, halved with a rounding.
-[[nodiscard]] Bod StredUseckyBodu(Bod a, Bod b);
 /// The row of the straight object or circle of this name (both names of a segment or of a line
 /// through two points, together); 0 if there is none.
 [[nodiscard]] int NajdiCaru(const Tabulky& t, std::string_view jmeno);

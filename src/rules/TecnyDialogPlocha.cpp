@@ -51,11 +51,6 @@ bool NaPulPixelu(const Odchylka& o) {
 
 }  // namespace
 
-Bod StredUseckyBodu(Bod a, Bod b) {
-    return {Zaokrouhli((static_cast<double>(a.X) + b.X) / 2),
-            Zaokrouhli((static_cast<double>(a.Y) + b.Y) / 2)};
-}
-
 bool TecnyDialog::CekaNaKresleni() const {
     return stav_.CekaNaKresleni && !stav_.Skontrolovano && stav_.VRuce != Nastroj::Prusecik &&
            stav_.VRuce != Nastroj::Stred;

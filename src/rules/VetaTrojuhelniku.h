@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "rules/KatalogChyb.h"
+#include "rules/Radky.h"
 
 namespace rysovna {
 
@@ -38,5 +39,32 @@ constexpr std::array<VetaTrojuhelniku, 8> VETY_CELYCH = {{
     {SUS, "CDA", "CDA", {{{"c", "c", 115}, {"d", "d", 116}, {"delta", "delta", 120}}}},
     {SUS, "DAB", "DAB", {{{"d", "d", 116}, {"a", "a", 113}, {"alfa", "alfa", 117}}}},
 }};
+
+/// The whole triangles and those with the centre S. In these the halves of the diagonals are typed;
+/// the angle of the diagonals has no number of its own.
+constexpr auto VETY_ROVNOBEZNIKU = Spoj(
+    VETY_CELYCH,
+    std::array<VetaTrojuhelniku, 8>{{
+        {SSS, "ABS", "ABS", {{{"a", "a", 113}, {"f", "BS", 128, true}, {"e", "AS", 127, true}}}},
+        {SSS, "BCS", "BCS", {{{"b", "b", 114}, {"e", "CS", 127, true}, {"f", "BS", 128, true}}}},
+        {SSS, "CDS", "CDS", {{{"c", "c", 115}, {"f", "DS", 128, true}, {"e", "CS", 127, true}}}},
+        {SSS, "DAS", "DAS", {{{"d", "d", 116}, {"e", "AS", 127, true}, {"f", "DS", 128, true}}}},
+        {SUS,
+         "ABS",
+         "ASB",
+         {{{"e", "AS", 127, true}, {"f", "BS", 128, true}, {"epsi", "epsi", {}}}}},
+        {SUS,
+         "BCS",
+         "BSC",
+         {{{"f", "BS", 128, true}, {"e", "CS", 127, true}, {"omeg", "omeg", {}}}}},
+        {SUS,
+         "CDS",
+         "CSD",
+         {{{"e", "CS", 127, true}, {"f", "DS", 128, true}, {"epsi", "epsi", {}}}}},
+        {SUS,
+         "DAS",
+         "DSA",
+         {{{"f", "DS", 128, true}, {"e", "AS", 127, true}, {"omeg", "omeg", {}}}}},
+    }});
 
 }  // namespace rysovna

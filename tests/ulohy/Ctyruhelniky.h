@@ -10,6 +10,8 @@
 
 #include "podpora/Stul.h"
 #include "rules/DialogCtyruhelnikuVrchol.h"
+#include "rules/LosovaniCtyruhelniku.h"
+#include "rules/LosovaniRovnobezniku.h"
 #include "rules/RovnoDialog.h"
 #include "zak/Ctyruhelnik.h"
 #include "zak/Trojuhelnik.h"
@@ -251,7 +253,7 @@ int Losuj(Stul<D>& s, const Priklad& p) {
     HodnotyPrikladu h{};
     Nahoda& nahoda = s.Pamet().Generator;
     if constexpr (std::is_same_v<D, RovnoDialog>)
-        return VylosujRovnobeznik(nahoda, s.Obraz(), p, h);
+        return VylosujRovnobeznik(nahoda, s.Obraz(), p, VETY_ROVNOBEZNIKU, h);
     else
         return VylosujCtyruhelnik(nahoda, s.Obraz(), p, VETY_CELYCH, h);
 }

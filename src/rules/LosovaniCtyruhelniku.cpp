@@ -1,5 +1,7 @@
 // Values of the quadrilaterals whose fourth vertex is found by two objects.
 
+#include "rules/LosovaniCtyruhelniku.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -8,6 +10,7 @@
 #include "base/Matematika.h"
 #include "engine/Resitele.h"
 #include "rules/DialogCtyruhelnikuVrchol.h"
+#include "rules/FiguraCtyruhelniku.h"
 #include "rules/Misc.h"
 #include "rules/Uzavreni.h"
 
