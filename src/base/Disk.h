@@ -16,6 +16,11 @@ namespace rysovna {
 /// other way is path::string().
 [[nodiscard]] std::filesystem::path CestaZTextu(std::string_view text);
 
+/// How the name of a file ends that is still being written and gets its own name when it is whole,
+/// and the name of one that holds nothing but a lock. Nobody else's are these: what keeps files
+/// elsewhere leaves them out.
+constexpr std::string_view PRIPONA_NOVEHO = ".novy", JMENO_ZAMKU = "zamek";
+
 /// Why the disk did not do what it was asked for.
 enum class Pricina {
     Neni,        ///< there is no such file or folder
@@ -49,6 +54,9 @@ private:
 class Soubor {
 public:
     static constexpr std::size_t VSE = std::numeric_limits<std::size_t>::max();
+    /// The one byte that is locked: far beyond any log, and small enough for servers that count
+    /// places in 63 bits or less. The same on every computer that shares the folder.
+    static constexpr std::uint64_t MISTO_ZAMKU = std::uint64_t{1} << 40;
 
     virtual ~Soubor() = default;
     Soubor(const Soubor&) = delete;
@@ -70,7 +78,7 @@ public:
     /// Asks once, without waiting, for the one lock of this file, kept until the file is closed:
     /// it holds against other programs, other computers that share the folder, and other opened
     /// copies of this process. False while another has it. The file must be open for writing.
-    /// The lock lies far beyond the end and hinders nobody's reading or writing.
+    /// The lock lies at MISTO_ZAMKU and hinders nobody's reading or writing.
     [[nodiscard]] virtual bool Zamkni() = 0;
     /// Rights and group as those of another file; the owner stays.
     virtual void PrevezmiPrava(Soubor& od) = 0;

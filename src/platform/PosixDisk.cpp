@@ -58,10 +58,7 @@ auto Znovu(Volani&& volani) {
     return vysledek;
 }
 
-/// Far beyond any log, and small enough for servers that count places in 63 bits or less. The same
-/// on every computer that shares the folder.
 static_assert(sizeof(off_t) == 8);
-constexpr off_t MISTO_ZAMKU = off_t{1} << 40;
 
 constexpr mode_t PRAVA = 07777;
 constexpr mode_t PRAVA_SOUBORU = 0666;
@@ -127,7 +124,7 @@ public:
         struct flock zamek {};
         zamek.l_type = F_WRLCK;
         zamek.l_whence = SEEK_SET;
-        zamek.l_start = MISTO_ZAMKU;
+        zamek.l_start = static_cast<off_t>(MISTO_ZAMKU);
         zamek.l_len = 1;
 #ifdef F_OFD_SETLK
         // The lock of this very opening: closing another one of the same file does not free it.

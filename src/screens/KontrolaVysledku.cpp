@@ -1,4 +1,5 @@
-// The part of the check before a lesson that looks at results: files, room, lock, queue.
+// The part of the check before a lesson that looks at results: files, room, lock, queue, and the
+// attempts that are kept.
 
 #include "platform/Host.h"
 #include "screens/KontrolaPocitace.h"
@@ -117,7 +118,7 @@ Nalez Fronta_(Disk& disk, const fs::path& stav) {
 
 /// What is wrong with a file among the attempts; empty if nothing is, or if it is in the making.
 std::string VadaPokusu(Disk& disk, const fs::path& soubor) {
-    if (soubor.extension() == UkladaniPokusu::PRIPONA_NOVEHO) return {};
+    if (soubor.extension() == PRIPONA_NOVEHO) return {};
     try {
         return CtiPokus(disk.Otevri(soubor, Disk::Jak::Cteni)->Cti(0, NEJVETSI_POKUS)).Vada;
     } catch (const ChybaDisku& chyba) {

@@ -15,8 +15,6 @@ namespace fs = std::filesystem;
 constexpr std::string_view PRVNI_RADEK = "RYSOVNA1 VYSLEDEK 1";
 constexpr std::string_view CELY = "cely";  // the last line of a new entry: all of it is there
 constexpr std::string_view PRIPONA = ".vysledek";
-constexpr const char* JMENO_ZAMKU = "zamek";
-constexpr std::string_view PRIPONA_NOVEHO = ".novy";  // of an entry that is being written
 constexpr std::size_t SIRKA_CASU = 20;
 
 /// The texts of a result by their names in the file.

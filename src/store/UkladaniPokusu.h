@@ -24,10 +24,8 @@ namespace rysovna {
 /// stays in the queue.
 class UkladaniPokusu : public UkladaniNaDisk {
 public:
-    /// Name of the folder in the folder of results, and how its files end; one that is being
-    /// written ends with the third besides.
-    static constexpr std::string_view SLOZKA = "Pokusy", PRIPONA = ".pokus",
-                                      PRIPONA_NOVEHO = ".novy";
+    /// Name of the folder in the folder of results, and how its files end.
+    static constexpr std::string_view SLOZKA = "Pokusy", PRIPONA = ".pokus";
 
     /// ted: tick count, ms. koren: the folder of results. slozkaStavu: the account's state folder;
     /// may be empty.

@@ -21,7 +21,7 @@ bool LeziV(const fs::path& co, const char* slozka) {
 
 /// An entry that is being written is nobody's until it gets its name.
 bool JeDocasny(const fs::path& co) {
-    return co.extension() == ".novy" || co.filename() == "zamek";
+    return co.extension() == PRIPONA_NOVEHO || co.filename() == JMENO_ZAMKU;
 }
 
 /// A file in a folder below that of results is made once and never changed: what was refused of

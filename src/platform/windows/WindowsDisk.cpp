@@ -84,9 +84,6 @@ bool Znovu(Volani&& volani, bool iOdepreni) {
     return volani();
 }
 
-/// Far beyond any log, and small enough for servers that count places in 63 bits or less. The same
-/// on every computer that shares the folder.
-constexpr std::uint64_t MISTO_ZAMKU = std::uint64_t{1} << 40;
 /// The place behind whatever is in the file when it is written.
 constexpr std::uint64_t NA_KONEC = std::numeric_limits<std::uint64_t>::max();
 
