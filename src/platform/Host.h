@@ -19,6 +19,8 @@ struct RezimObrazovky {
     int Sirka = 0, Vyska = 0, Barvy = 0;
     friend bool operator==(const RezimObrazovky&, const RezimObrazovky&) = default;
 };
+/// The mode that the game asks for, and by which a host knows that it does.
+constexpr RezimObrazovky REZIM_HRY{.Sirka = 640, .Vyska = 480, .Barvy = 16};
 
 /// Buttons and icon of a message box, and its answers.
 enum class Styl : int { Ok = 0, Stop = 16, OtazkaAnoNe = 36 };

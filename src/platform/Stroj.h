@@ -44,6 +44,10 @@ bool OtevriSoubor(const std::filesystem::path& soubor);
 [[nodiscard]] std::filesystem::path SlozkaNastaveniUctu();
 [[nodiscard]] std::filesystem::path SlozkaNastaveniStroje();
 
+/// The folder of these that holds Rysovna.ini (any case): the program's own, the account's, else
+/// the machine's, whether that one does or not.
+[[nodiscard]] std::filesystem::path SlozkaNastaveni(const std::filesystem::path& program);
+
 /// The folder that the program's own file lies in; empty where that cannot be found out.
 [[nodiscard]] std::filesystem::path SlozkaProgramu();
 

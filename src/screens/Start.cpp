@@ -29,8 +29,6 @@ constexpr const char* NELZE_PREPNOUT =
 constexpr const char* NELZE_OBNOVIT =
     "Nastala chyba při obnovení původního nastavení obrazovky. Změňte nastavení manuálně.";
 
-constexpr RezimObrazovky REZIM_HRY{.Sirka = 640, .Vyska = 480, .Barvy = 16};
-
 void VypisChybejici(const std::string& co) {
     std::fprintf(stderr, "Rysovna: %s\n", co.c_str());
 }

@@ -36,13 +36,10 @@ Znamkovani::Znamkovani() {
 
 Znamkovani::Znamkovani(const fs::path& program) : Znamkovani() {
     DiskStroje disk;
-    for (const fs::path& slozka : {program, SlozkaNastaveniUctu(), SlozkaNastaveniStroje()}) {
-        if (slozka.empty() || !disk.JeSoubor(slozka / JMENO_INI)) continue;
-        const std::string data =
-            CtiCesty(disk, SlozkaSLomitkem(slozka), SlozkaDatUctu()).HD + JMENO_ZNAMEK;
-        if (disk.JeSoubor(NativniCesta(data))) NactiZnamky(misc_, disk, data);
-        return;
-    }
+    const std::string kde = SlozkaSLomitkem(SlozkaNastaveni(program));
+    const std::string hd = CtiCesty(disk, kde, SlozkaDatUctu()).HD;
+    const std::string data = hd + JMENO_ZNAMEK;
+    if (!hd.empty() && disk.JeSoubor(NativniCesta(data))) NactiZnamky(misc_, disk, data);
 }
 
 int Znamkovani::Znamka(const Serie& serie) const {

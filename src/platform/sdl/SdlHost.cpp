@@ -32,8 +32,6 @@ namespace rysovna {
 namespace {
 
 constexpr int SHIFT = 1, CTRL = 2, ALT = 4;
-constexpr RezimObrazovky REZIM_PROGRAMU{640, 480, 16};
-constexpr const char* SOUBOR_NASTAVENI = "\\Rysovna.ini";
 
 /// Keys that have a name for the screens, whatever is held with them.
 constexpr struct {
@@ -106,12 +104,6 @@ int Drzena(Uint32 stav) {
 int Modifikatory(int mod) {
     return ((mod & KMOD_SHIFT) != 0 ? SHIFT : 0) | ((mod & KMOD_CTRL) != 0 ? CTRL : 0) |
            ((mod & KMOD_ALT) != 0 ? ALT : 0);
-}
-
-bool MaNastaveni(const std::string& slozka) {
-    std::error_code chyba;
-    return !slozka.empty() &&
-           std::filesystem::is_regular_file(NativniCesta(slozka + SOUBOR_NASTAVENI), chyba);
 }
 
 std::string Promenna(const char* jmeno) {
@@ -321,7 +313,7 @@ RezimObrazovky SdlHost::GetDeviceCaps() {
 int SdlHost::ChangeDisplaySettings(const RezimObrazovky& rezim) {
     // A screen may have had the program's own mode before: the mode alone does not tell a switch
     // from its restoring.
-    if (rezim == REZIM_PROGRAMU && !vnitrek_->Prepnuto) {
+    if (rezim == REZIM_HRY && !vnitrek_->Prepnuto) {
         vnitrek_->Prepnuto = true;
         if (vnitrek_->Okno_.Otevri(true)) return 0;
         // Without any window the game would run and never be seen.
@@ -367,9 +359,7 @@ std::string SdlHost::SlozkaNastaveni() {
     char* zaklad = SDL_GetBasePath();
     const std::string vlastni = zaklad == nullptr ? std::string() : std::string(zaklad);
     SDL_free(zaklad);
-    if (MaNastaveni(vlastni)) return vlastni;
-    const std::string uctu = SlozkaNastaveniUctu().string();
-    return MaNastaveni(uctu) ? uctu : SlozkaNastaveniStroje().string();
+    return rysovna::SlozkaNastaveni(CestaZTextu(vlastni)).string();
 }
 
 std::uint32_t SdlHost::Seminko() {

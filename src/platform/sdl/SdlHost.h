@@ -32,8 +32,7 @@ public:
     /// 640 by 480 fills the screen, the first time; any other mode, and any later call, puts the
     /// window away. 0 unless only an ordinary window can be opened; none at all is a fault.
     int ChangeDisplaySettings(const RezimObrazovky& rezim) override;
-    /// The executable's folder if it holds Rysovna.ini (any case), else the account's configuration
-    /// folder if it holds one, else the machine's.
+    /// As SlozkaNastaveni of Stroj.h looks for it, first in the executable's folder.
     [[nodiscard]] std::string WindowsDirectory() override { return SlozkaNastaveni(); }
     /// The same for a process without a display.
     [[nodiscard]] static std::string SlozkaNastaveni();
