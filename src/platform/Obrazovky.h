@@ -214,6 +214,9 @@ private:
     Cinnost<> Pust(const DrzenyForm& form, Ovladac* o, const Mys& m);
     Cinnost<> Klik(const DrzenyForm& form, Ovladac* o, const Mys& m);
     Cinnost<> PakKlik(Cinnost<> pusteni, DrzenyForm form, DrzenyOvladac o, Mys m);
+    void DorucText(const Vstup& s);
+    Cinnost<> DorucZavreni();
+    void DorucNavrat();
     // ObrazovkyDotyk.cpp
     Cinnost<> DorucPrst(const Vstup& s);
     Cinnost<> PrstSeDotkl(Bod kde, const Vstup& s);
@@ -224,7 +227,6 @@ private:
     void NechTah(Bod konec);
     Cinnost<> DokonciTah();
     [[nodiscard]] Bod KamKlepl(const Form& form, Bod kde) const;
-    void DorucText(const Vstup& s);
     // Klavesnice.cpp
     Cinnost<> DorucKlavesu(const Vstup& s);
     Cinnost<> DorucPusteniKlavesy(const Vstup& s);
@@ -235,8 +237,7 @@ private:
     Cinnost<> PustKlavesou();
     Cinnost<> Klepni(DrzenyForm form, DrzenyOvladac o);
     void UkazPrsten();
-    Cinnost<> DorucZavreni();
-    void DorucNavrat();
+
     Host& host_;
     std::unique_ptr<Vnitrek> vnitrek_;
     std::function<void(std::size_t)> poVstupu_;

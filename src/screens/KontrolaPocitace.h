@@ -34,7 +34,7 @@ struct KontrolovanyStroj {
 
 /// The check before a lesson: configuration, screen, sound, fonts, pictures and sounds, game data,
 /// files of results, their lock, the queue. Everything is looked at whatever was found before.
-/// Nothing is made or changed. Sets the session's paths.
+/// Nothing is made or changed.
 [[nodiscard]] std::vector<Nalez> ZkontrolujPocitac(const KontrolovanyStroj& stroj);
 
 /// The parts of it that look at files.

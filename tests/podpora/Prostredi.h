@@ -5,9 +5,8 @@
 namespace rysovna::testy {
 
 /// A whole number from the environment; jinak where it is not set. CI plays little, a long run is
-/// asked for by RYSOVNA_SEMINEK (seeds of each example for the perfect pupil), RYSOVNA_FIGUR
-/// (figures of each tangent exercise), RYSOVNA_UDALOSTI, RYSOVNA_SEMINKO and RYSOVNA_RODINA
-/// (events, seed and family of tasks of the careless pupil).
+/// asked for by such numbers: who calls this says what of. RYSOVNA_SEMINKO and RYSOVNA_RODINA pick
+/// the seed and the family of tasks of the careless pupil.
 inline int Prostredi(const char* jmeno, int jinak) {
     const char* text = std::getenv(jmeno);
     return text == nullptr ? jinak : std::atoi(text);
