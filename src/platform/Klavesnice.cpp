@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "platform/Host.h"
+#include "platform/Misto.h"
 #include "platform/ObrazovkyVnitrek.h"
 #include "platform/PsaniTextu.h"
 
@@ -34,20 +35,15 @@ int Mezera(int a, int sirkaA, int b, int sirkaB) {
     return std::max({b - (a + sirkaA), a - (b + sirkaB), 0});
 }
 
-Obdelnik Misto(const Ovladac& o) {
-    const Bod roh = Roh(&o);
-    return {roh.X, roh.Y, o.Width, o.Height};
-}
-
 /// The nearest stop to one side; what lies straight ahead goes before what lies aside.
 Ovladac* VeSmeru(const std::vector<Ovladac*>& zastavky, const Ovladac& odkud, Bod smer) {
     constexpr int STRANOU = 4;  // one pixel aside is worth so many ahead
-    const Obdelnik a = Misto(odkud);
+    const Obdelnik a = MistoNaFormu(odkud);
     Ovladac* nejblizsi = nullptr;
     int nejmin = 0;
     for (Ovladac* o : zastavky) {
         if (o == &odkud || o->Rodic != odkud.Rodic) continue;
-        const Obdelnik b = Misto(*o);
+        const Obdelnik b = MistoNaFormu(*o);
         const int dx = 2 * (b.Left - a.Left) + b.Width - a.Width;
         const int dy = 2 * (b.Top - a.Top) + b.Height - a.Height;
         if (dx * smer.X + dy * smer.Y <= 0) continue;
@@ -69,26 +65,6 @@ Mys UdalostKlaves(const Form& form, const Ovladac& o, int tlacitko) {
 }
 
 }  // namespace
-
-bool Dosazitelny(const Ovladac* o) {
-    for (; o != nullptr; o = o->Rodic) {
-        if (!o->Visible || !o->Enabled) return false;
-    }
-    return true;
-}
-
-Obdelnik MistoFormu(const Form& f) {
-    return {f.Maximised ? 0 : f.Left, f.Maximised ? 0 : f.Top, f.Width, f.Height};
-}
-
-Bod Roh(const Ovladac* o) {
-    Bod roh;
-    for (; o != nullptr; o = o->Rodic) {
-        roh.X += o->Left;
-        roh.Y += o->Top;
-    }
-    return roh;
-}
 
 bool JeZivaZastavka(const Ovladac& o) {
     if (o.Zastavka == 0 || !Dosazitelny(&o)) return false;

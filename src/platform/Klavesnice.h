@@ -22,13 +22,6 @@
 
 namespace rysovna {
 
-/// Seen and enabled, with all that it stands in. The form itself (null) is.
-[[nodiscard]] bool Dosazitelny(const Ovladac* o);
-/// Where a form lies on the design area.
-[[nodiscard]] Obdelnik MistoFormu(const Form& f);
-/// Top left corner of an object on its form.
-[[nodiscard]] Bod Roh(const Ovladac* o);
-
 /// The object takes the ring now.
 [[nodiscard]] bool JeZivaZastavka(const Ovladac& o);
 /// The live stops of a form in the order of their round.

@@ -8,6 +8,7 @@
 
 #include "base/Chyba.h"
 #include "platform/MalirObjektu.h"
+#include "platform/Misto.h"
 #include "platform/ObrazekData.h"
 #include "platform/Obrazovky.h"
 
@@ -46,12 +47,12 @@ public:
         while (prvni > 0) {
             --prvni;
             const Form& f = *formy[prvni];
-            if (f.BackColor != BEZ_BARVY && Pokryva(Misto(f), NAVRH)) break;
+            if (f.BackColor != BEZ_BARVY && Pokryva(MistoFormu(f), NAVRH)) break;
         }
         for (std::size_t i = prvni; i < formy.size(); ++i) {
             formy[i]->Paint();
             const Form& f = *formy[i];
-            const Obdelnik misto = Misto(f);
+            const Obdelnik misto = MistoFormu(f);
             Zaznam z;
             z.Formular = &f;
             z.Objekt.Kde = misto;
@@ -66,10 +67,6 @@ public:
     std::vector<Zaznam> Radky;
 
 private:
-    static Obdelnik Misto(const Form& f) {
-        return {f.Maximised ? 0 : f.Left, f.Maximised ? 0 : f.Top, f.Width, f.Height};
-    }
-
     void Deti(const Form& f, const Ovladac* rodic, Bod roh, const Obdelnik& videt) {
         for (const Ovladac* o : f.Ovladace()) {
             if (o->Rodic != rodic || !o->Visible || o->Druh == Ovladac::Typ::Timer) continue;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/Klavesnice.h"
+#include "platform/Misto.h"
 #include "platform/ObrazovkyVnitrek.h"
 
 namespace rysovna {

@@ -7,6 +7,7 @@
 #include "base/Matematika.h"
 #include "platform/Host.h"
 #include "platform/Klavesnice.h"
+#include "platform/Misto.h"
 #include "platform/ObrazovkyVnitrek.h"
 #include "platform/PsaniTextu.h"
 

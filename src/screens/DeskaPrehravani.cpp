@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "base/Cisla.h"
-#include "platform/Klavesnice.h"
+#include "platform/Misto.h"
 #include "screens/DeskaForm.h"
 
 namespace rysovna {

@@ -11,6 +11,7 @@
 #include "base/Chyba.h"
 #include "hrac/RukaNaDesce.h"
 #include "platform/Malir.h"
+#include "platform/Misto.h"
 #include "platform/Paleta.h"
 #include "platform/Pisma.h"
 #include "zak/Sestroj.h"
@@ -50,15 +51,6 @@ Bod NaObrazku(Bod b) {
     return {OKRAJ + Zvetsi(b.X, MERITKO), NAD + Zvetsi(b.Y, MERITKO)};
 }
 
-Obdelnik Kde(const Ovladac& o) {
-    Obdelnik kde{o.Left, o.Top, o.Width, o.Height};
-    for (const Ovladac* r = o.Rodic; r != nullptr; r = r->Rodic) {
-        kde.Left += r->Left;
-        kde.Top += r->Top;
-    }
-    return kde;
-}
-
 bool Videt(const Ovladac& o) {
     return o.Visible && (o.Rodic == nullptr || Videt(*o.Rodic));
 }
@@ -67,7 +59,7 @@ bool Videt(const Ovladac& o) {
 const Ovladac* Nejvyse(const Form& form, Bod b, const Ovladac* rodic = nullptr) {
     const auto& vsechny = form.Ovladace();
     for (auto i = vsechny.rbegin(); i != vsechny.rend(); ++i) {
-        if ((*i)->Rodic == rodic && (*i)->Visible && Kde(**i).Obsahuje(b.X, b.Y)) {
+        if ((*i)->Rodic == rodic && (*i)->Visible && MistoNaFormu(**i).Obsahuje(b.X, b.Y)) {
             return Nejvyse(form, b, *i);
         }
     }
@@ -76,14 +68,14 @@ const Ovladac* Nejvyse(const Form& form, Bod b, const Ovladac* rodic = nullptr) 
 
 Strana NaKtereStrane(const Ovladac& o) {
     constexpr int HORNI_RADA = 80, LEVA_CAST = 280;  // design px
-    const Obdelnik kde = Kde(o);
+    const Obdelnik kde = MistoNaFormu(o);
     if (kde.Top + kde.Height <= HORNI_RADA) return Strana::Nahore;
     return kde.Left + kde.Width / 2 < LEVA_CAST ? Strana::Vlevo : Strana::Vpravo;
 }
 
 /// Where a control is seen, design px: near the side of its name, in the middle of it.
 Bod NajdiCil(const Form& form, const Ovladac& o, Strana strana) {
-    const Obdelnik kde = Kde(o);
+    const Obdelnik kde = MistoNaFormu(o);
     const Bod stred{kde.Left + kde.Width / 2, kde.Top + kde.Height / 2};
     const auto cena = [&](Bod b) {
         if (strana == Strana::Nahore) return b.Y + std::abs(b.X - stred.X);
@@ -161,7 +153,7 @@ std::vector<Nazev> Nazvy(const Form& form, Strana strana) {
         n.Text = o->Name;
         n.Videt = Videt(*o);
         if (pole) n.Text += "(" + std::to_string(o->Index) + (stitky ? " …)" : ")");
-        n.Kde = Zvetsi(Kde(*o), MERITKO);
+        n.Kde = Zvetsi(MistoNaFormu(*o), MERITKO);
         n.Kde.Left += OKRAJ;
         n.Kde.Top += NAD;
         n.Cil = NaObrazku(NajdiCil(form, *o, strana));
