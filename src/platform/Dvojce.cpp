@@ -1,5 +1,6 @@
 #include <cairo.h>
 #include <cmath>
+#include <numbers>
 #include <span>
 
 #include "platform/DisplayList.h"
@@ -9,9 +10,6 @@
 namespace rysovna {
 
 namespace {
-
-/// How far the ground of a label reaches beyond its letters, design pixels.
-constexpr double SVATOZAR = 1.4;
 
 /// Paints items of a display list over a bitmap at a scale. Strokes go through Cairo, everything
 /// else is done on the pixels.
@@ -48,7 +46,7 @@ public:
         Tah(k.Barva, SirkaPera(k.Pero));
         cairo_new_path(cairo_);
         const double r = static_cast<double>(k.R) + (k.Pero == 0 || k.R == 0 ? 0.5 : 0);
-        cairo_arc(cairo_, Stred(k.X), Stred(k.Y), r * s_, 0, 2 * 3.14159265358979323846);
+        cairo_arc(cairo_, Stred(k.X), Stred(k.Y), r * s_, 0, 2 * std::numbers::pi);
         if (k.Pero == 0 || k.R == 0) {
             cairo_fill(cairo_);
         } else {

@@ -14,8 +14,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int LEVE = 1, SHIFT = 1, CTRL = 2;
-
 constexpr struct {
     std::string_view Klavesa;
     Bod Smer;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cairo.h>
 #include <cmath>
+#include <numbers>
 
 #include "platform/Paleta.h"
 #include "platform/Pisma.h"
@@ -131,7 +132,7 @@ void Namaluj(const Kresba& k, Bod posun, const CircleShape& c) {
     const Tah tah(k, c.BorderColor, c.BorderWidth);
     cairo_arc(tah.Kde(), k.X0 + (posun.X + c.Left + c.Width / 2.0 + 0.5) * k.S,
               k.Y0 + (posun.Y + c.Top + c.Height / 2.0 + 0.5) * k.S, r * k.S, 0,
-              2 * 3.14159265358979323846);
+              2 * std::numbers::pi);
 }
 
 /// Of a picture over a ground that is painted where the picture does not reach.

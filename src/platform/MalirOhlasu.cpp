@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cairo.h>
+#include <numbers>
 #include <string_view>
 #include <utility>
 
@@ -21,7 +22,7 @@ constexpr int SIRKA_PRSTENU = 2, LEM_PRSTENU = 4;  // px, of its line and of the
 constexpr int ROH_PRSTENU = 3;                     // px
 constexpr int RAMENO_KRIZE = 9, MEZERA_KRIZE = 2;  // px from the middle
 constexpr Barva BARVA_PRSTENU = paleta::ACCENT;
-constexpr double PI = 3.14159265358979323846;
+using std::numbers::pi;
 
 constexpr Barva BARVA_OHLASU = paleta::INKOUST;
 constexpr int POLOMER_ZACHYTNEHO = 6;  // px
@@ -50,10 +51,10 @@ Obdelnik RamPrstenu(const Obdelnik& o) {
 /// The path of a rectangle with round corners, target px.
 void Zaobleny(cairo_t* c, double x1, double y1, double x2, double y2, double r) {
     cairo_new_sub_path(c);
-    cairo_arc(c, x2 - r, y1 + r, r, -PI / 2, 0);
-    cairo_arc(c, x2 - r, y2 - r, r, 0, PI / 2);
-    cairo_arc(c, x1 + r, y2 - r, r, PI / 2, PI);
-    cairo_arc(c, x1 + r, y1 + r, r, PI, 3 * PI / 2);
+    cairo_arc(c, x2 - r, y1 + r, r, -pi / 2, 0);
+    cairo_arc(c, x2 - r, y2 - r, r, 0, pi / 2);
+    cairo_arc(c, x1 + r, y2 - r, r, pi / 2, pi);
+    cairo_arc(c, x1 + r, y1 + r, r, pi, 3 * pi / 2);
     cairo_close_path(c);
 }
 
@@ -71,7 +72,7 @@ void Zachytne(const Kresba& k, Bod bod) {
          {std::pair{BILA, LEM_ZACHYTNEHO}, std::pair{BARVA_OHLASU, 1}}) {
         const Tah tah(k, barva, sirka);
         cairo_arc(tah.Kde(), k.X0 + (bod.X + 0.5) * k.S, k.Y0 + (bod.Y + 0.5) * k.S,
-                  POLOMER_ZACHYTNEHO * k.S, 0, 2 * PI);
+                  POLOMER_ZACHYTNEHO * k.S, 0, 2 * pi);
     }
 }
 
@@ -95,7 +96,7 @@ void NamalujMys(const Kresba& k, Bod hrot, bool stisknuta) {
     if (stisknuta) {
         for (const auto& [barva, sirka] : {std::pair{BILA, 5}, std::pair{BARVA_PRSTENU, 3}}) {
             const Tah tah(k, barva, sirka);
-            cairo_arc(tah.Kde(), sx, sy, POLOMER_STISKU * k.S, 0, 2 * PI);
+            cairo_arc(tah.Kde(), sx, sy, POLOMER_STISKU * k.S, 0, 2 * pi);
         }
     }
     for (const auto& [barva, sirka] : {std::pair{BILA, 4}, std::pair{BARVA_OHLASU, 1}}) {

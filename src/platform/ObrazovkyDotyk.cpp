@@ -13,7 +13,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int LEVE = 1;
 /// How far inside a picture that has an edge of its own the frame stands, px.
 constexpr int KRAJ_RAMU = 3;
 constexpr int PRED_TEXTEM = 2;  // px, of a frame around a line of text

@@ -15,7 +15,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int LEVE = 1;
 /// A press within this time and distance of the one before, on each axis, goes with it.
 constexpr std::int32_t DVOJKLIK_MS = 500;
 constexpr double DVOJKLIK_PX = 4;
@@ -340,7 +339,7 @@ Cinnost<> Obrazovky::DorucStisk(const Vstup& s) {
         if (!t.MultiLine) {
             form->SetFocus(t);
             PsaniTextu psani(host_, t);
-            psani.Stisk(static_cast<double>(m.X), (s.Shift & 1) != 0);
+            psani.Stisk(static_cast<double>(m.X), (s.Shift & SHIFT) != 0);
             if (dvojklik) psani.VyberSlovo();
             v.Psano = host_.TickCount();
         }

@@ -7,6 +7,7 @@
 #include <cairo.h>
 #include <cstdio>
 #include <ft2build.h>
+#include <numbers>
 #include <span>
 #include <variant>
 #include <vector>
@@ -22,12 +23,10 @@ namespace rysovna {
 
 namespace {
 
-constexpr double PLNY_UHEL = 2 * 3.14159265358979323846;
+constexpr double PLNY_UHEL = 2 * std::numbers::pi;
 constexpr double BODU_NA_JEDNOTKU = 72.0 / 96;
 /// On paper a line of one pixel would be too thick: parts of its width, design pixels.
 constexpr double TENKE_PERO = 0.55;
-/// How far the white ground of a label reaches beyond its letters, design pixels.
-constexpr double SVATOZAR = 1.4;
 /// Pixels of a picture to the design pixel, of what is no line and no letter.
 constexpr double HUSTOTA = 3;
 

@@ -21,6 +21,8 @@ enum class Hladkost {
 void KresliText(const Vyhled& cil, const Obdelnik& orez, double x, double y, double s,
                 const Pismo& pismo, std::string_view text, Pixel barva, Hladkost hladkost);
 
+/// How far the ground of a label reaches around it, design pixels.
+constexpr double SVATOZAR = 1.4;
 /// Fills what lies within so many pixels of the glyphs that KresliText would print: the ground on
 /// which a label can be read over lines. Hard edges, so that doing it again changes nothing.
 void KresliSvatozar(const Vyhled& cil, double x, double y, double s, const Pismo& pismo,

@@ -11,9 +11,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int SHIFT = 1;
-constexpr int CTRL = 2;
-
 std::size_t Z(int i) {
     return static_cast<std::size_t>(i);
 }

@@ -15,7 +15,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int SHIFT = 1;
 constexpr int KROK_S_SHIFTEM = 10;     // px of the cross
 constexpr int PRVNI_POD_HODNOTOU = 5;  // of the step buttons, those below the box for a value
 constexpr int OKRAJ_PLOCHY = 4;        // px, so that the ring leaves the arrows out

@@ -14,8 +14,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr int LEVE = 1;
-
 // How far to the right of the pointer and below it the read-out stands, px; the name of a point.
 constexpr int ODECET_X = 12, ODECET_Y = 2, JMENO_X = 15;
 // How far above a finger, which hides what is below it, px.

@@ -55,8 +55,6 @@ constexpr std::size_t BEZNA = 2;
 
 constexpr Bod ODKUD_MYS{320, 300};  // px of the design: before its first press
 
-constexpr int SHIFT = 1;
-
 /// Slow at both ends.
 double Plynule(double t) {
     return t * t * (3 - 2 * t);

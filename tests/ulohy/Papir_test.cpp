@@ -22,8 +22,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int CTRL = 2;
-
 /// The text of a document as another program reads it, without blanks.
 std::string CtiPdf(const fs::path& soubor) {
     const std::string povel = "pdftotext -enc UTF-8 -raw '" + soubor.string() + "' -";

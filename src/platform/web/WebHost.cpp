@@ -107,7 +107,6 @@ void WebHost::Pis(std::string utf8) {
 }
 
 void WebHost::Vloz(std::string text) {
-    constexpr int CTRL = 2;
     vstupy_.emplace_back([this, text = std::move(text)] {
         schranka_ = text;
         Okna().Klavesa("v", CTRL);
