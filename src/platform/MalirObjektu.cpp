@@ -10,6 +10,7 @@
 #include "platform/PsaniTextu.h"
 #include "platform/SurfaceVnitrek.h"
 #include "platform/TahNad.h"
+#include "platform/Zalom.h"
 
 namespace rysovna {
 

@@ -5,7 +5,6 @@
 
 #include "base/Chyba.h"
 #include "platform/Cesta.h"
-#include "platform/Host.h"
 #include "platform/ObrazekData.h"
 #include "platform/bmp/Bmp.h"
 

@@ -5,6 +5,7 @@
 #include "platform/Pisma.h"
 #include "platform/PsaniTextu.h"
 #include "platform/Sazba.h"
+#include "platform/Zalom.h"
 
 namespace rysovna {
 

@@ -9,6 +9,12 @@
 
 namespace rysovna {
 
+/// Where the font files stand (with backslashes). Before it is set, and where the files are
+/// missing, no text can be printed: a run-time fault that names the file.
+void NastavSlozkuPisem(std::string_view slozka);
+/// Whether the fonts can be opened.
+[[nodiscard]] bool MamePisma();
+
 /// How glyphs are made.
 enum class Hladkost {
     Logicka,  ///< black or nothing, hinted to the pixel grid: the logical bitmap
@@ -63,11 +69,9 @@ struct ZnakRadku {
 /// Where each character begins and, last, where the text ends, design pixels: one value more than
 /// there are characters.
 [[nodiscard]] std::vector<double> Zacatky(const Pismo& pismo, std::string_view text);
-/// The text broken into rows: at line feeds and, if sirka is above 0, at the blanks where a row
-/// would get wider (a word that is too long alone is broken within). No row ends with a number or
-/// with one of the prepositions o, s, v, z, if it can be helped: "leží | v průniku", "zadání. |
-/// -1 bod". ("k" and "u" are names as well.)
-[[nodiscard]] std::vector<std::string> RozdelNaRadky(const Pismo& pismo, std::string_view text,
-                                                     int sirka);
+/// Width of the text in whole design pixels, as it is laid out on the logical bitmap.
+[[nodiscard]] int SirkaTextu(const Pismo& pismo, std::string_view text);
+/// Height of one row of text, design pixels.
+[[nodiscard]] int VyskaRadku(const Pismo& pismo);
 
 }  // namespace rysovna

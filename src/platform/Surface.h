@@ -58,15 +58,4 @@ private:
     std::unique_ptr<Vnitrek> vnitrek_;
 };
 
-/// Width of the text in whole design pixels, as it is laid out on the logical bitmap.
-[[nodiscard]] int SirkaTextu(const Pismo& pismo, std::string_view text);
-/// Height of one row of text, design pixels.
-[[nodiscard]] int VyskaRadku(const Pismo& pismo);
-
-/// Where the font files stand (with backslashes). Before it is set, and where the files are
-/// missing, no text can be printed: a run-time fault that names the file.
-void NastavSlozkuPisem(std::string_view slozka);
-/// Whether the fonts can be opened.
-[[nodiscard]] bool MamePisma();
-
 }  // namespace rysovna

@@ -9,6 +9,7 @@
 #include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
 #include "platform/Pisma.h"
+#include "platform/Zalom.h"
 
 namespace rysovna {
 

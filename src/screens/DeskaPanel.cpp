@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
+#include "platform/Pisma.h"
 #include "rules/Veliciny.h"
 #include "screens/DeskaForm.h"
 #include "screens/SelectForm.h"

@@ -10,6 +10,7 @@
 #include "platform/Pdf.h"
 #include "platform/Pisma.h"
 #include "platform/Sazba.h"
+#include "platform/Zalom.h"
 #include "rules/Kontrola.h"
 #include "rules/Ulohy.h"
 #include "rules/Veliciny.h"

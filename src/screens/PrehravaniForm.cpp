@@ -9,6 +9,7 @@
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
+#include "platform/Pisma.h"
 #include "rules/Kontrola.h"
 #include "screens/DeskaForm.h"
 #include "screens/PopisKroku.h"

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/Cisla.h"
+#include "platform/Pisma.h"
 #include "rules/Chyby.h"
 #include "rules/Kontrola.h"
 #include "rules/Ulohy.h"

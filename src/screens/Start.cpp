@@ -9,7 +9,7 @@
 
 #include "base/Cisla.h"
 #include "platform/Cesta.h"
-#include "platform/Surface.h"
+#include "platform/Pisma.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/SelectForm.h"
 #include "store/Cesty.h"

@@ -8,7 +8,7 @@
 #include "base/Text.h"
 #include "platform/Host.h"
 #include "platform/Paleta.h"
-#include "platform/Surface.h"
+#include "platform/Pisma.h"
 #include "screens/HelpForm.h"
 #include "screens/Prechody.h"
 #include "screens/Spolecne.h"

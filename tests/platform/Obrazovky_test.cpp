@@ -3,6 +3,7 @@
 
 #include "PlatformTest.h"
 #include "base/Chyba.h"
+#include "platform/Pisma.h"
 #include "platform/ZpravaForm.h"
 
 namespace rysovna::testy {

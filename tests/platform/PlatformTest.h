@@ -11,7 +11,7 @@
 
 #include "platform/Form.h"
 #include "platform/Obrazovky.h"
-#include "platform/Surface.h"
+#include "platform/Pisma.h"
 #include "platform/headless/HeadlessHost.h"
 
 namespace rysovna::testy {

@@ -5,6 +5,7 @@
 #include "base/Chyba.h"
 #include "platform/Pisma.h"
 #include "platform/SurfaceVnitrek.h"
+#include "platform/Zalom.h"
 
 namespace rysovna::testy {
 namespace {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <map>
 
-#include "platform/Surface.h"
+#include "platform/Pisma.h"
 #include "podpora/SouboryPomoc.h"
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"

@@ -10,6 +10,7 @@
 #include "hrac/Serie.h"
 #include "platform/Bitmapa.h"
 #include "platform/Malir.h"
+#include "platform/Pisma.h"
 #include "platform/Stroj.h"
 #include "screens/DeskaForm.h"
 #include "screens/PrehravaniForm.h"

@@ -10,6 +10,7 @@
 
 #include "base/Cisla.h"
 #include "platform/Pisma.h"
+#include "platform/Zalom.h"
 #include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
 #include "store/Vysledek.h"

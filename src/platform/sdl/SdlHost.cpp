@@ -22,7 +22,7 @@
 #include "base/Chyba.h"
 #include "platform/Cesta.h"
 #include "platform/Obrazovky.h"
-#include "platform/Surface.h"
+#include "platform/Pisma.h"
 #include "platform/sdl/Okno.h"
 #include "platform/sdl/OknoX11.h"
 #include "platform/sdl/Zvuk.h"

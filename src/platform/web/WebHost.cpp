@@ -13,7 +13,7 @@
 #include "platform/Cesta.h"
 #include "platform/ObrazekData.h"
 #include "platform/Obrazovky.h"
-#include "platform/Surface.h"
+#include "platform/Pisma.h"
 #include "platform/web/Stranka.h"
 
 namespace rysovna {
