@@ -27,4 +27,10 @@ Obdelnik MistoNaFormu(const Ovladac& o) {
     return {roh.X, roh.Y, o.Width, o.Height};
 }
 
+Obdelnik MistoNaNavrhu(const Form& f, const Ovladac& o) {
+    const Obdelnik form = MistoFormu(f);
+    const Obdelnik misto = MistoNaFormu(o);
+    return {form.Left + misto.Left, form.Top + misto.Top, misto.Width, misto.Height};
+}
+
 }  // namespace rysovna

@@ -10,6 +10,8 @@ namespace rysovna {
 [[nodiscard]] Bod Roh(const Ovladac* o);
 /// Where an object lies on its form.
 [[nodiscard]] Obdelnik MistoNaFormu(const Ovladac& o);
+/// Where an object of a form lies on the design area.
+[[nodiscard]] Obdelnik MistoNaNavrhu(const Form& f, const Ovladac& o);
 /// Seen and enabled, with all that it stands in. The form itself (null) is.
 [[nodiscard]] bool Dosazitelny(const Ovladac* o);
 
