@@ -86,8 +86,6 @@ public:
 
     [[nodiscard]] virtual std::string SchrankaText() = 0;
     virtual void DoSchranky(const std::string& text) = 0;
-    /// The person wants typed text (a text box has the focus) or no longer.
-    virtual void PsaniTextu(bool ano, int x, int y) = 0;
 
     /// The screens that stand on this machine.
     [[nodiscard]] Obrazovky& Okna() { return *okna_; }

@@ -112,8 +112,13 @@ public:
     void PrstNahoru(double x, double y, std::uint32_t cas);
     /// The text box that typed text would go to; null if none has the focus or it cannot be seen.
     [[nodiscard]] TextBox* Psane() const;
+    /// Where a line of text is typed, design px: what a screen keyboard or an input method must not
+    /// cover. Empty where none is; keys work without it.
+    [[nodiscard]] Obdelnik KdeSePise() const;
     /// Tick count of the last typing or caret move: the caret does not blink at once.
     [[nodiscard]] std::uint32_t PosledniPsani() const;
+    /// Milliseconds until the caret comes or goes; none where no text is typed.
+    [[nodiscard]] std::optional<std::uint32_t> DoBliknuti(std::uint32_t ted) const;
 
     /// Typed text, UTF-8.
     void Text(std::string_view utf8);

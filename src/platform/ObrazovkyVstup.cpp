@@ -7,6 +7,7 @@
 #include "base/Matematika.h"
 #include "platform/Host.h"
 #include "platform/Klavesnice.h"
+#include "platform/Malir.h"
 #include "platform/Misto.h"
 #include "platform/ObrazovkyVnitrek.h"
 #include "platform/PsaniTextu.h"
@@ -433,8 +434,21 @@ CimSeHraje Obrazovky::HrajeSe() const {
     return vnitrek_->Prstem ? CimSeHraje::Prstem : CimSeHraje::Mysi;
 }
 
+Obdelnik Obrazovky::KdeSePise() const {
+    constexpr int SIRKA_PSANI = 100, VYSKA_PSANI = 20;
+    const TextBox* t = Psane();
+    if (t == nullptr) return {};
+    const Bod roh = Roh(t);
+    return {roh.X, roh.Y, SIRKA_PSANI, VYSKA_PSANI};
+}
+
 std::uint32_t Obrazovky::PosledniPsani() const {
     return vnitrek_->Psano;
+}
+
+std::optional<std::uint32_t> Obrazovky::DoBliknuti(std::uint32_t ted) const {
+    if (Psane() == nullptr) return std::nullopt;
+    return BLIKANI - (ted - PosledniPsani()) % BLIKANI;
 }
 
 void Obrazovky::DorucText(const Vstup& s) {

@@ -59,7 +59,6 @@ public:
     [[nodiscard]] DatumACas Nyni() override { return Cas; }
     [[nodiscard]] std::string SchrankaText() override { return Schranka; }
     void DoSchranky(const std::string& text) override { Schranka = text; }
-    void PsaniTextu(bool /*ano*/, int /*x*/, int /*y*/) override {}
 
     // The script.
 

@@ -206,8 +206,8 @@ struct SdlHost::Vnitrek {
     SdlHost& Host_;
     Okno Okno_;
     Zvuk Zvuk_;
-    /// Where text is typed, design pixels; BEZ_BODU where none is. Nothing before the first look.
-    std::optional<Bod> Pise;
+    /// As Obrazovky::KdeSePise; nothing before the first look.
+    std::optional<Obdelnik> Pise;
     std::array<std::unique_ptr<SDL_Cursor, UvolniKurzor>, std::size(KURZORY)> Kurzory;
     Kurzor Ukazany = Kurzor::Sipka;
     std::optional<SDL_FingerID> Prst;  ///< the one that plays
@@ -282,11 +282,9 @@ void SdlHost::Ukaz() {
 }
 
 void SdlHost::Vyckej(std::uint32_t nejvyseMs) {
-    std::uint32_t cekat = nejvyseMs;
-    if (Okna().Psane() != nullptr)
-        cekat = std::min(cekat, BLIKANI - (TickCount() - Okna().PosledniPsani()) % BLIKANI);
-    cekat = vnitrek_->VratPamet(cekat);
-    vnitrek_->Cekej(cekat);
+    const std::uint32_t cekat =
+        std::min(nejvyseMs, Okna().DoBliknuti(TickCount()).value_or(nejvyseMs));
+    vnitrek_->Cekej(vnitrek_->VratPamet(cekat));
 }
 
 void SdlHost::Prekresli() {
@@ -387,29 +385,15 @@ void SdlHost::DoSchranky(const std::string& text) {
     SDL_SetClipboardText(text.c_str());
 }
 
-void SdlHost::PsaniTextu(bool ano, int x, int y) {
-    if (!ano) {
-        SDL_StopTextInput();
-        return;
-    }
-    constexpr int SIRKA_PSANI = 100, VYSKA_PSANI = 20;
-    const Obdelnik o = vnitrek_->Okno_.NaOkno({x, y, SIRKA_PSANI, VYSKA_PSANI});
+void SdlHost::Vnitrek::SrovnejPsani() {
+    const Obdelnik kde = Host_.Okna().KdeSePise();
+    if (Pise == kde) return;
+    Pise = kde;
+    if (JePrazdny(kde)) return SDL_StopTextInput();
+    const Obdelnik o = Okno_.NaOkno(kde);
     const SDL_Rect misto{o.Left, o.Top, o.Width, o.Height};
     SDL_SetTextInputRect(&misto);
     SDL_StartTextInput();
-}
-
-/// Typed text is wanted while a text box has the focus; key combinations work without it.
-void SdlHost::Vnitrek::SrovnejPsani() {
-    const TextBox* t = Host_.Okna().Psane();
-    Bod kde = t == nullptr ? BEZ_BODU : Bod{};
-    for (const Ovladac* o = t; o != nullptr; o = o->Rodic) {
-        kde.X += o->Left;
-        kde.Y += o->Top;
-    }
-    if (Pise == kde) return;
-    Pise = kde;
-    Host_.PsaniTextu(t != nullptr, kde.X, kde.Y);
 }
 
 void SdlHost::Vnitrek::Cekej(std::uint32_t nejvyseMs) {

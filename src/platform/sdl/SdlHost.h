@@ -51,7 +51,6 @@ public:
     [[nodiscard]] DatumACas Nyni() override;
     [[nodiscard]] std::string SchrankaText() override;
     void DoSchranky(const std::string& text) override;
-    void PsaniTextu(bool ano, int x, int y) override;
 
 private:
     bool Prijmi() override;

@@ -21,8 +21,6 @@ namespace {
 
 /// Turns of one call: enough for all that is ready, few enough that the page answers.
 constexpr int NEJVIC_OBRATU = 100;
-/// Height of a line of text that is typed, design px: where a screen keyboard must not be.
-constexpr int VYSKA_PSANI = 20;
 
 enum class Druh { Dolu, Pohyb, Nahoru };
 
@@ -156,10 +154,7 @@ bool WebHost::Prijmi() {
 }
 
 void WebHost::Vyckej(std::uint32_t nejvyseMs) {
-    std::uint32_t cekat = nejvyseMs;
-    if (Okna().Psane() != nullptr)
-        cekat = std::min(cekat, BLIKANI - (TickCount() - Okna().PosledniPsani()) % BLIKANI);
-    pristeMs_ = cekat;
+    pristeMs_ = std::min(nejvyseMs, Okna().DoBliknuti(TickCount()).value_or(nejvyseMs));
 }
 
 void WebHost::Ukaz() {
@@ -232,23 +227,16 @@ DatumACas WebHost::Nyni() {
             mistni.tm_min};
 }
 
-void WebHost::PsaniTextu(bool ano, int x, int y) {
-    stranka_psani(ano ? 1 : 0, static_cast<int>(umisteni_.X + x * umisteni_.S),
-                  static_cast<int>(umisteni_.Y + y * umisteni_.S),
-                  static_cast<int>(VYSKA_PSANI * umisteni_.S));
-}
-
-/// Typed text is wanted while a text box has the focus; keys work without it.
 void WebHost::SrovnejPsani() {
-    const TextBox* t = Okna().Psane();
-    Bod kde = t == nullptr ? BEZ_BODU : Bod{};
-    for (const Ovladac* o = t; o != nullptr; o = o->Rodic) {
-        kde.X += o->Left;
-        kde.Y += o->Top;
-    }
+    const Obdelnik kde = Okna().KdeSePise();
     if (pise_ == kde) return;
     pise_ = kde;
-    PsaniTextu(t != nullptr, kde.X, kde.Y);
+    // The page's field stays; where nothing is typed it lies far outside.
+    const bool ano = !JePrazdny(kde);
+    const Bod roh = ano ? Bod{kde.Left, kde.Top} : BEZ_BODU;
+    stranka_psani(ano ? 1 : 0, static_cast<int>(umisteni_.X + roh.X * umisteni_.S),
+                  static_cast<int>(umisteni_.Y + roh.Y * umisteni_.S),
+                  static_cast<int>(kde.Height * umisteni_.S));
 }
 
 void WebHost::Rekni() {

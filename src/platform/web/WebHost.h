@@ -64,7 +64,6 @@ public:
     [[nodiscard]] DatumACas Nyni() override;
     [[nodiscard]] std::string SchrankaText() override { return schranka_; }
     void DoSchranky(const std::string& text) override { schranka_ = text; }
-    void PsaniTextu(bool ano, int x, int y) override;
 
 private:
     bool Prijmi() override;
@@ -85,7 +84,7 @@ private:
     std::deque<std::function<void()>> vstupy_;
     std::uint32_t pristeMs_ = 0;
     std::string schranka_, receno_;
-    std::optional<Bod> pise_;
+    std::optional<Obdelnik> pise_;
     Kurzor kurzor_ = Kurzor::Sipka;
 };
 
