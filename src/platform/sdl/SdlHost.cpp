@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <ctime>
 #include <iostream>
-#include <limits>
 #include <memory>
 #include <optional>
 #if !defined(_WIN32) && !defined(__APPLE__)
@@ -25,42 +24,12 @@
 #include "platform/Pisma.h"
 #include "platform/sdl/Okno.h"
 #include "platform/sdl/OknoX11.h"
+#include "platform/sdl/Vstup.h"
 #include "platform/sdl/Zvuk.h"
 
 namespace rysovna {
 
 namespace {
-
-constexpr int SHIFT = 1, CTRL = 2, ALT = 4;
-
-/// Keys that have a name for the screens, whatever is held with them.
-constexpr struct {
-    SDL_Keycode Kod;
-    const char* Jmeno;
-} KLAVESY[] = {
-    {SDLK_LEFT, "Left"},       {SDLK_RIGHT, "Right"},
-    {SDLK_UP, "Up"},           {SDLK_DOWN, "Down"},
-    {SDLK_HOME, "Home"},       {SDLK_END, "End"},
-    {SDLK_TAB, "Tab"},         {SDLK_BACKSPACE, "BackSpace"},
-    {SDLK_DELETE, "Delete"},   {SDLK_RETURN, "Return"},
-    {SDLK_KP_ENTER, "Return"}, {SDLK_ESCAPE, "Escape"},
-    {SDLK_SPACE, "Space"},     {SDLK_F1, "F1"},
-};
-
-/// Digits by their place on the keyboard: the row above the letters types other signs in Czech.
-/// The first of each row of nine.
-constexpr SDL_Scancode CISLICE[] = {SDL_SCANCODE_1, SDL_SCANCODE_KP_1};
-constexpr int CISLIC = 9;
-
-/// Name of a key of one character, empty of any other.
-std::string ZnakKlavesy(const SDL_Keysym& k) {
-    for (const SDL_Scancode prvni : CISLICE) {
-        if (k.scancode >= prvni && k.scancode < prvni + CISLIC)
-            return {static_cast<char>('1' + (k.scancode - prvni))};
-    }
-    if (k.sym >= SDLK_a && k.sym <= SDLK_z) return {static_cast<char>(k.sym)};
-    return {};
-}
 
 /// The system's pointers, by Kurzor.
 constexpr SDL_SystemCursor KURZORY[] = {SDL_SYSTEM_CURSOR_ARROW, SDL_SYSTEM_CURSOR_HAND,
@@ -69,42 +38,6 @@ constexpr SDL_SystemCursor KURZORY[] = {SDL_SYSTEM_CURSOR_ARROW, SDL_SYSTEM_CURS
 struct UvolniKurzor {
     void operator()(SDL_Cursor* k) const { SDL_FreeCursor(k); }
 };
-
-/// Key and modifiers of a command, as the letter with ctrl that means the same.
-constexpr struct {
-    SDL_Keycode Kod;
-    int Drzeno;
-    const char* Jmeno;
-} POVELY[] = {
-    {SDLK_a, CTRL, "a"},       {SDLK_c, CTRL, "c"},       {SDLK_v, CTRL, "v"},
-    {SDLK_x, CTRL, "x"},       {SDLK_p, CTRL, "p"},       {SDLK_INSERT, CTRL, "c"},
-    {SDLK_INSERT, SHIFT, "v"}, {SDLK_DELETE, SHIFT, "x"},
-};
-
-/// Buttons by SDL's number and as the screens count them.
-constexpr struct {
-    int Sdl, Nase;
-} TLACITKA[] = {{SDL_BUTTON_LEFT, 1}, {SDL_BUTTON_RIGHT, 2}, {SDL_BUTTON_MIDDLE, 4}};
-
-int Tlacitko(int sdl) {
-    for (const auto& t : TLACITKA) {
-        if (t.Sdl == sdl) return t.Nase;
-    }
-    return 0;
-}
-
-int Drzena(Uint32 stav) {
-    int drzena = 0;
-    for (const auto& t : TLACITKA) {
-        if ((stav & static_cast<Uint32>(SDL_BUTTON(t.Sdl))) != 0) drzena |= t.Nase;
-    }
-    return drzena;
-}
-
-int Modifikatory(int mod) {
-    return ((mod & KMOD_SHIFT) != 0 ? SHIFT : 0) | ((mod & KMOD_CTRL) != 0 ? CTRL : 0) |
-           ((mod & KMOD_ALT) != 0 ? ALT : 0);
-}
 
 std::string Promenna(const char* jmeno) {
     const char* hodnota = std::getenv(jmeno);
@@ -210,27 +143,16 @@ struct SdlHost::Vnitrek {
     std::optional<Obdelnik> Pise;
     std::array<std::unique_ptr<SDL_Cursor, UvolniKurzor>, std::size(KURZORY)> Kurzory;
     Kurzor Ukazany = Kurzor::Sipka;
-    std::optional<SDL_FingerID> Prst;  ///< the one that plays
-    bool MelZamereni = false;
+    VstupSdl Vstup_{Host_.Okna(), Okno_};
     std::uint32_t PosledniVstup = 0;  ///< tick count
     bool PametVracena = false;        ///< since the last input
-    /// Up to when all that came has been seen, tick count.
-    std::uint32_t Videno = 0;
     bool Prepnuto = false;  ///< the program has switched the mode: what follows restores it
 
     /// Handles what is pending. True if there was something.
     bool Zpracuj();
-    void Zpracuj(const SDL_Event& e);
-    /// Waits at most so long for something to come.
-    void Cekej(std::uint32_t nejvyseMs);
     /// Before a wait: when nothing has come for a while, the system gets free memory back, once.
     /// Gives how long to wait, so as to come again for it.
     std::uint32_t VratPamet(std::uint32_t cekat);
-    void Klavesa(const SDL_KeyboardEvent& k);
-    void Stisk(const SDL_MouseButtonEvent& b);
-    void Pohyb(const SDL_MouseMotionEvent& m);
-    void Okenni(const SDL_WindowEvent& w);
-    void Dotyk(const SDL_TouchFingerEvent& d);
     void SrovnejPsani();
     void SrovnejKurzor();
 };
@@ -284,7 +206,7 @@ void SdlHost::Ukaz() {
 void SdlHost::Vyckej(std::uint32_t nejvyseMs) {
     const std::uint32_t cekat =
         std::min(nejvyseMs, Okna().DoBliknuti(TickCount()).value_or(nejvyseMs));
-    vnitrek_->Cekej(vnitrek_->VratPamet(cekat));
+    vnitrek_->Vstup_.Cekej(vnitrek_->VratPamet(cekat));
 }
 
 void SdlHost::Prekresli() {
@@ -396,14 +318,13 @@ void SdlHost::Vnitrek::SrovnejPsani() {
     SDL_StartTextInput();
 }
 
-void SdlHost::Vnitrek::Cekej(std::uint32_t nejvyseMs) {
-    const std::uint32_t zacatek = SDL_GetTicks();
-    // Less than nothing is for ever.
-    constexpr std::uint32_t NEJDELE = std::numeric_limits<int>::max();
-    SDL_WaitEventTimeout(nullptr, nejvyseMs > NEJDELE ? -1 : static_cast<int>(nejvyseMs));
-    const std::uint32_t ted = SDL_GetTicks();
-    // What ends the wait at once may have been there before it.
-    if (ted != zacatek) Videno = ted;
+bool SdlHost::Vnitrek::Zpracuj() {
+    const bool neco = Vstup_.Zpracuj();
+    if (neco) {
+        PosledniVstup = Vstup_.Videno();
+        PametVracena = false;
+    }
+    return neco;
 }
 
 std::uint32_t SdlHost::Vnitrek::VratPamet(std::uint32_t cekat) {
@@ -418,146 +339,6 @@ std::uint32_t SdlHost::Vnitrek::VratPamet(std::uint32_t cekat) {
     return cekat;
 }
 
-bool SdlHost::Vnitrek::Zpracuj() {
-    SDL_Event e;
-    bool neco = false;
-    while (SDL_PollEvent(&e) != 0) {
-        neco = true;
-        if (e.type == SDL_MOUSEMOTION) {
-            // Of a row of moves the last one is enough.
-            SDL_Event dalsi;
-            if (SDL_PeepEvents(&dalsi, 1, SDL_PEEKEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT) > 0 &&
-                dalsi.type == SDL_MOUSEMOTION && dalsi.motion.state == e.motion.state)
-                continue;
-        }
-        Zpracuj(e);
-    }
-    Videno = SDL_GetTicks();
-    if (neco) {
-        PosledniVstup = Videno;
-        PametVracena = false;
-    }
-    return neco;
-}
-
-void SdlHost::Vnitrek::Zpracuj(const SDL_Event& e) {
-    switch (e.type) {
-        case SDL_QUIT:
-            Host_.Okna().ZadostOZavreni();
-            break;
-        case SDL_KEYDOWN:
-        case SDL_KEYUP:
-            Klavesa(e.key);
-            break;
-        case SDL_TEXTINPUT:
-            Host_.Okna().Text(e.text.text);
-            break;
-        case SDL_MOUSEBUTTONDOWN:
-        case SDL_MOUSEBUTTONUP:
-            Stisk(e.button);
-            break;
-        case SDL_MOUSEMOTION:
-            Pohyb(e.motion);
-            break;
-        case SDL_FINGERDOWN:
-        case SDL_FINGERMOTION:
-        case SDL_FINGERUP:
-            Dotyk(e.tfinger);
-            break;
-        case SDL_WINDOWEVENT:
-            Okenni(e.window);
-            break;
-        default:
-            break;
-    }
-}
-
-void SdlHost::Vnitrek::Klavesa(const SDL_KeyboardEvent& k) {
-    const SDL_Keycode kod = k.keysym.sym;
-    const int drzeno = Modifikatory(k.keysym.mod);
-    const bool enter = kod == SDLK_RETURN || kod == SDLK_KP_ENTER;
-    if (kod == SDLK_F11 || (enter && drzeno == ALT)) {
-        if (k.type == SDL_KEYDOWN && k.repeat == 0) Okno_.PrepniCelouObrazovku();
-        return;
-    }
-    if (k.type == SDL_KEYUP) {
-        if (enter) Host_.Okna().KlavesaNahoru("Return");
-        if (kod == SDLK_SPACE) Host_.Okna().KlavesaNahoru("Space");
-        return;
-    }
-    // One press leads through one screen only. What edits a text is repeated, and arrows are.
-    const bool sipka = kod == SDLK_LEFT || kod == SDLK_RIGHT || kod == SDLK_UP || kod == SDLK_DOWN;
-    const bool tisk = kod == SDLK_p && drzeno == CTRL;
-    const bool psani = Host_.Okna().Psane() != nullptr && kod != SDLK_TAB && kod != SDLK_F1 &&
-                       kod != SDLK_ESCAPE && !enter && !tisk;
-    if (k.repeat != 0 && !sipka && !psani) return;
-    for (const auto& p : POVELY) {
-        if (p.Kod != kod || p.Drzeno != drzeno) continue;
-        Host_.Okna().Klavesa(p.Jmeno, CTRL);
-        return;
-    }
-    // With Alt they belong to the desktop.
-    if ((drzeno & ALT) != 0) return;
-    for (const auto& p : KLAVESY) {
-        if (p.Kod != kod) continue;
-        Host_.Okna().Klavesa(p.Jmeno, drzeno & (SHIFT | CTRL));
-        return;
-    }
-    const std::string znak = ZnakKlavesy(k.keysym);
-    if (!znak.empty() && drzeno <= SHIFT) Host_.Okna().Klavesa(znak, drzeno);
-}
-
-void SdlHost::Vnitrek::Stisk(const SDL_MouseButtonEvent& b) {
-    const int tlacitko = Tlacitko(b.button);
-    if (tlacitko == 0) return;
-    double x = 0;
-    double y = 0;
-    const bool uvnitr = Okno_.NaNavrh(b.x, b.y, x, y);
-    const int shift = Modifikatory(SDL_GetModState()) & (SHIFT | CTRL);
-    if (b.type == SDL_MOUSEBUTTONUP) {
-        Host_.Okna().MysNahoru(x, y, tlacitko, shift);
-    } else if (uvnitr) {
-        // The library dates an event by when it took it in. What came while the program was busy
-        // may be as old as the last look.
-        const bool driv = static_cast<std::int32_t>(b.timestamp - Videno) > 0;
-        Host_.Okna().MysDolu(x, y, tlacitko, shift, {driv ? Videno : b.timestamp, b.timestamp});
-    } else {
-        Host_.Okna().Navrat();
-    }
-}
-
-void SdlHost::Vnitrek::Pohyb(const SDL_MouseMotionEvent& m) {
-    double x = 0;
-    double y = 0;
-    Okno_.NaNavrh(m.x, m.y, x, y);
-    Host_.Okna().MysPohyb(x, y, Drzena(m.state), Modifikatory(SDL_GetModState()) & (SHIFT | CTRL));
-}
-
-void SdlHost::Vnitrek::Dotyk(const SDL_TouchFingerEvent& d) {
-    const SDL_TouchDeviceType druh = SDL_GetTouchDeviceType(d.touchId);
-    if (druh == SDL_TOUCH_DEVICE_INDIRECT_ABSOLUTE || druh == SDL_TOUCH_DEVICE_INDIRECT_RELATIVE)
-        return;  // a pad beside the screen, which moves the mouse
-    // The only one that is down is the one that plays: the lifting of an earlier one may get lost.
-    if (d.type == SDL_FINGERDOWN && (!Prst || SDL_GetNumTouchFingers(d.touchId) == 1))
-        Prst = d.fingerId;
-    if (Prst != d.fingerId) return;
-    double x = 0;
-    double y = 0;
-    const bool uvnitr =
-        Okno_.NaNavrhDotyk(static_cast<double>(d.x), static_cast<double>(d.y), x, y);
-    if (d.type == SDL_FINGERDOWN) {
-        // Black beside the picture is nobody's.
-        if (uvnitr) return Host_.Okna().PrstDolu(x, y, d.timestamp);
-        Prst.reset();
-        Host_.Okna().Navrat();
-    } else if (d.type == SDL_FINGERMOTION) {
-        Host_.Okna().PrstPohyb(x, y, d.timestamp);
-    } else {
-        Prst.reset();
-        Host_.Okna().PrstNahoru(x, y, d.timestamp);
-    }
-}
-
 /// The pointer looks like what it is over. What the system has no picture of leaves it as it is.
 void SdlHost::Vnitrek::SrovnejKurzor() {
     const Kurzor chce = Host_.Okna().KurzorMysi();
@@ -566,23 +347,6 @@ void SdlHost::Vnitrek::SrovnejKurzor() {
     const auto i = static_cast<std::size_t>(chce);
     if (Kurzory[i] == nullptr) Kurzory[i].reset(SDL_CreateSystemCursor(KURZORY[i]));
     if (Kurzory[i] != nullptr) SDL_SetCursor(Kurzory[i].get());
-}
-
-void SdlHost::Vnitrek::Okenni(const SDL_WindowEvent& w) {
-    switch (w.event) {
-        case SDL_WINDOWEVENT_EXPOSED:
-            Okno_.Odkryto();
-            break;
-        case SDL_WINDOWEVENT_SIZE_CHANGED:
-            Okno_.Rozmer();
-            break;
-        case SDL_WINDOWEVENT_FOCUS_GAINED:
-            if (MelZamereni) Host_.Okna().Navrat();
-            MelZamereni = true;
-            break;
-        default:
-            break;
-    }
 }
 
 }  // namespace rysovna
