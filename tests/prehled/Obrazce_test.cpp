@@ -1,6 +1,8 @@
 // Figures of attempts: the same pixels as on the pupil's screen, so that labels lie where they lay,
 // and vectors that show these pixels.
 
+#include "prehled/Obrazce.h"
+
 #include <algorithm>
 #include <cairo.h>
 #include <cstdint>

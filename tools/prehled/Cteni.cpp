@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <exception>
 #include <utility>
-#include <zlib.h>
 
 #include "base/Chyba.h"
 #include "base/Disk.h"
 #include "base/Text.h"
 #include "engine/PametovaPlocha.h"
 #include "platform/Stroj.h"
+#include "prehled/BaleniObrazcu.h"
+#include "prehled/Obrazce.h"
 #include "rules/Chyby.h"
 #include "rules/KatalogChyb.h"
 #include "rules/Veliciny.h"
@@ -25,8 +26,6 @@ namespace fs = std::filesystem;
 
 /// No series of a pupil's comes near it, bytes.
 constexpr std::size_t NEJVIC_BAJTU = 4'000'000;
-/// Nor do its figures come near this.
-constexpr std::size_t NEJVIC_OBRAZCU = 20'000'000;
 /// Within so many bytes the name stands.
 constexpr std::size_t HLAVICKA = 4096;
 
@@ -146,21 +145,6 @@ PrectenaSerie SerieZPokusu(const Pokus& pokus, std::string soubor) {
     return {.Co = std::move(serie), .Rozchod = std::move(obrazce.Rozchod)};
 }
 
-/// Calls with each figure of a series, in one order.
-template <class S, class F>
-void ProObrazce(S& serie, F coSNim) {
-    for (auto& p : serie.Priklady) coSNim(p.Obrazec);
-    for (auto& c : serie.Chyby) coSNim(c.Obrazec);
-}
-
-constexpr char ODDELOVAC = '\0';
-
-std::size_t DelkaObrazcu(const Serie& serie) {
-    std::size_t delka = 0;
-    ProObrazce(serie, [&delka](const std::string& o) { delka += o.size() + sizeof ODDELOVAC; });
-    return delka;
-}
-
 }  // namespace
 
 std::string BezBodu(std::string_view veta) {
@@ -207,39 +191,6 @@ PrectenaSerie PrectiSerii(const fs::path& soubor) {
     } catch (const std::exception& vyjimka) {
         return {.Vada = std::string("Pokus nejde přehrát: ") + vyjimka.what() + "."};
     }
-}
-
-std::string ZabalObrazce(const Serie& serie) {
-    std::string vse;
-    ProObrazce(serie, [&vse](const std::string& o) { vse += o + ODDELOVAC; });
-    std::string zabalene(compressBound(static_cast<uLong>(vse.size())), '\0');
-    auto delka = static_cast<uLongf>(zabalene.size());
-    compress2(reinterpret_cast<Bytef*>(zabalene.data()), &delka,
-              reinterpret_cast<const Bytef*>(vse.data()), static_cast<uLong>(vse.size()),
-              Z_DEFAULT_COMPRESSION);
-    zabalene.resize(delka);
-    // How long it is when unpacked, in front.
-    return std::to_string(vse.size()) + " " + zabalene;
-}
-
-bool RozbalObrazce(std::string_view zabalene, Serie& serie) {
-    const std::size_t mezera = std::min(zabalene.find(' '), zabalene.size());
-    const auto delka = CeleCislo<std::size_t>(zabalene.substr(0, mezera));
-    zabalene.remove_prefix(std::min(mezera + 1, zabalene.size()));
-    if (!delka || *delka > NEJVIC_OBRAZCU) return false;
-    std::string vse(*delka, '\0');
-    auto vyslo = static_cast<uLongf>(vse.size());
-    if (uncompress(reinterpret_cast<Bytef*>(vse.data()), &vyslo,
-                   reinterpret_cast<const Bytef*>(zabalene.data()),
-                   static_cast<uLong>(zabalene.size())) != Z_OK)
-        return false;
-    std::string_view zbyva = vse;
-    ProObrazce(serie, [&zbyva](std::string& o) {
-        const std::size_t konec = std::min(zbyva.find(ODDELOVAC), zbyva.size());
-        o = zbyva.substr(0, konec);
-        zbyva.remove_prefix(std::min(konec + 1, zbyva.size()));
-    });
-    return true;
 }
 
 }  // namespace rysovna::prehled

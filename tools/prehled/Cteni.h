@@ -25,8 +25,4 @@ struct PrectenaSerie {
 /// A sentence of a wrong step without the points that the boards put behind it: "  -3 body".
 [[nodiscard]] std::string BezBodu(std::string_view veta);
 
-/// All figures of a series in few bytes, and back into the same series. False: they are damaged.
-[[nodiscard]] std::string ZabalObrazce(const Serie& serie);
-[[nodiscard]] bool RozbalObrazce(std::string_view zabalene, Serie& serie);
-
 }  // namespace rysovna::prehled

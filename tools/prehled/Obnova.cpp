@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "base/Disk.h"
+#include "prehled/BaleniObrazcu.h"
 #include "prehled/Cteni.h"
 
 namespace rysovna::prehled {

@@ -1,6 +1,7 @@
 // The figures of an attempt: it is played again on planes that write what is drawn.
 
-#include <string>
+#include "prehled/Obrazce.h"
+
 #include <utility>
 
 #include "base/Cisla.h"

@@ -1,12 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <iosfwd>
 #include <string>
 #include <vector>
 
 #include "base/DatumACas.h"
-#include "rules/Pokus.h"
 
 namespace rysovna::prehled {
 
@@ -61,19 +59,5 @@ struct Prehled {
     std::vector<std::string> Nevadne{};  ///< files that could not be read: one sentence each
     std::string Od{}, Do{}, Trida{};     ///< what was asked for; may be empty
 };
-
-/// Figures of an attempt that was played again, each the contents of an <svg>.
-struct Obrazce {
-    std::vector<std::string> Priklady{};            ///< of each example at its end
-    std::vector<std::vector<std::string>> Chyby{};  ///< by example, in the order of its charges
-    std::string Rozchod{};                          ///< where it came apart, in Czech; mostly empty
-};
-
-/// Plays an attempt again and draws it. Figures past the place where it came apart are empty or
-/// missing. May be called by several threads at once.
-[[nodiscard]] Obrazce NakresliPokus(const Pokus& pokus);
-
-/// Writes the page.
-void ZapisStranku(std::ostream& kam, const Prehled& prehled);
 
 }  // namespace rysovna::prehled

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "base/Chyba.h"
-#include "prehled/Cteni.h"
+#include "prehled/BaleniObrazcu.h"
 #include "prehled/Verze.h"
 
 namespace rysovna::prehled {

@@ -1,6 +1,8 @@
 // The page: records and figures as text between the two halves of a template. What is written is
 // let go at once, so that a page of many series takes no more memory than the series do.
 
+#include "prehled/Stranka.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <kainjow/mustache.hpp>
@@ -14,7 +16,6 @@
 #include <utility>
 
 #include "base/Cisla.h"
-#include "prehled/Prehled.h"
 #include "prehled/Vlozene.h"
 #include "rules/Ulohy.h"
 

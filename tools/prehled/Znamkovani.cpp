@@ -5,7 +5,7 @@
 
 #include "platform/Cesta.h"
 #include "platform/Stroj.h"
-#include "prehled/Verze.h"
+#include "prehled/DodaneZnamky.h"
 #include "rules/Kontrola.h"
 #include "store/Cesty.h"
 #include "store/JmenaSouboru.h"

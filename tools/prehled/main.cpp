@@ -14,6 +14,7 @@
 #include "prehled/Obnova.h"
 #include "prehled/Sestaveni.h"
 #include "prehled/Smazani.h"
+#include "prehled/Stranka.h"
 #include "prehled/Volby.h"
 #include "prehled/Zapis.h"
 

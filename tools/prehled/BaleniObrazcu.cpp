@@ -1,0 +1,62 @@
+#include "prehled/BaleniObrazcu.h"
+
+#include <algorithm>
+#include <zlib.h>
+
+#include "store/TextRadku.h"
+
+namespace rysovna::prehled {
+
+namespace {
+
+/// Calls with each figure of a series, in one order.
+template <class S, class F>
+void ProObrazce(S& serie, F coSNim) {
+    for (auto& p : serie.Priklady) coSNim(p.Obrazec);
+    for (auto& c : serie.Chyby) coSNim(c.Obrazec);
+}
+
+constexpr char ODDELOVAC = '\0';
+
+}  // namespace
+
+std::size_t DelkaObrazcu(const Serie& serie) {
+    std::size_t delka = 0;
+    ProObrazce(serie, [&delka](const std::string& o) { delka += o.size() + sizeof ODDELOVAC; });
+    return delka;
+}
+
+std::string ZabalObrazce(const Serie& serie) {
+    std::string vse;
+    ProObrazce(serie, [&vse](const std::string& o) { vse += o + ODDELOVAC; });
+    std::string zabalene(compressBound(static_cast<uLong>(vse.size())), '\0');
+    auto delka = static_cast<uLongf>(zabalene.size());
+    compress2(reinterpret_cast<Bytef*>(zabalene.data()), &delka,
+              reinterpret_cast<const Bytef*>(vse.data()), static_cast<uLong>(vse.size()),
+              Z_DEFAULT_COMPRESSION);
+    zabalene.resize(delka);
+    // How long it is when unpacked, in front.
+    return std::to_string(vse.size()) + " " + zabalene;
+}
+
+bool RozbalObrazce(std::string_view zabalene, Serie& serie) {
+    const std::size_t mezera = std::min(zabalene.find(' '), zabalene.size());
+    const auto delka = CeleCislo<std::size_t>(zabalene.substr(0, mezera));
+    zabalene.remove_prefix(std::min(mezera + 1, zabalene.size()));
+    if (!delka || *delka > NEJVIC_OBRAZCU) return false;
+    std::string vse(*delka, '\0');
+    auto vyslo = static_cast<uLongf>(vse.size());
+    if (uncompress(reinterpret_cast<Bytef*>(vse.data()), &vyslo,
+                   reinterpret_cast<const Bytef*>(zabalene.data()),
+                   static_cast<uLong>(zabalene.size())) != Z_OK)
+        return false;
+    std::string_view zbyva = vse;
+    ProObrazce(serie, [&zbyva](std::string& o) {
+        const std::size_t konec = std::min(zbyva.find(ODDELOVAC), zbyva.size());
+        o = zbyva.substr(0, konec);
+        zbyva.remove_prefix(std::min(konec + 1, zbyva.size()));
+    });
+    return true;
+}
+
+}  // namespace rysovna::prehled
