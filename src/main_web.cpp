@@ -15,8 +15,6 @@
 #include "screens/KontrolaPocitace.h"
 #include "screens/Sezeni.h"
 #include "screens/Start.h"
-#include "store/Cesty.h"
-#include "store/JmenaSouboru.h"
 #include "store/SlouceniVysledku.h"
 #include "store/TextPokusu.h"
 #include "store/UkladaniPokusu.h"
@@ -158,21 +156,14 @@ EMSCRIPTEN_KEEPALIVE double rys_prekresli_vse() {
 EMSCRIPTEN_KEEPALIVE int rys_pridej_vysledky(const char* jmeno, const char* data, int delka) {
     using namespace rysovna;
     if (Bezi()->Host_.Okna().JeZavreno()) return 1;
-    for (const std::string& nase : JmenaVysledku()) {
-        if (nase != jmeno) continue;
-        try {
-            const auto soubor = Bezi()->Host_.Disk().Otevri(
-                std::filesystem::path(SLOZKA_UCTU) / nase, Disk::Jak::Zapis);
-            const std::string nove = SlucVysledky(
-                nase, soubor->Cti(), std::string_view(data, static_cast<std::size_t>(delka)));
-            soubor->Zkrat(0);
-            soubor->Pis(0, nove);
-            return 0;
-        } catch (const ChybaDisku&) {
-            return 2;
-        }
+    try {
+        return PrevezmiVysledky(Bezi()->Host_.Disk(), SLOZKA_UCTU, jmeno,
+                                std::string_view(data, static_cast<std::size_t>(delka)))
+                   ? 0
+                   : 2;
+    } catch (const ChybaDisku&) {
+        return 2;
     }
-    return 2;
 }
 
 /// Adds an attempt of another machine under its name, a file's; the same as above.

@@ -1,5 +1,6 @@
 #include "store/SlouceniVysledku.h"
 
+#include <algorithm>
 #include <map>
 #include <vector>
 
@@ -55,6 +56,17 @@ std::string SlucVysledky(std::string_view jmeno, std::string_view zde, std::stri
         VlozZaznam(vse, RozdelTabulku(radek).front());
     });
     return SlozTabulku(vse);
+}
+
+bool PrevezmiVysledky(Disk& disk, const std::filesystem::path& slozka, std::string_view jmeno,
+                      std::string_view pridat) {
+    const std::vector<std::string> nase = JmenaVysledku();
+    if (std::find(nase.begin(), nase.end(), jmeno) == nase.end()) return false;
+    const auto soubor = disk.Otevri(slozka / CestaZTextu(jmeno), Disk::Jak::Zapis);
+    const std::string nove = SlucVysledky(jmeno, soubor->Cti(), pridat);
+    soubor->Zkrat(0);
+    soubor->Pis(0, nove);
+    return true;
 }
 
 }  // namespace rysovna

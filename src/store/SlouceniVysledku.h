@@ -1,7 +1,10 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
+
+#include "base/Disk.h"
 
 namespace rysovna {
 
@@ -11,5 +14,10 @@ namespace rysovna {
 /// jmeno: of the file, which tells the log from tables. All as it stands in files.
 [[nodiscard]] std::string SlucVysledky(std::string_view jmeno, std::string_view zde,
                                        std::string_view pridat);
+
+/// Adds a file of results of another machine to the one of its name in the folder. False: files of
+/// results have no such name. Throws ChybaDisku; waits for nothing and locks nothing.
+[[nodiscard]] bool PrevezmiVysledky(Disk& disk, const std::filesystem::path& slozka,
+                                    std::string_view jmeno, std::string_view pridat);
 
 }  // namespace rysovna
