@@ -34,7 +34,8 @@ constexpr double SVATOZAR = 1.4;
 void KresliSvatozar(const Vyhled& cil, double x, double y, double s, const Pismo& pismo,
                     std::string_view text, Pixel barva, int polomer);
 
-/// How many font files there are; a number below it names one.
+/// How many font files there are; a number below it names one: the sum of 1 for italic and 2 for
+/// bold, and behind these the one that fills in for them.
 constexpr unsigned POCET_REZU = 5;
 [[nodiscard]] std::string_view SouborRezu(unsigned rez);
 /// A glyph by its number in the font file, and where it begins.

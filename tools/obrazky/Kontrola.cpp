@@ -8,6 +8,7 @@
 #include "Kresleni.h"
 #include "Predlohy.h"
 #include "base/Chyba.h"
+#include "platform/ObrazekData.h"
 #include "platform/Tvary.h"
 
 namespace rysovna::obrazky {
@@ -24,8 +25,7 @@ std::string VadaObrazku(const std::filesystem::path& soubor, int w, int h) {
     try {
         const ObrazBmp obraz = NactiObrazBmp(soubor);
         if (obraz.Sirka != w || obraz.Vyska != h) return "má jiný rozměr";
-        auto beze = soubor;
-        const auto tvary = NactiTvary(beze.replace_extension(PRIPONA_TVARU));
+        const auto tvary = NactiTvary(SouborTvaru(soubor));
         if (!tvary) return "chybí tvary";
         if (tvary->Otisk != OtiskBodu(obraz)) return "tvary nejsou k tomuto obrázku";
         if (tvary->Sirka != w || tvary->Vyska != h) return "tvary mají jiný rozměr";
@@ -36,6 +36,18 @@ std::string VadaObrazku(const std::filesystem::path& soubor, int w, int h) {
 }
 
 }  // namespace
+
+void OverKlic(const ObrazBmp& rastr, const std::string& kde) {
+    // No colour of the drawings has red and blue both this far above green, but mixtures have.
+    constexpr int ODSTUP = 60;
+    for (const std::uint32_t b : rastr.Body) {
+        const int r = static_cast<int>(b >> 16 & 255);
+        const int g = static_cast<int>(b >> 8 & 255);
+        const int m = static_cast<int>(b & 255);
+        if (b != KLIC && r > g + ODSTUP && m > g + ODSTUP)
+            throw BehovaChyba("Okraj průhledné části není ostrý", kde);
+    }
+}
 
 void OverTvary(const Tvary& tvary, const ObrazBmp& velky, const std::string& kde) {
     Bitmapa b(velky.Sirka, velky.Vyska, 0);

@@ -109,23 +109,4 @@ std::string Nahraj(const std::string& svg, int sirka, int vyska, int zvetseni,
     return zaznam;
 }
 
-void OverKlic(const ObrazBmp& rastr, const std::string& kde) {
-    // No colour of the drawings has red and blue both this far above green, but mixtures have.
-    constexpr int ODSTUP = 60;
-    for (const std::uint32_t b : rastr.Body) {
-        const int r = static_cast<int>(b >> 16 & 255);
-        const int g = static_cast<int>(b >> 8 & 255);
-        const int m = static_cast<int>(b & 255);
-        if (b != KLICOVA_BARVA && r > g + ODSTUP && m > g + ODSTUP)
-            throw BehovaChyba("Okraj průhledné části není ostrý", kde);
-    }
-}
-
-void Uloz(const std::string& data, const std::filesystem::path& soubor) {
-    std::ofstream ven(soubor, std::ios::binary);
-    ven.write(data.data(), static_cast<std::streamsize>(data.size()));
-    ven.close();
-    if (!ven) throw BehovaChyba("Nelze zapsat", soubor.string());
-}
-
 }  // namespace rysovna::obrazky

@@ -9,9 +9,6 @@
 
 namespace rysovna::obrazky {
 
-/// Colour of see-through parts, 0xFFRRGGBB.
-constexpr std::uint32_t KLICOVA_BARVA = 0xFFFF00FF;
-
 /// Writes a font configuration that knows the given folder and nothing else, and makes this process
 /// use it. Call before the first rendering.
 void NastavPisma(const std::filesystem::path& fonty, const std::filesystem::path& pracovni);
@@ -29,11 +26,5 @@ constexpr double NATOCENI_NAHRAVKY = 0.3;
 /// enlarged.
 std::string Nahraj(const std::string& svg, int sirka, int vyska, int zvetseni,
                    const std::string& kde);
-
-/// A fault when a pixel is a mixture with the key colour, which would show as a fringe.
-void OverKlic(const ObrazBmp& rastr, const std::string& kde);
-
-/// The whole file anew; one that cannot be written is a fault.
-void Uloz(const std::string& data, const std::filesystem::path& soubor);
 
 }  // namespace rysovna::obrazky

@@ -11,24 +11,22 @@
 #include "Predlohy.h"
 #include "base/Chyba.h"
 #include "base/Text.h"
+#include "platform/Pisma.h"
 
 namespace rysovna::obrazky {
 
 namespace {
 
-/// Bits of a letter's style; the lowest two are also the index of its font.
-enum Rez : unsigned { OBYCEJNY = 0, TUCNY = 1, KURZIVA = 2, DOLNI_INDEX = 4 };
+/// Bits of a letter's style; the lowest two are also the number of its font file.
+enum Rez : unsigned { OBYCEJNY = 0, KURZIVA = 1, TUCNY = 2, DOLNI_INDEX = 4 };
 constexpr unsigned MASKA_PISMA = 3;
 
 /// A lower index is this much smaller and lower, in sizes of the letters around it.
 constexpr double VELIKOST_INDEXU = 0.72;
 constexpr double POKLES_INDEXU = 0.2;
 
-/// Regular, bold, italic, both, and the one that has the signs the others lack.
-constexpr std::array<const char*, 5> SOUBORY = {"RysovnaSans-Regular.ttf", "RysovnaSans-Bold.ttf",
-                                                "RysovnaSans-Italic.ttf",
-                                                "RysovnaSans-BoldItalic.ttf", "RysovnaZnaky.ttf"};
-constexpr std::size_t NAHRADNI = 4;
+/// The file that has the signs the others lack.
+constexpr std::size_t NAHRADNI = POCET_REZU - 1;
 
 struct Znak {
     char32_t Kod;
@@ -149,12 +147,12 @@ std::string Xml(char32_t z) {
 
 struct Sazba::Pisma {
     FT_Library Knihovna = nullptr;
-    std::array<FT_Face, SOUBORY.size()> Tvare{};
+    std::array<FT_Face, POCET_REZU> Tvare{};
 
     explicit Pisma(const std::filesystem::path& fonty) {
         if (FT_Init_FreeType(&Knihovna) != 0) Selhani("FreeType nelze spustit");
-        for (std::size_t i = 0; i < SOUBORY.size(); ++i) {
-            const auto soubor = fonty / SOUBORY[i];
+        for (unsigned i = 0; i < POCET_REZU; ++i) {
+            const auto soubor = fonty / SouborRezu(i);
             if (FT_New_Face(Knihovna, soubor.c_str(), 0, &Tvare[i]) != 0)
                 throw BehovaChyba("Nelze otevřít písmo", soubor.string());
         }

@@ -175,7 +175,7 @@ std::string SlozTvary(const Obrazek& obrazek, const std::vector<Ukon>& ukony, co
     for (const Ukon& u : ukony) {
         const bool kresli = u.Co == Ukon::Druh::Vypln || u.Co == Ukon::Druh::Tah;
         if (kresli && u.Cesta.empty()) continue;
-        if (kresli && obrazek.Klic && u.Barva == (KLICOVA_BARVA & 0xFFFFFFU)) {
+        if (kresli && obrazek.Klic && u.Barva == (KLIC & 0xFFFFFFU)) {
             if (zacato) throw BehovaChyba("Průhledná barva smí být jen vespod", obrazek.Soubor);
             continue;
         }

@@ -22,8 +22,8 @@
 #include "Sazba.h"
 #include "ZapisTvaru.h"
 #include "base/Chyba.h"
+#include "platform/ObrazekData.h"
 #include "platform/Pisma.h"
-#include "platform/Surface.h"
 #include "platform/Tvary.h"
 
 namespace rysovna::obrazky {
@@ -64,8 +64,12 @@ void UlozOtisky(const std::map<std::string, std::uint64_t>& otisky, const fs::pa
     if (!ven) throw BehovaChyba("Nelze zapsat", soubor.string());
 }
 
-fs::path SouborTvaru(fs::path soubor) {
-    return soubor.replace_extension(PRIPONA_TVARU);
+/// The whole file anew; one that cannot be written is a fault.
+void Uloz(const std::string& data, const std::filesystem::path& soubor) {
+    std::ofstream ven(soubor, std::ios::binary);
+    ven.write(data.data(), static_cast<std::streamsize>(data.size()));
+    ven.close();
+    if (!ven) throw BehovaChyba("Nelze zapsat", soubor.string());
 }
 
 /// What all pictures are made with. Fonts are read by one thread at a time.
