@@ -16,6 +16,7 @@
 #include "store/JmenaSouboru.h"
 #include "store/Soubory.h"
 #include "store/TextPokusu.h"
+#include "store/UkladaniPokusu.h"
 
 namespace rysovna {
 namespace {
@@ -28,6 +29,8 @@ constexpr const char* NELZE_PREPNOUT =
     "Aplikace proto nepoběží přes celou obrazovku.";
 constexpr const char* NELZE_OBNOVIT =
     "Nastala chyba při obnovení původního nastavení obrazovky. Změňte nastavení manuálně.";
+
+constexpr const char* SLOZKA_PREDVEDENI = "Predvedeni";  // among the assets
 
 void VypisChybejici(const std::string& co) {
     std::fprintf(stderr, "Rysovna: %s\n", co.c_str());
@@ -145,7 +148,8 @@ std::string ZacniPrehravani(Sezeni& s, const std::filesystem::path& soubor) {
 
 std::string ZacniPredvedeni(Sezeni& s, int uloha, std::uint32_t seminko) {
     const auto soubor = [&] {
-        return NativniCesta(s.CestaCD + "Predvedeni\\" + DveCislice(uloha) + ".pokus");
+        return NativniCesta(s.CestaCD + SLOZKA_PREDVEDENI + "\\" + DveCislice(uloha) +
+                            std::string(UkladaniPokusu::PRIPONA));
     };
     return ZacniUkazovat(s, soubor, Tempo::Vyklad, [seminko](Pokus& p) {
         auto& priklady = p.Priklady;

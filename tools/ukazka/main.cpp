@@ -1,29 +1,24 @@
 // Plays examples without a display, through the same events as a person's, and leaves a picture of
 // each stage. Prints the lines that the log got. Or draws the board with the names of its controls,
-// or an attempt as it is watched; or makes an attempt of a series without a fault, or those of all
-// tasks that the game shows to a class.
+// or an attempt as it is watched.
 
 #include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "base/Cisla.h"
 #include "hrac/RukaNaDesce.h"
-#include "hrac/Serie.h"
 #include "rules/Misc.h"
-#include "rules/Ulohy.h"
 #include "screens/Desky.h"
 #include "store/JmenaSouboru.h"
 #include "store/Kodovani.h"
-#include "store/TextRadku.h"
-#include "store/UkladaniPokusu.h"
 #include "ukazka/Ovladace.h"
 #include "ukazka/Prehrani.h"
+#include "zak/Sestroj.h"
 
 namespace {
 
@@ -85,42 +80,6 @@ void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy, Re
     std::cout << Z1250(hra.CtiSoubor(JMENO_DENIKU), JMENO_DENIKU);
 }
 
-/// The number of a task; nothing if it is none.
-std::optional<int> CisloUlohy(const std::string& text) {
-    const auto cislo = CeleCislo<int>(text);
-    return cislo && NajdiUlohu(*cislo) != nullptr ? cislo : std::nullopt;
-}
-
-/// Copies the attempt that the game has kept to a new file.
-void ZkopirujPokus(const Relace& hra, const std::filesystem::path& kam) {
-    const std::filesystem::path slozka = hra.DataDir() / UkladaniPokusu::SLOZKA;
-    for (const auto& soubor : std::filesystem::directory_iterator(slozka))
-        std::filesystem::copy_file(soubor.path(), kam);
-}
-
-/// A series of a task without a fault.
-void UlozPokus(int uloha, const std::filesystem::path& kam) {
-    constexpr int PRIKLADU = 2;
-    Relace hra(SEMINKO);
-    hra.Start();
-    OdehrajSerii(hra, uloha, JMENO, PRIKLADU, SEMINKO);
-    ZkopirujPokus(hra, kam);
-}
-
-/// What the game shows to a class: of each task a series, by a hand that does nothing in vain.
-void UlozPredvedeni(const std::filesystem::path& slozka) {
-    constexpr int PRIKLADU = 5;
-    std::filesystem::create_directories(slozka);
-    for (const Uloha& uloha : ULOHY) {
-        Relace hra(SEMINKO);
-        hra.Start();
-        OdehrajSerii(hra, RukaNaDesce(hra), uloha.Cislo, "Předvedení", PRIKLADU, SEMINKO);
-        const std::filesystem::path kam = slozka / (DveCislice(uloha.Cislo) + ".pokus");
-        std::filesystem::remove(kam);
-        ZkopirujPokus(hra, kam);
-    }
-}
-
 }  // namespace
 
 int main(int pocet, char** slova) {
@@ -135,15 +94,10 @@ int main(int pocet, char** slova) {
     }
     const bool ovladace = !argumenty.empty() && argumenty[0] == "--ovladace";
     const bool prehrani = !argumenty.empty() && argumenty[0] == "--prehrani";
-    const bool predvedeni = !argumenty.empty() && argumenty[0] == "--predvedeni";
-    const bool pokus = !argumenty.empty() && argumenty[0] == "--pokus";
-    if (argumenty.empty() || ((ovladace || prehrani || predvedeni) && argumenty.size() != 2) ||
-        (pokus && (argumenty.size() != 3 || !CisloUlohy(argumenty[1])))) {
+    if (argumenty.empty() || ((ovladace || prehrani) && argumenty.size() != 2)) {
         std::cerr << "Použití: ukazka [--klavesami | --prstem] SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
                      "         ukazka --ovladace OBRÁZEK.png\n"
                      "         ukazka --prehrani OBRÁZEK.png\n"
-                     "         ukazka --pokus ČÍSLO_ÚLOHY NOVÝ_SOUBOR\n"
-                     "         ukazka --predvedeni SLOŽKA\n"
                      "Bez čísel se hraje první úloha.\n";
         return 2;
     }
@@ -155,14 +109,6 @@ int main(int pocet, char** slova) {
         }
         if (prehrani) {
             VyfotPrehrani(argumenty[1]);
-            return 0;
-        }
-        if (predvedeni) {
-            UlozPredvedeni(argumenty[1]);
-            return 0;
-        }
-        if (pokus) {
-            UlozPokus(*CisloUlohy(argumenty[1]), argumenty[2]);
             return 0;
         }
         std::vector<int> ulohy;
