@@ -4,18 +4,13 @@
 
 import { poprve, Uloziste } from "./uloziste.js";
 import { poslouchej } from "./vstup.js";
+import { POKUSY, UCET, Vysledky } from "./vysledky.js";
 import { zabalZip } from "./zip.js";
 import { neniZvuk, zahraj } from "./zvuk.js";
 
-const UCET = "/ucet", STAV = "/stav", HRA = "/hra";
-const POKUSY = `${UCET}/Pokusy`;
+const STAV = "/stav", HRA = "/hra";
 const ZAMEK = "rysovna-hraje";
 const NEJDELE_ODCHAZI = 1500; // ms: that the page before in the same tab may keep the lock
-const FORMAT = "rysovna-vysledky"; // of a file of results, and its version
-const VERZE = 1;
-const JMENO_VYSLEDKU = /^(\d\d\.res|Vysledky\.dat)$/;
-const JMENO_POKUSU = /^[\w-][\w.-]*\.pokus$/;
-const UKLADA_SE = "Hra právě ukládá výsledek. Zkuste to za chvíli.";
 
 const $ = (jmeno) => document.getElementById(jmeno);
 const volby = new URLSearchParams(location.search);
@@ -160,6 +155,7 @@ class Stranka {
   platno = $("platno");
   kresba = $("platno").getContext("2d", { alpha: false });
   uloziste = new Uloziste();
+  vysledky = new Vysledky(this);
   obraz = null;
   casovac = 0;
   snimek = 0;
@@ -293,98 +289,6 @@ class Stranka {
     new ResizeObserver(() => this.prizpusob()).observe($("hriste"));
     this.tah();
   }
-
-  /* ---- Results to a file and back */
-
-  // Files of a folder whose names fit, as [name, bytes].
-  soubory(slozka, jaka) {
-    const { FS } = this.modul;
-    return FS.readdir(slozka).filter((jmeno) => jaka.test(jmeno))
-      .map((jmeno) => [jmeno, FS.readFile(`${slozka}/${jmeno}`)]);
-  }
-  pokusy() {
-    return this.soubory(POKUSY, JMENO_POKUSU);
-  }
-
-  vysledky() {
-    const doTextu = (soubory) => Object.fromEntries(soubory.map(([jmeno, bajty]) =>
-      [jmeno, btoa(Array.from(bajty, (b) => String.fromCharCode(b)).join(""))]));
-    return JSON.stringify({ format: FORMAT, verze: VERZE,
-      soubory: doTextu(this.soubory(UCET, JMENO_VYSLEDKU)), pokusy: doTextu(this.pokusy()) });
-  }
-
-  // Hands a file to the program. 0, 1 or 2 as src/main_web.cpp tells.
-  pridej(volani, jmeno, bajty) {
-    const m = this.modul;
-    const kde = m._malloc(Math.max(bajty.length, 1));
-    m.HEAPU8.set(bajty, kde);
-    const stav = this.sTextem(jmeno, (t) => volani(t, kde, bajty.length));
-    m._free(kde);
-    return stav;
-  }
-
-  // Waits until all is kept; why it is not, or an empty text.
-  async uchovano() {
-    for (;;) {
-      const proc = this.text(this.modul._rys_uchovano());
-      if (proc !== "?") return proc;
-      await new Promise((pak) => setTimeout(pak, 20));
-    }
-  }
-
-  async pridejVysledky(text) {
-    let soubory, pokusy;
-    try {
-      const obsah = JSON.parse(text);
-      if (obsah.format !== FORMAT || obsah.verze !== VERZE) throw new Error();
-      const zTextu = (co, jaka) => Object.entries(co).map(([jmeno, data]) => {
-        if (!jaka.test(jmeno)) throw new Error();
-        return [jmeno, Uint8Array.from(atob(data), (z) => z.charCodeAt(0))];
-      });
-      soubory = zTextu(obsah.soubory, JMENO_VYSLEDKU);
-      pokusy = zTextu(obsah.pokusy ?? {}, JMENO_POKUSU);
-    } catch {
-      return "Toto není soubor s výsledky hry. Nic se nezměnilo.";
-    }
-    const m = this.modul;
-    for (const [jmeno, bajty] of soubory) {
-      const stav = this.pridej(m._rys_pridej_vysledky, jmeno, bajty);
-      if (stav === 1) return UKLADA_SE;
-      if (stav === 2) return "Toto není soubor s výsledky hry. Výsledky ze souboru se nenačetly.";
-    }
-    const vadnych = pokusy.filter(([jmeno, bajty]) =>
-      this.pridej(m._rys_pridej_pokus, jmeno, bajty) !== 0).length;
-    const proc = await this.uchovano();
-    if (proc) return `Výsledky se nepodařilo uložit: ${proc}. Zůstalo, co tu bylo.`;
-    return "Výsledky ze souboru jsou přidány k těm, které tu byly." +
-      (vadnych > 0 ? ` Záznamů pokusů, které nejdou přečíst: ${vadnych}.` : "");
-  }
-
-  // Files of attempts, as [name, bytes]. What is to be told, and the name of one to be watched.
-  async pridejPokusy(soubory) {
-    let prvni = "", pridano = 0;
-    const vadne = [];
-    for (const [jmeno, bajty] of soubory) {
-      // What a browser or a person put behind a name that was taken already.
-      const nase = jmeno.replace(/ ?\(\d+\)(?=\.pokus$)/, "").replace(/^\.|[^\w.-]/g, "_");
-      const stav = this.pridej(this.modul._rys_pridej_pokus, nase, bajty);
-      if (stav === 1) return [UKLADA_SE, ""];
-      if (stav === 2) {
-        vadne.push(jmeno);
-        continue;
-      }
-      ++pridano;
-      prvni = nase;
-    }
-    const proc = await this.uchovano();
-    if (proc) return [`Záznam pokusu se nepodařilo uložit: ${proc}.`, ""];
-    const vady = vadne.length === 0 ? "" : vadne.length === 1
-      ? `${vadne[0]} není celý záznam pokusu.`
-      : `Souborů, které nejsou celé záznamy pokusů: ${vadne.length} (první je ${vadne[0]}).`;
-    const pridane = pridano === 0 ? "" : pridano === 1 ? "Záznam pokusu je přidán."
-      : `Záznamy pokusů jsou přidány: ${pridano}.`;
-    return [[pridane, vady].filter(Boolean).join(" "), pridano === 1 ? prvni : ""];
-  }
 }
 
 // Gives the person a file, among the downloaded ones.
@@ -411,11 +315,12 @@ function ozivListu(stranka) {
     return `rysovna-${co}-${den}.${pripona}`;
   };
   $("uloz").onclick = () => {
-    podej(soubor("vysledky", "json"), new Blob([stranka.vysledky()], { type: "application/json" }));
+    podej(soubor("vysledky", "json"),
+      new Blob([stranka.vysledky.doSouboru()], { type: "application/json" }));
     oznam("Výsledky i záznamy pokusů jsou ve stažených souborech.");
   };
   $("uloz-pokusy").onclick = () => {
-    const pokusy = stranka.pokusy();
+    const pokusy = stranka.vysledky.pokusy();
     if (pokusy.length > 0) podej(soubor("pokusy", "zip"), zabalZip(pokusy, new Date()));
     oznam(pokusy.length > 0 ? "Záznamy pokusů jsou ve stažených souborech."
       : "Žádné záznamy pokusů tu zatím nejsou.");
@@ -431,10 +336,10 @@ function ozivListu(stranka) {
     }
     $("soubor").value = "";
     const hlaseni = [];
-    for (const text of texty) hlaseni.push(await stranka.pridejVysledky(text));
+    for (const text of texty) hlaseni.push(await stranka.vysledky.pridej(text));
     let prehrat = "";
     if (pokusy.length > 0) {
-      const [text, jmeno] = await stranka.pridejPokusy(pokusy);
+      const [text, jmeno] = await stranka.vysledky.pridejPokusy(pokusy);
       hlaseni.push(text);
       prehrat = jmeno;
     }

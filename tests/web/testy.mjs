@@ -32,11 +32,11 @@ const SEMINKO = 7; // of the players of ukazka
 
 const kodovani = new TextDecoder("windows-1250");
 async function vysledky(k) {
-  const { soubory } = JSON.parse(await k.hodnota("rysovna.vysledky()"));
+  const { soubory } = JSON.parse(await k.hodnota("rysovna.vysledky.doSouboru()"));
   return (jmeno) => kodovani.decode(Buffer.from(soubory[jmeno], "base64"));
 }
 // Attempts that the page keeps, as [name, text].
-const pokusy = (k) => k.hodnota("rysovna.pokusy().map(([jmeno, bajty]) => " +
+const pokusy = (k) => k.hodnota("rysovna.vysledky.pokusy().map(([jmeno, bajty]) => " +
   "[jmeno, new TextDecoder().decode(bajty)])");
 const plnych = (denik) => (denik.match(/Klad\. body: 10 +Záp\. body: 0 /g) ?? []).length;
 const textStranky = (k) => k.hodnota("document.getElementById('zprava').innerText");
@@ -253,7 +253,7 @@ const TESTY = {
     const zapis = (jmeno) => `Jméno: ${jmeno}\r\n${"=".repeat(75)}\r\n`;
     const soubor = (res, dat) => JSON.stringify({ format: "rysovna-vysledky", verze: 1,
       soubory: { "01.res": btoa(res), [DENIK]: Buffer.from(dat, "latin1").toString("base64") } });
-    const pridej = (text) => k.hodnota(`rysovna.pridejVysledky(${JSON.stringify(text)})`);
+    const pridej = (text) => k.hodnota(`rysovna.vysledky.pridej(${JSON.stringify(text)})`);
     const prvni = soubor(radek("Jan", 1) + radek("Jan", 1), zapis("Jan") + zapis("Jan"));
     const druhy = soubor(radek("Eva", 2) + radek("Jan", 1), zapis("Eva") + zapis("Jan"));
     for (const text of [prvni, druhy, prvni, druhy]) {
@@ -265,12 +265,12 @@ const TESTY = {
     over(nase("01.res") === radek("Jan", 1).repeat(2) + radek("Eva", 2), nase("01.res"));
     over(nase(DENIK).match(/Jan/g).length === 2 && nase(DENIK).match(/Eva/g).length === 1,
       nase(DENIK));
-    const drive = await k.hodnota("rysovna.vysledky()");
+    const drive = await k.hodnota("rysovna.vysledky.doSouboru()");
     for (const text of ["", "nic", "{}", prvni.replace("01.res", "../hra/x"),
       prvni.replace("01.res", "77.res"), prvni.replace('"verze":1', '"verze":2')]) {
       over(/není soubor s výsledky/.test(await pridej(text)), `odmítnutí: ${text}`);
     }
-    over((await k.hodnota("rysovna.vysledky()")) === drive, "odmítnutý soubor něco změnil");
+    over((await k.hodnota("rysovna.vysledky.doSouboru()")) === drive, "odmítnutý soubor něco změnil");
   }),
 
   // An attempt: kept by one browser, packed, taken to another one and watched there. The school's own
@@ -298,7 +298,7 @@ const TESTY = {
         `pokusy: ${JSON.stringify(prvni)}`);
       await k.dokud("Object.keys(localStorage).every((x) => !x.endsWith('.pokus'))", "fronta je prázdná");
       sbalene = await k.hodnota("import('./zip.js').then(({ zabalZip }) => zabalZip([" +
-        "...rysovna.pokusy(), ['x.pokus', new Uint8Array()]], new Date(2026, 10, 22)).arrayBuffer())" +
+        "...rysovna.vysledky.pokusy(), ['x.pokus', new Uint8Array()]], new Date(2026, 10, 22)).arrayBuffer())" +
         ".then((b) => btoa(String.fromCharCode(...new Uint8Array(b))))");
       ini = `${doma}Pokusy=ne\n`;
       await k.otevri(`${adresa}?seminko=${SEMINKO}`);
@@ -314,7 +314,7 @@ const TESTY = {
       ini = null;
       const k = await p.karta(adresa, (x) => x.velikost(1280, 996));
       await k.naHre();
-      const pridej = (...soubory) => k.hodnota(`rysovna.pridejPokusy(${JSON.stringify(soubory)}` +
+      const pridej = (...soubory) => k.hodnota(`rysovna.vysledky.pridejPokusy(${JSON.stringify(soubory)}` +
         ".map(([jmeno, text]) => [jmeno, new TextEncoder().encode(text)]))");
       const [jmeno, text] = prvni[0];
       for (const jak of [jmeno, jmeno.replace(".pokus", " (1).pokus")]) {
