@@ -22,7 +22,7 @@ constexpr float NEJMENSI_PISMO = 7;  // points
 }  // namespace
 
 std::string TextChybnychKroku(const Misc& misc) {
-    std::string text = "Během konstrukce byly provedeny tyto chybné kroky:\n\n";
+    std::string text = std::string(CHYBNE_KROKY) + "\n\n";
     const int radku = std::min(misc.PocetChybnychKroku, ChybovyForm::RADKU);
     for (int i = 1; i <= radku; ++i) text += TextCisla(i) + ". " + misc.ChybneKroky[i].Text + "\n";
     return text;

@@ -10,9 +10,6 @@ constexpr int NAZEV_VLEVO = 16, NAZEV_SIRKA = 126;
 constexpr int BOX_VLEVO = 144, BOX_SIRKA = 44, BOX_VYSKA = 20;
 constexpr int JEDNOTKA_VLEVO = 191, JEDNOTKA_SIRKA = 32;
 
-// The one box of the later phases.
-constexpr Obdelnik BOX_UTVARU{98, 371, 56, BOX_VYSKA};
-
 // The assignment has a third row here.
 constexpr int VYZVA_NAHORE = 182, VYZVA_VYSKA = 70;
 
@@ -68,7 +65,7 @@ void DeskaCtyruhelniku::UkazDalsi(const Panel& panel) {
     const bool radky = panel.Veliciny.size() == 3;
     for (Label* l : {&lblText5, &lblText6, &lblText7, &lblText8, &lblText9}) l->Visible = radky;
     txtVstup2.Visible = txtVstup3.Visible = radky;
-    Obdelnik prvni = BOX_UTVARU;
+    Obdelnik prvni = BOX_HODNOTY;  // of the later phases
     if (radky) {
         prvni = {BOX_VLEVO, RADEK_NAHORE, BOX_SIRKA, BOX_VYSKA};
         lblText5.Caption = panel.Veliciny[0].Nazev;

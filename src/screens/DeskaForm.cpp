@@ -20,16 +20,6 @@ constexpr const char* HRY = "Bitmap\\Games\\";
 
 constexpr std::array<std::string_view, 4> HORNI = {"check", "new", "tab", "back"};
 
-/// An arrow: its pictures and its place.
-struct Sipka {
-    std::string_view Soubor;
-    Obdelnik Misto;
-};
-constexpr std::array<Sipka, 4> SIPKY = {{{"a_left", {231, 428, 15, 9}},
-                                         {"a_right", {592, 428, 15, 9}},
-                                         {"a_up", {605, 104, 9, 15}},
-                                         {"a_down", {605, 415, 9, 15}}}};
-
 constexpr std::array<Obdelnik, 6> TLACITKA = {{{16, 280, 94, 32},
                                                {111, 280, 94, 32},
                                                {16, 312, 94, 32},
@@ -88,7 +78,7 @@ void DeskaForm::RozlozOvladace() {
     Pridej(lblText4, "lblText4", {158, 374, 50, 18});
     lblText4.WordWrap = false;
     for (Label* l : {&Label1, &lblText1, &lblText2, &lblText3, &lblText4}) l->Sazba = true;
-    Pridej(txtVstup, "txtVstup", {98, 371, 56, 20});
+    Pridej(txtVstup, "txtVstup", BOX_HODNOTY);
     Pridej(ImgHodnoceni, "ImgHodnoceni", {173, 404, 32, 32});
     Pridej(IHintS, "IHintS", {201, 413, 15, 13});
 

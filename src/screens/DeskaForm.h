@@ -71,7 +71,7 @@ public:
     PictureBox MalaSipka;  ///< stands in for the panel when it is shut
 
     std::array<PictureBox, 4> PicTop;    ///< check, new example, score table, back
-    std::array<PictureBox, 4> picSipka;  ///< left, right, up, down
+    std::array<PictureBox, 4> picSipka;  ///< as SIPKY
     PictureBox picPokracuj;
     Image INadpis, IHintS, ImgHodnoceni;
 
@@ -113,7 +113,6 @@ public:
     /// of so many px of a font.
     [[nodiscard]] RadkyRady NaPapir(const HlavickaPapiru& hlavicka, const Pismo& pismo, int sirka);
     /// Examples of the series still to be played, this one included.
-    [[nodiscard]] int ZbyvaPrikladu() const { return zbyvaPrikladu_; }
     /// What the guide line says, and what it was computed from.
     [[nodiscard]] const Rada& RadaTed() const { return rada_; }
     [[nodiscard]] const Videne& VidenoTed() const { return videne_; }
@@ -144,6 +143,8 @@ public:
     void PromitniTah(const std::optional<Bod>& ukazatel);
 
 protected:
+    static constexpr Obdelnik BOX_HODNOTY{98, 371, 56, 20};  ///< of a single value, px
+
     /// The box for value ktery, from 1.
     [[nodiscard]] virtual const TextBox& Pole(int /*ktery*/) const { return txtVstup; }
     /// Shows what a board's panel has beyond the common controls.
@@ -153,6 +154,18 @@ protected:
     void Napis(int ktery, const TextBox& box);
 
 private:
+    /// The arrows beside the plane, by the side that they stand on: their pictures, their places,
+    /// and how far each scrolls the plane, px. Each pulls the figure to the other side.
+    struct Sipka {
+        std::string_view Soubor;
+        Obdelnik Misto;
+        Bod Posun;
+    };
+    static constexpr std::array<Sipka, 4> SIPKY = {
+        {{"a_left", {231, 428, 15, 9}, {KROK_POSUNU, 0}},
+         {"a_right", {592, 428, 15, 9}, {-KROK_POSUNU, 0}},
+         {"a_up", {605, 104, 9, 15}, {0, KROK_POSUNU}},
+         {"a_down", {605, 415, 9, 15}, {0, -KROK_POSUNU}}}};
     static constexpr float PISMO_DVOU_RAD = 8;  ///< of two rows in the guide line's strip, points
     /// Waits that other handlers ask after.
     static constexpr int PO_VOLBE = 1;    ///< a line was picked

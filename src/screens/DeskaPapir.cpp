@@ -1,8 +1,7 @@
 // The example on paper: what stands on the board now as pages among the account's documents.
 
-#include "platform/Host.h"
 #include "screens/DeskaForm.h"
-#include "screens/Papir.h"
+#include "screens/PapirUlozeni.h"
 
 namespace rysovna {
 

@@ -22,6 +22,12 @@ Bod NaObjektu(const Ovladac& o, float x, float y) {
     return {roh.X + Zaokrouhli(static_cast<double>(x)), roh.Y + Zaokrouhli(static_cast<double>(y))};
 }
 
+/// Whether an arrow that scrolls the plane so is the one for this way; the level ones go first.
+bool JdeTudy(Bod kam, Bod sipka) {
+    if (kam.X != 0) return kam.X > 0 ? sipka.X > 0 : sipka.X < 0;
+    return kam.Y > 0 ? sipka.Y > 0 : sipka.Y < 0;
+}
+
 constexpr int OD_STISKU = 10;     // px from the press on a tool to its list
 constexpr int DNO_SEZNAMU = 438;  // px of the design
 constexpr int ZNACKA_RADKU = 20;  // px from a line's beginning, where it is pressed
@@ -72,9 +78,10 @@ std::optional<Bod> DeskaForm::MistoVolani(const Volani& v) const {
         case Volani::Druh::Nacrt:
             return NaObjektu(SamplePic, v.X, v.Y);
         case Volani::Druh::Posunuti:
-            // The arrows in the order left, right, up, down; each pulls the figure to its other
-            // side.
-            return Uprostred(picSipka[v.O.X != 0 ? (v.O.X > 0 ? 0U : 1U) : (v.O.Y > 0 ? 2U : 3U)]);
+            for (std::size_t i = 0; i < SIPKY.size(); ++i) {
+                if (JdeTudy(v.O, SIPKY[i].Posun)) return Uprostred(picSipka[i]);
+            }
+            return Uprostred(picSipka.back());
         case Volani::Druh::Kontrola:
             return Uprostred(PicTop[0]);
         case Volani::Druh::ZavritSeznam:

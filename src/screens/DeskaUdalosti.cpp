@@ -21,13 +21,6 @@ constexpr int NAD_PRSTEM = 48;
 
 constexpr std::uint32_t CEKANI_PO_VOLBE = 50;  // ms
 
-/// An arrow: which way it scrolls the plane, px.
-struct SmerPosunu {
-    int Dx, Dy;
-};
-constexpr std::array<SmerPosunu, 4> SMERY = {
-    {{KROK_POSUNU, 0}, {-KROK_POSUNU, 0}, {0, KROK_POSUNU}, {0, -KROK_POSUNU}}};
-
 constexpr std::uint8_t HOVER_SIPKY = 4;  ///< hover number before the first arrow
 
 }  // namespace
@@ -261,11 +254,11 @@ Cinnost<> DeskaForm::PustPlochu(Mys m) {
 
 void DeskaForm::StiskSipky(int i) {
     if (Ceka(PO_PUSTENI)) return;  // what was drawn belongs to the plane as it is
-    const SmerPosunu& s = SMERY[static_cast<std::size_t>(i - 1)];
-    int& posun = s.Dx != 0 ? s_.PosunX : s_.PosunY;
-    const int krok = s.Dx + s.Dy;
+    const Bod smer = SIPKY[static_cast<std::size_t>(i - 1)].Posun;
+    int& posun = smer.X != 0 ? s_.PosunX : s_.PosunY;
+    const int krok = smer.X + smer.Y;
     if (krok > 0 ? posun > MEZ_POSUNU : posun < -MEZ_POSUNU) return;
-    dialog_->Posun(s.Dx, s.Dy);
+    dialog_->Posun(smer.X, smer.Y);
     posun += krok;
 }
 

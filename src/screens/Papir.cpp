@@ -14,6 +14,7 @@
 #include "rules/Kontrola.h"
 #include "rules/Ulohy.h"
 #include "rules/Veliciny.h"
+#include "screens/Spolecne.h"
 
 namespace rysovna {
 
@@ -50,11 +51,6 @@ std::string Hodnota(std::string_view text) {
         if (c != ' ' || (!hodnota.empty() && hodnota.back() != ' ')) hodnota += c;
     }
     return hodnota;
-}
-
-std::string Datum(const DatumACas& d) {
-    return TextBezMezery(d.Den) + ". " + TextBezMezery(d.Mesic) + ". " + TextBezMezery(d.Rok) +
-           " v " + TextBezMezery(d.Hodina) + "." + DveCislice(d.Minuta);
 }
 
 std::string NazevUlohy(int cislo) {
@@ -126,7 +122,8 @@ private:
 
     void Hlavicka() {
         const std::string poradi = "příklad " + TextBezMezery(papir_.Poradi) + " z " +
-                                   TextBezMezery(papir_.Prikladu) + ", " + Datum(papir_.Kdy);
+                                   TextBezMezery(papir_.Prikladu) + ", " +
+                                   DatumACasCesky(papir_.Kdy, " v ");
         const double vpravo = PresnaSirka(BEZNE, poradi);
         pdf_.Text(OKRAJ, y_, TITUL, NazevUlohy(papir_.CisloUlohy));
         y_ += VyskaRadku(TITUL) + 4;
@@ -208,7 +205,7 @@ private:
                  BEZNE, OKRAJ, SIRKA);
         if (h.Chyby.empty()) return Odstavec("Bez chyby.", BEZNE, OKRAJ, SIRKA);
         Misto(3.0 * VyskaRadku(BEZNE));
-        Odstavec("Během konstrukce byly provedeny tyto chybné kroky:", BEZNE, OKRAJ, SIRKA);
+        Odstavec(std::string(CHYBNE_KROKY), BEZNE, OKRAJ, SIRKA);
         int poradi = 0;
         for (const std::string& chyba : h.Chyby)
             Odstavec(chyba, BEZNE, OKRAJ, SIRKA, TextBezMezery(++poradi) + ".");

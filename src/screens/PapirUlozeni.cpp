@@ -1,12 +1,10 @@
 // Where a page goes, under which name, and what is told of it.
 
-#include <algorithm>
+#include "screens/PapirUlozeni.h"
 
 #include "base/Cisla.h"
 #include "base/Text.h"
-#include "platform/Host.h"
 #include "platform/Pisma.h"
-#include "screens/Papir.h"
 
 namespace rysovna {
 

@@ -12,6 +12,7 @@
 #include "platform/Pisma.h"
 #include "rules/Kontrola.h"
 #include "screens/DeskaForm.h"
+#include "screens/Papir.h"
 #include "screens/PopisKroku.h"
 #include "screens/Spolecne.h"
 
@@ -403,6 +404,21 @@ std::string Prehraj(Sezeni& s, Pokus pokus, Tempo tempo, std::function<void()> p
     okna.NastavModalni(form);
     form->Jed(true);
     return {};
+}
+
+/// What the board shows now; told in the strip, until the next step.
+void PrehravaniForm::NaPapir() {
+    Jed(false);
+    const Pokus& pokus = Co().Co();
+    const int poradi = PoradiPrikladu();
+    const auto [prvni, druhy] = deska_->NaPapir({.Jmeno = pokus.Jmeno,
+                                                 .Kdy = pokus.Zacatek,
+                                                 .Poradi = poradi,
+                                                 .Prikladu = std::max(pokus.PrikladuSerie, poradi)},
+                                                lblKrok.Font, lblKrok.Width);
+    lblKrok.Caption = prvni;
+    lblDal.Caption = druhy;
+    lblKrok.Sazba = lblDal.Sazba = false;  // names of files are no names of the figure
 }
 
 }  // namespace rysovna

@@ -10,10 +10,10 @@
 #include "rules/Kontrola.h"
 #include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
-#include "screens/Papir.h"
 #include "screens/PopisKroku.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/RadaCesky.h"
+#include "screens/Spolecne.h"
 
 namespace rysovna {
 
@@ -23,11 +23,6 @@ constexpr std::string_view PREDVEDENI = "Předvedení";
 
 std::string Cislo(int n) {
     return TextBezMezery(n);
-}
-
-std::string Datum(const DatumACas& d) {
-    return Cislo(d.Den) + ". " + Cislo(d.Mesic) + ". " + Cislo(d.Rok) + " " + Cislo(d.Hodina) +
-           "." + DveCislice(d.Minuta);
 }
 
 }  // namespace
@@ -62,21 +57,6 @@ std::string PrehravaniForm::TextKroku() const {
     return popis_;
 }
 
-/// What the board shows now; told in the strip, until the next step.
-void PrehravaniForm::NaPapir() {
-    Jed(false);
-    const Pokus& pokus = Co().Co();
-    const int poradi = PoradiPrikladu();
-    const auto [prvni, druhy] = deska_->NaPapir({.Jmeno = pokus.Jmeno,
-                                                 .Kdy = pokus.Zacatek,
-                                                 .Poradi = poradi,
-                                                 .Prikladu = std::max(pokus.PrikladuSerie, poradi)},
-                                                lblKrok.Font, lblKrok.Width);
-    lblKrok.Caption = prvni;
-    lblDal.Caption = druhy;
-    lblKrok.Sazba = lblDal.Sazba = false;  // names of files are no names of the figure
-}
-
 /// The guide's rows in one, or as much of them as fits.
 std::string PrehravaniForm::TextRady() const {
     const RadkyRady rada = RadaCesky(deska_->RadaTed(), CimSeHraje::Mysi);
@@ -97,7 +77,7 @@ void PrehravaniForm::VypisDalsi() {
                                       : TextRady();
         return;
     }
-    const std::string kdo = Co().Co().Jmeno + ", " + Datum(Co().Co().Zacatek);
+    const std::string kdo = Co().Co().Jmeno + ", " + DatumACasCesky(Co().Co().Zacatek);
     if (zacatek) {
         lblDal.Caption = kdo + ", " + nazev;
         return;

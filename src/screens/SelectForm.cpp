@@ -8,7 +8,6 @@
 #include "platform/Obrazovky.h"
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
-#include "screens/IntroForm.h"
 #include "screens/PozadiForm.h"
 #include "screens/SetupForm.h"
 #include "screens/Spolecne.h"
@@ -21,7 +20,6 @@ constexpr std::uint8_t HOVER_LI = 1;  // the first of five
 constexpr std::uint8_t HOVER_RI = 6;  // the first of six
 constexpr int BUNEK_PASU = 23;
 constexpr float PISMO_PRACE = 8.0F;  // points
-constexpr int STAV_NESPUSTENO = 1;   // exit status: the start-up was refused
 
 }  // namespace
 
@@ -45,31 +43,7 @@ SelectForm::SelectForm(Sezeni& s) : FormHry(s) {
     for (Image& ri : RI) ri.Zastavka = 4;
 }
 
-Cinnost<> SelectForm::Start() {
-    const std::string chybi = NactiKonfiguraci(s_);
-    if (!chybi.empty()) {
-        co_await s_.Stroj.MsgBox(chybi, "Chyba", Styl::Stop);
-        s_.Okna().Konec(STAV_NESPUSTENO);
-        co_return;
-    }
-    std::string zprava;
-    {
-        const Obrazovky::Zavreni zavreni(s_.Okna());
-        zprava = co_await s_.Vysledky().ZkusCekajici();
-        if (s_.PokusyUkladat)
-            PridejOdstavec(zprava, co_await s_.Pokusy().ZkusCekajici(s_.Stroj.Nyni()));
-        // What came while the lock was waited for is not for the message.
-        co_await Cekani::SVstupem(0);
-    }
-    if (!zprava.empty()) co_await s_.Stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
-    co_await Cekani(100);
-    co_await PrepniObrazovku(s_);
-    UkazPozadi(s_);
-    const auto titul = s_.Okna().Nacti<IntroForm>(s_);
-    s_.Okna().Show(*titul);
-    co_await Cekani(100);
-    titul->Timer1.Enabled = true;
-
+void SelectForm::Priprav() {
     Maximised = true;
     Caption = "Rysovna 1";
     PrizpusobForm(s_, *this);

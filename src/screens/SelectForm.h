@@ -26,7 +26,7 @@ public:
     PictureClip PicClip;
 
     /// The start-up: the configuration, what waits to be stored, the switch of the screen, the
-    /// title.
+    /// title. Start.cpp
     Cinnost<> Start();
     void Unload() override;
     Cinnost<> MouseDown(Ovladac* o, const Mys& m) override;
@@ -39,6 +39,7 @@ public:
 
 private:
     Cinnost<> ZeptejSeNaKonec();
+    void Priprav();
     void NactiObrazky();
     void ZvolRodinu(std::size_t i);
     void ZvolUlohu(std::size_t j);

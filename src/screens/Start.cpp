@@ -10,8 +10,11 @@
 #include "base/Cisla.h"
 #include "platform/Cesta.h"
 #include "platform/Pisma.h"
+#include "screens/IntroForm.h"
+#include "screens/PozadiForm.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/SelectForm.h"
+#include "screens/Spolecne.h"
 #include "store/Cesty.h"
 #include "store/JmenaSouboru.h"
 #include "store/Soubory.h"
@@ -29,6 +32,8 @@ constexpr const char* NELZE_PREPNOUT =
     "Aplikace proto nepoběží přes celou obrazovku.";
 constexpr const char* NELZE_OBNOVIT =
     "Nastala chyba při obnovení původního nastavení obrazovky. Změňte nastavení manuálně.";
+
+constexpr int STAV_NESPUSTENO = 1;  // exit status: the start-up was refused
 
 constexpr const char* SLOZKA_PREDVEDENI = "Predvedeni";  // among the assets
 
@@ -118,6 +123,36 @@ std::string ZacniUkazovat(Sezeni& s, const std::function<std::filesystem::path()
 }
 
 }  // namespace
+
+// ---- The start-up, a work of the menu's ------------------------------------------------------
+
+Cinnost<> SelectForm::Start() {
+    const std::string chybi = NactiKonfiguraci(s_);
+    if (!chybi.empty()) {
+        co_await s_.Stroj.MsgBox(chybi, "Chyba", Styl::Stop);
+        s_.Okna().Konec(STAV_NESPUSTENO);
+        co_return;
+    }
+    std::string zprava;
+    {
+        const Obrazovky::Zavreni zavreni(s_.Okna());
+        zprava = co_await s_.Vysledky().ZkusCekajici();
+        if (s_.PokusyUkladat)
+            PridejOdstavec(zprava, co_await s_.Pokusy().ZkusCekajici(s_.Stroj.Nyni()));
+        // What came while the lock was waited for is not for the message.
+        co_await Cekani::SVstupem(0);
+    }
+    if (!zprava.empty()) co_await s_.Stroj.MsgBox(zprava, "Upozornění", Styl::Ok);
+    co_await Cekani(100);
+    co_await PrepniObrazovku(s_);
+    UkazPozadi(s_);
+    const auto titul = s_.Okna().Nacti<IntroForm>(s_);
+    s_.Okna().Show(*titul);
+    co_await Cekani(100);
+    titul->Timer1.Enabled = true;
+
+    Priprav();
+}
 
 void Zacni(Sezeni& s) {
     const auto menu = s.Okna().Nacti<SelectForm>(s);

@@ -1,7 +1,5 @@
 // An example on paper: pages of every board, their text read back; a place that cannot be written.
 
-#include "screens/Papir.h"
-
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -14,6 +12,7 @@
 #include "podpora/PravaUctu.h"
 #include "rules/Postup.h"
 #include "rules/Ulohy.h"
+#include "screens/PapirUlozeni.h"
 #include "screens/Start.h"
 #include "zak/Sestroj.h"
 
