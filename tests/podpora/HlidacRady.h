@@ -18,8 +18,6 @@ class HlidacRady {
 public:
     /// Empty if all holds; otherwise what does not.
     [[nodiscard]] std::string Zkontroluj(const DeskaForm& deska);
-    /// How many different states before the check it has seen.
-    [[nodiscard]] std::size_t Stavu() const { return videno_.size(); }
 
 private:
     std::map<std::string, std::string> videno_;  ///< what is seen -> what was said

@@ -18,8 +18,6 @@ ROZSAHY = (
     (0x0370, 0x03FF),  # Greek
     (0x0400, 0x045F),  # Cyrillic
     (0x0490, 0x0491),
-    (0x0400, 0x045F),  # Cyrillic
-    (0x0490, 0x0491),
     (0x1D2C, 0x1D6A),  # small letters set high and low, by which others of them are hinted
     (0x1E00, 0x1EFF),  # Latin with two marks
     (0x2000, 0x206F),  # punctuation

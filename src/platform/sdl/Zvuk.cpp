@@ -94,25 +94,21 @@ Zvuk::~Zvuk() {
 }
 
 void Zvuk::Zahraj(std::filesystem::path soubor) {
-    bool zacina = false;
-    {
-        const std::lock_guard drzi(prace_->Zamek);
-        if (prace_->Konec) return;
-        prace_->Zadany = std::move(soubor);
-        zacina = !prace_->Zacala;
-        prace_->Zacala = true;
-    }
-    Zacni(zacina);
+    const std::lock_guard drzi(prace_->Zamek);
+    if (prace_->Konec) return;
+    prace_->Zadany = std::move(soubor);
+    Zacni();
 }
 
-void Zvuk::Zacni(bool zacina) {
-    if (zacina) std::thread([prace = prace_] { prace->Pracuj(); }).detach();
+void Zvuk::Zacni() {
+    if (!std::exchange(prace_->Zacala, true))
+        std::thread([prace = prace_] { prace->Pracuj(); }).detach();
     prace_->Budik.notify_all();
 }
 
 std::string Zvuk::Over() {
     std::unique_lock drzi(prace_->Zamek);
-    Zacni(!std::exchange(prace_->Zacala, true));
+    Zacni();
     if (!prace_->Budik.wait_for(drzi, NEJDELE_OTVIRA,
                                 [this] { return prace_->Otevreno.has_value(); }))
         throw BehovaChyba("Neodpovídá", "hra může být bez zvuku");

@@ -29,7 +29,8 @@ public:
     bool Skonci();
 
 private:
-    void Zacni(bool zacina);
+    /// Wakes the thread, the first time makes it. The lock is held.
+    void Zacni();
 
     struct Prace;
     std::shared_ptr<Prace> prace_;  ///< shared with the thread, which may outlive this object

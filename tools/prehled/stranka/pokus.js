@@ -24,7 +24,7 @@ function obrazec(zdroj, popis) {
   return svg;
 }
 
-function chybaPokusu(serie, [veta, bodu, , kdy], zdroj) {
+function chybaPokusu([veta, bodu, , kdy], zdroj) {
   const [cislo, text] = VETY[veta];
   const popis = prvek("span", {}, `${doba(kdy)} · `, prvek("b", {}, `−${pocet(bodu, BODY_SLOVY)}`),
     ` · ${text}`);
@@ -53,7 +53,7 @@ function prikladPokusu(serie, obrazce, i) {
     prvek("div", {}, prvek("h3", {}, nadpis), prvek("p", {}, zadani),
       prvek("p", {}, `${jak} · ${doba(trvani)}`),
       chyby.length === 0 ? prvek("p", {}, "Bez chyby.")
-        : prvek("ul", { class: "chyby" }, ...chyby.map(([c, zdroj]) => chybaPokusu(serie, c, zdroj)))));
+        : prvek("ul", { class: "chyby" }, ...chyby.map(([c, zdroj]) => chybaPokusu(c, zdroj)))));
 }
 
 function detailPokusu(serie, sloupcu) {
