@@ -1,7 +1,8 @@
-# Sourced by ./run and ./test: makes sure that what the build needs is there.
+# Sourced by ./run and ./test: what they share. Installs what a build needs, builds, and lists the
+# project's own sources.
+
 # Debian's package names; installed with apt-get, as root or through sudo. Nothing is asked for
 # when nothing is missing.
-
 BALICKY_HRA="g++ cmake ninja-build pkg-config libsdl2-dev libcairo2-dev libfreetype-dev
     librsvg2-dev zlib1g-dev fonts-liberation fonts-dejavu-core python3-fonttools"
 BALICKY_PREHLED="libsqlite3-dev libutf8proc-dev nlohmann-json3-dev
