@@ -1,5 +1,7 @@
 // A pupil's course in time; without a pupil that of all that is chosen, a mean of each day.
-const BARVY_ZNAMEK = ["#877C60", "#22335C", "#5A6994", "#D9CDAF", "#F2935C", "#A63C0E"];
+const barvaStylu = (jmeno) =>
+  getComputedStyle(document.documentElement).getPropertyValue(`--${jmeno}`).trim();
+const barvaZnamky = (znamka) => barvaStylu(znamka === 0 ? "linka" : `z${znamka}`);
 const uspesnost = (s) => s.bodu / s.nejvic * 100;
 let graf = null;
 
@@ -12,7 +14,8 @@ function podleDnu(serie) {
     dny.get(den).push(uspesnost(s));
   }
   return [...dny].sort(([a], [b]) => (a < b ? -1 : 1)).map(([den, procenta]) => ({
-    kdy: `${den}T12:00`, y: prumer(procenta), co: pocet(procenta.length, SERIE_SLOVY), barva: "#A63C0E",
+    kdy: `${den}T12:00`, y: prumer(procenta), co: pocet(procenta.length, SERIE_SLOVY),
+    barva: barvaStylu("accent"),
   }));
 }
 
@@ -20,7 +23,7 @@ function bodyGrafu(serie, zak) {
   const hodnocene = serie.filter((s) => s.nejvic > 0);
   if (zak === null) return podleDnu(hodnocene);
   return [...hodnocene].sort((a, b) => (a.kdy < b.kdy ? -1 : a.kdy > b.kdy ? 1 : 0)).map((s) => ({
-    kdy: s.kdy, y: uspesnost(s), barva: BARVY_ZNAMEK[s.znamka],
+    kdy: s.kdy, y: uspesnost(s), barva: barvaZnamky(s.znamka),
     co: `${ULOHY.get(s.uloha).nazev}, známka ${s.znamka === 0 ? "žádná" : s.znamka}`,
   }));
 }
@@ -38,15 +41,17 @@ function ukazGraf(serie, zak) {
   platno.setAttribute("aria-label", `Od ${datum(body[0].kdy)} (${Math.round(body[0].y)} %) ` +
     `do ${datum(body[body.length - 1].kdy)} (${Math.round(body[body.length - 1].y)} %), ` +
     `průměr ${Math.round(prumer(body.map((b) => b.y)))} %.`);
+  const inkoust = barvaStylu("inkoust");
   // In order and not by the clock: lessons lie weeks apart.
   graf = new Chart(platno, {
     type: "line",
     data: {
       labels: body.map((b) => datum(b.kdy)),
       datasets: [{
-        data: body.map((b) => b.y), borderColor: "#55648A", borderWidth: 1.5, tension: 0, clip: false,
+        data: body.map((b) => b.y), borderColor: barvaStylu("cara"), borderWidth: 1.5,
+        tension: 0, clip: false,
         pointRadius: body.length > 60 ? 3 : 6, pointHoverRadius: 8,
-        pointBackgroundColor: body.map((b) => b.barva), pointBorderColor: "#22335C",
+        pointBackgroundColor: body.map((b) => b.barva), pointBorderColor: inkoust,
       }],
     },
     options: {
@@ -54,9 +59,9 @@ function ukazGraf(serie, zak) {
       devicePixelRatio: Math.max(2, window.devicePixelRatio),
       font: { family: "Liberation Sans, Arial, sans-serif" },
       scales: {
-        x: { ticks: { color: "#22335C", maxRotation: 0, autoSkipPadding: 16 }, grid: { display: false } },
-        y: { min: 0, max: 100, grid: { color: "#E3D8BF" },
-          ticks: { color: "#22335C", stepSize: 25, callback: (v) => `${v} %` } },
+        x: { ticks: { color: inkoust, maxRotation: 0, autoSkipPadding: 16 }, grid: { display: false } },
+        y: { min: 0, max: 100, grid: { color: barvaStylu("stin") },
+          ticks: { color: inkoust, stepSize: 25, callback: (v) => `${v} %` } },
       },
       plugins: {
         legend: { display: false },
