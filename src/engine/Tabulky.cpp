@@ -22,6 +22,15 @@ void Pricti(int& souradnice, int o) {
 
 }  // namespace
 
+int Tabulky::NovyUtvar(std::string_view jmeno1, std::string_view jmeno2) {
+    const int n = ++PocetUtvaru;
+    SmazRadekUtvaru(n);
+    SmazRadekTrojic(PocetTrojic + 1);
+    Utvary[n].Jmeno1 = jmeno1;
+    Utvary[n].Jmeno2 = jmeno2;
+    return n;
+}
+
 void Tabulky::SmazRadekUtvaru(Radek i) {
     Utvar& radek = Utvary[i];
     radek = Utvar{};

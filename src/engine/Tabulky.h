@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "base/Bod.h"
 #include "base/Tabulka.h"
@@ -96,6 +97,9 @@ struct Tabulky {
     int PocetUtvaru = 0;
     int PocetTrojic = 0;
 
+    /// Opens the next row of an object with the names of its points, and the snap row that it will
+    /// have; its number.
+    int NovyUtvar(std::string_view jmeno1, std::string_view jmeno2);
     /// Clears one row. Popis4 of a cleared object is the number 0 as text, " 0".
     void SmazRadekUtvaru(Radek i);
     void SmazRadekTrojic(Radek i);

@@ -56,7 +56,7 @@ public:
     /// What the plane shows when the pointer passes with no button held.
     [[nodiscard]] virtual Gumicka Prejezd(float /*x*/, float /*y*/) const { return {}; }
     /// How long the board waits between the release and its judgement, ms.
-    [[nodiscard]] virtual std::uint32_t CekaniPoTahu() const = 0;
+    [[nodiscard]] virtual std::uint32_t CekaniPoTahu() const { return 100; }
     /// The release on the plane: judges the read-out, draws the object, moves the phase on.
     virtual void PusteniPlochy(float x, float y) = 0;
     /// Whether a press on the plane begins a drag now.

@@ -170,19 +170,10 @@ void DialogCtyruhelniku::NakresliTrojuhelnik(const VetaTrojuhelniku& veta) {
     Prekresli();
 }
 
-int DialogCtyruhelniku::NovyUtvar(std::string_view jmeno1, std::string_view jmeno2) {
-    const int n = ++misc_.PocetUtvaru;
-    misc_.SmazRadekUtvaru(n);
-    misc_.SmazRadekTrojic(misc_.PocetTrojic + 1);
-    misc_.Utvary[n].Jmeno1 = jmeno1;
-    misc_.Utvary[n].Jmeno2 = jmeno2;
-    return n;
-}
-
 void DialogCtyruhelniku::NakresliStranu(std::string_view jmeno1, Bod p1, std::string_view popis1,
                                         std::string_view jmeno2, Bod p2, std::string_view popis2,
                                         bool znacky) {
-    const int n = NovyUtvar(jmeno1, jmeno2);
+    const int n = misc_.NovyUtvar(jmeno1, jmeno2);
     const auto delka = static_cast<float>(DelkaVCm(Vzdalenost(p1, p2)));
     KresliUsecku(misc_, platna_.Pic, n,
                  {.Druh = USECKA,

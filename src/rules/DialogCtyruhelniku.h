@@ -56,8 +56,6 @@ protected:
     [[nodiscard]] int ChybnychPrvku() const override;
     void UkazFazi(Panel& panel) const override;
 
-    /// Opens the next row of the construction with the names of its points.
-    int NovyUtvar(std::string_view jmeno1, std::string_view jmeno2);
     /// Draws a side between two named points; the labels may be empty.
     void NakresliStranu(std::string_view jmeno1, Bod p1, std::string_view popis1,
                         std::string_view jmeno2, Bod p2, std::string_view popis2, bool znacky);

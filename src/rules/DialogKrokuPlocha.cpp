@@ -14,9 +14,8 @@ namespace rysovna {
 
 namespace {
 
-// Waits after a release, ms: a segment shorter, since nothing of it needs to be seen first.
+/// The wait after a segment's release, ms: shorter, since nothing of it needs to be seen first.
 constexpr std::uint32_t CEKANI_USECKA = 10;
-constexpr std::uint32_t CEKANI_OSTATNI = 100;
 
 }  // namespace
 
@@ -115,7 +114,7 @@ Gumicka DialogKroku::Tah(float x, float y) const {
 }
 
 std::uint32_t DialogKroku::CekaniPoTahu() const {
-    return Stav().ZvolenyUtvar == USECKA ? CEKANI_USECKA : CEKANI_OSTATNI;
+    return Stav().ZvolenyUtvar == USECKA ? CEKANI_USECKA : Dialog::CekaniPoTahu();
 }
 
 bool DialogKroku::ZacinaSpravne() const {

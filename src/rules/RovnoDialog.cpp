@@ -188,7 +188,7 @@ bool RovnoDialog::PrvekSpravny(int faze) const {
 
 /// Marks the centre. maPismeno: it is the vertex S of the triangle, which has its letter already.
 void RovnoDialog::NakresliStred(Bod stred, bool maPismeno) {
-    const int n = NovyUtvar(JMENO_STREDU, "");
+    const int n = misc_.NovyUtvar(JMENO_STREDU, "");
     KresliBod(misc_, platna_.Pic, n,
               {.Druh = BOD, .P1 = stred, .Popis1 = maPismeno ? "" : JMENO_STREDU}, ANO);
 }
@@ -207,7 +207,7 @@ void RovnoDialog::NakresliUtvar(Bod /*konec*/) {
         const auto vzor = Misto(prvek);
         const auto stred = Misto(JMENO_STREDU);
         if (vzor && stred) bod = ObrazVeStredu(*vzor, *stred);
-        const int n = NovyUtvar(hledany, "");
+        const int n = misc_.NovyUtvar(hledany, "");
         KresliBod(misc_, platna_.Pic, n, {.Druh = BOD, .P1 = bod, .Popis1 = hledany}, ANO);
     }
 }

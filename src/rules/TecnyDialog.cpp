@@ -128,8 +128,7 @@ void TecnyDialog::Zkontroluj() {
 void TecnyDialog::Prekresli(int dx, int dy) {
     Trojice posledni = misc_.Trojice_tab[misc_.PocetTrojic];
     PosunVse(misc_, platna_.HidenPic, platna_.Pic, dx, dy);
-    for (int* x : {&posledni.X1, &posledni.X2, &posledni.X3}) *x += dx;
-    for (int* y : {&posledni.Y1, &posledni.Y2, &posledni.Y3}) *y += dy;
+    rysovna::Posun(posledni, dx, dy);
     if (misc_.PocetTrojic > 0) misc_.Trojice_tab[misc_.PocetTrojic] = posledni;
 }
 
@@ -153,18 +152,8 @@ void TecnyDialog::Posun(int dx, int dy) {
 
 // ---- The end of a step -----------------------------------------------------------------------
 
-/// Opens the next row of the construction with the names of its points.
-int TecnyDialog::NovyRadek(std::string_view jmeno1, std::string_view jmeno2) {
-    const int n = ++misc_.PocetUtvaru;
-    misc_.SmazRadekUtvaru(n);
-    misc_.SmazRadekTrojic(misc_.PocetTrojic + 1);
-    misc_.Utvary[n].Jmeno1 = jmeno1;
-    misc_.Utvary[n].Jmeno2 = jmeno2;
-    return n;
-}
-
 void TecnyDialog::NakresliBod(Bod misto, const std::string& jmeno, std::string_view naPrimce) {
-    const int n = NovyRadek(jmeno, "");
+    const int n = misc_.NovyUtvar(jmeno, "");
     KresliBod(misc_, platna_.Pic, n,
               {.Druh = BOD, .P1 = misto, .Popis1 = jmeno, .NaPrimce = naPrimce}, ANO);
 }

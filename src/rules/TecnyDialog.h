@@ -73,7 +73,6 @@ public:
     void StiskPlochy(float x, float y) override;
     [[nodiscard]] Gumicka Tah(float x, float y) const override;
     [[nodiscard]] Gumicka Prejezd(float x, float y) const override;
-    [[nodiscard]] std::uint32_t CekaniPoTahu() const override { return 100; }
     void PusteniPlochy(float x, float y) override;
     [[nodiscard]] bool CekaNaKresleni() const override;
     [[nodiscard]] std::optional<Bod> ChytilBy(float x, float y) const override;
@@ -110,7 +109,6 @@ private:
     // TecnyDialog.cpp: the life of an example, the end of a step, back
     void ZacniZadani(int cisloPrikladu);
     void Prekresli(int dx, int dy);
-    [[nodiscard]] int NovyRadek(std::string_view jmeno1, std::string_view jmeno2);
     void NakresliBod(Bod misto, const std::string& jmeno, std::string_view naPrimce);
     void SpocitejPruseciky(const KrokTecny& krok);
     /// Number of the solution entry of this name; 0 if there is none.

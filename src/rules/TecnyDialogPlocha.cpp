@@ -221,7 +221,7 @@ void TecnyDialog::PusteniPlochy(float x, float y) {
         NakresliKruznici(*krok, konec);
     } else if (stav_.VRuce == Nastroj::Poloprimka) {
         const Bod s = stav_.Start;
-        KresliPoloprimku(misc_, platna_.Pic, NovyRadek(stav_.Jmeno, "Y"),
+        KresliPoloprimku(misc_, platna_.Pic, misc_.NovyUtvar(stav_.Jmeno, "Y"),
                          {.Druh = stav_.ZvolenyUtvar, .P1 = s, .P2 = konec, .Popis2 = "Y"}, ANO);
     } else {
         NakresliPrimku(*krok, x, y);
@@ -259,7 +259,7 @@ std::string TecnyDialog::OdectiKrok(const KrokTecny& krok, float x, float y) con
 void TecnyDialog::NakresliKruznici(const KrokTecny& krok, Bod konec) {
     const Bod s = StredTahu();
     if (stav_.Spravny) PosudPolomer(krok, s, std::abs(konec.X - s.X));
-    KresliKruznici(misc_, platna_.Pic, NovyRadek(stav_.Jmeno, ""),
+    KresliKruznici(misc_, platna_.Pic, misc_.NovyUtvar(stav_.Jmeno, ""),
                    {.Druh = stav_.ZvolenyUtvar, .P1 = s, .P2 = {konec.X, s.Y}}, ANO);
 }
 
@@ -279,8 +279,8 @@ void TecnyDialog::NakresliPrimku(const KrokTecny& krok, float x, float y) {
     }
     // A line through two points that bears their names has both; any other has its own.
     const bool podleBodu = spojnice && stav_.Jmeno == stav_.OcekavanyBod;
-    const int n = podleBodu ? NovyRadek(stav_.Jmeno.substr(0, 1), stav_.Jmeno.substr(1))
-                            : NovyRadek(stav_.Jmeno, "");
+    const int n = podleBodu ? misc_.NovyUtvar(stav_.Jmeno.substr(0, 1), stav_.Jmeno.substr(1))
+                            : misc_.NovyUtvar(stav_.Jmeno, "");
     if (stav_.VRuce == Nastroj::Kolmice) {
         KresliKolmici(misc_, platna_.Pic, n, {.Druh = stav_.ZvolenyUtvar, .P1 = b.P1, .P2 = b.P2},
                       ANO);

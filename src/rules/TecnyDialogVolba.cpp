@@ -239,7 +239,7 @@ void TecnyDialog::ZvolOsu() {
     const std::string jmenoB(kolmice.Jmena[0]);
     Pamatuj();
     const Dvojice body = Kolme(misc_.Utvary[usecka], C, C);
-    KresliKolmici(misc_, platna_.Pic, NovyRadek(jmenoB, ""),
+    KresliKolmici(misc_, platna_.Pic, misc_.NovyUtvar(jmenoB, ""),
                   {.Druh = KOLMICE, .P1 = body.P1, .P2 = body.P2}, ANO);
     misc_.Utvary[misc_.PocetUtvaru].Jak = {stav_.ZvolenyUtvar, stav_.OcekavanyBod, ""};
     NakresliBod(C, jmenoC, stred.NaPrimce);

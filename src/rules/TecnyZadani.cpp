@@ -310,11 +310,7 @@ bool JePopsan(const Tabulky& t, const std::string& jmeno) {
 
 /// Draws one given object as the row that it is in.
 void Nakresli(Tabulky& t, Plane& plocha, const DanyUtvar& d) {
-    const int n = ++t.PocetUtvaru;
-    t.SmazRadekUtvaru(n);
-    t.SmazRadekTrojic(t.PocetTrojic + 1);
-    t.Utvary[n].Jmeno1 = d.Jmeno1;
-    t.Utvary[n].Jmeno2 = d.Jmeno2;
+    const int n = t.NovyUtvar(d.Jmeno1, d.Jmeno2);
     if (d.Druh == BOD) {
         KresliBod(t, plocha, n,
                   {.Druh = BOD, .P1 = d.P1, .Popis1 = d.Jmeno1, .NaPrimce = d.NaPrimce}, ANO);

@@ -45,7 +45,7 @@ protected:
     void Kresli(int i, const Nakres& k, int nova = ANO) { testy::Kresli(t, plocha, i, k, nova); }
     /// A segment AB from (150, 150), with marks.
     void Usecka(int dx, int dy) {
-        Kresli(NovyUtvar(t, "A", "B"),
+        Kresli(t.NovyUtvar("A", "B"),
                {USECKA, {150, 150}, {150 + dx, 150 + dy}, "A", "B", 5, "", ANO});
     }
 
@@ -93,11 +93,11 @@ TEST_F(Kresleni, SektorUrcujePopisAKriz) {
                   p.sektor);
         // A point on that segment wears the whole cross and the same sector's label offset; so
         // does, with the tick alone, a ray in the same direction.
-        Kresli(NovyUtvar(t, "X", ""), {BOD, {60, 70}, {}, "X", "", 0, "AB"});
+        Kresli(t.NovyUtvar("X", ""), {BOD, {60, 70}, {}, "X", "", 0, "AB"});
         EXPECT_EQ(PosledniNapis(), (Bod{60 + p.popis.X, 70 + p.popis.Y})) << p.sektor;
         CekaCarky({{60 - px, 70 - py, 60 + px, 70 + py}, {60 - vx, 70 - vy, 60 + vx, 70 + vy}},
                   p.sektor);
-        Kresli(NovyUtvar(t, "A", "X"), {POLOPRIMKA, {150, 150}, {150 + p.dx, 150 + p.dy}, "", "X"},
+        Kresli(t.NovyUtvar("A", "X"), {POLOPRIMKA, {150, 150}, {150 + p.dx, 150 + p.dy}, "", "X"},
                NE);
         CekaCarky({{x - px, y - py, x + px, y + py}}, p.sektor);
     }
@@ -162,7 +162,7 @@ TEST_F(Kresleni, UseckaZapisujeZaznamATrojici) {
     EXPECT_EQ(t.Trojice_tab[1], (Trojice{150, 150, 175, 160, 162, 155, "A", "B", "Sc"}));
     // Without its line a segment still gets its two labels, and no mark.
     const auto car = plocha.carky.size();
-    Kresli(NovyUtvar(t, "B", "A"), {USECKA, {150, 150}, {175, 160}, "B", "A", 5, "", ANO, NE}, NE);
+    Kresli(t.NovyUtvar("B", "A"), {USECKA, {150, 150}, {175, 160}, "B", "A", 5, "", ANO, NE}, NE);
     EXPECT_EQ(plocha.carky.size(), car);
     EXPECT_EQ(plocha.napisy.size(), 4U);
     EXPECT_EQ(t.PocetTrojic, 1);
@@ -171,9 +171,9 @@ TEST_F(Kresleni, UseckaZapisujeZaznamATrojici) {
 
 TEST_F(Kresleni, KrizBoduHledaPosledniPrimkuTohoJmena) {
     Usecka(80, 0);
-    Kresli(NovyUtvar(t, "B", "A"), {USECKA, {10, 10}, {10, 90}, "", "", 5});
+    Kresli(t.NovyUtvar("B", "A"), {USECKA, {10, 10}, {10, 90}, "", "", 5});
     plocha.DrawWidth = 2;
-    Kresli(NovyUtvar(t, "X", ""), {BOD, {60, 70}, {}, "X", "", 0, "AB"});
+    Kresli(t.NovyUtvar("X", ""), {BOD, {60, 70}, {}, "X", "", 0, "AB"});
     // A to B of the second segment goes straight up.
     EXPECT_EQ(PosledniNapis(), (Bod{70, 67}));
     EXPECT_EQ(plocha.DrawWidth, 1);
@@ -188,7 +188,7 @@ TEST_F(Kresleni, PopisKruzniceHledaMistoUvnitrPlochy) {
         {{380, 20}, 430, {330, 7}},        // only 270, the last of all
         {{192, -100}, 242, {142, -113}}};  // none: the last try stands
     for (const auto& [stred, x2, popis] : pripady) {
-        Kresli(NovyUtvar(t, "k", ""), {KRUZNICE, stred, {x2, stred.Y}});
+        Kresli(t.NovyUtvar("k", ""), {KRUZNICE, stred, {x2, stred.Y}});
         EXPECT_EQ(PosledniNapis(), popis);
         EXPECT_EQ(plocha.kruhy.back().r, 50.0F);
     }

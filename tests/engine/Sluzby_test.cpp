@@ -98,12 +98,12 @@ TEST_F(Sluzby, PrekresleniPiseJenDoPosledniTrojice) {
     EXPECT_EQ(hiden.kruhy.size(), 1U);
     EXPECT_EQ(t.Trojice_tab, predtim);
     // A circle last: its centre stands over the end points of the segment before it.
-    Kresli(t, pic, NovyUtvar(t, "k", ""), {KRUZNICE, {50, 60}, {70, 60}});
+    Kresli(t, pic, t.NovyUtvar("k", ""), {KRUZNICE, {50, 60}, {70, 60}});
     PrekresliVse(t, hiden, pic);
     EXPECT_EQ(t.Trojice_tab[7], (Trojice{50, 60, 187, 170, 214, 210, "k", "C", "Sa"}));
     // A redrawn parallel loses its length, a line does not.
-    Kresli(t, pic, NovyUtvar(t, "A", "B"), {ROVNOBEZKA, {50, 60}, {80, 60}, "", "", 5});
-    Kresli(t, pic, NovyUtvar(t, "A", "B"), {PRIMKA, {50, 90}, {80, 90}, "", "", 6});
+    Kresli(t, pic, t.NovyUtvar("A", "B"), {ROVNOBEZKA, {50, 60}, {80, 60}, "", "", 5});
+    Kresli(t, pic, t.NovyUtvar("A", "B"), {PRIMKA, {50, 90}, {80, 90}, "", "", 6});
     PrekresliVse(t, hiden, pic);
     EXPECT_EQ(t.Utvary[8].Delka, 0.0F);
     EXPECT_EQ(t.Utvary[9].Delka, 6.0F);

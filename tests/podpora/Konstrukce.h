@@ -11,16 +11,6 @@
 
 namespace rysovna::testy {
 
-/// Opens the next row with the names of its points.
-inline int NovyUtvar(Tabulky& t, std::string_view jmeno1, std::string_view jmeno2) {
-    const int i = ++t.PocetUtvaru;
-    t.SmazRadekUtvaru(i);
-    t.SmazRadekTrojic(t.PocetTrojic + 1);
-    t.Utvary[i].Jmeno1 = jmeno1;
-    t.Utvary[i].Jmeno2 = jmeno2;
-    return i;
-}
-
 /// Draws an object by the routine of its kind.
 inline void Kresli(Tabulky& t, Plane& plane, int i, const Nakres& k, int nova = ANO) {
     constexpr std::pair<std::string_view, decltype(&KresliBod)> ROUTINY[] = {
@@ -36,7 +26,7 @@ inline void Kresli(Tabulky& t, Plane& plane, int i, const Nakres& k, int nova = 
 inline void NakresliTrojuhelnik(Tabulky& t, Plane& plane) {
     const Bod A{120, 250}, B{240, 250}, C{187, 170};
     const auto kresli = [&](const char* jmeno1, const char* jmeno2, const Nakres& k) {
-        Kresli(t, plane, NovyUtvar(t, jmeno1, jmeno2), k);
+        Kresli(t, plane, t.NovyUtvar(jmeno1, jmeno2), k);
     };
     kresli("A", "B", {USECKA, A, B, "A", "B", 15, "", ANO});
     kresli("A", "", {KRUZNICE, A, {224, 250}});
@@ -64,7 +54,7 @@ inline void NakresliNahodne(Tabulky& t, Plane& plane, int kolik, unsigned semink
                                 {KRUZNICE, P1, {x2, y1}},
                                 {KOLMICE, P1, P2},
                                 {ROVNOBEZKA, P1, P2}};
-        Kresli(t, plane, NovyUtvar(t, a, b), DRUHY[k % 7]);
+        Kresli(t, plane, t.NovyUtvar(a, b), DRUHY[k % 7]);
     }
 }
 

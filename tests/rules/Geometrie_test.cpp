@@ -124,7 +124,7 @@ TEST(Tahy, KolmiceJePresneKolmaARovnobezkaPresneRovnobezna) {
 Utvar PaprsekPres(Bod od, Bod pres) {
     PametovaPlocha plocha(SIRKA_PLOCHY, VYSKA_PLOCHY);
     Tabulky t;
-    KresliPoloprimku(t, plocha, NovyUtvar(t, "A", "X"),
+    KresliPoloprimku(t, plocha, t.NovyUtvar("A", "X"),
                      {.Druh = POLOPRIMKA, .P1 = od, .P2 = pres, .Popis2 = "X"}, ANO);
     return t.Utvary[1];
 }
