@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "rules/Kontrola.h"
-
 namespace rysovna {
 
 using enum Volani::Druh;
@@ -63,10 +61,9 @@ bool NahravanyDialog::Nahraj(Volani volani) {
         const ZapisVet zapis(misc_, priklady_.back().Vety);
         return Proved(*hrany_, volani);
     }();
-    Udalost udalost{.Co = std::move(volani), .Otisk = OtiskTabulek(misc_, *hrany_)};
-    for (int i = chyb + 1; i <= misc_.PocetChybnychKroku; ++i)
-        udalost.Chyby.push_back(misc_.ChybneKroky[i]);
-    priklady_.back().Udalosti.push_back(std::move(udalost));
+    priklady_.back().Udalosti.push_back({.Co = std::move(volani),
+                                         .Chyby = NoveChyby(misc_, chyb),
+                                         .Otisk = OtiskTabulek(misc_, *hrany_)});
     return zasah;
 }
 
@@ -105,8 +102,7 @@ void NahravanyDialog::Posun(int dx, int dy) {
 void NahravanyDialog::Zkontroluj() {
     Nahraj({.Co = Kontrola});
     if (!nahrava_) return;
-    const bool hotova = hrany_->Hotova();
-    priklady_.back().Konec = {.Bodu = BoduPrikladu(misc_, hotova), .Hotova = hotova};
+    priklady_.back().Konec = KonecPrikladu(*hrany_);
     nahrava_ = false;
 }
 

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "rules/Kontrola.h"
+
 namespace rysovna {
 
 namespace {
@@ -61,6 +63,17 @@ bool Proved(Dialog& dialog, const Volani& v) {
             break;
     }
     return true;
+}
+
+std::vector<ChybnyKrok> NoveChyby(const Misc& misc, int dosud) {
+    std::vector<ChybnyKrok> chyby;
+    for (int i = dosud + 1; i <= misc.PocetChybnychKroku; ++i) chyby.push_back(misc.ChybneKroky[i]);
+    return chyby;
+}
+
+HranyPriklad::Vysledek KonecPrikladu(const Dialog& dialog) {
+    const bool hotova = dialog.Hotova();
+    return {.Bodu = BoduPrikladu(dialog.Pamet(), hotova), .Hotova = hotova};
 }
 
 std::uint32_t OtiskTabulek(const Misc& misc, const Dialog& dialog) {

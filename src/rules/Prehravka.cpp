@@ -3,8 +3,6 @@
 #include <exception>
 #include <utility>
 
-#include "rules/Kontrola.h"
-
 namespace rysovna {
 
 namespace {
@@ -59,9 +57,7 @@ void Prehravka::Zadej(const HranyPriklad& p) {
 void Prehravka::Proved(const HranyPriklad& p, const rysovna::Udalost& u) {
     const int pred = misc_.PocetChybnychKroku;
     static_cast<void>(rysovna::Proved(*dialog_, u.Co));
-    std::vector<ChybnyKrok> chyby;
-    for (int i = pred + 1; i <= misc_.PocetChybnychKroku; ++i)
-        chyby.push_back(misc_.ChybneKroky[i]);
+    const std::vector<ChybnyKrok> chyby = NoveChyby(misc_, pred);
     if (Ucty(chyby) != Ucty(u.Chyby)) {
         Rozejdi("účtuje se " + Ucty(chyby) + ", účtovalo se " + Ucty(u.Chyby));
     } else if (chyby != u.Chyby) {
@@ -69,8 +65,7 @@ void Prehravka::Proved(const HranyPriklad& p, const rysovna::Udalost& u) {
     }
     PorovnejTabulky(u.Otisk);
     if (u.Co.Co != Volani::Druh::Kontrola || !p.Konec) return;
-    const bool hotova = dialog_->Hotova();
-    const HranyPriklad::Vysledek konec{.Bodu = BoduPrikladu(misc_, hotova), .Hotova = hotova};
+    const HranyPriklad::Vysledek konec = KonecPrikladu(*dialog_);
     if (konec != *p.Konec) {
         Rozejdi("vychází bodů: " + std::to_string(konec.Bodu) +
                 ", vyšlo: " + std::to_string(p.Konec->Bodu));
