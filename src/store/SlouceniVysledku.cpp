@@ -7,23 +7,10 @@
 #include "store/JmenaSouboru.h"
 #include "store/RadkySouboru.h"
 #include "store/TabulkaVysledku.h"
+#include "store/Vysledek.h"
 
 namespace rysovna {
 namespace {
-
-/// Entries of the log: each ends with a line of equal signs.
-std::vector<std::string> ZapisyDeniku(std::string_view denik) {
-    constexpr std::string_view CARA = "=\r\n";
-    std::vector<std::string> zapisy;
-    while (!denik.empty()) {
-        const std::size_t cara = denik.find(CARA);
-        const std::size_t konec =
-            cara == std::string_view::npos ? denik.size() : cara + CARA.size();
-        zapisy.emplace_back(denik.substr(0, konec));
-        denik.remove_prefix(konec);
-    }
-    return zapisy;
-}
 
 /// Of equal entries here, so many of those to be added are the same ones.
 template <class T, class Pridej>

@@ -1,7 +1,5 @@
 #include "store/Vysledek.h"
 
-#include <string_view>
-
 #include "base/Cisla.h"
 #include "base/Text.h"
 #include "store/Kodovani.h"
@@ -16,6 +14,9 @@ constexpr int SIRKA_DATA = 10;
 constexpr int SIRKA_HRY = 20;
 constexpr int SIRKA_TYPU = 30;
 constexpr int SIRKA_CISLA = 6;
+
+/// The line that ends an entry is made of it.
+constexpr char CARA = '=';
 constexpr std::size_t DELKA_CARY = 75;
 
 }  // namespace
@@ -36,7 +37,7 @@ std::string RadkyDeniku(const Vysledek& v) {
         "Počet příkladů:  " + Dopln(v.Prikladu, SIRKA_CISLA) +
             "   Klad. body: " + Dopln(v.Kladne, SIRKA_CISLA) +
             " Záp. body: " + Dopln(v.Zaporne, SIRKA_CISLA) + "   Známka:  " + v.Znamka,
-        std::string(DELKA_CARY, '='),
+        std::string(DELKA_CARY, CARA),
     };
     std::string zapis;
     for (const std::string& radek : radky) {
@@ -44,6 +45,19 @@ std::string RadkyDeniku(const Vysledek& v) {
         zapis += KONEC_RADKU;
     }
     return Do1250(zapis);
+}
+
+std::vector<std::string> ZapisyDeniku(std::string_view denik) {
+    const std::string konecCary = CARA + std::string(KONEC_RADKU);
+    std::vector<std::string> zapisy;
+    while (!denik.empty()) {
+        const std::size_t cara = denik.find(konecCary);
+        const std::size_t konec =
+            cara == std::string_view::npos ? denik.size() : cara + konecCary.size();
+        zapisy.emplace_back(denik.substr(0, konec));
+        denik.remove_prefix(konec);
+    }
+    return zapisy;
 }
 
 }  // namespace rysovna

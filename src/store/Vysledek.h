@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "base/DatumACas.h"
 
@@ -22,6 +24,10 @@ struct Vysledek {
 
 /// The four lines of the log, as they stand in the file: in its code page, each with its end.
 [[nodiscard]] std::string RadkyDeniku(const Vysledek& vysledek);
+
+/// The entries of a log, each with the line at its end; what is behind the last such line is one
+/// too.
+[[nodiscard]] std::vector<std::string> ZapisyDeniku(std::string_view denik);
 
 /// "9.12.2024" and "08:05".
 [[nodiscard]] std::string TextData(const DatumACas& kdy);
