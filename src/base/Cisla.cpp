@@ -106,6 +106,13 @@ std::string FormatPetMist(double x) {
     return text == "-.00000" ? ".00000" : text;
 }
 
+std::string Sestnactkove(std::uint64_t cislo) {
+    std::string text(16, '0');
+    for (std::size_t i = text.size(); i-- > 0; cislo >>= 4)
+        text[i] = "0123456789abcdef"[cislo & 15];
+    return text;
+}
+
 std::string DveCislice(int cislo) {
     const std::string text = std::to_string(cislo);
     return text.size() < 2 ? "0" + text : text;

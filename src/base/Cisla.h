@@ -42,5 +42,7 @@ std::string FormatPetMist(double x);
 
 /// Two digits with a leading zero, as in the names of a task's files: 1 is "01".
 std::string DveCislice(int cislo);
+/// Sixteen digits of base sixteen: "00000000000000ff".
+std::string Sestnactkove(std::uint64_t cislo);
 
 }  // namespace rysovna

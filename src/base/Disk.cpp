@@ -1,5 +1,10 @@
 #include "base/Disk.h"
 
+#include <cstdint>
+#include <random>
+
+#include "base/Cisla.h"
+
 namespace rysovna {
 
 std::filesystem::path CestaZTextu(std::string_view text) {
@@ -29,6 +34,20 @@ std::string_view TextPriciny(Pricina proc) {
             break;
     }
     return "disk hlásí chybu";
+}
+
+void OdstranPotichu(Disk& disk, const std::filesystem::path& soubor) {
+    try {
+        disk.Odstran(soubor);
+    } catch (const ChybaDisku&) {
+        // Who looks after this folder tries again.
+    }
+}
+
+std::string NahodneCislice() {
+    std::random_device zdroj;
+    const std::uint64_t horni = zdroj();
+    return Sestnactkove(horni << 32 | zdroj());
 }
 
 }  // namespace rysovna

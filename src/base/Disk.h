@@ -146,4 +146,10 @@ public:
     [[nodiscard]] virtual bool Uchovano() { return true; }
 };
 
+/// Takes a file away if it can be: what stays hinders nobody and will go another time.
+void OdstranPotichu(Disk& disk, const std::filesystem::path& soubor);
+
+/// Sixteen digits that no other file has in its name.
+[[nodiscard]] std::string NahodneCislice();
+
 }  // namespace rysovna

@@ -37,6 +37,9 @@ struct CekajiciVysledek {
 /// state folder. Putting an entry in needs no lock, so a program that waits for somebody else keeps
 /// nobody from it; what is in is read, noted and taken out under a lock of the account's programs,
 /// which whoever does so has. Every call throws ChybaDisku.
+///
+/// In the same folder lie attempts that are being played or wait (UkladaniPokusu): files with
+/// another end, each with a lock of its own, which are no entries here.
 class Fronta {
 public:
     /// The folder of the queue below the account's state folder.

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
-#include <random>
 #include <utility>
 
 #include "base/Cisla.h"
@@ -24,12 +23,6 @@ constexpr std::size_t CISLIC = 16;
 constexpr std::size_t DELKA_KONCE = KONEC_ZURNALU.size() + 2 * CISLIC + 3;
 
 constexpr std::string_view PRIPONA_NOVE = ".nove";
-
-std::string Sestnactkove(std::uint64_t cislo) {
-    std::string text(CISLIC, '0');
-    for (std::size_t i = CISLIC; i-- > 0; cislo >>= 4) text[i] = "0123456789abcdef"[cislo & 15];
-    return text;
-}
 
 /// FNV-1a: enough to know a table that came to the disk in part.
 std::uint64_t Soucet(std::string_view bajty) {
@@ -64,14 +57,6 @@ std::string TextRadku(const ZaznamTabulky& z) {
     std::string radek = z.Jmeno + "|" + z.Spravne + "|" + z.Spatne + "|" + z.Znamka;
     radek += KONEC_RADKU;
     return radek;
-}
-
-void OdstranPotichu(Disk& disk, const std::filesystem::path& soubor) {
-    try {
-        disk.Odstran(soubor);
-    } catch (const ChybaDisku&) {
-        // It hinders nobody; whoever stores next tries again.
-    }
 }
 
 }  // namespace
@@ -192,10 +177,8 @@ void OtevrenaTabulka::Potvrd() {
 }
 
 bool OtevrenaTabulka::Vymen(std::string_view nova) {
-    std::random_device nahoda;
-    const std::uint64_t cislo = (std::uint64_t{nahoda()} << 32) | nahoda();
     std::filesystem::path vedle = cesta_;
-    vedle += "." + Sestnactkove(cislo);
+    vedle += "." + NahodneCislice();
     vedle += PRIPONA_NOVE;
     bool vyrobeno = false;
     const bool byla = soubor_ != nullptr;

@@ -1,9 +1,6 @@
 #include "store/UkladaniPokusu.h"
 
-#include <array>
-#include <charconv>
 #include <exception>
-#include <random>
 #include <utility>
 
 #include "base/Cisla.h"
@@ -24,29 +21,6 @@ std::string Den(const DatumACas& d) {
     return std::to_string(d.Rok) + DveCislice(d.Mesic) + DveCislice(d.Den);
 }
 
-/// Sixteen digits that no other file has.
-std::string Nahodne() {
-    std::random_device zdroj;
-    std::string text;
-    for (int i = 0; i < 2; ++i) {
-        std::array<char, 8> cislice{};
-        const auto* const konec =
-            std::to_chars(cislice.data(), cislice.data() + cislice.size(), zdroj(), 16).ptr;
-        const std::string_view cislo(cislice.data(),
-                                     static_cast<std::size_t>(konec - cislice.data()));
-        text.append(cislice.size() - cislo.size(), '0').append(cislo);
-    }
-    return text;
-}
-
-void OdstranPotichu(Disk& disk, const fs::path& soubor) {
-    try {
-        disk.Odstran(soubor);
-    } catch (const ChybaDisku&) {
-        // It will be taken away another time.
-    }
-}
-
 /// A file that nobody has; one that a program which was killed left under this name goes.
 std::unique_ptr<Soubor> NovyCisty(Disk& disk, const fs::path& cesta) {
     try {
@@ -58,14 +32,13 @@ std::unique_ptr<Soubor> NovyCisty(Disk& disk, const fs::path& cesta) {
     return disk.NovySoubor(cesta);
 }
 
-/// Whether nobody writes into a file of the queue any more. Where locks are not kept only what is
-/// of an earlier day is taken for such.
-bool JeOpusteny(Soubor& soubor, bool dnesni) {
+/// Locks a file of the queue: nobody else writes into it then. Where locks are not kept, jinak.
+bool Zamkni(Soubor& soubor, bool jinak) {
     try {
         return soubor.Zamkni();
     } catch (const ChybaDisku& chyba) {
         if (chyba.Proc() != Pricina::NejdeZamek) throw;
-        return !dnesni;
+        return jinak;
     }
 }
 
@@ -87,6 +60,11 @@ UkladaniPokusu::UkladaniPokusu(Disk& disk, std::function<std::uint32_t()> ted,
       koren_(disk.Jednoznacna(koren)),
       fronta_(slozkaStavu.empty() ? fs::path() : Fronta::Slozka(slozkaStavu)) {}
 
+/// What a file in the queue has before the attempt.
+std::string UkladaniPokusu::HlavickaFronty() const {
+    return std::string(KOREN) + NaRadek(koren_.string()) + "\n";
+}
+
 fs::path UkladaniPokusu::Znamka() const {
     return fronta_ / JMENO_ZNAMKY;
 }
@@ -94,7 +72,7 @@ fs::path UkladaniPokusu::Znamka() const {
 void UkladaniPokusu::Zacni(const Pokus& pokus) {
     const DatumACas& d = pokus.Zacatek;
     serie_ = {.Jmeno = Den(d) + "-" + DveCislice(d.Hodina) + DveCislice(d.Minuta) + "-" +
-                       DveCislice(pokus.CisloUlohy) + "-" + Nahodne() + std::string(PRIPONA),
+                       DveCislice(pokus.CisloUlohy) + "-" + NahodneCislice() + std::string(PRIPONA),
               .Text = ZacatekPokusu(pokus),
               .CisloUlohy = pokus.CisloUlohy};
 }
@@ -110,12 +88,12 @@ void UkladaniPokusu::Pridej(const HranyPriklad& priklad) {
 /// memory alone: false.
 bool UkladaniPokusu::Rozepis(Serie& serie) {
     if (fronta_.empty()) return false;
-    const std::string hlavicka = std::string(KOREN) + NaRadek(koren_.string()) + "\n";
+    const std::string hlavicka = HlavickaFronty();
     try {
         if (!serie.Rozepsany) {
             disk_.ZalozSlozku(fronta_);
             serie.Rozepsany = disk_.NovySoubor(fronta_ / serie.Jmeno);
-            static_cast<void>(JeOpusteny(*serie.Rozepsany, true));
+            static_cast<void>(Zamkni(*serie.Rozepsany, true));
         }
         // The whole attempt lies in memory, so what is written of it has a size there too.
         const auto delka = static_cast<std::size_t>(serie.Rozepsany->Delka());
@@ -205,7 +183,7 @@ void UkladaniPokusu::UlozSoubor(const std::string& jmeno, std::string_view text)
         fs::path cil = slozka / jmeno;
         for (int i = 0; !DejJmeno(novy, cil, text); ++i) {
             if (i == NEJVIC_JMEN) throw ChybaDisku(Pricina::UzJe, cil);
-            cil = slozka / (BezPripony(jmeno) + "-" + Nahodne() + std::string(PRIPONA));
+            cil = slozka / (BezPripony(jmeno) + "-" + NahodneCislice() + std::string(PRIPONA));
         }
     } catch (const ChybaDisku&) {
         soubor.reset();
@@ -245,10 +223,11 @@ Cinnost<> UkladaniPokusu::UlozCekajici(std::string jmeno, std::string dnes) {
     const fs::path cesta = fronta_ / jmeno;
     std::unique_ptr<Soubor> soubor = disk_.Otevri(cesta, Disk::Jak::Zapis);
     const bool dnesni = jmeno >= dnes;
-    if (!JeOpusteny(*soubor, dnesni)) co_return;
+    // Without locks only what is of an earlier day is taken for one that nobody writes any more.
+    if (!Zamkni(*soubor, !dnesni)) co_return;
     std::string text = soubor->Cti();
     text.erase(text.rfind('\n') + 1);  // half a line counts for nothing
-    const std::string hlavicka = std::string(KOREN) + NaRadek(koren_.string()) + "\n";
+    const std::string hlavicka = HlavickaFronty();
     if (text.starts_with(hlavicka)) {
         text.erase(0, hlavicka.size());
         if (!MaKonec(text)) text += KonecPokusu(false);

@@ -65,6 +65,7 @@ private:
     [[nodiscard]] bool JeUlozen(const std::filesystem::path& cesta, std::string_view text);
     Cinnost<> UlozCekajici(std::string jmeno, std::string dnes);
     [[nodiscard]] std::string Oznam(const std::string& proc, bool ceka);
+    [[nodiscard]] std::string HlavickaFronty() const;
     [[nodiscard]] std::filesystem::path Znamka() const;
     void ZapomenOznameni();
 

@@ -4,6 +4,7 @@
 #include <ostream>
 #include <utility>
 
+#include "base/Cisla.h"
 #include "platform/Ovladace.h"
 #include "platform/SurfaceVnitrek.h"
 #include "rules/Misc.h"
@@ -16,12 +17,6 @@ namespace {
 
 /// Between two looks at the picture while the game waits, ms: no divisor of its own waits.
 constexpr std::uint32_t TIK = 9;
-
-std::string Sestnactkove(std::uint64_t h) {
-    std::string text;
-    for (int i = 60; i >= 0; i -= 4) text += "0123456789abcdef"[h >> i & 15U];
-    return text;
-}
 
 std::string Chyby(const Misc& misc) {
     std::string vse;
