@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "store/Kodovani.h"
+#include "zak/Rysovani.h"
 
 namespace rysovna::testy {
 namespace {

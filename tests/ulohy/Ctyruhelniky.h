@@ -14,6 +14,7 @@
 #include "rules/LosovaniRovnobezniku.h"
 #include "rules/RovnoDialog.h"
 #include "zak/Ctyruhelnik.h"
+#include "zak/Rysovani.h"
 #include "zak/Trojuhelnik.h"
 
 // What the tests of the quadrilaterals share.

@@ -7,7 +7,7 @@
 #include "base/Cisla.h"
 #include "engine/Tabulky.h"
 #include "rules/Veliciny.h"
-#include "zak/Trojuhelnik.h"
+#include "zak/Rysovani.h"
 
 namespace rysovna::hrac {
 namespace {

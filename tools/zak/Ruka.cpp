@@ -40,10 +40,6 @@ const MistoZnacky& NajdiMisto(std::span<const MistoZnacky> nacrt, std::string_vi
     return *z;
 }
 
-bool NaPlose(Bod b) {
-    return b.X >= 25 && b.Y >= 28 && b.X <= 365 && b.Y <= 310;
-}
-
 int Ruka::Hodnota(std::string_view velicina) const {
     for (const Zadano& z : Zadani()) {
         if (z.Velicina == velicina) return z.Hodnota;

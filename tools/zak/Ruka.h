@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -10,7 +9,6 @@
 
 #include "base/Bod.h"
 #include "rules/Dialog.h"
-#include "zak/Los.h"
 
 namespace rysovna::hrac {
 
@@ -90,10 +88,6 @@ struct MistoZnacky {
 /// Throws for a quantity that is not on the sketch.
 [[nodiscard]] const MistoZnacky& NajdiMisto(std::span<const MistoZnacky> nacrt,
                                             std::string_view velicina);
-
-/// Whether a place is on the plane, far enough from its edges that a press near it misses the
-/// arrows. Plane px.
-[[nodiscard]] bool NaPlose(Bod b);
 
 /// Reads what is given.
 [[nodiscard]] std::vector<Zadano> CtiZadani(const std::vector<ZadanaVelicina>& zadani);

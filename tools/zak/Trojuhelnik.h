@@ -41,12 +41,6 @@ private:
     Strana strana_;
 };
 
-/// A press so many px off a point on either axis still catches it.
-constexpr int CHYTNE = DOSAH_CHYTANI - 1;
-
-/// Where a circle of radius r is let go: to either side, at any height, on the plane if one is.
-[[nodiscard]] Bod NaKruznici(Los& los, Bod stred, int r);
-
 /// A side of the triangle: its ends and the vertex across.
 struct KonceStrany {
     std::string_view Nazev, Od, Do, Treti;
@@ -58,9 +52,5 @@ struct KonceStrany {
 
 /// Where the sketch of a triangle is pressed for a quantity: px of the sketch.
 [[nodiscard]] const MistoZnacky& MistoNaNacrtu(std::string_view velicina);
-
-/// A place at the given whole-number angle, degrees, from the direction rameno1 to rameno2, turned
-/// to the left, whose read-out is exactly that angle; about so far from rameno1, px.
-[[nodiscard]] Bod PodUhlem(Bod rameno1, Bod rameno2, int stupnu, int daleko = 60);
 
 }  // namespace rysovna::hrac
