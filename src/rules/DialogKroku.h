@@ -23,9 +23,6 @@ namespace rysovna {
 constexpr ChybaKroku CHYBA_PAPRSEK_NECEKANY = 18, CHYBA_KOLMICE = 19, CHYBA_ROVNOBEZKA = 20,
                      CHYBA_KRUZNICE_NECEKANA = 21;
 
-/// The names of sides' midpoints, and so of the circles about them, begin with this letter.
-constexpr char STRED_STRANY = 'S';
-
 /// Name of a new object by its kind, as the first and as the second of the two that meet in a
 /// vertex. Of a ray it is the second point.
 struct JmenaUtvaru {
@@ -143,6 +140,8 @@ protected:
     virtual void PosudOdecet(double /*odecet*/) {}
     /// Whether the ray or circle in hand starts at its vertex or centre.
     [[nodiscard]] virtual bool ZacinaSpravne() const;
+    /// Whether the circle in hand may have its centre in the midpoint of a side.
+    [[nodiscard]] virtual bool ChytaStredStrany() const { return false; }
     virtual void NakresliUtvar(Bod konec);
     /// Names that the object in hand goes by, as its prompt says: a base, a centre, the far end of
     /// the angle's other arm.

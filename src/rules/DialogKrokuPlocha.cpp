@@ -50,7 +50,7 @@ Zachyt DialogKroku::ChytPosledni(float x, float y) const {
 }
 
 Zachyt DialogKroku::ChytStred(float x, float y) const {
-    return ZachytNejblizsi(misc_, x, y, Stav().ZvolenyPrvek.starts_with(STRED_STRANY));
+    return ZachytNejblizsi(misc_, x, y, ChytaStredStrany());
 }
 
 Zachyt DialogKroku::ChytZakladnu(float x, float y) const {

@@ -4,6 +4,7 @@
 
 #include "rules/Misc.h"
 #include "rules/RadkyTrojuhelniku.h"
+#include "rules/Ulohy.h"
 
 namespace rysovna {
 
@@ -85,7 +86,14 @@ constexpr ZadaniDruhu ZADANI[] = {
     {"7", {ALFA, Uhel("gama", "beta"), Strana()}},
 };
 
-constexpr int ULOHA_SSS = 1, ULOHA_SUS = 2;
+// By its task the board knows whether a circle is an object that no step expects.
+constexpr int ULOHA_SSS = 1, ULOHA_SUS = 2, ULOHA_USU = 3;
+static_assert(std::ranges::all_of(ULOHY,
+                                  [](const Uloha& u) {
+                                      return u.deska != Deska::Troj1Form || u.Cislo == ULOHA_SSS ||
+                                             u.Cislo == ULOHA_SUS || u.Cislo == ULOHA_USU;
+                                  }),
+              "a task of this board of which it does not know whether a circle is wrong");
 
 }  // namespace
 

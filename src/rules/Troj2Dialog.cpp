@@ -6,6 +6,7 @@
 #include "rules/Misc.h"
 #include "rules/Radky.h"
 #include "rules/RadkyTrojuhelniku.h"
+#include "rules/Ulohy.h"
 
 namespace rysovna {
 
@@ -95,7 +96,17 @@ constexpr PrvniStrana PRVNI_STRANA[] = {{4, &Priklad::Nazev2},
                                         {6, &Priklad::Nazev2},
                                         {7, &Priklad::Nazev3},
                                         {8, &Priklad::Nazev2}};
+static_assert(std::ranges::all_of(ULOHY,
+                                  [](const Uloha& u) {
+                                      return u.deska != Deska::Troj2Form ||
+                                             std::ranges::find(PRVNI_STRANA, u.Cislo,
+                                                               &PrvniStrana::Uloha) !=
+                                                 std::end(PRVNI_STRANA);
+                                  }),
+              "a task of this board without the side to start with");
 
+/// The names of sides' midpoints, and so of the circles about them, begin with this letter.
+constexpr char STRED_STRANY = 'S';
 constexpr std::string_view STRED_USECKY = "Střed úsečky";
 constexpr int DOSAH_STREDU = 5;  // px, on either axis
 
@@ -135,9 +146,13 @@ bool Troj2Dialog::StredVDosahu(std::string_view stred) const {
                        [stred](const Utvar& u) { return u.Jmeno3 == stred; });
 }
 
+bool Troj2Dialog::ChytaStredStrany() const {
+    return Stav().ZvolenyPrvek.starts_with(STRED_STRANY);
+}
+
 bool Troj2Dialog::ZacinaSpravne() const {
+    if (!ChytaStredStrany()) return DialogTrojuhelniku::ZacinaSpravne();
     const std::string& prvek = Stav().ZvolenyPrvek;
-    if (!prvek.starts_with(STRED_STRANY)) return DialogTrojuhelniku::ZacinaSpravne();
     const std::string stred = prvek.substr(0, prvek.size() - 1);
     for (int i = 1; i <= misc_.PocetUtvaru; ++i) {
         const Utvar& u = misc_.Utvary[i];

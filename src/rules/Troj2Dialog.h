@@ -22,6 +22,7 @@ protected:
     [[nodiscard]] bool KruzniceJeChyba(bool krokCekal) const override;
     [[nodiscard]] bool DruhSedi(const Krok& krok, std::string_view druh) const override;
     [[nodiscard]] bool StredVDosahu(std::string_view stred) const override;
+    [[nodiscard]] bool ChytaStredStrany() const override;
     [[nodiscard]] bool ZacinaSpravne() const override;
 };
 
