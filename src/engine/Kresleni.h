@@ -19,9 +19,7 @@ namespace rysovna {
 // Coordinates are whole pixels of the plane. Labels find their places among what is already
 // drawn, so the order of objects matters to the picture.
 
-// What the routine of a kind does not know it leaves alone.
-
-/// What an object is drawn by.
+/// What an object is drawn by. What its kind has no use for the routine leaves alone.
 struct Nakres {
     std::string_view Druh;  ///< kind of object
     Bod P1, P2{};           ///< px of the plane

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "rules/DialogCtyruhelnikuVrchol.h"
 
 namespace rysovna {

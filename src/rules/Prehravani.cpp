@@ -39,7 +39,7 @@ std::uint32_t Doba(Tempo tempo, const KrokPrehravani& k, Volani::Druh co, std::u
 
 Prehravani::Prehravani(Pokus pokus, Platna platna, Tempo tempo, VyrobceDialogu vyrobce)
     : pokus_(std::move(pokus)), platna_(platna), tempo_(tempo), vyrobce_(std::move(vyrobce)) {
-    Rozvrhni(tempo, vyrobce_);
+    Rozvrhni();
     Prejdi(0);
 }
 
@@ -53,10 +53,10 @@ Volani::Druh Prehravani::DruhKroku(std::size_t krok) const {
     return u == nullptr ? Volani::Druh::Kontrola : u->Co.Co;
 }
 
-void Prehravani::Rozvrhni(Tempo tempo, const VyrobceDialogu& vyrobce) {
+void Prehravani::Rozvrhni() {
     PametovaPlocha pic(platna_.Pic.Width(), platna_.Pic.Height());
     PametovaPlocha hiden(platna_.HidenPic.Width(), platna_.HidenPic.Height());
-    Prehravka naSlepo(pokus_, {pic, hiden}, vyrobce);
+    Prehravka naSlepo(pokus_, {pic, hiden}, vyrobce_);
     Panel panel;
     std::uint32_t otisk = 0;
     std::uint32_t kdyZaka = 0;
@@ -80,13 +80,13 @@ void Prehravani::Rozvrhni(Tempo tempo, const VyrobceDialogu& vyrobce) {
                 k.Chyba = !u->Chyby.empty();
                 k.Naprazdno = !k.Chyba && !gesto && u->Co.Co != Volani::Druh::Kontrola &&
                               novy == panel && novyOtisk == otisk;
-                k.Doba = Doba(tempo, k, u->Co.Co, mezera);
+                k.Doba = Doba(tempo_, k, u->Co.Co, mezera);
                 const std::uint32_t cteni = static_cast<std::uint32_t>(chybPredtim) * CTENI_CHYBY;
                 k.Doba = std::max(k.Doba, cteni);
                 if (k.Udalost == 1) k.Doba = std::max(k.Doba, NOVY_PRIKLAD);
                 chybPredtim = u->Chyby.size();
             }
-            if (tempo == Tempo::Zaka && mezera > k.Doba + ZANEDBATELNE)
+            if (tempo_ == Tempo::Zaka && mezera > k.Doba + ZANEDBATELNE)
                 k.Vynechano = mezera - k.Doba;
             k.Kdy = Delka() + k.Doba;
             kroky_.push_back(k);

@@ -78,7 +78,7 @@ public:
     void Zpet();
 
 private:
-    void Rozvrhni(Tempo tempo, const VyrobceDialogu& vyrobce);
+    void Rozvrhni();
     void Prejdi(std::size_t krok);
     [[nodiscard]] Volani::Druh DruhKroku(std::size_t krok) const;
 

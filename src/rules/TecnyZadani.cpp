@@ -82,7 +82,7 @@ constexpr int PAS_PRIMKY = 30, PAS_BODU = 60;
 constexpr int OKRAJ_ROVNOBEZEK = 21;  ///< from the edges at the left and at the top
 
 /// One try: random numbers and the tests, on a plane of a given size.
-struct Pokus {
+struct Losovani {
     int W, H;
     Nahoda& nahoda;
 
@@ -128,7 +128,7 @@ DanyUtvar DanaKruznice(const char* jmeno, Bod s, int r) {
 using Utvary_ = std::vector<DanyUtvar>;
 
 /// "01", "02": k around S and a line.
-bool KruzniceAPrimka(Pokus& p, Utvary_& u) {
+bool KruzniceAPrimka(Losovani& p, Utvary_& u) {
     const int r = p.Cele(30, 30);
     const int sx = Zaokrouhli((p.W - 4 * r) * p.Rnd() + 2 * r);
     const Bod S{sx, Zaokrouhli((p.H - 4 * r) * p.Rnd() + 2 * r)};
@@ -151,7 +151,7 @@ bool KruzniceAPrimka(Pokus& p, Utvary_& u) {
 }
 
 /// "03": S, the segment SA, k.
-bool KruzniceABod(Pokus& p, Utvary_& u) {
+bool KruzniceABod(Losovani& p, Utvary_& u) {
     const int r = p.Cele(30, 30);
     const Bod S = p.VPasu(OKRAJ_FIGURY + r);
     const Bod A = p.VPasu(OKRAJ_FIGURY);
@@ -170,7 +170,7 @@ bool KruzniceABod(Pokus& p, Utvary_& u) {
 }
 
 /// "04": A off a.
-bool BodAPrimka(Pokus& p, Utvary_& u) {
+bool BodAPrimka(Losovani& p, Utvary_& u) {
     const Bod a1 = p.VPasu(PAS_PRIMKY);
     const Bod a2 = p.VPasu(PAS_PRIMKY);
     const Bod A = p.VPasu(PAS_BODU);
@@ -184,7 +184,7 @@ bool BodAPrimka(Pokus& p, Utvary_& u) {
 }
 
 /// "05": AB and a, on which the axis of AB has its crossing D.
-bool UseckaAPrimka(Pokus& p, Utvary_& u) {
+bool UseckaAPrimka(Losovani& p, Utvary_& u) {
     const Bod a1 = p.VPasu(PAS_PRIMKY);
     const Bod a2 = p.VPasu(PAS_PRIMKY);
     const Bod A = p.VPasu(PAS_BODU);
@@ -201,7 +201,7 @@ bool UseckaAPrimka(Pokus& p, Utvary_& u) {
 }
 
 /// "06": AB and a through B. B is the first point of a, so that a press there catches no other.
-bool UseckaATecna(Pokus& p, Utvary_& u) {
+bool UseckaATecna(Losovani& p, Utvary_& u) {
     const Bod A = p.VPasu(PAS_BODU);
     const Bod B = p.VPasu(PAS_BODU);
     const Bod a2 = p.VPasu(PAS_PRIMKY);
@@ -223,7 +223,7 @@ bool VPasmuSmeru(V smer) {
 }
 
 /// "07": parallels a and b, 100 to 200 px apart, and A on a.
-bool DveRovnobezky(Pokus& p, Utvary_& u) {
+bool DveRovnobezky(Losovani& p, Utvary_& u) {
     constexpr int POKUSU_O_ROVNOBEZKU = 50;
     constexpr int NEJBLIZ = 100, NEJDAL = 200;
     const Bod a1 = p.VPasu(PAS_PRIMKY);
@@ -248,7 +248,7 @@ bool DveRovnobezky(Pokus& p, Utvary_& u) {
 }
 
 /// "08": a with A on it, and b that meets the perpendicular through A.
-bool DvePrimky(Pokus& p, Utvary_& u) {
+bool DvePrimky(Losovani& p, Utvary_& u) {
     const Bod a1 = p.VPasu(PAS_PRIMKY);
     const Bod a2 = p.VPasu(PAS_PRIMKY);
     const Bod b1 = p.VPasu(PAS_PRIMKY);
@@ -268,7 +268,7 @@ bool DvePrimky(Pokus& p, Utvary_& u) {
 }
 
 /// "09": concentric k1 (the inner one) and k2, their centre, A on k1.
-bool SoustredneKruznice(Pokus& p, Utvary_& u) {
+bool SoustredneKruznice(Losovani& p, Utvary_& u) {
     const int r1 = p.Cele(30, 30);
     const int R = r1 + p.Cele(50, 0);
     if (R - r1 < ROZESTUP_FIGURY) return false;
@@ -292,7 +292,7 @@ bool SoustredneKruznice(Pokus& p, Utvary_& u) {
 
 struct Vyrobce {
     std::string_view Kod;
-    bool (*Zkus)(Pokus&, Utvary_&);
+    bool (*Zkus)(Losovani&, Utvary_&);
 };
 constexpr Vyrobce VYROBCI[] = {
     {"01", KruzniceAPrimka}, {"02", KruzniceAPrimka}, {"03", KruzniceABod},
@@ -338,10 +338,10 @@ Figura VylosujFiguru(std::string_view kod, int sirka, int vyska, Nahoda& nahoda)
     Figura f;
     const auto* v = std::ranges::find(VYROBCI, kod, &Vyrobce::Kod);
     if (v == std::end(VYROBCI)) return f;
-    Pokus pokus{sirka, vyska, nahoda};
+    Losovani losovani{sirka, vyska, nahoda};
     do {
         ++f.Pokusu;
-    } while (!v->Zkus(pokus, f.Utvary));
+    } while (!v->Zkus(losovani, f.Utvary));
     return f;
 }
 

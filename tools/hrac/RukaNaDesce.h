@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "hrac/Relace.h"
-#include "hrac/RukaNaDesce.h"
 #include "screens/DeskaForm.h"
 #include "zak/Ruka.h"
 
