@@ -19,6 +19,12 @@ sestav_balik() (
         sed -i "1s/([^)]*)/($3)/" "$prace/debian/changelog"
     fi
     verze="$(dpkg-parsechangelog -l "$prace/debian/changelog" -S Version)"
+    # Attempts and the other homes bear the program's own.
+    programu="$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)"
+    if [ -z "${3:-}" ] && [ "$verze" != "$programu" ]; then
+        echo "V $zdroj/changelog je verze $verze, v CMakeLists.txt $programu." >&2
+        exit 1
+    fi
     SOURCE_DATE_EPOCH="${SOURCE_DATE_EPOCH:-$(dpkg-parsechangelog -l "$prace/debian/changelog" -S Timestamp)}"
     export SOURCE_DATE_EPOCH
     datum="$(date -u -d "@$SOURCE_DATE_EPOCH" +%Y-%m-%d)"

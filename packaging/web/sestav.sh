@@ -15,5 +15,9 @@ sestav_web() {
         -DRYSOVNA_TESTY=OFF "-DRYSOVNA_HOTOVE=$hotove" "-DCMAKE_FIND_ROOT_PATH=$knihovny" \
         ${WEB_VOLBY:-} >"$web.cmake.log" 2>&1 || { cat "$web.cmake.log" >&2; return 1; }
     ninja -C "$web" "$@"
-    [ $# -gt 0 ] || node packaging/web/zabal.mjs "$hotove" "$web/src" packaging/web "$web/stranka"
+    [ $# -eq 0 ] || return 0
+    # shellcheck source=packaging/ikona/ikona.sh
+    . packaging/ikona/ikona.sh
+    ikona_svg velka >"$web/src/ikona.svg"
+    node packaging/web/zabal.mjs "$hotove" "$web/src" packaging/web "$web/stranka"
 }

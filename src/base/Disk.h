@@ -16,9 +16,9 @@ namespace rysovna {
 /// other way is path::string().
 [[nodiscard]] std::filesystem::path CestaZTextu(std::string_view text);
 
-/// How the name of a file ends that is still being written and gets its own name when it is whole,
-/// and the name of one that holds nothing but a lock. Nobody else's are these: what keeps files
-/// elsewhere leaves them out.
+/// How the name of an entry of the queue or of an attempt ends that is still being written and gets
+/// its own name when it is whole, and the name of a file that holds nothing but a lock: what keeps
+/// files elsewhere leaves these out. (A score table that is being written bears a name of its own.)
 constexpr std::string_view PRIPONA_NOVEHO = ".novy", JMENO_ZAMKU = "zamek";
 
 /// Why the disk did not do what it was asked for.

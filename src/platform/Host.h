@@ -26,9 +26,9 @@ constexpr RezimObrazovky REZIM_HRY{.Sirka = 640, .Vyska = 480, .Barvy = 16};
 enum class Styl : int { Ok = 0, Stop = 16, OtazkaAnoNe = 36 };
 enum class Odpoved : int { Ok = 1, Ano = 6, Ne = 7 };
 
-/// All that the program wants from a machine. There are two full hosts: the window and the
-/// headless one. The program asks no clock, no screen and no sound device but through here. The
-/// loop is no part of it: see Smycka.
+/// All that the program wants from a machine. There are three: the window, a browser's page
+/// and the headless one. The program asks no clock, no screen and no sound device but through here.
+/// The loop is no part of it: see Smycka.
 class Host : public SmiCekat {
 public:
     Host();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -27,8 +28,9 @@ struct Volani {
         Pusteni,       ///< X, Y
         Nacrt,         ///< X, Y
         Posunuti,      ///< O: by how much, px
-        Kontrola       ///< no argument
+        Kontrola       ///< no argument; the last one
     };
+    static constexpr std::size_t DRUHU = static_cast<std::size_t>(Druh::Kontrola) + 1;
     Druh Co = Druh::Kontrola;
     std::uint32_t Kdy = 0;  ///< ms from the beginning of the series
     int Cislo = 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <iterator>
 #include <utility>
 
 #include "engine/PametovaPlocha.h"
@@ -27,6 +28,7 @@ constexpr struct {
     {Volani::Druh::Nacrt, 250, 2000},     {Volani::Druh::Posunuti, 250, 1500},
     {Volani::Druh::Kontrola, 250, 3000},
 };
+static_assert(std::size(DOBY) == Volani::DRUHU, "a kind of call without its times");
 
 /// The same of a call; of what nothing comes of a teacher shows nothing.
 std::uint32_t Doba(Tempo tempo, const KrokPrehravani& k, Volani::Druh co, std::uint32_t mezera) {

@@ -112,7 +112,6 @@ public:
     /// Puts the example that the board shows on paper; gives what is to be said of it, in two rows
     /// of so many px of a font.
     [[nodiscard]] RadkyRady NaPapir(const HlavickaPapiru& hlavicka, const Pismo& pismo, int sirka);
-    /// Examples of the series still to be played, this one included.
     /// What the guide line says, and what it was computed from.
     [[nodiscard]] const Rada& RadaTed() const { return rada_; }
     [[nodiscard]] const Videne& VidenoTed() const { return videne_; }

@@ -43,11 +43,7 @@ void Zapis(Disk& disk, const fs::path& cesta, const std::string& obsah) {
         soubor->NaDisk();
     } catch (const ChybaDisku&) {
         soubor.reset();
-        try {
-            disk.Odstran(cesta);
-        } catch (const ChybaDisku&) {
-            // The first one is the one that is told.
-        }
+        OdstranPotichu(disk, cesta);  // the first fault is the one that is told
         throw;
     }
 }

@@ -157,7 +157,7 @@ std::vector<CekajiciVysledek> Fronta::Cekajici(const std::string& koren) {
     std::vector<CekajiciVysledek> cekajici;
     for (const std::string& jmeno : disk_.Jmena(slozka_)) {
         const fs::path cesta = slozka_ / jmeno;
-        if (JeOpusteny(jmeno)) static_cast<void>(Zmizel(disk_, cesta));
+        if (JeOpusteny(jmeno)) OdstranPotichu(disk_, cesta);
         if (!JeZaznam(jmeno)) continue;
         try {
             const std::string text = disk_.Otevri(cesta, Disk::Jak::Cteni)->Cti();
@@ -191,7 +191,7 @@ void Fronta::Zarad(CekajiciVysledek& v) {
         // Others see it whole or not at all.
         disk_.Nahrad(novy, cesta);
     } catch (const ChybaDisku&) {
-        static_cast<void>(Zmizel(disk_, novy));
+        OdstranPotichu(disk_, novy);
         // One that may be there and cannot be taken away must keep being noted in.
         v.Nejisty = nahrazeno && !Zmizel(disk_, cesta);
         if (v.Nejisty) v.Soubor_ = cesta;

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <iterator>
 #include <stdexcept>
 #include <utility>
 
@@ -52,6 +53,7 @@ constexpr struct RadekVolani {
     {Volani::Druh::Posunuti, "posun", Udaje::Posun},
     {Volani::Druh::Kontrola, "kontrola", Udaje::Zadne},
 };
+static_assert(std::size(VOLANI) == Volani::DRUHU, "a kind of call without its line");
 
 /// A line, its end included: what is given, with blanks between.
 std::string PisRadek(std::string_view slovo, std::initializer_list<std::string> udaje) {

@@ -13,6 +13,7 @@
 #include "Pravidla.h"
 #include "Prevod.h"
 #include "rules/KatalogChyb.h"
+#include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
@@ -23,8 +24,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t NEJVIC_PRIKLADU = 100;
-constexpr std::size_t RADKU_ZNAMEK = 5;
+// As many as the session has room for.
+constexpr std::size_t NEJVIC_PRIKLADU = decltype(Misc::Priklady)::POSLEDNI;
+constexpr std::size_t RADKU_ZNAMEK = decltype(Misc::ZnamkyTab)::POSLEDNI;
 constexpr std::size_t KROK_KODU = 4;
 
 /// The search of one file.

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <algorithm>
+#include <initializer_list>
 #include <span>
 #include <string_view>
 
 #include "engine/Tabulky.h"
 #include "rules/SlovaKroku.h"
 #include "rules/TecnyKroky.h"
+#include "rules/Ulohy.h"
 #include "rules/VetaTrojuhelniku.h"
 
 // What a task file must hold, as tables. A task with kinds of its own adds rows here.
@@ -273,5 +276,41 @@ constexpr PravidloReseni RESENI[]{
     {Nastroj::Primka, PRIMKA, false},         {Nastroj::Kolmice, KOLMICE, false},
     {Nastroj::Rovnobezka, ROVNOBEZKA, false}, {Nastroj::Kruznice, KRUZNICE, false},
 };
+
+// ---- No task without its rules ---------------------------------------------------------------
+
+/// Whether each task of these boards has a row that is about it.
+template <class Tabulka, class JeJeji>
+constexpr bool MaKazda(std::initializer_list<Deska> desky, const Tabulka& tabulka, JeJeji jeJeji) {
+    return std::ranges::all_of(ULOHY, [&](const Uloha& u) {
+        return std::ranges::find(desky, u.deska) == desky.end() ||
+               std::ranges::any_of(tabulka, [&](const auto& r) { return jeJeji(r, u.Cislo); });
+    });
+}
+constexpr auto V_ROZMEZI = [](const auto& r, int uloha) {
+    return r.UlohaOd <= uloha && uloha <= r.UlohaPo;
+};
+constexpr auto JEDNE = [](const auto& r, int uloha) { return r.Uloha == uloha; };
+
+static_assert(MaKazda({Deska::Troj1Form, Deska::Troj2Form, Deska::CtyrUForm, Deska::RovnoForm,
+                       Deska::LichoForm, Deska::TecnyForm},
+                      DRUHY, V_ROZMEZI),
+              "a task whose kinds the checker does not know");
+static_assert(MaKazda({Deska::Troj1Form, Deska::Troj2Form, Deska::CtyrUForm, Deska::RovnoForm,
+                       Deska::LichoForm},
+                      JEDNOTKY, V_ROZMEZI),
+              "a task of quantities whose units are not checked");
+static_assert(MaKazda({Deska::Troj1Form, Deska::Troj2Form}, POLE, V_ROZMEZI),
+              "a triangle's task whose words are not checked");
+static_assert(MaKazda({Deska::Troj2Form}, PRVNI_STRANY, JEDNE) &&
+                  MaKazda({Deska::Troj2Form}, PATRI_KE_STRANE, JEDNE),
+              "a task of that board without the side to start with");
+static_assert(MaKazda({Deska::CtyrUForm, Deska::RovnoForm, Deska::LichoForm}, SKUPINY,
+                      [](const PravidloSkupiny& r, int uloha) {
+                          return std::ranges::find(r.Ulohy, uloha) != std::end(r.Ulohy);
+                      }),
+              "a quadrilateral's task whose kinds are not checked");
+static_assert(MaKazda({Deska::CtyrUForm, Deska::LichoForm}, ROVNOBEZEK, JEDNE),
+              "a quadrilateral's task of which it is not said how many parallelisms it has");
 
 }  // namespace rysovna::kodovani
