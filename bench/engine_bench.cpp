@@ -2,12 +2,16 @@
 #include <string>
 
 #include "Mereni.h"
+#include "base/Pixely.h"
+#include "base/Rastr.h"
 #include "engine/Kresleni.h"
 #include "engine/PametovaPlocha.h"
 #include "engine/Prekresleni.h"
 #include "engine/Tabulky.h"
 #include "engine/VolneMisto.h"
 #include "hrac/Relace.h"
+#include "platform/Bitmapa.h"
+#include "platform/Pisma.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/ProsteHledani.h"
 #include "podpora/ZaznamPlane.h"
@@ -93,32 +97,77 @@ BENCHMARK_CAPTURE(HledaniMista, nejhorsi, &Nejhorsi);
 BENCHMARK_CAPTURE(HledaniMista, druha_volna, &DruhaVolna);
 BENCHMARK_CAPTURE(HledaniMista, cerna, &Cerna);
 
+/// Sets the pixels of a line or circle in a bitmap.
+auto Vybarvi(const Vyhled& cil) {
+    return [cil](const Obdelnik& o) {
+        VyplnRadky(cil.Radka(o.Top) + o.Left, cil.Krok, o.Width, o.Height, DoPixelu(CERNA));
+    };
+}
+
+/// A bitmap that is drawn on as a board's plane is, with no list beside it.
+struct HolaPlocha {
+    HolaPlocha(int sirka, int vyska, Pismo pismo)
+        : Bity(sirka, vyska, DoPixelu(BILA)), Font(pismo) {}
+    void Cls() {
+        const Vyhled cil = Bity.Pohled();
+        cil.Vypln(cil.Meze(), DoPixelu(BILA));
+    }
+    void Line(float x1, float y1, float x2, float y2) {
+        const Vyhled cil = Bity.Pohled();
+        RastrUsecka(x1, y1, x2, y2, DrawWidth, cil.Meze(), Vybarvi(cil));
+    }
+    void Circle(float x, float y, float r) {
+        const Vyhled cil = Bity.Pohled();
+        RastrKruznice(x, y, r, DrawWidth, cil.Meze(), Vybarvi(cil));
+    }
+    void Print(std::string_view text) {
+        const Vyhled cil = Bity.Pohled();
+        KresliText(cil, cil.Meze(), CurrentX, CurrentY, 1, Font, text, DoPixelu(CERNA),
+                   Hladkost::Logicka);
+    }
+    void Prevezmi(const HolaPlocha& zdroj) {
+        const Vyhled cil = Bity.Pohled();
+        Prenes(cil, cil.Meze(), cil.Meze(), zdroj.Bity, 0, 0, Prenos::Kopie);
+    }
+
+    Bitmapa Bity;
+    Pismo Font;
+    int DrawWidth = 1;
+    float CurrentX = 0, CurrentY = 0;
+};
+
+/// The same for texts that are blocks.
+struct HolaPamet : PametovaPlocha {
+    using PametovaPlocha::PametovaPlocha;
+    void Prevezmi(const HolaPamet& zdroj) {
+        BitBlt(0, 0, zdroj.Width(), zdroj.Height(), zdroj, 0, 0, Rop::SrcCopy);
+    }
+};
+
 /// Redraw of 100 objects of all kinds, with the counter ku_samotnym_caram: how many times longer
-/// it takes than the same clearing, lines, circles, texts and three copies on planes in memory,
-/// which keep no list, with no label search.
-void Prekresleni(benchmark::State& state, Plane& hiden, Plane& pic) {
+/// it takes than the same clearing, lines, circles, texts and three copies on bare planes, which
+/// keep no list, with no label search.
+template <class Hola>
+void Prekresleni(benchmark::State& state, Plane& hiden, Plane& pic, Hola zdroj, Hola cil) {
     Tabulky t;
     NakresliNahodne(t, pic, 100, 1);
     ZaznamPlane zaznam(pic.Width(), pic.Height());
     PrekresliVse(t, zaznam, pic);
 
     const auto vse = [&] { PrekresliVse(t, hiden, pic); };
-    PametovaPlocha zdroj(hiden.Width(), hiden.Height()), cil(pic.Width(), pic.Height());
     const auto samotne = [&] {
-        Plane& plane = zdroj;
-        plane.Cls();
+        zdroj.Cls();
         for (const auto& c : zaznam.carky) {
-            plane.DrawWidth = c.pero;
-            plane.Line(c.x1, c.y1, c.x2, c.y2);
+            zdroj.DrawWidth = c.pero;
+            zdroj.Line(c.x1, c.y1, c.x2, c.y2);
         }
-        for (const auto& k : zaznam.kruhy) plane.Circle(k.x, k.y, k.r);
+        for (const auto& k : zaznam.kruhy) zdroj.Circle(k.x, k.y, k.r);
         for (const auto& n : zaznam.napisy) {
-            plane.CurrentX = n.x;
-            plane.CurrentY = n.y;
-            plane.Print(n.text);
+            zdroj.CurrentX = n.x;
+            zdroj.CurrentY = n.y;
+            zdroj.Print(n.text);
         }
-        for (int i = 0; i < 3; ++i)
-            cil.BitBlt(0, 0, zdroj.Width(), zdroj.Height(), zdroj, 0, 0, Rop::SrcCopy);
+        for (int i = 0; i < 3; ++i) cil.Prevezmi(zdroj);
     };
     const double pomer = PomerCasu(vse, samotne);
     for (auto _ : state) vse();
@@ -129,7 +178,8 @@ void Prekresleni(benchmark::State& state, Plane& hiden, Plane& pic) {
 /// On the planes in memory that the rules' tests play on: a label is a few filled blocks there.
 void PrekresleniVPameti(benchmark::State& state) {
     PametovaPlocha hiden(SIRKA_PLOCHY, VYSKA_PLOCHY), pic(SIRKA_PLOCHY, VYSKA_PLOCHY);
-    Prekresleni(state, hiden, pic);
+    const HolaPamet hola(SIRKA_PLOCHY, VYSKA_PLOCHY);
+    Prekresleni(state, hiden, pic, hola, hola);
 }
 BENCHMARK(PrekresleniVPameti)->Unit(benchmark::kMicrosecond);
 
@@ -138,8 +188,9 @@ void PrekresleniDesky(benchmark::State& state) {
     hrac::Relace hra;
     hra.Start();
     hra.SpustUlohu(1);
-    Prekresleni(state, hra.Prvek<PictureBox>("HidenPic").Plocha(),
-                hra.Prvek<PictureBox>("Pic").Plocha());
+    Plane& hiden = hra.Prvek<PictureBox>("HidenPic").Plocha();
+    const HolaPlocha hola(SIRKA_PLOCHY, VYSKA_PLOCHY, hiden.Font);
+    Prekresleni(state, hiden, hra.Prvek<PictureBox>("Pic").Plocha(), hola, hola);
 }
 BENCHMARK(PrekresleniDesky)->Unit(benchmark::kMicrosecond);
 

@@ -62,7 +62,7 @@ template <class P>
     if (pocet - i >= 16) dalsich(std::integral_constant<int, 16>{});
     if (pocet - i >= 8) dalsich(std::integral_constant<int, 8>{});
     if (i == pocet) return bity;
-    if (pocet >= 8) {
+    if (pocet >= 8 && pocet - i > 2) {
         i = pocet - 8;
         dalsich(std::integral_constant<int, 8>{});
     } else {

@@ -85,7 +85,8 @@ struct Ramena {
 };
 
 Ramena RamenaKrize(const Sektor& sektor, float smer) {
-    const double t = Tan(static_cast<double>(smer));
+    const bool sikmy = sektor.kriz == Kriz::Tangens || sektor.kriz == Kriz::Kotangens;
+    const double t = sikmy ? Tan(static_cast<double>(smer)) : 0;
     Ramena ramena{};
     switch (sektor.kriz) {
         case Kriz::Vodorovny:
