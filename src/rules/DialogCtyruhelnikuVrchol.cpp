@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "rules/Chyby.h"
+#include "rules/FiguraCtyruhelniku.h"
 #include "rules/LosovaniCtyruhelniku.h"
 #include "rules/Misc.h"
 #include "rules/Uzavreni.h"
@@ -25,12 +26,6 @@ struct RadekStredu {
 constexpr RadekStredu KRUZNICE_RADKY[] = {
     {"KA", "A", 32}, {"KB", "B", 33}, {"KC", "C", 34}, {"KD", "D", 46}};
 
-/// The height upon a side.
-struct VyskaStrany {
-    std::string_view Strana, Vyska;
-};
-constexpr VyskaStrany VYSKY[] = {{"AB", "vc"}, {"BC", "va"}, {"CD", "vb"}, {"DA", "vd"}};
-
 /// What a read-out costs that is not the expected value.
 struct CenaOdectu {
     std::string_view Druh;
@@ -40,24 +35,7 @@ constexpr CenaOdectu CENY_ODECTU[] = {{POLOPRIMKA, 30}, {KRUZNICE, 126}};
 
 constexpr ChybaKroku CHYBA_PAPRSEK_PRVEK = 49;
 
-constexpr int STRAN_TROJUHELNIKU = 3;
-
 }  // namespace
-
-std::string CtvrtePismeno(std::string_view trojuhelnik) {
-    if (trojuhelnik.size() != STRAN_TROJUHELNIKU) return "";
-    for (const char pismeno : {'A', 'B', 'C', 'D'}) {
-        if (trojuhelnik.find(pismeno) == std::string_view::npos) return {pismeno};
-    }
-    return "";
-}
-
-std::string_view VyskaNaStranu(std::string_view strana) {
-    for (const VyskaStrany& v : VYSKY) {
-        if (v.Strana == strana) return v.Vyska;
-    }
-    return {};
-}
 
 std::vector<Zadana> DialogCtyruhelnikuVrchol::Zadane() const {
     std::vector<Zadana> zadane = DialogCtyruhelniku::Zadane();

@@ -54,10 +54,4 @@ private:
     const PravidlaVrcholu& vrchol_;
 };
 
-/// The letter of the quadrilateral that its starting triangle lacks; empty for no such triangle.
-[[nodiscard]] std::string CtvrtePismeno(std::string_view trojuhelnik);
-
-/// The height upon a side named by its letters ("vc" for AB); empty for what is no side.
-[[nodiscard]] std::string_view VyskaNaStranu(std::string_view strana);
-
 }  // namespace rysovna

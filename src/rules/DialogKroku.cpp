@@ -7,6 +7,7 @@
 #include "engine/Prekresleni.h"
 #include "rules/Chyby.h"
 #include "rules/Misc.h"
+#include "rules/SlovaKroku.h"
 
 namespace rysovna {
 
@@ -180,9 +181,7 @@ void DialogKroku::ZacniPrimku(const std::string& jmena, const std::string& nazev
     misc_.VybranyUtvar = UtvarSeJmeny(misc_, jmena);
     ZacniUtvar(jmeno, "");
     if (Stav().ZvolenyUtvar == ROVNOBEZKA) {
-        return Vyzvi(
-            "přímka " + jmeno + ", " + jmeno + "||" + nazev + ", |" + jmeno + "," + nazev + "| = ",
-            " cm");
+        return Vyzvi(NazevRovnobezky(jmeno, nazev) + ", |" + jmeno + "," + nazev + "| = ", " cm");
     }
     Upravit().Rysovane = {NazevKolmice(jmeno, nazev), {}, ""};
 }

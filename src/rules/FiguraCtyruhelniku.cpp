@@ -1,5 +1,5 @@
-// The figures of the quadrilaterals before anything is drawn: whether values make one, and whether
-// it fits the plane and can be read.
+// The figures of the quadrilaterals: their letters, heights and places, and before anything is
+// drawn whether values make one, and whether it fits the plane and can be read.
 
 #include "rules/FiguraCtyruhelniku.h"
 
@@ -26,6 +26,12 @@ constexpr double DALEKO_PO_PAPRSKU = 10000;  // px, so that rounding does not be
 
 // A figure that can be read: its points this far apart, px, its sides at such an angle, degrees.
 constexpr double ROZESTUP_BODU = 30, NEJMENSI_UHEL = 12;
+
+/// The height upon a side.
+struct VyskaStrany {
+    std::string_view Strana, Vyska;
+};
+constexpr VyskaStrany VYSKY[] = {{"AB", "vc"}, {"BC", "va"}, {"CD", "vb"}, {"DA", "vd"}};
 
 bool Blizko(Bod b) {
     return std::abs(b.X) <= DALEKO && std::abs(b.Y) <= DALEKO;
@@ -126,6 +132,21 @@ bool JeCitelna(std::span<const Bod> body, std::span<const std::array<Bod, 4>> ct
         }
         return true;
     });
+}
+
+std::string CtvrtePismeno(std::string_view trojuhelnik) {
+    if (trojuhelnik.size() != 3) return "";
+    for (const char pismeno : {'A', 'B', 'C', 'D'}) {
+        if (trojuhelnik.find(pismeno) == std::string_view::npos) return {pismeno};
+    }
+    return "";
+}
+
+std::string_view VyskaNaStranu(std::string_view strana) {
+    for (const VyskaStrany& v : VYSKY) {
+        if (v.Strana == strana) return v.Vyska;
+    }
+    return {};
 }
 
 }  // namespace rysovna

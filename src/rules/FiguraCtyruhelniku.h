@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "base/Bod.h"
@@ -31,6 +32,12 @@ namespace rysovna {
 [[nodiscard]] char Protejsi(char vrchol);
 /// Where a point's image in the centre is.
 [[nodiscard]] Bod ObrazVeStredu(Bod vzor, Bod stred);
+
+/// The letter of the quadrilateral that its starting triangle lacks; empty for no such triangle.
+[[nodiscard]] std::string CtvrtePismeno(std::string_view trojuhelnik);
+
+/// The height upon a side named by its letters ("vc" for AB); empty for what is no side.
+[[nodiscard]] std::string_view VyskaNaStranu(std::string_view strana);
 
 /// Whether a pupil can tell the points of a figure apart and see its angles: all points (vertices
 /// of both solutions, the centre) lie at least 30 px apart, and neighbouring sides of each

@@ -1,8 +1,5 @@
 #include "rules/Kontrola.h"
 
-#include <string>
-
-#include "base/Chyba.h"
 #include "base/Cisla.h"
 #include "rules/Chyby.h"
 
@@ -27,19 +24,6 @@ Verdikt Vyuctuj(Misc& misc, bool hotova) {
     misc.ZaporneBody = Bajt(misc.ZaporneBody + BODU_ZA_PRIKLAD - bodu);
     misc.KladneBody = Bajt(misc.KladneBody + bodu);
     return hotova && misc.SoucetZapornychBodu == 0 ? Verdikt::Bezchybne : Verdikt::SChybami;
-}
-
-std::string UrciZnamku(const Misc& misc, int kladne, int celkem) {
-    const double citatel = Bajt(kladne);
-    const double jmenovatel = Bajt(celkem);
-    if (jmenovatel == 0) Selhani("Dělení nulou");
-    const double procenta = citatel / jmenovatel * 100;
-    std::string znamka;
-    for (int i = 1; i <= decltype(Misc::ZnamkyTab)::POSLEDNI; ++i) {
-        const auto& [dolni, horni, stupen] = misc.ZnamkyTab[i];
-        if (!(procenta > horni) && !(procenta < dolni)) znamka = TextBezMezery(stupen);
-    }
-    return znamka;
 }
 
 }  // namespace rysovna

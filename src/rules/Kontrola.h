@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "rules/KatalogChyb.h"
 #include "rules/Misc.h"
 
@@ -27,9 +25,5 @@ enum class Verdikt { Bezchybne, SChybami };
 
 /// Settles the example by its penalty sum: plus and minus points of the session, 10 together.
 Verdikt Vyuctuj(Misc& misc, bool hotova);
-
-/// The grade, as text, for points won of all points. Of rows that overlap the last wins; a
-/// percentage that no row covers gives the empty text. Both are bytes; celkem 0 is a fault.
-[[nodiscard]] std::string UrciZnamku(const Misc& misc, int kladne, int celkem);
 
 }  // namespace rysovna

@@ -9,7 +9,6 @@
 #include "base/Cisla.h"
 #include "base/Matematika.h"
 #include "engine/Resitele.h"
-#include "rules/DialogCtyruhelnikuVrchol.h"
 #include "rules/FiguraCtyruhelniku.h"
 #include "rules/Misc.h"
 #include "rules/Uzavreni.h"

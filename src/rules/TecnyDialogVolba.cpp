@@ -7,7 +7,6 @@
 #include "rules/Misc.h"
 #include "rules/SlovaKroku.h"
 #include "rules/TecnyDialog.h"
-#include "rules/Veliciny.h"
 
 namespace rysovna {
 
@@ -212,9 +211,8 @@ bool TecnyDialog::JeVzata(int radek) const {
 void TecnyDialog::ZvolPrimku(const std::string& zaklad) {
     stav_.Zakladna = NajdiCaru(misc_, zaklad);
     misc_.VybranyUtvar = stav_.Zakladna;
-    stav_.Rysovane = stav_.VRuce == Nastroj::Rovnobezka
-                         ? "přímka " + stav_.Jmeno + ", " + stav_.Jmeno + "||" + zaklad
-                         : NazevKolmice(stav_.Jmeno, zaklad);
+    stav_.Rysovane = stav_.VRuce == Nastroj::Rovnobezka ? NazevRovnobezky(stav_.Jmeno, zaklad)
+                                                        : NazevKolmice(stav_.Jmeno, zaklad);
 }
 
 void TecnyDialog::ZvolKruznici(const KrokTecny& krok, const std::string& stred) {

@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "base/Cisla.h"
-#include "rules/Panel.h"
 
 namespace rysovna {
 
@@ -47,11 +46,6 @@ std::string SymbolUhlu(std::string_view nazev) {
 
 std::string TextHodnoty(int hodnota, std::string_view jednotka, bool posledni) {
     return "= " + TextCisla(hodnota) + " " + std::string(jednotka) + (posledni ? "" : ", ");
-}
-
-std::string NazevKolmice(std::string_view jmeno, std::string_view zaklad) {
-    const std::string j(jmeno);
-    return "přímka " + j + ", " + j + " " + std::string(KOLMO) + " " + std::string(zaklad);
 }
 
 }  // namespace rysovna

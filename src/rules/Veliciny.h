@@ -25,7 +25,4 @@ struct Zadana {
 /// sign, the unit, and ", " unless it is the last.
 [[nodiscard]] std::string TextHodnoty(int hodnota, std::string_view jednotka, bool posledni);
 
-/// How the object in hand is called that stands upright on another: "přímka b, b ⊥ AB".
-[[nodiscard]] std::string NazevKolmice(std::string_view jmeno, std::string_view zaklad);
-
 }  // namespace rysovna

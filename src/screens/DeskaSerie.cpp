@@ -5,6 +5,7 @@
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "rules/Kontrola.h"
+#include "rules/Znamka.h"
 #include "screens/ChybovyForm.h"
 #include "screens/DeskaForm.h"
 #include "screens/Spolecne.h"

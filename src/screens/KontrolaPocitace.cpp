@@ -12,8 +12,8 @@
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/SeznamAssetu.h"
-#include "store/Cesty.h"
 #include "store/JmenaSouboru.h"
+#include "store/Nastaveni.h"
 #include "store/RadkySouboru.h"
 #include "store/Soubory.h"
 
@@ -94,17 +94,18 @@ void ZkontrolujAssety(const std::string& slozka, std::vector<Nalez>& nalezy) {
 
 std::vector<Nalez> ZkontrolujPocitac(const KontrolovanyStroj& stroj) {
     std::vector<Nalez> nalezy;
-    const Cesty cesty = CtiCesty(stroj.disk, stroj.SlozkaNastaveni, stroj.SlozkaDat);
-    const bool uplne = !cesty.CD.empty() && !cesty.HD.empty();
+    const Nastaveni nastaveni = CtiNastaveni(stroj.disk, stroj.SlozkaNastaveni, stroj.SlozkaDat);
+    const bool uplne = !nastaveni.CD.empty() && !nastaveni.HD.empty();
     nalezy.push_back({uplne ? VPoradku : Chyba, "Nastavení",
                       (stroj.disk.Skutecna(stroj.SlozkaNastaveni) / JMENO_INI).string() +
                           (uplne ? "" : ": chybí, nebo v něm není klíč CD nebo HD")});
     Zkus(nalezy, "Obrazovka", Chyba, stroj.Obrazovka);
     // The game is silent without it and nothing else.
     Zkus(nalezy, "Zvukové zařízení", Pozor, stroj.Zvuk);
-    if (!cesty.CD.empty()) ZkontrolujAssety(cesty.CD, nalezy);
-    if (!cesty.HD.empty()) ZkontrolujData(stroj.disk, cesty.HD, nalezy);
-    if (!cesty.Vysledky.empty() || cesty.Oddelene) ZkontrolujVysledky(stroj, cesty, nalezy);
+    if (!nastaveni.CD.empty()) ZkontrolujAssety(nastaveni.CD, nalezy);
+    if (!nastaveni.HD.empty()) ZkontrolujData(stroj.disk, nastaveni.HD, nalezy);
+    if (!nastaveni.Vysledky.empty() || nastaveni.Oddelene)
+        ZkontrolujVysledky(stroj, nastaveni, nalezy);
     return nalezy;
 }
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/Disk.h"
-#include "store/Cesty.h"
+#include "store/Nastaveni.h"
 
 namespace rysovna {
 
@@ -39,7 +39,7 @@ struct KontrolovanyStroj {
 
 /// The parts of it that look at files.
 void ZkontrolujAssety(const std::string& slozka, std::vector<Nalez>& nalezy);
-void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Cesty& cesty,
+void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Nastaveni& nastaveni,
                         std::vector<Nalez>& nalezy);
 
 /// Prints the list, a line a check, and what it comes to; 0 if nothing is wrong, else 1.

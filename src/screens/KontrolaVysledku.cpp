@@ -3,9 +3,9 @@
 
 #include "platform/Host.h"
 #include "screens/KontrolaPocitace.h"
-#include "store/Cesty.h"
 #include "store/Fronta.h"
 #include "store/JmenaSouboru.h"
+#include "store/Nastaveni.h"
 #include "store/TabulkaVysledku.h"
 #include "store/TextPokusu.h"
 #include "store/Ukladani.h"
@@ -56,11 +56,11 @@ std::string VadaSlozky(Disk& disk, const fs::path& slozka) {
     return {};
 }
 
-void Soubory(Disk& disk, const Cesty& cesty, bool zalozi, std::vector<Nalez>& nalezy) {
-    const fs::path slozka = disk.Skutecna(cesty.Vysledky);
+void Soubory(Disk& disk, const Nastaveni& nastaveni, bool zalozi, std::vector<Nalez>& nalezy) {
+    const fs::path slozka = disk.Skutecna(nastaveni.Vysledky);
     std::vector<Nalez> vady;
     for (const std::string& jmeno : JmenaVysledku()) {
-        std::string vada = Vada(disk, disk.Skutecna(cesty.Vysledky + jmeno), zalozi);
+        std::string vada = Vada(disk, disk.Skutecna(nastaveni.Vysledky + jmeno), zalozi);
         if (!vada.empty()) vady.push_back({Chyba, "Soubor výsledků", std::move(vada)});
     }
     if (vady.size() == JmenaVysledku().size()) {
@@ -154,18 +154,18 @@ void Pokusy(Disk& disk, const fs::path& slozka, bool ukladaji, std::vector<Nalez
 
 }  // namespace
 
-void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Cesty& cesty,
+void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Nastaveni& nastaveni,
                         std::vector<Nalez>& nalezy) {
     Disk& disk = stroj.disk;
-    const fs::path slozka = disk.Skutecna(cesty.Vysledky);
+    const fs::path slozka = disk.Skutecna(nastaveni.Vysledky);
     const bool ucet = !stroj.SlozkaDat.empty() && slozka == stroj.SlozkaDat / "";
     const bool zalozi =
-        cesty.Oddelene && (disk.JeSlozka(slozka) || ucet) && PujdeZakladat(disk, slozka);
-    Soubory(disk, cesty, zalozi, nalezy);
+        nastaveni.Oddelene && (disk.JeSlozka(slozka) || ucet) && PujdeZakladat(disk, slozka);
+    Soubory(disk, nastaveni, zalozi, nalezy);
     nalezy.push_back(Misto(disk, NejblizsiSlozka(disk, slozka), "Místo na výsledky"));
-    const fs::path denik = disk.Skutecna(cesty.Vysledky + JMENO_DENIKU);
+    const fs::path denik = disk.Skutecna(nastaveni.Vysledky + JMENO_DENIKU);
     if (disk.JeSoubor(denik)) nalezy.push_back(Zamek(disk, denik));
-    Pokusy(disk, slozka / UkladaniPokusu::SLOZKA, cesty.Pokusy, nalezy);
+    Pokusy(disk, slozka / UkladaniPokusu::SLOZKA, nastaveni.Pokusy, nalezy);
     nalezy.push_back(Fronta_(disk, stroj.SlozkaStavu));
 }
 

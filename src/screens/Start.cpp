@@ -15,8 +15,8 @@
 #include "screens/PrehravaniForm.h"
 #include "screens/SelectForm.h"
 #include "screens/Spolecne.h"
-#include "store/Cesty.h"
 #include "store/JmenaSouboru.h"
+#include "store/Nastaveni.h"
 #include "store/Soubory.h"
 #include "store/TextPokusu.h"
 #include "store/UkladaniPokusu.h"
@@ -82,14 +82,14 @@ std::string NactiMista(Sezeni& s, bool& oddelene) {
     s.AdresarSystemu = SeZpetnymLomitkem(std::move(adresar));
     s.DiskSystemu = s.AdresarSystemu.substr(0, 3);
 
-    const Cesty cesty = CtiCesty(stroj.Disk(), s.AdresarSystemu, stroj.SlozkaDat());
-    s.CestaCD = cesty.CD;
-    s.CestaHD = cesty.HD;
-    s.CestaVysledku = cesty.Vysledky;
-    oddelene = cesty.Oddelene;
-    s.RadyUkazovat = cesty.Rady;
-    s.PokusyUkladat = cesty.Pokusy;
-    if (cesty.Seminko) stroj.VychoziSeminko(*cesty.Seminko);
+    const Nastaveni nastaveni = CtiNastaveni(stroj.Disk(), s.AdresarSystemu, stroj.SlozkaDat());
+    s.CestaCD = nastaveni.CD;
+    s.CestaHD = nastaveni.HD;
+    s.CestaVysledku = nastaveni.Vysledky;
+    oddelene = nastaveni.Oddelene;
+    s.RadyUkazovat = nastaveni.Rady;
+    s.PokusyUkladat = nastaveni.Pokusy;
+    if (nastaveni.Seminko) stroj.VychoziSeminko(*nastaveni.Seminko);
     s.ZapomenVysledky();
     if (!s.CestaCD.empty()) NastavSlozkuPisem(s.CestaCD + "Fonts");
     if (s.CestaCD.empty() || s.CestaHD.empty()) {

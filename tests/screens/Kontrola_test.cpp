@@ -8,8 +8,8 @@
 #include "podpora/SouboryPomoc.h"
 #include "podpora/UkladaniHned.h"
 #include "screens/KontrolaPocitace.h"
-#include "store/Cesty.h"
 #include "store/Fronta.h"
+#include "store/Nastaveni.h"
 #include "store/TextPokusu.h"
 #include "store/Ukladani.h"
 
@@ -44,8 +44,8 @@ protected:
     }
     std::string VadyVysledku() {
         std::vector<Nalez> nalezy;
-        ZkontrolujVysledky(Stroj_(), CtiCesty(host.Disk(), host.SlozkaSystemu, host.SlozkaDat()),
-                           nalezy);
+        ZkontrolujVysledky(Stroj_(),
+                           CtiNastaveni(host.Disk(), host.SlozkaSystemu, host.SlozkaDat()), nalezy);
         return Vady(nalezy);
     }
 };
@@ -59,8 +59,8 @@ TEST_F(KontrolaHodiny, VseVPoradkuAKazdaVadaSvymJmenem) {
     EXPECT_EQ(std::ranges::count(vypis.str(), '\n'), 13);
 
     // Another folder of assets, the same files but for a few.
-    const fs::path spravne =
-                       NativniCesta(CtiCesty(host.Disk(), host.SlozkaSystemu, host.SlozkaDat()).CD),
+    const fs::path spravne = NativniCesta(
+                       CtiNastaveni(host.Disk(), host.SlozkaSystemu, host.SlozkaDat()).CD),
                    nase = Cesta("../assets");
     for (const auto& soubor : fs::recursive_directory_iterator(spravne)) {
         const fs::path sem = nase / fs::relative(soubor, spravne);

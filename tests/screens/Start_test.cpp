@@ -8,9 +8,9 @@
 #include "platform/Obrazovky.h"
 #include "podpora/SouboryPomoc.h"
 #include "screens/SelectForm.h"
-#include "store/Cesty.h"
 #include "store/Ini.h"
 #include "store/JmenaSouboru.h"
+#include "store/Nastaveni.h"
 
 namespace rysovna::testy {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "podpora/SouboryPomoc.h"
 #include "rules/Chyby.h"
-#include "rules/Kontrola.h"
+#include "rules/Znamka.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
 

@@ -10,6 +10,7 @@
 
 #include "podpora/Stul.h"
 #include "rules/DialogCtyruhelnikuVrchol.h"
+#include "rules/FiguraCtyruhelniku.h"
 #include "rules/LosovaniCtyruhelniku.h"
 #include "rules/LosovaniRovnobezniku.h"
 #include "rules/RovnoDialog.h"

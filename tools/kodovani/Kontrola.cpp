@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "CeleSoubory.h"
-#include "Hlaseni.h"
 #include "KontrolaPrikladu.h"
+#include "Pole.h"
 #include "Pravidla.h"
 #include "Prevod.h"
 #include "rules/KatalogChyb.h"

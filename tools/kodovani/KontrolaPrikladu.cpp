@@ -5,7 +5,7 @@
 #include <iterator>
 #include <map>
 
-#include "Hlaseni.h"
+#include "Pole.h"
 #include "Pravidla.h"
 #include "base/Cisla.h"
 #include "rules/Ulohy.h"

@@ -4,7 +4,7 @@
 #include <cctype>
 
 #include "CeleSoubory.h"
-#include "Hlaseni.h"
+#include "Pole.h"
 #include "base/Chyba.h"
 #include "base/Text.h"
 #include "rules/Ulohy.h"

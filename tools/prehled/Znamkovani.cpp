@@ -6,9 +6,9 @@
 #include "platform/Cesta.h"
 #include "platform/Stroj.h"
 #include "prehled/DodaneZnamky.h"
-#include "rules/Kontrola.h"
-#include "store/Cesty.h"
+#include "rules/Znamka.h"
 #include "store/JmenaSouboru.h"
+#include "store/Nastaveni.h"
 #include "store/RadkySouboru.h"
 #include "store/Soubory.h"
 #include "store/TextRadku.h"
@@ -37,7 +37,7 @@ Znamkovani::Znamkovani() {
 Znamkovani::Znamkovani(const fs::path& program) : Znamkovani() {
     DiskStroje disk;
     const std::string kde = SlozkaSLomitkem(SlozkaNastaveni(program));
-    const std::string hd = CtiCesty(disk, kde, SlozkaDatUctu()).HD;
+    const std::string hd = CtiNastaveni(disk, kde, SlozkaDatUctu()).HD;
     const std::string data = hd + JMENO_ZNAMEK;
     if (!hd.empty() && disk.JeSoubor(NativniCesta(data))) NactiZnamky(misc_, disk, data);
 }

@@ -14,9 +14,9 @@ namespace rysovna {
 /// A real folder in the spelling of the program's paths.
 [[nodiscard]] std::string SlozkaSLomitkem(const std::filesystem::path& slozka);
 
-/// Where the configuration says that things are, each with a backslash at its end or empty where
-/// its key is missing, and what else it says.
-struct Cesty {
+/// What the configuration says. Folders have a backslash at their end, or are empty where their key
+/// is missing.
+struct Nastaveni {
     std::string CD;         ///< asset root
     std::string HD;         ///< data root
     std::string Vysledky;   ///< folder of results; without a key of its own the data root
@@ -29,7 +29,7 @@ struct Cesty {
 
 /// Reads Rysovna.ini in a folder. "ucet" as the folder of results is the account's own, slozkaUctu;
 /// a file that cannot be read has no keys.
-[[nodiscard]] Cesty CtiCesty(Disk& disk, const std::string& slozka,
-                             const std::filesystem::path& slozkaUctu);
+[[nodiscard]] Nastaveni CtiNastaveni(Disk& disk, const std::string& slozka,
+                                     const std::filesystem::path& slozkaUctu);
 
 }  // namespace rysovna

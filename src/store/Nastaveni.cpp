@@ -1,4 +1,4 @@
-#include "store/Cesty.h"
+#include "store/Nastaveni.h"
 
 #include <cctype>
 
@@ -54,24 +54,25 @@ std::string SlozkaSLomitkem(const std::filesystem::path& slozka) {
     return slozka.empty() ? std::string() : SeZpetnymLomitkem(slozka.string());
 }
 
-Cesty CtiCesty(Disk& disk, const std::string& slozka, const std::filesystem::path& slozkaUctu) {
+Nastaveni CtiNastaveni(Disk& disk, const std::string& slozka,
+                       const std::filesystem::path& slozkaUctu) {
     const std::string adresar = SeZpetnymLomitkem(slozka);
     const std::string obsah = CtiNeboNic(disk, disk.Skutecna(adresar + JMENO_INI));
-    Cesty cesty;
-    cesty.CD = CestaZIni(obsah, "CD", adresar);
-    cesty.HD = CestaZIni(obsah, "HD", adresar);
+    Nastaveni nastaveni;
+    nastaveni.CD = CestaZIni(obsah, "CD", adresar);
+    nastaveni.HD = CestaZIni(obsah, "HD", adresar);
     const std::string kam = HodnotaIni(obsah, SEKCE, KLIC_VYSLEDKU, NENI_KLIC);
-    cesty.Oddelene = kam != NENI_KLIC;
-    cesty.Vysledky = cesty.HD;
+    nastaveni.Oddelene = kam != NENI_KLIC;
+    nastaveni.Vysledky = nastaveni.HD;
     if (kam == UCET) {
-        cesty.Vysledky = SlozkaSLomitkem(slozkaUctu);
-    } else if (cesty.Oddelene) {
-        cesty.Vysledky = CestaZIni(obsah, KLIC_VYSLEDKU, adresar);
+        nastaveni.Vysledky = SlozkaSLomitkem(slozkaUctu);
+    } else if (nastaveni.Oddelene) {
+        nastaveni.Vysledky = CestaZIni(obsah, KLIC_VYSLEDKU, adresar);
     }
-    cesty.Rady = !RikaNe(obsah, SEKCE, KLIC_RAD);
-    cesty.Pokusy = !RikaNe(obsah, SEKCE, KLIC_POKUSU);
-    cesty.Seminko = CeleCislo<std::uint32_t>(HodnotaIni(obsah, SEKCE, KLIC_SEMINKA, ""));
-    return cesty;
+    nastaveni.Rady = !RikaNe(obsah, SEKCE, KLIC_RAD);
+    nastaveni.Pokusy = !RikaNe(obsah, SEKCE, KLIC_POKUSU);
+    nastaveni.Seminko = CeleCislo<std::uint32_t>(HodnotaIni(obsah, SEKCE, KLIC_SEMINKA, ""));
+    return nastaveni;
 }
 
 }  // namespace rysovna

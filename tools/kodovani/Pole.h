@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-// What the checks share: reading fields, wording.
+// Fields of a readable line: what they are parted by, whole numbers, and how a message quotes one.
 
 namespace rysovna::kodovani {
 
