@@ -140,6 +140,8 @@ struct HolaPlocha {
 struct HolaPamet : PametovaPlocha {
     using PametovaPlocha::PametovaPlocha;
     void Prevezmi(const HolaPamet& zdroj) {
+        // The same picture again would be spared.
+        PSet(0, 0, CERNA);
         BitBlt(0, 0, zdroj.Width(), zdroj.Height(), zdroj, 0, 0, Rop::SrcCopy);
     }
 };

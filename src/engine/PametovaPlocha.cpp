@@ -42,7 +42,7 @@ PametovaPlocha::PametovaPlocha(int w, int h, bool jednobitova)
             jednobitova ? CERNA : BILA) {}
 
 void PametovaPlocha::PSet(int x, int y, Barva barva) {
-    if (!AutoRedraw) return;
+    if (!ZacniKreslit()) return;
     if (!Meze().Obsahuje(x, y)) return;
     body_[Misto(x, y)] = Barvivo(barva);
 }
@@ -53,19 +53,19 @@ void PametovaPlocha::Vypln(const Obdelnik& kam, Barva barva) {
 }
 
 void PametovaPlocha::Line(float x1, float y1, float x2, float y2) {
-    if (!AutoRedraw) return;
+    if (!ZacniKreslit()) return;
     const Barva barva = Barvivo(ForeColor);
     RastrUsecka(x1, y1, x2, y2, DrawWidth, Meze(), [&](const Obdelnik& o) { Vypln(o, barva); });
 }
 
 void PametovaPlocha::Circle(float x, float y, float r) {
-    if (!AutoRedraw) return;
+    if (!ZacniKreslit()) return;
     const Barva barva = Barvivo(ForeColor);
     RastrKruznice(x, y, r, DrawWidth, Meze(), [&](const Obdelnik& o) { Vypln(o, barva); });
 }
 
 void PametovaPlocha::Print(std::string_view text) {
-    if (!AutoRedraw) return;
+    if (!ZacniKreslit()) return;
     Obdelnik znak{Zaokrouhli(CurrentX), Zaokrouhli(CurrentY), SIRKA_ZNAKU, VYSKA_ZNAKU};
     for (const char32_t kod : DoZnaku(text)) {
         if (kod != U' ') Vypln(Prunik(znak, Meze()), Barvivo(ForeColor));
@@ -78,7 +78,7 @@ int PametovaPlocha::TextWidth(std::string_view text) const {
 }
 
 void PametovaPlocha::Cls() {
-    if (!AutoRedraw) return;
+    if (!ZacniKreslit()) return;
     Vypln(Meze(), Barvivo(BackColor));
     CurrentX = CurrentY = 0;
 }
@@ -105,6 +105,13 @@ bool PametovaPlocha::BitBlt(int x, int y, int w, int h, const Plane& zdroj, int 
     const Obdelnik vZdroji{x - zx, y - zy, zdroj.Width(), zdroj.Height()};
     const Obdelnik kam = Prunik(Prunik({x, y, w, h}, Meze()), vZdroji);
     const bool celeRadky = rop == Rop::SrcCopy && pametova != nullptr && !naJedenBit;
+    const bool cela = celeRadky && kam == Meze() && vZdroji == Meze();
+    if (cela) {
+        // A redraw copies the plane more than once: then it is there already.
+        if (!pametova->obraz_) pametova->obraz_ = std::make_shared<const Obraz>();
+        if (obraz_ == pametova->obraz_) return true;
+    }
+    obraz_ = cela ? pametova->obraz_ : nullptr;
     for (int py = kam.Top; py < kam.Top + kam.Height; ++py) {
         if (celeRadky) {
             if (kam.Width == 0) break;
@@ -126,7 +133,7 @@ bool PametovaPlocha::BitBlt(int x, int y, int w, int h, const Plane& zdroj, int 
 }
 
 void PametovaPlocha::InvertRect(int x, int y, int w, int h) {
-    if (!AutoRedraw) return;
+    if (!ZacniKreslit()) return;
     const Obdelnik cast = Prunik({x, y, w, h}, Meze());
     for (int py = cast.Top; py < cast.Top + cast.Height; ++py) {
         for (int px = cast.Left; px < cast.Left + cast.Width; ++px) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "base/Bod.h"
@@ -48,12 +49,20 @@ private:
     [[nodiscard]] Barva Barvivo(Barva barva) const {
         return jednobitova_ && barva != CERNA ? BILA : barva;
     }
+    /// Whether anything is to be drawn; the picture is another one then.
+    [[nodiscard]] bool ZacniKreslit() {
+        if (AutoRedraw) obraz_.reset();
+        return AutoRedraw;
+    }
     /// Sets the pixels of a rectangle within the plane.
     void Vypln(const Obdelnik& kam, Barva barva);
 
     int w_, h_;
     bool jednobitova_;
     std::vector<Barva> body_;  ///< by rows
+    /// Planes that share one show the same picture, since nothing was drawn after the whole copy.
+    struct Obraz {};
+    mutable std::shared_ptr<const Obraz> obraz_;
 };
 
 }  // namespace rysovna

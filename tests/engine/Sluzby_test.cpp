@@ -124,6 +124,31 @@ TEST_F(Sluzby, PosunPosuneVseAZpetVratiObraz) {
     EXPECT_TRUE(pic.StejnyObraz(predtim));
 }
 
+TEST_F(Sluzby, KopieSeUsetriJenKdyzSeMezitimNekreslilo) {
+    PametovaPlocha zdroj(40, 40), cil(40, 40);
+    const auto zkopiruj = [&] { return cil.BitBlt(0, 0, 40, 40, zdroj, 0, 0, Rop::SrcCopy); };
+    using Kresba = void (*)(PametovaPlocha&);
+    for (const Kresba kresli :
+         {Kresba([](PametovaPlocha& p) { p.Line(0, 3, 9, 9); }),
+          Kresba([](PametovaPlocha& p) { p.Circle(20, 20, 7); }),
+          Kresba([](PametovaPlocha& p) { p.Print("A"); }),
+          Kresba([](PametovaPlocha& p) { p.InvertRect(5, 5, 9, 9); }),
+          Kresba([](PametovaPlocha& p) { p.PSet(3, 30, CERVENA); }), Kresba([](PametovaPlocha& p) {
+              p.BitBlt(4, 4, 9, 9, PametovaPlocha(9, 9, true), 0, 0, Rop::SrcCopy);
+          }),
+          Kresba([](PametovaPlocha& p) { p.Cls(); })}) {
+        for (PametovaPlocha* kdo : {&zdroj, &cil}) {
+            zdroj.Cls();
+            zdroj.Line(0, 0, 39, 39);
+            ASSERT_TRUE(zkopiruj());
+            kresli(*kdo);
+            EXPECT_FALSE(cil.StejnyObraz(zdroj));
+            ASSERT_TRUE(zkopiruj());
+            EXPECT_TRUE(cil.StejnyObraz(zdroj));
+        }
+    }
+}
+
 TEST_F(Sluzby, PruhlednaKopieVynechaKlicovouBarvu) {
     constexpr int W = 30, H = 20;
     std::mt19937 stroj(5);
