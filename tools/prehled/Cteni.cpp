@@ -24,8 +24,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// No series of a pupil's comes near it, bytes.
-constexpr std::size_t NEJVIC_BAJTU = 4'000'000;
 /// Within so many bytes the name stands.
 constexpr std::size_t HLAVICKA = 4096;
 
@@ -178,9 +176,9 @@ std::optional<std::string> JmenoVSouboru(const fs::path& soubor) {
 }
 
 PrectenaSerie PrectiSerii(const fs::path& soubor) {
-    const std::optional<std::string> text = Zacatek(soubor, NEJVIC_BAJTU + 1);
+    const std::optional<std::string> text = Zacatek(soubor, NEJVETSI_POKUS + 1);
     if (!text) return {.Vada = "Soubor nelze přečíst."};
-    if (text->size() > NEJVIC_BAJTU) return {.Vada = "Soubor je příliš velký."};
+    if (text->size() > NEJVETSI_POKUS) return {.Vada = "Soubor je příliš velký."};
     PrectenyPokus pokus = CtiPokus(*text);
     if (!pokus.Co) return {.Vada = std::move(pokus.Vada)};
     try {
