@@ -7,7 +7,7 @@
 #include "engine/Prekresleni.h"
 #include "rules/Chyby.h"
 #include "rules/Misc.h"
-#include "rules/SlovaKroku.h"
+#include "rules/NazvyPrimek.h"
 
 namespace rysovna {
 

@@ -5,6 +5,7 @@
 #include "engine/Kresleni.h"
 #include "rules/Chyby.h"
 #include "rules/Misc.h"
+#include "rules/NazvyPrimek.h"
 #include "rules/SlovaKroku.h"
 #include "rules/TecnyDialog.h"
 

@@ -1,4 +1,4 @@
-#include "rules/SlovaKroku.h"
+#include "rules/NazvyPrimek.h"
 
 #include "rules/Panel.h"
 
