@@ -9,6 +9,7 @@
 
 #include "Mereni.h"
 #include "base/Rastr.h"
+#include "engine/Miry.h"
 #include "engine/Prekresleni.h"
 #include "engine/Tabulky.h"
 #include "hrac/Relace.h"

@@ -5,6 +5,7 @@
 #include "base/Pixely.h"
 #include "base/Rastr.h"
 #include "engine/Kresleni.h"
+#include "engine/Miry.h"
 #include "engine/PametovaPlocha.h"
 #include "engine/Prekresleni.h"
 #include "engine/Tabulky.h"

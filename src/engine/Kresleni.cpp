@@ -7,6 +7,7 @@
 #include "base/Chyba.h"
 #include "base/Cisla.h"
 #include "base/Matematika.h"
+#include "engine/Miry.h"
 #include "engine/Okraj.h"
 #include "engine/Resitele.h"
 #include "engine/Tabulky.h"

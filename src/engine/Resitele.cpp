@@ -6,7 +6,7 @@
 
 #include "base/Cisla.h"
 #include "base/Matematika.h"
-#include "engine/Tabulky.h"
+#include "engine/Miry.h"
 
 namespace rysovna {
 
@@ -89,6 +89,15 @@ float Smer(Bod od, Bod k, float dosud) {
     if (dx < 0) return static_cast<float>(PI);
     if (dx > 0) return 0;
     return dosud;
+}
+
+bool RovneUhly(double a, double b) {
+    // Texts of five decimals cannot agree over more than one unit of the fifth; saying so first
+    // spares nearly all of the printing.
+    constexpr double JISTE_RUZNE = 2e-5;
+    if (std::abs(a - b) > JISTE_RUZNE) return false;
+    if (a == b) return true;
+    return FormatPetMist(a) == FormatPetMist(b);
 }
 
 double DelkaVCm(double px) {

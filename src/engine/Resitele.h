@@ -28,6 +28,10 @@ bool StejneZnamenko(double a, double b);
 /// to 2*pi. Of two equal points it is dosud, the direction known until now.
 float Smer(Bod od, Bod k, float dosud);
 
+/// Whether two angles, radians, are the same: both print the same to five decimals. Tells an
+/// axis-parallel direction from a merely close one.
+bool RovneUhly(double a, double b);
+
 /// A length in pixels as the pupil reads it: centimetres cut (not rounded) to one decimal.
 double DelkaVCm(double px);
 

@@ -1,6 +1,5 @@
 #include "engine/Tabulky.h"
 
-#include <cmath>
 #include <cstdint>
 #include <limits>
 
@@ -49,15 +48,6 @@ void Posun(Utvar& u, int dx, int dy) {
 void Posun(Trojice& t, int dx, int dy) {
     for (int* x : {&t.X1, &t.X2, &t.X3}) Pricti(*x, dx);
     for (int* y : {&t.Y1, &t.Y2, &t.Y3}) Pricti(*y, dy);
-}
-
-bool RovneUhly(double a, double b) {
-    // Texts of five decimals cannot agree over more than one unit of the fifth; saying so first
-    // spares nearly all of the printing.
-    constexpr double JISTE_RUZNE = 2e-5;
-    if (std::abs(a - b) > JISTE_RUZNE) return false;
-    if (a == b) return true;
-    return FormatPetMist(a) == FormatPetMist(b);
 }
 
 }  // namespace rysovna

@@ -13,23 +13,6 @@ namespace rysovna {
 constexpr int ANO = -1;
 constexpr int NE = 0;
 
-// Multiples of pi, each at the value that decides comparisons: quotients of these constants are
-// not everywhere equal to the products of PI.
-constexpr double PI = 3.14159265358979;
-constexpr double DVE_PI = 6.28318530717958;
-constexpr double TRI_PI = 9.42477796076937;
-constexpr double PET_PI = 15.7079632679489;
-constexpr double SEDM_PI = 21.9911485751285;
-
-/// Degrees of half a turn: degrees are radians * STUPNU_PULOTACKY / PI.
-constexpr double STUPNU_PULOTACKY = 180;
-/// The boards' drawing plane, px.
-constexpr int SIRKA_PLOCHY = 384, VYSKA_PLOCHY = 335;
-/// Pixels of the plane to the centimetre.
-constexpr int PIXELU_NA_CM = 8;
-/// A press catches a stored point less than this many pixels off on either axis.
-constexpr int DOSAH_CHYTANI = 8;
-
 // The kinds of object, the words of every comparison.
 inline constexpr const char* BOD = "bod";
 inline constexpr const char* USECKA = "usecka";
@@ -105,9 +88,5 @@ struct Tabulky {
     void SmazRadekTrojic(Radek i);
     friend bool operator==(const Tabulky&, const Tabulky&) = default;
 };
-
-/// Whether two angles, radians, are the same: both print the same to five decimals. Tells an
-/// axis-parallel direction from a merely close one.
-bool RovneUhly(double a, double b);
 
 }  // namespace rysovna

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "engine/Miry.h"
 #include "rules/Chyby.h"
 #include "rules/FiguraCtyruhelniku.h"
 #include "rules/LosovaniCtyruhelniku.h"

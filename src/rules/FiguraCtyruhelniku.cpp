@@ -9,6 +9,7 @@
 
 #include "base/Cisla.h"
 #include "base/Matematika.h"
+#include "engine/Miry.h"
 #include "engine/Resitele.h"
 #include "rules/Dialog.h"
 #include "rules/Tahy.h"

@@ -8,6 +8,7 @@
 
 #include "base/Cisla.h"
 #include "base/Matematika.h"
+#include "engine/Miry.h"
 #include "engine/Resitele.h"
 #include "rules/FiguraCtyruhelniku.h"
 #include "rules/Misc.h"

@@ -5,7 +5,7 @@
 
 #include "base/Cisla.h"
 #include "base/Matematika.h"
-#include "engine/Tabulky.h"
+#include "engine/Miry.h"
 
 namespace rysovna {
 

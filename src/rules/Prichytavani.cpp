@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/Cisla.h"
+#include "engine/Miry.h"
 
 namespace rysovna {
 

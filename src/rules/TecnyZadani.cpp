@@ -8,6 +8,7 @@
 #include "base/Cisla.h"
 #include "base/Matematika.h"
 #include "engine/Kresleni.h"
+#include "engine/Miry.h"
 #include "engine/Resitele.h"
 #include "engine/Tabulky.h"
 #include "rules/Tahy.h"

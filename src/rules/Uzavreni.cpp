@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "engine/Miry.h"
 #include "engine/Resitele.h"
 
 namespace rysovna {

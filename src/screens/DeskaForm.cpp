@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Cisla.h"
+#include "engine/Miry.h"
 #include "platform/Host.h"
 #include "platform/Paleta.h"
 #include "rules/Kontrola.h"

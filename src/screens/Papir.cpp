@@ -6,6 +6,7 @@
 
 #include "base/Cisla.h"
 #include "base/Text.h"
+#include "engine/Miry.h"
 #include "platform/Paleta.h"
 #include "platform/Pdf.h"
 #include "platform/Pisma.h"

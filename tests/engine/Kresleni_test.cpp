@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Chyba.h"
+#include "engine/Miry.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Tisk.h"
 #include "podpora/ZaznamPlane.h"
@@ -195,12 +196,6 @@ TEST_F(Kresleni, PopisKruzniceHledaMistoUvnitrPlochy) {
     EXPECT_THROW(Kresli(101, {KRUZNICE, {10, 10}, {20, 10}}), BehovaChyba);
     t.PocetTrojic = 100;
     EXPECT_THROW(Kresli(1, {KRUZNICE, {10, 10}, {20, 10}}), BehovaChyba);
-}
-
-TEST(Tabulky, RovneUhlyNaPetMist) {
-    EXPECT_FALSE(RovneUhly(0.000006, 0));
-    EXPECT_FALSE(RovneUhly(0.000006, 0.000004));  // nearer than the last pair, but printed apart
-    EXPECT_TRUE(RovneUhly(static_cast<double>(static_cast<float>(TRI_PI / 2)), TRI_PI / 2));
 }
 
 }  // namespace

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "base/Cisla.h"
+#include "engine/Miry.h"
 #include "engine/PametovaPlocha.h"
-#include "engine/Tabulky.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Tisk.h"
 
@@ -43,6 +43,12 @@ TEST_F(Resitele, UhlyDelkyAPolarniBod) {
     Ceka({100, 50}, BEZ_BODU, "up");
     PolarniBod(stred, 2.5F, 0, out1, out2);
     Ceka({102, 100}, BEZ_BODU, "half to the even pixel");
+}
+
+TEST_F(Resitele, RovneUhlyNaPetMist) {
+    EXPECT_FALSE(RovneUhly(0.000006, 0));
+    EXPECT_FALSE(RovneUhly(0.000006, 0.000004));  // nearer than the last pair, but printed apart
+    EXPECT_TRUE(RovneUhly(static_cast<double>(static_cast<float>(TRI_PI / 2)), TRI_PI / 2));
 }
 
 TEST_F(Resitele, PrunikKruznic) {

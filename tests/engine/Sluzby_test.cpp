@@ -2,6 +2,7 @@
 #include <random>
 
 #include "engine/Kopirovani.h"
+#include "engine/Miry.h"
 #include "engine/PametovaPlocha.h"
 #include "engine/Prekresleni.h"
 #include "engine/Tabulky.h"

@@ -4,6 +4,7 @@
 #include <regex>
 
 #include "base/Cisla.h"
+#include "engine/Miry.h"
 #include "engine/Tabulky.h"
 #include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"

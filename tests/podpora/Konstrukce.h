@@ -7,6 +7,7 @@
 
 #include "base/Plane.h"
 #include "engine/Kresleni.h"
+#include "engine/Miry.h"
 #include "engine/Tabulky.h"
 
 namespace rysovna::testy {

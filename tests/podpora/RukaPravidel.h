@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/Miry.h"
 #include "engine/PametovaPlocha.h"
 #include "podpora/Konstrukce.h"
 #include "rules/Dialog.h"

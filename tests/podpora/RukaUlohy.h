@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "base/Cisla.h"
+#include "engine/Miry.h"
 #include "hrac/Relace.h"
 #include "podpora/RukaPravidel.h"
 #include "rules/NahravanyDialog.h"

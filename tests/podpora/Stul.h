@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/Tabulky.h"
+#include "engine/Miry.h"
 #include "podpora/Konstrukce.h"
 #include "podpora/Prostredi.h"
 #include "podpora/RukaUlohy.h"

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "engine/Miry.h"
 #include "hrac/Serie.h"
 #include "platform/Stroj.h"
 #include "platform/Surface.h"

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <tuple>
 
+#include "engine/Miry.h"
 #include "engine/PametovaPlocha.h"
 #include "engine/Resitele.h"
 #include "podpora/Konstrukce.h"

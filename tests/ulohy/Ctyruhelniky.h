@@ -8,6 +8,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "engine/Miry.h"
 #include "podpora/Stul.h"
 #include "rules/DialogCtyruhelnikuVrchol.h"
 #include "rules/FiguraCtyruhelniku.h"

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/Miry.h"
 #include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "podpora/Prostredi.h"

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "TecnyHra.h"
+#include "engine/Miry.h"
 #include "engine/Resitele.h"
 #include "rules/Troj2Dialog.h"
 #include "zak/Trojuhelnik.h"

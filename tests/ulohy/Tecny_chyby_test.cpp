@@ -7,6 +7,7 @@
 #include <regex>
 
 #include "TecnyHra.h"
+#include "engine/Miry.h"
 
 namespace rysovna::testy {
 namespace {

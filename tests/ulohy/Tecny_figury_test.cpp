@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "TecnyHra.h"
+#include "engine/Miry.h"
 #include "rules/TecnyZadani.h"
 
 namespace rysovna::testy {

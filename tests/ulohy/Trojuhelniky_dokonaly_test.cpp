@@ -3,6 +3,7 @@
 
 #include <map>
 
+#include "engine/Miry.h"
 #include "podpora/Stul.h"
 #include "rules/Troj1Dialog.h"
 #include "rules/Troj2Dialog.h"

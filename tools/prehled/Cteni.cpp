@@ -7,6 +7,7 @@
 #include "base/Chyba.h"
 #include "base/Disk.h"
 #include "base/Text.h"
+#include "engine/Miry.h"
 #include "engine/PametovaPlocha.h"
 #include "platform/Stroj.h"
 #include "prehled/BaleniObrazcu.h"

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Cisla.h"
+#include "engine/Miry.h"
 #include "prehled/Prehled.h"
 #include "prehled/SvgPlocha.h"
 #include "rules/Prehravka.h"

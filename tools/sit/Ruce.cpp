@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "engine/Miry.h"
 #include "rules/DialogKroku.h"
 #include "rules/TecnyDialog.h"
 

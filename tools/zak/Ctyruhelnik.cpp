@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "base/Cisla.h"
+#include "engine/Miry.h"
 #include "engine/Tabulky.h"
 #include "rules/Veliciny.h"
 #include "zak/Rysovani.h"

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/Cisla.h"
+#include "engine/Miry.h"
 
 namespace rysovna::hrac {
 

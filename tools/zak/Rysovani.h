@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Bod.h"
-#include "engine/Tabulky.h"
+#include "engine/Miry.h"
 #include "zak/Los.h"
 
 namespace rysovna::hrac {

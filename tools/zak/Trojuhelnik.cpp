@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Cisla.h"
+#include "engine/Miry.h"
 #include "engine/Tabulky.h"
 #include "zak/Rysovani.h"
 
