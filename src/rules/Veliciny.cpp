@@ -4,17 +4,21 @@
 #include <iterator>
 
 #include "base/Cisla.h"
+#include "base/Plane.h"
+#include "base/Text.h"
 
 namespace rysovna {
 
 namespace {
 
+/// An angle, and the letter of the typeface "Symbol" that shows how it is written.
 struct Uhel {
-    std::string_view Nazev, Pismeno, Symbol;
+    std::string_view Nazev;
+    char32_t Symbol;
 };
 constexpr Uhel UHLY[] = {
-    {"alfa", "α", "a"}, {"beta", "β", "b"}, {"gama", "γ", "g"}, {"delta", "δ", "d"},
-    {"delt", "δ", "d"}, {"epsi", "ε", "e"}, {"omeg", "ω", "w"},
+    {"alfa", U'a'}, {"beta", U'b'}, {"gama", U'g'}, {"delta", U'd'},
+    {"delt", U'd'}, {"epsi", U'e'}, {"omeg", U'w'},
 };
 
 /// Null if it is none.
@@ -36,12 +40,14 @@ bool JeUhel(std::string_view nazev) {
 
 std::string PismenoUhlu(std::string_view nazev) {
     const Uhel* u = NajdiUhel(nazev);
-    return std::string(u == nullptr ? nazev : u->Pismeno);
+    if (u == nullptr) return std::string(nazev);
+    const char32_t pismeno = ZnakSymbolu(u->Symbol);
+    return ZeZnaku({&pismeno, 1});
 }
 
 std::string SymbolUhlu(std::string_view nazev) {
     const Uhel* u = NajdiUhel(nazev);
-    return std::string(u == nullptr ? nazev : u->Symbol);
+    return u == nullptr ? std::string(nazev) : ZeZnaku({&u->Symbol, 1});
 }
 
 std::string TextHodnoty(int hodnota, std::string_view jednotka, bool posledni) {
