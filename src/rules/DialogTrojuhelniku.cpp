@@ -10,8 +10,6 @@ namespace rysovna {
 
 namespace {
 
-constexpr PismenoNacrtu PISMENA[] = {{"A", 24, 138}, {"B", 266, 138}, {"C", 145, 10}};
-
 constexpr JmenaUtvaru JMENA[] = {
     {POLOPRIMKA, "X", "Y"}, {KOLMICE, "b", "c"}, {ROVNOBEZKA, "p", "q"}, {KRUZNICE, "k", "l"}};
 
@@ -27,7 +25,7 @@ DialogTrojuhelniku::DialogTrojuhelniku(Misc& misc, Platna platna,
                                        const PravidlaTrojuhelniku& pravidla)
     : DialogSeStavem(misc, platna,
                      {"Sestroj trojúhelník ABC:",
-                      {pravidla.Nacrt, PISMENA},
+                      pravidla.NacrtFigury,
                       JMENA,
                       CENY_POCATKU,
                       {2, 3},

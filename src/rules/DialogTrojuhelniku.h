@@ -31,7 +31,7 @@ struct CenaVeliciny {
 struct PravidlaTrojuhelniku {
     std::span<const RadekKruznice> Kruznice;
     std::span<const CenaVeliciny> Ceny;
-    std::span<const PrvekNacrtu> Nacrt;
+    Nacrt NacrtFigury;
     /// Wrong step of each press with a parallel in hand. None: a parallel stands for the height
     /// upon its base, and the choice of the base is judged.
     ChybaKroku ChybaRovnobezky;

@@ -37,5 +37,6 @@ constexpr std::array<PrvekNacrtu, 6> NACRT_STRAN = {{
     UhelNacrtu("beta", {218, 221, 0, 122, 4}, {260, 140}, {150, 30}, {40, 140}, 58, {215, 116}),
     UhelNacrtu("gama", {147, 152, 0, 52, 3}, {150, 30}, {40, 140}, {260, 140}, 40, {146, 44}),
 }};
+constexpr PismenoNacrtu PISMENA_NACRTU[] = {{"A", 24, 138}, {"B", 266, 138}, {"C", 145, 10}};
 
 }  // namespace rysovna

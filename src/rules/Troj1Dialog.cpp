@@ -12,7 +12,7 @@ namespace {
 
 constexpr PravidlaTrojuhelniku PRAVIDLA{.Kruznice = KRUZNICE_VRCHOLU,
                                         .Ceny = CENY_STRAN,
-                                        .Nacrt = NACRT_STRAN,
+                                        .NacrtFigury = {NACRT_STRAN, PISMENA_NACRTU},
                                         .ChybaRovnobezky = CHYBA_ROVNOBEZKA};
 
 // ---- Values of an example --------------------------------------------------------------------

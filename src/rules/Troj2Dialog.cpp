@@ -43,8 +43,10 @@ constexpr auto NACRT =
               CaraNacrtu("tb", {110, 210, 1 / 3.0, 160 / 3.0, 4}, {260, 140}, {95, 85}, {118, 76}),
               CaraNacrtu("tc", {147, 153, 0, 97, 37}, {150, 30}, {150, 140}, {155, 114})}});
 
-constexpr PravidlaTrojuhelniku PRAVIDLA{
-    .Kruznice = KRUZNICE_RADKY, .Ceny = CENY, .Nacrt = NACRT, .ChybaRovnobezky = {}};
+constexpr PravidlaTrojuhelniku PRAVIDLA{.Kruznice = KRUZNICE_RADKY,
+                                        .Ceny = CENY,
+                                        .NacrtFigury = {NACRT, PISMENA_NACRTU},
+                                        .ChybaRovnobezky = {}};
 
 // ---- Values of an example --------------------------------------------------------------------
 
