@@ -438,8 +438,8 @@ Obdelnik Obrazovky::KdeSePise() const {
     constexpr int SIRKA_PSANI = 100, VYSKA_PSANI = 20;
     const TextBox* t = Psane();
     if (t == nullptr) return {};
-    const Bod roh = Roh(t);
-    return {roh.X, roh.Y, SIRKA_PSANI, VYSKA_PSANI};
+    const Obdelnik misto = MistoNaNavrhu(*vnitrek_->Cilovy(), *t);
+    return {misto.Left, misto.Top, SIRKA_PSANI, VYSKA_PSANI};
 }
 
 std::uint32_t Obrazovky::PosledniPsani() const {
