@@ -21,13 +21,17 @@ void Pricti(int& souradnice, int o) {
 
 }  // namespace
 
-int Tabulky::NovyUtvar(std::string_view jmeno1, std::string_view jmeno2) {
-    const int n = ++PocetUtvaru;
+void Tabulky::PripravUtvar(std::string_view jmeno1, std::string_view jmeno2) {
+    const int n = PocetUtvaru + 1;
     SmazRadekUtvaru(n);
     SmazRadekTrojic(PocetTrojic + 1);
     Utvary[n].Jmeno1 = jmeno1;
     Utvary[n].Jmeno2 = jmeno2;
-    return n;
+}
+
+int Tabulky::NovyUtvar(std::string_view jmeno1, std::string_view jmeno2) {
+    PripravUtvar(jmeno1, jmeno2);
+    return ++PocetUtvaru;
 }
 
 void Tabulky::SmazRadekUtvaru(Radek i) {

@@ -80,8 +80,10 @@ struct Tabulky {
     int PocetUtvaru = 0;
     int PocetTrojic = 0;
 
-    /// Opens the next row of an object with the names of its points, and the snap row that it will
-    /// have; its number.
+    /// Clears the next row of an object, with the names of its points, and the snap row that it
+    /// will have. The object does not count yet.
+    void PripravUtvar(std::string_view jmeno1, std::string_view jmeno2);
+    /// As PripravUtvar, and counts it; its number.
     int NovyUtvar(std::string_view jmeno1, std::string_view jmeno2);
     /// Clears one row. Popis4 of a cleared object is the number 0 as text, " 0".
     void SmazRadekUtvaru(Radek i);

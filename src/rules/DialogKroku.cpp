@@ -21,7 +21,7 @@ constexpr std::array<Nastroj, 6> NASTROJE_UTVARU = {Nastroj::Poloprimka, Nastroj
 struct UvodPrimky {
     std::string_view Druh, Kolmice, Rovnobezka;
 };
-constexpr UvodPrimky UVODY[] = {{USECKA, "k úsečce ", "s úsečkou "},
+constexpr UvodPrimky UVODY[] = {{USECKA, UVOD_KOLMICE, "s úsečkou "},
                                 {POLOPRIMKA, "k polopřímce ", "s polopřímkou "},
                                 {ROVNOBEZKA, "k přímce ", "s přímkou "},
                                 {KOLMICE, "k přímce ", "s přímkou "}};
@@ -152,12 +152,8 @@ void DialogKroku::Vyzvi(std::string nazev, std::string jednotka) {
     Upravit().Rysovane = {std::move(nazev), {"", true, true}, std::move(jednotka)};
 }
 
-void DialogKroku::ZacniUtvar(std::string jmeno1, std::string jmeno2) {
-    misc_.SmazRadekUtvaru(misc_.PocetUtvaru + 1);
-    misc_.SmazRadekTrojic(misc_.PocetTrojic + 1);
-    Utvar& novy = misc_.Utvary[misc_.PocetUtvaru + 1];
-    novy.Jmeno1 = std::move(jmeno1);
-    novy.Jmeno2 = std::move(jmeno2);
+void DialogKroku::ZacniUtvar(std::string_view jmeno1, std::string_view jmeno2) {
+    misc_.PripravUtvar(jmeno1, jmeno2);
     Upravit().CekaNaKresleni = true;
     Upravit().BodVyzvy.clear();
 }

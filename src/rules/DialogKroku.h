@@ -23,6 +23,9 @@ namespace rysovna {
 constexpr ChybaKroku CHYBA_PAPRSEK_NECEKANY = 18, CHYBA_KOLMICE = 19, CHYBA_ROVNOBEZKA = 20,
                      CHYBA_KRUZNICE_NECEKANA = 21;
 
+/// What stands before the names of a segment in the list of perpendiculars.
+constexpr std::string_view UVOD_KOLMICE = "k úsečce ";
+
 /// Name of a new object by its kind, as the first and as the second of the two that meet in a
 /// vertex. Of a ray it is the second point.
 struct JmenaUtvaru {
@@ -184,7 +187,7 @@ protected:
     void ZacniKruznici(std::string_view stred);
     void ZacniPrimku(const std::string& jmena, const std::string& nazev);
     /// Opens the next row of the construction for a drag.
-    void ZacniUtvar(std::string jmeno1, std::string jmeno2);
+    void ZacniUtvar(std::string_view jmeno1, std::string_view jmeno2);
     /// Charges a choice; the step is wrong from now on.
     void ChybnaVolba(ChybaKroku chyba, std::string_view slovy = {});
     /// Takes the first expected step of this kind that was not taken yet; false if there is none.

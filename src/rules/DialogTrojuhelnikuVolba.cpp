@@ -34,10 +34,6 @@ struct VyskaStrany {
 };
 constexpr VyskaStrany VYSKY[] = {{"AB", "vc", 26}, {"AC", "vb", 25}, {"BC", "va", 24}};
 
-// The only lead-in that a perpendicular's line loses: the comparisons for the longer ones look at
-// the first nine characters alone and never match, so those captions stay whole.
-constexpr std::string_view UVOD_KOLMICE = "k úsečce ";
-
 }  // namespace
 
 /// A kind of object: its list, and what becomes of a chosen line.
@@ -193,8 +189,9 @@ void DialogTrojuhelniku::ZvolKruznici(std::size_t i) {
 
 void DialogTrojuhelniku::ZvolKolmici(std::size_t i) {
     const RadekSeznamu& r = stav_.Vyber.Radky[i];
-    const bool useknout = r.Text.starts_with(UVOD_KOLMICE);
-    stav_.ZvolenyNazev = useknout ? r.Text.substr(UVOD_KOLMICE.size()) : r.Text;
+    // The only lead-in that the line loses: the comparisons for the longer ones look at the first
+    // nine characters alone and never match, so those captions stay whole.
+    stav_.ZvolenyNazev = r.Text.starts_with(UVOD_KOLMICE) ? r.Jmena : r.Text;
     ZacniPrimku(r.Jmena, stav_.ZvolenyNazev);
     Zapis(KOLMICE, "");
 }
