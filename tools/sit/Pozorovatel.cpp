@@ -54,8 +54,9 @@ std::uint64_t Okno::OtiskObrazu() const {
     return Otisk(radky_.data(), radky_.size() * sizeof(std::uint64_t));
 }
 
-Pozorovatel::Pozorovatel(hrac::Relace& hra, std::ostream& kam, std::optional<Prani> prani)
-    : hra_(hra), kam_(kam), prani_(std::move(prani)) {
+Pozorovatel::Pozorovatel(hrac::Relace& hra, std::ostream& kam, Velikosti velikosti,
+                         std::optional<Prani> prani)
+    : hra_(hra), kam_(kam), velikosti_(velikosti), prani_(std::move(prani)) {
     hra_.Sleduj([this](std::string_view co) { Stanice(co); });
     hra_.Host().PriPrekresleni = [this] { Snimek(); };
     Tik();
@@ -109,8 +110,7 @@ void Pozorovatel::Stanice(std::string_view co) {
     ++cislo_;
     (void)male_.Namaluj(hra_.Host().Okna(), ted);
     Splnit("640x480", male_.Obrazem());
-    // Who wants another picture than this need not wait for it.
-    if (!prani_ || prani_->Co == "1920x1080") (void)velke_.Namaluj(hra_.Host().Okna(), ted);
+    if (velikosti_ == Velikosti::Obe) (void)velke_.Namaluj(hra_.Host().Okna(), ted);
     Splnit("1920x1080", velke_.Obrazem());
     for (int i = pocetChyb_; i < hra_.Pamet().PocetChybnychKroku; ++i)
         ++chyb_[hra_.Pamet().ChybneKroky[i + 1].Cislo];

@@ -21,6 +21,9 @@ struct Prani {
     std::string Co, Soubor;
 };
 
+/// Which windows are painted at each stage: both, or the small one alone, which is sooner.
+enum class Velikosti { Obe, JenMala };
+
 /// The picture that was wanted is written; nothing more is to be played.
 struct ObrazHotov {};
 
@@ -48,7 +51,8 @@ private:
 /// the event. "." is what stands in the line before. A change: number, clock, hash, "snimek".
 class Pozorovatel {
 public:
-    Pozorovatel(hrac::Relace& hra, std::ostream& kam, std::optional<Prani> prani);
+    Pozorovatel(hrac::Relace& hra, std::ostream& kam, Velikosti velikosti,
+                std::optional<Prani> prani);
     void Stanice(std::string_view co);
     /// Score table, log, sounds and message boxes.
     void Zaver(int uloha);
@@ -67,6 +71,7 @@ private:
 
     hrac::Relace& hra_;
     std::ostream& kam_;
+    Velikosti velikosti_;
     std::optional<Prani> prani_;
     Okno male_{640, 480}, velke_{1920, 1080};
     int cislo_ = 0, pocetChyb_ = 0;

@@ -36,6 +36,7 @@ struct Hrani {
     std::uint32_t Seminko = 1;
     Relace::Cim Cim = Relace::Cim::Mysi;
     bool Spravne = true;
+    sit::Velikosti Velikosti = sit::Velikosti::Obe;
 };
 
 /// In the order of the numbers of Cim.
@@ -51,7 +52,7 @@ public:
         : h_(h),
           kam_(kam),
           hra_(h.Seminko, h.Cim),
-          pozorovatel_(hra_, kam, std::move(prani)),
+          pozorovatel_(hra_, kam, h.Velikosti, std::move(prani)),
           los_(h.Seminko + 1000),
           ruka_(hra_, h.Seminko + 2000, souhrn_),
           nedbala_(hra_, h.Seminko + 3000, souhrn_) {}
@@ -215,15 +216,17 @@ constexpr const char* POUZITI =
 int Spust(const std::vector<std::string>& a) {
     const std::string co = a.empty() ? "" : a[0];
     if (co == "hraj" && a.size() >= 3 && a.size() <= 5) {
-        // Of a picture that is no event's only the size counts.
-        const auto jenom = a.size() == 5 ? std::optional(Prani{0, a[4], ""}) : std::nullopt;
+        const bool jenMala = a.size() == 5;
+        if (jenMala && a[4] != "640x480")
+            throw std::invalid_argument("jen v takové velikosti hrát nejde: " + a[4]);
         std::cout << VERZE << '\n';
         for (const int uloha : Cisla(a[1])) {
             for (const int seminko : Cisla(a[2])) {
                 for (Hrani h : Zpusoby(a.size() > 3 ? a[3] : "mysi")) {
                     h.Uloha = uloha;
                     h.Seminko = static_cast<std::uint32_t>(seminko);
-                    Odehraj(h, std::cout, jenom);
+                    if (jenMala) h.Velikosti = Velikosti::JenMala;
+                    Odehraj(h, std::cout);
                 }
             }
         }
@@ -233,6 +236,8 @@ int Spust(const std::vector<std::string>& a) {
         Hrani h = Zpusoby(a[3]).at(0);
         h.Uloha = std::stoi(a[1]);
         h.Seminko = static_cast<std::uint32_t>(std::stoi(a[2]));
+        // Who wants another picture than the large one need not wait for it.
+        if (a[5] != "1920x1080") h.Velikosti = Velikosti::JenMala;
         std::ofstream nikam;  // closed: what is written to it is gone
         try {
             Odehraj(h, nikam, Prani{std::stoi(a[4]), a[5], a[6]});
