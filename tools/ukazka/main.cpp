@@ -1,6 +1,5 @@
 // Plays examples without a display, through the same events as a person's, and leaves a picture of
-// each stage. Prints the lines that the log got. Or draws the board with the names of its controls,
-// or an attempt as it is watched.
+// each stage. Prints the lines that the log got.
 
 #include <exception>
 #include <filesystem>
@@ -16,8 +15,6 @@
 #include "screens/Desky.h"
 #include "store/JmenaSouboru.h"
 #include "store/Kodovani.h"
-#include "ukazka/Ovladace.h"
-#include "ukazka/Prehrani.h"
 #include "zak/Sestroj.h"
 
 namespace {
@@ -92,25 +89,12 @@ int main(int pocet, char** slova) {
         cim = jak;
         argumenty.erase(argumenty.begin());
     }
-    const bool ovladace = !argumenty.empty() && argumenty[0] == "--ovladace";
-    const bool prehrani = !argumenty.empty() && argumenty[0] == "--prehrani";
-    if (argumenty.empty() || ((ovladace || prehrani) && argumenty.size() != 2)) {
+    if (argumenty.empty()) {
         std::cerr << "Použití: ukazka [--klavesami | --prstem] SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
-                     "         ukazka --ovladace OBRÁZEK.png\n"
-                     "         ukazka --prehrani OBRÁZEK.png\n"
                      "Bez čísel se hraje první úloha.\n";
         return 2;
     }
     try {
-        if (ovladace) {
-            Relace hra(SEMINKO, cim);
-            NakresliOvladace(hra, argumenty[1]);
-            return 0;
-        }
-        if (prehrani) {
-            VyfotPrehrani(argumenty[1]);
-            return 0;
-        }
         std::vector<int> ulohy;
         for (std::size_t i = 1; i < argumenty.size(); ++i) {
             ulohy.push_back(static_cast<int>(Cislo(argumenty[i])));

@@ -1,4 +1,4 @@
-#include "ukazka/Prehrani.h"
+#include "dokumentace/Prehrani.h"
 
 #include <filesystem>
 
@@ -8,9 +8,12 @@
 #include "screens/Start.h"
 #include "store/UkladaniPokusu.h"
 
-namespace rysovna::hrac {
+namespace rysovna::dokumentace {
 
 namespace {
+
+using hrac::Relace;
+using hrac::RukaNaDesce;
 
 constexpr int ULOHA = 2, PRIKLADU = 2;
 constexpr std::uint32_t SEMINKO = 7;
@@ -62,4 +65,4 @@ void VyfotPrehrani(const std::string& soubor) {
     divak.Host().Snimek(soubor, MERITKO);
 }
 
-}  // namespace rysovna::hrac
+}  // namespace rysovna::dokumentace

@@ -1,4 +1,4 @@
-#include "ukazka/Ovladace.h"
+#include "dokumentace/Ovladace.h"
 
 #include <algorithm>
 #include <array>
@@ -16,9 +16,13 @@
 #include "platform/Pisma.h"
 #include "zak/Sestroj.h"
 
-namespace rysovna::hrac {
+namespace rysovna::dokumentace {
 namespace {
 
+using hrac::Relace;
+using hrac::RukaNaDesce;
+
+constexpr std::uint32_t SEMINKO = 7;
 constexpr std::uint32_t SUNE_SE = 2000;  // ms, the panel at most
 constexpr Bod SEZNAM{212, 250};          // design px, beside the tools
 
@@ -244,11 +248,12 @@ private:
 
 }  // namespace
 
-void NakresliOvladace(Relace& hra, const std::string& soubor) {
+void NakresliOvladace(const std::string& soubor) {
+    Relace hra(SEMINKO);
     hra.Start();
     hra.SpustUlohu(1);
     RukaSFotem ruka(hra, soubor);
     Sestroj(ruka, 1);
 }
 
-}  // namespace rysovna::hrac
+}  // namespace rysovna::dokumentace

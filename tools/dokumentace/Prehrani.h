@@ -2,10 +2,10 @@
 
 #include <string>
 
-namespace rysovna::hrac {
+namespace rysovna::dokumentace {
 
 /// Plays an example with a wrong step, watches it up to there as a teacher does, and writes what is
 /// seen as a PNG.
 void VyfotPrehrani(const std::string& soubor);
 
-}  // namespace rysovna::hrac
+}  // namespace rysovna::dokumentace
