@@ -23,11 +23,30 @@ set(stranka ${CMAKE_CURRENT_SOURCE_DIR}/stranka)
 set(skripty ${stranka}/data.js ${stranka}/tabulka.js ${stranka}/pokus.js ${stranka}/graf.js
     ${stranka}/prehled.js)
 list(JOIN skripty "," skript)
+# Colours that the page shares with the game are filled into its style from the palette of pictures.
+set(paleta ${CMAKE_SOURCE_DIR}/assets/obrazky.txt)
+file(STRINGS ${paleta} radky_palety REGEX "^[A-Z0-9_]+ = #[0-9A-F]+$")
+foreach(radek ${radky_palety})
+    if(radek MATCHES "^([A-Z0-9_]+) = (#......)$")
+        set(BARVA_${CMAKE_MATCH_1} ${CMAKE_MATCH_2})
+    endif()
+endforeach()
+file(READ ${stranka}/stranka.css styl)
+string(REGEX MATCHALL "@[A-Z0-9_]+@" barvy_stylu "${styl}")
+string(REPLACE "@" "" barvy_stylu "${barvy_stylu}")
+foreach(barva ${barvy_stylu})
+    if(NOT DEFINED ${barva})
+        message(FATAL_ERROR "${stranka}/stranka.css: ${paleta} has no ${barva}")
+    endif()
+endforeach()
+set(styl ${CMAKE_BINARY_DIR}/vyrobene/prehled/stranka.css)
+configure_file(${stranka}/stranka.css ${styl} @ONLY)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${paleta})
 set(vlozene ${CMAKE_BINARY_DIR}/vyrobene/prehled/Vlozene.cpp)
 add_custom_command(OUTPUT ${vlozene}
     COMMAND ${CMAKE_COMMAND} -DVEN=${vlozene}
-        "-DCO=STRANKA|${stranka}/stranka.html;STYL|${stranka}/stranka.css;SKRIPT|${skript};GRAF|${GRAF_KNIHOVNA};LICENCE_GRAFU|${GRAF_LICENCE}"
+        "-DCO=STRANKA|${stranka}/stranka.html;STYL|${styl};SKRIPT|${skript};GRAF|${GRAF_KNIHOVNA};LICENCE_GRAFU|${GRAF_LICENCE}"
         -P ${CMAKE_CURRENT_SOURCE_DIR}/vloz.cmake
-    DEPENDS ${stranka}/stranka.html ${stranka}/stranka.css ${skripty} ${GRAF_KNIHOVNA} ${GRAF_LICENCE}
+    DEPENDS ${stranka}/stranka.html ${styl} ${skripty} ${GRAF_KNIHOVNA} ${GRAF_LICENCE}
         ${CMAKE_CURRENT_SOURCE_DIR}/vloz.cmake VERBATIM)
 target_sources(prehled_jadro PRIVATE ${vlozene})
