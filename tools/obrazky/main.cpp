@@ -15,9 +15,10 @@
 #include <thread>
 
 #include "Glyfy.h"
-#include "Kontrola.h"
+#include "KontrolaAssetu.h"
 #include "Kresleni.h"
 #include "Nahravka.h"
+#include "OvereniKresby.h"
 #include "Predlohy.h"
 #include "Sazba.h"
 #include "ZapisTvaru.h"
