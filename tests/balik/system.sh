@@ -86,6 +86,8 @@ nikde home/bara/.local
 
 oddil "složka třídy"
 v /usr/share/rysovna/slozka-tridy /srv/rysovna trida
+[ "$(find "$koren/srv/rysovna" -name '??.res' | wc -l)" = "$(find "$zde/../../data" -name '[0-9][0-9].txt' | wc -l)" ] ||
+    selhani "ve složce třídy není tabulka každé úlohy"
 sed -i 's,^VYSLEDKY=.*,VYSLEDKY=/srv/rysovna,' "$koren/etc/rysovna/Rysovna.ini"
 hraj alena &
 prvni=$!

@@ -72,7 +72,7 @@ hra() {
     fi
     rm -rf "$prace/hra"
     cp -r "$staging" "$prace/hra"
-    for i in $(seq -w 20); do : >"$prace/hra/data/$i.res"; done
+    for priklady in "$prace"/hra/data/[0-9][0-9].dat; do : >"${priklady%.dat}.res"; done
     : >"$prace/hra/data/Vysledky.dat"
     # What a result leaves aside must not come to the account that runs the tests.
     XDG_STATE_HOME="$prace/stav" XDG_DATA_HOME="$prace/ucet" otevri "$prace/hra/rysovna" "$@"
