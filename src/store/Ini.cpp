@@ -4,7 +4,7 @@
 #include <cctype>
 
 #include "base/Text.h"
-#include "store/Kodovani.h"
+#include "store/KodovaStranka.h"
 
 namespace rysovna {
 namespace {

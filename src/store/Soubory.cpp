@@ -10,6 +10,7 @@
 #include "base/Chyba.h"
 #include "base/Cisla.h"
 #include "rules/Misc.h"
+#include "store/KodovaStranka.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
 #include "store/RadkySouboru.h"

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "base/Cisla.h"
-#include "store/Kodovani.h"
+#include "store/KodovaStranka.h"
 #include "store/RadkySouboru.h"
 
 namespace rysovna {

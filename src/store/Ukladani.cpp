@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "store/JmenaSouboru.h"
-#include "store/Kodovani.h"
+#include "store/KodovaStranka.h"
 #include "store/RadkySouboru.h"
 
 namespace rysovna {

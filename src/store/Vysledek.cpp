@@ -2,7 +2,7 @@
 
 #include "base/Cisla.h"
 #include "base/Text.h"
-#include "store/Kodovani.h"
+#include "store/KodovaStranka.h"
 #include "store/RadkySouboru.h"
 
 namespace rysovna {

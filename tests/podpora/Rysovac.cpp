@@ -4,6 +4,7 @@
 #include <cctype>
 #include <sstream>
 
+#include "store/KodovaStranka.h"
 #include "store/Kodovani.h"
 #include "zak/Rysovani.h"
 

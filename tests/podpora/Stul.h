@@ -12,6 +12,7 @@
 #include "podpora/Prostredi.h"
 #include "podpora/RukaUlohy.h"
 #include "rules/KatalogChyb.h"
+#include "store/KodovaStranka.h"
 #include "store/Kodovani.h"
 #include "store/RadkySouboru.h"
 #include "zak/Ruka.h"

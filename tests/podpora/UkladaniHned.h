@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "base/Zasobnik.h"
-#include "store/Kodovani.h"
+#include "store/KodovaStranka.h"
 #include "store/Ukladani.h"
 #include "store/UkladaniPokusu.h"
 

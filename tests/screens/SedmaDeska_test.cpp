@@ -12,6 +12,7 @@
 #include "rules/DialogKroku.h"
 #include "screens/DeskaForm.h"
 #include "screens/Desky.h"
+#include "store/KodovaStranka.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "podpora/SouboryPomoc.h"
+#include "store/KodovaStranka.h"
 #include "store/RadkySouboru.h"
 
 namespace rysovna::testy {

@@ -6,6 +6,7 @@
 #include "CeleSoubory.h"
 #include "podpora/PravaUctu.h"
 #include "podpora/SouboryPomoc.h"
+#include "store/KodovaStranka.h"
 #include "store/Kodovani.h"
 #include "store/RadkySouboru.h"
 

@@ -6,6 +6,7 @@
 #include "podpora/SouboryPomoc.h"
 #include "rules/Chyby.h"
 #include "rules/Znamka.h"
+#include "store/KodovaStranka.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
 

@@ -15,6 +15,7 @@
 #include "rules/KatalogChyb.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
+#include "store/KodovaStranka.h"
 #include "store/Kodovani.h"
 #include "store/MapaPoli.h"
 #include "store/RadkySouboru.h"

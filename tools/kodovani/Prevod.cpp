@@ -8,6 +8,7 @@
 #include "base/Chyba.h"
 #include "base/Text.h"
 #include "rules/Ulohy.h"
+#include "store/KodovaStranka.h"
 #include "store/Kodovani.h"
 #include "store/RadkySouboru.h"
 

@@ -10,7 +10,7 @@
 #include "base/Text.h"
 #include "platform/Stroj.h"
 #include "prehled/Jmena.h"
-#include "store/Kodovani.h"
+#include "store/KodovaStranka.h"
 #include "store/RadkySouboru.h"
 
 namespace rysovna::prehled {

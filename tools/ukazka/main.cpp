@@ -14,7 +14,7 @@
 #include "rules/Misc.h"
 #include "screens/Desky.h"
 #include "store/JmenaSouboru.h"
-#include "store/Kodovani.h"
+#include "store/KodovaStranka.h"
 #include "zak/Sestroj.h"
 
 namespace {
