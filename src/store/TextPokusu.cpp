@@ -403,6 +403,14 @@ bool MaKonec(std::string_view text) {
     return text.ends_with("\n" + KonecPokusu(true)) || text.ends_with("\n" + KonecPokusu(false));
 }
 
+std::optional<std::string> JmenoZTextu(std::string_view text) {
+    const std::string slovo = "\n" + std::string(JMENO) + " ";
+    const std::size_t kde = text.find(slovo);
+    if (kde == std::string_view::npos) return std::nullopt;
+    text.remove_prefix(kde + slovo.size());
+    return ZRadku(text.substr(0, text.find_first_of("\r\n")));
+}
+
 PrectenyPokus CtiPokus(std::string_view text) {
     const std::optional<std::string_view> prvni = DalsiRadek(text);
     if (PrectenyPokus cizi = CtiZnacku(prvni.value_or("")); !cizi.Vada.empty()) return cizi;

@@ -37,5 +37,7 @@ constexpr std::size_t NEJVETSI_POKUS = 1U << 20;
 
 /// Whether the text has its end.
 [[nodiscard]] bool MaKonec(std::string_view text);
+/// The pupil's name out of a text that may be no whole attempt; nothing where none stands.
+[[nodiscard]] std::optional<std::string> JmenoZTextu(std::string_view text);
 
 }  // namespace rysovna

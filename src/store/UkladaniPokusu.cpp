@@ -1,5 +1,6 @@
 #include "store/UkladaniPokusu.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -20,6 +21,13 @@ constexpr std::string_view KOREN = "koren=";  // the first line in the queue: wh
 std::string Den(const DatumACas& d) {
     return std::to_string(d.Rok) + DveCislice(d.Mesic) + DveCislice(d.Den);
 }
+
+/// What names of attempts begin with: day, time and task; and its shape, 0 for any digit.
+std::string ZacatekJmena(const DatumACas& d, int cisloUlohy) {
+    return Den(d) + "-" + DveCislice(d.Hodina) + DveCislice(d.Minuta) + "-" +
+           DveCislice(cisloUlohy) + "-";
+}
+constexpr std::string_view TVAR_ZACATKU = "00000000-0000-00-";
 
 /// A file that nobody has; one that a program which was killed left under this name goes.
 std::unique_ptr<Soubor> NovyCisty(Disk& disk, const fs::path& cesta) {
@@ -54,6 +62,13 @@ std::string_view BezKonce(std::string_view text) {
 
 }  // namespace
 
+bool UkladaniPokusu::ZacinaJakoPokus(std::string_view jmeno) {
+    const auto sedi = [](char tvar, char z) {
+        return tvar == '0' ? z >= '0' && z <= '9' : z == tvar;
+    };
+    return std::ranges::equal(TVAR_ZACATKU, jmeno.substr(0, TVAR_ZACATKU.size()), sedi);
+}
+
 UkladaniPokusu::UkladaniPokusu(Disk& disk, std::function<std::uint32_t()> ted,
                                const fs::path& koren, const fs::path& slozkaStavu)
     : UkladaniNaDisk(disk, std::move(ted)),
@@ -70,9 +85,8 @@ fs::path UkladaniPokusu::Znamka() const {
 }
 
 void UkladaniPokusu::Zacni(const Pokus& pokus) {
-    const DatumACas& d = pokus.Zacatek;
-    serie_ = {.Jmeno = Den(d) + "-" + DveCislice(d.Hodina) + DveCislice(d.Minuta) + "-" +
-                       DveCislice(pokus.CisloUlohy) + "-" + NahodneCislice() + std::string(PRIPONA),
+    serie_ = {.Jmeno = ZacatekJmena(pokus.Zacatek, pokus.CisloUlohy) + NahodneCislice() +
+                       std::string(PRIPONA),
               .Text = ZacatekPokusu(pokus),
               .CisloUlohy = pokus.CisloUlohy};
 }

@@ -168,12 +168,7 @@ std::string BezBodu(std::string_view veta) {
 }
 
 std::optional<std::string> JmenoVSouboru(const fs::path& soubor) {
-    constexpr std::string_view SLOVO = "\njmeno ";
-    const std::string text = Zacatek(soubor, HLAVICKA).value_or(std::string());
-    const std::size_t kde = text.find(SLOVO);
-    if (kde == std::string::npos) return std::nullopt;
-    const std::string_view zbytek = std::string_view(text).substr(kde + SLOVO.size());
-    return ZRadku(zbytek.substr(0, std::min(zbytek.find_first_of("\r\n"), zbytek.size())));
+    return JmenoZTextu(Zacatek(soubor, HLAVICKA).value_or(std::string()));
 }
 
 PrectenaSerie PrectiSerii(const fs::path& soubor) {

@@ -15,18 +15,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What the game's names of attempts begin with: day, time and task, 0 for any digit.
-constexpr std::string_view TVAR_JMENA = "00000000-0000-00-";
-
 /// The name that the game has given; of a file of anybody's else own name just that.
 std::string JmenoOdHry(const std::string& jmeno) {
     const std::size_t mezera = jmeno.find(' ');
-    if (mezera == std::string::npos || mezera < TVAR_JMENA.size()) return jmeno;
-    const auto sedi = [](char tvar, char z) {
-        return tvar == '0' ? z >= '0' && z <= '9' : z == tvar;
-    };
-    if (!std::ranges::equal(TVAR_JMENA, jmeno.substr(0, TVAR_JMENA.size()), sedi)) return jmeno;
-    return jmeno.substr(0, mezera) + std::string(UkladaniPokusu::PRIPONA);
+    if (mezera == std::string::npos) return jmeno;
+    const std::string odHry = jmeno.substr(0, mezera);
+    if (!UkladaniPokusu::ZacinaJakoPokus(odHry)) return jmeno;
+    return odHry + std::string(UkladaniPokusu::PRIPONA);
 }
 
 class Prohlidka {
