@@ -10,7 +10,7 @@
 
 #include "base/Chyba.h"
 #include "platform/Pisma.h"
-#include "platform/bmp/Bmp.h"
+#include "platform/bmp/Sbaleni.h"
 
 namespace rysovna {
 

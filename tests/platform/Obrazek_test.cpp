@@ -5,6 +5,7 @@
 #include "platform/ObrazekData.h"
 #include "platform/Stroj.h"
 #include "platform/bmp/Bmp.h"
+#include "platform/bmp/Sbaleni.h"
 
 namespace rysovna::testy {
 namespace {

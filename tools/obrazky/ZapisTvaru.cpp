@@ -9,6 +9,7 @@
 #include "base/Text.h"
 #include "platform/Pisma.h"
 #include "platform/Tvary.h"
+#include "platform/bmp/Sbaleni.h"
 
 namespace rysovna::obrazky {
 

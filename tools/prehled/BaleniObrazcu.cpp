@@ -1,8 +1,9 @@
 #include "prehled/BaleniObrazcu.h"
 
 #include <algorithm>
-#include <zlib.h>
+#include <optional>
 
+#include "platform/bmp/Sbaleni.h"
 #include "store/TextRadku.h"
 
 namespace rysovna::prehled {
@@ -29,14 +30,8 @@ std::size_t DelkaObrazcu(const Serie& serie) {
 std::string ZabalObrazce(const Serie& serie) {
     std::string vse;
     ProObrazce(serie, [&vse](const std::string& o) { vse += o + ODDELOVAC; });
-    std::string zabalene(compressBound(static_cast<uLong>(vse.size())), '\0');
-    auto delka = static_cast<uLongf>(zabalene.size());
-    compress2(reinterpret_cast<Bytef*>(zabalene.data()), &delka,
-              reinterpret_cast<const Bytef*>(vse.data()), static_cast<uLong>(vse.size()),
-              Z_DEFAULT_COMPRESSION);
-    zabalene.resize(delka);
     // How long it is when unpacked, in front.
-    return std::to_string(vse.size()) + " " + zabalene;
+    return std::to_string(vse.size()) + " " + Sbal(vse, Sbaleni::Rychle);
 }
 
 bool RozbalObrazce(std::string_view zabalene, Serie& serie) {
@@ -44,13 +39,9 @@ bool RozbalObrazce(std::string_view zabalene, Serie& serie) {
     const auto delka = CeleCislo<std::size_t>(zabalene.substr(0, mezera));
     zabalene.remove_prefix(std::min(mezera + 1, zabalene.size()));
     if (!delka || *delka > NEJVIC_OBRAZCU) return false;
-    std::string vse(*delka, '\0');
-    auto vyslo = static_cast<uLongf>(vse.size());
-    if (uncompress(reinterpret_cast<Bytef*>(vse.data()), &vyslo,
-                   reinterpret_cast<const Bytef*>(zabalene.data()),
-                   static_cast<uLong>(zabalene.size())) != Z_OK)
-        return false;
-    std::string_view zbyva = vse;
+    const std::optional<std::string> vse = Rozbal(zabalene, *delka);
+    if (!vse) return false;
+    std::string_view zbyva = *vse;
     ProObrazce(serie, [&zbyva](std::string& o) {
         const std::size_t konec = std::min(zbyva.find(ODDELOVAC), zbyva.size());
         o = zbyva.substr(0, konec);

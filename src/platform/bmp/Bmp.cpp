@@ -5,6 +5,7 @@
 #include <zlib.h>
 
 #include "base/Chyba.h"
+#include "platform/bmp/Sbaleni.h"
 
 // The format: a file header of 14 bytes ("BM", at 10 where the pixels begin), an information header
 // (at 14 its size, at 18 width, at 22 height, at 28 bits a pixel, at 30 compression, at 46 colours
@@ -204,31 +205,6 @@ ObrazBmp CtiBmp(std::string data, const std::string& kde) {
 HlavaBmp NactiHlavuBmp(const std::filesystem::path& soubor) {
     const Hlavicka h = PrectiHlavicku(NactiZacatek(soubor, HLAVICKA), soubor.string());
     return {h.Sirka, h.Vyska, h.Zabaleny ? std::optional(h.Otisk) : std::nullopt};
-}
-
-std::string Sbal(const std::string& data) {
-    uLongf delka = compressBound(static_cast<uLong>(data.size()));
-    std::string sbalene(delka, '\0');
-    if (compress2(reinterpret_cast<Bytef*>(sbalene.data()), &delka,
-                  reinterpret_cast<const Bytef*>(data.data()), static_cast<uLong>(data.size()),
-                  Z_BEST_COMPRESSION) != Z_OK)
-        Selhani("Data nelze sbalit");
-    sbalene.resize(delka);
-    return sbalene;
-}
-
-std::optional<std::string> Rozbal(std::string_view sbalene, std::size_t delka) {
-    // Deflating makes nothing smaller than this: a damaged length must not ask for all memory.
-    constexpr std::size_t NEJVYSSI_POMER = 1100;
-    if (delka / NEJVYSSI_POMER > sbalene.size()) return std::nullopt;
-    std::string data(delka, '\0');
-    auto vyslo = static_cast<uLongf>(delka);
-    if (uncompress(reinterpret_cast<Bytef*>(data.data()), &vyslo,
-                   reinterpret_cast<const Bytef*>(sbalene.data()),
-                   static_cast<uLong>(sbalene.size())) != Z_OK ||
-        vyslo != delka)
-        return std::nullopt;
-    return data;
 }
 
 }  // namespace rysovna

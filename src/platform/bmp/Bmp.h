@@ -37,8 +37,4 @@ struct HlavaBmp {
 [[nodiscard]] ObrazBmp CtiBmp(std::string data, const std::string& kde);
 [[nodiscard]] HlavaBmp NactiHlavuBmp(const std::filesystem::path& soubor);
 
-/// All bytes deflated, and the reverse: none when they are damaged or not just so many.
-[[nodiscard]] std::string Sbal(const std::string& data);
-[[nodiscard]] std::optional<std::string> Rozbal(std::string_view sbalene, std::size_t delka);
-
 }  // namespace rysovna
