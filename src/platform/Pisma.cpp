@@ -13,6 +13,7 @@
 #include "base/Chyba.h"
 #include "base/Text.h"
 #include "platform/Cesta.h"
+#include "platform/NacteniGlyfu.h"
 #include "platform/Sazba.h"
 #include "platform/Stroj.h"
 
@@ -152,12 +153,9 @@ private:
     }
 
     static Glyf Vytvor(FT_Face f, char32_t znak, int velikost, Rezim rezim, int ctvrtina) {
-        constexpr std::array<long, 3> NACTENI = {FT_LOAD_TARGET_MONO, FT_LOAD_TARGET_LIGHT,
-                                                 FT_LOAD_NO_HINTING};
         Glyf g;
         if (FT_Set_Char_Size(f, velikost, velikost, 72, 72) != 0) return g;
-        const auto nacteni =
-            static_cast<FT_Int32>(NACTENI[static_cast<std::size_t>(rezim)] | FT_LOAD_NO_BITMAP);
+        const FT_Int32 nacteni = NACTENI_GLYFU[static_cast<std::size_t>(rezim)];
         if (FT_Load_Glyph(f, Cislo(f, znak), nacteni) != 0) return g;
         if (ctvrtina != 0) FT_Outline_Translate(&f->glyph->outline, ctvrtina * 64 / CTVRTINY, 0);
         const bool mono = rezim == Rezim::Logicky;

@@ -14,17 +14,17 @@
 #include <vector>
 #include FT_FREETYPE_H
 
+#include "platform/NacteniGlyfu.h"
+
 namespace {
+
+using rysovna::NACTENI_GLYFU;
 
 /// What must be there if the whole font has it: Latin, Greek, signs of prompts and results.
 constexpr struct {
     FT_ULong Od, Do;
 } POVINNE[] = {{0x20, 0x24F},    {0x370, 0x3FF},   {0x1E00, 0x1EFF}, {0x2000, 0x206F},
                {0x20A0, 0x20CF}, {0x2190, 0x22FF}, {0xFFFD, 0xFFFD}};
-
-/// As src/platform/Pisma.cpp loads them: logical, small, large.
-constexpr std::array<FT_Int32, 3> NACTENI = {FT_LOAD_TARGET_MONO, FT_LOAD_TARGET_LIGHT,
-                                             FT_LOAD_NO_HINTING};
 
 /// Sizes, px: those of the 1:1 screens and their lower indices, whole and odd ones.
 constexpr std::array<double, 10> VELIKOSTI = {8, 9.33, 10, 10.67, 12, 13.33, 14.67, 16, 18.67, 32};
@@ -47,9 +47,9 @@ public:
 
     /// All that is seen of a glyph at the size that is set: place, size, pixels.
     [[nodiscard]] std::string Obraz(FT_UInt glyf, FT_Int32 nacteni) const {
-        if (FT_Load_Glyph(rez_, glyf, nacteni | FT_LOAD_NO_BITMAP) != 0) return "nejde načíst";
+        if (FT_Load_Glyph(rez_, glyf, nacteni) != 0) return "nejde načíst";
         FT_GlyphSlot g = rez_->glyph;
-        const bool mono = nacteni == NACTENI[0];
+        const bool mono = nacteni == NACTENI_GLYFU[0];
         if (FT_Render_Glyph(g, mono ? FT_RENDER_MODE_MONO : FT_RENDER_MODE_NORMAL) != 0)
             return "nejde vykreslit";
         const FT_Bitmap& b = g->bitmap;
@@ -116,7 +116,7 @@ void Porovnej(FT_Library knihovna, const char* souborCeleho, const char* soubor)
         for (const Rez* r : {&cele, &nase})
             FT_Set_Char_Size(r->operator->(), velikost, velikost, 72, 72);
         for (const FT_ULong z : znaky) {
-            for (const FT_Int32 nacteni : NACTENI) {
+            for (const FT_Int32 nacteni : NACTENI_GLYFU) {
                 ++obrazu;
                 if (cele.Obraz(cele.Glyf(z), nacteni) != nase.Obraz(nase.Glyf(z), nacteni))
                     Vada(soubor, z, "jiný obraz");
