@@ -21,6 +21,9 @@ namespace rysovna {
 /// files elsewhere leaves these out. (A score table that is being written bears a name of its own.)
 constexpr std::string_view PRIPONA_NOVEHO = ".novy", JMENO_ZAMKU = "zamek";
 
+/// The file that says where things are.
+constexpr const char* JMENO_INI = "Rysovna.ini";
+
 /// Why the disk did not do what it was asked for.
 enum class Pricina {
     Neni,        ///< there is no such file or folder

@@ -1,13 +1,13 @@
 #include "platform/Stroj.h"
 
+#include "base/Disk.h"
 #include "platform/Cesta.h"
 
 namespace rysovna {
 namespace {
 
 bool MaNastaveni(const std::filesystem::path& slozka) {
-    return !slozka.empty() &&
-           DiskStroje().JeSoubor(NativniCesta((slozka / "Rysovna.ini").string()));
+    return !slozka.empty() && DiskStroje().JeSoubor(NativniCesta((slozka / JMENO_INI).string()));
 }
 
 }  // namespace

@@ -5,8 +5,6 @@
 
 namespace rysovna {
 
-/// The file that says where things are.
-constexpr const char* JMENO_INI = "Rysovna.ini";
 /// Of the game's data: the tables of grades and the sentences of wrong steps.
 constexpr const char* JMENO_ZNAMEK = "Znamky.dat";
 constexpr const char* JMENO_VET = "Errors.dat";

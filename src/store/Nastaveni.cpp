@@ -3,8 +3,8 @@
 #include <cctype>
 
 #include "base/Cisla.h"
+#include "base/Disk.h"
 #include "store/Ini.h"
-#include "store/JmenaSouboru.h"
 #include "store/TextRadku.h"
 
 namespace rysovna {
