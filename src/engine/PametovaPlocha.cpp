@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Cisla.h"
+#include "base/Obdelniky.h"
 #include "base/Pixely.h"
 #include "base/Rastr.h"
 #include "base/Text.h"
@@ -10,15 +11,6 @@
 namespace rysovna {
 
 namespace {
-
-/// A rectangle cut to another one.
-Obdelnik Prunik(const Obdelnik& a, const Obdelnik& b) {
-    const int left = std::max(a.Left, b.Left);
-    const int top = std::max(a.Top, b.Top);
-    const int right = std::min(a.Left + a.Width, b.Left + b.Width);
-    const int bottom = std::min(a.Top + a.Height, b.Top + b.Height);
-    return {left, top, std::max(right - left, 0), std::max(bottom - top, 0)};
-}
 
 Barva Smichej(Barva cil, Barva zdroj, Rop rop) {
     switch (rop) {

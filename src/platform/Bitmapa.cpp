@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "base/Obdelniky.h"
 #include "base/Pixely.h"
 
 namespace rysovna {
@@ -197,29 +198,6 @@ Bitmapa::Bitmapa(int sirka, int vyska, Pixel barva)
     : Sirka(std::max(sirka, 0)),
       Vyska(std::max(vyska, 0)),
       Body(static_cast<std::size_t>(Sirka) * static_cast<std::size_t>(Vyska), barva) {}
-
-Obdelnik Prunik(const Obdelnik& a, const Obdelnik& b) {
-    const int x1 = std::max(a.Left, b.Left);
-    const int y1 = std::max(a.Top, b.Top);
-    const int x2 = std::min(a.Left + a.Width, b.Left + b.Width);
-    const int y2 = std::min(a.Top + a.Height, b.Top + b.Height);
-    if (x2 <= x1 || y2 <= y1) return {x1, y1, 0, 0};
-    return {x1, y1, x2 - x1, y2 - y1};
-}
-
-Obdelnik Obal(const Obdelnik& a, const Obdelnik& b) {
-    if (JePrazdny(a)) return b;
-    if (JePrazdny(b)) return a;
-    const int x1 = std::min(a.Left, b.Left);
-    const int y1 = std::min(a.Top, b.Top);
-    const int x2 = std::max(a.Left + a.Width, b.Left + b.Width);
-    const int y2 = std::max(a.Top + a.Height, b.Top + b.Height);
-    return {x1, y1, x2 - x1, y2 - y1};
-}
-
-bool Pokryva(const Obdelnik& a, const Obdelnik& b) {
-    return JePrazdny(b) || Prunik(a, b) == b;
-}
 
 int Zvetsi(int x, double s) {
     return static_cast<int>(std::floor(x * s + 0.5));

@@ -68,15 +68,6 @@ struct Bitmapa {
     [[nodiscard]] PohledKeCteni KeCteni() const { return {Body.data(), Sirka, Vyska, Sirka}; }
 };
 
-/// The common part; a rectangle of no size where there is none.
-[[nodiscard]] Obdelnik Prunik(const Obdelnik& a, const Obdelnik& b);
-/// The smallest rectangle around both; one without size counts for nothing.
-[[nodiscard]] Obdelnik Obal(const Obdelnik& a, const Obdelnik& b);
-[[nodiscard]] constexpr bool JePrazdny(const Obdelnik& o) {
-    return o.Width <= 0 || o.Height <= 0;
-}
-/// Whether every pixel of b is in a.
-[[nodiscard]] bool Pokryva(const Obdelnik& a, const Obdelnik& b);
 /// A design rectangle as pixels of a bitmap enlarged S times; touching ones stay touching.
 [[nodiscard]] Obdelnik Zvetsi(const Obdelnik& o, double s);
 /// A design coordinate on a bitmap enlarged S times.

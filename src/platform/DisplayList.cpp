@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/Obdelniky.h"
 #include "platform/SurfaceVnitrek.h"
 
 namespace rysovna {

@@ -3,6 +3,7 @@
 #include <numbers>
 #include <span>
 
+#include "base/Obdelniky.h"
 #include "platform/DisplayList.h"
 #include "platform/Pisma.h"
 #include "platform/Vrstvy.h"

@@ -7,6 +7,7 @@
 #include <span>
 
 #include "base/Chyba.h"
+#include "base/Obdelniky.h"
 #include "platform/MalirObjektu.h"
 #include "platform/Misto.h"
 #include "platform/ObrazekData.h"

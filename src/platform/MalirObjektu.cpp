@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "base/Obdelniky.h"
 #include "platform/Paleta.h"
 #include "platform/Pisma.h"
 #include "platform/PsaniTextu.h"

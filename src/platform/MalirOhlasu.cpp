@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "base/Obdelniky.h"
 #include "platform/Dotyk.h"
 #include "platform/MalirObjektu.h"
 #include "platform/Paleta.h"

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "base/Chyba.h"
+#include "base/Obdelniky.h"
 #include "platform/Cesta.h"
 #include "platform/ObrazekData.h"
 #include "platform/bmp/Bmp.h"

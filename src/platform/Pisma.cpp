@@ -11,6 +11,7 @@
 #include FT_OUTLINE_H
 
 #include "base/Chyba.h"
+#include "base/Obdelniky.h"
 #include "base/Text.h"
 #include "platform/Cesta.h"
 #include "platform/NacteniGlyfu.h"

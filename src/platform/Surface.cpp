@@ -4,6 +4,7 @@
 #include <limits>
 #include <map>
 
+#include "base/Obdelniky.h"
 #include "base/Pixely.h"
 #include "base/Rastr.h"
 #include "platform/Pisma.h"

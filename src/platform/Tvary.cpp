@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/Chyba.h"
+#include "base/Obdelniky.h"
 #include "platform/Pisma.h"
 #include "platform/bmp/Sbaleni.h"
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "base/Obdelniky.h"
+
 namespace rysovna {
 
 namespace {

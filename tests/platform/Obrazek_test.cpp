@@ -2,6 +2,7 @@
 
 #include "PlatformTest.h"
 #include "base/Chyba.h"
+#include "base/Obdelniky.h"
 #include "platform/ObrazekData.h"
 #include "platform/Stroj.h"
 #include "platform/bmp/Bmp.h"

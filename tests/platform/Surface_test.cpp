@@ -3,6 +3,7 @@
 
 #include "PlatformTest.h"
 #include "base/Chyba.h"
+#include "base/Obdelniky.h"
 #include "platform/Pisma.h"
 #include "platform/SurfaceVnitrek.h"
 #include "platform/Zalom.h"

@@ -7,7 +7,7 @@
 #include <tuple>
 #include <vector>
 
-#include "platform/Bitmapa.h"
+#include "base/Obdelniky.h"
 #include "podpora/Rysovac.h"
 #include "screens/DeskaForm.h"
 #include "screens/RadaCesky.h"

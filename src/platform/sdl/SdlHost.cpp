@@ -19,6 +19,7 @@
 #endif
 
 #include "base/Chyba.h"
+#include "base/Obdelniky.h"
 #include "platform/Cesta.h"
 #include "platform/Obrazovky.h"
 #include "platform/Pisma.h"

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/Chyba.h"
+#include "base/Obdelniky.h"
 #include "platform/Cesta.h"
 #include "platform/ObrazekData.h"
 #include "platform/Obrazovky.h"
