@@ -178,7 +178,7 @@ void Malir::Znovu() {
 std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, std::uint32_t ted) {
     Vnitrek& v = *vnitrek_;
     const Umisteni umisteni = Umisteni::Vejdi(cil.Sirka, cil.Vyska);
-    const bool kurzor = (ted - okna.PosledniPsani()) / BLIKANI % 2 == 0;
+    const bool kurzor = okna.KurzorJeVidet(ted);
     Soupis soupis(okna, kurzor);
     const std::optional<Obrazovky::Prsten> prsten = okna.PrstenVpredu();
     std::vector<Obrazovky::Ohlas> ohlasy = okna.OhlasyVpredu();

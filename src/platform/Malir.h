@@ -56,7 +56,4 @@ private:
 void UlozSnimek(const Obrazovky& okna, std::uint32_t ted, const std::string& soubor,
                 double meritko);
 
-/// Milliseconds in which the caret of a text box is shown, and then not.
-constexpr std::uint32_t BLIKANI = 530;
-
 }  // namespace rysovna

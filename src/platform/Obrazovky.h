@@ -115,8 +115,8 @@ public:
     /// Where a line of text is typed, design px: what a screen keyboard or an input method must not
     /// cover. Empty where none is; keys work without it.
     [[nodiscard]] Obdelnik KdeSePise() const;
-    /// Tick count of the last typing or caret move: the caret does not blink at once.
-    [[nodiscard]] std::uint32_t PosledniPsani() const;
+    /// Whether the caret is shown in its blinking; at once after typing and after a caret move.
+    [[nodiscard]] bool KurzorJeVidet(std::uint32_t ted) const;
     /// Milliseconds until the caret comes or goes; none where no text is typed.
     [[nodiscard]] std::optional<std::uint32_t> DoBliknuti(std::uint32_t ted) const;
 

@@ -7,7 +7,6 @@
 #include "base/Matematika.h"
 #include "platform/Host.h"
 #include "platform/Klavesnice.h"
-#include "platform/Malir.h"
 #include "platform/Misto.h"
 #include "platform/ObrazovkyVnitrek.h"
 #include "platform/PsaniTextu.h"
@@ -23,6 +22,8 @@ constexpr double DVOJKLIK_PX = 4;
 constexpr double DVOJKLIK_PRSTEM_PX = 16;
 /// A move so far takes the ring away, design px.
 constexpr double POHNULA_SE = 4;
+/// Milliseconds in which the caret of a text box is shown, and then not.
+constexpr std::uint32_t BLIKANI = 530;
 
 bool BereMys(const Ovladac& o) {
     return o.ProMys && (o.Druh == Ovladac::Typ::PictureBox || o.Druh == Ovladac::Typ::Image ||
@@ -442,13 +443,13 @@ Obdelnik Obrazovky::KdeSePise() const {
     return {misto.Left, misto.Top, SIRKA_PSANI, VYSKA_PSANI};
 }
 
-std::uint32_t Obrazovky::PosledniPsani() const {
-    return vnitrek_->Psano;
+bool Obrazovky::KurzorJeVidet(std::uint32_t ted) const {
+    return (ted - vnitrek_->Psano) / BLIKANI % 2 == 0;
 }
 
 std::optional<std::uint32_t> Obrazovky::DoBliknuti(std::uint32_t ted) const {
     if (Psane() == nullptr) return std::nullopt;
-    return BLIKANI - (ted - PosledniPsani()) % BLIKANI;
+    return BLIKANI - (ted - vnitrek_->Psano) % BLIKANI;
 }
 
 void Obrazovky::DorucText(const Vstup& s) {
