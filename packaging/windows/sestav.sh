@@ -36,8 +36,12 @@ vydani_windows() {
     cp -r "$hotove/assets" "$slozka"
     # Licences of what is linked with the program, beside those of the fonts.
     cp "$(packaging/knihovny/sestav windows)"/share/licence/* "$slozka/assets/Licence"
-    for balicek in nlohmann-json3-dev libkainjow-mustache-dev libjs-chart.js; do
-        cp "/usr/share/doc/$balicek/copyright" "$slozka/assets/Licence/$balicek.txt"
+    # And those of the overview's libraries, as Debian's package lists them; utf8proc is one of the
+    # former here.
+    knihovny_prehledu="$(sed -n 's/^@doc:\(.*\)@$/\1/p' packaging/balik/copyright)"
+    for balicek in $knihovny_prehledu; do
+        [ "$balicek" = libutf8proc-dev ] ||
+            cp "/usr/share/doc/$balicek/copyright" "$slozka/assets/Licence/$balicek.txt"
     done
     # As it stands before anybody has played.
     for soubor in "$hotove"/data/*.dat; do
