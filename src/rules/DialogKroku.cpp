@@ -17,14 +17,15 @@ constexpr std::array<Nastroj, 6> NASTROJE_UTVARU = {Nastroj::Poloprimka, Nastroj
                                                     Nastroj::Rovnobezka, Nastroj::Kruznice,
                                                     Nastroj::Zpet,       Nastroj::Zadny};
 
-/// What stands before the names of a base in the lists of perpendiculars and parallels.
-struct UvodPrimky {
-    std::string_view Druh, Kolmice, Rovnobezka;
+/// The kinds of object that a perpendicular or a parallel can go by.
+struct DruhZakladny {
+    std::string_view Druh;
+    UvodZakladny Uvod;
 };
-constexpr UvodPrimky UVODY[] = {{USECKA, UVOD_KOLMICE, "s úsečkou "},
-                                {POLOPRIMKA, "k polopřímce ", "s polopřímkou "},
-                                {ROVNOBEZKA, "k přímce ", "s přímkou "},
-                                {KOLMICE, "k přímce ", "s přímkou "}};
+constexpr DruhZakladny ZAKLADNY[] = {{USECKA, UVOD_USECKY},
+                                     {POLOPRIMKA, UVOD_POLOPRIMKY},
+                                     {ROVNOBEZKA, UVOD_PRIMKY},
+                                     {KOLMICE, UVOD_PRIMKY}};
 
 /// The last object of these names, one behind the other; 0 if none is.
 int UtvarSeJmeny(const Tabulky& t, std::string_view jmena) {
@@ -133,10 +134,10 @@ void DialogKroku::OtevriSeznam(Seznam::Obsah coRika, std::vector<RadekSeznamu> r
 
 std::optional<RadekSeznamu> DialogKroku::RadekPrimky(const Utvar& u, bool kolmice) {
     const std::string jmena = u.Jmeno1 + u.Jmeno2;
-    const auto* uvod = std::ranges::find(UVODY, std::string_view(u.Druh), &UvodPrimky::Druh);
-    if (uvod == std::end(UVODY)) return std::nullopt;
-    return RadekSeznamu{std::string(kolmice ? uvod->Kolmice : uvod->Rovnobezka) + jmena, true, true,
-                        jmena};
+    const auto* z = std::ranges::find(ZAKLADNY, std::string_view(u.Druh), &DruhZakladny::Druh);
+    if (z == std::end(ZAKLADNY)) return std::nullopt;
+    return RadekSeznamu{std::string(kolmice ? z->Uvod.Kolmice : z->Uvod.Rovnobezka) + jmena, true,
+                        true, jmena};
 }
 
 // ---- Choosing a line -------------------------------------------------------------------------

@@ -23,9 +23,6 @@ namespace rysovna {
 constexpr ChybaKroku CHYBA_PAPRSEK_NECEKANY = 18, CHYBA_KOLMICE = 19, CHYBA_ROVNOBEZKA = 20,
                      CHYBA_KRUZNICE_NECEKANA = 21;
 
-/// What stands before the names of a segment in the list of perpendiculars.
-constexpr std::string_view UVOD_KOLMICE = "k úsečce ";
-
 /// Name of a new object by its kind, as the first and as the second of the two that meet in a
 /// vertex. Of a ray it is the second point.
 struct JmenaUtvaru {

@@ -6,6 +6,7 @@
 #include "rules/Chyby.h"
 #include "rules/DialogTrojuhelniku.h"
 #include "rules/Misc.h"
+#include "rules/NazvyPrimek.h"
 
 namespace rysovna {
 
@@ -191,7 +192,7 @@ void DialogTrojuhelniku::ZvolKolmici(std::size_t i) {
     const RadekSeznamu& r = stav_.Vyber.Radky[i];
     // The only lead-in that the line loses: the comparisons for the longer ones look at the first
     // nine characters alone and never match, so those captions stay whole.
-    stav_.ZvolenyNazev = r.Text.starts_with(UVOD_KOLMICE) ? r.Jmena : r.Text;
+    stav_.ZvolenyNazev = r.Text.starts_with(UVOD_USECKY.Kolmice) ? r.Jmena : r.Text;
     ZacniPrimku(r.Jmena, stav_.ZvolenyNazev);
     Zapis(KOLMICE, "");
 }

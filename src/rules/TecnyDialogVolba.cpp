@@ -15,11 +15,11 @@ namespace {
 
 /// The base's name behind the words that the list of perpendiculars or that of parallels has for
 /// its kind; empty when there is no such object.
-std::string SlovyPrimku(const Tabulky& t, std::string_view jmeno, std::string_view uPrimky,
-                        std::string_view uUsecky) {
+std::string SlovyPrimku(const Tabulky& t, std::string_view jmeno, bool kolmice) {
     const int i = NajdiCaru(t, jmeno);
     if (i == 0) return {};
-    return std::string(t.Utvary[i].Druh == USECKA ? uUsecky : uPrimky) + std::string(jmeno);
+    const UvodZakladny& uvod = t.Utvary[i].Druh == USECKA ? UVOD_USECKY : UVOD_PRIMKY;
+    return std::string(kolmice ? uvod.Kolmice : uvod.Rovnobezka) + std::string(jmeno);
 }
 
 }  // namespace
@@ -101,8 +101,7 @@ void TecnyDialog::NabidniPrimky(const KrokTecny& krok) {
     const bool kolmice = stav_.VRuce == Nastroj::Kolmice;
     std::vector<RadekSeznamu> radky;
     const auto pridej = [&](std::string_view jmeno) {
-        std::string text = SlovyPrimku(misc_, jmeno, kolmice ? "k přímce " : "s přímkou ",
-                                       kolmice ? "k úsečce " : "s úsečkou ");
+        std::string text = SlovyPrimku(misc_, jmeno, kolmice);
         if (!text.empty()) radky.push_back({std::move(text), true, true, std::string(jmeno)});
     };
     if (stav_.Spravny) {
