@@ -17,21 +17,24 @@ struct Uhel {
     char32_t Symbol;
 };
 constexpr Uhel UHLY[] = {
-    {"alfa", U'a'}, {"beta", U'b'}, {"gama", U'g'}, {"delta", U'd'},
-    {"delt", U'd'}, {"epsi", U'e'}, {"omeg", U'w'},
+    {"alfa", U'a'}, {"beta", U'b'}, {"gama", U'g'}, {"delta", U'd'}, {"epsi", U'e'}, {"omeg", U'w'},
 };
+
+/// Data spell one of the names in two ways.
+std::string_view Cele(std::string_view nazev) {
+    return nazev == "delt" ? "delta" : nazev;
+}
 
 /// Null if it is none.
 const Uhel* NajdiUhel(std::string_view nazev) {
-    const auto* u = std::ranges::find(UHLY, nazev, &Uhel::Nazev);
+    const auto* u = std::ranges::find(UHLY, Cele(nazev), &Uhel::Nazev);
     return u == std::end(UHLY) ? nullptr : u;
 }
 
 }  // namespace
 
 bool StejnaVelicina(std::string_view a, std::string_view b) {
-    const auto cele = [](std::string_view n) { return n == "delt" ? "delta" : n; };
-    return cele(a) == cele(b);
+    return Cele(a) == Cele(b);
 }
 
 bool JeUhel(std::string_view nazev) {
