@@ -1,7 +1,5 @@
 // A drag on the plane: where it starts, what it reads, what it draws, by the kind of object.
 
-#include <cstdlib>
-
 #include "base/Chyba.h"
 #include "base/Cisla.h"
 #include "engine/Kresleni.h"
@@ -100,12 +98,7 @@ Gumicka DialogKroku::Tah(float x, float y) const {
     const DruhTahu* druh = Druh();
     if (!CekaNaKresleni() || !Stav().Tazeni || druh == nullptr) return {};
     const Bod konec = NaPixely(x, y);
-    const Bod start = Stav().Start;
-    if (druh->Nazev == KRUZNICE) {
-        const int r = std::abs(konec.X - start.X);
-        return {Gumicka::Tvar::Kruh, start.X - r, start.Y - r,
-                start.X + r,         start.Y + r, OdectiDelku(r)};
-    }
+    if (druh->Nazev == KRUZNICE) return TahKruznice(Stav().Start, konec);
     Dvojice body = BodyPrimky(konec);
     if (druh->Nazev == KOLMICE) body.P2 = PataUkazatele(body, konec);
     return {Gumicka::Tvar::Cara, body.P1.X,

@@ -1,6 +1,7 @@
 #include "rules/Tahy.h"
 
 #include <cmath>
+#include <cstdlib>
 
 #include "base/Cisla.h"
 #include "engine/Miry.h"
@@ -78,6 +79,12 @@ std::string OdectiUhel(Bod rameno1, Bod rameno2, Bod start, Bod ukazatel) {
         if (uhel > PI) uhel = DVE_PI - uhel;
     }
     return FormatCele(uhel * STUPNU_PULOTACKY / PI) + "°";
+}
+
+Gumicka TahKruznice(Bod stred, Bod ukazatel) {
+    const int r = std::abs(ukazatel.X - stred.X);
+    return {Gumicka::Tvar::Kruh, stred.X - r, stred.Y - r,
+            stred.X + r,         stred.Y + r, OdectiDelku(r)};
 }
 
 double CisloZOdectu(std::string_view text) {

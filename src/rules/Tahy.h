@@ -40,6 +40,10 @@ namespace rysovna {
 /// and the way from the start to the pointer.
 [[nodiscard]] std::string OdectiUhel(Bod rameno1, Bod rameno2, Bod start, Bod ukazatel);
 
+/// The rubber band of a circle: about its centre, as far as the pointer is from it along X, and the
+/// radius read off.
+[[nodiscard]] Gumicka TahKruznice(Bod stred, Bod ukazatel);
+
 /// The number of a read-out: its text without blanks, "°", "c" and "m".
 [[nodiscard]] double CisloZOdectu(std::string_view text);
 

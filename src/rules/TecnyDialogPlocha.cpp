@@ -187,11 +187,7 @@ Dvojice TecnyDialog::BodyPrimky(Bod konec) const {
 Gumicka TecnyDialog::Tah(float x, float y) const {
     if (!CekaNaKresleni() || !stav_.Tazeni) return {};
     const Bod konec = NaPixely(x, y);
-    if (stav_.VRuce == Nastroj::Kruznice) {
-        const Bod s = StredTahu();
-        const int r = std::abs(konec.X - s.X);
-        return {Gumicka::Tvar::Kruh, s.X - r, s.Y - r, s.X + r, s.Y + r, OdectiDelku(r)};
-    }
+    if (stav_.VRuce == Nastroj::Kruznice) return TahKruznice(StredTahu(), konec);
     const bool volna = stav_.VRuce == Nastroj::Rovnobezka && !stav_.Zachyceno;
     Dvojice b = BodyPrimky(konec);
     if (stav_.Zakladna != 0 && !volna) b.P2 = PataUkazatele(b, konec);
