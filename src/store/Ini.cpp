@@ -9,7 +9,6 @@
 namespace rysovna {
 namespace {
 
-constexpr std::string_view ZNACKA_UTF8 = "\xEF\xBB\xBF";
 constexpr std::string_view MEZERY = " \t\r";
 
 std::string_view Orez(std::string_view text) {

@@ -9,6 +9,9 @@ namespace rysovna {
 
 // The code page of the game's own files, Windows-1250.
 
+/// What a text of UTF-8 may begin with, by which programs tell it from one of the page.
+constexpr std::string_view ZNACKA_UTF8 = "\xEF\xBB\xBF";
+
 /// Position, from 0, of the first byte that Windows-1250 does not define.
 [[nodiscard]] std::optional<std::size_t> NedefinovanyBajt(std::string_view bajty);
 /// Windows-1250 to UTF-8. misto: "file:line", for the fault at a byte that the page does not

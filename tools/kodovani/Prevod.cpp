@@ -15,7 +15,6 @@
 namespace rysovna::kodovani {
 namespace {
 
-constexpr std::string_view ZNACKA_UTF8 = "\xEF\xBB\xBF";
 constexpr std::size_t DELKA_CISLA = 3;
 constexpr int NEJVETSI_KROK = 999;
 constexpr char KONCOVY_ZNAK = '|';

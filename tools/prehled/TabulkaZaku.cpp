@@ -19,7 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view ZNACKA_UTF8 = "\xEF\xBB\xBF";
 constexpr std::string_view NADPIS = "jmeno";
 constexpr std::size_t POLI = 3;
 

@@ -5,12 +5,13 @@
 
 #include "base/Cisla.h"
 #include "rules/Ulohy.h"
+#include "store/KodovaStranka.h"
 
 namespace rysovna::prehled {
 
 namespace {
 
-constexpr std::string_view ZNACKA_UTF8 = "\xEF\xBB\xBF", KONEC = "\r\n";
+constexpr std::string_view KONEC = "\r\n";
 constexpr char ODDELOVAC = ';';
 /// What a spreadsheet would reckon with.
 constexpr std::string_view ZACATKY_VZORCU = "=+-@\t\r";
