@@ -268,7 +268,10 @@ class Stranka {
     const m = this.modul;
     const hra = {
       rys_mys: m._rys_mys, rys_prst: m._rys_prst, rys_navrat: m._rys_navrat,
-      rys_klavesa: (jmeno, shift, dolu) => this.sTextem(jmeno, (t) => m._rys_klavesa(t, shift, dolu)),
+      rys_klavesa: (jmeno, shift, opakovana) =>
+        this.sTextem(jmeno, (t) => m._rys_klavesa(t, shift, opakovana)),
+      rys_klavesa_nahoru: (jmeno) => this.sTextem(jmeno, m._rys_klavesa_nahoru),
+      rys_plati_s_ctrl: (jmeno) => this.sTextem(jmeno, m._rys_plati_s_ctrl),
       rys_pis: (text) => this.sTextem(text, m._rys_pis),
       rys_vloz: (text) => this.sTextem(text, m._rys_vloz),
       schranka: () => this.text(m._rys_schranka()),
