@@ -1,4 +1,3 @@
-#include <charconv>
 #include <cstdint>
 #include <exception>
 #include <iostream>
@@ -8,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Cisla.h"
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "platform/Stroj.h"
@@ -43,14 +43,6 @@ struct Prikaz {
     int Uloha = 0;
 };
 
-template <class T>
-std::optional<T> Cislo(const std::string& text) {
-    T cislo = 0;
-    const auto [konec, chyba] = std::from_chars(text.data(), text.data() + text.size(), cislo);
-    if (chyba != std::errc() || konec != text.data() + text.size()) return std::nullopt;
-    return cislo;
-}
-
 /// Nothing if they are no arguments of the program.
 std::optional<Prikaz> CtiArgumenty(std::span<const std::string> a) {
     using Co = Prikaz::Co;
@@ -60,13 +52,13 @@ std::optional<Prikaz> CtiArgumenty(std::span<const std::string> a) {
     if (a.size() == 2 && a[0] == "--prehraj") return Prikaz{.Druh = Co::Prehrani, .Soubor = a[1]};
     if (a.size() >= 2 && a[0] == "--predved") {
         p.Druh = Co::Predvedeni;
-        p.Uloha = Cislo<int>(a[1]).value_or(0);
+        p.Uloha = rysovna::CeleCislo<int>(a[1]).value_or(0);
         if (rysovna::NajdiUlohu(p.Uloha) == nullptr) return std::nullopt;
         a = a.subspan(2);
     }
     if (a.empty()) return p;
     if (a.size() != 2 || a[0] != "--seminko") return std::nullopt;
-    p.Seminko = Cislo<std::uint32_t>(a[1]);
+    p.Seminko = rysovna::CeleCislo<std::uint32_t>(a[1]);
     return p.Seminko ? std::optional(p) : std::nullopt;
 }
 

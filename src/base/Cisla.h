@@ -1,6 +1,8 @@
 #pragma once
 
+#include <charconv>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,6 +24,17 @@ std::uint8_t Bajt(double x, MistoKodu kde = MistoKodu::Tady());
 /// The lenient conversion of text to a number: leading blanks are skipped, then a sign, digits and
 /// a decimal point count as long as they last; what is no number is 0. "12,5" is 12, "" is 0.
 double Cislo(std::string_view text);
+
+/// The strict one: a whole number that fills the text, digits of the base zaklad and before those
+/// of a signed T a minus; nothing if it is none or does not fit.
+template <class T>
+[[nodiscard]] std::optional<T> CeleCislo(std::string_view text, int zaklad = 10) {
+    T cislo{};
+    const char* const konec = text.data() + text.size();
+    const auto [kam, chyba] = std::from_chars(text.data(), konec, cislo, zaklad);
+    if (chyba != std::errc() || kam != konec) return std::nullopt;
+    return cislo;
+}
 
 /// A whole number as the system writes numbers: a blank in place of the sign of one that is not
 /// negative. 0 is " 0", -3 is "-3".

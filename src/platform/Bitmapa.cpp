@@ -142,7 +142,7 @@ Pixel Spoj(Prenos jak, Pixel cil, Pixel zdroj, Pixel klic) {
         case Prenos::Kopie:
             return zdroj;
         case Prenos::BezKlice:
-            return zdroj == KLIC ? cil : kryti == 255 ? zdroj : Smichej(cil, zdroj, kryti);
+            return BezKlice(cil, zdroj);
         case Prenos::Soucin:
             return (cil & zdroj) | 0xFF000000u;
         case Prenos::Soucet:

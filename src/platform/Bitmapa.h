@@ -31,6 +31,13 @@ constexpr Pixel Smichej(Pixel podklad, Pixel barva, unsigned kryti) {
     return 0xFF000000u | kanal(16) | kanal(8) | kanal(0);
 }
 
+/// A pixel of a picture over what lies below: the key colour lets it through, an edge covers its
+/// part. A resting picture and a sliding one go by the same rule, or the edge would jump between.
+constexpr Pixel BezKlice(Pixel dolni, Pixel horni) {
+    const unsigned kryti = horni >> 24;
+    return horni == KLIC ? dolni : kryti == 255 ? horni : Smichej(dolni, horni, kryti);
+}
+
 /// A view of a rectangle of pixels that somebody else owns.
 struct Vyhled {
     Pixel* Body = nullptr;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 #include <string>
 #include <variant>
@@ -19,6 +21,13 @@ struct Okamzik {
     std::size_t Pocet = 0;
 };
 
+/// A stroke of this pen, design pixels, on a display of the scale s: whole pixels of the display,
+/// at least one, so that upright and level strokes have hard edges. A rubber band is as wide as the
+/// line that it becomes.
+[[nodiscard]] inline double SirkaPera(int pero, double s) {
+    return std::max(1.0, std::round(std::max(pero, 1) * s));
+}
+
 // The operations of a display list, design pixels.
 struct PolozkaUsecky {
     float X1, Y1, X2, Y2;
@@ -26,9 +35,14 @@ struct PolozkaUsecky {
     Pixel Barva;
 };
 struct PolozkaKruznice {
-    float X, Y, R;
-    int Pero;  ///< 0: a filled disc
+    float X, Y, R;  ///< R below 0: nothing is seen
+    int Pero;       ///< 0: a filled disc
     Pixel Barva;
+
+    /// A circle of no radius is its centre alone.
+    [[nodiscard]] bool JeKotouc() const { return Pero == 0 || R == 0; }
+    /// To the edge of a disc, which covers the pixels of its edge, or to the middle of the stroke.
+    [[nodiscard]] double Polomer() const { return static_cast<double>(R) + (JeKotouc() ? 0.5 : 0); }
 };
 struct PolozkaTextu {
     float X, Y;

@@ -26,7 +26,7 @@ public:
     Prehravac& operator=(const Prehravac&) = delete;
 
     void operator()(const PolozkaUsecky& u) {
-        const double sirka = SirkaPera(u.Pero);
+        const double sirka = SirkaPera(u.Pero, s_);
         Tah(u.Barva, sirka);
         const bool svisla = u.X1 == u.X2;
         const bool vodorovna = u.Y1 == u.Y2;
@@ -44,11 +44,10 @@ public:
 
     void operator()(const PolozkaKruznice& k) {
         if (k.R < 0) return;
-        Tah(k.Barva, SirkaPera(k.Pero));
+        Tah(k.Barva, SirkaPera(k.Pero, s_));
         cairo_new_path(cairo_);
-        const double r = static_cast<double>(k.R) + (k.Pero == 0 || k.R == 0 ? 0.5 : 0);
-        cairo_arc(cairo_, Stred(k.X), Stred(k.Y), r * s_, 0, 2 * std::numbers::pi);
-        if (k.Pero == 0 || k.R == 0) {
+        cairo_arc(cairo_, Stred(k.X), Stred(k.Y), k.Polomer() * s_, 0, 2 * std::numbers::pi);
+        if (k.JeKotouc()) {
             cairo_fill(cairo_);
         } else {
             cairo_stroke(cairo_);
@@ -162,11 +161,6 @@ private:
 
     /// The middle of a design pixel.
     [[nodiscard]] double Stred(float x) const { return (static_cast<double>(x) + 0.5) * s_; }
-
-    /// Whole pixels, so that upright and level strokes have hard edges.
-    [[nodiscard]] double SirkaPera(int pero) const {
-        return std::max(1.0, std::round(std::max(pero, 1) * s_));
-    }
 
     /// The middle of a stroke of this width whose edges lie between pixels.
     [[nodiscard]] double NaMrizku(float x, double sirka) const {

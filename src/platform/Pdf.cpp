@@ -165,13 +165,12 @@ struct Pdf::Vnitrek {
     void Kresli(const PolozkaKruznice& k) const {
         if (k.R < 0) return;
         cairo_t* c = Cairo.get();
-        const bool kotouc = k.Pero == 0 || k.R == 0;
         Barvou(k.Barva);
         cairo_set_line_width(c, k.Pero * TENKE_PERO);
         cairo_new_path(c);
-        cairo_arc(c, static_cast<double>(k.X) + 0.5, static_cast<double>(k.Y) + 0.5,
-                  static_cast<double>(k.R) + (kotouc ? 0.5 : 0), 0, PLNY_UHEL);
-        kotouc ? cairo_fill(c) : cairo_stroke(c);
+        cairo_arc(c, static_cast<double>(k.X) + 0.5, static_cast<double>(k.Y) + 0.5, k.Polomer(), 0,
+                  PLNY_UHEL);
+        k.JeKotouc() ? cairo_fill(c) : cairo_stroke(c);
     }
     void Kresli(const PolozkaVyplne& v) const {
         Barvou(v.Barva);

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <algorithm>
 #include <cairo.h>
-#include <cmath>
 
+#include "platform/DisplayList.h"
 #include "platform/MalirObjektu.h"
 
 namespace rysovna {
@@ -18,7 +17,7 @@ public:
         cairo_ = cairo_create(plocha_);
         cairo_rectangle(cairo_, k.Orez.Left, k.Orez.Top, k.Orez.Width, k.Orez.Height);
         cairo_clip(cairo_);
-        cairo_set_line_width(cairo_, std::max(1.0, std::round(std::max(sirka, 1) * k.S)));
+        cairo_set_line_width(cairo_, SirkaPera(sirka, k.S));
         cairo_set_line_cap(cairo_, CAIRO_LINE_CAP_ROUND);
     }
     ~Tah() {

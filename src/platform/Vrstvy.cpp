@@ -25,11 +25,6 @@ Jsou Rozeznej(const Pixel* body) {
     return klicu == 0 && spolecne >> 24 == 0xFF ? Jsou::Kryci : Jsou::Ruzne;
 }
 
-Pixel Pres(Pixel dolni, Pixel horni) {
-    const unsigned kryti = horni >> 24;
-    return horni == KLIC ? dolni : kryti == 255 ? horni : Smichej(dolni, horni, kryti);
-}
-
 void SlozRadek(Pixel* cil, const Pixel* dolni, const Pixel* horni, int pocet) {
     int i = 0;
     for (; i + DAVKA <= pocet; i += DAVKA) {
@@ -38,9 +33,9 @@ void SlozRadek(Pixel* cil, const Pixel* dolni, const Pixel* horni, int pocet) {
             std::copy_n((jsou == Jsou::Klic ? dolni : horni) + i, DAVKA, cil + i);
             continue;
         }
-        for (int j = i; j < i + DAVKA; ++j) cil[j] = Pres(dolni[j], horni[j]);
+        for (int j = i; j < i + DAVKA; ++j) cil[j] = BezKlice(dolni[j], horni[j]);
     }
-    for (; i < pocet; ++i) cil[i] = Pres(dolni[i], horni[i]);
+    for (; i < pocet; ++i) cil[i] = BezKlice(dolni[i], horni[i]);
 }
 
 }  // namespace

@@ -27,6 +27,8 @@ constexpr double DALEKO_PO_PAPRSKU = 10000;  // px, so that rounding does not be
 
 // A figure that can be read: its points this far apart, px, its sides at such an angle, degrees.
 constexpr double ROZESTUP_BODU = 30, NEJMENSI_UHEL = 12;
+// The arrows may bring its points so near to the plane's edge, px.
+constexpr int OKRAJ_BODU = 20;
 
 /// The height upon a side.
 struct VyskaStrany {
@@ -88,7 +90,7 @@ bool VejdouSe(const Plane& plocha, std::span<const Bod> body) {
     const auto vSmeru = [body](int Bod::*os, int rozmer) {
         for (int d = -NEJDAL_POSUNU; d <= NEJDAL_POSUNU; d += KROK_POSUNU) {
             if (std::ranges::all_of(body, [=](const Bod& b) {
-                    return b.*os + d >= OKRAJ_PRUSECIKU && b.*os + d < rozmer - OKRAJ_PRUSECIKU;
+                    return b.*os + d >= OKRAJ_BODU && b.*os + d < rozmer - OKRAJ_BODU;
                 })) {
                 return true;
             }

@@ -235,18 +235,14 @@ void TecnyDialog::PusteniPlochy(float x, float y) {
 /// far as it was drawn so, else what is read off.
 std::string TecnyDialog::OdectiKrok(const KrokTecny& krok, float x, float y) const {
     const auto* v = std::ranges::find(krok.Volby, stav_.OcekavanyBod, &Volba::Prvek);
-    if (stav_.VRuce == Nastroj::Kruznice && v != krok.Volby.end() && !v->Polomer.empty()) {
+    if (stav_.VRuce == Nastroj::Kruznice && v != krok.Volby.end() && !v->Polomer[0].empty()) {
         const Bod od = StredTahu();
-        // The names stand between two bars; the first point has one letter, or a letter and a
-        // digit.
-        std::string_view jmena = v->Polomer.substr(1, v->Polomer.size() - 2);
-        const std::size_t delka = jmena.size() > 1 && jmena[1] >= '0' && jmena[1] <= '9' ? 2 : 1;
-        const Bod p = NajdiBod(misc_, jmena.substr(0, delka));
-        const Bod q = NajdiBod(misc_, jmena.substr(delka));
+        const Bod p = NajdiBod(misc_, v->Polomer[0]);
+        const Bod q = NajdiBod(misc_, v->Polomer[1]);
         const double r = std::abs(NaPixely(x, y).X - od.X);
         const bool znamy = p != BEZ_BODU && q != BEZ_BODU;
         if (znamy && std::fabs(Vzdalenost(p, q) - r) <= TOLERANCE_POLOMERU) {
-            return std::string(v->Polomer);
+            return NazevPolomeru(*v);
         }
     }
     return Tah(x, y).Text;

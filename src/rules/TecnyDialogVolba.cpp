@@ -220,7 +220,7 @@ void TecnyDialog::ZvolKruznici(const KrokTecny& krok, const std::string& stred) 
     for (const Volba& v : krok.Volby) {
         if (v.Prvek != stred) continue;
         stav_.Rysovane =
-            "kružnice " + stav_.Jmeno + "(" + stred + ", r = " + std::string(v.Polomer) + ")";
+            "kružnice " + stav_.Jmeno + "(" + stred + ", r = " + NazevPolomeru(v) + ")";
     }
 }
 

@@ -132,7 +132,7 @@ constexpr KrokTecny KROKY_03[] = {
      .Spravny = Kruznice,
      .Jmena = {"l"},
      .Vyzva = PO_BODU,
-     .Volby = {{{"S", "|SB|"}, {"A", "|SB|"}, {"B", "|SB|"}}},
+     .Volby = {{{"S", {"S", "B"}}, {"A", {"S", "B"}}, {"B", {"S", "B"}}}},
      .SpravnaVolba = "B",
      .ChybaVolby = 124,
      .ChybaRysovani = 206,
@@ -176,7 +176,7 @@ constexpr KrokTecny KROKY_04[] = {
      .Spravny = Kruznice,
      .Jmena = {"k"},
      .Vyzva = PO_BODU,
-     .Volby = {{{"A", "|AC|"}, {"B", "|BC|"}, {"C", "|AC|"}}},
+     .Volby = {{{"A", {"A", "C"}}, {"B", {"B", "C"}}, {"C", {"A", "C"}}}},
      .SpravnaVolba = "C",
      .ChybaVolby = 124,
      .ChybaRysovani = 216,
@@ -217,7 +217,7 @@ constexpr KrokTecny KROKY_05[] = {
      .Spravny = Kruznice,
      .Jmena = {"k"},
      .Vyzva = PO_BODU,
-     .Volby = {{{"C", "|CA|"}, {"D", "|DA|"}}},
+     .Volby = {{{"C", {"C", "A"}}, {"D", {"D", "A"}}}},
      .SpravnaVolba = "D",
      .ChybaVolby = 124,
      .ChybaRysovani = 210,
@@ -260,7 +260,7 @@ constexpr KrokTecny KROKY_06[] = {
      .Chybne = {Stred},
      .Jmena = {"k"},
      .Vyzva = PO_BODU,
-     .Volby = {{{"A", "|AB|"}, {"B", "|BA|"}, {"D", "|DA|"}}},
+     .Volby = {{{"A", {"A", "B"}}, {"B", {"B", "A"}}, {"D", {"D", "A"}}}},
      .SpravnaVolba = "D",
      .ChybaVolby = 124,
      .Body = {"A", "B"},
@@ -304,7 +304,7 @@ constexpr KrokTecny KROKY_07[] = {
      .Jmena = {"k"},
      .Vyzva = PO_BODU,
      .VyzvaZpet = PO_CARE,
-     .Volby = {{{"A", "|AC|"}, {"B", "|BC|"}, {"C", "|AC|"}}},
+     .Volby = {{{"A", {"A", "C"}}, {"B", {"B", "C"}}, {"C", {"A", "C"}}}},
      .SpravnaVolba = "C",
      .ChybaVolby = 124,
      .ChybaRysovani = 216,
@@ -335,7 +335,7 @@ constexpr KrokTecny KROKY_08[] = {
      .Chybne = {Stred},
      .Jmena = {"k"},
      .Vyzva = PO_BODU,
-     .Volby = {{{"A", "|AB|"}, {"B", "|AB|"}}},
+     .Volby = {{{"A", {"A", "B"}}, {"B", {"A", "B"}}}},
      .SpravnaVolba = "B",
      .ChybaVolby = 124,
      .Body = {"A", "B"},
@@ -386,7 +386,7 @@ constexpr KrokTecny KROKY_09[] = {
      .Spravny = Kruznice,
      .Jmena = {"l1"},
      .Vyzva = PO_BODU,
-     .Volby = {{{"S1", "|AS1|"}, {"B1", "|AB1|"}}},
+     .Volby = {{{"S1", {"A", "S1"}}, {"B1", {"A", "B1"}}}},
      .SpravnaVolba = "S1",
      .ChybaVolby = 124,
      .ChybaRysovani = 212,
@@ -397,7 +397,7 @@ constexpr KrokTecny KROKY_09[] = {
      .Jmena = {"l2"},
      .Vyzva = PO_CARE_S_PREKLEPEM,
      .VyzvaZpet = PO_CARE,
-     .Volby = {{{"S2", "|AS2|"}, {"B2", "|AB2|"}}},
+     .Volby = {{{"S2", {"A", "S2"}}, {"B2", {"A", "B2"}}}},
      .SpravnaVolba = "S2",
      .ChybaVolby = 124,
      .ChybaRysovani = 212,
@@ -477,6 +477,10 @@ constexpr Cviceni CVICENI[] = {
 };
 
 }  // namespace
+
+std::string NazevPolomeru(const Volba& v) {
+    return "|" + std::string(v.Polomer[0]) + std::string(v.Polomer[1]) + "|";
+}
 
 std::span<const Cviceni> VsechnaCviceni() {
     return CVICENI;

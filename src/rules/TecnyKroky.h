@@ -2,6 +2,7 @@
 
 #include <array>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "rules/KatalogChyb.h"
@@ -11,11 +12,15 @@ namespace rysovna {
 
 // The nine exercises of the tangent board as rows. The interpreter is TecnyDialog.
 
-/// A line of the pick list. Of a circle the name of its centre and its radius in words; of a line
-/// the names of its two points; of a perpendicular or parallel the name of its base.
+/// A line of the pick list. Of a circle the name of its centre; of a line the names of its two
+/// points; of a perpendicular or parallel the name of its base.
 struct Volba {
-    std::string_view Prvek{}, Polomer{};
+    std::string_view Prvek{};
+    std::array<std::string_view, 2> Polomer{};  ///< of a circle the points between which it is read
 };
+
+/// The radius of a circle's row as prompt and paper say it: "|SB|".
+[[nodiscard]] std::string NazevPolomeru(const Volba& v);
 
 /// How a drawn line is held against its point.
 enum class Soud {

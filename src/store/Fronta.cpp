@@ -5,6 +5,7 @@
 #include <random>
 #include <utility>
 
+#include "base/Cisla.h"
 #include "store/TextRadku.h"
 
 namespace rysovna {

@@ -5,7 +5,6 @@
 #include "base/Cisla.h"
 #include "base/Disk.h"
 #include "store/Ini.h"
-#include "store/TextRadku.h"
 
 namespace rysovna {
 

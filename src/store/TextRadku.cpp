@@ -1,5 +1,7 @@
 #include "store/TextRadku.h"
 
+#include <charconv>
+
 namespace rysovna {
 
 std::string NaRadek(std::string_view text) {

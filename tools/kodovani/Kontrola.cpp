@@ -186,7 +186,7 @@ private:
             }
             std::vector<int> cisla;
             for (std::size_t i = 0; i < 3; ++i) {
-                const auto cislo = CeleCislo(pole[i]);
+                const auto cislo = CisloZCislic(pole[i]);
                 if (cislo && *cislo <= 255) {
                     cisla.push_back(*cislo);
                 } else {
@@ -235,7 +235,7 @@ private:
             }
             for (std::size_t i = 1; i < pole.size(); ++i) {
                 const bool prazdnaZnamka = i == 3 && pole[i].empty();
-                if (!prazdnaZnamka && !CeleCislo(pole[i])) {
+                if (!prazdnaZnamka && !CisloZCislic(pole[i])) {
                     Pridej(radek.Cislo,
                            "pole " + std::to_string(i + 1) + " (" + std::string(JMENA[i]) + ")",
                            "je " + Uvozovky(pole[i]) + ", má být celé číslo");

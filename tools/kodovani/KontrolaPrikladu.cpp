@@ -135,7 +135,7 @@ private:
 
     bool Druh() {
         const auto* p = Najdi(DRUHY, [&](const PravidloDruhu& r) { return Plati(r); });
-        const auto cislo = CeleCislo(Pole(1));
+        const auto cislo = CisloZCislic(Pole(1));
         if (cislo && Pole(1).size() == p->Cislic && *cislo >= p->Od && *cislo <= p->Po) return true;
         const auto text = [p](int n) { return p->Cislic == 2 ? DveCislice(n) : TextBezMezery(n); };
         CekaSe(1, text(p->Od) + (p->Od == p->Po ? "" : " až " + text(p->Po)));
@@ -201,7 +201,7 @@ private:
 
     void Ctyruhelnik() {
         const auto* s = Najdi(SKUPINY, [&](const PravidloSkupiny& r) {
-            const int druh = CeleCislo(Pole(1)).value_or(0);
+            const int druh = CisloZCislic(Pole(1)).value_or(0);
             return std::ranges::find(r.Ulohy, uloha_) != std::end(r.Ulohy) && druh >= r.Od &&
                    druh <= r.Po && (druh - r.Od) % r.PoKolika == 0;
         });

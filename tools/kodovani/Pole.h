@@ -1,10 +1,11 @@
 #pragma once
 
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "base/Cisla.h"
 
 // Fields of a readable line: what they are parted by, whole numbers, and how a message quotes one.
 
@@ -15,12 +16,8 @@ inline std::string Uvozovky(std::string_view text) {
 }
 
 /// A whole number that is nothing but digits.
-inline std::optional<int> CeleCislo(std::string_view text) {
-    int cislo = 0;
-    const char* const konec = text.data() + text.size();
-    const auto [kam, chyba] = std::from_chars(text.data(), konec, cislo);
-    if (text.empty() || chyba != std::errc() || kam != konec || text.front() == '-') return {};
-    return cislo;
+inline std::optional<int> CisloZCislic(std::string_view text) {
+    return text.starts_with('-') ? std::nullopt : CeleCislo<int>(text);
 }
 
 inline std::vector<std::string> Rozdel(std::string_view text, char oddelovac) {

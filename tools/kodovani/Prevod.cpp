@@ -65,7 +65,7 @@ std::vector<Radek> CtiCitelny(const std::filesystem::path& cesta) {
 }
 
 std::optional<int> CisloVety(std::string_view citelna) {
-    const auto cislo = CeleCislo(citelna.substr(0, citelna.find(' ')));
+    const auto cislo = CisloZCislic(citelna.substr(0, citelna.find(' ')));
     return cislo && *cislo >= 1 && *cislo <= NEJVETSI_KROK ? cislo : std::nullopt;
 }
 

@@ -12,7 +12,6 @@
 #include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "rules/Ulohy.h"
-#include "store/TextRadku.h"
 #include "store/UkladaniPokusu.h"
 
 namespace {

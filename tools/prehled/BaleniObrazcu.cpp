@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <optional>
 
+#include "base/Cisla.h"
 #include "platform/bmp/Sbaleni.h"
-#include "store/TextRadku.h"
 
 namespace rysovna::prehled {
 

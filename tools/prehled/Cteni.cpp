@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Chyba.h"
+#include "base/Cisla.h"
 #include "base/Disk.h"
 #include "base/Text.h"
 #include "engine/Miry.h"

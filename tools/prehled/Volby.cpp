@@ -4,9 +4,9 @@
 #include <functional>
 #include <utility>
 
+#include "base/Cisla.h"
 #include "base/Disk.h"
 #include "prehled/Jmena.h"
-#include "store/TextRadku.h"
 
 namespace rysovna::prehled {
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "base/Cisla.h"
 #include "platform/Cesta.h"
 #include "platform/Stroj.h"
 #include "prehled/DodaneZnamky.h"
@@ -11,7 +12,6 @@
 #include "store/Nastaveni.h"
 #include "store/RadkySouboru.h"
 #include "store/Soubory.h"
-#include "store/TextRadku.h"
 
 namespace rysovna::prehled {
 
