@@ -11,8 +11,9 @@ const KLAVESY = {
   End: "End", Tab: "Tab", Backspace: "BackSpace", Delete: "Delete", Enter: "Return",
   Escape: "Escape", " ": "Space", F1: "F1",
 };
-// Letters of copying, cutting and pasting, which come as events of their own.
-const SCHRANKA = ["c", "v", "x"];
+// Letters that mean something with Ctrl; copying and pasting come as events of their own.
+const POVELY = ["a", "p"];
+const SIPKY = ["Left", "Right", "Up", "Down"];
 const TLACITKA = [1, 4, 2]; // by the page's number: left, middle, right
 
 // hra: the calls of the program; ted(): a turn now; vSnimku(): one with the next frame.
@@ -87,18 +88,24 @@ export function poslouchej(platno, pole, lista, hra, ted, vSnimku, celaObrazovka
       return;
     }
     const drzeno = modifikatory(e);
-    const ctrl = (drzeno & CTRL) !== 0;
+    if (drzeno & CTRL) {
+      if (!POVELY.includes(e.key.toLowerCase()) && !SIPKY.includes(KLAVESY[e.key])) return;
+      e.preventDefault();
+      if (e.repeat && e.key.toLowerCase() === "p") return;
+    }
     const jmeno = jmenoKlavesy(e);
     if (!jmeno || (jmeno === "Delete" && drzeno === SHIFT)) return;
-    if (ctrl && (SCHRANKA.includes(jmeno) || !hra.rys_plati_s_ctrl(jmeno))) return;
-    if (ctrl || (KLAVESY[e.key] && !(pise && jmeno === "Space"))) e.preventDefault();
-    hra.rys_klavesa(jmeno, drzeno, e.repeat);
+    const edituje = pise && !["Tab", "F1", "Escape", "Return"].includes(jmeno);
+    if (KLAVESY[e.key] && !(pise && jmeno === "Space")) e.preventDefault();
+    if (e.repeat && !SIPKY.includes(jmeno) && !edituje) return;
+    if (jmeno.length === 1 && drzeno > SHIFT && !POVELY.includes(jmeno)) return;
+    hra.rys_klavesa(jmeno, drzeno, 1);
     ted();
   });
   document.addEventListener("keyup", (e) => {
     const jmeno = KLAVESY[e.key];
     if (jmeno !== "Return" && jmeno !== "Space") return;
-    hra.rys_klavesa_nahoru(jmeno);
+    hra.rys_klavesa(jmeno, 0, 0);
     ted();
   });
 
@@ -111,7 +118,7 @@ export function poslouchej(platno, pole, lista, hra, ted, vSnimku, celaObrazovka
     const smazano = !pole.value.includes(ZARAZKA);
     vyprazdni();
     if (smazano && text === "") {
-      hra.rys_klavesa("BackSpace", 0, false);
+      hra.rys_klavesa("BackSpace", 0, 1);
     } else if (text !== "") {
       hra.rys_pis(text);
     }
@@ -133,7 +140,7 @@ export function poslouchej(platno, pole, lista, hra, ted, vSnimku, celaObrazovka
   for (const [udalost, klavesa] of [["copy", "c"], ["cut", "x"]]) {
     document.addEventListener(udalost, (e) => {
       if (!naHre()) return;
-      hra.rys_klavesa(klavesa, CTRL, false);
+      hra.rys_klavesa(klavesa, CTRL, 1);
       ted();
       e.clipboardData.setData("text/plain", hra.schranka());
       e.preventDefault();

@@ -34,14 +34,14 @@ if [ -z "${HRA_JINDE:-}" ]; then
 fi
 spust
 fotka titul
-z_titulu 1.6
+klik 320 240 1.6
 fotka nabidka
-prvni_rodina
-prvni_uloha 1.6
+klik 150 166 0.4
+klik 480 190 1.6  # the name is typed into what is there
 napis_jmeno "$jmeno"
-jeden_priklad
+klik 145 267 1
 fotka nastaveni
-pokracuj 1
+klik 570 468 1
 fotka deska
 
 # All three sides marked on the sketch, the panel pushed away.
@@ -75,7 +75,7 @@ if [ -z "${HRA_JINDE:-}" ]; then
     grep -q '^file:///.*/Moje%20dokumenty/Rysovna%20%C5%BDofie%20' "$prace/ukazano" ||
         selhani "papír se neukázal"
 fi
-pokracuj 1
+klik 570 468 1
 fotka tabulka
 
 vypis="$(log)"

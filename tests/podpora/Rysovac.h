@@ -7,12 +7,6 @@
 
 namespace rysovna::testy {
 
-/// Events with blanks between: a key by its name ("Tab", "^Left" with Shift), "*9" behind it so
-/// many times; "'12" types; "@PicTop3" goes to a control by Tab, "!cmd1" presses it; "100ms" waits.
-void Proved(Relace& hra, std::string_view udalosti);
-/// The control under the ring, "cmd1"; empty if there is none.
-[[nodiscard]] std::string Prsten(Relace& hra);
-
 /// The scripted pupil of the triangle by SSS, SUS and USU: one example of a chosen kind, drawn by a
 /// script of steps, each right or wrong in a known way. The first side lies level, its first letter
 /// on the left. What is not given counts as 15 cm, 50 degrees.

@@ -9,6 +9,7 @@
 
 #include "engine/Tabulky.h"
 #include "podpora/Rysovac.h"
+#include "podpora/Udalosti.h"
 
 namespace rysovna::testy {
 namespace {

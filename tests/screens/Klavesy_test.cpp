@@ -7,6 +7,7 @@
 #include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "podpora/Rysovac.h"
+#include "podpora/Udalosti.h"
 #include "rules/Misc.h"
 #include "zak/Ctyruhelnik.h"
 

@@ -7,6 +7,7 @@
 #include "platform/Host.h"
 #include "podpora/SouboryPomoc.h"
 #include "podpora/UkladaniHned.h"
+#include "podpora/VzorkyVysledku.h"
 #include "screens/KontrolaPocitace.h"
 #include "store/Fronta.h"
 #include "store/Nastaveni.h"

@@ -9,6 +9,7 @@
 
 #include "base/Obdelniky.h"
 #include "podpora/Rysovac.h"
+#include "podpora/Udalosti.h"
 #include "screens/DeskaForm.h"
 #include "screens/RadaCesky.h"
 

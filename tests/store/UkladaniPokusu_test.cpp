@@ -13,6 +13,7 @@
 #include "podpora/HlidanyDisk.h"
 #include "podpora/PravaUctu.h"
 #include "podpora/UkladaniHned.h"
+#include "podpora/VzorkyVysledku.h"
 #include "store/TextPokusu.h"
 
 namespace rysovna::testy {

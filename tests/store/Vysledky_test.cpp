@@ -10,6 +10,7 @@
 #include "podpora/PravaUctu.h"
 #include "podpora/SouboryPomoc.h"
 #include "podpora/UkladaniHned.h"
+#include "podpora/VzorkyVysledku.h"
 #include "store/Fronta.h"
 #include "store/RadkySouboru.h"
 #include "store/TabulkaVysledku.h"

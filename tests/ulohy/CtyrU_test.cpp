@@ -1,5 +1,6 @@
 // The general quadrilateral, at the dialogue.
 
+#include "podpora/MeryBodu.h"
 #include "rules/CtyrUDialog.h"
 #include "ulohy/Ctyruhelniky.h"
 

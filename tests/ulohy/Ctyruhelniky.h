@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "engine/Miry.h"
+#include "podpora/MeryBodu.h"
 #include "podpora/Stul.h"
 #include "rules/DialogCtyruhelnikuVrchol.h"
 #include "rules/FiguraCtyruhelniku.h"

@@ -12,11 +12,14 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Cisla.h"
 #include "engine/Miry.h"
 #include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
+#include "podpora/Bloud.h"
 #include "podpora/Prostredi.h"
 #include "podpora/RukaUlohy.h"
+#include "podpora/ZapisPostupu.h"
 #include "rules/Prehravani.h"
 #include "screens/PopisKroku.h"
 #include "store/TextPokusu.h"

@@ -9,7 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "base/Cisla.h"
 #include "podpora/RukaUlohy.h"
+#include "podpora/ZapisPostupu.h"
 #include "rules/Veliciny.h"
 #include "zak/Sestroj.h"
 

@@ -1,5 +1,6 @@
 // The parallelogram, at the dialogue.
 
+#include "podpora/MeryBodu.h"
 #include "rules/RovnoDialog.h"
 #include "ulohy/Ctyruhelniky.h"
 

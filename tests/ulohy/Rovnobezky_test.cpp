@@ -5,8 +5,10 @@
 #include <cmath>
 
 #include "TecnyHra.h"
+#include "base/Cisla.h"
 #include "engine/Miry.h"
 #include "engine/Resitele.h"
+#include "podpora/MeryBodu.h"
 #include "rules/Troj2Dialog.h"
 #include "zak/Trojuhelnik.h"
 

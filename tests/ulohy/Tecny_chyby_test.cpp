@@ -7,7 +7,9 @@
 #include <regex>
 
 #include "TecnyHra.h"
+#include "base/Cisla.h"
 #include "engine/Miry.h"
+#include "podpora/MeryBodu.h"
 
 namespace rysovna::testy {
 namespace {

@@ -1,10 +1,16 @@
 // The figures of the tangent exercises: solvable, readable, found soon; and the careless pupil.
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <string_view>
 
 #include "TecnyHra.h"
 #include "engine/Miry.h"
+#include "podpora/Bloud.h"
+#include "podpora/MeryBodu.h"
+#include "rules/TecnyKroky.h"
+#include "rules/TecnyNacrt.h"
 #include "rules/TecnyZadani.h"
 
 namespace rysovna::testy {
@@ -60,6 +66,18 @@ TEST_P(Figury, JsouResitelneACitelne) {
         ASSERT_GE(kod == "09" ? druhy.P2.X - prvni.P2.X : 16, 16);
     }
     EXPECT_LT(pokusu / kolik, 200);
+}
+
+// Otherwise the mark would never be asked for, and nobody would miss it.
+TEST(Nacrty, MajiVseCoJeDano) {
+    for (const Cviceni& c : VsechnaCviceni()) {
+        const Nacrt nacrt = NacrtTecny(c.Kod);
+        for (const std::string_view jmeno : c.Dane) {
+            EXPECT_TRUE(jmeno.empty() ||
+                        std::ranges::count(nacrt.Prvky, jmeno, &PrvekNacrtu::Jmeno) == 1)
+                << c.Kod << " " << jmeno;
+        }
+    }
 }
 
 /// Gets on with an example as it was left: back as far as it goes, then the right steps, as far as

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "engine/Miry.h"
+#include "podpora/MeryBodu.h"
 #include "podpora/Stul.h"
 #include "rules/Troj1Dialog.h"
 #include "rules/Troj2Dialog.h"

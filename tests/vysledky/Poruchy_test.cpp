@@ -6,6 +6,7 @@
 #include <cstring>
 #include <sys/mman.h>
 
+#include "podpora/VzorkyVysledku.h"
 #include "store/TextPokusu.h"
 #include "vysledky/Trida.h"
 

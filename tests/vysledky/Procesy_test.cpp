@@ -5,6 +5,7 @@
 #include <signal.h>
 
 #include "podpora/Prostredi.h"
+#include "podpora/VzorkyVysledku.h"
 #include "store/RadkySouboru.h"
 #include "vysledky/Trida.h"
 

@@ -5,6 +5,7 @@
 #include "platform/windows/Volani.h"
 #include "podpora/SouboryPomoc.h"
 #include "podpora/UkladaniHned.h"
+#include "podpora/VzorkyVysledku.h"
 #include "store/Fronta.h"
 
 // What other programs do to the files of results on Windows: they have them open, so that nobody

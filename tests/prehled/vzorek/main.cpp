@@ -13,6 +13,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "base/Cisla.h"
 #include "podpora/RukaUlohy.h"
 #include "store/TextPokusu.h"
 #include "store/UkladaniPokusu.h"
