@@ -8,7 +8,8 @@
 #include "platform/Paleta.h"
 #include "rules/Zaznamy.h"
 #include "screens/Hover.h"
-#include "screens/Spolecne.h"
+#include "screens/Meritko.h"
+#include "screens/SlovaObrazovek.h"
 
 namespace rysovna {
 

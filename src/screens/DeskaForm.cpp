@@ -8,8 +8,8 @@
 #include "platform/Paleta.h"
 #include "rules/Kontrola.h"
 #include "rules/Ulohy.h"
+#include "screens/Meritko.h"
 #include "screens/SelectForm.h"
-#include "screens/Spolecne.h"
 #include "store/JmenaSouboru.h"
 #include "store/Soubory.h"
 

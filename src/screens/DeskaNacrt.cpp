@@ -10,7 +10,6 @@
 #include "rules/Veliciny.h"
 #include "screens/DeskaForm.h"
 #include "screens/SelectForm.h"
-#include "screens/Spolecne.h"
 
 namespace rysovna {
 

@@ -8,7 +8,7 @@
 #include "rules/Znamka.h"
 #include "screens/ChybovyForm.h"
 #include "screens/DeskaForm.h"
-#include "screens/Spolecne.h"
+#include "screens/SlovaObrazovek.h"
 #include "screens/TabulkaForm.h"
 #include "store/Soubory.h"
 #include "store/Ukladani.h"

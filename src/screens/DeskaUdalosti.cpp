@@ -8,7 +8,6 @@
 #include "platform/Obrazovky.h"
 #include "screens/DeskaForm.h"
 #include "screens/HelpForm.h"
-#include "screens/Spolecne.h"
 
 namespace rysovna {
 

@@ -2,7 +2,6 @@
 
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
-#include "screens/Spolecne.h"
 #include "screens/Zdroje.h"
 
 namespace rysovna {

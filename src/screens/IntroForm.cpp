@@ -5,7 +5,6 @@
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "screens/SelectForm.h"
-#include "screens/Spolecne.h"
 #include "screens/Zdroje.h"
 
 namespace rysovna {

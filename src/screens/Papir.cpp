@@ -15,7 +15,7 @@
 #include "rules/Kontrola.h"
 #include "rules/Ulohy.h"
 #include "rules/Veliciny.h"
-#include "screens/Spolecne.h"
+#include "screens/SlovaObrazovek.h"
 
 namespace rysovna {
 

@@ -3,7 +3,6 @@
 #include "platform/Host.h"
 #include "platform/Obrazovky.h"
 #include "screens/SelectForm.h"
-#include "screens/Spolecne.h"
 
 namespace rysovna {
 

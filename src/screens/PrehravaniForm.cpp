@@ -12,9 +12,9 @@
 #include "platform/Pisma.h"
 #include "rules/Kontrola.h"
 #include "screens/DeskaForm.h"
+#include "screens/Meritko.h"
 #include "screens/Papir.h"
 #include "screens/PopisKroku.h"
-#include "screens/Spolecne.h"
 
 namespace rysovna {
 

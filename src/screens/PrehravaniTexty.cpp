@@ -13,7 +13,7 @@
 #include "screens/PopisKroku.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/RadaCesky.h"
-#include "screens/Spolecne.h"
+#include "screens/SlovaObrazovek.h"
 
 namespace rysovna {
 

@@ -8,9 +8,9 @@
 #include "platform/Obrazovky.h"
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
+#include "screens/Meritko.h"
 #include "screens/PozadiForm.h"
 #include "screens/SetupForm.h"
-#include "screens/Spolecne.h"
 #include "screens/Start.h"
 
 namespace rysovna {

@@ -11,9 +11,9 @@
 #include "platform/Paleta.h"
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
+#include "screens/Meritko.h"
 #include "screens/Prechody.h"
 #include "screens/SelectForm.h"
-#include "screens/Spolecne.h"
 
 namespace rysovna {
 namespace {

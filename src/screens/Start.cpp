@@ -14,7 +14,7 @@
 #include "screens/PozadiForm.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/SelectForm.h"
-#include "screens/Spolecne.h"
+#include "screens/SlovaObrazovek.h"
 #include "store/JmenaSouboru.h"
 #include "store/Nastaveni.h"
 #include "store/Soubory.h"

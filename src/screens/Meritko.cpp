@@ -1,4 +1,4 @@
-#include "screens/Spolecne.h"
+#include "screens/Meritko.h"
 
 #include "base/Cisla.h"
 
@@ -30,16 +30,6 @@ void PrizpusobForm(const Sezeni& s, Form& form) {
         }
         if (o->MaPismo()) o->Font.Velikost = static_cast<float>(meritko) * VELIKOST_PISMA;
     }
-}
-
-std::string DatumACasCesky(const DatumACas& d, std::string_view predCasem) {
-    return TextBezMezery(d.Den) + ". " + TextBezMezery(d.Mesic) + ". " + TextBezMezery(d.Rok) +
-           std::string(predCasem) + TextBezMezery(d.Hodina) + "." + DveCislice(d.Minuta);
-}
-
-void PridejOdstavec(std::string& zprava, const std::string& odstavec) {
-    if (!zprava.empty() && !odstavec.empty()) zprava += "\n\n";
-    zprava += odstavec;
 }
 
 }  // namespace rysovna
