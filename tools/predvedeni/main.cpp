@@ -1,12 +1,10 @@
-// Makes attempts of series without a fault: those of all tasks that the game shows to a class, by a
-// hand that does nothing in vain, or that of one task.
+// Makes the attempts of series without a fault that the game shows to a class, by a hand that does
+// nothing in vain.
 
 #include <exception>
 #include <filesystem>
 #include <iostream>
-#include <optional>
 #include <string>
-#include <vector>
 
 #include "base/Cisla.h"
 #include "hrac/RukaNaDesce.h"
@@ -22,25 +20,11 @@ using namespace rysovna::hrac;
 /// Which examples are shown hangs on it: another one makes other files.
 constexpr std::uint32_t SEMINKO = 7;
 
-/// The number of a task; nothing if it is none.
-std::optional<int> CisloUlohy(const std::string& text) {
-    const auto cislo = CeleCislo<int>(text);
-    return cislo && NajdiUlohu(*cislo) != nullptr ? cislo : std::nullopt;
-}
-
 /// Copies the attempt that the game has kept to a new file.
 void ZkopirujPokus(const Relace& hra, const std::filesystem::path& kam) {
     const std::filesystem::path slozka = hra.DataDir() / UkladaniPokusu::SLOZKA;
     for (const auto& soubor : std::filesystem::directory_iterator(slozka))
         std::filesystem::copy_file(soubor.path(), kam);
-}
-
-void UlozPokus(int uloha, const std::filesystem::path& kam) {
-    constexpr int PRIKLADU = 2;
-    Relace hra(SEMINKO);
-    hra.Start();
-    OdehrajSerii(hra, uloha, "Žofie Řeřichová", PRIKLADU, SEMINKO);
-    ZkopirujPokus(hra, kam);
 }
 
 void UlozPredvedeni(const std::filesystem::path& slozka) {
@@ -60,21 +44,12 @@ void UlozPredvedeni(const std::filesystem::path& slozka) {
 }  // namespace
 
 int main(int pocet, char** slova) {
-    const std::vector<std::string> argumenty(slova + 1, slova + pocet);
-    const std::optional<int> uloha = argumenty.size() == 3 && argumenty[0] == "--pokus"
-                                         ? CisloUlohy(argumenty[1])
-                                         : std::nullopt;
-    if (!uloha && argumenty.size() != 1) {
-        std::cerr << "Použití: predved SLOŽKA\n"
-                     "         predved --pokus ČÍSLO_ÚLOHY NOVÝ_SOUBOR\n";
+    if (pocet != 2) {
+        std::cerr << "Použití: predved SLOŽKA\n";
         return 2;
     }
     try {
-        if (uloha) {
-            UlozPokus(*uloha, argumenty[2]);
-        } else {
-            UlozPredvedeni(argumenty[0]);
-        }
+        UlozPredvedeni(slova[1]);
         return 0;
     } catch (const std::exception& chyba) {
         std::cerr << "Předvedení selhalo: " << chyba.what() << "\n";
