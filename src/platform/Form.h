@@ -82,7 +82,7 @@ public:
     /// The person edited the text. What the program itself writes into a text box gives no event.
     virtual void Change(TextBox& /*t*/) {}
     virtual Cinnost<> TimerTick(Timer& /*t*/) { return {}; }
-    /// A key that no text box took: "Return", "Escape", ... (shift: 1 Shift, 2 Ctrl), a letter with
+    /// A key that no text box took: "Return", "Escape", ... (shift: SHIFT, CTRL), a letter with
     /// Ctrl as "Ctrl+p". What the form does not use moves the ring or presses what it is on.
     virtual Odezva Klavesa(std::string_view /*klavesa*/, int /*shift*/) { return std::nullopt; }
     /// A key for the object that has the shown ring, before it moves the ring. True if it was used.

@@ -124,8 +124,8 @@ public:
     void Text(std::string_view utf8);
     /// A key goes down, by its name: "Left", "Right", "Up", "Down", "Home", "End", "BackSpace",
     /// "Delete", "Return", "Escape", "Tab", "Space", "F1", a letter ("a" to "z"; with ctrl "a",
-    /// "c", "v", "x" edit a text box), a digit by its place on the keyboard ("1" to "9"). shift: 1
-    /// Shift, 2 Ctrl. What a key types comes as Text besides. See Klavesnice.h for what keys do.
+    /// "c", "v", "x" edit a text box), a digit by its place on the keyboard ("1" to "9"). shift:
+    /// SHIFT, CTRL. What a key types comes as Text besides. See Klavesnice.h for what keys do.
     void Klavesa(std::string_view jmeno, int shift);
     /// "Space" or "Return" went up again.
     void KlavesaNahoru(std::string_view jmeno);

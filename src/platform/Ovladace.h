@@ -12,12 +12,12 @@
 
 namespace rysovna {
 
-/// The left button in Mys::Button; Shift and Ctrl where it is told what is held on the keyboard.
-constexpr int LEVE = 1, SHIFT = 1, CTRL = 2;
+/// The buttons of the mouse; Shift and Ctrl where it is told what is held on the keyboard.
+constexpr int LEVE = 1, PRAVE = 2, STREDNI = 4, SHIFT = 1, CTRL = 2;
 
 /// The state of the mouse at an event. X, Y: pixels of the control (of the form) that gets it.
 struct Mys {
-    int Button = 1;  ///< 1 left, 2 right, 4 middle; of a move, the sum of those held
+    int Button = LEVE;  ///< of a move, the sum of those held
     int Shift = 0;
     float X = 0, Y = 0;
     bool Prst = false;     ///< by a finger, which hides what lies under it

@@ -182,7 +182,7 @@ Cinnost<> ZpravaForm::Click(Ovladac* o) {
 
 Odezva ZpravaForm::Klavesa(std::string_view klavesa, int shift) {
     const std::size_t pocet = Tlacitka.size();
-    const bool tabZpet = klavesa == "Tab" && (shift & 1) != 0;
+    const bool tabZpet = klavesa == "Tab" && (shift & SHIFT) != 0;
     if (klavesa == "Escape") {
         Odpovez(odpovedi_.back());
         return Cinnost<>();

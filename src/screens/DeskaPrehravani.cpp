@@ -93,7 +93,7 @@ std::optional<Bod> DeskaForm::MistoVolani(const Volani& v) const {
 void DeskaForm::PromitniTah(const std::optional<Bod>& ukazatel) {
     if (!ukazatel || !Dialogem().CekaNaKresleni()) return SchovejTah();
     const Bod roh = Roh(&Pic);
-    const Mys m{1, 0, static_cast<float>(ukazatel->X - roh.X),
+    const Mys m{LEVE, 0, static_cast<float>(ukazatel->X - roh.X),
                 static_cast<float>(ukazatel->Y - roh.Y)};
     UkazTah(Dialogem().Tah(m.X, m.Y), m);
 }

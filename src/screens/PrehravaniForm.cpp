@@ -199,7 +199,7 @@ Cinnost<> PrehravaniForm::MouseDown(Ovladac* o, const Mys& m) {
 }
 
 void PrehravaniForm::MouseMove(Ovladac* o, const Mys& m) {
-    if (o == &PicPas && (m.Button & 1) != 0) static_cast<void>(MouseDown(o, m));
+    if (o == &PicPas && (m.Button & LEVE) != 0) static_cast<void>(MouseDown(o, m));
 }
 
 Cinnost<> PrehravaniForm::Click(Ovladac* o) {

@@ -9,7 +9,6 @@
 #include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
 #include "screens/Meritko.h"
-#include "screens/PozadiForm.h"
 #include "screens/SetupForm.h"
 #include "screens/Start.h"
 
@@ -67,7 +66,7 @@ void SelectForm::NactiObrazky() {
 }
 
 void SelectForm::Unload() {
-    MouseMove(nullptr, {.Button = 1, .Shift = 0, .X = 1, .Y = 1});
+    MouseMove(nullptr, {.Button = LEVE, .Shift = 0, .X = 1, .Y = 1});
 }
 
 Cinnost<> SelectForm::MouseDown(Ovladac* o, const Mys&) {

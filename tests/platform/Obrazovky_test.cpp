@@ -114,11 +114,11 @@ TEST_F(ObrazovkyTest, RadaStiskuPatriTomuCoZasahlPrvni) {
     }
     // Times that are known roughly are taken to be as near as they can be.
     Host_.PosunHodiny(1000);
-    Okna().MysDolu(410, 118, 1, 0, {100, 700});
+    Okna().MysDolu(410, 118, LEVE, 0, {100, 700});
     Po({"n410,118"});
-    Okna().MysDolu(410, 122, 1, 0, {1200, 1900});
+    Okna().MysDolu(410, 122, LEVE, 0, {1200, 1900});
     EXPECT_EQ(Po({"n410,122"}), Seznam_t{});
-    Okna().MysDolu(410, 122, 1, 0, {2401, 2401});
+    Okna().MysDolu(410, 122, LEVE, 0, {2401, 2401});
     EXPECT_EQ(Form_->Vezmi(), Seznam_t{"Down form 410,122"});
 }
 

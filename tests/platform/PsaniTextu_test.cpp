@@ -98,12 +98,12 @@ TEST_F(PsaniTest, MysSadiKurzorAVybira) {
     const std::vector<double> x = Zacatky(Pole().Font, Pole().Text);
     const auto naX = [&](std::size_t i) { return Pole().Left + 3 + x[i]; };
     const double y = Pole().Top + 10;
-    Okna().MysDolu(naX(4) + 0.5, y, 1, 0);
+    Okna().MysDolu(naX(4) + 0.5, y, LEVE, 0);
     EXPECT_EQ(Form_->Zamereni(), &Pole());
     EXPECT_EQ(Stav(Pole()), "Jan |Amos Novák");
-    Okna().MysPohyb(naX(8), y + 300, 1, 0);
+    Okna().MysPohyb(naX(8), y + 300, LEVE, 0);
     EXPECT_EQ(Stav(Pole()), "Jan <Amos| Novák");
-    Okna().MysNahoru(naX(8), y + 300, 1, 0);
+    Okna().MysNahoru(naX(8), y + 300, LEVE, 0);
     Hraj({"+B"});
     EXPECT_EQ(Pole().Text, "Jan B Novák");
     Host_.PosunHodiny(1000);

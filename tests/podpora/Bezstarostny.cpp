@@ -283,9 +283,10 @@ void Bezstarostny::Mys() {
     }
     Zapamatuj("mouse", kde);
     if (Jednou(4)) return relace_->NajedNaMisto(kde.X, kde.Y);
-    constexpr int TLACITKA[] = {1, 1, 1, 1, 1, 1, 1, 1, 1, 2, 4};
+    constexpr int TLACITKA[] = {LEVE, LEVE, LEVE, LEVE,  LEVE,   LEVE,
+                                LEVE, LEVE, LEVE, PRAVE, STREDNI};
     Stisk(kde, Neco(TLACITKA));
-    if (Jednou(20)) Stisk(kde, 1);  // a double click
+    if (Jednou(20)) Stisk(kde, LEVE);  // a double click
 }
 
 void Bezstarostny::Stisk(Bod kde, int tlacitko) {
@@ -340,11 +341,11 @@ void Bezstarostny::Tah(const Ovladac& pic) {
     Zapamatuj("drag to", kam);
     if (cim_ == Cim::Prstem && !Jednou(10)) return Klepni(od, kam);
     relace_->NajedNaMisto(od.X, od.Y);
-    okna.MysDolu(od.X, od.Y, 1, 0);
-    if (!Jednou(3)) okna.MysPohyb((od.X + kam.X) / 2.0, (od.Y + kam.Y) / 2.0, 1, 0);
+    okna.MysDolu(od.X, od.Y, LEVE, 0);
+    if (!Jednou(3)) okna.MysPohyb((od.X + kam.X) / 2.0, (od.Y + kam.Y) / 2.0, LEVE, 0);
     if (Jednou(30)) Cekej();
-    if (Jednou(40)) Stisk(kam, 2);
-    if (!Jednou(40)) okna.MysNahoru(kam.X, kam.Y, 1, 0);
+    if (Jednou(40)) Stisk(kam, PRAVE);
+    if (!Jednou(40)) okna.MysNahoru(kam.X, kam.Y, LEVE, 0);
 }
 
 /// Counts what it passes through.

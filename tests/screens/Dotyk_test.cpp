@@ -115,7 +115,7 @@ TEST_F(DotykDesky, ZvednutyTahDokonciJenHotovo) {
 /// A finger whose lifting got lost, and a mouse whose release did, take nothing from the next one.
 TEST_F(DotykDesky, ZtraceneZvednutiNevadi) {
     for (const bool mysi : {false, true}) {
-        mysi ? Okna().MysDolu(20, 20, 1, 0) : Okna().PrstDolu(20, 20, Ted());
+        mysi ? Okna().MysDolu(20, 20, LEVE, 0) : Okna().PrstDolu(20, 20, Ted());
         r.Hra.Cekej(700);
         const bool predtim = Zacato();
         Klepni(Znacka());
@@ -226,8 +226,8 @@ TEST_F(DotykDesky, PrstenJeNaBoduKteryByStiskChytil) {
     }
     r.Hra.NajedNaMisto(kde.X, kde.Y);
     EXPECT_EQ(verze(), pred);
-    Okna().MysDolu(kde.X, kde.Y, 1, 0);
-    Okna().MysPohyb(kde.X + 40, kde.Y, 1, 0);
+    Okna().MysDolu(kde.X, kde.Y, LEVE, 0);
+    Okna().MysPohyb(kde.X + 40, kde.Y, LEVE, 0);
     EXPECT_EQ(Stred(r.Hra.Prvek("Circle1")), b);
     EXPECT_EQ(Ohlasu(Ohlas::Druh::Zachytne), std::nullopt);
 }

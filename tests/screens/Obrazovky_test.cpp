@@ -279,8 +279,8 @@ TEST_F(Nastaveni, JmenoMaNejvyseSedesatZnakuAnicCoByRozbiloZaznam) {
     };
     for (const auto& [vlozene, jmeno] : PRIPADY) {
         host.Schranka = vlozene;
-        relace.Klavesa("a", 2);
-        relace.Klavesa("v", 2);
+        relace.Klavesa("a", CTRL);
+        relace.Klavesa("v", CTRL);
         Zvol(1);
         ASSERT_EQ(Prijelo(), !jmeno.empty()) << vlozene;
         if (jmeno.empty()) continue;

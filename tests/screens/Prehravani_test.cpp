@@ -169,12 +169,12 @@ TEST(Prehravani, KlavesamiAMysiSeDostaneVsude) {
         // And by keys from one to the next.
         hra.Klavesa("Home");
         for (int i = 0; i < chyb; ++i) {
-            hra.Klavesa("Right", 1);
+            hra.Klavesa("Right", SHIFT);
             EXPECT_TRUE(divak.Co().Ted().Chyba);
         }
-        hra.Klavesa("Right", 1);
+        hra.Klavesa("Right", SHIFT);
         EXPECT_TRUE(divak.Co().NaKonci());
-        hra.Klavesa("Left", 1);
+        hra.Klavesa("Left", SHIFT);
         EXPECT_TRUE(divak.Co().Ted().Chyba);
         // A press on the board goes on, another one stops; step by step it stops by itself.
         hra.Klavesa("Home");

@@ -101,13 +101,13 @@ TEST(RadaDesky, VedeOdZnacekAzZaKontrolu) {
     // Beyond the plane's edge, where its own read-out cannot be seen.
     Obrazovky& okna = r.Hra.Host().Okna();
     const Bod roh = r.Hra.Roh(r.Hra.Prvek("Pic"));
-    okna.MysDolu(roh.X + r.Prvni.X, roh.Y + r.Prvni.Y, 1, 0);
-    okna.MysPohyb(roh.X + r.Prvni.X - 132, roh.Y - 40, 1, 0);
+    okna.MysDolu(roh.X + r.Prvni.X, roh.Y + r.Prvni.Y, LEVE, 0);
+    okna.MysPohyb(roh.X + r.Prvni.X - 132, roh.Y - 40, LEVE, 0);
     EXPECT_TRUE(deska.Text.Caption.ends_with(" cm"));
     EXPECT_EQ(slova(), deska.Text.Caption + " – pusť, až bude velikost souhlasit.|");
     Proved(r.Hra, "BackSpace*2");
     EXPECT_EQ(slova(), deska.Text.Caption + " – velikost není napsaná, políčko vlevo je prázdné.|");
-    okna.MysNahoru(roh.X + r.Prvni.X - 132, roh.Y - 40, 1, 0);
+    okna.MysNahoru(roh.X + r.Prvni.X - 132, roh.Y - 40, LEVE, 0);
 
     // Before a press that cannot be taken back; the dead tool says why it is dead.
     for (const auto& [jmeno, index, co] : {std::tuple{"PicTop", 1, Rada::Co::PodKontrola},

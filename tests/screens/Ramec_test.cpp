@@ -33,8 +33,8 @@ TEST(RamecDesky, PanelVyjizdiTriceticiCtyrmiSnimkyPoCtyricetiMsANikohoNepusti) {
         for (const auto& [kdy, kam] : {std::pair{500U, Bod{300, 120}}, {900U, Bod{591, 42}}}) {
             host.NaplanujZa(kdy, [&r, kam = kam] { r.Hra.StiskniMisto(kam.X, kam.Y); });
         }
-        host.NaplanujZa(1300, [&] { host.Okna().MysDolu(500, 42, 1, 0); });
-        host.NaplanujZa(1600, [&] { host.Okna().MysNahoru(500, 42, 1, 0); });
+        host.NaplanujZa(1300, [&] { host.Okna().MysDolu(500, 42, LEVE, 0); });
+        host.NaplanujZa(1600, [&] { host.Okna().MysNahoru(500, 42, LEVE, 0); });
         r.Hra.NoveZvuky();
         r.Kdo.Stiskni(zavrit ? "Image1" : "MalaSipka");
         EXPECT_EQ(r.Hra.NoveZvuky(), Zvuky{"click.wav"});
@@ -254,9 +254,9 @@ TEST(RamecDesky, DvojklikNestojiVicNezKlik) {
                 for (int n = 0; n <= std::min(jak, 1); ++n) {
                     const int x = roh.X + kde.X + n * (jak - 1) * 4, y = roh.Y + kde.Y;
                     const auto kdy = static_cast<std::uint32_t>(1 + 300 * n);
-                    r.Hra.Host().NaplanujZa(kdy, [&okna, x, y] { okna.MysDolu(x, y, 1, 0); });
+                    r.Hra.Host().NaplanujZa(kdy, [&okna, x, y] { okna.MysDolu(x, y, LEVE, 0); });
                     r.Hra.Host().NaplanujZa(kdy + 40,
-                                            [&okna, x, y] { okna.MysNahoru(x, y, 1, 0); });
+                                            [&okna, x, y] { okna.MysNahoru(x, y, LEVE, 0); });
                 }
                 r.Hra.Cekej(2500);
                 auto& [body, videt] = vysledky[static_cast<std::size_t>(jak)];

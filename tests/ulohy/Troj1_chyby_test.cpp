@@ -90,8 +90,8 @@ TEST(Trojuhelniky, KazdyChybnyKrokStojiPresneToCoMa) {
 TEST(Trojuhelniky, PraveTlacitkoAniStiskBezKrokuNicNestoji) {
     Rysovac r;
     r.Zacni().Rysuj("AB").Kdo.Nastroj(2).Vyber("k úsečce AB");
-    r.Hra.Host().Okna().MysDolu(400, 300, 2, 0);
-    r.Hra.Host().Okna().MysNahoru(450, 250, 2, 0);
+    r.Hra.Host().Okna().MysDolu(400, 300, PRAVE, 0);
+    r.Hra.Host().Okna().MysNahoru(450, 250, PRAVE, 0);
     EXPECT_EQ(r.Pamet().PocetUtvaru, 1);
     EXPECT_EQ(r.Pamet().SoucetZapornychBodu, 0);
     for (int i = 0; i < 2; ++i) r.Kdo.Tahni({140, 190}, {140, 100});  // the second is not armed
@@ -187,7 +187,7 @@ TEST(Trojuhelniky, SeznamChybUkazeDesetANejdelDokudSeDrzi) {
     EXPECT_EQ(r.Hra.Prvek<TextBox>("Text1").Text, ceka);
     r.Hra.Cekej(500);
     EXPECT_EQ(r.Hra.JmenoVpredu(), "ChybovyForm");
-    r.Hra.Host().Okna().MysNahoru(180, 410, 1, 0);
+    r.Hra.Host().Okna().MysNahoru(180, 410, LEVE, 0);
     EXPECT_EQ(r.Hra.Najdi("ChybovyForm"), nullptr);
 
     // A release that got lost: the next press, beside the list or on it, closes it.

@@ -143,9 +143,9 @@ void Relace::Stisk(double x, double y, bool dolu) {
     const std::string co = dolu ? "dolu" : "nahoru";
     Zapis(co);
     if (dolu) {
-        host_.Okna().MysDolu(x, y, 1, 0);
+        host_.Okna().MysDolu(x, y, LEVE, 0);
     } else {
-        host_.Okna().MysNahoru(x, y, 1, 0);
+        host_.Okna().MysNahoru(x, y, LEVE, 0);
     }
     Po(co);
 }
@@ -182,7 +182,7 @@ void Relace::Tahni(std::string_view jmeno, Bod odkud, Bod kam, int index) {
     for (int i = 1; i <= KROKU; ++i) {
         const int dx = (kam.X - odkud.X) * i / KROKU;
         const int dy = (kam.Y - odkud.Y) * i / KROKU;
-        Pohyb(roh.X + odkud.X + dx, roh.Y + odkud.Y + dy, 1);
+        Pohyb(roh.X + odkud.X + dx, roh.Y + odkud.Y + dy, LEVE);
     }
     Stisk(roh.X + kam.X, roh.Y + kam.Y, false);
 }
@@ -212,7 +212,7 @@ void Relace::Prepis(std::string_view jmeno, std::string_view text) {
         NaZastavku(jmeno);
     } else {
         Stiskni(jmeno);
-        Klavesa("a", 2);
+        Klavesa("a", CTRL);
     }
     Klavesa("Delete");
     Napis(text);

@@ -89,7 +89,7 @@ public:
     void Napis(std::string_view text);
     /// Makes a text box hold the text: presses it, marks all of it, types.
     void Prepis(std::string_view jmeno, std::string_view text);
-    /// A key by its name ("Return", "Escape", "BackSpace"); shift: 1 Shift, 2 Ctrl.
+    /// A key by its name ("Return", "Escape", "BackSpace"); shift: SHIFT, CTRL.
     void Klavesa(std::string_view klavesa, int shift = 0);
     /// Goes round the screen in front by Tab until the ring is on a control.
     void NaZastavku(std::string_view jmeno, int index = 0);

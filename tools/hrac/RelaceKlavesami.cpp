@@ -36,8 +36,8 @@ void Relace::NaZastavku(std::string_view jmeno, int index) {
         return prsten && prsten->Co == &prvek;
     };
     // Now this way round, now that one.
-    const int zpet = ++stisku_ % 2;
-    for (std::size_t i = 0; i < nejvyse && !ma(); ++i) Klavesa("Tab", zpet);
+    const int drzeno = ++stisku_ % 2 == 0 ? 0 : SHIFT;
+    for (std::size_t i = 0; i < nejvyse && !ma(); ++i) Klavesa("Tab", drzeno);
     if (!ma()) {
         throw NejdeUdelat("klávesami se nedá dojít na " + std::string(jmeno) + "(" +
                           std::to_string(index) + ")");
@@ -77,7 +77,7 @@ void Relace::SipkyNa(Bod kam) {
         const int kolik = vodorovne ? d.X : d.Y;
         const std::string_view sipka =
             vodorovne ? (kolik > 0 ? "Right" : "Left") : (kolik > 0 ? "Down" : "Up");
-        Klavesa(sipka, std::abs(kolik) >= SKOK ? 1 : 0);
+        Klavesa(sipka, std::abs(kolik) >= SKOK ? SHIFT : 0);
         if (Ring().Hrot == hrot) break;
     }
     if (Ring().Hrot != kam) throw NejdeUdelat("kříž tam nedojde");

@@ -94,8 +94,8 @@ std::string HeadlessHost::Overeni(const std::string& neni) {
 }
 
 void HeadlessHost::Stiskni(double x, double y) {
-    Okna().MysDolu(x, y, 1, 0);
-    Okna().MysNahoru(x, y, 1, 0);
+    Okna().MysDolu(x, y, LEVE, 0);
+    Okna().MysNahoru(x, y, LEVE, 0);
 }
 
 void HeadlessHost::Snimek(const std::string& soubor, double meritko) {

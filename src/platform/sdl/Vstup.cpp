@@ -55,7 +55,7 @@ constexpr struct {
 /// Buttons by SDL's number and as the screens count them.
 constexpr struct {
     int Sdl, Nase;
-} TLACITKA[] = {{SDL_BUTTON_LEFT, LEVE}, {SDL_BUTTON_RIGHT, 2}, {SDL_BUTTON_MIDDLE, 4}};
+} TLACITKA[] = {{SDL_BUTTON_LEFT, LEVE}, {SDL_BUTTON_RIGHT, PRAVE}, {SDL_BUTTON_MIDDLE, STREDNI}};
 
 int Tlacitko(int sdl) {
     for (const auto& t : TLACITKA) {
