@@ -24,11 +24,13 @@ struct Uloha {
     std::size_t Rodina;  ///< index in RODINY
     std::string_view TypUlohy;
     Deska deska;
+    /// What the sketch asks for; nearly all tasks ask for the same.
+    std::string_view NadpisNacrtu = "Označ strany (resp. úhly, výšky, těžnice), které jsou zadány:";
 };
 
 /// All tasks; those of a family follow one another.
 inline constexpr Uloha ULOHY[] = {
-    {1, 0, "podle věty SSS", Deska::Troj1Form},
+    {1, 0, "podle věty SSS", Deska::Troj1Form, "Označ strany (resp. úhly), které jsou zadány:"},
     {2, 0, "podle věty SUS", Deska::Troj1Form},
     {3, 0, "podle věty USU", Deska::Troj1Form},
     {4, 1, "strana-výška-úhel", Deska::Troj2Form},

@@ -32,10 +32,6 @@ constexpr int SNIMKU = 34;
 constexpr int KROK_SNIMKU = 9;
 constexpr std::uint32_t DOBA_SNIMKU = 40;  // ms
 
-constexpr std::string_view NADPIS_STRANY = "Označ strany (resp. úhly), které jsou zadány:";
-constexpr std::string_view NADPIS_VSE =
-    "Označ strany (resp. úhly, výšky, těžnice), které jsou zadány:";
-constexpr int ULOHA_STRANY = 1;  // the one task with the short heading
 constexpr float NADPIS_X = 21, NADPIS_Y = 6;
 
 }  // namespace
@@ -65,7 +61,7 @@ void DeskaForm::SlozPanel() {
     celek.Font = VPImage.Font;
     celek.CurrentX = NADPIS_X;
     celek.CurrentY = NADPIS_Y;
-    celek.Print(s_.CisloUlohy == ULOHA_STRANY ? NADPIS_STRANY : NADPIS_VSE);
+    celek.Print(NajdiUlohu(s_.CisloUlohy)->NadpisNacrtu);
     celek.BitBlt(SamplePic.Left, SamplePic.Top, SamplePic.Width, SamplePic.Height,
                  SamplePic.Plocha(), 0, 0, Rop::SrcCopy);
 }
