@@ -1,66 +1,21 @@
 #include "hrac/Relace.h"
 
-#include <fstream>
-#include <iterator>
-#include <random>
+#include <utility>
 
 #include "base/Cisla.h"
-#include "base/Disk.h"
 #include "base/Text.h"
 #include "platform/Obrazovky.h"
 #include "rules/Ulohy.h"
 #include "screens/Start.h"
-#include "store/JmenaSouboru.h"
 
 namespace rysovna::hrac {
-namespace {
-
-namespace fs = std::filesystem;
-
-const fs::path STAGING = CestaZTextu(RYSOVNA_STAGING);
-
-/// A folder that no other run, of this process or another, has.
-fs::path NovaSlozka() {
-    std::random_device nahoda;
-    for (int i = 0; i < 100; ++i) {
-        fs::path nova = fs::temp_directory_path() / ("rysovna_" + std::to_string(nahoda()));
-        if (fs::create_directory(nova)) return nova;
-    }
-    throw NejdeUdelat("nelze založit " + fs::temp_directory_path().string());
-}
-
-[[noreturn]] void Nejde(const std::string& co, std::string_view jmeno, int index) {
-    throw NejdeUdelat(co + ": " + std::string(jmeno) + "(" + std::to_string(index) + ")");
-}
-
-}  // namespace
 
 Relace::Relace(std::uint32_t seminko, Cim cim, VyrobceDesek vyrobce)
-    : sezeni_(host_, std::move(vyrobce)),
-      cim_(cim),
-      los_(seminko),
-      koren_(NovaSlozka()),
-      data_(koren_ / "data") {
-    fs::copy(STAGING / "data", data_, fs::copy_options::recursive);
-    // The staged copy may have been played with: a run begins with no results.
-    for (const std::string& jmeno : JmenaVysledku()) fs::resize_file(data_ / jmeno, 0);
-    host_.SlozkaSystemu = koren_.string();
-    host_.SeminkoHry = seminko;
-    std::ofstream ini(koren_ / JMENO_INI, std::ios::binary);
-    ini << "[RYSOVNA1]\r\nCD=" << (STAGING / "assets").string() << "\r\nHD=" << data_.string()
-        << "\r\n";
-    ini.close();
-}
-
-Relace::~Relace() {
-    host_.Okna().UnloadVse();
-    std::error_code nevadi;
-    fs::remove_all(koren_, nevadi);
-}
+    : Beh(seminko, std::move(vyrobce)), cim_(cim), los_(seminko) {}
 
 void Relace::StartDoTitulu() {
-    Zacni(sezeni_);
-    host_.Dobehni();
+    Zacni(Pamet());
+    Host().Dobehni();
 }
 
 void Relace::PreskocTitul() {
@@ -92,40 +47,9 @@ void Relace::SpustUlohu(int cisloUlohy, std::string_view jmeno, int priklady) {
     Cekej(200);
 }
 
-Form* Relace::Vpredu() {
-    return host_.Okna().Vpredu().get();
-}
-
-std::string Relace::JmenoVpredu() {
-    const Form* form = Vpredu();
-    return form == nullptr ? std::string() : std::string(form->Jmeno());
-}
-
-Form* Relace::Najdi(std::string_view form) {
-    return host_.Okna().Najdi(form).get();
-}
-
-Ovladac& Relace::Prvek(std::string_view jmeno, int index) {
-    Form* form = Vpredu();
-    Ovladac* prvek = form == nullptr ? nullptr : form->Najdi(jmeno, index);
-    if (prvek == nullptr) Nejde("na obrazovce " + JmenoVpredu() + " není", jmeno, index);
-    return *prvek;
-}
-
-Bod Relace::Roh(const Ovladac& prvek) {
-    const Form* form = Vpredu();
-    Bod roh = form->Maximised ? Bod{} : Bod{form->Left, form->Top};
-    for (const Ovladac* o = &prvek; o != nullptr; o = o->Rodic) {
-        if (!o->Visible) Nejde("není vidět", prvek.Name, prvek.Index);
-        roh.X += o->Left;
-        roh.Y += o->Top;
-    }
-    return roh;
-}
-
 void Relace::Zapis(const std::string& udalost) {
     if (zaznam_ == nullptr) return;
-    const std::uint32_t ted = host_.TickCount();
+    const std::uint32_t ted = Host().TickCount();
     if (ted > zapsano_) *zaznam_ << "cekej " << ted - zapsano_ << '\n';
     zapsano_ = ted;
     *zaznam_ << udalost << '\n';
@@ -135,7 +59,7 @@ void Relace::Pohyb(double x, double y, int tlacitka) {
     const std::string co =
         "mys " + std::to_string(Zaokrouhli(x)) + " " + std::to_string(Zaokrouhli(y));
     Zapis(co);
-    host_.Okna().MysPohyb(x, y, tlacitka, 0);
+    Host().Okna().MysPohyb(x, y, tlacitka, 0);
     Po(co);
 }
 
@@ -143,9 +67,9 @@ void Relace::Stisk(double x, double y, bool dolu) {
     const std::string co = dolu ? "dolu" : "nahoru";
     Zapis(co);
     if (dolu) {
-        host_.Okna().MysDolu(x, y, LEVE, 0);
+        Host().Okna().MysDolu(x, y, LEVE, 0);
     } else {
-        host_.Okna().MysNahoru(x, y, LEVE, 0);
+        Host().Okna().MysNahoru(x, y, LEVE, 0);
     }
     Po(co);
 }
@@ -202,7 +126,7 @@ void Relace::Napis(std::string_view text) {
     for (const char32_t znak : DoZnaku(text)) {
         const std::string pismeno = ZeZnaku({&znak, 1});
         Zapis("text " + pismeno);
-        host_.Okna().Text(pismeno);
+        Host().Okna().Text(pismeno);
         Po("text " + pismeno);
     }
 }
@@ -221,32 +145,13 @@ void Relace::Prepis(std::string_view jmeno, std::string_view text) {
 void Relace::Klavesa(std::string_view klavesa, int shift) {
     const std::string co = "klavesa " + std::string(klavesa) + " " + std::to_string(shift);
     Zapis(co);
-    host_.Okna().Klavesa(klavesa, shift);
+    Host().Okna().Klavesa(klavesa, shift);
     Po(co);
 }
 
 void Relace::Cekej(std::uint32_t ms) {
-    host_.Cekej(ms);
+    Host().Cekej(ms);
     Po("cekej " + std::to_string(ms));
-}
-
-std::string Relace::CtiSoubor(const std::string& soubor) const {
-    std::ifstream vstup(data_ / soubor, std::ios::binary);
-    if (!vstup) throw NejdeUdelat("nelze číst " + soubor);
-    return {std::istreambuf_iterator<char>(vstup), {}};
-}
-
-void Relace::PisSoubor(const std::string& soubor, std::string_view obsah) const {
-    std::ofstream(data_ / soubor, std::ios::binary | std::ios::trunc) << obsah;
-}
-
-std::vector<std::string> Relace::NoveZvuky() {
-    std::vector<std::string> nove;
-    for (; slysenych_ < host_.Zvuky.size(); ++slysenych_) {
-        const std::string& cesta = host_.Zvuky[slysenych_].Cesta;
-        nove.push_back(cesta.substr(cesta.find_last_of('\\') + 1));
-    }
-    return nove;
 }
 
 }  // namespace rysovna::hrac

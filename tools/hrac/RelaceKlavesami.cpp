@@ -23,7 +23,7 @@ int Daleko(Bod a, Bod b) {
 }  // namespace
 
 Obrazovky::Prsten Relace::Ring() {
-    const auto prsten = host_.Okna().PrstenVpredu();
+    const auto prsten = Host().Okna().PrstenVpredu();
     if (!prsten) throw NejdeUdelat("na obrazovce " + JmenoVpredu() + " není prstenec");
     return *prsten;
 }
@@ -32,7 +32,7 @@ void Relace::NaZastavku(std::string_view jmeno, int index) {
     const Ovladac& prvek = Prvek(jmeno, index);
     const std::size_t nejvyse = Zastavky(*Vpredu()).size() + 1;
     const auto ma = [&] {
-        const auto prsten = host_.Okna().PrstenVpredu();
+        const auto prsten = Host().Okna().PrstenVpredu();
         return prsten && prsten->Co == &prvek;
     };
     // Now this way round, now that one.
@@ -45,7 +45,7 @@ void Relace::NaZastavku(std::string_view jmeno, int index) {
 }
 
 void Relace::StiskniKlavesami(std::string_view jmeno, int index, int dx, int dy) {
-    const bool psani = host_.Okna().Psane() != nullptr;
+    const bool psani = Host().Okna().Psane() != nullptr;
     const bool cislici = std::ranges::find(CISLICEMI, jmeno) != std::end(CISLICEMI);
     if (cislici && !psani && ++stisku_ % 3 == 0) return Klavesa(std::to_string(index));
     NaZastavku(jmeno, index);
@@ -90,26 +90,26 @@ void Relace::KrizNa(Bod kam) {
         const Bod hrot = Ring().Hrot;
         return Bod{hrot.X - roh.X, hrot.Y - roh.Y};
     };
-    for (int i = 1; i <= sezeni_.PocetTrojic; ++i) {
-        const Trojice& t = sezeni_.Trojice_tab[i];
+    for (int i = 1; i <= Pamet().PocetTrojic; ++i) {
+        const Trojice& t = Pamet().Trojice_tab[i];
         for (const auto& [jmeno, misto] :
              {std::pair{t.Jmeno1, Bod{t.X1, t.Y1}}, std::pair{t.Jmeno2, Bod{t.X2, t.Y2}}}) {
             if (jmeno.empty() || jmeno[0] < 'A' || jmeno[0] > 'Z') continue;
             if (Daleko(misto, kam) >= Daleko(ted(), kam)) continue;
             const std::string pismeno{static_cast<char>(jmeno[0] - 'A' + 'a')};
             // Points of one letter come in turn.
-            for (int k = 0; k < sezeni_.PocetTrojic && ted() != misto; ++k) Klavesa(pismeno);
+            for (int k = 0; k < Pamet().PocetTrojic && ted() != misto; ++k) Klavesa(pismeno);
         }
     }
     SipkyNa({roh.X + kam.X, roh.Y + kam.Y});
 }
 
 void Relace::TahniKlavesami(std::string_view jmeno, Bod odkud, Bod kam) {
-    if (host_.Okna().Psane() != nullptr) Klavesa("Return");  // leads to the plane
+    if (Host().Okna().Psane() != nullptr) Klavesa("Return");  // leads to the plane
     NaZastavku(jmeno);
     KrizNa(odkud);
     Klavesa("Space");
-    if (!host_.Okna().DrziKlavesa()) return;  // a click was asked for
+    if (!Host().Okna().DrziKlavesa()) return;  // a click was asked for
     KrizNa(kam);
     Klavesa("Space");
 }

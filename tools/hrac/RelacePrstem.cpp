@@ -47,8 +47,8 @@ void Relace::Prst(std::string_view co, Bod kde) {
     const std::string udalost =
         "prst " + std::string(co) + " " + std::to_string(kde.X) + " " + std::to_string(kde.Y);
     Zapis(udalost);
-    Obrazovky& okna = host_.Okna();
-    const std::uint32_t ted = host_.TickCount();
+    Obrazovky& okna = Host().Okna();
+    const std::uint32_t ted = Host().TickCount();
     const auto x = static_cast<double>(kde.X);
     const auto y = static_cast<double>(kde.Y);
     if (co == "dolu") {
@@ -84,7 +84,7 @@ void Relace::TahniPrstem(Bod odkud, Bod kam) {
     const auto bod =
         dialog.ChytilBy(static_cast<float>(odkud.X), static_cast<float>(odkud.Y)).value_or(odkud);
     const Bod mirim{roh.X + bod.X, roh.Y + bod.Y};
-    Bod zacatek = sezeni_.PocetUtvaru == 0 ? mirim : los_.Vedle(mirim, CHYBA);
+    Bod zacatek = Pamet().PocetUtvaru == 0 ? mirim : los_.Vedle(mirim, CHYBA);
     zacatek.X = std::clamp(zacatek.X, roh.X, roh.X + pic.Width - 1);
     zacatek.Y = std::clamp(zacatek.Y, roh.Y, roh.Y + pic.Height - 1);
     Rozmysli();
@@ -112,7 +112,7 @@ void Relace::DotahniPodlozkou(Bod kam) {
     using Druh = Obrazovky::Ohlas::Druh;
     constexpr int NEJVYSE = 200;
     for (int i = 0; i < NEJVYSE; ++i) {
-        const auto ohlasy = host_.Okna().OhlasyVpredu();
+        const auto ohlasy = Host().Okna().OhlasyVpredu();
         const auto* pad = NajdiOhlas(ohlasy, Druh::Podlozka);
         const auto* konec = NajdiOhlas(ohlasy, Druh::Konec);
         if (pad == nullptr || konec == nullptr) throw NejdeUdelat("podložka není vidět");

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "hrac/RukaNaDesce.h"
 #include "rules/Misc.h"
+#include "zak/Sestroj.h"
 
 namespace rysovna::hrac {
 

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "hrac/RukaNaDesce.h"
-#include "zak/Sestroj.h"
 
 namespace rysovna::hrac {
 
