@@ -7,9 +7,9 @@
 #include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
 #include "rules/Zaznamy.h"
-#include "screens/Hover.h"
 #include "screens/Meritko.h"
 #include "screens/SlovaObrazovek.h"
+#include "screens/Zdroje.h"
 
 namespace rysovna {
 

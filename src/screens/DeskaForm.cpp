@@ -6,8 +6,6 @@
 #include "engine/Miry.h"
 #include "platform/Host.h"
 #include "platform/Paleta.h"
-#include "rules/Kontrola.h"
-#include "rules/Ulohy.h"
 #include "screens/Meritko.h"
 #include "screens/SelectForm.h"
 #include "store/JmenaSouboru.h"

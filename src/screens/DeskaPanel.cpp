@@ -8,7 +8,6 @@
 #include "platform/Pisma.h"
 #include "rules/Veliciny.h"
 #include "screens/DeskaForm.h"
-#include "screens/SelectForm.h"
 
 namespace rysovna {
 

@@ -10,7 +10,6 @@
 #include "screens/DeskaForm.h"
 #include "screens/SlovaObrazovek.h"
 #include "screens/TabulkaForm.h"
-#include "store/Soubory.h"
 #include "store/Ukladani.h"
 
 namespace rysovna {

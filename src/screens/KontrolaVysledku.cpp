@@ -6,7 +6,6 @@
 #include "store/Fronta.h"
 #include "store/JmenaSouboru.h"
 #include "store/Nastaveni.h"
-#include "store/TabulkaVysledku.h"
 #include "store/TextPokusu.h"
 #include "store/Ukladani.h"
 #include "store/UkladaniPokusu.h"

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "base/Cisla.h"
-#include "base/Text.h"
 #include "engine/Miry.h"
 #include "platform/Paleta.h"
 #include "platform/Pdf.h"

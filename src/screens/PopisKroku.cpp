@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "rules/Veliciny.h"
-#include "screens/RadaCesky.h"
 
 namespace rysovna {
 

@@ -10,7 +10,7 @@
 #include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
 #include "platform/Pisma.h"
-#include "rules/Kontrola.h"
+#include "rules/KatalogChyb.h"
 #include "screens/DeskaForm.h"
 #include "screens/Meritko.h"
 #include "screens/Papir.h"

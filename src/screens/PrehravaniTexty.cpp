@@ -7,7 +7,7 @@
 #include "base/Cisla.h"
 #include "platform/Pisma.h"
 #include "rules/Chyby.h"
-#include "rules/Kontrola.h"
+#include "rules/KatalogChyb.h"
 #include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
 #include "screens/PopisKroku.h"

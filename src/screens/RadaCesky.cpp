@@ -4,7 +4,7 @@
 
 #include "base/Cisla.h"
 #include "rules/Chyby.h"
-#include "rules/Kontrola.h"
+#include "rules/KatalogChyb.h"
 #include "rules/Veliciny.h"
 
 namespace rysovna {

@@ -9,7 +9,6 @@
 #include "platform/Klavesnice.h"
 #include "platform/Obrazovky.h"
 #include "platform/Paleta.h"
-#include "rules/Ulohy.h"
 #include "screens/HelpForm.h"
 #include "screens/Meritko.h"
 #include "screens/Prechody.h"

@@ -1,7 +1,5 @@
 // The ring of the keys on a form of a few objects: where it goes, how it presses, when it hides.
 
-#include "platform/Klavesnice.h"
-
 #include "PlatformTest.h"
 
 namespace rysovna::testy {

@@ -7,13 +7,13 @@
 #include "engine/Miry.h"
 #include "engine/Tabulky.h"
 #include "hrac/RukaNaDesce.h"
-#include "hrac/Serie.h"
 #include "platform/Klavesnice.h"
 #include "platform/Obrazovky.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"
 #include "screens/TabulkaForm.h"
+#include "zak/Sestroj.h"
 
 namespace rysovna::testy {
 

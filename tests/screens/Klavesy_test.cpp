@@ -5,11 +5,11 @@
 
 #include "engine/Tabulky.h"
 #include "hrac/RukaNaDesce.h"
-#include "hrac/Serie.h"
 #include "podpora/Rysovac.h"
 #include "podpora/Udalosti.h"
 #include "rules/Misc.h"
 #include "zak/Ctyruhelnik.h"
+#include "zak/Sestroj.h"
 
 namespace rysovna::testy {
 namespace {

@@ -10,7 +10,6 @@
 #include "screens/SelectForm.h"
 #include "store/Ini.h"
 #include "store/JmenaSouboru.h"
-#include "store/Nastaveni.h"
 
 namespace rysovna::testy {
 namespace {

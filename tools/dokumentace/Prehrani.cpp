@@ -3,10 +3,11 @@
 #include <filesystem>
 
 #include "base/Chyba.h"
-#include "hrac/Serie.h"
+#include "hrac/RukaNaDesce.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/Start.h"
 #include "store/UkladaniPokusu.h"
+#include "zak/Sestroj.h"
 
 namespace rysovna::dokumentace {
 

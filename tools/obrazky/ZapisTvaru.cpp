@@ -4,7 +4,6 @@
 #include <cmath>
 #include <set>
 
-#include "Kresleni.h"
 #include "base/Chyba.h"
 #include "base/Text.h"
 #include "platform/Pisma.h"

@@ -11,14 +11,13 @@
 #include <utility>
 #include <vector>
 
-#include "base/Cisla.h"
-#include "hrac/Serie.h"
 #include "rules/KatalogChyb.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "sit/Obrazy.h"
 #include "sit/Pozorovatel.h"
 #include "sit/Ruce.h"
+#include "zak/Sestroj.h"
 
 namespace rysovna::sit {
 namespace {

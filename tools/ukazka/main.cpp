@@ -11,8 +11,6 @@
 
 #include "base/Cisla.h"
 #include "hrac/RukaNaDesce.h"
-#include "rules/Misc.h"
-#include "screens/Desky.h"
 #include "store/JmenaSouboru.h"
 #include "store/KodovaStranka.h"
 #include "zak/Sestroj.h"
