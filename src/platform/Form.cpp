@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/Klavesnice.h"
+#include "platform/Misto.h"
 
 namespace rysovna {
 
@@ -26,10 +27,7 @@ Kurzor Form::KurzorNad(const Ovladac* o, float /*x*/, float /*y*/) const {
 void Form::Pridej(Ovladac& o, std::string_view jmeno, Obdelnik misto, Ovladac* rodic) {
     o.Name = jmeno;
     o.Rodic = rodic;
-    o.Left = misto.Left;
-    o.Top = misto.Top;
-    o.Width = misto.Width;
-    o.Height = misto.Height;
+    Poloz(o, misto);
     ovladace_.push_back(&o);
 }
 

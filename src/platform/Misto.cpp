@@ -13,6 +13,13 @@ Obdelnik MistoFormu(const Form& f) {
     return {f.Maximised ? 0 : f.Left, f.Maximised ? 0 : f.Top, f.Width, f.Height};
 }
 
+void Poloz(Ovladac& o, const Obdelnik& kam) {
+    o.Left = kam.Left;
+    o.Top = kam.Top;
+    o.Width = kam.Width;
+    o.Height = kam.Height;
+}
+
 Bod Roh(const Ovladac* o) {
     Bod roh;
     for (; o != nullptr; o = o->Rodic) {

@@ -6,6 +6,8 @@ namespace rysovna {
 
 /// Where a form lies on the design area.
 [[nodiscard]] Obdelnik MistoFormu(const Form& f);
+/// Puts an object in a place of its parent.
+void Poloz(Ovladac& o, const Obdelnik& kam);
 /// Top left corner of an object on its form; of the form itself (null) {0, 0}.
 [[nodiscard]] Bod Roh(const Ovladac* o);
 /// Where an object lies on its form.

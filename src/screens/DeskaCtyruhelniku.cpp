@@ -1,5 +1,7 @@
 #include "screens/DeskaCtyruhelniku.h"
 
+#include "platform/Misto.h"
+
 namespace rysovna {
 
 namespace {
@@ -12,13 +14,6 @@ constexpr int JEDNOTKA_VLEVO = 191, JEDNOTKA_SIRKA = 32;
 
 // The assignment has a third row here.
 constexpr int VYZVA_NAHORE = 182, VYZVA_VYSKA = 70;
-
-void Poloz(Ovladac& o, const Obdelnik& kam) {
-    o.Left = kam.Left;
-    o.Top = kam.Top;
-    o.Width = kam.Width;
-    o.Height = kam.Height;
-}
 
 }  // namespace
 

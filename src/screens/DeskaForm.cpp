@@ -5,6 +5,7 @@
 #include "base/Cisla.h"
 #include "engine/Miry.h"
 #include "platform/Host.h"
+#include "platform/Misto.h"
 #include "platform/Paleta.h"
 #include "screens/Meritko.h"
 #include "screens/SelectForm.h"
@@ -68,10 +69,7 @@ void DeskaForm::RozlozOvladace() {
     Pridej(lblText1, "lblText1", {16, 168, 195, 80});
     Pridej(lblText2, "lblText2", {16, 256, 195, 18});
     PridejPole(cmd, "cmd", TLACITKA[0]);
-    for (std::size_t i = 0; i < cmd.size(); ++i) {
-        cmd[i].Left = TLACITKA[i].Left;
-        cmd[i].Top = TLACITKA[i].Top;
-    }
+    for (std::size_t i = 0; i < cmd.size(); ++i) Poloz(cmd[i], TLACITKA[i]);
     Pridej(lblText3, "lblText3", {16, 350, 205, 18});
     lblText3.WordWrap = false;
     Pridej(lblText4, "lblText4", {158, 374, 50, 18});
@@ -93,12 +91,7 @@ void DeskaForm::RozlozOvladace() {
     Pridej(HidenPic, "HidenPic", {180, 20, 45, 41});
     HidenPic.Visible = false;
     PridejPole(picSipka, "picSipka", SIPKY[0].Misto);
-    for (std::size_t i = 0; i < picSipka.size(); ++i) {
-        picSipka[i].Left = SIPKY[i].Misto.Left;
-        picSipka[i].Top = SIPKY[i].Misto.Top;
-        picSipka[i].Width = SIPKY[i].Misto.Width;
-        picSipka[i].Height = SIPKY[i].Misto.Height;
-    }
+    for (std::size_t i = 0; i < picSipka.size(); ++i) Poloz(picSipka[i], SIPKY[i].Misto);
     Pridej(picPokracuj, "picPokracuj", {526, 457, 94, 23});
     Pridej(MalaSipka, "MalaSipka", {622, 340, 18, 28});
     MalaSipka.Visible = false;

@@ -1,5 +1,7 @@
 #include "screens/TecnyForm.h"
 
+#include "platform/Misto.h"
+
 namespace rysovna {
 
 namespace {
@@ -11,10 +13,7 @@ constexpr int RADEK_DANYCH = 153, VYZVA_NAHORE = 178;  // px
 }  // namespace
 
 TecnyForm::TecnyForm(Sezeni& s, const RadekDesky& deska) : DeskaForm(s, deska) {
-    Label1.Left = MISTO_ZADANI.Left;
-    Label1.Top = MISTO_ZADANI.Top;
-    Label1.Width = MISTO_ZADANI.Width;
-    Label1.Height = MISTO_ZADANI.Height;
+    Poloz(Label1, MISTO_ZADANI);
     lblText1.Top = VYZVA_NAHORE;
 }
 
