@@ -15,12 +15,12 @@ for rozmer in "640 480" "1920 1080" "3840 2160"; do
     echo "== $sirka × $vyska"
     displej -fbdir "$prace"
     hra
-    klik 320 240 2
-    klik 150 166 0.4
-    klik 480 190 1.6
+    z_titulu 2
+    prvni_rodina
+    prvni_uloha 1.6
     xdotool type Jan
-    klik 145 267 1
-    klik 570 468 2
+    jeden_priklad
+    pokracuj 2
     for kam in "332 266" "631 354" "332 266" "631 354"; do
         # shellcheck disable=SC2086
         mys $kam

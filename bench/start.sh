@@ -32,11 +32,12 @@ obchuzka() {
     staging="$1"
     hra
     radek titul
-    klik 320 240 2; radek nabídka
-    klik 150 166 0.4; klik 480 190 1.6
+    z_titulu 2; radek nabídka
+    prvni_rodina
+    prvni_uloha 1.6
     xdotool type Jan
-    klik 145 267 1; radek nastavení
-    klik 570 468 1.5; radek deska
+    jeden_priklad; radek nastavení
+    pokracuj 1.5; radek deska
     klik 332 266 2.5; radek zasunuto
     klik 60 45 1.5; radek nápověda
     klik 320 400 1; klik 487 42 1.5; radek tabulka

@@ -4,8 +4,10 @@
 #include <benchmark/benchmark.h>
 #include <cmath>
 #include <cstdint>
+#include <numbers>
 
 #include "base/Cisla.h"
+#include "engine/Miry.h"
 #include "platform/Malir.h"
 #include "rules/Tahy.h"
 #include "zak/Los.h"
@@ -13,9 +15,7 @@
 namespace rysovna {
 namespace {
 
-constexpr double PI = 3.14159265358979323846;
 constexpr int POKUSU = 40;  // of each value
-constexpr int PIXELU_NA_CM = 8;
 constexpr Bod ROZMERY[] = {{640, 480}, {1366, 768}, {1920, 1080}};
 
 /// A hand: by so many pixels of the screen it errs on each axis, and then it moves by single ones
@@ -62,14 +62,14 @@ void Zasahy(benchmark::State& stav) {
         hrac::Los los(1);
         constexpr Bod VRCHOL{192, 167};
         for (int i = 0; i < POKUSU; ++i) {
-            const double smer = los.Mezi(0, 3599) * PI / 1800;
+            const double smer = los.Mezi(0, 3599) * std::numbers::pi / 1800;
             const auto misto = [&](double uhel, double r) {
                 return std::pair{VRCHOL.X + r * std::cos(uhel), VRCHOL.Y + r * std::sin(uhel)};
             };
             const auto [rx, ry] = misto(smer, 200);
             const Bod rameno{Zaokrouhli(rx), Zaokrouhli(ry)};
             for (int uhel = 5; uhel <= 175; ++uhel) {
-                const auto [x, y] = misto(smer + uhel * PI / 180, delka);
+                const auto [x, y] = misto(smer + uhel * std::numbers::pi / 180, delka);
                 ++uhlu;
                 stupnu += Trefi(ruka, s, los, x, y, [&](Bod b) {
                     return CisloZOdectu(OdectiUhel(VRCHOL, rameno, VRCHOL, b)) == uhel;

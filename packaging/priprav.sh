@@ -1,5 +1,5 @@
-# Sourced by ./run and ./test: what they share. Installs what a build needs, builds, and lists the
-# project's own sources.
+# Sourced by ./run and ./test: what they share. Installs what a build needs, builds, lists the project's
+# own sources and tells its version.
 
 # Debian's package names; installed with apt-get, as root or through sudo. Nothing is asked for
 # when nothing is missing.
@@ -51,6 +51,9 @@ zdroje() {
     [ -n "$seznam" ] || { echo "Nenašly se žádné zdroje: $*" >&2; return 1; }
     echo "$seznam"
 }
+
+# The program's version, which attempts and all homes bear.
+verze_programu() { sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt; }
 
 # sestav FOLDER [cmake options...]: configures and builds everything there, or what CILE names.
 sestav() {

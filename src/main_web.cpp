@@ -8,6 +8,7 @@
 #include <sstream>
 #include <string>
 
+#include "platform/Klavesnice.h"
 #include "platform/Obrazovky.h"
 #include "platform/web/Stranka.h"
 #include "platform/web/WebHost.h"
@@ -128,8 +129,15 @@ EMSCRIPTEN_KEEPALIVE void rys_mys(int druh, double x, double y, int tlacitko, in
 EMSCRIPTEN_KEEPALIVE void rys_prst(int druh, double x, double y, double cas) {
     Bezi()->Host_.Prst(druh, x, y, static_cast<std::uint32_t>(cas));
 }
-EMSCRIPTEN_KEEPALIVE void rys_klavesa(const char* jmeno, int shift, int dolu) {
-    Bezi()->Host_.Klavesa(jmeno, shift, dolu != 0);
+EMSCRIPTEN_KEEPALIVE void rys_klavesa(const char* jmeno, int shift, int opakovana) {
+    Bezi()->Host_.Klavesa(jmeno, shift, opakovana != 0);
+}
+EMSCRIPTEN_KEEPALIVE void rys_klavesa_nahoru(const char* jmeno) {
+    Bezi()->Host_.KlavesaNahoru(jmeno);
+}
+/// Whether the game has a use for a key with Ctrl; 0: it is the browser's.
+EMSCRIPTEN_KEEPALIVE int rys_plati_s_ctrl(const char* jmeno) {
+    return rysovna::PlatiSCtrl(jmeno) ? 1 : 0;
 }
 EMSCRIPTEN_KEEPALIVE void rys_pis(const char* text) {
     Bezi()->Host_.Pis(text);

@@ -9,14 +9,13 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <sys/mman.h>
-#include <sys/stat.h>
 #include <thread>
 #include <vector>
+
+#include "ObrazDispleje.h"
 
 namespace {
 
@@ -44,25 +43,13 @@ int main(int pocet, char** slova) {
     if (pocet != 5) return 2;
     const int sirka = std::atoi(slova[2]);
     const int vyska = std::atoi(slova[3]);
-    const int soubor = open(slova[1], O_RDONLY | O_CLOEXEC);
-    struct stat popis {};
-    if (soubor < 0 || fstat(soubor, &popis) != 0) return 1;
-    void* mapa =
-        mmap(nullptr, static_cast<std::size_t>(popis.st_size), PROT_READ, MAP_SHARED, soubor, 0);
-    if (mapa == MAP_FAILED) return 1;
-    const auto* bajty = static_cast<const std::uint8_t*>(mapa);
-    // The dump's header (XWD, big-endian words): its own length, bytes a row, number of colours.
-    const auto slovo = [bajty](int i) {
-        const std::uint8_t* p = bajty + i * 4;
-        return static_cast<std::size_t>(p[0]) << 24 | static_cast<std::size_t>(p[1]) << 16 |
-               static_cast<std::size_t>(p[2]) << 8 | p[3];
-    };
+    const auto displej = rysovna::testy::OtevriObraz(slova[1]);
+    if (!displej) return 1;
     const double s = std::min(sirka / 640.0, vyska / 480.0);
     const auto misto = [s](double navrh, int celkem, double navrhu) {
         return static_cast<std::size_t>((celkem - navrhu * s) / 2 + navrh * s);
     };
-    const std::uint8_t* radek =
-        bajty + slovo(0) + slovo(19) * 12 + misto(RADEK, vyska, 480) * slovo(12);
+    const std::uint8_t* radek = displej->Pixely + misto(RADEK, vyska, 480) * displej->Radek;
     const auto od = static_cast<std::ptrdiff_t>(misto(OD, sirka, 640) * 4);
     const auto po = static_cast<std::ptrdiff_t>(misto(PO, sirka, 640) * 4);
     const auto obraz = [&] { return std::vector<std::uint8_t>(radek + od, radek + po); };

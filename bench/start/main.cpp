@@ -9,18 +9,19 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <fcntl.h>
 #include <signal.h>
-#include <sys/mman.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
 
+#include "ObrazDispleje.h"
+
 namespace {
+
+using rysovna::testy::ObrazDispleje;
+using rysovna::testy::OtevriObraz;
 
 using Hodiny = std::chrono::steady_clock;
 
@@ -28,9 +29,9 @@ constexpr double NEJDELE = 5000;  // ms
 
 /// Whether the title is on the screen: its middle row has pixels of more than one colour. A black
 /// or a plain screen is not it yet.
-bool JeObraz(const std::uint8_t* pixely, int sirka, int vyska, std::size_t radek) {
+bool JeObraz(const ObrazDispleje& obraz, int sirka, int vyska) {
     const auto* r = reinterpret_cast<const std::uint32_t*>(
-        pixely + static_cast<std::size_t>(vyska / 2) * radek);
+        obraz.Pixely + static_cast<std::size_t>(vyska / 2) * obraz.Radek);
     int zmen = 0;
     for (int x = 1; x < sirka; ++x) zmen += r[x] != r[x - 1] ? 1 : 0;
     return zmen > 8;
@@ -59,21 +60,8 @@ int main(int pocet, char** slova) {
     const int sirka = std::atoi(slova[2]);
     const int vyska = std::atoi(slova[3]);
     const int behu = std::atoi(slova[4]);
-    const int soubor = open(slova[1], O_RDONLY | O_CLOEXEC);
-    struct stat popis {};
-    if (soubor < 0 || fstat(soubor, &popis) != 0) return 1;
-    const auto delka = static_cast<std::size_t>(popis.st_size);
-    const auto* mapa =
-        static_cast<const std::uint8_t*>(mmap(nullptr, delka, PROT_READ, MAP_SHARED, soubor, 0));
-    if (mapa == MAP_FAILED) return 1;
-    // The dump's header (XWD, big-endian words): its own length, bytes a row, number of colours.
-    const auto slovo = [mapa](int i) {
-        const std::uint8_t* p = mapa + i * 4;
-        return static_cast<std::size_t>(p[0]) << 24 | static_cast<std::size_t>(p[1]) << 16 |
-               static_cast<std::size_t>(p[2]) << 8 | p[3];
-    };
-    const std::size_t radek = slovo(12);
-    const std::uint8_t* pixely = mapa + slovo(0) + slovo(19) * 12;
+    const auto obraz = OtevriObraz(slova[1]);
+    if (!obraz) return 1;
 
     std::vector<Program> programy;
     for (int i = 5; i < pocet; i += 2)
@@ -81,7 +69,7 @@ int main(int pocet, char** slova) {
     // The first round warms the caches and is not counted.
     for (int kolo = 0; kolo <= behu; ++kolo) {
         for (Program& p : programy) {
-            while (JeObraz(pixely, sirka, vyska, radek))
+            while (JeObraz(*obraz, sirka, vyska))
                 std::this_thread::sleep_for(std::chrono::milliseconds(5));
             const auto zacatek = Hodiny::now();
             const pid_t dite = fork();
@@ -90,7 +78,7 @@ int main(int pocet, char** slova) {
                 _exit(127);
             }
             double ms = 0;
-            while (!JeObraz(pixely, sirka, vyska, radek) && ms < NEJDELE) {
+            while (!JeObraz(*obraz, sirka, vyska) && ms < NEJDELE) {
                 std::this_thread::sleep_for(std::chrono::microseconds(200));
                 ms = std::chrono::duration<double, std::milli>(Hodiny::now() - zacatek).count();
             }

@@ -1,5 +1,5 @@
-# Sourced: the package for Debian and Ubuntu, made of a staged copy. Byte for byte the same from the
-# same copy.
+# Sourced after priprav.sh: the package for Debian and Ubuntu, made of a staged copy. Byte for byte the
+# same from the same copy.
 
 # sestav_balik STAGING SHOW [VERSION]: leaves build/balik/rysovna_VERSION_ARCH.deb and its picture for
 # the page of shops, prints the package's name. SHOW is the program ukazka; without a version the
@@ -19,8 +19,7 @@ sestav_balik() (
         sed -i "1s/([^)]*)/($3)/" "$prace/debian/changelog"
     fi
     verze="$(dpkg-parsechangelog -l "$prace/debian/changelog" -S Version)"
-    # Attempts and the other homes bear the program's own.
-    programu="$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)"
+    programu="$(verze_programu)"
     if [ -z "${3:-}" ] && [ "$verze" != "$programu" ]; then
         echo "V $zdroj/changelog je verze $verze, v CMakeLists.txt $programu." >&2
         exit 1

@@ -1,16 +1,16 @@
-// The page of the game: loads program and data, gives the program what it wants of a machine, and
-// does what the page itself offers. ?seminko=7 draws the same examples at each start, ?kontrola is
-// the check before a lesson, ?prehraj=NAME shows an attempt that the browser keeps.
+// The page of the game: starts the program and gives it what it wants of a machine. ?seminko=7 draws
+// the same examples at each start, ?kontrola is the check before a lesson, ?prehraj=NAME shows an
+// attempt that the browser keeps.
 
+import { celaObrazovka, ozivListu, oznam, podej } from "./lista.js";
+import { nactiHru } from "./nacteni.js";
 import { poprve, Uloziste } from "./uloziste.js";
 import { poslouchej } from "./vstup.js";
 import { POKUSY, UCET, Vysledky } from "./vysledky.js";
-import { zabalZip } from "./zip.js";
+import { jedina } from "./zamek.js";
 import { neniZvuk, zahraj } from "./zvuk.js";
 
-const STAV = "/stav", HRA = "/hra";
-const ZAMEK = "rysovna-hraje";
-const NEJDELE_ODCHAZI = 1500; // ms: that the page before in the same tab may keep the lock
+const STAV = "/stav";
 
 const $ = (jmeno) => document.getElementById(jmeno);
 const volby = new URLSearchParams(location.search);
@@ -29,124 +29,15 @@ function zprava(titul, text, tlacitko, pak) {
   if (tlacitko) $("zprava-tlacitko").focus();
 }
 
+// How much has been loaded, 0 to 1.
+function prubeh(podil) {
+  $("prubeh").value = podil;
+  $("zprava-text").textContent = `${Math.round(podil * 100)} %`;
+}
+
 const bezZpravy = () => {
   $("zprava").hidden = true;
 };
-
-// A line in the bar, until it is read.
-function oznam(text) {
-  $("oznam").textContent = text;
-  $("prehraj").hidden = true;
-  $("zavri-oznam").hidden = text === "";
-}
-
-/* ---- Loading */
-
-// Bytes of a packed file; podil is told how much of it has come, 0 to 1.
-async function stahni(soubor, podil) {
-  const odpoved = await fetch(soubor);
-  if (!odpoved.ok) throw new Error(`${soubor}: ${odpoved.status}`);
-  const celkem = Number(odpoved.headers.get("Content-Length")) || 0;
-  let mame = 0;
-  const pocitej = new TransformStream({
-    transform(kus, dal) {
-      mame += kus.length;
-      if (celkem > 0) podil(Math.min(mame / celkem, 1));
-      dal.enqueue(kus);
-    },
-  });
-  return odpoved.body.pipeThrough(pocitej).pipeThrough(new DecompressionStream("gzip"));
-}
-
-async function nactiHru(stranka) {
-  const podily = { "hra.bin": 0, "data.bin": 0 };
-  const podil = (soubor) => (kolik) => {
-    podily[soubor] = kolik;
-    const vse = Object.values(podily).reduce((a, b) => a + b) / 2;
-    $("prubeh").value = vse;
-    $("zprava-text").textContent = `${Math.round(vse * 100)} %`;
-  };
-  const [{ default: Rysovna }, program, data] = await Promise.all([
-    import("./rysovna.js"),
-    stahni("hra.bin", podil("hra.bin")).then((proud) =>
-      WebAssembly.compileStreaming(
-        new Response(proud, { headers: { "Content-Type": "application/wasm" } }))),
-    stahni("data.bin", podil("data.bin")).then((proud) => new Response(proud).arrayBuffer()),
-  ]);
-  const modul = await Rysovna({
-    stranka,
-    instantiateWasm(dovozy, hotovo) {
-      WebAssembly.instantiate(program, dovozy).then((instance) => hotovo(instance, program));
-      return {};
-    },
-    printErr: (text) => console.warn(text),
-  });
-  rozbalData(modul.FS, new Uint8Array(data));
-  await nactiNastaveni(modul.FS);
-  return modul;
-}
-
-// The configuration as it stands beside the page; where the server keeps it back, as it was built.
-async function nactiNastaveni(FS) {
-  try {
-    const odpoved = await fetch("Rysovna.ini");
-    const text = odpoved.ok ? await odpoved.text() : "";
-    if (text.includes("[RYSOVNA1]")) FS.writeFile(`${HRA}/Rysovna.ini`, text);
-  } catch {
-    // Without a connection, and not kept.
-  }
-}
-
-// The data file: length of the list (32 bits, little-endian), the list as JSON, the files.
-function rozbalData(FS, data) {
-  const delka = new DataView(data.buffer).getUint32(0, true);
-  const seznam = JSON.parse(new TextDecoder().decode(data.subarray(4, 4 + delka)));
-  let misto = 4 + delka;
-  for (const [jmeno, bajtu] of seznam) {
-    const cesta = `${HRA}/${jmeno}`;
-    FS.mkdirTree(cesta.slice(0, cesta.lastIndexOf("/")));
-    FS.writeFile(cesta, data.subarray(misto, misto + bajtu));
-    misto += bajtu;
-  }
-}
-
-/* ---- One tab plays */
-
-// Over plain http there are no locks of the browser: a new tab asks, the playing one answers.
-function jedinaBezZamku() {
-  let kanal;
-  try {
-    kanal = new BroadcastChannel(ZAMEK);
-  } catch {
-    return Promise.resolve(true); // none, or forbidden with all else that pages keep
-  }
-  return new Promise((hotovo) => {
-    const cekani = setTimeout(() => {
-      kanal.onmessage = (e) => {
-        if (e.data === "hraje nekdo?") kanal.postMessage("hraju");
-      };
-      hotovo(true);
-    }, 400);
-    kanal.onmessage = (e) => {
-      if (e.data !== "hraju") return;
-      clearTimeout(cekani);
-      kanal.close();
-      hotovo(false);
-    };
-    kanal.postMessage("hraje nekdo?");
-  });
-}
-
-// Resolves to true when this tab has the game, false when another one has it.
-function jedina() {
-  if (!navigator.locks) return jedinaBezZamku();
-  return new Promise((hotovo) => {
-    navigator.locks.request(ZAMEK, { signal: AbortSignal.timeout(NEJDELE_ODCHAZI) }, () => {
-      hotovo(true);
-      return new Promise(() => {});
-    }).catch((chyba) => hotovo(chyba.name === "TimeoutError" ? false : jedinaBezZamku()));
-  });
-}
 
 /* ---- The game */
 
@@ -253,7 +144,7 @@ class Stranka {
   };
 
   async nacti() {
-    const [ukladame, modul] = await Promise.all([this.uloziste.otevri(), nactiHru(this)]);
+    const [ukladame, modul] = await Promise.all([this.uloziste.otevri(), nactiHru(this, prubeh)]);
     this.modul = modul;
     const { FS } = this.modul;
     for (const slozka of [UCET, POKUSY, `${STAV}/fronta`]) FS.mkdirTree(slozka);
@@ -268,7 +159,10 @@ class Stranka {
     const m = this.modul;
     const hra = {
       rys_mys: m._rys_mys, rys_prst: m._rys_prst, rys_navrat: m._rys_navrat,
-      rys_klavesa: (jmeno, shift, dolu) => this.sTextem(jmeno, (t) => m._rys_klavesa(t, shift, dolu)),
+      rys_klavesa: (jmeno, shift, opakovana) =>
+        this.sTextem(jmeno, (t) => m._rys_klavesa(t, shift, opakovana)),
+      rys_klavesa_nahoru: (jmeno) => this.sTextem(jmeno, m._rys_klavesa_nahoru),
+      rys_plati_s_ctrl: (jmeno) => this.sTextem(jmeno, m._rys_plati_s_ctrl),
       rys_pis: (text) => this.sTextem(text, m._rys_pis),
       rys_vloz: (text) => this.sTextem(text, m._rys_vloz),
       schranka: () => this.text(m._rys_schranka()),
@@ -289,71 +183,6 @@ class Stranka {
     new ResizeObserver(() => this.prizpusob()).observe($("hriste"));
     this.tah();
   }
-}
-
-// Gives the person a file, among the downloaded ones.
-function podej(jmeno, obsah) {
-  const odkaz = document.createElement("a");
-  odkaz.href = URL.createObjectURL(obsah);
-  odkaz.download = jmeno;
-  odkaz.click();
-  setTimeout(() => URL.revokeObjectURL(odkaz.href), 10_000);
-}
-
-function celaObrazovka() {
-  if (document.fullscreenElement) document.exitFullscreen();
-  else $("hriste").requestFullscreen?.({ navigationUI: "hide" });
-}
-
-function ozivListu(stranka) {
-  $("cela").hidden = !document.fullscreenEnabled;
-  $("cela").onclick = celaObrazovka;
-  const soubor = (co, pripona) => {
-    const d = new Date(); // as the clock on the wall says, where an ISO date would be Greenwich's
-    const dve = (n) => String(n).padStart(2, "0");
-    const den = `${d.getFullYear()}-${dve(d.getMonth() + 1)}-${dve(d.getDate())}`;
-    return `rysovna-${co}-${den}.${pripona}`;
-  };
-  $("uloz").onclick = () => {
-    podej(soubor("vysledky", "json"),
-      new Blob([stranka.vysledky.doSouboru()], { type: "application/json" }));
-    oznam("Výsledky i záznamy pokusů jsou ve stažených souborech.");
-  };
-  $("uloz-pokusy").onclick = () => {
-    const pokusy = stranka.vysledky.pokusy();
-    if (pokusy.length > 0) podej(soubor("pokusy", "zip"), zabalZip(pokusy, new Date()));
-    oznam(pokusy.length > 0 ? "Záznamy pokusů jsou ve stažených souborech."
-      : "Žádné záznamy pokusů tu zatím nejsou.");
-  };
-  $("nacti").onclick = () => $("soubor").click();
-  $("soubor").onchange = async () => {
-    const soubory = [...$("soubor").files];
-    const pokusy = [], texty = [];
-    for (const soubor of soubory) {
-      if (soubor.name.endsWith(".pokus"))
-        pokusy.push([soubor.name, new Uint8Array(await soubor.arrayBuffer())]);
-      else texty.push(await soubor.text());
-    }
-    $("soubor").value = "";
-    const hlaseni = [];
-    for (const text of texty) hlaseni.push(await stranka.vysledky.pridej(text));
-    let prehrat = "";
-    if (pokusy.length > 0) {
-      const [text, jmeno] = await stranka.vysledky.pridejPokusy(pokusy);
-      hlaseni.push(text);
-      prehrat = jmeno;
-    }
-    oznam(hlaseni.join(" "));
-    if (!prehrat) return;
-    $("prehraj").hidden = false;
-    $("prehraj").onclick = () =>
-      location.assign(`${location.pathname}?prehraj=${encodeURIComponent(prehrat)}`);
-    $("prehraj").focus();
-  };
-  $("zavri-oznam").onclick = () => {
-    oznam("");
-    $("platno").focus();
-  };
 }
 
 /* ---- Start */

@@ -11,9 +11,8 @@ const KLAVESY = {
   End: "End", Tab: "Tab", Backspace: "BackSpace", Delete: "Delete", Enter: "Return",
   Escape: "Escape", " ": "Space", F1: "F1",
 };
-// Letters that mean something with Ctrl; copying and pasting come as events of their own.
-const POVELY = ["a", "p"];
-const SIPKY = ["Left", "Right", "Up", "Down"];
+// Letters of copying, cutting and pasting, which come as events of their own.
+const SCHRANKA = ["c", "v", "x"];
 const TLACITKA = [1, 4, 2]; // by the page's number: left, middle, right
 
 // hra: the calls of the program; ted(): a turn now; vSnimku(): one with the next frame.
@@ -88,24 +87,18 @@ export function poslouchej(platno, pole, lista, hra, ted, vSnimku, celaObrazovka
       return;
     }
     const drzeno = modifikatory(e);
-    if (drzeno & CTRL) {
-      if (!POVELY.includes(e.key.toLowerCase()) && !SIPKY.includes(KLAVESY[e.key])) return;
-      e.preventDefault();
-      if (e.repeat && e.key.toLowerCase() === "p") return;
-    }
+    const ctrl = (drzeno & CTRL) !== 0;
     const jmeno = jmenoKlavesy(e);
     if (!jmeno || (jmeno === "Delete" && drzeno === SHIFT)) return;
-    const edituje = pise && !["Tab", "F1", "Escape", "Return"].includes(jmeno);
-    if (KLAVESY[e.key] && !(pise && jmeno === "Space")) e.preventDefault();
-    if (e.repeat && !SIPKY.includes(jmeno) && !edituje) return;
-    if (jmeno.length === 1 && drzeno > SHIFT && !POVELY.includes(jmeno)) return;
-    hra.rys_klavesa(jmeno, drzeno, 1);
+    if (ctrl && (SCHRANKA.includes(jmeno) || !hra.rys_plati_s_ctrl(jmeno))) return;
+    if (ctrl || (KLAVESY[e.key] && !(pise && jmeno === "Space"))) e.preventDefault();
+    hra.rys_klavesa(jmeno, drzeno, e.repeat);
     ted();
   });
   document.addEventListener("keyup", (e) => {
     const jmeno = KLAVESY[e.key];
     if (jmeno !== "Return" && jmeno !== "Space") return;
-    hra.rys_klavesa(jmeno, 0, 0);
+    hra.rys_klavesa_nahoru(jmeno);
     ted();
   });
 
@@ -118,7 +111,7 @@ export function poslouchej(platno, pole, lista, hra, ted, vSnimku, celaObrazovka
     const smazano = !pole.value.includes(ZARAZKA);
     vyprazdni();
     if (smazano && text === "") {
-      hra.rys_klavesa("BackSpace", 0, 1);
+      hra.rys_klavesa("BackSpace", 0, false);
     } else if (text !== "") {
       hra.rys_pis(text);
     }
@@ -140,7 +133,7 @@ export function poslouchej(platno, pole, lista, hra, ted, vSnimku, celaObrazovka
   for (const [udalost, klavesa] of [["copy", "c"], ["cut", "x"]]) {
     document.addEventListener(udalost, (e) => {
       if (!naHre()) return;
-      hra.rys_klavesa(klavesa, CTRL, 1);
+      hra.rys_klavesa(klavesa, CTRL, false);
       ted();
       e.clipboardData.setData("text/plain", hra.schranka());
       e.preventDefault();

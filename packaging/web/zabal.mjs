@@ -30,8 +30,9 @@ const pis = (jmeno, data) => fs.writeFileSync(path.join(kam, jmeno), data);
 pis("data.bin", sbal(Buffer.concat([delka, seznam, ...obsah.map(([, bajty]) => bajty)])));
 pis("hra.bin", sbal(fs.readFileSync(path.join(program, "rysovna.wasm"))));
 pis("rysovna.js", fs.readFileSync(path.join(program, "rysovna.js")));
-const stranka = ["index.html", "styl.css", "zacatek.js", "stranka.js", "uloziste.js", "vstup.js",
-  "vysledky.js", "zip.js", "zvuk.js", "Rysovna.ini", "manifest.webmanifest"];
+const stranka = ["index.html", "styl.css", "zacatek.js", "stranka.js", "lista.js", "nacteni.js",
+  "uloziste.js", "vstup.js", "vysledky.js", "zamek.js", "zip.js", "zvuk.js", "Rysovna.ini",
+  "manifest.webmanifest"];
 pis("ikona.svg", fs.readFileSync(path.join(program, "ikona.svg")));
 for (const jmeno of stranka) pis(jmeno, fs.readFileSync(path.join(zdroje, jmeno)));
 

@@ -28,7 +28,7 @@ vydani_windows() {
     hotove="$1"
     kam="build/windows/vydani"
     slozka="$kam/Rysovna"
-    verze="$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)"
+    verze="$(verze_programu)"
     rm -rf "$kam"
     mkdir -p "$slozka/data"
     cp build/windows/staging/rysovna.exe build/windows/staging/kodovani.exe build/windows/staging/prehled.exe \

@@ -95,6 +95,11 @@ std::optional<Bod> SmerSipky(std::string_view klavesa) {
     return std::nullopt;
 }
 
+bool PlatiSCtrl(std::string_view klavesa) {
+    constexpr std::string_view NA_PAPIR = "p";
+    return klavesa == NA_PAPIR || SmerSipky(klavesa) || PsaniTextu::Bere(klavesa, CTRL);
+}
+
 // ---- The ring --------------------------------------------------------------------------------
 
 std::optional<Obrazovky::Prsten> Obrazovky::PrstenVpredu() const {

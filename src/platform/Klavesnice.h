@@ -30,6 +30,9 @@ namespace rysovna {
 [[nodiscard]] Ovladac* MistoPrstenu(Form& form);
 /// The step of an arrow, one pixel; none for another key.
 [[nodiscard]] std::optional<Bod> SmerSipky(std::string_view klavesa);
+/// With Ctrl a key is the desktop's or the browser's, but for these: what edits a text, arrows, and
+/// the command that forms have.
+[[nodiscard]] bool PlatiSCtrl(std::string_view klavesa);
 /// A letter or a digit: a key of one character.
 [[nodiscard]] inline bool JeZnak(std::string_view klavesa) {
     return klavesa.size() == 1;

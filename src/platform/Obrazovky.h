@@ -125,8 +125,9 @@ public:
     /// A key goes down, by its name: "Left", "Right", "Up", "Down", "Home", "End", "BackSpace",
     /// "Delete", "Return", "Escape", "Tab", "Space", "F1", a letter ("a" to "z"; with ctrl "a",
     /// "c", "v", "x" edit a text box), a digit by its place on the keyboard ("1" to "9"). shift:
-    /// SHIFT, CTRL. What a key types comes as Text besides. See Klavesnice.h for what keys do.
-    void Klavesa(std::string_view jmeno, int shift);
+    /// SHIFT, CTRL. opakovana: it has been down, and comes again because it is held. What a key
+    /// types comes as Text besides. See Klavesnice.h for what keys do.
+    void Klavesa(std::string_view jmeno, int shift, bool opakovana = false);
     /// "Space" or "Return" went up again.
     void KlavesaNahoru(std::string_view jmeno);
 
@@ -209,6 +210,8 @@ private:
     [[nodiscard]] Zasobnik& Prace();
     Cinnost<> Tik(DrzenyForm form, std::shared_ptr<Timer> t);
     // ObrazovkyVstup.cpp
+    /// Whether a key edits the text that is being typed.
+    [[nodiscard]] bool Upravuje(std::string_view jmeno, int shift) const;
     void Prijmi(const Vstup& vstup);
     void Odloz(const Vstup& vstup);
     Cinnost<> Doruc(const Vstup& vstup);

@@ -159,7 +159,9 @@ void Obrazovky::Text(std::string_view utf8) {
     Prijmi({.Co = Vstup::Druh::Text, .Cas = {}, .Text = std::string(utf8)});
 }
 
-void Obrazovky::Klavesa(std::string_view jmeno, int shift) {
+void Obrazovky::Klavesa(std::string_view jmeno, int shift, bool opakovana) {
+    // One press leads through one screen only. What edits a text is repeated, and arrows are.
+    if (opakovana && !SmerSipky(jmeno) && !Upravuje(jmeno, shift)) return;
     Prijmi({.Co = Vstup::Druh::Klavesa, .Shift = shift, .Cas = {}, .Text = std::string(jmeno)});
 }
 
@@ -173,6 +175,10 @@ void Obrazovky::ZadostOZavreni() {
 
 void Obrazovky::Navrat() {
     Prijmi({.Co = Vstup::Druh::Navrat, .Cas = {}, .Text = {}});
+}
+
+bool Obrazovky::Upravuje(std::string_view jmeno, int shift) const {
+    return Psane() != nullptr && PsaniTextu::Bere(jmeno, shift);
 }
 
 void Obrazovky::Prijmi(const Vstup& vstup) {
@@ -220,7 +226,7 @@ void Obrazovky::Odloz(const Vstup& vstup) {
         // A press too, unless it edits a text.
         const Formular form = v.Cilovy();
         const bool vzdy = form != nullptr && form->StiskVzdy;
-        if (!vzdy && (Psane() == nullptr || !PsaniTextu::Bere(vstup.Text, vstup.Shift))) return;
+        if (!vzdy && !Upravuje(vstup.Text, vstup.Shift)) return;
     } else if (vstup.Co == Vstup::Druh::Navrat) {
         return;  // a press too, only beside the picture
     } else if (vstup.Co == Vstup::Druh::Pohyb) {

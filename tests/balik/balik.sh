@@ -8,6 +8,7 @@ umask 022
 sestaveni="$1"
 shift
 selhani() { echo "SELHALO: $*" >&2; exit 1; }
+. packaging/priprav.sh
 . packaging/balik/balik.sh
 
 balik="$(sestav_balik "$sestaveni/staging" "$sestaveni/ukazka")"

@@ -33,15 +33,15 @@ zni() {
 
 export SDL_AUDIODRIVER=dummy
 spust
-klik 320 240 1.6
-klik 150 166 0.4
+z_titulu 1.6
+prvni_rodina
 zni
 klid nabídka 0 0
-klik 480 190 1
+prvni_uloha 1
 xdotool type --delay 40 Jan
 klid nastavení 7 24
-klik 145 267 1
-klik 570 468 1
+jeden_priklad
+pokracuj 1
 klid deska 0 0
 klik 487 42 0.4
 zni

@@ -34,14 +34,14 @@ if [ -z "${HRA_JINDE:-}" ]; then
 fi
 spust
 fotka titul
-klik 320 240 1.6
+z_titulu 1.6
 fotka nabidka
-klik 150 166 0.4
-klik 480 190 1.6  # the name is typed into what is there
+prvni_rodina
+prvni_uloha 1.6
 napis_jmeno "$jmeno"
-klik 145 267 1
+jeden_priklad
 fotka nastaveni
-klik 570 468 1
+pokracuj 1
 fotka deska
 
 # All three sides marked on the sketch, the panel pushed away.
@@ -75,7 +75,7 @@ if [ -z "${HRA_JINDE:-}" ]; then
     grep -q '^file:///.*/Moje%20dokumenty/Rysovna%20%C5%BDofie%20' "$prace/ukazano" ||
         selhani "papír se neukázal"
 fi
-klik 570 468 1
+pokracuj 1
 fotka tabulka
 
 vypis="$(log)"

@@ -24,6 +24,12 @@ na_obrazovku() {
 mys() { xdotool mousemove $(na_obrazovku "$1" "$2"); sleep 0.05; }
 # klik X Y [SECONDS]: a click, and a while for what comes of it.
 klik() { mys "$1" "$2"; xdotool click 1; sleep "${3:-0.2}"; }
+# The way from the title to a board, a press each, with klik's while where it is not always the same.
+z_titulu() { klik 320 240 "$1"; }
+prvni_rodina() { klik 150 166 0.4; }
+prvni_uloha() { klik 480 190 "$1"; }  # what is typed then is the name
+jeden_priklad() { klik 145 267 1; }
+pokracuj() { klik 570 468 "$1"; }
 fotka() { [ -z "$obrazky" ] || { mkdir -p "$obrazky"; import -window root "$obrazky/${sirka}_$1.png"; }; }
 
 # Types a name into the box that has the keyboard, until it looks the same twice. A letter that the

@@ -3,6 +3,7 @@
 #include <limits>
 #include <string>
 
+#include "platform/Klavesnice.h"
 #include "platform/Obrazovky.h"
 #include "platform/sdl/Okno.h"
 
@@ -41,15 +42,15 @@ std::string ZnakKlavesy(const SDL_Keysym& k) {
     return {};
 }
 
-/// Key and modifiers of a command, as the letter with ctrl that means the same.
+/// Key and modifiers of a command that is no letter, as the letter with ctrl that means the same.
 constexpr struct {
     SDL_Keycode Kod;
     int Drzeno;
     const char* Jmeno;
 } POVELY[] = {
-    {SDLK_a, CTRL, "a"},       {SDLK_c, CTRL, "c"},       {SDLK_v, CTRL, "v"},
-    {SDLK_x, CTRL, "x"},       {SDLK_p, CTRL, "p"},       {SDLK_INSERT, CTRL, "c"},
-    {SDLK_INSERT, SHIFT, "v"}, {SDLK_DELETE, SHIFT, "x"},
+    {SDLK_INSERT, CTRL, "c"},
+    {SDLK_INSERT, SHIFT, "v"},
+    {SDLK_DELETE, SHIFT, "x"},
 };
 
 /// Buttons by SDL's number and as the screens count them.
@@ -154,26 +155,22 @@ void VstupSdl::Klavesa(const SDL_KeyboardEvent& k) {
         if (kod == SDLK_SPACE) okna_.KlavesaNahoru("Space");
         return;
     }
-    // One press leads through one screen only. What edits a text is repeated, and arrows are.
-    const bool sipka = kod == SDLK_LEFT || kod == SDLK_RIGHT || kod == SDLK_UP || kod == SDLK_DOWN;
-    const bool tisk = kod == SDLK_p && drzeno == CTRL;
-    const bool psani = okna_.Psane() != nullptr && kod != SDLK_TAB && kod != SDLK_F1 &&
-                       kod != SDLK_ESCAPE && !enter && !tisk;
-    if (k.repeat != 0 && !sipka && !psani) return;
+    const bool opakovana = k.repeat != 0;
     for (const auto& p : POVELY) {
         if (p.Kod != kod || p.Drzeno != drzeno) continue;
-        okna_.Klavesa(p.Jmeno, CTRL);
+        okna_.Klavesa(p.Jmeno, CTRL, opakovana);
         return;
     }
     // With Alt they belong to the desktop.
     if ((drzeno & ALT) != 0) return;
     for (const auto& p : KLAVESY) {
         if (p.Kod != kod) continue;
-        okna_.Klavesa(p.Jmeno, drzeno & (SHIFT | CTRL));
+        okna_.Klavesa(p.Jmeno, drzeno & (SHIFT | CTRL), opakovana);
         return;
     }
     const std::string znak = ZnakKlavesy(k.keysym);
-    if (!znak.empty() && drzeno <= SHIFT) okna_.Klavesa(znak, drzeno);
+    if (!znak.empty() && (drzeno <= SHIFT || (drzeno == CTRL && PlatiSCtrl(znak))))
+        okna_.Klavesa(znak, drzeno, opakovana);
 }
 
 void VstupSdl::Stisk(const SDL_MouseButtonEvent& b) {

@@ -91,14 +91,14 @@ void WebHost::Prst(int druh, double x, double y, std::uint32_t cas) {
     });
 }
 
-void WebHost::Klavesa(std::string jmeno, int shift, bool dolu) {
-    vstupy_.emplace_back([this, jmeno = std::move(jmeno), shift, dolu] {
-        if (dolu) {
-            Okna().Klavesa(jmeno, shift);
-        } else {
-            Okna().KlavesaNahoru(jmeno);
-        }
+void WebHost::Klavesa(std::string jmeno, int shift, bool opakovana) {
+    vstupy_.emplace_back([this, jmeno = std::move(jmeno), shift, opakovana] {
+        Okna().Klavesa(jmeno, shift, opakovana);
     });
+}
+
+void WebHost::KlavesaNahoru(std::string jmeno) {
+    vstupy_.emplace_back([this, jmeno = std::move(jmeno)] { Okna().KlavesaNahoru(jmeno); });
 }
 
 void WebHost::Pis(std::string utf8) {

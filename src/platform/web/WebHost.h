@@ -27,7 +27,8 @@ public:
     void Rozmer(int sirka, int vyska);
     void Mys(int druh, double x, double y, int tlacitko, int shift, std::uint32_t cas);
     void Prst(int druh, double x, double y, std::uint32_t cas);
-    void Klavesa(std::string jmeno, int shift, bool dolu);
+    void Klavesa(std::string jmeno, int shift, bool opakovana);
+    void KlavesaNahoru(std::string jmeno);
     void Pis(std::string utf8);
     /// Text from outside; and what copying puts there: the text, for the page to hand on.
     void Vloz(std::string text);
