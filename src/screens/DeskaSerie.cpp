@@ -8,6 +8,7 @@
 #include "rules/Znamka.h"
 #include "screens/ChybovyForm.h"
 #include "screens/DeskaForm.h"
+#include "screens/SelectForm.h"
 #include "screens/SlovaObrazovek.h"
 #include "screens/TabulkaForm.h"
 #include "store/Ukladani.h"
@@ -50,8 +51,8 @@ Cinnost<> DeskaForm::Zkontroluj() {
     co_await Cekani(PO_VERDIKTU);
     picPokracuj.Enabled = true;
     const int priklad = zbyvaPrikladu_;
-    co_await Roluj({shared_from_this(), &picPokracuj},
-                   [this, priklad] { return zbyvaPrikladu_ == priklad; });
+    co_await Menu(s_).Roluj({shared_from_this(), &picPokracuj},
+                            [this, priklad] { return zbyvaPrikladu_ == priklad; });
 }
 
 Cinnost<> DeskaForm::Pokracuj() {

@@ -18,6 +18,7 @@ namespace {
 constexpr std::uint8_t HOVER_LI = 1;  // the first of five
 constexpr std::uint8_t HOVER_RI = 6;  // the first of six
 constexpr int BUNEK_PASU = 23;
+constexpr std::uint32_t BUNKA_MS = 20;
 constexpr float PISMO_PRACE = 8.0F;  // points
 
 }  // namespace
@@ -63,6 +64,14 @@ void SelectForm::NactiObrazky() {
     }
     OdzvolVse(LI, leve_);
     for (Image& ri : RI) ri.Tag = "0";
+}
+
+Cinnost<> SelectForm::Roluj(std::shared_ptr<PictureBox> kam, std::function<bool()> dal) {
+    for (int i = 0; i < PicClip.Cols; ++i) {
+        kam->Picture = PicClip.GraphicCell(i);
+        co_await Cekani(BUNKA_MS);
+        if (!dal()) co_return;
+    }
 }
 
 void SelectForm::Unload() {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <functional>
+#include <memory>
 
 #include "screens/FormHry.h"
 #include "screens/Hover.h"
@@ -24,6 +26,11 @@ public:
     PictureBox Pozadi, Kopie, Vysledek, Kopie2;
     /// The roll-in of the continue button: one row of 23 cells.
     PictureClip PicClip;
+
+    /// Rolls the continue button in, 20 ms a cell, in a picture box of another screen. The caller
+    /// sets what says that the button is up before. Stops touching the box when dal (asked after
+    /// each cell) says no: a handler that ran during the waits may have taken the button back.
+    Cinnost<> Roluj(std::shared_ptr<PictureBox> kam, std::function<bool()> dal);
 
     /// The start-up: the configuration, what waits to be stored, the switch of the screen, the
     /// title. Start.cpp

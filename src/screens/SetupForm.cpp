@@ -106,8 +106,8 @@ Cinnost<> SetupForm::Kontrola() {
     pokracujNahore_ = true;
     picPokracuj.Visible = true;
     const unsigned moje = ++rolovani_;
-    return Roluj({shared_from_this(), &picPokracuj},
-                 [this, moje] { return pokracujNahore_ && rolovani_ == moje; });
+    return Menu(s_).Roluj({shared_from_this(), &picPokracuj},
+                          [this, moje] { return pokracujNahore_ && rolovani_ == moje; });
 }
 
 void SetupForm::Change(TextBox& /*t*/) {
