@@ -105,11 +105,4 @@ std::string PopisKroku(const Volani& v, const Panel& p, const Dialog& dialog) {
     return {};
 }
 
-std::string TextDoby(std::uint32_t ms) {
-    constexpr std::uint32_t SEKUNDA = 1000, MINUTA = 60;
-    const std::uint32_t s = (ms + SEKUNDA / 2) / SEKUNDA;
-    const auto text = [](std::uint32_t n) { return std::to_string(n); };
-    return (s >= MINUTA ? text(s / MINUTA) + " min " : "") + text(s % MINUTA) + " s";
-}
-
 }  // namespace rysovna

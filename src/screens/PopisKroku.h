@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "rules/Dialog.h"
@@ -12,8 +11,5 @@ namespace rysovna {
 /// úsečka AB, |AB| = 15 cm". predtim: the dialogue's panel before it; dialog: whose sketch it is.
 [[nodiscard]] std::string PopisKroku(const Volani& volani, const Panel& predtim,
                                      const Dialog& dialog);
-
-/// "3 min 5 s", "12 s".
-[[nodiscard]] std::string TextDoby(std::uint32_t ms);
 
 }  // namespace rysovna

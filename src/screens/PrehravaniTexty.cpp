@@ -1,6 +1,7 @@
 // A watched attempt in words: the two rows of the strip, the card.
 
 #include <algorithm>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,14 @@ constexpr std::string_view PREDVEDENI = "Předvedení";
 
 std::string Cislo(int n) {
     return TextBezMezery(n);
+}
+
+/// "3 min 5 s", "12 s".
+std::string TextDoby(std::uint32_t ms) {
+    constexpr std::uint32_t SEKUNDA = 1000, MINUTA = 60;
+    const std::uint32_t s = (ms + SEKUNDA / 2) / SEKUNDA;
+    const auto text = [](std::uint32_t n) { return std::to_string(n); };
+    return (s >= MINUTA ? text(s / MINUTA) + " min " : "") + text(s % MINUTA) + " s";
 }
 
 }  // namespace
