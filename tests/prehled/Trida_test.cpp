@@ -13,6 +13,7 @@
 #include "base/Chyba.h"
 #include "prehled/Sestaveni.h"
 #include "prehled/Smazani.h"
+#include "prehled/TabulkaZaku.h"
 #include "prehled/TabulkyCsv.h"
 #include "store/RadkySouboru.h"
 #include "store/TextPokusu.h"
@@ -127,7 +128,7 @@ protected:
         const StavRejstriku stav = Obnov(*rejstrik, sber, hlaseni);
         TabulkyCsv tabulky(serie, chyby);
         Vysledek v{
-            .Co = Sestav(*rejstrik, stav, sber, RozdeleniZaku(tabulka, PoctyJmen(stav, false)),
+            .Co = Sestav(*rejstrik, stav, sber, RozdeleniZaku(tabulka, stav.PoctyJmen(false)),
                          Znamkovani(), volby, tabulky),
             .Novych = stav.Novych};
         v.Serie = BezNadpisu(serie.str());
@@ -259,7 +260,7 @@ TEST_F(Trida, OdstraniZakaAJenJehoAzPoOdpovedi) {
         std::istringstream vstup(odpoved);
         const Sber sber = Najdi(vsude);
         const StavRejstriku stav = Obnov(*rejstrik, sber, hlaseni);
-        const RozdeleniZaku zaci({}, PoctyJmen(stav, true));
+        const RozdeleniZaku zaci({}, stav.PoctyJmen(true));
         const bool hotovo = SmazZaka({.Smazat = "ZOFIE RERICHOVA " + std::to_string(zak)}, sber,
                                      stav, zaci, *rejstrik, vstup, kam);
         receno = kam.str();

@@ -72,6 +72,15 @@ void Soubezne(std::size_t pocet, F co) {
 
 }  // namespace
 
+std::map<std::string, int> StavRejstriku::PoctyJmen(bool iVadne) const {
+    std::map<std::string, int> pocty;
+    for (const auto& [soubor, z] : Serie) ++pocty[z.Jmeno];
+    for (const VadnySoubor& v : Vadne) {
+        if (iVadne && v.Jmeno) ++pocty[*v.Jmeno];
+    }
+    return pocty;
+}
+
 StavRejstriku Obnov(Rejstrik& rejstrik, const Sber& sber, std::ostream& hlaseni) {
     StavRejstriku stav;
     auto zname = rejstrik.Serie();

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <iosfwd>
+#include <map>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -26,6 +27,9 @@ struct StavRejstriku {
     std::unordered_map<std::string, Rejstrik::Zaznam> Serie{};  ///< by names of files
     std::vector<VadnySoubor> Vadne{};
     std::size_t Novych = 0;  ///< that had to be read
+
+    /// How many series bear each name as it was typed; iVadne: and files that are no attempts.
+    [[nodiscard]] std::map<std::string, int> PoctyJmen(bool iVadne) const;
 };
 
 /// Brings the index up to what was found: reads what it does not know, on all processors, and takes

@@ -56,6 +56,13 @@ Databaze Otevri(const fs::path& soubor) {
     }
 }
 
+/// 2026-11-22 17:05 as 202611221705: later times are greater.
+std::int64_t CisloCasu(const DatumACas& d) {
+    std::int64_t cislo = d.Rok;
+    for (const int dalsi : {d.Mesic, d.Den, d.Hodina, d.Minuta}) cislo = cislo * 100 + dalsi;
+    return cislo;
+}
+
 DatumACas CasZCisla(std::int64_t c) {
     const auto cast = [&c](int kolik) {
         const auto n = static_cast<int>(c % kolik);
@@ -72,12 +79,6 @@ DatumACas CasZCisla(std::int64_t c) {
 }
 
 }  // namespace
-
-std::int64_t CisloCasu(const DatumACas& d) {
-    std::int64_t cislo = d.Rok;
-    for (const int dalsi : {d.Mesic, d.Den, d.Hodina, d.Minuta}) cislo = cislo * 100 + dalsi;
-    return cislo;
-}
 
 Rejstrik::Rejstrik(const fs::path& soubor) : db_(Otevri(soubor)) {
     Preloz([&] {

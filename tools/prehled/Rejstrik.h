@@ -66,9 +66,6 @@ private:
     std::optional<Dotaz> pridejSerii_, pridejPriklad_, pridejChybu_, pridejObrazce_, obrazce_;
 };
 
-/// 2026-11-22 17:05 as 202611221705: later times are greater.
-[[nodiscard]] std::int64_t CisloCasu(const DatumACas& kdy);
-
 /// Opens the index. What stands there and cannot be used is put aside or, if it is one of this
 /// program's own, thrown away, and a new one made; oznam gets a sentence that says so.
 [[nodiscard]] std::unique_ptr<Rejstrik> OtevriRejstrik(const std::filesystem::path& soubor,

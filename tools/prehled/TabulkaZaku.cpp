@@ -100,6 +100,17 @@ std::vector<std::string> TabulkaZaku::Tridy() const {
     return {tridy.begin(), tridy.end()};
 }
 
+std::string TabulkaZaku::NajdiTridu(const std::string& trida) const {
+    if (trida.empty()) return {};
+    const std::vector<std::string> tridy = Tridy();
+    const auto t = std::ranges::find(tridy, KlicJmena(trida), KlicJmena);
+    if (t != tridy.end()) return *t;
+    std::string vyber;
+    for (const std::string& jina : tridy) vyber += (vyber.empty() ? "" : ", ") + jina;
+    throw BehovaChyba("V tabulce žáků není třída " + trida,
+                      vyber.empty() ? "nemá třídy" : "má " + vyber);
+}
+
 TabulkaZaku NactiTabulkuZaku(const fs::path& soubor) {
     const auto obsah = CelySoubor(soubor);
     if (!obsah) throw BehovaChyba("Tabulku žáků nelze přečíst", soubor.string());

@@ -26,6 +26,9 @@ public:
     [[nodiscard]] const std::vector<Zak>& Zaci() const { return zaci_; }
     /// By alphabet.
     [[nodiscard]] std::vector<std::string> Tridy() const;
+    /// A class as it is spelt here; one that is not here is a fault that says which are. None for
+    /// none.
+    [[nodiscard]] std::string NajdiTridu(const std::string& trida) const;
 
 private:
     std::vector<Zak> zaci_;

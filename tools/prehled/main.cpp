@@ -15,6 +15,7 @@
 #include "prehled/Sestaveni.h"
 #include "prehled/Smazani.h"
 #include "prehled/Stranka.h"
+#include "prehled/TabulkaZaku.h"
 #include "prehled/Volby.h"
 #include "prehled/Zapis.h"
 
@@ -68,7 +69,7 @@ int Vyrob(const Volby& volby, const Sber& sber, const TabulkaZaku& tabulka, Rejs
     NovySoubor stranka(volby.Vystup), serie(Vedle(volby.Vystup, "-serie.csv")),
         chyby(Vedle(volby.Vystup, "-chyby.csv"));
     const StavRejstriku stav = Obnov(rejstrik, sber, std::cerr);
-    const RozdeleniZaku zaci(tabulka, PoctyJmen(stav, false));
+    const RozdeleniZaku zaci(tabulka, stav.PoctyJmen(false));
     TabulkyCsv tabulky(serie.Proud(), chyby.Proud());
     const Prehled prehled =
         Sestav(rejstrik, stav, sber, zaci, Znamkovani(SlozkaProgramu()), volby, tabulky);
@@ -80,7 +81,7 @@ int Vyrob(const Volby& volby, const Sber& sber, const TabulkaZaku& tabulka, Rejs
 
 int Smaz(const Volby& volby, const Sber& sber, const TabulkaZaku& tabulka, Rejstrik& rejstrik) {
     const StavRejstriku stav = Obnov(rejstrik, sber, std::cerr);
-    const RozdeleniZaku zaci(tabulka, PoctyJmen(stav, true));
+    const RozdeleniZaku zaci(tabulka, stav.PoctyJmen(true));
     return SmazZaka(volby, sber, stav, zaci, rejstrik, std::cin, std::cout) ? V_PORADKU : NEJDE;
 }
 
@@ -90,7 +91,7 @@ int Spust(Volby volby) {
         return V_PORADKU;
     }
     const TabulkaZaku tabulka = volby.Zaci.empty() ? TabulkaZaku() : NactiTabulkuZaku(volby.Zaci);
-    volby.Trida = NajdiTridu(tabulka, volby.Trida);
+    volby.Trida = tabulka.NajdiTridu(volby.Trida);
     const Sber sber = NajdiPokusy(volby.Slozky);
     const fs::path misto = MistoRejstriku(volby);
     std::string oznam;
