@@ -9,6 +9,7 @@
 #include "hrac/RukaNaDesce.h"
 #include "platform/Klavesnice.h"
 #include "platform/Obrazovky.h"
+#include "podpora/NaObrazovce.h"
 #include "rules/Misc.h"
 #include "rules/Ulohy.h"
 #include "screens/DeskaForm.h"

@@ -7,11 +7,6 @@
 
 namespace rysovna::testy {
 
-/// Whether a control is seen and takes presses.
-[[nodiscard]] bool Zije(const Ovladac& o);
-/// All that a panel says, in words; what its plane would draw left out.
-[[nodiscard]] std::string Slovy(const Panel& p);
-
 /// Watches the guide line of a board at every event: what it names must be live and fit the state,
 /// its words must be shown, and before the check it must follow from what can be seen alone.
 class HlidacRady {

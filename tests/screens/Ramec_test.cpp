@@ -9,7 +9,7 @@
 
 #include "base/Chyba.h"
 #include "hrac/RukaNaDesce.h"
-#include "podpora/HlidacRady.h"
+#include "podpora/NaObrazovce.h"
 #include "podpora/Rysovac.h"
 #include "rules/Chyby.h"
 #include "screens/ChybovyForm.h"
