@@ -1,7 +1,5 @@
 #include "screens/DeskaForm.h"
 
-#include <algorithm>
-
 #include "base/Cisla.h"
 #include "engine/Miry.h"
 #include "platform/Host.h"
@@ -9,6 +7,7 @@
 #include "platform/Paleta.h"
 #include "screens/Meritko.h"
 #include "screens/SelectForm.h"
+#include "screens/TlacitkoNastroje.h"
 #include "store/JmenaSouboru.h"
 #include "store/Soubory.h"
 
@@ -26,31 +25,6 @@ constexpr std::array<Obdelnik, 6> TLACITKA = {{{16, 280, 94, 32},
                                                {111, 312, 94, 32},
                                                {16, 404, 94, 32},
                                                {111, 404, 94, 32}}};
-
-/// The face of a step button: the number NN of its pictures whatNN.
-constexpr struct {
-    Nastroj Co;
-    int Tvar;
-} TVARY[] = {{Nastroj::Usecka, 1},
-             {Nastroj::Primka, 2},
-             {Nastroj::Poloprimka, 3},
-             {Nastroj::Kolmice, 4},
-             {Nastroj::Rovnobezka, 5},
-             {Nastroj::Kruznice, 6},
-             {Nastroj::Stred, 7},
-             {Nastroj::Osa, 8},
-             {Nastroj::Prusecik, 9},
-             {Nastroj::Trojuhelnik, 10},
-             {Nastroj::StredSoumernosti, 11},
-             {Nastroj::Zpet, 12},
-             {Nastroj::Veta, 13},
-             {Nastroj::Sestroj, 14},
-             {Nastroj::Obraz, 15}};
-
-int TvarNastroje(Nastroj co) {
-    const auto* t = std::ranges::find_if(TVARY, [co](const auto& r) { return r.Co == co; });
-    return t == std::end(TVARY) ? 0 : t->Tvar;
-}
 
 constexpr float PISMO_PANELU = 8;  // points, at 15 twips a pixel
 
@@ -130,8 +104,10 @@ void DeskaForm::NactiObrazky() {
     s_.PokracujObrazek = NactiObrazek(s_, hry + "pokracbg.bmp");
     picPokracuj.Picture = s_.PokracujObrazek;
     picPokracuj.Enabled = false;
-    for (const Nastroj n : deska_.Nastroje)
-        tvary_[n] = NactiDvojici(s_, hry + "what" + DveCislice(TvarNastroje(n)));
+    for (const Nastroj n : deska_.Nastroje) {
+        const TlacitkoNastroje* t = NajdiTlacitko(n);
+        tvary_[n] = NactiDvojici(s_, hry + "what" + DveCislice(t == nullptr ? 0 : t->Tvar));
+    }
     kontrolovano_ = NactiObrazek(s_, hry + "mkont.bmp");
     hodnoceniDobre_ = NactiObrazek(s_, hry + "Check_ok.bmp");
     hodnoceniSpatne_ = NactiObrazek(s_, hry + "Check_ko.bmp");

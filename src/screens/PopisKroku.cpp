@@ -1,36 +1,13 @@
 #include "screens/PopisKroku.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "rules/Veliciny.h"
+#include "screens/TlacitkoNastroje.h"
 
 namespace rysovna {
 
 namespace {
-
-/// What stands on the button of a tool, and whether it takes a tool in hand.
-constexpr struct {
-    Nastroj Co;
-    std::string_view Jmeno;
-    bool Tlacitko = false;
-} NASTROJE[] = {
-    {Nastroj::Usecka, "úsečka"},
-    {Nastroj::Primka, "přímka"},
-    {Nastroj::Poloprimka, "polopřímka"},
-    {Nastroj::Kolmice, "kolmice"},
-    {Nastroj::Rovnobezka, "rovnoběžka"},
-    {Nastroj::Kruznice, "kružnice"},
-    {Nastroj::Stred, "střed"},
-    {Nastroj::Osa, "osa"},
-    {Nastroj::Prusecik, "průsečík"},
-    {Nastroj::Trojuhelnik, "trojúhelník"},
-    {Nastroj::StredSoumernosti, "střed souměrnosti"},
-    {Nastroj::Obraz, "obraz bodu"},
-    {Nastroj::Veta, "podle věty", true},
-    {Nastroj::Sestroj, "sestroj", true},
-    {Nastroj::Zpet, "zpět o krok", true},
-};
 
 constexpr std::string_view ZAVORKA = ") ";
 
@@ -38,10 +15,10 @@ std::string JmenoNastroje(const Volani& v, const Panel& p) {
     constexpr const char* NEZIVY = "Stisk, kde není živý nástroj";
     if (v.Cislo < 1 || v.Cislo > static_cast<int>(p.Nastroje.size())) return NEZIVY;
     const MistoNastroje& misto = p.Nastroje[static_cast<std::size_t>(v.Cislo - 1)];
-    const auto* n = std::ranges::find_if(NASTROJE, [&](const auto& r) { return r.Co == misto.Co; });
-    if (n == std::end(NASTROJE)) return NEZIVY;
-    return n->Tlacitko ? "Tlačítko „" + std::string(n->Jmeno) + "“"
-                       : "Nástroj: " + std::string(n->Jmeno);
+    const TlacitkoNastroje* t = NajdiTlacitko(misto.Co);
+    if (t == nullptr) return NEZIVY;
+    return t->BezNastroje ? "Tlačítko „" + std::string(t->Jmeno) + "“"
+                          : "Nástroj: " + std::string(t->Jmeno);
 }
 
 std::string TextVeliciny(const Velicina& v, const std::string& hodnota) {
