@@ -1,5 +1,5 @@
 # Sourced by ./run and ./test: what they share. Installs what a build needs, builds, lists the project's
-# own sources and tells its version.
+# own sources and what the game reads, tells its version.
 
 # Debian's package names; installed with apt-get, as root or through sudo. Nothing is asked for
 # when nothing is missing.
@@ -50,6 +50,14 @@ zdroje() {
     seznam="$(find src tools tests bench -type f \( -name "$1" -o -name "${2:-$1}" \) | sort)"
     [ -n "$seznam" ] || { echo "Nenašly se žádné zdroje: $*" >&2; return 1; }
     echo "$seznam"
+}
+
+# obsah_hry: what the game reads of a staged copy, a path a line: neither results that the copy was
+# played with nor what an earlier build left there. A picture's shapes lie beside it.
+obsah_hry() {
+    awk '!/^#/ && NF { print "assets/" $1; if (sub(/\.bmp$/, ".tvary", $1)) print "assets/" $1 }' \
+        assets/soubory.txt
+    (cd data && for zdroj in [0-9][0-9].txt Errors.txt Znamky.txt; do echo "data/${zdroj%.txt}.dat"; done)
 }
 
 # The program's version, which attempts and all homes bear.

@@ -43,15 +43,10 @@ sestav_balik() (
     soubor usr/bin/prehled 755 <"$staging/prehled"
     soubor etc/rysovna/Rysovna.ini <packaging/Rysovna.ini
     soubor usr/share/rysovna/slozka-tridy 755 <"$zdroj/slozka-tridy"
-    # What the game reads and no more: neither results that a copy was played with nor what an earlier
-    # build left there. A picture's shapes lie beside it.
+    # The licences stand in the copyright file.
     kam="$PWD/$koren/usr/share/rysovna"
     mkdir -p "$kam"
-    {
-        awk '!/^#/ && NF && !/^Licence/ { print "assets/" $1; if (sub(/\.bmp$/, ".tvary", $1)) print "assets/" $1 }' \
-            assets/soubory.txt
-        (cd data && for zdroj in [0-9][0-9].txt Errors.txt Znamky.txt; do echo "data/${zdroj%.txt}.dat"; done)
-    } >"$prace/seznam"
+    obsah_hry | sed '/^assets\/Licence/d' >"$prace/seznam"
     (cd "$staging" && xargs cp --parents -t "$kam") <"$prace/seznam"
     find "$kam/assets" "$kam/data" -type f -exec chmod 644 {} +
     find "$kam" -type d -exec chmod 755 {} +

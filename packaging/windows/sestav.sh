@@ -30,10 +30,11 @@ vydani_windows() {
     slozka="$kam/Rysovna"
     verze="$(verze_programu)"
     rm -rf "$kam"
-    mkdir -p "$slozka/data"
+    mkdir -p "$slozka"
     cp build/windows/staging/rysovna.exe build/windows/staging/kodovani.exe build/windows/staging/prehled.exe \
         "$slozka"
-    cp -r "$hotove/assets" "$slozka"
+    # As it stands before anybody has played.
+    obsah_hry | (cil="$PWD/$slozka" && cd "$hotove" && xargs cp --parents -t "$cil")
     # Licences of what is linked with the program, beside those of the fonts.
     cp "$(packaging/knihovny/sestav windows)"/share/licence/* "$slozka/assets/Licence"
     # And those of the overview's libraries, as Debian's package lists them; utf8proc is one of the
@@ -42,10 +43,6 @@ vydani_windows() {
     for balicek in $knihovny_prehledu; do
         [ "$balicek" = libutf8proc-dev ] ||
             cp "/usr/share/doc/$balicek/copyright" "$slozka/assets/Licence/$balicek.txt"
-    done
-    # As it stands before anybody has played.
-    for soubor in "$hotove"/data/*.dat; do
-        [ "${soubor##*/}" = Vysledky.dat ] || cp "$soubor" "$slozka/data"
     done
     (cd "$slozka/data" && echo '; Generated: the game data that the installer brings.' &&
         printf 'Delete "$INSTDIR\\data\\%s"\n' *.dat) >"$kam/data.nsh"
