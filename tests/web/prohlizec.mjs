@@ -7,14 +7,6 @@ import path from "node:path";
 
 export const pauza = (ms) => new Promise((pak) => setTimeout(pak, ms));
 
-const NAVRH = { sirka: 640, vyska: 480 }; // design px
-// Name of a key in a player's events, and what the browser calls it: key, code, number.
-const KLAVESY = {
-  Left: ["ArrowLeft", 37], Right: ["ArrowRight", 39], Up: ["ArrowUp", 38], Down: ["ArrowDown", 40],
-  Home: ["Home", 36], End: ["End", 35], Tab: ["Tab", 9], BackSpace: ["Backspace", 8],
-  Delete: ["Delete", 46], Return: ["Enter", 13], Escape: ["Escape", 27], F1: ["F1", 112],
-};
-
 export class Prohlizec {
   cekajici = new Map();
   posluchaci = [];
@@ -129,11 +121,6 @@ export class Karta {
       await this.hodnota("document.body.innerText").catch(() => "nic"));
   }
 
-  // The game is up, its title shown.
-  naHre() {
-    return this.dokud("window.rysovna?.bezi === true", "hra běží");
-  }
-
   velikost(width, height) {
     return this.povel("Emulation.setDeviceMetricsOverride",
       { width, height, deviceScaleFactor: 1, mobile: false });
@@ -142,18 +129,6 @@ export class Karta {
   async snimek(soubor) {
     const { data } = await this.povel("Page.captureScreenshot", { format: "png" });
     fs.writeFileSync(soubor, Buffer.from(data, "base64"));
-  }
-
-  // Design px to px of the page.
-  async zmer() {
-    const r = await this.hodnota(
-      "(() => { const r = document.getElementById('platno').getBoundingClientRect();" +
-      " return { x: r.left, y: r.top, w: r.width, h: r.height }; })()");
-    const s = Math.min(r.w / NAVRH.sirka, r.h / NAVRH.vyska);
-    this.naStranku = (x, y) => ({
-      x: Math.floor(r.x + (r.w - NAVRH.sirka * s) / 2 + (x + 0.5) * s),
-      y: Math.floor(r.y + (r.h - NAVRH.vyska * s) / 2 + (y + 0.5) * s),
-    });
   }
 
   mys(type, kde, drzi) {
@@ -167,51 +142,7 @@ export class Karta {
     return this.povel("Input.dispatchTouchEvent", { type, touchPoints: kde ? [kde] : [] });
   }
 
-  async klavesa(jmeno, shift) {
-    const [key, cislo, text] = jmeno === "Space" ? [" ", 32, " "]
-      : /^[0-9]$/.test(jmeno) ? [jmeno, 48 + Number(jmeno), jmeno]
-        : /^[a-z]$/.test(jmeno) ? [jmeno, jmeno.toUpperCase().charCodeAt(0), jmeno]
-          : KLAVESY[jmeno];
-    const code = key === " " ? "Space" : /^[0-9]$/.test(jmeno) ? `Digit${jmeno}`
-      : /^[a-z]$/.test(jmeno) ? `Key${jmeno.toUpperCase()}` : key;
-    const modifiers = (shift & 1 ? 8 : 0) | (shift & 2 ? 2 : 0);
-    const spolecne = { key, code, windowsVirtualKeyCode: cislo, modifiers };
-    const psane = text && !modifiers ? { text } : {};
-    await this.povel("Input.dispatchKeyEvent", { type: text ? "keyDown" : "rawKeyDown",
-      ...spolecne, ...psane, ...(modifiers === 2 && jmeno === "a" ? { commands: ["selectAll"] } : {}) });
-    await this.povel("Input.dispatchKeyEvent", { type: "keyUp", ...spolecne });
-  }
-
   pis(text) {
     return this.povel("Input.insertText", { text });
-  }
-
-  // Carries out a player's events, a line each; the page gets a little more time than the virtual
-  // clock took. konci: stops before an event for which it is true.
-  async odehraj(udalosti, konci = () => false) {
-    await this.zmer();
-    let kde = { x: 0, y: 0 };
-    let drzi = false;
-    for (const radek of udalosti) {
-      const [co, a, b] = radek.split(" ");
-      if (konci(radek)) return;
-      if (co === "mys") {
-        kde = this.naStranku(Number(a), Number(b));
-        await this.mys("mouseMoved", kde, drzi);
-      } else if (co === "dolu" || co === "nahoru") {
-        drzi = co === "dolu";
-        await this.mys(drzi ? "mousePressed" : "mouseReleased", kde, drzi);
-      } else if (co === "prst") {
-        const misto = this.naStranku(...radek.split(" ").slice(2).map(Number));
-        await this.prst({ dolu: "touchStart", pohyb: "touchMove", nahoru: "touchEnd" }[a],
-          a === "nahoru" ? null : misto);
-      } else if (co === "text") {
-        await this.pis(radek.slice(5));
-      } else if (co === "klavesa") {
-        await this.klavesa(a, Number(b));
-      } else if (co === "cekej") {
-        await pauza(Number(a) + 40);
-      }
-    }
   }
 }

@@ -9,6 +9,7 @@ import os from "node:os";
 import path from "node:path";
 import { fileURLToPath } from "node:url";
 import { spustServer } from "../../packaging/web/server.mjs";
+import { naHre, odehraj } from "./hrac.mjs";
 import { pauza, Prohlizec } from "./prohlizec.mjs";
 
 const TADY = path.dirname(fileURLToPath(import.meta.url));
@@ -57,8 +58,8 @@ function zabal(slozka) {
 
 // A series of one example by the events, up to its table; the log.
 async function serie(k, radky) {
-  await k.naHre();
-  await k.odehraj(radky);
+  await naHre(k);
+  await odehraj(k, radky);
   await pauza(300);
   return (await vysledky(k))(DENIK);
 }
@@ -86,16 +87,16 @@ async function hraj(ulohy, ...volby) {
     over(denik.includes("Žofie Řeřichová"), `jméno v záznamu: ${denik}`);
     over(k.chyby.length === 0, k.chyby.join("\n"));
     await k.otevri(adresa);
-    await k.naHre();
+    await naHre(k);
     over((await vysledky(k))(DENIK) === denik, "po novém načtení jsou výsledky jiné");
   });
 }
 
 // The result of a series whose storing never ends; then something ends the page.
 async function nedoulozeno(k) {
-  await k.naHre();
+  await naHre(k);
   await k.hodnota("rysovna.uloziste.zacni = function () { this.zmeny = []; this.stav = 0; }");
-  await k.odehraj(udalosti([1]), (radek) => radek === "fotka 01_tabulka");
+  await odehraj(k, udalosti([1]), (radek) => radek === "fotka 01_tabulka");
   const fronta = await k.hodnota(
     "Object.keys(localStorage).filter((x) => x.endsWith('.vysledek')).length");
   over(fronta === 1, `ve frontě je ${fronta}`);
@@ -111,12 +112,12 @@ const TESTY = {
   // Started once, the game needs no server any more.
   bez_pripojeni: () => sProhlizecem({}, async (p, adresa, server) => {
     const k = await p.karta(adresa);
-    await k.naHre();
+    await naHre(k);
     await k.dokud("navigator.serviceWorker.controller !== null", "služba běží");
     server.close();
     server.closeAllConnections();
     await k.otevri(`${adresa}?znovu`);
-    await k.naHre();
+    await naHre(k);
     await k.otevri(`${adresa}?kontrola`);
     await k.dokud("document.getElementById('kontrola')", "kontrola");
     const seznam = await k.hodnota("document.getElementById('kontrola').textContent");
@@ -129,7 +130,7 @@ const TESTY = {
     await nedoulozeno(k);
     await k.zavri();
     const dalsi = await p.karta(adresa);
-    await dalsi.naHre();
+    await naHre(dalsi);
     await dalsi.dokud("Object.keys(localStorage).every((x) => !x.endsWith('.vysledek'))",
       "fronta je prázdná");
     for (let i = 0; i < 2; ++i) {
@@ -137,16 +138,16 @@ const TESTY = {
       over(plnych(denik) === 1, `po ${i + 1}. startu:\n${denik}`);
       over((await pokusy(dalsi)).length === 1, "záznam pokusu se nedoplnil právě jednou");
       await dalsi.otevri(adresa);
-      await dalsi.naHre();
+      await naHre(dalsi);
     }
     // In the middle of a series nothing is lost but the series.
     const radky = udalosti([1]);
     await dalsi.otevri(`${adresa}?seminko=${SEMINKO}`);
-    await dalsi.naHre();
-    await dalsi.odehraj(radky.slice(0, radky.indexOf("fotka 01_konstrukce")));
+    await naHre(dalsi);
+    await odehraj(dalsi, radky.slice(0, radky.indexOf("fotka 01_konstrukce")));
     await dalsi.zavri();
     const treti = await p.karta(adresa);
-    await treti.naHre();
+    await naHre(treti);
     over(plnych((await vysledky(treti))(DENIK)) === 1, "po zavření uprostřed série");
   }),
 
@@ -156,7 +157,7 @@ const TESTY = {
       // Plain http: no lock of the browser, and what cannot be had there is told once.
       for (const kde of [adresa, adresa.replace("localhost", "rysovna.test")]) {
         const k = await p.karta(kde);
-        await k.naHre();
+        await naHre(k);
         const http = kde !== adresa;
         await pauza(300);
         over((await ohlas(k)).includes("http") === http, `${kde}: ${await ohlas(k)}`);
@@ -166,7 +167,7 @@ const TESTY = {
         await k.zavri();
         await pauza(300);
         await druha.otevri(kde);
-        await druha.naHre();
+        await naHre(druha);
         await pauza(300);
         over((await ohlas(druha)) === "", "řeklo se to podruhé");
         await druha.zavri();
@@ -177,17 +178,17 @@ const TESTY = {
   // What the browser refuses is told in Czech, and no result is lost.
   plno: () => sProhlizecem({}, async (p, adresa) => {
     const k = await p.karta(`${adresa}?seminko=${SEMINKO}`, (x) => x.velikost(1280, 996));
-    await k.naHre();
+    await naHre(k);
     await k.povel("Storage.overrideQuotaForOrigin",
       { origin: new URL(adresa).origin, quotaSize: 1 });
-    await k.odehraj(udalosti([1]), (radek) => radek === "fotka 01_tabulka");
+    await odehraj(k, udalosti([1]), (radek) => radek === "fotka 01_tabulka");
     await k.dokud("document.getElementById('hlas').textContent.includes('není místo')",
       "hra řekne, že není místo");
     const hlas = await k.hodnota("document.getElementById('hlas').textContent");
     over(hlas.includes("uložen stranou"), `a že je výsledek uložen stranou: ${hlas}`);
     await k.povel("Storage.overrideQuotaForOrigin", { origin: new URL(adresa).origin });
     await k.otevri(adresa);
-    await k.naHre();
+    await naHre(k);
     await k.dokud("Object.keys(localStorage).every((x) => !x.endsWith('.vysledek'))",
       "fronta je prázdná");
     over(plnych((await vysledky(k))(DENIK)) === 1, "výsledek se ztratil");
@@ -201,7 +202,7 @@ const TESTY = {
       JSON.stringify({ profile: { default_content_setting_values: { cookies: 2 } } }));
     await sProhlizecem({ profil }, async (p, adresa) => {
       const k = await p.karta(adresa);
-      await k.naHre();
+      await naHre(k);
       await k.dokud("document.getElementById('oznam').textContent.includes('nedovoluje ukládat')",
         "stránka řekne, že se neukládá");
     });
@@ -230,7 +231,7 @@ const TESTY = {
       }
       vada = null;
       await k.otevri(adresa);
-      await k.naHre();
+      await naHre(k);
     }, pred);
   },
 
@@ -248,7 +249,7 @@ const TESTY = {
   // Results to a file and read in: added to what is there, once however often.
   soubor_vysledku: () => sProhlizecem({}, async (p, adresa) => {
     const k = await p.karta(adresa);
-    await k.naHre();
+    await naHre(k);
     const radek = (jmeno, znamka) => `${jmeno}|10|0|${znamka}\r\n`;
     const zapis = (jmeno) => `Jméno: ${jmeno}\r\n${"=".repeat(75)}\r\n`;
     const soubor = (res, dat) => JSON.stringify({ format: "rysovna-vysledky", verze: 1,
@@ -260,7 +261,7 @@ const TESTY = {
       over(/přidány/.test(await pridej(text)), "přidání");
     }
     await k.otevri(adresa);
-    await k.naHre();
+    await naHre(k);
     const nase = await vysledky(k);
     over(nase("01.res") === radek("Jan", 1).repeat(2) + radek("Eva", 2), nase("01.res"));
     over(nase(DENIK).match(/Jan/g).length === 2 && nase(DENIK).match(/Eva/g).length === 1,
@@ -313,7 +314,7 @@ const TESTY = {
     await sProhlizecem({}, async (p, adresa) => {
       ini = null;
       const k = await p.karta(adresa, (x) => x.velikost(1280, 996));
-      await k.naHre();
+      await naHre(k);
       const pridej = (...soubory) => k.hodnota(`rysovna.vysledky.pridejPokusy(${JSON.stringify(soubory)}` +
         ".map(([jmeno, text]) => [jmeno, new TextEncoder().encode(text)]))");
       const [jmeno, text] = prvni[0];
@@ -336,9 +337,9 @@ const TESTY = {
     const kam = fs.mkdtempSync(path.join(prace, "papir"));
     await p.povel("Browser.setDownloadBehavior", { behavior: "allow", downloadPath: kam });
     const k = await p.karta(`${adresa}?seminko=${SEMINKO}`, (x) => x.velikost(1280, 996));
-    await k.naHre();
-    await k.odehraj(udalosti([11]), (radek) => radek === "fotka 11_konstrukce");
-    await k.odehraj(["klavesa p 2", "cekej 2000"]);
+    await naHre(k);
+    await odehraj(k, udalosti([11]), (radek) => radek === "fotka 11_konstrukce");
+    await odehraj(k, ["klavesa p 2", "cekej 2000"]);
     const [jmeno] = fs.readdirSync(kam);
     over(/^Rysovna Žofie Řeřichová úloha 11 \d{4}-\d\d-\d\d\.pdf$/.test(jmeno), `staženo ${jmeno}`);
     const text = execFileSync("pdftotext", [path.join(kam, jmeno), "-"]).toString();
@@ -360,19 +361,19 @@ const TESTY = {
       execFileSync("setxkbmap", ["cz"], { env });
       await sProhlizecem({ obrazovka }, async (p, adresa) => {
         const k = await p.karta(`${adresa}?seminko=${SEMINKO}`);
-        await k.naHre();
+        await naHre(k);
         const radky = udalosti([1]);
         const jmeno = radky.findIndex((radek) => radek.startsWith("text"));
         let zaJmenem = jmeno;
         while (radky[zaJmenem].startsWith("text")) ++zaJmenem;
-        await k.odehraj(radky.slice(0, jmeno));
+        await odehraj(k, radky.slice(0, jmeno));
         for (const klavesa of ["x", "space", "dead_caron", "Shift+r", "e", "dead_caron", "n",
           "dead_acute", "o", "rcaron", "u", "dead_diaeresis", "u", "space", "i", "i", "ctrl+BackSpace",
           "ctrl+Home", "ctrl+Delete", "ctrl+End", "a"]) {
           xdotool("key", klavesa);
           await pauza(150);
         }
-        await k.odehraj(radky.slice(zaJmenem));
+        await odehraj(k, radky.slice(zaJmenem));
         await pauza(300);
         const denik = (await vysledky(k))(DENIK);
         over(denik.includes("Jméno: Řeňóřuü a "), denik);
@@ -411,10 +412,10 @@ const TESTY = {
       n + fs.statSync(path.join(stranka, j)).size, 0);
     const od = Date.now();
     const k = await p.karta(`${adresa}?seminko=${SEMINKO}`, (x) => x.velikost(1920, 1116));
-    await k.naHre();
+    await naHre(k);
     await k.dokud("rysovna.obraz !== null", "titul je vidět");
     const start = Date.now() - od;
-    await k.odehraj(udalosti([1]), (radek) => radek === "fotka 01_zadani");
+    await odehraj(k, udalosti([1]), (radek) => radek === "fotka 01_zadani");
     await pauza(2000);
     const casy = {};
     for (const [w, h] of [[1280, 960], [1920, 1080], [2560, 1440]]) {
