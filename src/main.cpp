@@ -88,7 +88,7 @@ int Zkontroluj() {
     DiskStroje disk;
     return VypisKontrolu(
         std::cout,
-        ZkontrolujPocitac({.SlozkaNastaveni = SdlHost::SlozkaNastaveni(),
+        ZkontrolujPocitac({.SlozkaNastaveni = SlozkaNastaveni(SlozkaProgramu()).string(),
                            .SlozkaStavu = SlozkaStavuUctu(),
                            .SlozkaDat = SlozkaDatUctu(),
                            .disk = disk,

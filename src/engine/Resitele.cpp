@@ -100,10 +100,6 @@ bool RovneUhly(double a, double b) {
     return FormatPetMist(a) == FormatPetMist(b);
 }
 
-double DelkaVCm(double px) {
-    return std::trunc(px / (10 * PIXELU_NA_CM) * 100) / 10;
-}
-
 void PolarniBod(Bod P, float r, float uhel, Bod& out1, Bod& out2) {
     out1 = out2 = BEZ_BODU;
     out1.Y = Zaokrouhli(P.Y - r * Sin(static_cast<double>(uhel)));

@@ -32,9 +32,6 @@ float Smer(Bod od, Bod k, float dosud);
 /// axis-parallel direction from a merely close one.
 bool RovneUhly(double a, double b);
 
-/// A length in pixels as the pupil reads it: centimetres cut (not rounded) to one decimal.
-double DelkaVCm(double px);
-
 /// The point r pixels from P under the angle uhel, radians. out2 is always BEZ_BODU.
 void PolarniBod(Bod P, float r, float uhel, Bod& out1, Bod& out2);
 

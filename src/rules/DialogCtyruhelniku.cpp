@@ -8,6 +8,7 @@
 #include "rules/Chyby.h"
 #include "rules/Misc.h"
 #include "rules/SlovaKroku.h"
+#include "rules/Tahy.h"
 #include "rules/Veliciny.h"
 
 namespace rysovna {

@@ -7,6 +7,7 @@
 #include "rules/Chyby.h"
 #include "rules/DialogKroku.h"
 #include "rules/Misc.h"
+#include "rules/Tahy.h"
 
 namespace rysovna {
 

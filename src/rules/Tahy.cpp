@@ -55,6 +55,10 @@ double Vzdalenost(Bod a, Bod b) {
     return std::sqrt(dx * dx + dy * dy);
 }
 
+double DelkaVCm(double px) {
+    return std::trunc(px / (10 * PIXELU_NA_CM) * 100) / 10;
+}
+
 std::string OdectiDelku(double px) {
     return FormatCele(DelkaVCm(px)) + " cm";
 }

@@ -31,6 +31,8 @@ namespace rysovna {
 /// perpendicular ends.
 [[nodiscard]] Bod PataUkazatele(Dvojice primka, Bod ukazatel);
 
+/// A length in pixels as the pupil reads it: centimetres cut (not rounded) to one decimal.
+[[nodiscard]] double DelkaVCm(double px);
 /// "12 cm": a length in pixels, cut to a tenth of a centimetre and shown in whole ones.
 [[nodiscard]] std::string OdectiDelku(double px);
 /// The distance of the pointer from the base line, with a "-" in front when the way from the start

@@ -11,6 +11,7 @@
 #include "rules/Prichytavani.h"
 #include "rules/Tahy.h"
 #include "rules/TecnyKroky.h"
+#include "rules/TecnyZadani.h"
 #include "rules/Zaznamy.h"
 
 namespace rysovna {

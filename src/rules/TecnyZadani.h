@@ -1,24 +1,14 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <vector>
 
-#include "base/Bod.h"
 #include "base/Nahoda.h"
 #include "base/Plane.h"
 #include "engine/Tabulky.h"
+#include "rules/ZadanyPriklad.h"
 
 namespace rysovna {
-
-/// A given object of an exercise. Pixels of the plane.
-struct DanyUtvar {
-    std::string Druh{};              ///< kind of object
-    std::string Jmeno1{}, Jmeno2{};  ///< of a line or circle Jmeno1 is its name
-    Bod P1{}, P2{};                  ///< a circle's P2 lies its radius to the right of its centre
-    std::string NaPrimce{};          ///< of a point
-    friend bool operator==(const DanyUtvar&, const DanyUtvar&) = default;
-};
 
 /// The given objects in the order in which they are drawn; and how many figures were thrown away
 /// before this one, itself counted: fewer than 200 on average.

@@ -37,8 +37,6 @@ TEST_F(Resitele, UhlyDelkyAPolarniBod) {
                     100 - Zaokrouhli(1000 * std::sin(uhel))};
         EXPECT_NEAR(Smer(stred, k, 9), uhel, 1e-3) << stupen;
     }
-    const std::pair<double, double> delky[] = {{100, 12.5}, {101, 12.6}, {7.99, 0.9}, {96, 12}};
-    for (const auto& [px, cm] : delky) EXPECT_DOUBLE_EQ(DelkaVCm(px), cm) << px;
     PolarniBod(stred, 50, static_cast<float>(PI / 2), out1, out2);
     Ceka({100, 50}, BEZ_BODU, "up");
     PolarniBod(stred, 2.5F, 0, out1, out2);

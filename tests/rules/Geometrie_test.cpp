@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <tuple>
+#include <utility>
 
 #include "engine/Miry.h"
 #include "engine/PametovaPlocha.h"
@@ -71,6 +72,8 @@ TEST(Prichytavani, PosledniTrojiceVyhravaUKruzniceBlizsi) {
 }
 
 TEST(Odecty, DelkaUhelAVzdalenost) {
+    const std::pair<double, double> delky[] = {{100, 12.5}, {101, 12.6}, {7.99, 0.9}, {96, 12}};
+    for (const auto& [px, cm] : delky) EXPECT_DOUBLE_EQ(DelkaVCm(px), cm) << px;
     EXPECT_EQ(OdectiDelku(35.9), "4 cm");  // cut to 4.4, not rounded to 4.5
     EXPECT_EQ(OdectiDelku(36), "5 cm");    // a half goes up
     for (const auto& [text, cislo] : {std::pair{"12 cm", 12}, {"135°", 135}, {"-3 cm", -3}})

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "rules/Misc.h"
+#include "store/UkladaniPokusu.h"
 #include "zak/Sestroj.h"
 
 namespace rysovna::hrac {
@@ -26,6 +27,12 @@ void OdehrajSerii(Relace& hra, RukaNaDesce ruka, int uloha, std::string_view jme
 void OdehrajSerii(Relace& hra, int uloha, std::string_view jmeno, int prikladu,
                   std::uint32_t seminko) {
     OdehrajSerii(hra, RukaNaDesce(hra, seminko), uloha, jmeno, prikladu, seminko);
+}
+
+void ZkopirujPokus(const Relace& hra, const std::filesystem::path& kam) {
+    const std::filesystem::path slozka = hra.DataDir() / UkladaniPokusu::SLOZKA;
+    for (const auto& soubor : std::filesystem::directory_iterator(slozka))
+        std::filesystem::copy_file(soubor.path(), kam);
 }
 
 }  // namespace rysovna::hrac

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <string_view>
 
 #include "hrac/RukaNaDesce.h"
@@ -14,5 +15,9 @@ void OdehrajSerii(Relace& hra, RukaNaDesce ruka, int uloha, std::string_view jme
 /// The same by a hand that double-clicks now and then.
 void OdehrajSerii(Relace& hra, int uloha, std::string_view jmeno, int prikladu,
                   std::uint32_t seminko);
+
+/// Copies the attempt that the game kept of the only series of this run to a new file. Throws what
+/// copying throws, also where the file is there already.
+void ZkopirujPokus(const Relace& hra, const std::filesystem::path& kam);
 
 }  // namespace rysovna::hrac

@@ -20,13 +20,6 @@ using namespace rysovna::hrac;
 /// Which examples are shown hangs on it: another one makes other files.
 constexpr std::uint32_t SEMINKO = 7;
 
-/// Copies the attempt that the game has kept to a new file.
-void ZkopirujPokus(const Relace& hra, const std::filesystem::path& kam) {
-    const std::filesystem::path slozka = hra.DataDir() / UkladaniPokusu::SLOZKA;
-    for (const auto& soubor : std::filesystem::directory_iterator(slozka))
-        std::filesystem::copy_file(soubor.path(), kam);
-}
-
 void UlozPredvedeni(const std::filesystem::path& slozka) {
     constexpr int PRIKLADU = 5;
     std::filesystem::create_directories(slozka);

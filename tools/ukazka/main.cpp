@@ -1,16 +1,20 @@
 // Plays examples without a display, through the same events as a person's, and leaves a picture of
-// each stage. Prints the lines that the log got.
+// each stage, and prints the lines that the log got; or leaves the attempt of a series without a
+// fault.
 
 #include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "base/Cisla.h"
 #include "hrac/RukaNaDesce.h"
+#include "hrac/Serie.h"
+#include "rules/Ulohy.h"
 #include "store/JmenaSouboru.h"
 #include "store/KodovaStranka.h"
 #include "zak/Sestroj.h"
@@ -75,6 +79,21 @@ void Odehraj(const std::filesystem::path& kam, const std::vector<int>& ulohy, Re
     std::cout << Z1250(hra.CtiSoubor(JMENO_DENIKU), JMENO_DENIKU);
 }
 
+/// Two examples of a task without a fault; what the game keeps of them goes to a new file.
+void OdehrajPokus(int uloha, const std::filesystem::path& kam) {
+    constexpr int PRIKLADU = 2;
+    Relace hra(SEMINKO);
+    hra.Start();
+    OdehrajSerii(hra, uloha, JMENO, PRIKLADU, SEMINKO);
+    ZkopirujPokus(hra, kam);
+}
+
+/// The number of a task; nothing if it is none.
+std::optional<int> CisloUlohy(const std::string& text) {
+    const auto cislo = CeleCislo<int>(text);
+    return cislo && NajdiUlohu(*cislo) != nullptr ? cislo : std::nullopt;
+}
+
 }  // namespace
 
 int main(int pocet, char** slova) {
@@ -87,12 +106,18 @@ int main(int pocet, char** slova) {
         cim = jak;
         argumenty.erase(argumenty.begin());
     }
-    if (argumenty.empty()) {
+    const bool pokus = !argumenty.empty() && argumenty[0] == "--pokus";
+    if (argumenty.empty() || (pokus && (argumenty.size() != 3 || !CisloUlohy(argumenty[1])))) {
         std::cerr << "Použití: ukazka [--klavesami | --prstem] SLOŽKA_NA_OBRÁZKY [ČÍSLO_ÚLOHY...]\n"
+                     "         ukazka --pokus ČÍSLO_ÚLOHY NOVÝ_SOUBOR\n"
                      "Bez čísel se hraje první úloha.\n";
         return 2;
     }
     try {
+        if (pokus) {
+            OdehrajPokus(*CisloUlohy(argumenty[1]), argumenty[2]);
+            return 0;
+        }
         std::vector<int> ulohy;
         for (std::size_t i = 1; i < argumenty.size(); ++i) {
             ulohy.push_back(static_cast<int>(Cislo(argumenty[i])));

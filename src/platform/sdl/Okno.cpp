@@ -201,11 +201,19 @@ bool Okno::NaNavrhDotyk(double x, double y, double& nx, double& ny) const {
 }
 
 Obdelnik Okno::NaOkno(const Obdelnik& o) const {
+    int w = 0;
+    int h = 0;
+    if (okno_ != nullptr) SDL_GetWindowSize(okno_, &w, &h);
+    if (w < 1 || h < 1 || sirkaPlochy_ < 1 || vyskaPlochy_ < 1) return o;
+    // The window's own units may be coarser than the pixels of its surface.
+    const double x = static_cast<double>(w) / sirkaPlochy_,
+                 y = static_cast<double>(h) / vyskaPlochy_;
+    const auto cele = [](double kolik) { return static_cast<int>(std::lround(kolik)); };
     Obdelnik r = o;
-    r.Left = umisteni_.X + static_cast<int>(std::lround(o.Left * umisteni_.S));
-    r.Top = umisteni_.Y + static_cast<int>(std::lround(o.Top * umisteni_.S));
-    r.Width = static_cast<int>(std::lround(o.Width * umisteni_.S));
-    r.Height = static_cast<int>(std::lround(o.Height * umisteni_.S));
+    r.Left = cele((umisteni_.X + o.Left * umisteni_.S) * x);
+    r.Top = cele((umisteni_.Y + o.Top * umisteni_.S) * y);
+    r.Width = cele(o.Width * umisteni_.S * x);
+    r.Height = cele(o.Height * umisteni_.S * y);
     return r;
 }
 

@@ -276,13 +276,6 @@ void SdlHost::UkazDokument(const std::filesystem::path& soubor) {
     SDL_OpenURL(adresa.c_str());
 }
 
-std::string SdlHost::SlozkaNastaveni() {
-    char* zaklad = SDL_GetBasePath();
-    const std::string vlastni = zaklad == nullptr ? std::string() : std::string(zaklad);
-    SDL_free(zaklad);
-    return rysovna::SlozkaNastaveni(CestaZTextu(vlastni)).string();
-}
-
 std::uint32_t SdlHost::Seminko() {
     if (seminko_) return (*seminko_)++;
     const auto ted = std::chrono::system_clock::now().time_since_epoch();

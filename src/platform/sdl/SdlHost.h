@@ -33,9 +33,9 @@ public:
     /// window away. 0 unless only an ordinary window can be opened; none at all is a fault.
     int ChangeDisplaySettings(const RezimObrazovky& rezim) override;
     /// As SlozkaNastaveni of Stroj.h looks for it, first in the executable's folder.
-    [[nodiscard]] std::string WindowsDirectory() override { return SlozkaNastaveni(); }
-    /// The same for a process without a display.
-    [[nodiscard]] static std::string SlozkaNastaveni();
+    [[nodiscard]] std::string WindowsDirectory() override {
+        return SlozkaNastaveni(SlozkaProgramu()).string();
+    }
     [[nodiscard]] std::filesystem::path SlozkaStavu() override { return SlozkaStavuUctu(); }
     [[nodiscard]] std::filesystem::path SlozkaDat() override { return SlozkaDatUctu(); }
     [[nodiscard]] std::filesystem::path SlozkaDokumentu() override { return SlozkaDokumentuUctu(); }
