@@ -1,0 +1,15 @@
+# The program's colours are those of the pictures' palette, by the same names.
+set(SEZNAM_OBRAZKU ${CMAKE_SOURCE_DIR}/assets/obrazky.txt)
+set(PALETA)
+file(STRINGS ${SEZNAM_OBRAZKU} radky_palety REGEX "^[A-Z0-9_]+ = (#[0-9A-F]+|{{[A-Z0-9_]+}})$")
+foreach(radek ${radky_palety})
+    if(radek MATCHES "^([A-Z0-9_]+) = #(..)(..)(..)$")
+        string(APPEND PALETA "constexpr Barva ${CMAKE_MATCH_1} = "
+            "Rgb(0x${CMAKE_MATCH_2}, 0x${CMAKE_MATCH_3}, 0x${CMAKE_MATCH_4});\n")
+    elseif(radek MATCHES "^([A-Z0-9]+_[A-Z0-9_]*[0-9]) = {{([A-Z0-9_]+)}}$")
+        string(APPEND PALETA "constexpr Barva ${CMAKE_MATCH_1} = ${CMAKE_MATCH_2};\n")
+    endif()
+endforeach()
+configure_file(platform/Paleta.h.in ${CMAKE_BINARY_DIR}/vyrobene/paleta/platform/Paleta.h @ONLY)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${SEZNAM_OBRAZKU})
+target_include_directories(platform PUBLIC ${CMAKE_BINARY_DIR}/vyrobene/paleta)
