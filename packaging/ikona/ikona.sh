@@ -19,7 +19,7 @@ ikona_svg() {
         }
         FNR == NR { if (/^[A-Z0-9_]+ = /) barva[$1] = $3; next }
         { vypln($0) }
-    ' assets/obrazky.txt "packaging/ikona/$1.svg"
+    ' assets/barvy.txt "packaging/ikona/$1.svg"
 }
 
 # ikona_png SIZE: the icon in so many pixels, to the standard output.

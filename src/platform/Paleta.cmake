@@ -1,7 +1,7 @@
 # The program's colours are those of the pictures' palette, by the same names.
-set(SEZNAM_OBRAZKU ${CMAKE_SOURCE_DIR}/assets/obrazky.txt)
+set(barvy ${CMAKE_SOURCE_DIR}/assets/barvy.txt)
 set(PALETA)
-file(STRINGS ${SEZNAM_OBRAZKU} radky_palety REGEX "^[A-Z0-9_]+ = (#[0-9A-F]+|{{[A-Z0-9_]+}})$")
+file(STRINGS ${barvy} radky_palety REGEX "^[A-Z0-9_]+ = (#[0-9A-F]+|{{[A-Z0-9_]+}})$")
 foreach(radek ${radky_palety})
     if(radek MATCHES "^([A-Z0-9_]+) = #(..)(..)(..)$")
         string(APPEND PALETA "constexpr Barva ${CMAKE_MATCH_1} = "
@@ -11,5 +11,5 @@ foreach(radek ${radky_palety})
     endif()
 endforeach()
 configure_file(platform/Paleta.h.in ${CMAKE_BINARY_DIR}/vyrobene/paleta/platform/Paleta.h @ONLY)
-set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${SEZNAM_OBRAZKU})
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${barvy})
 target_include_directories(platform PUBLIC ${CMAKE_BINARY_DIR}/vyrobene/paleta)

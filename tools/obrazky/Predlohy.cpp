@@ -3,6 +3,7 @@
 #include <fstream>
 #include <set>
 #include <sstream>
+#include <utility>
 
 #include "base/Chyba.h"
 
@@ -31,6 +32,36 @@ bool JeVelke(const std::string& klic) {
     return !klic.empty() && klic[0] >= 'A' && klic[0] <= 'Z';
 }
 
+/// A line "key = value" taken apart.
+std::pair<std::string, std::string> KlicAHodnota(const std::string& text, const std::string& kde) {
+    const auto rovna = text.find('=');
+    if (rovna == std::string::npos) throw BehovaChyba("Chybí rovnítko", kde);
+    return {Orez(text.substr(0, rovna)), Orez(text.substr(rovna + 1))};
+}
+
+bool JeRadek(const std::string& text) {
+    return !text.empty() && text[0] != '#';
+}
+
+std::string Misto(const std::filesystem::path& soubor, int cislo) {
+    return soubor.filename().string() + ":" + std::to_string(cislo);
+}
+
+Hodnoty NactiBarvy(const std::filesystem::path& soubor) {
+    Hodnoty barvy;
+    std::stringstream proud(NactiSoubor(soubor));
+    std::string radek;
+    for (int cislo = 1; std::getline(proud, radek); ++cislo) {
+        const std::string text = Orez(radek);
+        if (!JeRadek(text)) continue;
+        const std::string kde = Misto(soubor, cislo);
+        const auto [klic, hodnota] = KlicAHodnota(text, kde);
+        if (!JeVelke(klic)) throw BehovaChyba("Neznámý klíč " + klic, kde);
+        barvy[klic] = hodnota;
+    }
+    return barvy;
+}
+
 std::vector<Skupina> NactiSkupiny(const std::filesystem::path& soubor) {
     const std::set<std::string> znameKlice = {"soubor", "predloha", "rozmer", "klic", "stavy"};
     std::vector<Skupina> skupiny;
@@ -38,12 +69,11 @@ std::vector<Skupina> NactiSkupiny(const std::filesystem::path& soubor) {
     std::string radek;
     bool vTabulce = false;
     for (int cislo = 1; std::getline(proud, radek); ++cislo) {
-        const std::string kde = soubor.filename().string() + ":" + std::to_string(cislo);
+        const std::string kde = Misto(soubor, cislo);
         const std::string text = Orez(radek);
-        if (text.empty() || text[0] == '#') continue;
+        if (!JeRadek(text)) continue;
         if (text[0] == '[') {
             skupiny.push_back({kde, {}, {}, {}, {}});
-            skupiny.back().Klice["jmeno"] = text;
             vTabulce = false;
             continue;
         }
@@ -55,10 +85,7 @@ std::vector<Skupina> NactiSkupiny(const std::filesystem::path& soubor) {
                 throw BehovaChyba("Řádek má jiný počet polí než záhlaví", kde);
             continue;
         }
-        const auto rovna = text.find('=');
-        if (rovna == std::string::npos) throw BehovaChyba("Chybí rovnítko", kde);
-        const std::string klic = Orez(text.substr(0, rovna));
-        const std::string hodnota = Orez(text.substr(rovna + 1));
+        const auto [klic, hodnota] = KlicAHodnota(text, kde);
         if (klic == "radky") {
             s.Sloupce = Rozdel(hodnota, '|');
             vTabulce = true;
@@ -137,12 +164,8 @@ std::vector<Obrazek> NactiSeznam(const std::filesystem::path& soubor) {
     const std::filesystem::path svg = soubor.parent_path() / "svg";
     std::vector<Obrazek> obrazky;
     std::set<std::string> jmena;
-    Hodnoty barvy;
+    const Hodnoty barvy = NactiBarvy(soubor.parent_path() / "barvy.txt");
     for (const Skupina& s : NactiSkupiny(soubor)) {
-        if (s.Klice.at("jmeno") == "[barvy]") {
-            barvy = s.Stale;
-            continue;
-        }
         const auto radky = s.Sloupce.empty() ? std::vector<std::vector<std::string>>{{}} : s.Radky;
         std::vector<std::string> stavy = {""};
         if (s.Klice.count("stavy") != 0) stavy = Rozdel(s.Klice.at("stavy"), ' ');

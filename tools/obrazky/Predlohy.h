@@ -25,12 +25,13 @@ using Hodnoty = std::map<std::string, std::string>;
 std::string Dopln(std::string text, const Hodnoty& hodnoty, const std::filesystem::path& koren,
                   const std::string& kde);
 
-/// Reads the list of pictures. Groups begin with a line "[name]"; the group [barvy] holds values
-/// for all. In a group the lines "key = value" with a key in small letters say what it makes:
-/// soubor, predloha (a file of the folder "svg" beside the list), rozmer (width and height),
-/// klic = ano, stavy (values that {{S}} takes in turn: one picture for each); with a key in
-/// capitals they are values of placeholders. "radky = A | B" names columns, and each line after it
-/// is one row of the table, one picture (times the states) each. "#" begins a comment line.
+/// Reads the list of pictures; values for all are the rows "NAME = value" of the file barvy.txt
+/// beside it. Groups begin with a line "[name]". In a group the lines "key = value" with a key in
+/// small letters say what it makes: soubor, predloha (a file of the folder "svg" beside the list),
+/// rozmer (width and height), klic = ano, stavy (values that {{S}} takes in turn: one picture for
+/// each); with a key in capitals they are values of placeholders. "radky = A | B" names columns,
+/// and each line after it is one row of the table, one picture (times the states) each. "#" begins
+/// a comment line.
 std::vector<Obrazek> NactiSeznam(const std::filesystem::path& soubor);
 
 /// The whole file; one that cannot be read is a fault.

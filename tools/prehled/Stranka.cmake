@@ -23,8 +23,8 @@ set(stranka ${CMAKE_CURRENT_SOURCE_DIR}/stranka)
 set(skripty ${stranka}/data.js ${stranka}/tabulka.js ${stranka}/pokus.js ${stranka}/graf.js
     ${stranka}/prehled.js)
 list(JOIN skripty "," skript)
-# Colours that the page shares with the game are filled into its style from the palette of pictures.
-set(paleta ${CMAKE_SOURCE_DIR}/assets/obrazky.txt)
+# Colours that the page shares with the game are filled into its style from the palette.
+set(paleta ${CMAKE_SOURCE_DIR}/assets/barvy.txt)
 file(STRINGS ${paleta} radky_palety REGEX "^[A-Z0-9_]+ = #[0-9A-F]+$")
 foreach(radek ${radky_palety})
     if(radek MATCHES "^([A-Z0-9_]+) = (#......)$")
