@@ -9,6 +9,7 @@ import { fileURLToPath } from "node:url";
 const DRUHY = {
   ".html": "text/html; charset=utf-8", ".js": "text/javascript", ".css": "text/css",
   ".svg": "image/svg+xml", ".webmanifest": "application/manifest+json",
+  ".txt": "text/plain; charset=utf-8",
 };
 
 // pred: may answer itself, true if it did.

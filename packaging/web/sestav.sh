@@ -19,5 +19,5 @@ sestav_web() {
     # shellcheck source=packaging/ikona/ikona.sh
     . packaging/ikona/ikona.sh
     ikona_svg velka >"$web/src/ikona.svg"
-    node packaging/web/zabal.mjs "$hotove" "$web/src" packaging/web "$web/stranka"
+    node packaging/web/zabal.mjs "$hotove" "$web/src" "$knihovny" packaging/web "$web/stranka"
 }

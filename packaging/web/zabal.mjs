@@ -1,12 +1,12 @@
-// Puts the page together: program and data packed, a list of all files for the start without a
-// connection.
-//   node zabal.mjs STAGED PROGRAM_FOLDER PAGE_SOURCES OUT
+// Puts the page together: program and data packed, licences, a list of all files for the start
+// without a connection.
+//   node zabal.mjs STAGED PROGRAM_FOLDER LIBRARIES PAGE_SOURCES OUT
 import { createHash } from "node:crypto";
 import fs from "node:fs";
 import path from "node:path";
 import { gzipSync } from "node:zlib";
 
-const [staging, program, zdroje, kam] = process.argv.slice(2);
+const [staging, program, knihovny, zdroje, kam] = process.argv.slice(2);
 const sbal = (data) => gzipSync(data, { level: 9 });
 
 // What the program reads, from the list against which a build is checked: pictures by their shapes, no
@@ -35,6 +35,13 @@ const stranka = ["index.html", "styl.css", "zacatek.js", "stranka.js", "lista.js
   "manifest.webmanifest"];
 pis("ikona.svg", fs.readFileSync(path.join(program, "ikona.svg")));
 for (const jmeno of stranka) pis(jmeno, fs.readFileSync(path.join(zdroje, jmeno)));
+
+// Licences of the libraries and of the fonts, each under its name.
+const licence = [path.join(knihovny, "share/licence"), path.join(staging, "assets/Licence")]
+  .flatMap((slozka) => fs.readdirSync(slozka).sort().map((jmeno) => path.join(slozka, jmeno)));
+pis("licence.txt", Buffer.concat(licence.flatMap((soubor) =>
+  [Buffer.from(`=== ${path.basename(soubor, ".txt")} ===\n\n`), fs.readFileSync(soubor),
+    Buffer.from("\n\n")])));
 
 const vse = fs.readdirSync(kam).sort();
 const otisk = createHash("sha256");

@@ -109,6 +109,22 @@ const TESTY = {
   prstem: () => hraj([1], "--prstem"),
   klavesami: () => hraj([1], "--klavesami"),
 
+  // What is linked with the program, and the fonts: with the page go all their licences.
+  licence: () => sProhlizecem({}, async (p, adresa) => {
+    const k = await p.karta(adresa);
+    await naHre(k);
+    const text = await k.hodnota("fetch(document.querySelector('link[rel=license]').href)" +
+      ".then((odpoved) => odpoved.text())");
+    const knihovny = fs.readFileSync(path.join(stranka, "../knihovny.txt"), "utf8").trim();
+    for (const slozka of [`${knihovny}/share/licence`, `${sestaveni}/staging/assets/Licence`]) {
+      const soubory = fs.readdirSync(slozka);
+      over(soubory.length > 2, `${slozka}: ${soubory}`);
+      for (const soubor of soubory) {
+        over(text.includes(fs.readFileSync(path.join(slozka, soubor), "utf8")), `chybí ${soubor}`);
+      }
+    }
+  }),
+
   // Started once, the game needs no server any more.
   bez_pripojeni: () => sProhlizecem({}, async (p, adresa, server) => {
     const k = await p.karta(adresa);
