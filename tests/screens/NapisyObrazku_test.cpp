@@ -1,5 +1,5 @@
-// What the list of pictures writes out again of what the program knows: names of tasks, words on
-// step buttons.
+// What pictures write out again of what the program and its data know: names of tasks, words on
+// step buttons, the scale of grades.
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ std::vector<Radek> Tabulka(const std::string& skupina) {
     std::vector<Radek> tabulka;
     std::vector<std::string> sloupce;
     bool uvnitr = false;
-    for (const std::string& radek : NaRadky(CelySoubor(SEZNAM_OBRAZKU).value())) {
+    for (const std::string& radek : NaRadky(CelySoubor(ZDROJE "/assets/obrazky.txt").value())) {
         if (radek.starts_with('[')) uvnitr = radek == "[" + skupina + "]";
         if (!uvnitr || radek.empty()) continue;
         if (radek.starts_with(ZACATEK)) {
@@ -50,7 +50,7 @@ std::vector<Radek> Tabulka(const std::string& skupina) {
     return tabulka;
 }
 
-TEST(SeznamObrazku, UlohyARodinySeJmenujiJakoVPravidlech) {
+TEST(NapisyObrazku, UlohyARodinySeJmenujiJakoVPravidlech) {
     const std::vector<Radek> rodiny = Tabulka("menu: skupiny úloh");
     ASSERT_EQ(rodiny.size(), RODINY.size());
     for (std::size_t i = 0; i < RODINY.size(); ++i) {
@@ -79,7 +79,7 @@ TEST(SeznamObrazku, UlohyARodinySeJmenujiJakoVPravidlech) {
     }
 }
 
-TEST(SeznamObrazku, NaTlacitkuKrokuStojiJmenoNastroje) {
+TEST(NapisyObrazku, NaTlacitkuKrokuStojiJmenoNastroje) {
     const std::vector<Radek> nastroje = Tabulka("deska: nástroje");
     ASSERT_EQ(nastroje.size(), std::size(TLACITKA_NASTROJU));
     for (std::size_t i = 0; i < nastroje.size(); ++i) {
@@ -87,6 +87,27 @@ TEST(SeznamObrazku, NaTlacitkuKrokuStojiJmenoNastroje) {
         // Between asterisks it is set in bold.
         EXPECT_EQ(std::regex_replace(nastroje[i].at("TEXT"), std::regex("\\*"), ""),
                   TLACITKA_NASTROJU[i].Jmeno);
+    }
+}
+
+TEST(NapisyObrazku, NapovedaRikaDodanouStupniciZnamek) {
+    std::string stupnice;  // from the best grade on, of all but the worst
+    std::string nejhorsi;
+    for (const std::string& radek : NaRadky(CelySoubor(ZDROJE "/data/Znamky.txt").value())) {
+        if (radek.empty() || radek.starts_with(';')) continue;
+        const std::vector<std::string> pole = Pole(radek);  // lower, upper limit, grade
+        if (nejhorsi.empty()) {
+            nejhorsi = pole.at(2);
+        } else {
+            stupnice.insert(
+                0, pole.at(2) + " od " + pole.at(0) + " %" + (stupnice.empty() ? "" : ", "));
+        }
+    }
+    for (const char* soubor : {"znamky.txt", "tab.txt"}) {
+        const std::string text =
+            CelySoubor(std::string(ZDROJE "/assets/napoveda/") + soubor).value();
+        const std::regex vzor(stupnice + "( bodů)?, jinak " + nejhorsi + "\\.");
+        EXPECT_TRUE(std::regex_search(text, vzor)) << soubor << ": " << stupnice;
     }
 }
 
