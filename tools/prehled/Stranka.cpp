@@ -119,6 +119,7 @@ void ZapisData(std::ostream& kam, const Prehled& prehled) {
     for (const Zak& z : prehled.Zaci) zaci.push_back({z.Jmeno, z.Trida});
     for (const Uloha& u : ULOHY) ulohy.push_back({u.Cislo, RODINY[u.Rodina], u.TypUlohy});
     kam << "<script type=\"application/json\" id=\"data\">{\"vKusu\":" << SERII_V_KUSU
+        << ",\"stavZkontrolovan\":" << ZKONTROLOVAN << ",\"stavHotova\":" << HOTOVA
         << ",\n\"zaci\":" << Zapis(zaci) << ",\n\"ulohy\":" << Zapis(ulohy) << ",\n\"serie\":[";
     std::string_view oddelovac = "\n";
     for (const Serie& s : prehled.Serie) {

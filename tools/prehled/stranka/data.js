@@ -16,7 +16,8 @@ const SERIE = DATA.serie.map(([zak, uloha, kdy, dokoncena, bodu, nejvic, znamka,
   cislo, zak: ZACI[zak], uloha, kdy, dokoncena: dokoncena === 1, bodu, nejvic, znamka, trvani,
   napsane, priklady, chyby, soubor,
 }));
-const STAV_ZKONTROLOVAN = 1, STAV_HOTOVA = 2; // bits of an example's state
+// Bits of an example's state.
+const STAV_ZKONTROLOVAN = DATA.stavZkontrolovan, STAV_HOTOVA = DATA.stavHotova;
 const SERII_V_KUSU = DATA.vKusu;
 
 // Figures of a series: of each example at its end, of each charge. They lie in the source as text,
