@@ -16,7 +16,7 @@ BALICKY_WEB="emscripten dpkg-dev patch xz-utils"
 BALICKY_WEB_TESTY="chromium poppler-utils xvfb xdotool x11-xkb-utils"
 BALICKY_WINDOWS="g++-mingw-w64-x86-64-posix dpkg-dev patch xz-utils librsvg2-bin imagemagick nsis tcl"
 BALICKY_WINDOWS_TESTY="wine64 googletest xvfb xdotool imagemagick"
-BALICKY_BENCH="libbenchmark-dev xvfb xdotool x11-utils time"
+BALICKY_BENCH="libbenchmark-dev libxtst-dev xvfb xdotool x11-utils time"
 
 # Czech letters are typed, printed and compared in UTF-8, whatever the machine is set to.
 export LC_ALL=C.UTF-8

@@ -9,12 +9,10 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
 #include <thread>
 #include <vector>
 
+#include "CasProcesoru.h"
 #include "ObrazDispleje.h"
 
 namespace {
@@ -25,17 +23,6 @@ constexpr double NEJDELE = 10000;  // ms
 constexpr double KLID = 600;       // ms without a change: it is over
 // A row that the handle of the panel reaches, design pixels.
 constexpr double RADEK = 270, OD = 325, PO = 640;
-
-/// What all threads of a process have had of the processor, ms.
-double Cpu(const std::string& pid) {
-    double ns = 0;
-    for (const auto& vlakno : std::filesystem::directory_iterator("/proc/" + pid + "/task")) {
-        double sve = 0;
-        std::ifstream(vlakno.path() / "schedstat") >> sve;
-        ns += sve;
-    }
-    return ns / 1e6;
-}
 
 }  // namespace
 
@@ -55,7 +42,7 @@ int main(int pocet, char** slova) {
     const auto obraz = [&] { return std::vector<std::uint8_t>(radek + od, radek + po); };
 
     std::vector<std::uint8_t> minuly = obraz();
-    const double cpu = Cpu(slova[4]);
+    const double cpu = rysovna::testy::CasProcesoru(slova[4]);
     std::puts("ted");
     std::fflush(stdout);
     const auto zacatek = Hodiny::now();
@@ -74,6 +61,6 @@ int main(int pocet, char** slova) {
         if (zmen++ == 0) prvni = posledni;
     }
     std::printf("%d obrazů, od prvního k poslednímu %.0f ms, procesor %.0f ms\n", zmen,
-                posledni - prvni, Cpu(slova[4]) - cpu);
+                posledni - prvni, rysovna::testy::CasProcesoru(slova[4]) - cpu);
     return 0;
 }
