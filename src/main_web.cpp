@@ -119,9 +119,6 @@ EMSCRIPTEN_KEEPALIVE double rys_tah() {
 EMSCRIPTEN_KEEPALIVE void rys_rozmer(int sirka, int vyska) {
     Bezi()->Host_.Rozmer(sirka, vyska);
 }
-EMSCRIPTEN_KEEPALIVE void rys_odkryto() {
-    Bezi()->Host_.Odkryto();
-}
 EMSCRIPTEN_KEEPALIVE void rys_mys(int druh, double x, double y, int tlacitko, int shift,
                                   double cas) {
     Bezi()->Host_.Mys(druh, x, y, tlacitko, shift, static_cast<std::uint32_t>(cas));
@@ -150,9 +147,6 @@ EMSCRIPTEN_KEEPALIVE const char* rys_schranka() {
 }
 EMSCRIPTEN_KEEPALIVE void rys_navrat() {
     Bezi()->Host_.Navrat();
-}
-EMSCRIPTEN_KEEPALIVE void rys_zavri() {
-    Bezi()->Host_.ZadostOZavreni();
 }
 /// A whole repaint; how long it took, ms.
 EMSCRIPTEN_KEEPALIVE double rys_prekresli_vse() {

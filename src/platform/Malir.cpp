@@ -1,12 +1,10 @@
 #include "platform/Malir.h"
 
 #include <algorithm>
-#include <cairo.h>
 #include <cmath>
 #include <optional>
 #include <span>
 
-#include "base/Chyba.h"
 #include "base/Obdelniky.h"
 #include "platform/MalirObjektu.h"
 #include "platform/Misto.h"
@@ -236,18 +234,6 @@ std::vector<Obdelnik> Malir::Namaluj(const Platno& cil, const Obrazovky& okna, s
     v = {false,  cil.Sirka,        cil.Vyska, okna.Verze(), std::move(soupis.Radky),
          prsten, std::move(ohlasy)};
     return spinave;
-}
-
-void UlozSnimek(const Obrazovky& okna, std::uint32_t ted, const std::string& soubor,
-                double meritko) {
-    Bitmapa b(Zvetsi(NAVRH_SIRKA, meritko), Zvetsi(NAVRH_VYSKA, meritko), 0);
-    Malir().Namaluj({b.Body.data(), b.Sirka, b.Vyska, b.Sirka}, okna, ted);
-    cairo_surface_t* png = cairo_image_surface_create_for_data(
-        reinterpret_cast<unsigned char*>(b.Body.data()), CAIRO_FORMAT_RGB24, b.Sirka, b.Vyska,
-        b.Sirka * static_cast<int>(sizeof(Pixel)));
-    const cairo_status_t stav = cairo_surface_write_to_png(png, soubor.c_str());
-    cairo_surface_destroy(png);
-    if (stav != CAIRO_STATUS_SUCCESS) throw BehovaChyba("Nelze zapsat snímek", soubor);
 }
 
 }  // namespace rysovna

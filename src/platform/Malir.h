@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <string>
 #include <vector>
 
 #include "base/Bod.h"
@@ -50,10 +49,5 @@ private:
     struct Vnitrek;
     std::unique_ptr<Vnitrek> vnitrek_;
 };
-
-/// Paints everything afresh and writes it as a PNG, 640 * meritko by 480 * meritko pixels. A file
-/// that cannot be written is a run-time fault.
-void UlozSnimek(const Obrazovky& okna, std::uint32_t ted, const std::string& soubor,
-                double meritko);
 
 }  // namespace rysovna

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -27,6 +28,7 @@ struct Mys {
 /// Looks of the mouse pointer: an arrow; a hand over what can be pressed; a cross where a press
 /// draws; a bar where text is typed.
 enum class Kurzor { Sipka, Ruka, Kriz, Text };
+constexpr std::size_t KURZORU = static_cast<std::size_t>(Kurzor::Text) + 1;
 
 /// What a key that presses an object does: a whole click; a press that lasts as long as the key is
 /// held; the beginning of a drag, which the next press of the blank ends.

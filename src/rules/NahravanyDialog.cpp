@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "rules/VolaniDialogu.h"
+
 namespace rysovna {
 
 using enum Volani::Druh;

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "base/Bod.h"
 #include "base/DatumACas.h"
-#include "rules/Dialog.h"
 #include "rules/ZadanyPriklad.h"
 #include "rules/Zaznamy.h"
 
@@ -76,18 +76,5 @@ struct Pokus {
     bool Dokonceny = false;                ///< the series came to its end
     friend bool operator==(const Pokus&, const Pokus&) = default;
 };
-
-/// Carries a call out. False where it was a press on the sketch that hit nothing.
-bool Proved(Dialog& dialog, const Volani& volani);
-
-/// The charges of the last call: those beyond the so many that there were before it.
-[[nodiscard]] std::vector<ChybnyKrok> NoveChyby(const Misc& misc, int dosud);
-/// What an example came to that the check took.
-[[nodiscard]] HranyPriklad::Vysledek KonecPrikladu(const Dialog& dialog);
-
-/// A number that differs, but for one chance in 4 thousand million, where the tables of an example
-/// differ: objects, snap records, what was entered, marks, whether it is closed. The same in every
-/// home of the program.
-[[nodiscard]] std::uint32_t OtiskTabulek(const Misc& misc, const Dialog& dialog);
 
 }  // namespace rysovna

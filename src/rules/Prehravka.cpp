@@ -3,6 +3,8 @@
 #include <exception>
 #include <utility>
 
+#include "rules/VolaniDialogu.h"
+
 namespace rysovna {
 
 namespace {

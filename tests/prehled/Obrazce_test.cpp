@@ -25,6 +25,7 @@
 #include "prehled/Prehled.h"
 #include "prehled/SvgPlocha.h"
 #include "rules/Prehravka.h"
+#include "rules/VolaniDialogu.h"
 #include "store/TextPokusu.h"
 #include "store/UkladaniPokusu.h"
 

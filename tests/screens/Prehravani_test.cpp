@@ -12,6 +12,7 @@
 #include "platform/Malir.h"
 #include "platform/Pisma.h"
 #include "platform/Stroj.h"
+#include "rules/VolaniDialogu.h"
 #include "screens/DeskaForm.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/Start.h"

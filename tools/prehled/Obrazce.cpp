@@ -23,11 +23,6 @@ std::string Krouzek(const Volani& v) {
            std::to_string(POLOMER_KROUZKU) + "'/>";
 }
 
-std::string Kde(const Rozchod& r) {
-    return "příklad " + std::to_string(r.Priklad) +
-           (r.Udalost == 0 ? "" : ", událost " + std::to_string(r.Udalost)) + ": " + r.Proc;
-}
-
 }  // namespace
 
 Obrazce NakresliPokus(const Pokus& pokus) {
@@ -46,7 +41,7 @@ Obrazce NakresliPokus(const Pokus& pokus) {
         const std::string obrazec = pic.Obsah() + Krouzek(u.Co);
         obrazce.Chyby[i].insert(obrazce.Chyby[i].end(), u.Chyby.size(), obrazec);
     }
-    if (const auto& rozchod = prehravka.KdeSeRozesla()) obrazce.Rozchod = Kde(*rozchod);
+    if (const auto& rozchod = prehravka.KdeSeRozesla()) obrazce.Rozchod = TextRozchodu(*rozchod);
     return obrazce;
 }
 

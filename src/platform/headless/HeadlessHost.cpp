@@ -1,10 +1,13 @@
 #include "platform/headless/HeadlessHost.h"
 
 #include <algorithm>
+#include <cairo.h>
 
 #include "base/Chyba.h"
+#include "platform/Bitmapa.h"
 #include "platform/Cesta.h"
 #include "platform/Malir.h"
+#include "platform/Misto.h"
 
 namespace rysovna {
 
@@ -99,7 +102,14 @@ void HeadlessHost::Stiskni(double x, double y) {
 }
 
 void HeadlessHost::Snimek(const std::string& soubor, double meritko) {
-    UlozSnimek(Okna(), cas_, soubor, meritko);
+    Bitmapa b(Zvetsi(NAVRH_SIRKA, meritko), Zvetsi(NAVRH_VYSKA, meritko), 0);
+    Malir().Namaluj({b.Body.data(), b.Sirka, b.Vyska, b.Sirka}, Okna(), cas_);
+    cairo_surface_t* png = cairo_image_surface_create_for_data(
+        reinterpret_cast<unsigned char*>(b.Body.data()), CAIRO_FORMAT_RGB24, b.Sirka, b.Vyska,
+        b.Sirka * static_cast<int>(sizeof(Pixel)));
+    const cairo_status_t stav = cairo_surface_write_to_png(png, soubor.c_str());
+    cairo_surface_destroy(png);
+    if (stav != CAIRO_STATUS_SUCCESS) throw BehovaChyba("Nelze zapsat snímek", soubor);
 }
 
 }  // namespace rysovna

@@ -82,6 +82,7 @@ public:
     /// Presses and releases the left button at a place of the design area.
     void Stiskni(double x, double y);
     /// Writes the window's present picture, 640 * meritko by 480 * meritko pixels, as a PNG.
+    /// A file that cannot be written is a run-time fault.
     void Snimek(const std::string& soubor, double meritko = 1);
 
     std::vector<Zprava> Zpravy;                    ///< shown so far

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <optional>
 #if !defined(_WIN32) && !defined(__APPLE__)
@@ -35,6 +36,7 @@ namespace {
 /// The system's pointers, by Kurzor.
 constexpr SDL_SystemCursor KURZORY[] = {SDL_SYSTEM_CURSOR_ARROW, SDL_SYSTEM_CURSOR_HAND,
                                         SDL_SYSTEM_CURSOR_CROSSHAIR, SDL_SYSTEM_CURSOR_IBEAM};
+static_assert(std::size(KURZORY) == KURZORU);
 
 struct UvolniKurzor {
     void operator()(SDL_Cursor* k) const { SDL_FreeCursor(k); }

@@ -116,14 +116,6 @@ void WebHost::Navrat() {
     vstupy_.emplace_back([this] { Okna().Navrat(); });
 }
 
-void WebHost::ZadostOZavreni() {
-    vstupy_.emplace_back([this] { Okna().ZadostOZavreni(); });
-}
-
-void WebHost::Odkryto() {
-    malir_.Znovu();
-}
-
 std::uint32_t WebHost::Tah() {
     for (int i = 0; i < NEJVIC_OBRATU; ++i) {
         pristeMs_ = 0;

@@ -34,9 +34,6 @@ public:
     void Vloz(std::string text);
     [[nodiscard]] const std::string& Schranka() const { return schranka_; }
     void Navrat();
-    void ZadostOZavreni();
-    /// The picture was lost.
-    void Odkryto();
     /// Turns until there is nothing more to do now; ms until it wants to be called again though
     /// nothing happens, or BEZ_LHUTY.
     std::uint32_t Tah();

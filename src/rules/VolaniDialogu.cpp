@@ -1,4 +1,4 @@
-#include "rules/Pokus.h"
+#include "rules/VolaniDialogu.h"
 
 #include <string_view>
 
