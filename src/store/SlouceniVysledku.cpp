@@ -7,6 +7,7 @@
 #include "store/JmenaSouboru.h"
 #include "store/RadkySouboru.h"
 #include "store/TabulkaVysledku.h"
+#include "store/VymenaSouboru.h"
 #include "store/Vysledek.h"
 
 namespace rysovna {
@@ -34,11 +35,11 @@ std::string SlucVysledky(std::string_view jmeno, std::string_view zde, std::stri
     }
     const auto radky = [](std::string_view tabulka) {
         std::vector<std::string> text;
-        for (const ZaznamTabulky& z : RozdelTabulku(PlatnaTabulka(tabulka)))
+        for (const ZaznamTabulky& z : RozdelTabulku(PlatneBajty(tabulka)))
             text.push_back(SlozTabulku({z}));
         return text;
     };
-    std::vector<ZaznamTabulky> vse = RozdelTabulku(PlatnaTabulka(zde));
+    std::vector<ZaznamTabulky> vse = RozdelTabulku(PlatneBajty(zde));
     PridejChybejici(radky(zde), radky(pridat), [&](const std::string& radek) {
         VlozZaznam(vse, RozdelTabulku(radek).front());
     });

@@ -14,6 +14,7 @@
 #include "store/Fronta.h"
 #include "store/RadkySouboru.h"
 #include "store/TabulkaVysledku.h"
+#include "store/VymenaSouboru.h"
 
 namespace rysovna::testy {
 namespace {
@@ -78,17 +79,17 @@ TEST(Tabulka, ZurnalPretrzenyKdekoli) {
                                         std::pair(delsi, stara), std::pair(delsi, delsi)}) {
         const std::string zurnal = Zurnal(puvodni.size(), nova);
         for (std::size_t n = 0; n < zurnal.size(); ++n)
-            ASSERT_EQ(PlatnaTabulka(puvodni + zurnal.substr(0, n)), puvodni) << n;
+            ASSERT_EQ(PlatneBajty(puvodni + zurnal.substr(0, n)), puvodni) << n;
         std::string soubor = puvodni + zurnal;
         for (std::size_t n = 0; n <= nova.size(); ++n) {
             soubor.replace(0, n, nova, 0, n);
-            ASSERT_EQ(PlatnaTabulka(soubor), nova) << n;
+            ASSERT_EQ(PlatneBajty(soubor), nova) << n;
         }
         // One byte of the new table came to the disk wrong.
         std::string vadny = puvodni + zurnal;
         vadny[vadny.find(nova, puvodni.size() + 1) + 1] ^= 1;
-        EXPECT_EQ(PlatnaTabulka(vadny), puvodni);
-        EXPECT_EQ(PlatnaTabulka(puvodni + std::string(50, '\0')), puvodni);
+        EXPECT_EQ(PlatneBajty(vadny), puvodni);
+        EXPECT_EQ(PlatneBajty(puvodni + std::string(50, '\0')), puvodni);
     }
 }
 

@@ -18,6 +18,7 @@
 
 #include "platform/PosixDisk.h"
 #include "podpora/UkladaniHned.h"
+#include "store/VymenaSouboru.h"
 
 namespace rysovna::testy {
 
@@ -52,7 +53,7 @@ protected:
     static void Pis(const fs::path& soubor, std::string_view obsah) {
         std::ofstream(soubor, std::ios::binary | std::ios::trunc) << obsah;
     }
-    std::string Tabulka() const { return std::string(PlatnaTabulka(Cti(data / "01.res"))); }
+    std::string Tabulka() const { return std::string(PlatneBajty(Cti(data / "01.res"))); }
     std::string Denik() const { return Cti(data / "Vysledky.dat"); }
 
     /// Rights of the folder and of the files in it. Where this account may give them away, they
