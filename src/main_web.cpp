@@ -16,9 +16,9 @@
 #include "screens/KontrolaPocitace.h"
 #include "screens/Sezeni.h"
 #include "screens/Start.h"
+#include "store/JmenaSouboru.h"
 #include "store/SlouceniVysledku.h"
 #include "store/TextPokusu.h"
-#include "store/UkladaniPokusu.h"
 
 namespace rysovna {
 namespace {
@@ -107,8 +107,8 @@ EMSCRIPTEN_KEEPALIVE const char* rys_prehraj(const char* jmeno, int sirka, int v
     using namespace rysovna;
     Bezi() = std::make_unique<Hra>(std::nullopt);
     Bezi()->Host_.Rozmer(sirka, vyska);
-    return Vrat(ZacniPrehravani(
-        Bezi()->Sezeni_, std::filesystem::path(SLOZKA_UCTU) / UkladaniPokusu::SLOZKA / jmeno));
+    return Vrat(ZacniPrehravani(Bezi()->Sezeni_,
+                                std::filesystem::path(SLOZKA_UCTU) / SLOZKA_POKUSU / jmeno));
 }
 
 /// A turn; ms until the next one, or less than nothing: the game is over.

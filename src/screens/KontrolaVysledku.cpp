@@ -8,7 +8,6 @@
 #include "store/Nastaveni.h"
 #include "store/TextPokusu.h"
 #include "store/Ukladani.h"
-#include "store/UkladaniPokusu.h"
 
 namespace rysovna {
 namespace {
@@ -164,7 +163,7 @@ void ZkontrolujVysledky(const KontrolovanyStroj& stroj, const Nastaveni& nastave
     nalezy.push_back(Misto(disk, NejblizsiSlozka(disk, slozka), "Místo na výsledky"));
     const fs::path denik = disk.Skutecna(nastaveni.Vysledky + JMENO_DENIKU);
     if (disk.JeSoubor(denik)) nalezy.push_back(Zamek(disk, denik));
-    Pokusy(disk, slozka / UkladaniPokusu::SLOZKA, nastaveni.Pokusy, nalezy);
+    Pokusy(disk, slozka / SLOZKA_POKUSU, nastaveni.Pokusy, nalezy);
     nalezy.push_back(Fronta_(disk, stroj.SlozkaStavu));
 }
 

@@ -19,7 +19,6 @@
 #include "store/Nastaveni.h"
 #include "store/Soubory.h"
 #include "store/TextPokusu.h"
-#include "store/UkladaniPokusu.h"
 
 namespace rysovna {
 namespace {
@@ -184,7 +183,7 @@ std::string ZacniPrehravani(Sezeni& s, const std::filesystem::path& soubor) {
 std::string ZacniPredvedeni(Sezeni& s, int uloha, std::uint32_t seminko) {
     const auto soubor = [&] {
         return NativniCesta(s.CestaCD + SLOZKA_PREDVEDENI + "\\" + DveCislice(uloha) +
-                            std::string(UkladaniPokusu::PRIPONA));
+                            std::string(PRIPONA_POKUSU));
     };
     return ZacniUkazovat(s, soubor, Tempo::Vyklad, [seminko](Pokus& p) {
         auto& priklady = p.Priklady;

@@ -1,11 +1,10 @@
 #include "store/UkladaniPokusu.h"
 
-#include <algorithm>
 #include <exception>
 #include <utility>
 
-#include "base/Cisla.h"
 #include "store/Fronta.h"
+#include "store/JmenaSouboru.h"
 #include "store/TextPokusu.h"
 #include "store/TextRadku.h"
 
@@ -16,18 +15,6 @@ namespace fs = std::filesystem;
 
 constexpr const char* JMENO_ZNAMKY = "pokusy-ohlaseny";
 constexpr std::string_view KOREN = "koren=";  // the first line in the queue: where it belongs
-
-/// "20261122": the names of files stand in the order of their days.
-std::string Den(const DatumACas& d) {
-    return std::to_string(d.Rok) + DveCislice(d.Mesic) + DveCislice(d.Den);
-}
-
-/// What names of attempts begin with: day, time and task; and its shape, 0 for any digit.
-std::string ZacatekJmena(const DatumACas& d, int cisloUlohy) {
-    return Den(d) + "-" + DveCislice(d.Hodina) + DveCislice(d.Minuta) + "-" +
-           DveCislice(cisloUlohy) + "-";
-}
-constexpr std::string_view TVAR_ZACATKU = "00000000-0000-00-";
 
 /// A file that nobody has; one that a program which was killed left under this name goes.
 std::unique_ptr<Soubor> NovyCisty(Disk& disk, const fs::path& cesta) {
@@ -51,7 +38,7 @@ bool Zamkni(Soubor& soubor, bool jinak) {
 }
 
 std::string BezPripony(const std::string& jmeno) {
-    return jmeno.substr(0, jmeno.size() - UkladaniPokusu::PRIPONA.size());
+    return jmeno.substr(0, jmeno.size() - PRIPONA_POKUSU.size());
 }
 
 /// An attempt without its last line, which says whether it was finished.
@@ -61,13 +48,6 @@ std::string_view BezKonce(std::string_view text) {
 }
 
 }  // namespace
-
-bool UkladaniPokusu::ZacinaJakoPokus(std::string_view jmeno) {
-    const auto sedi = [](char tvar, char z) {
-        return tvar == '0' ? z >= '0' && z <= '9' : z == tvar;
-    };
-    return std::ranges::equal(TVAR_ZACATKU, jmeno.substr(0, TVAR_ZACATKU.size()), sedi);
-}
 
 UkladaniPokusu::UkladaniPokusu(Disk& disk, std::function<std::uint32_t()> ted,
                                const fs::path& koren, const fs::path& slozkaStavu)
@@ -85,8 +65,8 @@ fs::path UkladaniPokusu::Znamka() const {
 }
 
 void UkladaniPokusu::Zacni(const Pokus& pokus) {
-    serie_ = {.Jmeno = ZacatekJmena(pokus.Zacatek, pokus.CisloUlohy) + NahodneCislice() +
-                       std::string(PRIPONA),
+    serie_ = {.Jmeno = ZacatekJmenaPokusu(pokus.Zacatek, pokus.CisloUlohy) + NahodneCislice() +
+                       std::string(PRIPONA_POKUSU),
               .Text = ZacatekPokusu(pokus),
               .CisloUlohy = pokus.CisloUlohy};
 }
@@ -134,7 +114,7 @@ Cinnost<std::string> UkladaniPokusu::Dokonci(bool dokonceny) {
     std::string proc;
     try {
         UlozSoubor(serie.Jmeno, serie.Text);
-        co_await PockejNaUchovani(koren_ / SLOZKA / serie.Jmeno);
+        co_await PockejNaUchovani(koren_ / SLOZKA_POKUSU / serie.Jmeno);
         Stahni(serie);
         co_return {};
     } catch (const std::exception& chyba) {
@@ -185,7 +165,7 @@ bool UkladaniPokusu::DejJmeno(const fs::path& novy, const fs::path& cil, std::st
 /// Whole or not at all.
 void UkladaniPokusu::UlozSoubor(const std::string& jmeno, std::string_view text) {
     constexpr int NEJVIC_JMEN = 8;  // a disk on which all names are taken is none
-    const fs::path slozka = koren_ / SLOZKA;
+    const fs::path slozka = koren_ / SLOZKA_POKUSU;
     if (!disk_.JeSlozka(slozka)) disk_.ZalozPodslozku(slozka);
     if (JeUlozen(slozka / jmeno, text)) return;
     const fs::path novy = slozka / (jmeno + std::string(PRIPONA_NOVEHO));
@@ -197,7 +177,8 @@ void UkladaniPokusu::UlozSoubor(const std::string& jmeno, std::string_view text)
         fs::path cil = slozka / jmeno;
         for (int i = 0; !DejJmeno(novy, cil, text); ++i) {
             if (i == NEJVIC_JMEN) throw ChybaDisku(Pricina::UzJe, cil);
-            cil = slozka / (BezPripony(jmeno) + "-" + NahodneCislice() + std::string(PRIPONA));
+            cil =
+                slozka / (BezPripony(jmeno) + "-" + NahodneCislice() + std::string(PRIPONA_POKUSU));
         }
     } catch (const ChybaDisku&) {
         soubor.reset();
@@ -249,7 +230,7 @@ Cinnost<> UkladaniPokusu::UlozCekajici(std::string jmeno, std::string dnes) {
         if (precteny.JinaVerze) co_return;  // that one will know what to do with it
         if (precteny.Co) {
             UlozSoubor(jmeno, text);
-            co_await PockejNaUchovani(koren_ / SLOZKA / jmeno);
+            co_await PockejNaUchovani(koren_ / SLOZKA_POKUSU / jmeno);
         }
     } else if (text.starts_with(KOREN) || dnesni) {
         co_return;  // it belongs elsewhere
@@ -263,10 +244,10 @@ Cinnost<std::string> UkladaniPokusu::ZkusCekajici(DatumACas dnes) {
     try {
         if (fronta_.empty() || !disk_.JeSlozka(fronta_)) co_return {};
         for (const std::string& jmeno : disk_.Jmena(fronta_)) {
-            if (!jmeno.ends_with(PRIPONA)) continue;
+            if (!jmeno.ends_with(PRIPONA_POKUSU)) continue;
             // One that cannot be read keeps none of the others from being stored.
             try {
-                co_await UlozCekajici(jmeno, Den(dnes));
+                co_await UlozCekajici(jmeno, DenPokusu(dnes));
             } catch (const std::exception& chyba) {
                 if (proc.empty()) proc = chyba.what();
             }

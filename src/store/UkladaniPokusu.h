@@ -24,11 +24,6 @@ namespace rysovna {
 /// stays in the queue.
 class UkladaniPokusu : public UkladaniNaDisk {
 public:
-    /// Name of the folder in the folder of results, and how its files end.
-    static constexpr std::string_view SLOZKA = "Pokusy", PRIPONA = ".pokus";
-    /// Whether a name begins as those of the files do.
-    [[nodiscard]] static bool ZacinaJakoPokus(std::string_view jmeno);
-
     /// ted: tick count, ms. koren: the folder of results. slozkaStavu: the account's state folder;
     /// may be empty.
     UkladaniPokusu(Disk& disk, std::function<std::uint32_t()> ted,

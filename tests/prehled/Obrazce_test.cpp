@@ -26,8 +26,8 @@
 #include "prehled/SvgPlocha.h"
 #include "rules/Prehravka.h"
 #include "rules/VolaniDialogu.h"
+#include "store/JmenaSouboru.h"
 #include "store/TextPokusu.h"
-#include "store/UkladaniPokusu.h"
 
 namespace rysovna::testy {
 namespace {
@@ -39,8 +39,7 @@ Pokus OdehranyPokus(int uloha) {
     hrac::Relace hra(3);
     hra.Start();
     hrac::OdehrajSerii(hra, uloha, "Žák", 2, 3);
-    for (const auto& s :
-         std::filesystem::directory_iterator(hra.DataDir() / UkladaniPokusu::SLOZKA))
+    for (const auto& s : std::filesystem::directory_iterator(hra.DataDir() / SLOZKA_POKUSU))
         return CtiPokus(CelySoubor(s.path()).value()).Co.value();
     throw std::runtime_error("no attempt");
 }

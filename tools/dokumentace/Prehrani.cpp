@@ -6,7 +6,7 @@
 #include "hrac/RukaNaDesce.h"
 #include "screens/PrehravaniForm.h"
 #include "screens/Start.h"
-#include "store/UkladaniPokusu.h"
+#include "store/JmenaSouboru.h"
 #include "zak/Sestroj.h"
 
 namespace rysovna::dokumentace {
@@ -57,7 +57,7 @@ void VyfotPrehrani(const std::string& soubor) {
     hra.Cekej(PO_NAVRATU);
 
     Relace divak(SEMINKO);
-    const auto slozka = hra.DataDir() / UkladaniPokusu::SLOZKA;
+    const auto slozka = hra.DataDir() / SLOZKA_POKUSU;
     const std::filesystem::path pokus = std::filesystem::directory_iterator(slozka)->path();
     if (const std::string proc = ZacniPrehravani(divak.Pamet(), pokus); !proc.empty())
         throw BehovaChyba(proc, pokus.string());

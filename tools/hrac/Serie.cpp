@@ -3,7 +3,7 @@
 #include <string>
 
 #include "rules/Misc.h"
-#include "store/UkladaniPokusu.h"
+#include "store/JmenaSouboru.h"
 #include "zak/Sestroj.h"
 
 namespace rysovna::hrac {
@@ -30,7 +30,7 @@ void OdehrajSerii(Relace& hra, int uloha, std::string_view jmeno, int prikladu,
 }
 
 void ZkopirujPokus(const Relace& hra, const std::filesystem::path& kam) {
-    const std::filesystem::path slozka = hra.DataDir() / UkladaniPokusu::SLOZKA;
+    const std::filesystem::path slozka = hra.DataDir() / SLOZKA_POKUSU;
     for (const auto& soubor : std::filesystem::directory_iterator(slozka))
         std::filesystem::copy_file(soubor.path(), kam);
 }

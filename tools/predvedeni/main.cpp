@@ -10,7 +10,7 @@
 #include "hrac/RukaNaDesce.h"
 #include "hrac/Serie.h"
 #include "rules/Ulohy.h"
-#include "store/UkladaniPokusu.h"
+#include "store/JmenaSouboru.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ void UlozPredvedeni(const std::filesystem::path& slozka) {
         hra.Start();
         OdehrajSerii(hra, RukaNaDesce(hra), uloha.Cislo, "Předvedení", PRIKLADU, SEMINKO);
         const std::filesystem::path kam =
-            slozka / (DveCislice(uloha.Cislo) + std::string(UkladaniPokusu::PRIPONA));
+            slozka / (DveCislice(uloha.Cislo) + std::string(PRIPONA_POKUSU));
         std::filesystem::remove(kam);
         ZkopirujPokus(hra, kam);
     }

@@ -7,7 +7,7 @@
 
 #include "base/Chyba.h"
 #include "base/Disk.h"
-#include "store/UkladaniPokusu.h"
+#include "store/JmenaSouboru.h"
 
 namespace rysovna::prehled {
 
@@ -20,8 +20,8 @@ std::string JmenoOdHry(const std::string& jmeno) {
     const std::size_t mezera = jmeno.find(' ');
     if (mezera == std::string::npos) return jmeno;
     const std::string odHry = jmeno.substr(0, mezera);
-    if (!UkladaniPokusu::ZacinaJakoPokus(odHry)) return jmeno;
-    return odHry + std::string(UkladaniPokusu::PRIPONA);
+    if (!ZacinaJakoPokus(odHry)) return jmeno;
+    return odHry + std::string(PRIPONA_POKUSU);
 }
 
 class Prohlidka {
@@ -57,7 +57,7 @@ private:
                 continue;
             }
             std::string jmeno = i->path().filename().string();
-            if (!jmeno.ends_with(UkladaniPokusu::PRIPONA) || !i->is_regular_file(nevadi)) continue;
+            if (!jmeno.ends_with(PRIPONA_POKUSU) || !i->is_regular_file(nevadi)) continue;
             std::string odHry = JmenoOdHry(jmeno);
             if (odHry == jmeno) jmeno.clear();
             sber_.Soubory.push_back({std::move(odHry), poradi, std::move(jmeno)});

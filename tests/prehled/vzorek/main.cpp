@@ -15,8 +15,8 @@
 
 #include "base/Cisla.h"
 #include "podpora/RukaUlohy.h"
+#include "store/JmenaSouboru.h"
 #include "store/TextPokusu.h"
-#include "store/UkladaniPokusu.h"
 #include "zak/Sestroj.h"
 
 namespace {
@@ -108,7 +108,7 @@ void Vyrob(const std::filesystem::path& kam, int serii) {
             const std::string jmeno = "2026-" + DveCislice(p.Zacatek.Mesic) + "-" +
                                       DveCislice(p.Zacatek.Den) + "_" + DveCislice(uloha) + "_" +
                                       std::to_string(n);
-            std::ofstream(kam / (jmeno + std::string(UkladaniPokusu::PRIPONA)), std::ios::binary)
+            std::ofstream(kam / (jmeno + std::string(PRIPONA_POKUSU)), std::ios::binary)
                 << TextPokusu(p);
         }
     }
