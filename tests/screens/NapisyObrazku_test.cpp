@@ -1,5 +1,5 @@
 // What pictures write out again of what the program and its data know: names of tasks, words on
-// step buttons, the scale of grades.
+// step buttons, the scale of grades, what a wrong step costs.
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -11,6 +11,7 @@
 #include "base/Cisla.h"
 #include "base/Text.h"
 #include "platform/Stroj.h"
+#include "rules/KatalogChyb.h"
 #include "rules/Ulohy.h"
 #include "screens/TlacitkoNastroje.h"
 #include "store/RadkySouboru.h"
@@ -109,6 +110,18 @@ TEST(NapisyObrazku, NapovedaRikaDodanouStupniciZnamek) {
         const std::regex vzor(stupnice + "( bodů)?, jinak " + nejhorsi + "\\.");
         EXPECT_TRUE(std::regex_search(text, vzor)) << soubor << ": " << stupnice;
     }
+}
+
+TEST(NapisyObrazku, NapovedaRikaKolikStojiChyba) {
+    int nejmene = BODU_ZA_PRIKLAD, nejvic = 0;
+    for (const DruhChyby& d : katalog::RADKY) {
+        if (d.Kde.Jak == Zneni::Zbytek || d.Kde.Jak == Zneni::ZbytekBod) continue;
+        nejmene = std::min(nejmene, d.Body);
+        nejvic = std::max(nejvic, d.Body);
+    }
+    const std::string text = CelySoubor(ZDROJE "/assets/napoveda/setup.txt").value();
+    const std::string ceny = std::to_string(nejmene) + " až " + std::to_string(nejvic) + " body";
+    EXPECT_NE(text.find("Za chybu ztrácíš " + ceny), std::string::npos) << ceny;
 }
 
 }  // namespace
